@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+/// One connected camera. All fields empty means "no camera".
+struct CameraInfo
+{
+    QString cameraId; ///< The SDK's camera ID; with serialNumber it identifies a row.
+    QString vendorName; ///< Read from the camera's interface; may be empty.
+    QString modelName; ///< May be empty.
+    QString cameraName; ///< The name the SDK reports; may be empty.
+    QString serialNumber; ///< May be empty.
+    QString ipAddress; ///< Not filled by enumeration.
+    QString macAddress; ///< Not filled by enumeration.
+    QString interfaceType; ///< Transport-layer name such as "GigE"; "Other" where the SDK names none.
+};

@@ -1,0 +1,23 @@
+# Two interface targets: corvix_warnings for all of our code, launcher_warnings for the code that uses Qt.
+
+set(CORVIX_SANITIZE "" CACHE STRING "Sanitizers to build with, for example \"address,undefined\" or \"thread\"")
+option(CORVIX_COVERAGE "Instrument for gcov" OFF)
+
+add_library(corvix_warnings INTERFACE)
+target_compile_options(corvix_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_include_directories(corvix_warnings INTERFACE ${PROJECT_SOURCE_DIR})
+
+add_library(launcher_warnings INTERFACE)
+target_link_libraries(launcher_warnings INTERFACE corvix_warnings)
+target_compile_definitions(launcher_warnings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_DEPRECATED_WARNINGS)
+
+if(CORVIX_SANITIZE)
+    add_compile_options(-fsanitize=${CORVIX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${CORVIX_SANITIZE})
+endif()
+if(CORVIX_COVERAGE)
+    add_compile_options(--coverage -fprofile-update=atomic)
+    add_link_options(--coverage)
+endif()

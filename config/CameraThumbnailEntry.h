@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/// One reference camera model: its group and its picture.
+struct CameraThumbnailEntry
+{
+    QString model; ///< Model name or family prefix as written in the file, for example "Kx200 Pro".
+    QString type; ///< Group type word as written.
+    QString thumbnail; ///< Resource path of the picture, below ":/images/".
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// One launchable tool.
+struct ToolConfig
+{
+    QString id; ///< What recommendation sets and the compatibility table hold.
+    QString name; ///< Shown on the tile.
+    QString executable; ///< Path relative to the install root, for example "bin/ImageViewer".
+    QString description; ///< Shown on the tile, below the name.
+    QStringList platforms; ///< Platforms on which the tool exists; empty means every platform.
+    QStringList transports; ///< Transport names for which it is recommended; empty means every transport.
+};
