@@ -22,7 +22,7 @@ public:
 
     /// Fills the configuration from the three documents' root objects.
     void parseConfig(const QJsonObject &launcherConfig, const QJsonObject &camerasReference,
-        const QJsonObject &halvexCompatibility);
+        const QJsonObject &compatibility);
 
     /// Adds the reference rows, longest model text first. Rows that lack a field are skipped with a warning.
     void buildThumbnailLookup(const QJsonObject &camerasReference);

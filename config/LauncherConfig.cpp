@@ -1,0 +1,232 @@
+#include "config/LauncherConfig.h"
+
+#include "camera/CameraInfo.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtDebug>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QLatin1String placeholderPicture(":/images/cameras/camera-placeholder.png");
+constexpr QLatin1String logoPicture(":/images/orvelle-logo.png");
+
+/// The document's root object; empty when the resource is missing, malformed or not an object.
+QJsonObject loadJsonFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError || document.isNull())
+        return {};
+    return document.object();
+}
+
+/// The document, or in place of an unusable one an empty document of version 1.0 with the given list.
+QJsonObject loadOrEmpty(const QString &path, const QString &listKey)
+{
+    const QJsonObject object = loadJsonFile(path);
+    if (!object.isEmpty())
+        return object;
+    return {{QStringLiteral("version"), QStringLiteral("1.0")}, {listKey, QJsonArray()}};
+}
+
+QString text(const QJsonObject &object, const char *key)
+{
+    return object.value(QLatin1String(key)).toString();
+}
+
+QStringList texts(const QJsonArray &array)
+{
+    QStringList result;
+    for (const QJsonValue &value : array)
+        result.append(value.toString());
+    return result;
+}
+
+ToolConfig parseTool(const QJsonObject &object)
+{
+    ToolConfig tool;
+    tool.id = text(object, "id");
+    tool.name = text(object, "name");
+    tool.executable = text(object, "executable");
+    tool.description = text(object, "description");
+    tool.platforms = texts(object.value(QLatin1String("platforms")).toArray());
+    tool.transports = texts(object.value(QLatin1String("transports")).toArray());
+    return tool;
+}
+
+HardwareGroupConfig parseGroup(const QJsonObject &object)
+{
+    HardwareGroupConfig group;
+    group.type = text(object, "type");
+    group.name = text(object, "name");
+    group.brand = text(object, "brand");
+    group.description = text(object, "description");
+    const QJsonArray tools = object.value(QLatin1String("tools")).toArray();
+    for (const QJsonValue &tool : tools)
+        group.tools.append(parseTool(tool.toObject()));
+    return group;
+}
+
+/// An empty list admits everything; otherwise the value has to be in it, in any letter case.
+bool admits(const QStringList &list, const QString &value)
+{
+    return list.isEmpty() || (!value.isEmpty() && list.contains(value, Qt::CaseInsensitive));
+}
+
+} // namespace
+
+void LauncherConfig::load()
+{
+    const QJsonObject launcherConfig
+        = loadOrEmpty(QStringLiteral(":/config/launcher_config.json"), QStringLiteral("hardwareGroups"));
+    const QJsonObject camerasReference
+        = loadOrEmpty(QStringLiteral(":/config/cameras_reference.json"), QStringLiteral("cameras"));
+    const QJsonObject compatibility
+        = loadOrEmpty(QStringLiteral(":/config/halvex_tool_compatibility.json"), QStringLiteral("cameras"));
+
+    // The compatibility document's version takes no part, on purpose.
+    if (text(launcherConfig, "version") != text(camerasReference, "version")) {
+        qCritical().noquote() << QCoreApplication::translate(
+            "LauncherConfig", "Configuration files version mismatch!");
+        return;
+    }
+    parseConfig(launcherConfig, camerasReference, compatibility);
+}
+
+void LauncherConfig::parseConfig(
+    const QJsonObject &launcherConfig, const QJsonObject &camerasReference, const QJsonObject &compatibility)
+{
+    const QJsonArray hardwareGroups = launcherConfig.value(QLatin1String("hardwareGroups")).toArray();
+    for (const QJsonValue &value : hardwareGroups) {
+        const HardwareGroupConfig group = parseGroup(value.toObject());
+        groups.insert(group.type.toLower(), group);
+    }
+    buildThumbnailLookup(camerasReference);
+    loadHalvexCompatibility(compatibility);
+}
+
+void LauncherConfig::buildThumbnailLookup(const QJsonObject &camerasReference)
+{
+    const QJsonArray rows = camerasReference.value(QLatin1String("cameras")).toArray();
+    for (const QJsonValue &value : rows) {
+        const QJsonObject row = value.toObject();
+        const QString model = text(row, "model");
+        const QString thumbnail = text(row, "thumbnail");
+        const QString type = text(row, "type");
+        if (model.isEmpty() || thumbnail.isEmpty() || type.isEmpty()) {
+            qWarning().noquote() << QStringLiteral(
+                "Invalid entry in cameras_reference.json file (model: %1, type: %2, thumbnail: %3)")
+                                        .arg(model, type, thumbnail);
+            continue;
+        }
+        // The first seven characters go whatever they are: the prefix "assets/" is not tested, on purpose.
+        thumbnails.append({model, type, QStringLiteral(":/images/") + thumbnail.mid(7)});
+    }
+    // Every walk takes the first hit, so the most specific text has to come first.
+    std::sort(thumbnails.begin(), thumbnails.end(),
+        [](const CameraThumbnailEntry &left, const CameraThumbnailEntry &right) {
+            return left.model.size() > right.model.size();
+        });
+}
+
+void LauncherConfig::loadHalvexCompatibility(const QJsonObject &root)
+{
+    const QJsonObject cameras = root.value(QLatin1String("cameras")).toObject();
+    for (auto entry = cameras.begin(); entry != cameras.end(); ++entry) {
+        const QStringList tools = texts(entry.value().toObject().value(QLatin1String("tools")).toArray());
+        halvexCompatibility.insert(entry.key(), QSet<QString>(tools.begin(), tools.end()));
+    }
+}
+
+HardwareGroupConfig LauncherConfig::findGroupForCamera(const CameraInfo &camera) const
+{
+    const QString vendor = camera.vendorName.toLower();
+    const QString model = camera.modelName.toLower();
+
+    // The order of the tests decides. A vendor that owns a group outranks the reference rows; the rows
+    // outrank the maker's own default. A chosen group that is not configured gives the empty group, not the
+    // next test.
+    if (vendor.contains(QLatin1String("orvelle")) && model.contains(QLatin1String("simulator")))
+        return groups.value(QStringLiteral("simulator"));
+    if (vendor.contains(QLatin1String("kordane")))
+        return groups.value(QStringLiteral("highres"));
+    if (vendor.contains(QLatin1String("lintaro")))
+        return groups.value(QStringLiteral("linescan"));
+    for (const CameraThumbnailEntry &row : thumbnails) {
+        if (model.contains(row.model.toLower()))
+            return groups.value(row.type);
+    }
+    if (vendor.contains(QLatin1String("orvelle")))
+        return groups.value(QStringLiteral("areascan"));
+    return groups.value(QStringLiteral("other"));
+}
+
+QString LauncherConfig::findThumbnailForCamera(const CameraInfo &camera) const
+{
+    const QString type = findGroupForCamera(camera).type;
+    if (type == QLatin1String("simulator"))
+        return logoPicture;
+    if (type.isEmpty() || type == QLatin1String("other"))
+        return placeholderPicture;
+
+    const QString model = camera.modelName.toLower();
+    const QString searchText = model + QLatin1Char(' ') + camera.cameraName.toLower();
+    for (const CameraThumbnailEntry &row : thumbnails) {
+        // Both ways, on purpose: a fragment of a reference text is enough, and so is the display name.
+        const QString rowModel = row.model.toLower();
+        if (searchText.contains(rowModel) || rowModel.contains(model))
+            return row.thumbnail;
+    }
+    return type == QLatin1String("areascan") ? logoPicture : placeholderPicture;
+}
+
+QVector<ToolConfig> LauncherConfig::allTools(const QString &platform) const
+{
+    QVector<ToolConfig> result;
+    QSet<QString> seen;
+    for (const HardwareGroupConfig &group : groups) {
+        for (const ToolConfig &tool : group.tools) {
+            const QString key = tool.executable.isEmpty() ? tool.id : tool.executable;
+            if (seen.contains(key))
+                continue;
+            // The key is claimed before the platform test: a tool hidden here stays hidden in later groups.
+            seen.insert(key);
+            if (tool.platforms.isEmpty() || tool.platforms.contains(platform))
+                result.append(tool);
+        }
+    }
+    return result;
+}
+
+QSet<QString> LauncherConfig::recommendedToolsIdsForCamera(
+    const HardwareGroupConfig &group, const CameraInfo &camera, const QString &platform) const
+{
+    const bool limitedByModel = group.type == QLatin1String("highres");
+    QSet<QString> ids;
+    for (const ToolConfig &tool : group.tools) {
+        // Letter case does not matter here, though it does in allTools(); the asymmetry is intended.
+        if (!admits(tool.transports, camera.interfaceType) || !admits(tool.platforms, platform))
+            continue;
+        if (!limitedByModel || isHalvexToolCompatibleWithCamera(camera.modelName, tool.id))
+            ids.insert(tool.id);
+    }
+    return ids;
+}
+
+bool LauncherConfig::isHalvexToolCompatibleWithCamera(const QString &model, const QString &toolId) const
+{
+    for (auto entry = halvexCompatibility.begin(); entry != halvexCompatibility.end(); ++entry) {
+        if (entry.key().compare(model, Qt::CaseInsensitive) == 0)
+            return entry.value().contains(toolId);
+    }
+    return true; // A model the table does not know is offered every tool of its group.
+}
