@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class QGraphicsOpacityEffect;
 class Ui_ApplicationLauncher;
 
@@ -28,7 +30,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    Ui_ApplicationLauncher *ui;
+    std::unique_ptr<Ui_ApplicationLauncher> ui;
     QString m_name;
     QGraphicsOpacityEffect *m_opacityEffect = nullptr;
 };

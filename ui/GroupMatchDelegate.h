@@ -13,7 +13,8 @@ public:
     /// `hoveredRow` (may be null) is read at every paint and has to outlive the delegate.
     GroupMatchDelegate(const int *hoveredRow, QObject *parent);
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(
+        QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
     const int *m_hoveredRow;

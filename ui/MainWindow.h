@@ -63,6 +63,8 @@ private:
     void resizeCameraTableColumns();
     void selectCurrentCamera();
     void showCameraMenu(const QPoint &position);
+
+    // The transport-layer files, with loadConfig() in MainWindowConfig.cpp.
     QString resolveCtiPath(const QString &interfaceLabel);
 
     std::unique_ptr<Ui_MainWindow> ui;

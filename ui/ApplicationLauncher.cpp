@@ -1,0 +1,58 @@
+#include "ui/ApplicationLauncher.h"
+
+#include "ui_ApplicationLauncher.h"
+
+#include <QGraphicsOpacityEffect>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+ApplicationLauncher::ApplicationLauncher(const QString &name, const QString &description, QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui_ApplicationLauncher>()), m_name(name)
+{
+    ui->setupUi(this);
+    ui->applicationName->setText(name);
+    ui->applicationDescription->setText(description);
+
+    m_opacityEffect = new QGraphicsOpacityEffect(this);
+    m_opacityEffect->setOpacity(1.0); // Qt's own default is 0.7.
+    setGraphicsEffect(m_opacityEffect);
+
+    setAttribute(Qt::WA_Hover, true); // For the style sheet's :hover rule.
+    setCursor(Qt::PointingHandCursor);
+}
+
+ApplicationLauncher::~ApplicationLauncher() = default;
+
+QString ApplicationLauncher::GetName() const
+{
+    return m_name;
+}
+
+void ApplicationLauncher::mousePressEvent(QMouseEvent *event)
+{
+    // The base class is never called: it would let go of the press, and the window drags on presses it gets.
+    if (event->button() == Qt::LeftButton) {
+        emit clicked();
+        event->accept();
+    }
+}
+
+void ApplicationLauncher::paintEvent(QPaintEvent *)
+{
+    // A plain widget shows no style-sheet frame by itself; the push button's bevel brings all of its rules.
+    QStyleOptionButton option;
+    option.init(this);
+    QPainter painter(this);
+    style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
+}
+
+void ApplicationLauncher::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::EnabledChange)
+        return;
+    m_opacityEffect->setOpacity(testAttribute(Qt::WA_Disabled) ? 0.45 : 1.0);
+    update();
+}
