@@ -59,6 +59,6 @@ private:
     QMutex observerMutex; // Serialises the two observers' callbacks against each other.
     std::shared_ptr<CameraObserver> cameraObserver;
     std::shared_ptr<InterfaceObserver> interfaceObserver;
-    std::atomic<bool> scanning {false};
+    std::atomic<bool> scanning{false};
     QFutureWatcher<QVector<CameraInfo>> watcher;
 };

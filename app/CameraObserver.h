@@ -16,8 +16,7 @@ public:
     explicit CameraObserver(QMutex *sharedMutex);
 
     /// Announces the camera by its extended ID; announces nothing when that cannot be read.
-    void CameraListChanged(
-        std::shared_ptr<CvxCPP::Camera> camera, CvxCPP::UpdateTriggerType reason) override;
+    void CameraListChanged(std::shared_ptr<CvxCPP::Camera> camera, CvxCPP::UpdateTriggerType reason) override;
 
 signals:
     /// `reason` is the SDK's trigger value, passed on unchanged.

@@ -13,10 +13,10 @@
 ///
 /// Errors: every function returns a CvxError; only 0 is success. Nothing throws.
 ///
-/// Text (all functions that take `char *` and `unsigned &`): UTF-8, read with two calls. With a null buffer the
-/// function stores the needed length in `size`; with a buffer, `size` is its capacity in bytes and becomes the
-/// number of bytes written. The length counts the closing NUL, so an empty text has length 1. A buffer that is
-/// too small gives CvxErrorBufferTooSmall and leaves its content undefined.
+/// Text (all functions that take `char *` and `unsigned &`): UTF-8, read with two calls. With a null buffer
+/// the function stores the needed length in `size`; with a buffer, `size` is its capacity in bytes and
+/// becomes the number of bytes written. The length counts the closing NUL, so an empty text has length 1. A
+/// buffer that is too small gives CvxErrorBufferTooSmall and leaves its content undefined.
 ///
 /// Threads: every function may be called from any thread at any time after Startup(). Objects obtained from
 /// the system stay valid for as long as they are held, but answer only while the system runs.
@@ -34,7 +34,8 @@ constexpr CvxError CvxErrorAlreadyStarted = -3; ///< Startup() while the system 
 constexpr CvxError CvxErrorInvalidParameter = -4; ///< A null pointer or a value out of range.
 constexpr CvxError CvxErrorBufferTooSmall = -5; ///< A text does not fit the buffer given.
 constexpr CvxError CvxErrorNotFound = -6; ///< No such feature.
-constexpr CvxError CvxErrorNotAvailable = -7; ///< The feature has no value now, for example no device is there.
+constexpr CvxError CvxErrorNotAvailable
+    = -7; ///< The feature has no value now, for example no device is there.
 constexpr CvxError CvxErrorWrongType = -8; ///< The feature is of another type, or may not be written.
 constexpr CvxError CvxErrorTimeout = -9; ///< No answer in time.
 constexpr CvxError CvxErrorHostMissing = -10; ///< CvxProducerHost is missing or may not be executed.
@@ -100,8 +101,7 @@ public:
 /// GenTL interface module's device enumeration: "DeviceUpdateList" (command), "DeviceSelector" (integer, the
 /// index of a device), "DeviceID" and "DeviceVendorName" (texts of the selected device).
 class CVXCPP_API Interface : public FeatureContainer
-{
-};
+{ };
 
 /// One camera, as it was when it was listed.
 class CVXCPP_API Camera
@@ -137,7 +137,8 @@ public:
     virtual void CameraListChanged(std::shared_ptr<Camera> camera, UpdateTriggerType reason) = 0;
 };
 
-/// Told of every interface that comes or goes. Called on a thread of the system, which holds no lock meanwhile.
+/// Told of every interface that comes or goes. Called on a thread of the system, which holds no lock
+/// meanwhile.
 class CVXCPP_API IInterfaceListObserver
 {
 public:
@@ -152,8 +153,8 @@ public:
     /// The one system object; it exists for as long as the process does.
     static CvxSystem &GetInstance();
 
-    /// Brings the system up: loads the transport-layer producers and starts watching for cameras. Waits for no
-    /// producer. CvxErrorAlreadyStarted when the system runs, CvxErrorHostMissing when the program that
+    /// Brings the system up: loads the transport-layer producers and starts watching for cameras. Waits for
+    /// no producer. CvxErrorAlreadyStarted when the system runs, CvxErrorHostMissing when the program that
     /// loads producers is missing. A system without producers starts all the same.
     virtual CvxError Startup() = 0;
 
@@ -166,7 +167,8 @@ public:
     virtual CvxError RegisterCameraListObserver(const std::shared_ptr<ICameraListObserver> &observer) = 0;
 
     /// As above, for interfaces.
-    virtual CvxError RegisterInterfaceListObserver(const std::shared_ptr<IInterfaceListObserver> &observer) = 0;
+    virtual CvxError RegisterInterfaceListObserver(const std::shared_ptr<IInterfaceListObserver> &observer)
+        = 0;
 
     /// Lists the cameras, with two calls. With a null array: searches, unless a search ended less than 1 s
     /// ago, and stores the number of cameras in `count`. With an array of `count` elements: fills it with the

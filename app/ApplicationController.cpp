@@ -1,0 +1,191 @@
+#include "app/ApplicationController.h"
+
+#include "app/CameraObserver.h"
+#include "app/InterfaceObserver.h"
+#include "camera/CorvixCameraProvider.h"
+#include "config/InstallRootResolver.h"
+#include "ui/MainWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCursor>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStringList>
+#include <QSystemTrayIcon>
+#include <QThreadPool>
+#include <QtConcurrent>
+#include <QtDebug>
+
+#include <exception>
+
+using CvxCPP::CvxErrorSuccess;
+using CvxCPP::CvxSystem;
+
+namespace {
+
+/// The list of cameras; empty, with a warning in the log, when the SDK throws.
+QVector<CameraInfo> scan(const CorvixCameraProvider *provider)
+{
+    try {
+        return provider->listCameras();
+    } catch (const std::exception &error) {
+        qWarning("The camera scan failed: %s", error.what());
+    } catch (...) {
+        qWarning("The camera scan failed: unknown exception");
+    }
+    return {};
+}
+
+/// Starts the program in its own directory; true only when there is a process.
+bool startTool(const QString &path)
+{
+    const QFileInfo file(path);
+    qint64 processId = 0;
+    return file.exists() && QProcess::startDetached(path, {}, file.absolutePath(), &processId)
+        && processId > 0;
+}
+
+void clearOverrideCursors()
+{
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+}
+
+} // namespace
+
+ApplicationController::ApplicationController(QObject *parent)
+    : QObject(parent), window(std::make_unique<MainWindow>(nullptr))
+{
+    installRoot = InstallRootResolver::resolve();
+    connect(window.get(), &MainWindow::requestRefreshCameras, this, &ApplicationController::refreshCameras);
+    connect(window.get(), &MainWindow::requestLaunchTool, this, &ApplicationController::launchTool);
+    connect(&watcher, &QFutureWatcherBase::finished, this, [this] {
+        if (!watcher.isCanceled()) // A cancelled future has no result to ask for.
+            onCameraListReady(watcher.result());
+    });
+    setupTray();
+}
+
+ApplicationController::~ApplicationController()
+{
+    // QtConcurrent::run() cannot be cancelled; it is the wait that keeps the scan off a closed SDK.
+    watcher.cancel();
+    watcher.waitForFinished();
+    CvxSystem::GetInstance().Shutdown(); // Drops the observers; nothing to do about an error here.
+}
+
+bool ApplicationController::init()
+{
+    CvxSystem &system = CvxSystem::GetInstance();
+    if (system.Startup() != CvxErrorSuccess)
+        return false;
+
+    cameraObserver = std::make_shared<CameraObserver>(&observerMutex);
+    if (system.RegisterCameraListObserver(cameraObserver) == CvxErrorSuccess) {
+        connect(cameraObserver.get(), &CameraObserver::updateDeviceList, this,
+            &ApplicationController::refreshCameras);
+    } else {
+        QMessageBox::critical(nullptr, QStringLiteral("Error"),
+            QStringLiteral("Unable to register camera list observer"), QMessageBox::Ok);
+    }
+
+    // Intended: nothing listens to this one. Only changes of the camera list cause a refresh.
+    interfaceObserver = std::make_shared<InterfaceObserver>(&observerMutex);
+    if (system.RegisterInterfaceListObserver(interfaceObserver) != CvxErrorSuccess) {
+        QMessageBox::critical(nullptr, QStringLiteral("Error"),
+            QStringLiteral("Unable to register interface list observer"), QMessageBox::Ok);
+    }
+
+    cameraProvider = std::make_unique<CorvixCameraProvider>();
+    window->loadConfig(installRoot);
+    return true;
+}
+
+int ApplicationController::run()
+{
+    refreshCameras();
+    window->show();
+    return QApplication::exec();
+}
+
+void ApplicationController::refreshCameras()
+{
+    if (scanning)
+        return; // Dropped on purpose: a request during a scan causes no second scan afterwards.
+    scanning = true;
+    window->setRefreshEnabled(false);
+
+    CameraInfo placeholder;
+    placeholder.vendorName = tr("Scanning...");
+    window->setCameras({placeholder});
+    window->setSelectedCamera(
+        CameraInfo()); // Redraws; the placeholder's empty fields make it the selected row.
+
+    watcher.setFuture(QtConcurrent::run(QThreadPool::globalInstance(), scan, cameraProvider.get()));
+}
+
+void ApplicationController::onCameraListReady(const QVector<CameraInfo> &list)
+{
+    cameras = list;
+    window->setCameras(cameras);
+    scanning.store(false, std::memory_order_release);
+    window->setRefreshEnabled(true);
+    window->setSelectedCamera(CameraInfo());
+}
+
+void ApplicationController::launchTool(const QString &toolPath)
+{
+    clearOverrideCursors();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool launched
+        = startTool(QDir::isRelativePath(toolPath) ? QDir(installRoot).filePath(toolPath) : toolPath);
+    clearOverrideCursors();
+    if (!launched) {
+        QMessageBox::warning(
+            window.get(), tr("Launch failed"), tr("Could not launch:\n%1").arg(toolPath), QMessageBox::Ok);
+    }
+}
+
+void ApplicationController::setupTray()
+{
+    if (!QSystemTrayIcon::isSystemTrayAvailable())
+        return;
+    trayIcon = new QSystemTrayIcon(window->windowIcon(), this);
+    trayIcon->setToolTip(tr("Corvix X - Application Launcher"));
+
+    trayMenu = new QMenu(window.get());
+    trayMenu->addAction(tr("Show"), this, &ApplicationController::showFromTray, QKeySequence());
+    trayMenu->addSeparator();
+    trayMenu->addAction(tr("Exit"), this, &ApplicationController::closeApp, QKeySequence());
+    trayIcon->setContextMenu(trayMenu);
+
+    connect(trayIcon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::DoubleClick)
+            showFromTray();
+    });
+    trayIcon->show();
+}
+
+void ApplicationController::minimizeToTray()
+{
+    if (trayIcon && trayIcon->isVisible())
+        window->hide();
+    else
+        window->showMinimized();
+}
+
+void ApplicationController::closeApp()
+{
+    QCoreApplication::quit();
+}
+
+void ApplicationController::showFromTray()
+{
+    window->showNormal();
+    window->activateWindow();
+}

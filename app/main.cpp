@@ -1,0 +1,33 @@
+#include "app/ApplicationController.h"
+
+#include <QApplication>
+#include <QByteArray>
+#include <QFile>
+#include <QMessageBox>
+#include <QStyleFactory>
+#include <QtDebug>
+
+int main(int argc, char *argv[])
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    QApplication application(argc, argv);
+
+    QFile styleSheet(QStringLiteral(":/styles/style.qss"));
+    if (styleSheet.open(QIODevice::ReadOnly)) {
+        // The constData() on purpose: the text ends at its first NUL.
+        application.setStyleSheet(QString::fromUtf8(styleSheet.readAll().constData()));
+        styleSheet.close();
+    } else {
+        qWarning("Failed to load stylesheet");
+    }
+
+    ApplicationController controller;
+    if (controller.init())
+        return controller.run();
+    QMessageBox::critical(nullptr, QObject::tr("Corvix X initialization failed"),
+        QObject::tr("Failed to initialize the Corvix X system. The launcher will be closed."),
+        QMessageBox::Ok);
+    return -1;
+}
