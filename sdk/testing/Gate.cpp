@@ -1,0 +1,26 @@
+#include "sdk/testing/Gate.h"
+
+namespace CvxScripted {
+
+void Gate::pass(std::chrono::milliseconds bound)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_arrived = true;
+    m_changed.notify_all();
+    m_changed.wait_for(lock, bound, [this] { return m_open; });
+}
+
+bool Gate::waitForArrival(std::chrono::milliseconds bound)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_changed.wait_for(lock, bound, [this] { return m_arrived; });
+}
+
+void Gate::open()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_open = true;
+    m_changed.notify_all();
+}
+
+} // namespace CvxScripted
