@@ -1,0 +1,129 @@
+"""From the start of the installed program to its end: list, select, launch, plug, unplug, close."""
+
+import json
+import os
+import shutil
+import signal
+import sys
+import time
+
+from launcher import Launcher, processes_named, wait_for, xdotool
+
+STAGE = sys.argv[1]
+SCENE = f"{STAGE}/cti/CorvixCameraSimulator.json"
+
+
+def scene():
+    with open(SCENE, encoding="utf-8") as file:
+        return json.load(file)
+
+
+def write_scene(content):
+    with open(SCENE + ".new", "w", encoding="utf-8") as file:
+        json.dump(content, file)
+    os.replace(SCENE + ".new", SCENE)
+
+
+def rows_of(content):
+    """What the table has to show for a scene, in any order."""
+    return sorted((device["vendor"], device["model"], device["serial"])
+                  for interface in content["interfaces"] for device in interface["devices"])
+
+
+def shows(launcher, content):
+    return lambda: (rows := launcher.rows()) is not None and sorted(rows) == rows_of(content)
+
+
+def select(launcher, vendor):
+    launcher.click(launcher.find("table cell", vendor)[0])
+
+
+def lists_the_simulated_cameras(launcher):
+    wait_for("the table shows the scene", shows(launcher, scene()))
+    print(f"first list read {time.monotonic() - launcher.started:.2f} s after the start")
+    assert len(launcher.rows()) == 8, launcher.rows()
+    assert launcher.enabled_tools() == set(), "a tool is enabled although no camera is selected"
+    assert len(list(launcher.tiles())) in (7, 8)
+
+
+def selecting_enables_the_group_s_tools(launcher):
+    select(launcher, "Lintaro")
+    wait_for("the hint names the group", lambda: launcher.find(
+        "label", "Recommended for Line Scan Cameras. Non-recommended tools are disabled."))
+    assert "Image Viewer" in launcher.enabled_tools()
+    assert "Pixel Repair" not in launcher.enabled_tools()
+
+
+def a_press_starts_the_tool_in_its_own_directory(launcher):
+    """Returns the tool's process id; the tool is the caller's to end."""
+    launcher.point_at(launcher.tile("Image Viewer"))
+    xdotool("mousedown", "1")
+    try:
+        tools = wait_for("the tool runs before the button is released", lambda: [
+            int(process) for process in os.listdir("/proc") if process.isdigit()
+            and command_of(process).endswith("bin/ImageViewer")])
+    finally:
+        xdotool("mouseup", "1")
+    assert len(tools) == 1, tools
+    assert os.readlink(f"/proc/{tools[0]}/cwd") == os.path.realpath(f"{STAGE}/bin")
+    sockets = [link for link in links_of(tools[0]) if link in links_of(launcher.process.pid)
+               and link.startswith(("socket:", "anon_inode:"))]
+    assert sockets == [], f"inherited by the tool: {sockets}"
+    return tools[0]
+
+
+def command_of(process):
+    try:
+        with open(f"/proc/{process}/cmdline", encoding="utf-8", errors="replace") as file:
+            return file.read().split("\0")[0]
+    except OSError:
+        return ""
+
+
+def links_of(process):
+    directory = f"/proc/{process}/fd"
+    return {os.readlink(f"{directory}/{number}") for number in os.listdir(directory)
+            if int(number) > 2 and os.path.lexists(f"{directory}/{number}")}
+
+
+def a_plugged_camera_appears_and_an_unplugged_one_goes(launcher):
+    before, after = scene(), scene()
+    after["interfaces"][0]["devices"].append(
+        {"id": "road-1", "vendor": "Orvelle", "model": "Kx200 Road", "serial": "ROAD0001"})
+    for content, promise in ((after, "the new camera appears"), (before, "the camera goes")):
+        written = time.monotonic()
+        write_scene(content)
+        wait_for(promise, shows(launcher, content), bound=6)
+        print(f"{promise}: {time.monotonic() - written:.2f} s")
+    assert launcher.enabled_tools() == set(), "the selection was carried over a refresh"
+
+
+def closing_ends_everything(launcher):
+    hosts = processes_named("CvxProducerHost")
+    assert hosts, "no producer host ran at all"
+    launcher.click(launcher.find("push button", "Close")[0])
+    assert launcher.process.wait(timeout=10) == 0
+    assert not [host for host in hosts if os.path.exists(f"/proc/{host}")], "a producer host is left"
+    printed = launcher.process.stderr.read().decode()
+    assert printed == "", f"printed on standard error: {printed}"
+
+
+def main():
+    pristine = SCENE + ".pristine"
+    shutil.copy(SCENE, pristine)
+    tool = None
+    try:
+        with Launcher(STAGE) as launcher:
+            lists_the_simulated_cameras(launcher)
+            selecting_enables_the_group_s_tools(launcher)
+            tool = a_press_starts_the_tool_in_its_own_directory(launcher)
+            a_plugged_camera_appears_and_an_unplugged_one_goes(launcher)
+            closing_ends_everything(launcher)
+            assert os.path.exists(f"/proc/{tool}"), "the tool did not outlive the launcher"
+    finally:
+        if tool is not None:
+            os.kill(tool, signal.SIGTERM)
+        os.replace(pristine, SCENE)
+
+
+main()
