@@ -1,0 +1,18 @@
+#include "sdk/producer/DeviceSource.h"
+
+#include <tuple>
+
+bool operator==(const InterfaceRecord &left, const InterfaceRecord &right)
+{
+    return std::tie(left.id, left.displayName, left.tlType)
+        == std::tie(right.id, right.displayName, right.tlType);
+}
+
+bool operator==(const DeviceRecord &left, const DeviceRecord &right)
+{
+    const auto fields = [](const DeviceRecord &record) {
+        return std::tie(record.id, record.vendor, record.model, record.tlType, record.displayName,
+            record.userName, record.serial, record.accessStatus);
+    };
+    return fields(left) == fields(right);
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+/// The entries of one list as of its last update, found by index and by ID.
+template <typename Record>
+class Snapshot
+{
+public:
+    Snapshot() = default;
+
+    /// Keeps the order. An entry without an ID, or with the ID of an earlier one, could never be asked
+    /// about through the C interface, so it is left out.
+    explicit Snapshot(std::vector<Record> records)
+    {
+        m_records.reserve(records.size());
+        for (Record &record : records) {
+            cutAtNul(record.id);
+            if (record.id.empty() || !m_indexById.emplace(record.id, m_records.size()).second)
+                continue;
+            m_records.push_back(std::move(record));
+        }
+    }
+
+    std::uint32_t count() const { return static_cast<std::uint32_t>(m_records.size()); }
+
+    const Record *at(std::uint32_t index) const
+    {
+        return index < m_records.size() ? &m_records[index] : nullptr;
+    }
+
+    const Record *find(const std::string &id) const
+    {
+        const auto entry = m_indexById.find(id);
+        return entry != m_indexById.end() ? &m_records[entry->second] : nullptr;
+    }
+
+    bool operator==(const Snapshot &other) const { return m_records == other.m_records; }
+    bool operator!=(const Snapshot &other) const { return !(*this == other); }
+
+private:
+    // A caller can hand back no more of an ID than its part before the first NUL.
+    static void cutAtNul(std::string &text) { text.resize(std::min(text.find('\0'), text.size())); }
+
+    std::vector<Record> m_records;
+    std::unordered_map<std::string, std::size_t> m_indexById;
+};

@@ -1,0 +1,71 @@
+// Everything of GenTL 1.6 beyond discovery: exported because some consumers insist on the complete set, and
+// refused. On our platforms a C function may ignore arguments it does not declare, so none declares any.
+
+#include "sdk/producer/LastError.h"
+
+using namespace GenTL;
+
+#define REFUSE(name)                                                                                         \
+    GENTL_FUNCTION name()                                                                                    \
+    {                                                                                                        \
+        return fail(GC_ERR_NOT_IMPLEMENTED, "This producer lists devices only: there is no " #name ".");     \
+    }
+
+extern "C" {
+
+// Ports
+REFUSE(GCReadPort)
+REFUSE(GCWritePort)
+REFUSE(GCGetPortURL)
+REFUSE(GCGetPortInfo)
+REFUSE(GCGetNumPortURLs)
+REFUSE(GCGetPortURLInfo)
+REFUSE(GCReadPortStacked)
+REFUSE(GCWritePortStacked)
+
+// Events
+REFUSE(GCRegisterEvent)
+REFUSE(GCUnregisterEvent)
+REFUSE(EventGetData)
+REFUSE(EventGetDataInfo)
+REFUSE(EventGetInfo)
+REFUSE(EventFlush)
+REFUSE(EventKill)
+
+// Devices
+REFUSE(IFOpenDevice)
+REFUSE(DevGetPort)
+REFUSE(DevGetNumDataStreams)
+REFUSE(DevGetDataStreamID)
+REFUSE(DevOpenDataStream)
+REFUSE(DevGetInfo)
+REFUSE(DevClose)
+REFUSE(DevGetParentIF)
+
+// Data streams
+REFUSE(DSAnnounceBuffer)
+REFUSE(DSAllocAndAnnounceBuffer)
+REFUSE(DSFlushQueue)
+REFUSE(DSStartAcquisition)
+REFUSE(DSStopAcquisition)
+REFUSE(DSGetInfo)
+REFUSE(DSGetBufferID)
+REFUSE(DSClose)
+REFUSE(DSRevokeBuffer)
+REFUSE(DSQueueBuffer)
+REFUSE(DSGetBufferInfo)
+REFUSE(DSGetBufferChunkData)
+REFUSE(DSGetParentDev)
+REFUSE(DSGetNumBufferParts)
+REFUSE(DSGetBufferPartInfo)
+
+// Added in 1.6
+REFUSE(DSAnnounceCompositeBuffer)
+REFUSE(DSGetBufferInfoStacked)
+REFUSE(DSGetBufferPartInfoStacked)
+REFUSE(DSGetNumFlows)
+REFUSE(DSGetFlowInfo)
+REFUSE(DSGetNumBufferSegments)
+REFUSE(DSGetBufferSegmentInfo)
+
+} // extern "C"
