@@ -2,6 +2,8 @@
 
 #include "camera/CameraInfo.h"
 
+#include <QStringList>
+
 #include <tuple>
 
 /// Camera records and their comparison, for tests.
@@ -27,4 +29,12 @@ inline auto fields(const CameraInfo &c)
 inline bool operator==(const CameraInfo &left, const CameraInfo &right)
 {
     return fields(left) == fields(right);
+}
+
+/// For QCOMPARE's message.
+inline char *toString(const CameraInfo &c)
+{
+    const QStringList values{c.cameraId, c.vendorName, c.modelName, c.cameraName, c.serialNumber, c.ipAddress,
+        c.macAddress, c.interfaceType};
+    return qstrdup(qUtf8Printable(QStringLiteral("CameraInfo(%1)").arg(values.join(QStringLiteral(" | ")))));
 }
