@@ -4,7 +4,7 @@
 
 /// The child of that object name and class; fails the test (and gives null) when there is none.
 template <typename Child>
-Child *findChild(const QObject &parent, const char *objectName)
+Child *childNamed(const QObject &parent, const char *objectName)
 {
     auto *child = parent.findChild<Child *>(QString::fromLatin1(objectName));
     if (!child)
