@@ -10,6 +10,13 @@ namespace CvxScripted {
 class Gate
 {
 public:
+    Gate() = default;
+    Gate(const Gate &) = delete;
+    Gate &operator=(const Gate &) = delete;
+
+    /// Opens, and waits until everybody has left: a test that fails early takes its gate with it.
+    ~Gate();
+
     /// For the caller to be held: returns once the gate is open. After `bound` it goes on by itself, so that
     /// a failed test ends.
     void pass(std::chrono::milliseconds bound = std::chrono::seconds(30));
@@ -23,6 +30,7 @@ public:
 private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
+    int m_inside = 0;
     bool m_arrived = false;
     bool m_open = false;
 };
