@@ -1,0 +1,60 @@
+#include "sdk/cvxcpp/CameraList.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+bool lessById(const std::shared_ptr<InterfaceObject> &a, const std::shared_ptr<InterfaceObject> &b)
+{
+    return a->id() < b->id();
+}
+
+bool lessByIds(const std::shared_ptr<CameraObject> &a, const std::shared_ptr<CameraObject> &b)
+{
+    const int order = a->interfaceId().compare(b->interfaceId());
+    return order != 0 ? order < 0 : a->id() < b->id();
+}
+
+/// What `left` has and `right` has not; of equal ones, as many as are too many.
+template <typename Objects, typename Less>
+Objects missing(const Objects &left, const Objects &right, Less less)
+{
+    Objects difference;
+    std::set_difference(
+        left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(difference), less);
+    return difference;
+}
+
+} // namespace
+
+CameraList::Pointer CameraList::create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
+    const std::shared_ptr<const std::string> &producerName,
+    const std::vector<std::shared_ptr<const InterfaceRecord>> &records)
+{
+    auto list = std::make_shared<CameraList>();
+    list->interfaces.reserve(records.size());
+    for (const auto &record : records) {
+        auto interface = std::make_shared<InterfaceObject>(source, producer, producerName, record);
+        for (std::size_t device = 0; device < record->devices.size(); ++device)
+            list->cameras.push_back(std::make_shared<CameraObject>(interface, record, device));
+        list->interfaces.push_back(std::move(interface));
+    }
+    return list;
+}
+
+CameraList::Pointer CameraList::empty()
+{
+    return std::make_shared<CameraList>();
+}
+
+CameraListChange CameraListChange::between(const CameraList &before, const CameraList &after)
+{
+    CameraListChange change;
+    change.newInterfaces = missing(after.interfaces, before.interfaces, lessById);
+    change.goneInterfaces = missing(before.interfaces, after.interfaces, lessById);
+    change.newCameras = missing(after.cameras, before.cameras, lessByIds);
+    change.goneCameras = missing(before.cameras, after.cameras, lessByIds);
+    return change;
+}

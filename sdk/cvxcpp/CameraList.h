@@ -1,0 +1,35 @@
+#pragma once
+
+#include "sdk/cvxcpp/CameraObject.h"
+#include "sdk/cvxcpp/InterfaceObject.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// The interfaces and cameras of one producer at one time, sorted by interface ID, then by device ID.
+/// Never changed once it is made: two lists that are the same object hold the same.
+struct CameraList
+{
+    using Pointer = std::shared_ptr<const CameraList>;
+
+    std::vector<std::shared_ptr<InterfaceObject>> interfaces;
+    std::vector<std::shared_ptr<CameraObject>> cameras;
+
+    /// Makes the objects for records that are sorted by ID.
+    static Pointer create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
+        const std::shared_ptr<const std::string> &producerName,
+        const std::vector<std::shared_ptr<const InterfaceRecord>> &records);
+
+    static Pointer empty();
+};
+
+/// What came and what went between two lists of one producer, told by interface ID and device ID.
+struct CameraListChange
+{
+    std::vector<std::shared_ptr<InterfaceObject>> newInterfaces, goneInterfaces;
+    std::vector<std::shared_ptr<CameraObject>> newCameras, goneCameras;
+
+    static CameraListChange between(const CameraList &before, const CameraList &after);
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "CvxCPP/CvxCPP.h"
+#include "sdk/cvxcpp/DiscoverySession.h"
+#include "sdk/cvxcpp/SystemOptions.h"
+
+#include <memory>
+#include <mutex>
+
+/// The camera system: starts and ends sessions and hands the callers' requests on to the one that runs.
+class CameraSystem final : public CvxCPP::CvxSystem
+{
+public:
+    explicit CameraSystem(SystemOptions options);
+    ~CameraSystem() override;
+
+    CvxCPP::CvxError Startup() override;
+    CvxCPP::CvxError Shutdown() override;
+    CvxCPP::CvxError RegisterCameraListObserver(
+        const std::shared_ptr<CvxCPP::ICameraListObserver> &observer) override;
+    CvxCPP::CvxError RegisterInterfaceListObserver(
+        const std::shared_ptr<CvxCPP::IInterfaceListObserver> &observer) override;
+    CvxCPP::CvxError GetCameras(std::shared_ptr<CvxCPP::Camera> *cameras, unsigned &count) override;
+
+private:
+    template <typename Observer>
+    CvxCPP::CvxError registerObserver(const std::shared_ptr<Observer> &observer);
+    CvxCPP::CvxError startSession();
+    CvxCPP::CvxError searchCameras(std::shared_ptr<const DiscoverySession::Cameras> &cameras);
+    std::shared_ptr<DiscoverySession> session() const;
+
+    const SystemOptions m_options;
+    std::mutex m_lifeMutex; // Start and end, one at a time; held for as long as they take.
+
+    mutable std::mutex m_mutex;
+    std::shared_ptr<DiscoverySession> m_session; // Null while the system does not run.
+    std::shared_ptr<const DiscoverySession::Cameras> m_found; // By the last search; null before.
+};

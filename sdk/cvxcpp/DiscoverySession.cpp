@@ -1,0 +1,363 @@
+#include "sdk/cvxcpp/DiscoverySession.h"
+
+#include "sdk/cvxcpp/ProducerSearch.h"
+
+#include <algorithm>
+#include <exception>
+#include <poll.h>
+#include <utility>
+
+using namespace CvxCPP;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto EndInterval = 5ms; // Between two looks at hosts that are ending.
+constexpr auto KillWait = 300ms; // For killed hosts to be gone.
+
+/// For poll(): milliseconds from now, rounded up, so that it does not return too early; -1 for ever.
+int pollTimeout(Producer::Time until, Producer::Time now)
+{
+    constexpr auto Longest = std::chrono::milliseconds(60000);
+    if (until == Producer::Time::max())
+        return -1;
+    const auto left = std::clamp<Producer::Clock::duration>(until - now, 0ms, Longest);
+    return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count());
+}
+
+} // namespace
+
+DiscoverySession::DiscoverySession(const SystemOptions &options, std::vector<std::string> ctiDirectories)
+    : m_options(options),
+      m_ctiDirectories(std::move(ctiDirectories)),
+      m_announcer([this] { return takeChanges(); })
+{ }
+
+DiscoverySession::~DiscoverySession()
+{
+    stop();
+}
+
+void DiscoverySession::start()
+{
+    m_announcer.start();
+    m_thread = std::thread(&DiscoverySession::run, this);
+}
+
+void DiscoverySession::stop()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isStopping = true;
+    }
+    m_changed.notify_all();
+    m_wakeEvent.signal();
+    m_announcer.stop();
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+// ---- Callers -----------------------------------------------------------------------------------------
+
+bool DiscoverySession::isFresh(Time searchedAt) const
+{
+    return searchedAt != Time::min() && Clock::now() - searchedAt < m_options.reuseTime;
+}
+
+bool DiscoverySession::isInterfaceFresh(const View &view, const std::string &interfaceId) const
+{
+    const auto single = view.interfaceListedAt.find(interfaceId);
+    return isFresh(view.listedAt) || (single != view.interfaceListedAt.end() && isFresh(single->second));
+}
+
+bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
+{
+    const Time deadline = Clock::now() + m_options.answerWait;
+    std::unique_lock lock(m_mutex);
+    m_changed.wait_until(lock, deadline, [this] { return m_isReady || m_isStopping; });
+
+    std::vector<std::pair<std::size_t, Time>> awaited; // Producer, and when it had its last list.
+    for (std::size_t i = 0; i < m_views.size(); ++i) {
+        View &view = m_views[i];
+        if (!view.isAwaited || isFresh(view.listedAt))
+            continue;
+        view.isListWanted = true;
+        awaited.emplace_back(i, view.listedAt);
+    }
+    if (!awaited.empty())
+        m_wakeEvent.signal();
+    const auto isDone = [this](const std::pair<std::size_t, Time> &entry) {
+        const View &view = m_views[entry.first];
+        return !view.isAwaited || view.listedAt != entry.second;
+    };
+    m_changed.wait_until(
+        lock, deadline, [&] { return m_isStopping || std::all_of(awaited.begin(), awaited.end(), isDone); });
+    if (m_isStopping)
+        return false;
+    for (const auto &entry : awaited) {
+        if (!isDone(entry))
+            m_views[entry.first].isAwaited = false; // Its answer will be announced.
+    }
+    cameras = collectCameras();
+    lock.unlock();
+    m_announcer.holdUntil(Clock::now() + m_options.announceDelay);
+    return true;
+}
+
+std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::collectCameras()
+{
+    auto cameras = std::make_shared<Cameras>();
+    for (View &view : m_views) {
+        cameras->insert(cameras->end(), view.list->cameras.begin(), view.list->cameras.end());
+        if (view.isAwaited && !std::exchange(view.isSettled, true))
+            view.announced = view.list; // The program has it from here.
+        view.isSettled = true;
+    }
+    return cameras;
+}
+
+CvxError DiscoverySession::searchInterface(
+    std::size_t producer, const std::string &interfaceId, std::shared_ptr<const InterfaceRecord> &record)
+{
+    const Time deadline = Clock::now() + m_options.answerWait;
+    std::unique_lock lock(m_mutex);
+    if (m_isStopping)
+        return CvxErrorNotStarted;
+    View &view = m_views.at(producer);
+    if (!isInterfaceFresh(view, interfaceId)) {
+        if (!view.isAwaited)
+            return CvxErrorTimeout;
+        view.wantedInterfaces.insert(interfaceId);
+        m_wakeEvent.signal();
+        const bool isAnswered = m_changed.wait_until(lock, deadline,
+            [&] { return m_isStopping || !view.isAwaited || view.wantedInterfaces.count(interfaceId) == 0; });
+        if (m_isStopping)
+            return CvxErrorNotStarted;
+        if (!isAnswered)
+            view.isAwaited = false;
+        if (!view.isAwaited)
+            return CvxErrorTimeout;
+    }
+    const auto found = std::find_if(view.records.begin(), view.records.end(),
+        [&](const auto &candidate) { return candidate->id == interfaceId; });
+    if (found == view.records.end())
+        return CvxErrorNotAvailable;
+    record = *found;
+    return CvxErrorSuccess;
+}
+
+std::vector<CameraListChange> DiscoverySession::takeChanges()
+{
+    std::vector<std::pair<CameraList::Pointer, CameraList::Pointer>> lists;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (View &view : m_views) {
+            if (view.isSettled && view.announced != view.list)
+                lists.emplace_back(std::exchange(view.announced, view.list), view.list);
+        }
+    }
+    std::vector<CameraListChange> changes;
+    changes.reserve(lists.size());
+    for (const auto &[before, after] : lists)
+        changes.push_back(CameraListChange::between(*before, *after));
+    return changes;
+}
+
+// ---- The session's thread ----------------------------------------------------------------------------
+
+void DiscoverySession::run()
+{
+    try {
+        startProducers();
+        serveUntilStopped();
+    } catch (const std::exception &exception) { // Out of memory, in practice.
+        fail(exception.what());
+    }
+    endProducers();
+}
+
+void DiscoverySession::startProducers()
+{
+    const std::vector<std::string> paths = findProducers(m_ctiDirectories);
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        m_producers.push_back(std::make_unique<Producer>(m_options, paths[i], i, weak_from_this()));
+    {
+        const std::lock_guard lock(m_mutex);
+        m_views.resize(paths.size());
+        m_isReady = true;
+    }
+    m_changed.notify_all();
+}
+
+void DiscoverySession::serveUntilStopped()
+{
+    std::vector<bool> isReadable(m_producers.size(), false);
+    Time nextLook = Clock::now() + m_options.lookInterval; // The hosts make the first one when they start.
+    while (!m_isStopping) {
+        stepProducers(isReadable);
+        const Time now = Clock::now();
+        const bool isLookDue = now >= nextLook;
+        if (isLookDue) {
+            nextLook
+                = std::max(nextLook + m_options.lookInterval, now); // Not all at once after a standstill.
+            settleAll();
+        }
+        markLate(now);
+        sendWishes(now, isLookDue);
+        waitForEvents(nextLook, isReadable);
+    }
+}
+
+void DiscoverySession::sendWishes(Time now, bool isLookDue)
+{
+    bool isAnyAnswered = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (std::size_t i = 0; i < m_producers.size(); ++i) {
+            View &view = m_views[i];
+            Producer &producer = *m_producers[i];
+            view.isListWanted = view.isListWanted || isLookDue;
+            if (!producer.isIdle())
+                continue;
+            if (std::exchange(view.isListWanted, false)) {
+                producer.askForList(now);
+                continue;
+            }
+            while (!view.wantedInterfaces.empty()
+                && !producer.askForInterface(*view.wantedInterfaces.begin(), now)) {
+                view.wantedInterfaces.erase(view.wantedInterfaces.begin()); // There is none of that name.
+                isAnyAnswered = true;
+            }
+        }
+    }
+    if (isAnyAnswered)
+        m_changed.notify_all();
+}
+
+void DiscoverySession::waitForEvents(Time nextLook, std::vector<bool> &isReadable)
+{
+    const Time now = Clock::now();
+    Time wakeAt = nextLook;
+    std::vector<pollfd> descriptors{{m_wakeEvent.descriptor(), POLLIN, 0}};
+    for (const auto &producer : m_producers) {
+        descriptors.push_back({producer->descriptor(), POLLIN, 0}); // poll() passes over -1.
+        wakeAt = std::min(wakeAt, producer->nextStep(now));
+    }
+    if (poll(descriptors.data(), descriptors.size(), pollTimeout(wakeAt, now)) < 0)
+        descriptors.assign(descriptors.size(), pollfd{});
+    if (descriptors.front().revents != 0)
+        m_wakeEvent.clear();
+    for (std::size_t i = 0; i < m_producers.size(); ++i)
+        isReadable[i] = descriptors[i + 1].revents != 0;
+}
+
+void DiscoverySession::stepProducers(const std::vector<bool> &isReadable)
+{
+    for (std::size_t i = 0; i < m_producers.size(); ++i) {
+        const Time now = Clock::now();
+        const Producer::Event event = m_producers[i]->step(now, isReadable[i]);
+        if (event != Producer::Event::Nothing)
+            publish(i, event, now);
+    }
+}
+
+void DiscoverySession::publish(std::size_t index, Producer::Event event, Time now)
+{
+    const Producer &producer = *m_producers[index];
+    bool isChanged = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        View &view = m_views[index];
+        isChanged = view.list != producer.list();
+        if (isChanged) {
+            view.list = producer.list();
+            view.records = producer.records();
+        }
+        switch (event) {
+        case Producer::Event::Listed:
+            view.listedAt = now;
+            view.interfaceListedAt.clear();
+            view.isListWanted = false;
+            view.wantedInterfaces.clear();
+            break;
+        case Producer::Event::InterfaceListed:
+            view.interfaceListedAt[producer.searchedInterface()] = now;
+            view.wantedInterfaces.erase(producer.searchedInterface());
+            break;
+        case Producer::Event::Lost:
+        case Producer::Event::Nothing:
+            view.listedAt = Time::min();
+            view.interfaceListedAt.clear();
+            view.wantedInterfaces.clear();
+            break;
+        }
+        view.isAwaited = event != Producer::Event::Lost;
+        view.isSettled = view.isSettled || !view.isAwaited;
+    }
+    m_changed.notify_all();
+    if (isChanged)
+        m_announcer.notify();
+}
+
+void DiscoverySession::markLate(Time now)
+{
+    bool isAnyLate = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (std::size_t i = 0; i < m_producers.size(); ++i) {
+            if (!m_producers[i]->isLate(now) || !m_views[i].isAwaited)
+                continue;
+            m_views[i].isAwaited = false;
+            m_views[i].isSettled = true;
+            isAnyLate = true;
+        }
+    }
+    if (isAnyLate)
+        m_changed.notify_all();
+}
+
+void DiscoverySession::settleAll()
+{
+    bool isAnyNew = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (View &view : m_views)
+            isAnyNew = !std::exchange(view.isSettled, true) || isAnyNew;
+    }
+    if (isAnyNew)
+        m_announcer.notify();
+}
+
+void DiscoverySession::fail(const char *reason)
+{
+    if (m_options.report)
+        m_options.report(std::string("the search for cameras ended: ") + reason);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isStopping = true;
+    }
+    m_changed.notify_all();
+}
+
+void DiscoverySession::endProducers()
+{
+    for (const auto &producer : m_producers)
+        producer->askToEnd();
+    const Time killAt = Clock::now() + m_options.endWait;
+    const Time giveUpAt = killAt + KillWait;
+    const auto isGone = [](const auto &producer) { return producer->hasGone(); };
+    bool isKilled = false;
+    while (!std::all_of(m_producers.begin(), m_producers.end(), isGone) && Clock::now() < giveUpAt) {
+        std::vector<pollfd> descriptors;
+        for (const auto &producer : m_producers)
+            descriptors.push_back({producer->descriptor(), POLLIN, 0});
+        poll(descriptors.data(), descriptors.size(), pollTimeout(Clock::now() + EndInterval, Clock::now()));
+        for (std::size_t i = 0; i < m_producers.size(); ++i)
+            m_producers[i]->stepEnd(descriptors[i].revents != 0);
+        if (Clock::now() < killAt || std::exchange(isKilled, true))
+            continue;
+        for (const auto &producer : m_producers)
+            producer->killAtEnd(Clock::now());
+    }
+    m_producers.clear();
+}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "sdk/cvxcpp/Announcer.h"
+#include "sdk/cvxcpp/CameraList.h"
+#include "sdk/cvxcpp/InterfaceSource.h"
+#include "sdk/cvxcpp/Producer.h"
+#include "sdk/cvxcpp/SystemOptions.h"
+#include "sdk/cvxcpp/WakeEvent.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+/// The system between one start and its end: all producers, the thread that talks to their hosts and looks
+/// for cameras, and what is known so far. Callers leave their wishes and wait for the thread to fulfil them.
+class DiscoverySession final : public InterfaceSource, public std::enable_shared_from_this<DiscoverySession>
+{
+public:
+    using Cameras = std::vector<std::shared_ptr<CameraObject>>;
+
+    DiscoverySession(const SystemOptions &options, std::vector<std::string> ctiDirectories);
+    ~DiscoverySession();
+
+    void start(); ///< Throws std::system_error when there is no thread to have.
+    void stop(); ///< Wakes all waiters, ends the hosts, and returns when no observer is called any more.
+
+    /// Searches for cameras, unless that was just done, and gives them all; false when the session ends.
+    bool searchCameras(std::shared_ptr<const Cameras> &cameras);
+
+    bool isRunning() const override { return !m_isStopping; }
+    CvxCPP::CvxError searchInterface(std::size_t producer, const std::string &interfaceId,
+        std::shared_ptr<const InterfaceRecord> &record) override;
+
+    Announcer &announcer() { return m_announcer; }
+
+private:
+    using Clock = Producer::Clock;
+    using Time = Producer::Time;
+
+    /// What the callers see of one producer, and what they wish.
+    struct View
+    {
+        CameraList::Pointer list = CameraList::empty();
+        std::vector<std::shared_ptr<const InterfaceRecord>> records;
+        Time listedAt = Time::min();
+        std::map<std::string, Time> interfaceListedAt; ///< Searches of one interface, later than listedAt.
+        std::uint64_t answers = 0; ///< Of either kind.
+        bool isAwaited = true; ///< False from a missed deadline or a loss to the next answer.
+
+        CameraList::Pointer announced = CameraList::empty();
+        bool isSettled = false; ///< Its first list is not announced when the program has asked for it.
+
+        bool isListWanted = false;
+        std::set<std::string> wantedInterfaces;
+    };
+
+    // On the session's thread.
+    void run();
+    void startProducers();
+    void serveUntilStopped();
+    void sendWishes(Time now, bool isLookDue);
+    void waitForEvents(Time nextLook, std::vector<bool> &isReadable);
+    void stepProducers(const std::vector<bool> &isReadable);
+    void publish(std::size_t index, Producer::Event event, Time now);
+    void markLate(Time now);
+    void settleAll();
+    void endProducers();
+    void fail(const char *reason);
+
+    // On the callers' threads, with the mutex held.
+    bool isFresh(Time searchedAt) const;
+    bool isInterfaceFresh(const View &view, const std::string &interfaceId) const;
+    std::shared_ptr<const Cameras> collectCameras();
+    std::vector<CameraListChange> takeChanges();
+
+    const SystemOptions m_options;
+    const std::vector<std::string> m_ctiDirectories;
+    const WakeEvent m_wakeEvent;
+    std::vector<std::unique_ptr<Producer>> m_producers; // Of the session's thread.
+    std::thread m_thread;
+    Announcer m_announcer;
+    std::atomic<bool> m_isStopping{false};
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<View> m_views; // As m_producers.
+    bool m_isReady = false; // The producers are known.
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <sys/types.h>
+
+/// One running CvxProducerHost: the process, and the socket that it answers on. Start and reap it on one and
+/// the same thread, which must outlive it: the kernel ends the host together with the thread that started it.
+class HostProcess
+{
+public:
+    HostProcess() = default;
+    ~HostProcess(); ///< Kills what still runs.
+    HostProcess(const HostProcess &) = delete;
+    HostProcess &operator=(const HostProcess &) = delete;
+
+    /// Starts the host for one producer; gives the reason in words when that fails.
+    std::optional<std::string> start(const std::string &hostProgram, const std::string &producer);
+
+    /// There is a process, running or not yet reaped.
+    bool isStarted() const { return m_process > 0; }
+
+    /// -1 when there is none.
+    int descriptor() const { return m_socket; }
+
+    /// Sends one line; a failure shows as the end of the answers.
+    void send(const std::string &line) const;
+
+    enum class Reading
+    {
+        Pending,
+        Line,
+        Closed,
+        TooLong
+    };
+
+    /// Reads what is there, without waiting, up to the end of a line, which is stored without its line feed.
+    Reading readLine(std::string &line);
+
+    void closeSocket();
+
+    /// Kills the host and whatever its producer has started.
+    void kill() const;
+
+    /// The exit status, once the host has ended; -1 when the program has lost it for us. After that there is
+    /// no process any more.
+    std::optional<int> tryReap();
+
+private:
+    pid_t m_process = -1; // Also its process group.
+    int m_socket = -1;
+    std::string m_pending; // Received, but not yet handed out.
+    std::string::size_type m_searched = 0; // No line feed up to here.
+};

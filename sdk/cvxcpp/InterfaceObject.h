@@ -1,0 +1,43 @@
+#pragma once
+
+#include "CvxCPP/CvxCPP.h"
+#include "sdk/cvxcpp/InterfaceFeature.h"
+#include "sdk/cvxcpp/InterfaceSource.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <mutex>
+#include <string>
+
+/// An interface as the SDK shows it. Its devices are a snapshot, like those of a GenTL interface: they change
+/// with "DeviceUpdateList" and with nothing else, so that an index means the same device until then.
+class InterfaceObject final : public CvxCPP::Interface, public std::enable_shared_from_this<InterfaceObject>
+{
+public:
+    InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
+        std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record);
+
+    CvxCPP::CvxError GetFeatureByName(const char *name, std::shared_ptr<CvxCPP::Feature> &feature) override;
+
+    const std::string &id() const { return m_id; }
+    const std::string &producerName() const { return *m_producerName; }
+    bool isRunning() const;
+
+    // What the features do.
+    CvxCPP::CvxError updateDeviceList();
+    CvxCPP::CvxError selectorRange(long &min, long &max) const;
+    CvxCPP::CvxError select(long index);
+    CvxCPP::CvxError selectedText(std::string DeviceRecord::*field, char *buffer, unsigned &size) const;
+
+private:
+    const std::weak_ptr<InterfaceSource> m_source;
+    const std::size_t m_producer;
+    const std::shared_ptr<const std::string> m_producerName;
+    const std::string m_id;
+    std::array<InterfaceFeature, 4> m_features;
+
+    mutable std::mutex m_mutex;
+    std::shared_ptr<const InterfaceRecord> m_record; // Never null.
+    std::size_t m_selected = 0; // Meaningless while there is no device.
+};

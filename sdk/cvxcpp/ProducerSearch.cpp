@@ -1,0 +1,61 @@
+#include "sdk/cvxcpp/ProducerSearch.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <dirent.h>
+#include <memory>
+#include <set>
+#include <string_view>
+#include <strings.h>
+#include <sys/stat.h>
+#include <utility>
+
+namespace {
+
+bool isCtiName(std::string_view name)
+{
+    constexpr std::string_view suffix = ".cti";
+    return name.size() >= suffix.size()
+        && strncasecmp(name.data() + name.size() - suffix.size(), suffix.data(), suffix.size()) == 0;
+}
+
+std::vector<std::string> ctiNames(const std::string &directory)
+{
+    std::vector<std::string> names;
+    const std::unique_ptr<DIR, int (*)(DIR *)> stream(opendir(directory.c_str()), closedir);
+    if (!stream)
+        return names;
+    while (const dirent *entry = readdir(stream.get())) {
+        if (isCtiName(entry->d_name))
+            names.emplace_back(entry->d_name);
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// The absolute path without links; empty when there is no such file.
+std::string resolved(const std::string &path)
+{
+    const std::unique_ptr<char, void (*)(void *)> real(realpath(path.c_str(), nullptr), std::free);
+    return real ? std::string(real.get()) : std::string();
+}
+
+} // namespace
+
+std::vector<std::string> findProducers(const std::vector<std::string> &directories)
+{
+    std::vector<std::string> producers;
+    std::set<std::pair<dev_t, ino_t>> known;
+    for (const std::string &directory : directories) {
+        for (const std::string &name : ctiNames(directory)) {
+            const std::string path = resolved(directory + '/' + name);
+            struct stat file
+            { };
+            if (path.empty() || stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode))
+                continue;
+            if (known.emplace(file.st_dev, file.st_ino).second)
+                producers.push_back(path);
+        }
+    }
+    return producers;
+}

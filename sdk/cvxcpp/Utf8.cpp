@@ -1,0 +1,83 @@
+#include "sdk/cvxcpp/Utf8.h"
+
+#include <cstddef>
+
+namespace {
+
+constexpr std::string_view Replacement = "\xEF\xBF\xBD";
+
+unsigned byteAt(std::string_view bytes, std::size_t index)
+{
+    return static_cast<unsigned char>(bytes[index]);
+}
+
+/// The length of the well-formed sequence at the start of `bytes`; 0 when there is none.
+std::size_t sequenceLength(std::string_view bytes)
+{
+    // First byte, length, and the range of the second byte, which keeps out overlong forms and surrogates.
+    struct Form
+    {
+        unsigned first, last;
+        std::size_t length;
+        unsigned secondFirst, secondLast;
+    };
+    static constexpr Form forms[] = {
+        {0x00, 0x7F, 1, 0, 0},
+        {0xC2, 0xDF, 2, 0x80, 0xBF},
+        {0xE0, 0xE0, 3, 0xA0, 0xBF},
+        {0xE1, 0xEC, 3, 0x80, 0xBF},
+        {0xED, 0xED, 3, 0x80, 0x9F},
+        {0xEE, 0xEF, 3, 0x80, 0xBF},
+        {0xF0, 0xF0, 4, 0x90, 0xBF},
+        {0xF1, 0xF3, 4, 0x80, 0xBF},
+        {0xF4, 0xF4, 4, 0x80, 0x8F},
+    };
+    const unsigned lead = byteAt(bytes, 0);
+    for (const Form &form : forms) {
+        if (lead < form.first || lead > form.last)
+            continue;
+        if (bytes.size() < form.length)
+            return 0;
+        if (form.length > 1 && (byteAt(bytes, 1) < form.secondFirst || byteAt(bytes, 1) > form.secondLast))
+            return 0;
+        for (std::size_t i = 2; i < form.length; ++i) {
+            if ((byteAt(bytes, i) & 0xC0U) != 0x80U)
+                return 0;
+        }
+        return form.length;
+    }
+    return 0;
+}
+
+} // namespace
+
+std::string toValidUtf8(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const std::size_t length = sequenceLength(bytes);
+        text += length > 0 ? bytes.substr(0, length) : Replacement;
+        bytes.remove_prefix(length > 0 ? length : 1);
+    }
+    return text;
+}
+
+std::string toLine(std::string_view bytes)
+{
+    static constexpr char digits[] = "0123456789abcdef";
+    std::string line;
+    for (const char character : toValidUtf8(bytes)) {
+        const auto code = static_cast<unsigned char>(character);
+        if (character == '\n') {
+            line += "\\n";
+        } else if (code < 0x20 || code == 0x7F) {
+            line += "\\x";
+            line += digits[code >> 4];
+            line += digits[code & 0xF];
+        } else {
+            line += character;
+        }
+    }
+    return line;
+}

@@ -1,0 +1,144 @@
+#include "sdk/producerhost/DeviceReader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <set>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t LongestText = 64 * 1024; // Bytes. No ID or name comes near it.
+constexpr std::size_t SpareBytes = 256; // For producers that write past the size they asked for.
+constexpr int ReadAttempts = 4; // A text may grow between the two calls.
+constexpr std::uint32_t MostDevices = 1U << 20;
+
+/// No count a producer gives, so it shows that an output was left untouched.
+constexpr std::uint32_t NoCount = std::numeric_limits<std::uint32_t>::max();
+
+bool isTooSmall(const Problem &problem)
+{
+    // Before version 1.4 of the standard there was no code of its own for it.
+    return problem.code == GenTL::GC_ERR_BUFFER_TOO_SMALL || problem.code == GenTL::GC_ERR_INVALID_PARAMETER;
+}
+
+bool isText(GenTL::INFO_DATATYPE type)
+{
+    return type == GenTL::INFO_DATATYPE_UNKNOWN || type == GenTL::INFO_DATATYPE_STRING
+        || type == GenTL::INFO_DATATYPE_STRINGLIST;
+}
+
+} // namespace
+
+DeviceReader::DeviceReader(const ProducerLibrary &library, std::vector<Problem> &problems)
+    : m_library(library), m_problems(problems)
+{ }
+
+template <typename Query>
+std::optional<Problem> DeviceReader::readText(const char *call, const Query &query, std::string &text) const
+{
+    std::optional<Problem> problem;
+    for (int attempt = 0; attempt < ReadAttempts; ++attempt) {
+        std::size_t size = 0;
+        GenTL::INFO_DATATYPE type = GenTL::INFO_DATATYPE_STRING; // Some producers never write it.
+        problem = m_library.call(call, query, static_cast<char *>(nullptr), &size, &type);
+        if (problem)
+            return problem;
+        if (size == 0)
+            return Problem{call, 0, "gave a text without a size"};
+
+        std::string buffer(std::min(size, LongestText) + SpareBytes, '\0');
+        size = buffer.size();
+        problem = m_library.call(call, query, buffer.data(), &size, &type);
+        if (problem && isTooSmall(*problem))
+            continue;
+        if (problem)
+            return problem;
+        if (!isText(type))
+            return Problem{call, 0, "gave data that is no text"};
+        text.assign(buffer.data(), strnlen(buffer.data(), std::min(size, buffer.size())));
+        return std::nullopt;
+    }
+    return problem;
+}
+
+bool DeviceReader::readInterfaceId(GenTL::TL_HANDLE system, std::uint32_t index, std::string &id)
+{
+    const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *) {
+        return m_library.TLGetInterfaceID(system, index, buffer, size);
+    };
+    if (auto problem = readText("TLGetInterfaceID", query, id)) {
+        addProblem(m_problems, std::move(*problem));
+        return false;
+    }
+    return true;
+}
+
+std::string DeviceReader::readInterfaceInfo(
+    GenTL::TL_HANDLE system, const std::string &interfaceId, GenTL::INTERFACE_INFO_CMD command)
+{
+    if (!m_library.TLGetInterfaceInfo)
+        return {};
+    const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *type) {
+        return m_library.TLGetInterfaceInfo(system, interfaceId.c_str(), command, type, buffer, size);
+    };
+    std::string text;
+    if (readText("TLGetInterfaceInfo", query, text))
+        return {}; // The ID stands in for a name, the devices' own type for the interface's.
+    return text;
+}
+
+bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDescription> &devices)
+{
+    std::uint32_t count = NoCount;
+    auto problem = m_library.call("IFGetNumDevices", m_library.IFGetNumDevices, interface, &count);
+    if (!problem && count > MostDevices)
+        problem = Problem{"IFGetNumDevices", 0, "gave no credible number of devices"};
+    if (problem) {
+        addProblem(m_problems, std::move(*problem));
+        return false;
+    }
+
+    std::set<std::string> ids; // Sorted, and each once: producers list in any order.
+    for (std::uint32_t index = 0; index < count; ++index) {
+        const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *) {
+            return m_library.IFGetDeviceID(interface, index, buffer, size);
+        };
+        std::string id;
+        problem = readText("IFGetDeviceID", query, id);
+        if (problem)
+            addProblem(m_problems, std::move(*problem));
+        else
+            ids.insert(std::move(id));
+    }
+    devices.clear();
+    devices.reserve(ids.size());
+    while (!ids.empty())
+        devices.push_back(readDevice(interface, std::move(ids.extract(ids.begin()).value())));
+    return true;
+}
+
+DeviceDescription DeviceReader::readDevice(GenTL::IF_HANDLE interface, std::string id)
+{
+    DeviceDescription device;
+    device.id = std::move(id);
+    device.vendor = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_VENDOR, true);
+    device.model = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_MODEL, true);
+    device.serial = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_SERIAL_NUMBER, false);
+    device.name = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_DISPLAYNAME, true);
+    device.type = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_TLTYPE, true);
+    return device;
+}
+
+std::string DeviceReader::readDeviceInfo(
+    GenTL::IF_HANDLE interface, const std::string &id, GenTL::DEVICE_INFO_CMD command, bool required)
+{
+    const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *type) {
+        return m_library.IFGetDeviceInfo(interface, id.c_str(), command, type, buffer, size);
+    };
+    std::string text;
+    auto problem = readText("IFGetDeviceInfo", query, text);
+    if (problem && required)
+        addProblem(m_problems, std::move(*problem));
+    return text;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+/// The host's end of the socket to the process that started it: requests in, answers out, a line each.
+class LineSocket
+{
+public:
+    explicit LineSocket(int descriptor);
+
+    /// Waits for the next line, without its line feed; false when the other end is closed.
+    bool readLine(std::string &line);
+
+    /// Writes all of it; false when the other end is closed.
+    bool write(const std::string &text) const;
+
+private:
+    int m_descriptor;
+    std::string m_pending; // Read, but not yet handed out.
+};

@@ -1,0 +1,12 @@
+#include "sdk/producerhost/Problem.h"
+
+#include <algorithm>
+#include <utility>
+
+void addProblem(std::vector<Problem> &problems, Problem problem)
+{
+    const bool known = std::any_of(problems.begin(), problems.end(),
+        [&](const Problem &other) { return other.call == problem.call && other.code == problem.code; });
+    if (!known)
+        problems.push_back(std::move(problem));
+}

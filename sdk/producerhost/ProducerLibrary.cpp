@@ -1,0 +1,84 @@
+#include "sdk/producerhost/ProducerLibrary.h"
+
+#include <array>
+#include <cstring>
+#include <dlfcn.h>
+
+namespace {
+
+template <typename Function>
+bool resolve(void *library, const char *name, Function &function)
+{
+    function = reinterpret_cast<Function>(dlsym(library, name));
+    return function != nullptr;
+}
+
+void *openLibrary(const char *path, std::string &error)
+{
+    try {
+        void *library = dlopen(path, RTLD_NOW | RTLD_LOCAL); // All producers export the same names.
+        if (!library) {
+            const char *text = dlerror();
+            error = text ? text : "unknown error";
+        }
+        return library;
+    } catch (...) { // Constructors of the library run in here.
+        error = "threw an exception while it was loaded";
+        return nullptr;
+    }
+}
+
+} // namespace
+
+std::optional<Problem> ProducerLibrary::load(const char *path)
+{
+    std::string error;
+    void *library = openLibrary(path, error);
+    if (!library)
+        return Problem{"dlopen", 0, error};
+    return resolveFunctions(library);
+}
+
+std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)
+{
+    resolve(library, "TLGetInterfaceInfo", TLGetInterfaceInfo);
+    resolve(library, "GCGetLastError", GCGetLastError);
+
+    std::string missing;
+    const auto require = [&](const char *name, auto &function) {
+        if (!resolve(library, name, function))
+            missing += missing.empty() ? name : std::string(", ") + name;
+    };
+    require("GCInitLib", GCInitLib);
+    require("GCCloseLib", GCCloseLib);
+    require("TLOpen", TLOpen);
+    require("TLClose", TLClose);
+    require("TLUpdateInterfaceList", TLUpdateInterfaceList);
+    require("TLGetNumInterfaces", TLGetNumInterfaces);
+    require("TLGetInterfaceID", TLGetInterfaceID);
+    require("TLOpenInterface", TLOpenInterface);
+    require("IFClose", IFClose);
+    require("IFUpdateDeviceList", IFUpdateDeviceList);
+    require("IFGetNumDevices", IFGetNumDevices);
+    require("IFGetDeviceID", IFGetDeviceID);
+    require("IFGetDeviceInfo", IFGetDeviceInfo);
+    if (missing.empty())
+        return std::nullopt;
+    return Problem{"dlsym", 0, "the library lacks " + missing};
+}
+
+std::string ProducerLibrary::lastErrorText() const
+{
+    if (!GCGetLastError)
+        return {};
+    std::array<char, 1024> text{}; // Longer texts are refused by the producer and left out: it is only a log.
+    std::size_t size = text.size() - 1;
+    GenTL::GC_ERROR code = 0;
+    try {
+        if (GCGetLastError(&code, text.data(), &size) != GenTL::GC_ERR_SUCCESS)
+            return {};
+    } catch (...) {
+        return {};
+    }
+    return std::string(text.data(), strnlen(text.data(), text.size() - 1));
+}

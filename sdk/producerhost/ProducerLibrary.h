@@ -1,0 +1,56 @@
+#pragma once
+
+#include "sdk/gentl/GenTL.h"
+#include "sdk/producerhost/Problem.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+
+/// The functions of one loaded GenTL producer, and the one way to call them: every failure, an exception
+/// included, comes back as a Problem. The library is never unloaded, since some producers do not survive it.
+class ProducerLibrary
+{
+public:
+    /// Loads the file and looks its functions up. Only what listing needs must be there.
+    std::optional<Problem> load(const char *path);
+
+    /// Calls a function. Every return value but 0 is a failure, positive ones too.
+    template <typename Function, typename... Arguments>
+    std::optional<Problem> call(const char *name, Function function, Arguments... arguments) const
+    {
+        GenTL::GC_ERROR code = GenTL::GC_ERR_SUCCESS;
+        try {
+            code = function(arguments...);
+        } catch (const std::exception &exception) {
+            return Problem{name, 0, std::string("threw an exception: ") + exception.what()};
+        } catch (...) {
+            return Problem{name, 0, "threw an exception"};
+        }
+        if (code == GenTL::GC_ERR_SUCCESS)
+            return std::nullopt;
+        return Problem{name, code, lastErrorText()};
+    }
+
+    GenTL::PGCInitLib GCInitLib = nullptr;
+    GenTL::PGCCloseLib GCCloseLib = nullptr;
+    GenTL::PTLOpen TLOpen = nullptr;
+    GenTL::PTLClose TLClose = nullptr;
+    GenTL::PTLUpdateInterfaceList TLUpdateInterfaceList = nullptr;
+    GenTL::PTLGetNumInterfaces TLGetNumInterfaces = nullptr;
+    GenTL::PTLGetInterfaceID TLGetInterfaceID = nullptr;
+    GenTL::PTLOpenInterface TLOpenInterface = nullptr;
+    GenTL::PIFClose IFClose = nullptr;
+    GenTL::PIFUpdateDeviceList IFUpdateDeviceList = nullptr;
+    GenTL::PIFGetNumDevices IFGetNumDevices = nullptr;
+    GenTL::PIFGetDeviceID IFGetDeviceID = nullptr;
+    GenTL::PIFGetDeviceInfo IFGetDeviceInfo = nullptr;
+
+    // These two only add to an answer; null when the producer lacks them.
+    GenTL::PTLGetInterfaceInfo TLGetInterfaceInfo = nullptr;
+    GenTL::PGCGetLastError GCGetLastError = nullptr;
+
+private:
+    std::optional<Problem> resolveFunctions(void *library);
+    std::string lastErrorText() const;
+};

@@ -1,0 +1,57 @@
+#include "sdk/producerhost/HostServer.h"
+#include "sdk/producerhost/ParentWatch.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#if defined(CORVIX_COVERAGE)
+extern "C" void __gcov_dump(void);
+#endif
+
+namespace {
+
+constexpr int SocketDescriptor = 3; // The parent puts it there.
+constexpr int UsageError = 64;
+
+/// A driver that allocates without end must not take the machine with it.
+void limitMemory()
+{
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // They map terabytes.
+    rlimit limit{};
+    constexpr rlim_t MostBytes = rlim_t(8) << 30;
+    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur > MostBytes) {
+        limit.rlim_cur = MostBytes;
+        setrlimit(RLIMIT_AS, &limit);
+    }
+#endif
+}
+
+/// Ends the process without the destructors of the driver's static objects: it is closed in order, and what
+/// they still do can only crash or hang.
+[[noreturn]] void leave()
+{
+    std::fflush(stdout); // What the driver has printed.
+#if defined(CORVIX_COVERAGE)
+    __gcov_dump();
+#endif
+    _exit(EXIT_SUCCESS);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc != 2 || fcntl(SocketDescriptor, F_SETFD, FD_CLOEXEC) != 0) {
+        std::fputs("CvxProducerHost is started by libCvxCPP.so and by nothing else.\n", stderr);
+        return UsageError;
+    }
+    if (!dieWithParent(SocketDescriptor))
+        return EXIT_FAILURE;
+    limitMemory();
+    unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
+    HostServer(SocketDescriptor).run(argv[1]);
+    leave();
+}
