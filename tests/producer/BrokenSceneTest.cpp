@@ -1,0 +1,86 @@
+// Scene files that the simulator cannot use.
+
+#include "tests/producer/SimulatorScene.h"
+
+#include <algorithm>
+
+struct BrokenScene
+{
+    const char *name;
+    std::string text;
+    const char *complaint; ///< What standard error must say.
+};
+
+std::ostream &operator<<(std::ostream &stream, const BrokenScene &scene)
+{
+    return stream << scene.name;
+}
+
+class BrokenSimulatorScene : public SimulatorScene, public testing::WithParamInterface<BrokenScene>
+{ };
+
+TEST_P(BrokenSimulatorScene, KeepsTheLastGoodSceneAndSaysWhyOnce)
+{
+    folder.writeScene(oneCamera);
+    ASSERT_EQ(devicesNow(), Ids{"one"});
+    folder.writeScene(GetParam().text);
+
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(session.updateInterfaces());
+    EXPECT_FALSE(session.updateDevices(handle));
+    EXPECT_FALSE(session.updateDevices(handle));
+    const std::string complaints = testing::internal::GetCapturedStderr();
+    EXPECT_NE(complaints.find(GetParam().complaint), std::string::npos) << complaints;
+    EXPECT_EQ(std::count(complaints.begin(), complaints.end(), '\n'), 1) << complaints;
+
+    EXPECT_EQ(session.deviceIds(handle), Ids{"one"});
+    folder.writeScene(anotherCamera);
+    EXPECT_EQ(devicesNow(), Ids{"two"}) << "repaired";
+}
+
+TEST_P(BrokenSimulatorScene, ShowsTheTwoCamerasIfThereWasNoGoodScene)
+{
+    folder.writeScene(GetParam().text);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(devicesNow().size(), 2U);
+    testing::internal::GetCapturedStderr();
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, BrokenSimulatorScene,
+    testing::Values(BrokenScene{"EmptyFile", "", "parse error"},
+        BrokenScene{"HalfWritten", R"({"interfaces": [{"id": "net", "dev)", "parse error"},
+        BrokenScene{"NoJson", "camera one", "parse error"},
+        BrokenScene{"BadUtf8", sceneOf("{\"id\": \"a\", \"vendor\": \"\xff\xfe\"}"), "parse error"},
+        BrokenScene{"RawControlCharacter", sceneOf("{\"id\": \"a\", \"vendor\": \"\x01\"}"), "parse error"},
+        BrokenScene{"DeeplyNested", std::string(500000, '['), "parse error"},
+        BrokenScene{"NoObject", "[]", "interfaces"}, BrokenScene{"NoInterfaces", "{}", "interfaces"},
+        BrokenScene{"InterfacesNoArray", R"({"interfaces": {}})", "\"interfaces\" is not an array"},
+        BrokenScene{"InterfaceNoObject", R"({"interfaces": [1]})", "interfaces[0] is not an object"},
+        BrokenScene{"InterfaceWithoutId", R"({"interfaces": [{"name": "x"}]})", "interfaces[0]: \"id\""},
+        BrokenScene{"InterfaceIdEmpty", R"({"interfaces": [{"id": ""}]})", "interfaces[0]: \"id\""},
+        BrokenScene{
+            "DevicesNoArray", R"({"interfaces": [{"id": "n", "devices": "x"}]})", "\"devices\" is not"},
+        BrokenScene{"DeviceNoObject", sceneOf("null"), "interfaces[0].devices[0] is not an object"},
+        BrokenScene{"DeviceWithoutId", sceneOf(R"({"id": "a"}, {"model": "M"})"), "devices[1]: \"id\""},
+        BrokenScene{"NumberForText", sceneOf(R"({"id": "a", "serial": 42})"), "\"serial\" is not a string"},
+        BrokenScene{
+            "NullForText", sceneOf(R"({"id": "a", "userName": null})"), "\"userName\" is not a string"},
+        BrokenScene{"NulInText", sceneOf(R"({"id": "a\u0000b"})"), "NUL"},
+        BrokenScene{"TooLarge", std::string(17U << 20U, ' '), "larger than 16 MiB"}),
+    [](const auto &parameter) { return std::string(parameter.param.name); });
+
+TEST_F(SimulatorScene, AFolderInTheFilesPlaceIsABrokenScene)
+{
+    folder.makeSceneAFolder();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(devicesNow().size(), 2U);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("not a regular file"), std::string::npos);
+}
+
+TEST_F(SimulatorScene, APipeInTheFilesPlaceHoldsNothingUp)
+{
+    folder.makeSceneAPipe();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(devicesNow().size(), 2U);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("not a regular file"), std::string::npos);
+}
