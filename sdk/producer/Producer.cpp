@@ -71,6 +71,7 @@ GC_ERROR failNotInitialised()
 Producer &Producer::instance()
 {
     // Never destroyed: a consumer may leave the process while a thread of its own is still in a call.
+    // Once closed it owns no memory, so unloading loses none.
     alignas(Producer) static std::byte storage[sizeof(Producer)];
     static Producer *const producer = new (storage) Producer;
     return *producer;
@@ -79,37 +80,37 @@ Producer &Producer::instance()
 GC_ERROR Producer::initialise()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_source)
+    if (m_session)
         return fail(GC_ERR_RESOURCE_IN_USE, "The producer is initialised already.");
-    m_file = ownFile();
-    m_source = createDeviceSource(m_file);
+    const std::filesystem::path file = ownFile();
+    m_session = Session{file, createDeviceSource(file)};
     return GC_ERR_SUCCESS;
 }
 
 GC_ERROR Producer::close()
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_source)
+    if (!m_session)
         return failNotInitialised();
     closeEverything();
-    m_source.reset();
+    m_session.reset();
     return GC_ERR_SUCCESS;
 }
 
 GC_ERROR Producer::requireInitialised() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_source ? GC_ERR_SUCCESS : failNotInitialised();
+    return m_session ? GC_ERR_SUCCESS : failNotInitialised();
 }
 
 GC_ERROR Producer::info(TL_INFO_CMD command, const Answer &answer) const
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_source)
+    if (!m_session)
         return failNotInitialised();
     if (!answer.isComplete())
         return failArgumentMissing();
-    return answerSystemInfo(m_source->identity(), m_file, command, answer);
+    return answerSystemInfo(m_session->source->identity(), m_session->file, command, answer);
 }
 
 GC_ERROR Producer::openSystem(TL_HANDLE *handle)
@@ -119,7 +120,7 @@ GC_ERROR Producer::openSystem(TL_HANDLE *handle)
     const std::lock_guard lock(m_mutex);
     if (m_system)
         return fail(GC_ERR_RESOURCE_IN_USE, "The system module is open already.");
-    m_system = std::make_shared<SystemModule>(m_source);
+    m_system = std::make_shared<SystemModule>(m_session->source);
     m_systemHandle = newHandle();
     *handle = m_systemHandle;
     return GC_ERR_SUCCESS;
@@ -147,7 +148,7 @@ GC_ERROR Producer::openInterface(const SystemModule &systemModule, const std::st
     if (!record)
         return failUnknownId(id);
     const IF_HANDLE opened = newHandle();
-    m_interfaces.emplace(opened, std::make_shared<InterfaceModule>(m_source, *record));
+    m_interfaces.emplace(opened, std::make_shared<InterfaceModule>(m_session->source, *record));
     *handle = opened;
     return GC_ERR_SUCCESS;
 }

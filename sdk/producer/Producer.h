@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 /// All state of the loaded producer: whether it is initialised, and which handles are open.
 /// A handle is a number that is never used twice, so a closed or foreign one is always recognised.
@@ -36,6 +37,13 @@ public:
     std::shared_ptr<InterfaceModule> interface(GenTL::IF_HANDLE handle) const;
 
 private:
+    /// What exists from GCInitLib to GCCloseLib.
+    struct Session
+    {
+        std::filesystem::path file; ///< The producer's own.
+        std::shared_ptr<DeviceSource> source;
+    };
+
     Producer() = default;
     bool isOpen(const std::string &interfaceId) const;
     void *newHandle();
@@ -43,8 +51,7 @@ private:
 
     mutable std::mutex m_mutex; // Guards what follows; held for look-ups only, never during a search.
     std::uintptr_t m_lastHandle = 0;
-    std::filesystem::path m_file;
-    std::shared_ptr<DeviceSource> m_source; // Null while not initialised.
+    std::optional<Session> m_session;
     GenTL::TL_HANDLE m_systemHandle = GenTL::GENTL_INVALID_HANDLE;
     std::shared_ptr<SystemModule> m_system;
     std::map<GenTL::IF_HANDLE, std::shared_ptr<InterfaceModule>> m_interfaces;

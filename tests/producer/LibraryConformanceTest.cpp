@@ -275,10 +275,10 @@ TEST_P(LibraryConformance, LeavesTheProcessCleanlyWithoutBeingClosed)
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_EXIT(
         {
-            auto *const session = new ProducerSession(GetParam());
-            session->updateInterfaces();
-            for (const std::string &id : session->interfaceIds())
-                session->updateDevices(session->open(id));
+            const ProducerSession session(GetParam()); // exit() runs no destructor of a local object.
+            session.updateInterfaces();
+            for (const std::string &id : session.interfaceIds())
+                session.updateDevices(session.open(id));
             std::exit(HasFailure() ? 1 : 0);
         },
         testing::ExitedWithCode(0), "");
