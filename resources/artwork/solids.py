@@ -10,7 +10,7 @@ YAW, PITCH = radians(-36), radians(20)
 X = (cos(YAW), -sin(YAW) * sin(PITCH))  # The three axes on the page, where y points down.
 Y = (0.0, -cos(PITCH))
 Z = (sin(YAW), cos(YAW) * sin(PITCH))
-PLANES = {'front': (X, Y, Z), 'top': (X, Z, Y), 'side': (Z, Y, X)}  # Two directions in the plane, then its normal.
+PLANES = {'front': (X, Y), 'top': (X, Z), 'side': (Z, Y)}
 
 # Light comes from the upper left: the top is brightest, the right side lies in shade. From and to per face.
 MATERIALS = {
@@ -75,46 +75,46 @@ class Drawing:
 
     def shadow(self, centre, size):
         (x, y, z), (w, h, d) = centre, size
-        floor = [self.point(x + a * w * .52, y - h / 2 - h * .04, z + b * d * .52) for a, b in ((-1, -1), (1, -1), (1, 1), (-1, 1))]
+        floor = [self.point(x + a * w * .52, y - h * .54, z + b * d * .52)
+                 for a, b in ((-1, -1), (1, -1), (1, 1), (-1, 1))]
         self.polygon(floor, '#0f1419', 'opacity=".38" filter="url(#soft)"')
 
     def matrix(self, plane, x, y, z):
         """Transform that puts flat artwork, y up, onto a plane through the point."""
-        a, b, _ = PLANES[plane]
+        a, b = PLANES[plane]
         ox, oy = project(x, y, z)
         return f'matrix({a[0]:.4f} {a[1]:.4f} {b[0]:.4f} {b[1]:.4f} {ox:.2f} {oy:.2f})'
 
-    def flat(self, plane, at, content, more=''):
-        self.body.append(f'<g transform="{self.matrix(plane, *at)}" {more}>{content}</g>')
+    def flat(self, plane, at, content):
+        self.body.append(f'<g transform="{self.matrix(plane, *at)}">{content}</g>')
 
-    def cylinder(self, plane, at, radius, length, material, cap=None):
-        """Stands on the plane at the point and rises by length along the plane's normal."""
-        a, b, n = PLANES[plane]
+    def cylinder(self, at, radius, length, material):
+        """Lies along the optical axis and reaches from its base towards the viewer; gives the middle of its front."""
         ox, oy = project(*at)
-        rise = (n[0] * length, n[1] * length)
-        # The outline leaves the ellipse where its tangent runs along the axis.
-        start = atan2(-(rise[0] * a[1] - rise[1] * a[0]), rise[0] * b[1] - rise[1] * b[0]) + pi / 2
-        around = [(ox + radius * (a[0] * cos(t) + b[0] * sin(t)), oy + radius * (a[1] * cos(t) + b[1] * sin(t)))
+        rise = (Z[0] * length, Z[1] * length)
+        # The outline leaves the base where its tangent runs along the axis.
+        start = atan2(rise[1] * X[0] - rise[0] * X[1], rise[0] * Y[1] - rise[1] * Y[0]) + pi / 2
+        around = [(ox + radius * (X[0] * cos(t) + Y[0] * sin(t)), oy + radius * (X[1] * cos(t) + Y[1] * sin(t)))
                   for t in (start + i * pi / 24 for i in range(49))]
-        near, far = around[:25], around[24:]
-        if sum(px * rise[0] + py * rise[1] for px, py in near) < sum(px * rise[0] + py * rise[1] for px, py in far):
-            near, far = far, near
+        halves = around[:25], around[24:]
+        far, near = sorted(halves, key=lambda half: sum(px * rise[0] + py * rise[1] for px, py in half))
         lifted = [(px + rise[0], py + rise[1]) for px, py in near]
         for px, py in around + lifted:
             self.low = [min(self.low[0], px), min(self.low[1], py)]
             self.high = [max(self.high[0], px), max(self.high[1], py)]
         self.polygon(far + lifted, self.gradient(ROUND[material], *sorted((far[0], far[-1])), units='userSpaceOnUse'))
-        top = tuple(c + length * (axis == 'xyz'.index({'front': 'z', 'top': 'y', 'side': 'x'}[plane]))
-                    for axis, c in enumerate(at))
-        self.flat(plane, top, f'<circle r="{radius}"/>', f'fill="{cap or self.gradient(MATERIALS[material]["front"])}"')
-        return top
+        front = (at[0], at[1], at[2] + length)
+        self.flat('front', front, f'<circle r="{radius}" fill="{self.gradient(MATERIALS[material]["front"])}"/>')
+        return front
 
     def svg(self, width):
         margin = 3 * self.line
         left, top = (v - margin for v in self.low)
         right, bottom = (v + margin for v in self.high)
         scale = width / (right - left)
-        return (f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{round((bottom - top) * scale)}" '
-                f'viewBox="{left:.2f} {top:.2f} {right - left:.2f} {bottom - top:.2f}">\n'
-                '<defs><filter id="soft" x="-30%" y="-60%" width="160%" height="220%"><feGaussianBlur stdDeviation="' f'{self.line * 3:.2f}"/>'
-                '</filter>\n' + '\n'.join(self.defs) + '</defs>\n' + '\n'.join(self.body) + '\n</svg>\n')
+        size = f'width="{width}" height="{round((bottom - top) * scale)}"'
+        area = f'viewBox="{left:.2f} {top:.2f} {right - left:.2f} {bottom - top:.2f}"'
+        blur = (f'<filter id="soft" x="-30%" y="-60%" width="160%" height="220%">'
+                f'<feGaussianBlur stdDeviation="{self.line * 3:.2f}"/></filter>')
+        return '\n'.join([f'<svg xmlns="http://www.w3.org/2000/svg" {size} {area}>', '<defs>', blur, *self.defs, '</defs>',
+                          *self.body, '</svg>', ''])
