@@ -2,7 +2,6 @@
 
 #include <nlohmann/json.hpp>
 #include <stdexcept>
-#include <utility>
 
 namespace {
 
@@ -30,9 +29,9 @@ std::string requiredText(const Json &object, const char *key, const std::string 
     return text;
 }
 
-std::string orElse(std::string text, const std::string &fallback)
+std::string orElse(const std::string &text, const std::string &fallback)
 {
-    return text.empty() ? fallback : std::move(text);
+    return text.empty() ? fallback : text;
 }
 
 std::string madeUpDisplayName(const DeviceRecord &device)

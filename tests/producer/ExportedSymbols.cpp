@@ -9,12 +9,13 @@
 
 namespace {
 
-/// Reads one entry of an ELF table; std::vector::at refuses what is outside the file.
+/// Reads one entry of an ELF table.
 template <typename Entry>
 Entry entryAt(const std::vector<char> &file, std::size_t offset)
 {
     Entry entry;
-    file.at(offset + sizeof entry - 1);
+    if (offset > file.size() || file.size() - offset < sizeof entry)
+        throw std::runtime_error("The library is cut short.");
     std::memcpy(&entry, file.data() + offset, sizeof entry);
     return entry;
 }
@@ -37,7 +38,8 @@ std::set<std::string> exportedSymbols(const std::filesystem::path &library)
     const std::vector<char> file{std::istreambuf_iterator<char>(stream), {}};
     const auto header = entryAt<Elf64_Ehdr>(file, 0);
     const Elf64_Shdr symbols = dynamicSymbolTable(file, header);
-    const auto names = entryAt<Elf64_Shdr>(file, header.e_shoff + symbols.sh_link * header.e_shentsize);
+    const auto names
+        = entryAt<Elf64_Shdr>(file, header.e_shoff + std::size_t(symbols.sh_link) * header.e_shentsize);
 
     std::set<std::string> exported;
     for (std::size_t offset = 0; offset < symbols.sh_size; offset += sizeof(Elf64_Sym)) {

@@ -270,6 +270,17 @@ TEST_P(LibraryConformance, RefusesToTellTheLastErrorWithoutOutputs)
     EXPECT_EQ(session.producer().GCGetLastError(&code, nullptr, nullptr), GC_ERR_INVALID_PARAMETER);
 }
 
+TEST_P(LibraryConformance, KeepsTheLastErrorForASecondTryWithALongerBuffer)
+{
+    const ProducerSession session(GetParam());
+    EXPECT_EQ(session.producer().TLOpen(nullptr), GC_ERR_INVALID_PARAMETER);
+    GC_ERROR code = GC_ERR_SUCCESS;
+    char text[1];
+    std::size_t size = sizeof text;
+    EXPECT_EQ(session.producer().GCGetLastError(&code, text, &size), GC_ERR_BUFFER_TOO_SMALL);
+    expectLastError(session.producer(), GC_ERR_INVALID_PARAMETER);
+}
+
 TEST_P(LibraryConformance, LeavesTheProcessCleanlyWithoutBeingClosed)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";

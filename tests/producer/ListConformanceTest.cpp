@@ -267,6 +267,7 @@ TEST_P(ListConformance, ThreadsMayListAndUpdateAtTheSameTime)
         }
     };
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i)
         threads.emplace_back(listAll);
     for (std::thread &thread : threads)

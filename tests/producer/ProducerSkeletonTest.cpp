@@ -10,13 +10,11 @@
 
 using namespace GenTL;
 
-namespace {
-
 class ProducerSkeleton : public testing::Test
 {
 protected:
-    ProducerSkeleton() { session.updateInterfaces(); }
-    ~ProducerSkeleton() override { unsetenv("SCRIPTED_PRODUCER"); }
+    void SetUp() override { session.updateInterfaces(); }
+    void TearDown() override { unsetenv("SCRIPTED_PRODUCER"); }
 
     const LoadedProducer &producer() const { return session.producer(); }
 
@@ -32,8 +30,6 @@ protected:
 
     const ProducerSession session{SCRIPTED_PRODUCER_FILE};
 };
-
-} // namespace
 
 TEST_F(ProducerSkeleton, AFailedDeviceSearchKeepsTheList)
 {
@@ -121,6 +117,7 @@ TEST_F(ProducerSkeleton, OneInterfaceIsNeverSearchedTwiceAtOnce)
 {
     const IF_HANDLE handle = session.open("one at a time");
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i)
         threads.emplace_back([&] {
             for (int round = 0; round < 200; ++round)

@@ -60,7 +60,7 @@ std::string readBytes(const InfoCall &call)
     if (code != GC_ERR_SUCCESS || size == 0)
         return {};
 
-    const std::string value = readInto(call, size, size);
+    std::string value = readInto(call, size, size);
     EXPECT_EQ(readInto(call, size + 10, size), value);
     expectTooSmall(call, size - 1);
     expectTooSmall(call, 0);
@@ -71,10 +71,10 @@ std::string readBytes(const InfoCall &call)
     return value;
 }
 
-std::string withoutNul(std::string bytes)
+std::string withoutNul(const std::string &bytes)
 {
     EXPECT_EQ(bytes.find('\0'), bytes.size() - 1) << "one NUL, and that at the end";
-    return bytes.c_str();
+    return bytes.substr(0, bytes.find('\0'));
 }
 
 void expectType(const InfoCall &call, INFO_DATATYPE expected)
