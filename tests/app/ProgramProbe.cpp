@@ -100,6 +100,7 @@ class Probe
 public:
     Probe() : scenario(qgetenv("LAUNCHER_TEST_SCENARIO"))
     {
+        CvxScripted::reset(); // The record is made now, so that it goes after us.
         if (scenario == "SDK does not start")
             CvxScripted::script().errors[Function::Startup] = CvxCPP::CvxErrorHostMissing;
         if (scenario == "closed while it scans")
