@@ -50,12 +50,10 @@ public:
 
     CvxError GetRange(long &min, long &max) const override
     {
-        if (const CvxError error = answer({Function::GetRange, m_name}))
-            return error;
         const auto &devices = m_record->devices;
         min = m_record->min.value_or(devices.empty() ? 0 : devices.begin()->first);
         max = m_record->max.value_or(devices.empty() ? -1 : devices.rbegin()->first);
-        return CvxErrorSuccess;
+        return answer({Function::GetRange, m_name}); // A failed call may have written all the same.
     }
 
     CvxError SetValue(long value) override

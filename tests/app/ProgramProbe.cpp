@@ -3,6 +3,7 @@
 
 #include "sdk/testing/Gate.h"
 #include "sdk/testing/ScriptedCvxCPP.h"
+#include "tests/support/MarkingTranslator.h"
 #include "tests/support/ModalCatcher.h"
 #include "ui/MainWindow.h"
 
@@ -37,6 +38,8 @@ public:
         : QObject(qApp), scenario(std::move(scenarioName)), gate(scanGate)
     {
         qApp->installEventFilter(this);
+        if (scenario.endsWith("translated"))
+            QCoreApplication::installTranslator(&translator);
         catcher.onBox = [](QMessageBox &box) {
             print("box title", box.windowTitle());
             print("box text", box.text());
@@ -89,6 +92,7 @@ private:
 
     QByteArray scenario;
     CvxScripted::Gate &gate;
+    MarkingTranslator translator;
     ModalCatcher catcher;
     MainWindow *window = nullptr;
     QTimer timer;
@@ -101,7 +105,7 @@ public:
     Probe() : scenario(qgetenv("LAUNCHER_TEST_SCENARIO"))
     {
         CvxScripted::reset(); // The record is made now, so that it goes after us.
-        if (scenario == "SDK does not start")
+        if (scenario.startsWith("SDK does not start"))
             CvxScripted::script().errors[Function::Startup] = CvxCPP::CvxErrorHostMissing;
         if (scenario == "closed while it scans")
             CvxScripted::script().intercept = [this](const CvxScripted::Call &call) { return hold(call); };

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace ControllerTest;
@@ -142,6 +143,7 @@ void TestLaunchTool::toolIsDetached()
     const int sessionField = 5;
     QVERIFY(stat().value(parentField).toInt() != getpid());
     QVERIFY(stat().value(sessionField).toInt() != getsid(0));
+    QCOMPARE(waitpid(-1, nullptr, WNOHANG), -1); // There is no child of ours, running or dead.
 }
 
 void TestLaunchTool::toolOutlivesTheController()

@@ -59,6 +59,7 @@ private slots:
     void startsScansAndEndsWhenItsWindowCloses();
     void looksAsItsStyleSheetSays();
     void refusedStartupShowsOneDialogAndNoWindow();
+    void refusedStartupIsReportedInTranslation();
     void missingStyleSheetIsLoggedAndTheProgramRuns();
     void closingDuringAScanWaitsForTheScan();
 };
@@ -99,6 +100,15 @@ void TestProgram::refusedStartupShowsOneDialogAndNoWindow()
     QVERIFY(result.tells("starts: 1"));
     QVERIFY(result.tells("scans: 0"));
     QVERIFY(result.tells("shutdowns: 1"));
+}
+
+void TestProgram::refusedStartupIsReportedInTranslation()
+{
+    const Run result = runProgram("SDK does not start, translated");
+    QCOMPARE(result.exitCode, 255);
+    QVERIFY(result.tells("box title: [QObject] Corvix X initialization failed"));
+    QVERIFY(result.tells("box text: [QObject] Failed to initialize the Corvix X system. "
+                         "The launcher will be closed."));
 }
 
 void TestProgram::missingStyleSheetIsLoggedAndTheProgramRuns()

@@ -1,5 +1,6 @@
 #include "tests/app/ControllerTest.h"
 #include "tests/app/Descriptors.h"
+#include "tests/support/MarkingTranslator.h"
 #include "tests/support/ScriptFile.h"
 
 #include <QMenu>
@@ -42,6 +43,7 @@ private slots:
 
     void iconShowsTheWindowsIconAndTheName();
     void menuOffersShowAndExit();
+    void textsAreTranslated();
     void everythingBelongsToTheControllerAndItsWindow();
     void minimizeToTrayHidesTheWindowAndTheProgramGoesOn();
     void withAHiddenIconMinimizeToTrayMinimises();
@@ -137,6 +139,19 @@ void TestTray::menuOffersShowAndExit()
     QVERIFY(actions.at(1)->isSeparator());
     QCOMPARE(actions.at(2)->text(), QStringLiteral("Exit"));
     QVERIFY(actions.at(2)->shortcut().isEmpty());
+}
+
+void TestTray::textsAreTranslated()
+{
+    MarkingTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    m_controller = std::make_unique<ApplicationController>();
+    const auto *icon = m_controller->findChild<QSystemTrayIcon *>();
+    QVERIFY(icon);
+    QCOMPARE(icon->toolTip(), QStringLiteral("[ApplicationController] Corvix X - Application Launcher"));
+    const QList<QAction *> actions = icon->contextMenu()->actions();
+    QCOMPARE(actions.first()->text(), QStringLiteral("[ApplicationController] Show"));
+    QCOMPARE(actions.last()->text(), QStringLiteral("[ApplicationController] Exit"));
 }
 
 void TestTray::everythingBelongsToTheControllerAndItsWindow()

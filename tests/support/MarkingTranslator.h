@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QTranslator>
+
+/// Translates every text into "[context] text", so that a test sees what is translated, and where.
+/// To be installed on the application.
+class MarkingTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return QStringLiteral("[%1] %2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
+    }
+};
