@@ -9,6 +9,8 @@
 EmbeddedFiles::EmbeddedFiles(const QMap<QString, QByteArray> &files)
     : m_bundle(m_directory.filePath(QStringLiteral("bundle.rcc")))
 {
+    if (files.isEmpty())
+        return;
     QByteArray list = "<RCC><qresource prefix=\"/\">";
     for (auto file = files.begin(); file != files.end(); ++file) {
         ScriptFile::write(m_directory.filePath(file.key()), file.value());
@@ -25,5 +27,5 @@ EmbeddedFiles::EmbeddedFiles(const QMap<QString, QByteArray> &files)
 
 EmbeddedFiles::~EmbeddedFiles()
 {
-    QResource::unregisterResource(m_bundle);
+    QResource::unregisterResource(m_bundle); // Does nothing when there was none.
 }

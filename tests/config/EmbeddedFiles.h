@@ -10,7 +10,7 @@
 class EmbeddedFiles
 {
 public:
-    /// Contents by path, for example "config/launcher_config.json".
+    /// Contents by path, for example "config/launcher_config.json"; none at all is the quickest.
     explicit EmbeddedFiles(const QMap<QString, QByteArray> &files);
     ~EmbeddedFiles();
 
