@@ -109,9 +109,8 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::collectCamera
     auto cameras = std::make_shared<Cameras>();
     for (View &view : m_views) {
         cameras->insert(cameras->end(), view.list->cameras.begin(), view.list->cameras.end());
-        if (view.isAwaited && !std::exchange(view.isSettled, true))
+        if (!std::exchange(view.isSettled, true))
             view.announced = view.list; // The program has it from here.
-        view.isSettled = true;
     }
     return cameras;
 }
@@ -129,8 +128,10 @@ CvxError DiscoverySession::searchInterface(
             return CvxErrorTimeout;
         view.wantedInterfaces.insert(interfaceId);
         m_wakeEvent.signal();
-        const bool isAnswered = m_changed.wait_until(lock, deadline,
-            [&] { return m_isStopping || !view.isAwaited || view.wantedInterfaces.count(interfaceId) == 0; });
+        const bool isAnswered = m_changed.wait_until(lock, deadline, [&] {
+            return m_isStopping || !view.isAwaited || isInterfaceFresh(view, interfaceId)
+                || view.wantedInterfaces.count(interfaceId) == 0;
+        });
         if (m_isStopping)
             return CvxErrorNotStarted;
         if (!isAnswered)

@@ -10,7 +10,6 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
-#include <cstdint>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -52,7 +51,6 @@ private:
         std::vector<std::shared_ptr<const InterfaceRecord>> records;
         Time listedAt = Time::min();
         std::map<std::string, Time> interfaceListedAt; ///< Searches of one interface, later than listedAt.
-        std::uint64_t answers = 0; ///< Of either kind.
         bool isAwaited = true; ///< False from a missed deadline or a loss to the next answer.
 
         CameraList::Pointer announced = CameraList::empty();

@@ -37,6 +37,9 @@ public:
     /// Reads what is there, without waiting, up to the end of a line, which is stored without its line feed.
     Reading readLine(std::string &line);
 
+    /// Something has come after the last line that was read.
+    bool hasMore() const { return !m_pending.empty(); }
+
     void closeSocket();
 
     /// Kills the host and whatever its producer has started.

@@ -133,7 +133,8 @@ Producer::Event Producer::takeAnswer(const std::string &line, Time now)
 {
     if (!m_isBusy)
         return fail(now, "sent an answer that nobody asked for");
-    if (m_isListAsked && line == m_lastAnswer) {
+    const bool hasMore = m_host.hasMore();
+    if (!hasMore && m_isListAsked && line == m_lastAnswer) {
         m_isBusy = false;
         return Event::Listed;
     }
@@ -144,6 +145,8 @@ Producer::Event Producer::takeAnswer(const std::string &line, Time now)
         const CallProblem &problem = answer.problems.front();
         return fail(now, callReason(problem.call, problem.code, problem.text), m_options.endWait);
     }
+    if (hasMore)
+        return fail(now, "sent more than the answer that it was asked for");
     m_isBusy = false;
     reportProblems(answer.problems);
     return m_isListAsked ? takeList(answer, line) : takeInterface(answer);

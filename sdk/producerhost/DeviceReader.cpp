@@ -113,32 +113,41 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
     }
     devices.clear();
     devices.reserve(ids.size());
-    while (!ids.empty())
-        devices.push_back(readDevice(interface, std::move(ids.extract(ids.begin()).value())));
+    while (!ids.empty()) {
+        if (auto device = readDevice(interface, std::move(ids.extract(ids.begin()).value())))
+            devices.push_back(std::move(*device));
+    }
     return true;
 }
 
-DeviceDescription DeviceReader::readDevice(GenTL::IF_HANDLE interface, std::string id)
+std::optional<DeviceDescription> DeviceReader::readDevice(GenTL::IF_HANDLE interface, std::string id)
 {
+    static constexpr std::pair<GenTL::DEVICE_INFO_CMD, std::string DeviceDescription::*> required[] = {
+        {GenTL::DEVICE_INFO_VENDOR, &DeviceDescription::vendor},
+        {GenTL::DEVICE_INFO_MODEL, &DeviceDescription::model},
+        {GenTL::DEVICE_INFO_DISPLAYNAME, &DeviceDescription::name},
+        {GenTL::DEVICE_INFO_TLTYPE, &DeviceDescription::type},
+    };
     DeviceDescription device;
     device.id = std::move(id);
-    device.vendor = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_VENDOR, true);
-    device.model = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_MODEL, true);
-    device.serial = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_SERIAL_NUMBER, false);
-    device.name = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_DISPLAYNAME, true);
-    device.type = readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_TLTYPE, true);
+    for (const auto &[command, field] : required) {
+        auto problem = readDeviceInfo(interface, device.id, command, device.*field);
+        const bool isGone = problem && problem->code == GenTL::GC_ERR_INVALID_ID;
+        if (problem)
+            addProblem(m_problems, std::move(*problem));
+        if (isGone)
+            return std::nullopt;
+    }
+    // Many producers cannot tell it, which is no fault.
+    readDeviceInfo(interface, device.id, GenTL::DEVICE_INFO_SERIAL_NUMBER, device.serial);
     return device;
 }
 
-std::string DeviceReader::readDeviceInfo(
-    GenTL::IF_HANDLE interface, const std::string &id, GenTL::DEVICE_INFO_CMD command, bool required)
+std::optional<Problem> DeviceReader::readDeviceInfo(GenTL::IF_HANDLE interface, const std::string &id,
+    GenTL::DEVICE_INFO_CMD command, std::string &text) const
 {
     const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *type) {
         return m_library.IFGetDeviceInfo(interface, id.c_str(), command, type, buffer, size);
     };
-    std::string text;
-    auto problem = readText("IFGetDeviceInfo", query, text);
-    if (problem && required)
-        addProblem(m_problems, std::move(*problem));
-    return text;
+    return readText("IFGetDeviceInfo", query, text);
 }

@@ -2,6 +2,7 @@
 
 #include "sdk/producerhost/ProducerLibrary.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,9 +32,10 @@ public:
     bool readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDescription> &devices);
 
 private:
-    DeviceDescription readDevice(GenTL::IF_HANDLE interface, std::string id);
-    std::string readDeviceInfo(
-        GenTL::IF_HANDLE interface, const std::string &id, GenTL::DEVICE_INFO_CMD command, bool required);
+    /// Nothing when the device has gone meanwhile.
+    std::optional<DeviceDescription> readDevice(GenTL::IF_HANDLE interface, std::string id);
+    std::optional<Problem> readDeviceInfo(GenTL::IF_HANDLE interface, const std::string &id,
+        GenTL::DEVICE_INFO_CMD command, std::string &text) const;
 
     template <typename Query>
     std::optional<Problem> readText(const char *call, const Query &query, std::string &text) const;

@@ -146,5 +146,7 @@ std::vector<Problem> ProducerModule::close()
         note(m_library.call("TLClose", m_library.TLClose, std::exchange(m_system, nullptr)));
     if (std::exchange(m_isInitialised, false))
         note(m_library.call("GCCloseLib", m_library.GCCloseLib));
+    if (m_problems.size() > 1)
+        m_problems.resize(1); // What cannot be closed makes the next call fail as well.
     return m_problems;
 }

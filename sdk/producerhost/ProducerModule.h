@@ -33,7 +33,7 @@ public:
     const std::vector<OpenInterface> &interfaces() const { return m_interfaces; }
     const std::vector<Problem> &problems() const { return m_problems; }
 
-    /// Tears down in order, the only order that all producers survive, and gives what went wrong.
+    /// Tears down in order, the only order that all producers survive, and gives what went wrong first.
     std::vector<Problem> close();
 
 private:

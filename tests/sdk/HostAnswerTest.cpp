@@ -1,0 +1,66 @@
+#include "tests/sdk/support/SystemTest.h"
+
+using namespace CvxCPP;
+using namespace std::chrono_literals;
+
+struct FakeHost
+{
+    const char *name;
+    std::string script; ///< Of the shell; descriptor 3 is the socket.
+    std::string reason;
+};
+
+/// The host program replaced by something that does not keep to the protocol.
+class HostAnswerTest : public SystemTest, public testing::WithParamInterface<FakeHost>
+{ };
+
+TEST_P(HostAnswerTest, IsReportedOnceAndEndsTheHost)
+{
+    const auto host = directory.path() / "FakeHost";
+    writeFile(host, "#!/bin/sh\n" + GetParam().script + '\n');
+    std::filesystem::permissions(host, std::filesystem::perms::owner_all);
+    options.hostProgram = host.string();
+    options.firstRestart = 1h;
+    options.lookInterval = 1h;
+    options.reuseTime = 1h;
+    writeFile(ctiPath("a.cti"), "");
+    start();
+    EXPECT_TRUE(list().empty());
+    EXPECT_TRUE(waitUntil([this] { return !reports().empty(); }));
+    stop();
+    ASSERT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
+    EXPECT_EQ(countReports("cti/a.cti: " + GetParam().reason), 1U) << reports().front();
+}
+
+INSTANTIATE_TEST_SUITE_P(Hosts, HostAnswerTest,
+    testing::Values(FakeHost{"Garbage", "read line <&3; echo 'no JSON' >&3; sleep 100",
+                        "sent an answer that cannot be read"},
+        FakeHost{"Binary", "head -c 5000 /dev/urandom >&3; echo >&3; sleep 100",
+            "sent an answer that cannot be read"},
+        FakeHost{
+            "HalfAnAnswer", "read line <&3; printf '{\"interfaces\":[' >&3; exit 3", "exited with code 3"},
+        FakeHost{"NoAnswer", "read line <&3; exit 0", "exited with code 0"},
+        FakeHost{"WithoutEnd", "head -c 70000000 /dev/zero >&3; sleep 100", "sent an answer without end"},
+        FakeHost{"TwoAnswers",
+            "read line <&3; printf '{\"interfaces\":[]}\\n{\"interfaces\":[]}\\n' >&3; sleep 100",
+            "sent more than the answer that it was asked for"},
+        FakeHost{"UnaskedAnswer",
+            "read line <&3; echo '{\"interfaces\":[]}' >&3; sleep 0.3; echo x >&3; sleep 100",
+            "sent an answer that nobody asked for"},
+        FakeHost{"ClosedSocket", "exec 3>&-; sleep 100", "closed its connection and was killed"},
+        FakeHost{"EndUnasked", "read line <&3; echo '{\"ended\":true}' >&3; sleep 100",
+            "sent an answer that cannot be read"}),
+    [](const auto &test) { return test.param.name; });
+
+TEST_F(HostAnswerTest, AProgramThatCannotBeExecutedIsReported)
+{
+    const auto host = directory.path() / "FakeHost";
+    writeFile(host, "#!/nowhere/interpreter\n");
+    std::filesystem::permissions(host, std::filesystem::perms::owner_all);
+    options.hostProgram = host.string();
+    options.firstRestart = 1h;
+    writeFile(ctiPath("a.cti"), "");
+    start();
+    EXPECT_TRUE(list().empty());
+    EXPECT_TRUE(waitUntil([this] { return countReports("cannot start") == 1; }));
+}

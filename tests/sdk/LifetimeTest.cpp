@@ -1,0 +1,245 @@
+#include "tests/sdk/support/SystemTest.h"
+
+#include <atomic>
+#include <csignal>
+#include <fcntl.h>
+#include <sstream>
+#include <thread>
+#include <unistd.h>
+
+using namespace CvxCPP;
+using namespace std::chrono_literals;
+
+namespace fs = std::filesystem;
+
+using LifetimeTest = SystemTest;
+
+TEST_F(LifetimeTest, NothingWorksBeforeTheStart)
+{
+    CameraSystem idle(options);
+    unsigned count = 7;
+    EXPECT_EQ(idle.GetCameras(nullptr, count), CvxErrorNotStarted);
+    EXPECT_EQ(count, 7U);
+    EXPECT_EQ(idle.RegisterCameraListObserver(std::make_shared<CameraRecorder>()), CvxErrorNotStarted);
+    EXPECT_EQ(idle.RegisterInterfaceListObserver(std::make_shared<InterfaceRecorder>()), CvxErrorNotStarted);
+    EXPECT_EQ(idle.Shutdown(), CvxErrorSuccess);
+}
+
+TEST_F(LifetimeTest, ASecondStartIsRefused)
+{
+    start();
+    EXPECT_EQ(system->Startup(), CvxErrorAlreadyStarted);
+    unsigned count = 0;
+    EXPECT_EQ(system->GetCameras(nullptr, count), CvxErrorSuccess);
+}
+
+TEST_F(LifetimeTest, NullObserversAreRefused)
+{
+    start();
+    EXPECT_EQ(system->RegisterCameraListObserver(nullptr), CvxErrorInvalidParameter);
+    EXPECT_EQ(system->RegisterInterfaceListObserver(nullptr), CvxErrorInvalidParameter);
+}
+
+TEST_F(LifetimeTest, StartingNeedsTheHostProgram)
+{
+    const auto host = directory.path() / "Host";
+    options.hostProgram = host.string();
+    CameraSystem lacking(options);
+    EXPECT_EQ(lacking.Startup(), CvxErrorHostMissing);
+    EXPECT_EQ(lacking.Shutdown(), CvxErrorSuccess);
+    fs::create_directory(host);
+    EXPECT_EQ(lacking.Startup(), CvxErrorHostMissing);
+    fs::remove(host);
+    fs::copy_file(CVX_PRODUCER_HOST, host);
+    fs::permissions(host, fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(lacking.Startup(), CvxErrorHostMissing);
+    fs::permissions(host, fs::perms::owner_all);
+    EXPECT_EQ(lacking.Startup(), CvxErrorSuccess);
+}
+
+TEST_F(LifetimeTest, TwoHundredRoundsLeaveNothing)
+{
+    addProducer("a", cameras(1));
+    start();
+    list();
+    stop();
+    const std::size_t descriptors = openDescriptors(), threads = threadCount();
+    for (int round = 0; round < 200; ++round) {
+        ASSERT_EQ(system->Startup(), CvxErrorSuccess);
+        if (round % 2 == 0) {
+            ASSERT_EQ(list().size(), 1U);
+        }
+        ASSERT_EQ(system->Shutdown(), CvxErrorSuccess);
+    }
+    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_EQ(threadCount(), threads);
+    EXPECT_TRUE(childrenOf(getpid()).empty());
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+}
+
+TEST_F(LifetimeTest, TheEndDoesNotWaitForAHangingDriver)
+{
+    addProducer("a", "fault GCInitLib hang\n");
+    addProducer("b", "fault load hang\n");
+    options.endWait = 1500ms; // As in a program.
+    start();
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "GCInitLib") == 1 && countCalls("b", "load") == 1; }));
+    EXPECT_LT(timeOf([this] { stop(); }), 2000ms);
+    EXPECT_EQ(countReports("and was killed"), 2U);
+}
+
+TEST_F(LifetimeTest, TheEndWakesThoseWhoWait)
+{
+    addProducer("a", "fault IFUpdateDeviceList hang\n" + cameras(1));
+    options.answerWait = 1h;
+    options.endWait = 200ms;
+    start();
+    CvxError error = CvxErrorSuccess;
+    std::thread waiter([&] {
+        unsigned count = 0;
+        error = system->GetCameras(nullptr, count);
+    });
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") == 1; }));
+    stop();
+    waiter.join();
+    EXPECT_EQ(error, CvxErrorNotStarted);
+}
+
+TEST_F(LifetimeTest, ObjectsMayOutliveTheSystem)
+{
+    addProducer("a", cameras(2));
+    start();
+    const Cameras found = list();
+    const auto interface = interfaceOf(found, 0);
+    const auto selector = feature(*interface, "DeviceSelector");
+    const auto update = feature(*interface, "DeviceUpdateList");
+    const auto id = feature(*interface, "DeviceID");
+
+    const auto expectSilence = [&] {
+        unsigned size = 0;
+        long min = 0, max = 0;
+        CvxTransportLayerType type = CvxTransportLayerUnknown;
+        std::shared_ptr<Interface> other;
+        std::shared_ptr<Feature> another;
+        EXPECT_EQ(found[0]->GetID(nullptr, size, false), CvxErrorNotStarted);
+        EXPECT_EQ(found[0]->GetModel(nullptr, size), CvxErrorNotStarted);
+        EXPECT_EQ(found[0]->GetInterfaceType(type), CvxErrorNotStarted);
+        EXPECT_EQ(found[0]->GetInterface(other), CvxErrorNotStarted);
+        EXPECT_EQ(interface->GetFeatureByName("DeviceID", another), CvxErrorNotStarted);
+        EXPECT_EQ(update->RunCommand(), CvxErrorNotStarted);
+        EXPECT_EQ(selector->GetRange(min, max), CvxErrorNotStarted);
+        EXPECT_EQ(selector->SetValue(0), CvxErrorNotStarted);
+        EXPECT_EQ(id->GetValue(nullptr, size), CvxErrorNotStarted);
+    };
+    stop();
+    expectSilence();
+    ASSERT_EQ(system->Startup(), CvxErrorSuccess);
+    EXPECT_EQ(list().size(), 2U);
+    expectSilence();
+    system.reset();
+    expectSilence();
+}
+
+TEST_F(LifetimeTest, EverythingAtOnceIsSafe)
+{
+    addProducer("a", cameras(3));
+    system = std::make_unique<CameraSystem>(options);
+    std::atomic<bool> isOver{false};
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 3; ++i) {
+        threads.emplace_back([&] {
+            while (!isOver) {
+                Cameras found(3);
+                unsigned count = 0;
+                system->GetCameras(nullptr, count);
+                count = 3;
+                if (system->GetCameras(found.data(), count) != CvxErrorSuccess || count == 0)
+                    continue;
+                std::shared_ptr<Interface> interface;
+                std::shared_ptr<Feature> update;
+                if (found[0]->GetInterface(interface) == CvxErrorSuccess
+                    && interface->GetFeatureByName("DeviceUpdateList", update) == CvxErrorSuccess)
+                    update->RunCommand();
+                extendedId(*found[0]);
+            }
+        });
+    }
+    threads.emplace_back([&] {
+        while (!isOver)
+            system->RegisterCameraListObserver(std::make_shared<CameraRecorder>());
+    });
+    threads.emplace_back([&] {
+        while (!isOver)
+            system->Shutdown();
+    });
+    EXPECT_TRUE(waitUntil([&] {
+        system->Startup();
+        return countCalls("a", "load") > 20;
+    }));
+    isOver = true;
+    for (std::thread &thread : threads)
+        thread.join();
+}
+
+TEST_F(LifetimeTest, NoObserverIsCalledAfterTheEnd)
+{
+    addProducer("a", cameras(1));
+    for (int round = 0; round < 20; ++round) {
+        start();
+        std::atomic<bool> hasEnded{false};
+        std::atomic<int> lateCalls{0};
+        const auto recorder = std::make_shared<CameraRecorder>();
+        recorder->onCall = [&] { lateCalls += hasEnded ? 1 : 0; };
+        ASSERT_EQ(system->RegisterCameraListObserver(recorder), CvxErrorSuccess);
+        setScript("a", cameras(1 + round % 3));
+        waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") > static_cast<std::size_t>(round); });
+        stop();
+        hasEnded = true;
+        EXPECT_EQ(lateCalls, 0);
+    }
+}
+
+TEST_F(LifetimeTest, AnEndFromACallbackIsRefused)
+{
+    addProducer("a", cameras(1));
+    start();
+    std::atomic<CvxError> error{CvxErrorSuccess};
+    std::atomic<bool> isCalled{false};
+    const auto recorder = std::make_shared<CameraRecorder>();
+    recorder->onCall = [&] {
+        error = system->Shutdown();
+        isCalled = true;
+    };
+    ASSERT_EQ(system->RegisterCameraListObserver(recorder), CvxErrorSuccess);
+    ASSERT_TRUE(waitUntil([&] { return isCalled.load(); }));
+    EXPECT_EQ(error, CvxErrorFailed);
+    EXPECT_EQ(list().size(), 1U) << "and the system goes on";
+}
+
+TEST_F(LifetimeTest, StartedToolsInheritNothing)
+{
+    addProducer("a", cameras(1));
+    const std::size_t before = openDescriptors();
+    start();
+    list();
+    EXPECT_GT(openDescriptors(), before);
+    std::size_t inherited = 0;
+    for (const auto &entry : fs::directory_iterator("/proc/self/fd")) {
+        const int flags = fcntl(std::atoi(entry.path().filename().c_str()), F_GETFD);
+        inherited += flags >= 0 && (flags & FD_CLOEXEC) == 0 ? 1 : 0;
+    }
+    EXPECT_LE(inherited, before) << "only what the test program has got itself";
+}
+
+TEST_F(LifetimeTest, AHostGetsNoneOfOurDescriptors)
+{
+    addProducer("a", cameras(1));
+    const int ours = open("/dev/null", O_RDONLY); // Without close-on-exec.
+    start();
+    list();
+    const auto hosts = processesWith(ctiPath("a.cti").string());
+    ASSERT_EQ(hosts.size(), 1U);
+    for (const auto &entry : fs::directory_iterator("/proc/" + std::to_string(hosts.front()) + "/fd"))
+        EXPECT_LE(std::atoi(entry.path().filename().c_str()), 3);
+    close(ours);
+}

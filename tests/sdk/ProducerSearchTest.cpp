@@ -1,0 +1,70 @@
+#include "sdk/cvxcpp/ProducerSearch.h"
+#include "tests/sdk/support/TemporaryDirectory.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/stat.h>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+class ProducerSearchTest : public testing::Test
+{
+protected:
+    std::string file(const std::string &name)
+    {
+        const fs::path path = root.path() / name;
+        fs::create_directories(path.parent_path());
+        writeFile(path, "x");
+        return path.string();
+    }
+    std::string dir(const std::string &name = {}) { return (root.path() / name).string(); }
+
+    TemporaryDirectory root;
+};
+
+TEST_F(ProducerSearchTest, FindsFilesOfEveryLetterCaseInTheOrderOfTheirNames)
+{
+    const auto b = file("b.cti"), a = file("a.CTI"), c = file("c.Cti");
+    file("d.cti.bak");
+    file("cti");
+    EXPECT_EQ(findProducers({dir()}), (std::vector<std::string>{a, b, c}));
+}
+
+TEST_F(ProducerSearchTest, KeepsTheOrderOfTheDirectories)
+{
+    const auto later = file("2/a.cti"), sooner = file("1/z.cti");
+    EXPECT_EQ(findProducers({dir("1"), dir("missing"), dir("2")}), (std::vector<std::string>{sooner, later}));
+}
+
+TEST_F(ProducerSearchTest, DoesNotDescend)
+{
+    file("below/a.cti");
+    EXPECT_TRUE(findProducers({dir()}).empty());
+}
+
+TEST_F(ProducerSearchTest, ResolvesLinksAndNamesAFileOnce)
+{
+    const auto real = file("real/maker.cti");
+    fs::create_directory(root.path() / "cti");
+    fs::create_symlink(real, root.path() / "cti/link.cti");
+    fs::create_hard_link(real, root.path() / "cti/other.cti");
+    fs::create_directory_symlink(root.path() / "real", root.path() / "again");
+    EXPECT_EQ(
+        findProducers({dir("cti"), dir("real"), dir("again"), dir("real/")}), std::vector<std::string>{real});
+}
+
+TEST_F(ProducerSearchTest, PassesOverWhatIsNoFile)
+{
+    fs::create_directory(root.path() / "directory.cti");
+    fs::create_symlink(root.path() / "nowhere", root.path() / "dangling.cti");
+    ASSERT_EQ(mkfifo(dir("pipe.cti").c_str(), 0600), 0);
+    EXPECT_TRUE(findProducers({dir()}).empty());
+}
+
+TEST_F(ProducerSearchTest, TakesStrangeNames)
+{
+    const auto strange = file("a b\"'\n\xFF.cti");
+    EXPECT_EQ(findProducers({dir()}), std::vector<std::string>{strange});
+}

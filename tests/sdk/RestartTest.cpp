@@ -1,0 +1,119 @@
+#include "tests/sdk/support/SystemTest.h"
+
+#include <csignal>
+
+using namespace CvxCPP;
+using namespace std::chrono_literals;
+
+using Clock = std::chrono::steady_clock;
+using Calls = std::vector<std::string>;
+
+class RestartTest : public SystemTest
+{
+protected:
+    pid_t hostOf(const std::string &producer)
+    {
+        const auto hosts = processesWith(ctiPath(producer + ".cti").string());
+        return hosts.empty() ? -1 : hosts.front();
+    }
+};
+
+TEST_F(RestartTest, ACrashedHostLosesItsCamerasAndComesBackWithThem)
+{
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    ASSERT_EQ(list().size(), 1U);
+    ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
+    ASSERT_TRUE(waitUntil([&] { return recorder->calls().size() == 2; }));
+    EXPECT_EQ(recorder->calls(), (Calls{"-a.cti/net0/A1", "+a.cti/net0/A1"}));
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
+    ASSERT_EQ(reports().size(), 1U);
+    EXPECT_EQ(countReports("cti/a.cti: was ended by SIGKILL (Killed)"), 1U);
+}
+
+TEST_F(RestartTest, ACrashIsNoticedWhileNobodyAsks)
+{
+    options.lookInterval = 1h;
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    list();
+    ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
+    EXPECT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
+}
+
+TEST_F(RestartTest, ARepairedDriverComesBack)
+{
+    addProducer("a", "fault GCInitLib error -1001\n" + cameras(1));
+    start();
+    EXPECT_TRUE(list().empty());
+    setScript("a", cameras(1));
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
+}
+
+TEST_F(RestartTest, TheDelayDoublesUpToItsLimit)
+{
+    options.firstRestart = 100ms;
+    options.longestRestart = 400ms;
+    addProducer("a", "fault load exit 9\n");
+    std::mutex mutex;
+    std::vector<Clock::time_point> times;
+    options.report = [&](const std::string &) {
+        const std::lock_guard lock(mutex);
+        times.push_back(Clock::now());
+    };
+    start();
+    ASSERT_TRUE(waitUntil([&] {
+        const std::lock_guard lock(mutex);
+        return times.size() >= 6;
+    }));
+    stop();
+    const std::chrono::milliseconds expected[] = {100ms, 200ms, 400ms, 400ms, 400ms};
+    for (std::size_t i = 0; i < 5; ++i) {
+        // Measured between reports, which come when the host is reaped, a little after the delay began.
+        EXPECT_GE(times[i + 1] - times[i], expected[i] - 20ms) << i;
+        EXPECT_LT(times[i + 1] - times[i], expected[i] + 2s) << i;
+    }
+}
+
+TEST_F(RestartTest, AMissingHostProgramIsReportedAndComesBack)
+{
+    const auto host = directory.path() / "Host";
+    std::filesystem::copy_file(CVX_PRODUCER_HOST, host);
+    options.hostProgram = host.string();
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    std::filesystem::rename(host, directory.path() / "Away");
+    ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
+    ASSERT_TRUE(waitUntil([&] { return countReports("cannot start") > 0; }));
+    EXPECT_TRUE(list().empty());
+    std::filesystem::rename(directory.path() / "Away", host);
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
+}
+
+TEST_F(RestartTest, AnInterfaceSurvivesOneFailedUpdate)
+{
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault IFUpdateDeviceList error -1011\n" + cameras(1));
+    ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); })) << "two failures are too many";
+    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1011 (GC_ERR_TIMEOUT)"), 1U);
+    setScript("a", cameras(1));
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
+    EXPECT_EQ(countCalls("a", "load"), 1U) << "it is no reason to start the host again";
+}
+
+TEST_F(RestartTest, AFailingListOfInterfacesKeepsThoseThatAreOpen)
+{
+    options.interfaceInterval = 0ms;
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault TLUpdateInterfaceList error -1010\n" + cameras(1));
+    EXPECT_TRUE(waitUntil([&] { return countReports("TLUpdateInterfaceList failed with -1010") == 1; }));
+    EXPECT_EQ(list().size(), 1U);
+}

@@ -1,0 +1,78 @@
+// What a program does with the library, driven by its arguments, each of which is one step:
+//   start, stop, list, watch (prints announcements from here on), leave (exits at once, without a stop),
+//   fork (a forked child exits), wait (until standard input ends)
+
+#include "CvxCPP/CvxCPP.h"
+#include "tests/sdk/support/CameraText.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace CvxCPP;
+
+namespace {
+
+class Printer : public ICameraListObserver
+{
+public:
+    void CameraListChanged(std::shared_ptr<Camera> camera, UpdateTriggerType reason) override
+    {
+        std::printf("%s %s\n", reason == UpdateTriggerPluggedIn ? "in" : "out", extendedId(*camera).c_str());
+    }
+};
+
+void list(CvxSystem &system)
+{
+    const auto start = std::chrono::steady_clock::now();
+    unsigned count = 0;
+    const CvxError error = system.GetCameras(nullptr, count);
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
+    std::printf("list %d %u %.1f ms\n", error, count, time.count());
+    std::vector<std::shared_ptr<Camera>> cameras(count);
+    if (count > 0)
+        system.GetCameras(cameras.data(), count);
+    for (const auto &camera : cameras)
+        std::printf("camera %s\n", extendedId(*camera).c_str());
+}
+
+void forkAndExit()
+{
+    const pid_t child = fork();
+    if (child == 0)
+        std::exit(EXIT_SUCCESS); // With the destructors of static objects.
+    int status = 0;
+    waitpid(child, &status, 0);
+    std::printf("fork %d\n", status);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    CvxSystem &system = CvxSystem::GetInstance();
+    for (int i = 1; i < argc; ++i) {
+        const std::string step = argv[i];
+        if (step == "start")
+            std::printf("start %d\n", system.Startup());
+        else if (step == "stop")
+            std::printf("stop %d\n", system.Shutdown());
+        else if (step == "list")
+            list(system);
+        else if (step == "watch")
+            std::printf("watch %d\n", system.RegisterCameraListObserver(std::make_shared<Printer>()));
+        else if (step == "fork")
+            forkAndExit();
+        else if (step == "leave")
+            std::_Exit(EXIT_SUCCESS);
+        else if (step == "wait")
+            while (std::getchar() != EOF) { }
+    }
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,412 @@
+// A GenTL producer for tests, which does what a script beside it says: "name.script" for "name.cti".
+//
+// The script is read again at every update call and at every call that opens or closes. A line each:
+//   interface ID|NAME|TYPE
+//   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   missing fields at the end are refused with -1003
+//   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
+// Actions: error CODE, crash, abort, throw, exit CODE, hang, slow MILLISECONDS, untouched, fork, print,
+// close. The calls are written to "name.log", each with its process.
+
+#include "sdk/gentl/GenTL.h"
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <fstream>
+#include <map>
+#include <mutex>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using namespace GenTL;
+
+struct Entry
+{
+    std::vector<std::string> fields;
+    const std::string &id() const { return fields.front(); }
+};
+
+struct Interface
+{
+    std::string id;
+    std::vector<Entry> devices; // As of the last update.
+    bool isUpdated = false;
+    std::atomic<bool> isUpdating{false};
+};
+
+struct Script
+{
+    std::vector<Entry> interfaces;
+    std::multimap<std::string, Entry> devices; // By interface.
+    std::map<std::string, std::string> faults; // Function, action.
+};
+
+std::mutex mutex; // Guards all of these.
+Script script;
+std::vector<Entry> interfaces; // As of the last update.
+std::map<std::string, Interface *> opened; // Never deleted: tests look for uses after the close.
+bool isInitialised = false;
+bool isOpen = false;
+thread_local int lastCode = 0;
+int systemHandle = 0;
+
+const std::string &basePath()
+{
+    static const std::string path = [] {
+        Dl_info info{};
+        dladdr(&systemHandle, &info);
+        const std::string file = info.dli_fname;
+        return file.substr(0, file.rfind('.'));
+    }();
+    return path;
+}
+
+std::vector<std::string> split(const std::string &text)
+{
+    std::vector<std::string> fields;
+    std::size_t start = 0;
+    for (std::size_t end = text.find('|'); end != std::string::npos; end = text.find('|', start)) {
+        fields.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    fields.push_back(text.substr(start));
+    return fields;
+}
+
+void readScript()
+{
+    const std::lock_guard lock(mutex);
+    script = Script();
+    std::ifstream file(basePath() + ".script");
+    for (std::string line; std::getline(file, line);) {
+        const std::string word = line.substr(0, line.find(' '));
+        const std::string rest = line.substr(std::min(word.size() + 1, line.size()));
+        if (word == "interface") {
+            script.interfaces.push_back({split(rest)});
+        } else if (word == "device") {
+            auto fields = split(rest);
+            const std::string interface = fields.front();
+            fields.erase(fields.begin());
+            script.devices.emplace(interface, Entry{fields});
+        } else if (word == "fault") {
+            const std::size_t space = rest.find(' ');
+            script.faults[rest.substr(0, space)] = rest.substr(space + 1);
+        }
+    }
+}
+
+void log(const std::string &text)
+{
+    const std::string line = std::to_string(getpid()) + ' ' + text + '\n';
+    const int file = open((basePath() + ".log").c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    [[maybe_unused]] const auto written = write(file, line.data(), line.size());
+    close(file);
+}
+
+std::string actionFor(const std::string &function)
+{
+    const std::lock_guard lock(mutex);
+    const auto found = script.faults.find(function);
+    return found == script.faults.end() ? std::string() : found->second;
+}
+
+/// What a scripted call returns at once; Continue when it goes on as usual.
+constexpr int Continue = 1'000'000;
+
+/// A child that keeps every descriptor, while its parent dies.
+void forkAndCrash()
+{
+    if (fork() == 0) {
+        for (;;)
+            pause();
+    }
+    raise(SIGKILL);
+}
+
+int perform(const std::string &action)
+{
+    std::istringstream words(action);
+    std::string verb;
+    int argument = 0;
+    words >> verb >> argument;
+    if (verb == "error")
+        return argument;
+    if (verb == "crash")
+        raise(SIGSEGV);
+    if (verb == "abort")
+        std::abort();
+    if (verb == "throw")
+        throw std::runtime_error("thrown by the driver");
+    if (verb == "exit")
+        std::exit(argument);
+    if (verb == "hang") {
+        for (;;)
+            pause();
+    }
+    if (verb == "slow")
+        std::this_thread::sleep_for(std::chrono::milliseconds(argument));
+    if (verb == "untouched")
+        return GC_ERR_SUCCESS;
+    if (verb == "fork")
+        forkAndCrash();
+    if (verb == "print")
+        std::printf("%s\n", std::string(1 << 20, 'x').c_str());
+    if (verb == "close") {
+        for (int descriptor = 3; descriptor < 64; ++descriptor)
+            close(descriptor);
+    }
+    return Continue;
+}
+
+/// Logs the call, then does what the script wants of it.
+int enter(const std::string &function, const std::string &detail = {})
+{
+    log(detail.empty() ? function : function + ' ' + detail);
+    const int code = perform(actionFor(function));
+    lastCode = code == Continue ? 0 : code;
+    return code;
+}
+
+int give(const std::string &value, void *buffer, std::size_t *size)
+{
+    const std::size_t needed = value.size() + 1;
+    if (buffer && *size < needed)
+        return GC_ERR_BUFFER_TOO_SMALL;
+    if (buffer)
+        std::memcpy(buffer, value.c_str(), needed);
+    *size = needed;
+    return GC_ERR_SUCCESS;
+}
+
+int giveText(const std::string &value, INFO_DATATYPE *type, void *buffer, std::size_t *size)
+{
+    *type = INFO_DATATYPE_STRING;
+    return give(value, buffer, size);
+}
+
+/// Ends the process when two updates of one interface run at once.
+class Updating
+{
+public:
+    explicit Updating(Interface &interface) : m_interface(interface)
+    {
+        if (m_interface.isUpdating.exchange(true))
+            std::abort();
+    }
+    ~Updating() { m_interface.isUpdating = false; }
+    Updating(const Updating &) = delete;
+    Updating &operator=(const Updating &) = delete;
+
+private:
+    Interface &m_interface;
+};
+
+struct AtLoad
+{
+    AtLoad()
+    {
+        readScript();
+        const char *path = std::getenv("GENICAM_GENTL64_PATH");
+        enter("load", path ? path : "");
+    }
+} const atLoad;
+
+} // namespace
+
+namespace GenTL {
+extern "C" {
+
+GENTL_FUNCTION GCInitLib()
+{
+    if (const int code = enter("GCInitLib"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    if (isInitialised)
+        return GC_ERR_RESOURCE_IN_USE;
+    isInitialised = true;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION GCCloseLib()
+{
+    readScript();
+    if (const int code = enter("GCCloseLib"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    if (!isInitialised || isOpen)
+        return GC_ERR_NOT_INITIALIZED;
+    isInitialised = false;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
+{
+    *piErrorCode = lastCode;
+    return give("the driver's own words", sErrText, piSize);
+}
+
+GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
+{
+    if (const int code = enter("TLOpen"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    isOpen = true;
+    *phTL = &systemHandle;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION TLClose(TL_HANDLE hTL)
+{
+    readScript();
+    if (const int code = enter("TLClose"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    if (hTL != &systemHandle || !isOpen)
+        return GC_ERR_INVALID_HANDLE;
+    isOpen = false;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t)
+{
+    readScript();
+    if (const int code = enter("TLUpdateInterfaceList"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    interfaces = script.interfaces;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE, std::uint32_t *piNumIfaces)
+{
+    if (const int code = enter("TLGetNumInterfaces"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    *piNumIfaces = static_cast<std::uint32_t>(interfaces.size());
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE, std::uint32_t iIndex, char *sID, std::size_t *piSize)
+{
+    if (const int code = enter("TLGetInterfaceID"); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    if (iIndex >= interfaces.size())
+        raise(SIGSEGV); // As it was seen: never probe.
+    return give(interfaces[iIndex].id(), sID, piSize);
+}
+
+GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INFO_CMD iInfoCmd,
+    INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
+{
+    if (const int code = enter("TLGetInterfaceInfo", sIfaceID); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    const auto found = opened.find(sIfaceID);
+    if (found == opened.end() || !found->second->isUpdated || found->second->devices.empty())
+        raise(SIGSEGV); // As it was seen.
+    for (const Entry &interface : interfaces) {
+        const auto field = static_cast<std::size_t>(iInfoCmd);
+        if (interface.id() == sIfaceID && field < interface.fields.size())
+            return giveText(interface.fields[field], piType, pBuffer, piSize);
+    }
+    return GC_ERR_NOT_IMPLEMENTED;
+}
+
+GENTL_FUNCTION TLOpenInterface(TL_HANDLE, const char *sIfaceID, IF_HANDLE *phIface)
+{
+    if (const int code = enter("TLOpenInterface", sIfaceID); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    if (opened.count(sIfaceID) > 0)
+        return GC_ERR_RESOURCE_IN_USE;
+    auto *interface = new Interface;
+    interface->id = sIfaceID;
+    opened[sIfaceID] = interface;
+    *phIface = interface;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION IFClose(IF_HANDLE hIface)
+{
+    readScript();
+    const auto *interface = static_cast<Interface *>(hIface);
+    if (const int code = enter("IFClose", interface->id); code != Continue)
+        return code;
+    const std::lock_guard lock(mutex);
+    return opened.erase(interface->id) == 1 ? GC_ERR_SUCCESS : GC_ERR_INVALID_HANDLE;
+}
+
+GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTimeout)
+{
+    auto *interface = static_cast<Interface *>(hIface);
+    const Updating updating(*interface);
+    readScript();
+    const int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
+    const int ownCode = perform(actionFor("IFUpdateDeviceList:" + interface->id));
+    if (code != Continue || ownCode != Continue)
+        return code != Continue ? code : ownCode;
+    const std::lock_guard lock(mutex);
+    interface->devices.clear();
+    const auto range = script.devices.equal_range(interface->id);
+    for (auto entry = range.first; entry != range.second; ++entry)
+        interface->devices.push_back(entry->second);
+    interface->isUpdated = true;
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
+{
+    if (const int code = enter("IFGetNumDevices"); code != Continue)
+        return code;
+    const auto *interface = static_cast<Interface *>(hIface);
+    if (!interface->isUpdated)
+        return GC_ERR_NOT_AVAILABLE;
+    *piNumDevices = static_cast<std::uint32_t>(interface->devices.size());
+    return GC_ERR_SUCCESS;
+}
+
+GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDeviceID, std::size_t *piSize)
+{
+    if (const int code = enter("IFGetDeviceID"); code != Continue)
+        return code;
+    const auto *interface = static_cast<Interface *>(hIface);
+    if (iIndex >= interface->devices.size())
+        raise(SIGSEGV); // As it was seen: never probe.
+    return give(interface->devices[iIndex].id(), sIDeviceID, piSize);
+}
+
+#ifndef WITHOUT_IFGETDEVICEINFO
+GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_INFO_CMD iInfoCmd,
+    INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
+{
+    if (const int code = enter("IFGetDeviceInfo"); code != Continue)
+        return code;
+    // The fields of a device in a script, by command: ID, vendor, model, type, name; serial number.
+    static constexpr std::array<std::size_t, 8> places{0, 1, 2, 5, 4, 99, 99, 3};
+    for (const Entry &device : static_cast<Interface *>(hIface)->devices) {
+        if (device.id() != sDeviceID)
+            continue;
+        const std::size_t place = places.at(static_cast<std::size_t>(iInfoCmd));
+        if (place >= device.fields.size())
+            return GC_ERR_NOT_IMPLEMENTED;
+        return giveText(device.fields[place], piType, pBuffer, piSize);
+    }
+    return GC_ERR_INVALID_ID;
+}
+#endif
+
+} // extern "C"
+} // namespace GenTL

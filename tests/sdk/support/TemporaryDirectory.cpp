@@ -1,0 +1,34 @@
+#include "tests/sdk/support/TemporaryDirectory.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <system_error>
+
+TemporaryDirectory::TemporaryDirectory()
+{
+    std::string name = (std::filesystem::temp_directory_path() / "cvxcpp-test-XXXXXX").string();
+    if (!mkdtemp(name.data()))
+        throw std::runtime_error("no temporary directory");
+    m_path = std::filesystem::canonical(name);
+}
+
+TemporaryDirectory::~TemporaryDirectory()
+{
+    std::error_code error;
+    std::filesystem::remove_all(m_path, error);
+}
+
+void writeFile(const std::filesystem::path &path, const std::string &content)
+{
+    const std::filesystem::path draft = path.string() + ".draft";
+    std::ofstream(draft, std::ios::binary) << content;
+    std::filesystem::rename(draft, path);
+}
+
+std::string readFile(const std::filesystem::path &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
