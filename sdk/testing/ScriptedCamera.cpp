@@ -1,7 +1,7 @@
 #include "sdk/testing/Answer.h"
 #include "sdk/testing/ScriptedCvxCPP.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace CvxScripted {
 
@@ -24,7 +24,7 @@ CvxError tellText(const Text &text, char *buffer, unsigned &size)
     const std::size_t needed = text.value.size() + (text.countsNul ? 1 : 0);
     if (size < needed)
         return CvxErrorBufferTooSmall;
-    std::memcpy(buffer, text.value.data(), needed); // data() ends with a NUL of its own.
+    std::copy_n(text.value.c_str(), needed, buffer); // With the NUL of c_str() where it counts.
     size = text.writtenSize.value_or(static_cast<unsigned>(needed));
     return CvxErrorSuccess;
 }

@@ -80,6 +80,7 @@ private slots:
     void closeAppEndsTheLoop();
     void withoutATrayMinimizeToTrayMinimises();
     void showFromTrayRestoresTheWindow();
+    void showFromTrayActivatesAWindowThatIsOnlyCovered();
 
     // Destruction
     void shutdownIsCalledOnce_data();
@@ -281,6 +282,18 @@ void TestStartup::showFromTrayRestoresTheWindow()
     mainWindow()->hide();
     QVERIFY(call(controller, "showFromTray"));
     QVERIFY(mainWindow()->isVisible());
+}
+
+void TestStartup::showFromTrayActivatesAWindowThatIsOnlyCovered()
+{
+    ApplicationController controller;
+    mainWindow()->show();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(call(controller, "showFromTray"));
+    QTRY_VERIFY(mainWindow()->isActiveWindow());
 }
 
 void TestStartup::shutdownIsCalledOnce_data()

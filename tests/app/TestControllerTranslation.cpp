@@ -7,7 +7,7 @@ using CvxScripted::Function;
 using CvxScripted::script;
 
 /// Which texts of the controller are translated, and in which context.
-class TestTranslation : public QObject
+class TestControllerTranslation : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private:
     MarkingTranslator m_translator;
 };
 
-void TestTranslation::placeholderIsTranslated()
+void TestControllerTranslation::placeholderIsTranslated()
 {
     CvxScripted::Gate gate;
     script().intercept = [&gate](const CvxScripted::Call &seen) {
@@ -39,7 +39,7 @@ void TestTranslation::placeholderIsTranslated()
     QTRY_VERIFY(refreshButton()->isEnabled());
 }
 
-void TestTranslation::failedLaunchIsTranslated()
+void TestControllerTranslation::failedLaunchIsTranslated()
 {
     const ModalCatcher catcher;
     ApplicationController controller;
@@ -50,7 +50,7 @@ void TestTranslation::failedLaunchIsTranslated()
         QStringLiteral("[ApplicationController] Could not launch:\nbin/NoSuchTool"));
 }
 
-void TestTranslation::refusedObserversAreNotTranslated()
+void TestControllerTranslation::refusedObserversAreNotTranslated()
 {
     const ModalCatcher catcher;
     script().errors[Function::RegisterCameraListObserver] = CvxCPP::CvxErrorFailed;
@@ -64,5 +64,5 @@ void TestTranslation::refusedObserversAreNotTranslated()
     }
 }
 
-QTEST_MAIN(TestTranslation)
-#include "TestTranslation.moc"
+QTEST_MAIN(TestControllerTranslation)
+#include "TestControllerTranslation.moc"
