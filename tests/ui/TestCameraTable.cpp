@@ -31,6 +31,7 @@ private slots:
     void placeholderRowIsDrawnSelected();
     void nothingIsSelectedAfterARefresh();
     void clickOnASelectedRowChangesNothing();
+    void dragOverTheRowsEndsWithOneSelection();
     void clickOnARowThatTheListLostIsIgnored();
     void groupIsMarkedInTheFirstColumn();
     void cameraWithoutAnIdMarksNoGroup();
@@ -223,6 +224,27 @@ void TestCameraTable::clickOnASelectedRowChangesNothing()
     configured.click(configured.cellCenter(2, 0));
     QCOMPARE(configured.selectedRows(), QList<int>{2});
     QCOMPARE(groupMarks(configured), QVector<bool>({true, false, true, false}));
+}
+
+// Every step rebuilds the rows under the view that is still at work with them.
+void TestCameraTable::dragOverTheRowsEndsWithOneSelection()
+{
+    ConfiguredWindow configured;
+    configured.loadConfig();
+    configured.list(fourCameras);
+    configured.show();
+    QWindow *window = configured.window.windowHandle();
+    const QPoint first = configured.cellCenter(0, 0);
+    const QPoint last = configured.cellCenter(3, 0);
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, first);
+    for (int y = first.y(); y <= last.y(); y += 3)
+        QTest::mouseMove(window, QPoint(first.x(), y));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, last);
+    const QList<int> selected = configured.selectedRows();
+    QCOMPARE(selected.size(), 1);
+    QVERIFY(groupMarks(configured).at(selected.at(0))); // Selection and marks are of the same camera.
+    configured.click(last);
+    QCOMPARE(configured.selectedRows(), QList<int>{3});
 }
 
 void TestCameraTable::clickOnARowThatTheListLostIsIgnored()

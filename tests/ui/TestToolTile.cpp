@@ -225,8 +225,10 @@ void TestToolTile::opacityFollowsTheParentsState()
 
 void TestToolTile::handCursorAndHover()
 {
-    QCOMPARE(m_tile->cursor().shape(), Qt::PointingHandCursor);
-    QVERIFY(m_tile->testAttribute(Qt::WA_Hover));
+    const ApplicationLauncher tile(
+        {}, {}, nullptr); // Never shown: a style sheet would set the attribute, too.
+    QCOMPARE(tile.cursor().shape(), Qt::PointingHandCursor);
+    QVERIFY(tile.testAttribute(Qt::WA_Hover));
 }
 
 void TestToolTile::noToolTip()
