@@ -1,13 +1,16 @@
-"""The running launcher as its user meets it: read through AT-SPI, operated with the pointer."""
+"""The running launcher as its user meets it: what its windows show, and a pointer to operate them with."""
 
+import json
 import os
+import shutil
 import signal
+import socket
 import subprocess
+import tempfile
 import time
 
-import pyatspi
-
 BOUND = 30.0  # seconds, for everything that is waited for
+TITLE = "Corvix X - Application Launcher"
 
 
 def wait_for(promise, condition, bound=BOUND):
@@ -22,99 +25,99 @@ def wait_for(promise, condition, bound=BOUND):
         time.sleep(0.02)
 
 
+def output_of(*command):
+    """What a command prints; empty when it fails."""
+    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout
+
+
+def xdotool(*arguments):
+    subprocess.run(["xdotool", *arguments], check=True)
+
+
+def point_at(node, title=TITLE):
+    """Moves the pointer to the middle of a node in the window of that title."""
+    x, y, width, height = node["box"]
+    found = wait_for("the window is on the screen", output_of(
+        "xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split)
+    xdotool("mousemove", "--sync", "--window", found[0], str(x + width // 2), str(y + height // 2))
+
+
+def click(node, title=TITLE):
+    point_at(node, title)
+    xdotool("click", "1")
+
+
 def descendants(node):
-    for child in node:
-        if child is not None:
-            yield child
-            yield from descendants(child)
-
-
-def application(process_id):
-    for app in pyatspi.Registry.getDesktop(0):
-        if app is not None and app.get_process_id() == process_id:
-            return app
-    return None
-
-
-def processes_named(name):
-    found = subprocess.run(["pgrep", "-x", name[:15]], capture_output=True, text=True, check=False)
-    return [int(line) for line in found.stdout.split()]
+    for child in node["children"]:
+        yield child
+        yield from descendants(child)
 
 
 class Launcher:
-    """Starts the program of the installation; to be used in a with statement."""
+    """Starts the program of an installation; to be used in a with statement."""
 
-    def __init__(self, stage):
-        self.stage = stage
+    def __init__(self, stage, plugins):
+        self.program = f"{stage}/bin/CorvixLauncher"
+        self.plugins = plugins
 
     def __enter__(self):
-        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self.directory = tempfile.mkdtemp()
+        self.socket = f"{self.directory}/reader"
+        environment = dict(os.environ, QT_PLUGIN_PATH=self.plugins,
+                           QT_QPA_GENERIC_PLUGINS=f"windowreader:{self.socket}")
         environment.pop("GENICAM_GENTL64_PATH", None)
         self.started = time.monotonic()
         # From another directory: nothing may depend on where the program is started.
-        self.process = subprocess.Popen(
-            [f"{self.stage}/bin/CorvixLauncher"], cwd="/", env=environment, stderr=subprocess.PIPE)
+        with open(f"{self.directory}/stderr", "wb") as errors:  # No pipe: the tools hold it open as well.
+            self.process = subprocess.Popen([self.program], cwd="/", env=environment, stderr=errors)
         return self
 
     def __exit__(self, *_):
         if self.process.poll() is None:
             self.process.send_signal(signal.SIGKILL)
             self.process.wait()
-        self.process.stderr.close()
+        shutil.rmtree(self.directory)
 
-    def frame(self, title):
-        """The window of that title, or None while there is none."""
-        app = application(self.process.pid)
-        windows = [] if app is None else [window for window in app if window is not None]
-        return next((window for window in windows if window.name == title), None)
+    def printed(self):
+        """What came on standard error so far."""
+        with open(f"{self.directory}/stderr", encoding="utf-8", errors="replace") as errors:
+            return errors.read()
 
-    def find(self, role, name=None):
-        window = self.frame("Corvix X - Application Launcher")
-        return [] if window is None else [
-            node for node in descendants(window)
-            if node.getRoleName() == role and (name is None or node.name == name)]
+    def windows(self):
+        """The visible windows; none before the program answers."""
+        with socket.socket(socket.AF_UNIX) as reader:
+            reader.settimeout(BOUND)
+            try:
+                reader.connect(self.socket)
+            except (FileNotFoundError, ConnectionRefusedError):
+                return []
+            with reader.makefile() as answer:
+                return json.loads(answer.read() or "[]")
+
+    def window(self):
+        """The main window, waited for."""
+        return wait_for("the window is shown", lambda: next(
+            (window for window in self.windows() if window["text"] == TITLE), None))
+
+    def find(self, name):
+        """The widget of that object name."""
+        return next(node for node in descendants(self.window()) if node["name"] == name)
 
     def rows(self):
-        """The table's texts, row by row; None while the window cannot be read."""
-        try:
-            texts = [cell.name for cell in self.find("table cell")]
-        except Exception:  # The table was rebuilt while it was read.
-            return None
-        return [tuple(texts[i:i + 3]) for i in range(0, len(texts), 3)]
+        """The table's texts, row by row."""
+        return [tuple(row["texts"]) for row in self.find("cameraTable")["rows"]]
 
-    def enabled_tools(self):
-        """Names of the tools whose tiles are enabled."""
-        return {labels[0] for tile, labels in self.tiles() if is_enabled(tile)}
+    def cell(self, vendor):
+        """The first cell of that vendor, as something to click."""
+        table = self.find("cameraTable")
+        x, y, width, height = next(row["box"] for row in table["rows"] if row["texts"][0] == vendor)
+        return {"box": (table["box"][0] + x, table["box"][1] + y, width, height)}
 
     def tiles(self):
-        for tile in self.find("filler"):
-            labels = [child.name for child in tile if child is not None and child.getRoleName() == "label"]
-            area = tile.queryComponent().getExtents(pyatspi.WINDOW_COORDS)
-            if len(labels) == 2 and (area.width, area.height) == (185, 70):
-                yield tile, labels
+        """The tiles by the name of their tool."""
+        return {child["text"]: tile for tile in descendants(self.window())
+                if tile["class"] == "ApplicationLauncher"
+                for child in tile["children"] if child["name"] == "applicationName"}
 
-    def tile(self, tool):
-        return next(tile for tile, labels in self.tiles() if labels[0] == tool)
-
-    def x_window(self):
-        found = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--name", "^Corvix X - Application Launcher$"],
-            capture_output=True, text=True, check=False)
-        return found.stdout.split()[0] if found.stdout.split() else None
-
-    def point_at(self, node):
-        area = node.queryComponent().getExtents(pyatspi.WINDOW_COORDS)
-        x, y = area.x + area.width // 2, area.y + area.height // 2
-        xdotool("mousemove", "--sync", "--window", self.x_window(), str(x), str(y))
-
-    def click(self, node):
-        self.point_at(node)
-        xdotool("click", "1")
-
-
-def is_enabled(node):
-    return node.getState().contains(pyatspi.STATE_ENABLED)
-
-
-def xdotool(*arguments):
-    subprocess.run(["xdotool", *arguments], check=True)
+    def enabled_tools(self):
+        return {name for name, tile in self.tiles().items() if tile["enabled"]}

@@ -5,15 +5,10 @@ import shutil
 import sys
 import tempfile
 
-from launcher import Launcher, application, descendants, wait_for
+from launcher import Launcher, click, descendants, wait_for
 
 TITLE = "Corvix X initialization failed"
 TEXT = "Failed to initialize the Corvix X system. The launcher will be closed."
-
-
-def windows(launcher):
-    app = application(launcher.process.pid)
-    return [] if app is None else [window for window in app if window is not None]
 
 
 def main():
@@ -21,14 +16,13 @@ def main():
         stage = os.path.join(directory, "stage")
         shutil.copytree(sys.argv[1], stage, symlinks=True)
         os.remove(f"{stage}/bin/CvxProducerHost")
-        with Launcher(stage) as launcher:
-            dialog = wait_for("the dialog is shown", lambda: next(
-                (window for window in windows(launcher) if window.name == TITLE), None))
-            assert [window.name for window in windows(launcher) if window.name != TITLE] == []
-            assert TEXT in [node.name for node in descendants(dialog)]
-            buttons = [node for node in descendants(dialog) if node.getRoleName() == "push button"]
-            assert [button.name for button in buttons] == ["OK"], buttons
-            buttons[0].queryAction().doAction(0)
+        with Launcher(stage, sys.argv[2]) as launcher:
+            dialog, = wait_for("the dialog is shown", launcher.windows)
+            assert dialog["text"] == TITLE, dialog
+            assert TEXT in [node["text"] for node in descendants(dialog)], dialog
+            button, = [node for node in descendants(dialog) if node["class"] == "QPushButton"]
+            assert button["text"] in ("OK", "&OK"), button
+            click(button, TITLE)
             assert launcher.process.wait(timeout=10) == 255
 
 

@@ -1,0 +1,8 @@
+#include "tests/road/windowreader/WindowReaderPlugin.h"
+
+#include "tests/road/windowreader/WindowReader.h"
+
+QObject *WindowReaderPlugin::create(const QString &, const QString &specification)
+{
+    return new WindowReader(specification);
+}
