@@ -34,7 +34,7 @@ std::string exitReason(int status)
     if (WIFEXITED(status))
         return "exited with code " + std::to_string(WEXITSTATUS(status));
     if (!WIFSIGNALED(status))
-        return "ended with status " + std::to_string(status);
+        return "ended"; // How is not known.
     const int signal = WTERMSIG(status);
     const char *name = sigabbrev_np(signal);
     const char *description = sigdescr_np(signal);

@@ -5,6 +5,7 @@
 #include <string_view>
 
 /// How a process ended, from the status that waitpid() gives: "was ended by SIGSEGV (Segmentation fault)".
+/// Any other number says no more than that it ended.
 std::string exitReason(int status);
 
 /// A GenTL failure in words: "TLOpen failed with -1010 (GC_ERR_IO): no link". A code of 0 stands for a

@@ -162,8 +162,8 @@ std::optional<int> HostProcess::tryReap()
 {
     siginfo_t info{};
     if (waitid(P_PID, static_cast<id_t>(m_process), &info, WEXITED | WNOHANG | WNOWAIT) != 0) {
-        m_process = -1; // The program ignores SIGCHLD, or waited for all its children.
-        return -1;
+        m_process = -1;
+        return LostStatus;
     }
     if (info.si_pid == 0)
         return std::nullopt;

@@ -45,8 +45,10 @@ public:
     /// Kills the host and whatever its producer has started.
     void kill() const;
 
-    /// The exit status, once the host has ended; -1 when the program has lost it for us. After that there is
-    /// no process any more.
+    /// Stands for a status that the program has lost for us: it ignores SIGCHLD or waits for all children.
+    static constexpr int LostStatus = -1;
+
+    /// The exit status, once the host has ended. After that there is no process any more.
     std::optional<int> tryReap();
 
 private:

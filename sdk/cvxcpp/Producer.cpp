@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <nlohmann/json.hpp>
-#include <sys/wait.h>
 
 namespace {
 
@@ -260,8 +259,8 @@ void Producer::stepEnd(bool isReadable)
     if (hasGone())
         return;
     const auto status = m_host.tryReap();
-    const bool isGoodEnd = status && WIFEXITED(*status) && WEXITSTATUS(*status) == 0;
-    if (status && !isGoodEnd && !m_isReported && m_state == State::Running)
+    const bool isBadEnd = status && *status != HostProcess::LostStatus && *status != 0;
+    if (isBadEnd && !m_isReported && m_state == State::Running)
         report(exitReason(*status) + " while it was closed");
 }
 

@@ -79,6 +79,15 @@ Document within(const char *name, const std::string &paths, const Paths &directo
 
 const Paths Fallback{"@/cti"};
 
+/// Little-endian, with its mark.
+std::string utf16(const std::string &ascii)
+{
+    std::string text = "\xFF\xFE";
+    for (const char character : ascii)
+        text += {character, '\0'};
+    return text;
+}
+
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Paths, CtiDocumentTest,
@@ -122,11 +131,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, CtiDocumentTest,
         Document{"BrokenByAWrongEnd",
             "<c><CtiPaths><Path>/a</Path><Path>/b</Pfad><Path>/c</Path></CtiPaths></c>", {"/a"}},
         Document{"BrokenAfterTheList", "<c><CtiPaths><Path>/a</Path></CtiPaths><d", {"/a"}},
-        Document{"Utf16",
-            std::string("\xFF\xFE<\0C\0t\0i\0P\0a\0t\0h\0s\0>\0<\0P\0a\0t\0h\0>\0/\0a\0<\0/\0P\0a\0t\0h\0>\0"
-                        "<\0/\0C\0t\0i\0P\0a\0t\0h\0s\0>\0",
-                82),
-            {"/a"}},
+        Document{"Utf16", utf16("<CtiPaths><Path>/a</Path></CtiPaths>"), {"/a"}},
         Document{"ThousandsDeep",
             [] {
                 std::string xml;

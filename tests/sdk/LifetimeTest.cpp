@@ -77,6 +77,20 @@ TEST_F(LifetimeTest, TwoHundredRoundsLeaveNothing)
     EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
 }
 
+TEST_F(LifetimeTest, AProgramMayIgnoreItsChildren)
+{
+    addProducer("a", cameras(1));
+    const auto before = std::signal(SIGCHLD, SIG_IGN); // Nobody can wait for a child then.
+    start();
+    EXPECT_EQ(list().size(), 1U);
+    ASSERT_EQ(kill(processesWith(ctiPath("a.cti").string()).front(), SIGKILL), 0);
+    EXPECT_TRUE(waitUntil([this] { return countReports("cti/a.cti: ended") == 1; }));
+    EXPECT_TRUE(waitUntil([this] { return list().size() == 1; }));
+    EXPECT_LT(timeOf([this] { stop(); }), 1000ms);
+    EXPECT_EQ(reports().size(), 1U);
+    std::signal(SIGCHLD, before);
+}
+
 TEST_F(LifetimeTest, TheEndDoesNotWaitForAHangingDriver)
 {
     addProducer("a", "fault GCInitLib hang\n");
