@@ -85,11 +85,20 @@ inline int scans()
     return int(CvxScripted::callCount(CvxScripted::Function::CountCameras));
 }
 
+/// The functions called so far, in order.
+inline QVector<int> calledFunctions()
+{
+    QVector<int> functions;
+    for (const CvxScripted::Call &seen : CvxScripted::calls())
+        functions.append(int(seen.function));
+    return functions;
+}
+
 /// Lets everything that is queued for the GUI thread happen.
 inline void processQueuedEvents()
 {
     for (int round = 0; round < 3; ++round) // What an event queues in its turn happens in the next round.
-        QCoreApplication::sendPostedEvents(), QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
 }
 
 /// Calls a slot by its name, as a caller through the meta-object system does.

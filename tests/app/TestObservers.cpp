@@ -31,7 +31,7 @@ QList<QVariantList> announced(const CameraRecord &record, UpdateTriggerType reas
     CameraObserver observer(nullptr);
     const QSignalSpy spy(&observer, &CameraObserver::updateDeviceList);
     observer.CameraListChanged(CvxScripted::makeCamera(record), reason);
-    return spy;
+    return spy.mid(0);
 }
 
 std::shared_ptr<CvxCPP::Interface> anInterface()
