@@ -24,6 +24,7 @@ private slots:
     void toolTipOfTheDocumentationButton();
     void hints();
     void factsOfACamera();
+    void percentSignInATranslatedLabelIsNoPlace();
     void menus();
     void documentationBox();
 };
@@ -109,6 +110,29 @@ void TestTranslation::factsOfACamera()
     configured.list({info});
     for (const char *label : {"[Interface]", "[IP]", "[MAC]", "[CTI file]"})
         QVERIFY2(configured.toolTip(0).contains(latin1(label)), label);
+}
+
+void TestTranslation::percentSignInATranslatedLabelIsNoPlace()
+{
+    class Percent : public QTranslator
+    {
+    public:
+        QString translate(const char *context, const char *text, const char *, int) const override
+        {
+            const bool label = qstrcmp(context, "MainWindow") == 0 && qstrcmp(text, "IP") == 0;
+            return label ? latin1("<%2>") : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    Percent percent;
+    QVERIFY(QCoreApplication::installTranslator(&percent)); // Asked first; its destructor removes it.
+    ConfiguredWindow configured;
+    configured.loadConfig();
+    CameraInfo info = camera(latin1("Orvelle"), latin1("Lost"));
+    info.ipAddress = latin1("10.0.0.1");
+    configured.list({info});
+    QVERIFY(
+        configured.toolTip(0).contains(latin1(">&lt;%2&gt;</td><td style='color:#e8edf2;'>10.0.0.1</td>")));
 }
 
 void TestTranslation::menus()
