@@ -12,6 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
+constexpr int MostStarts = 4; // At a time; between them, the hosts that run get their turn.
 constexpr auto EndInterval = 5ms; // Between two looks at hosts that are ending.
 constexpr auto KillWait = 300ms; // For killed hosts to be gone.
 
@@ -48,7 +49,7 @@ void DiscoverySession::stop()
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_isStopping = true;
+        *m_isRunning = false;
     }
     m_changed.notify_all();
     m_wakeEvent.signal();
@@ -74,7 +75,7 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
 {
     const Time deadline = Clock::now() + m_options.answerWait;
     std::unique_lock lock(m_mutex);
-    m_changed.wait_until(lock, deadline, [this] { return m_isReady || m_isStopping; });
+    m_changed.wait_until(lock, deadline, [this] { return m_isReady || !*m_isRunning; });
 
     std::vector<std::pair<std::size_t, Time>> awaited; // Producer, and when it had its last list.
     for (std::size_t i = 0; i < m_views.size(); ++i) {
@@ -91,8 +92,8 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
         return !view.isAwaited || view.listedAt != entry.second;
     };
     m_changed.wait_until(
-        lock, deadline, [&] { return m_isStopping || std::all_of(awaited.begin(), awaited.end(), isDone); });
-    if (m_isStopping)
+        lock, deadline, [&] { return !*m_isRunning || std::all_of(awaited.begin(), awaited.end(), isDone); });
+    if (!*m_isRunning)
         return false;
     for (const auto &entry : awaited) {
         if (!isDone(entry))
@@ -120,7 +121,7 @@ CvxError DiscoverySession::searchInterface(
 {
     const Time deadline = Clock::now() + m_options.answerWait;
     std::unique_lock lock(m_mutex);
-    if (m_isStopping)
+    if (!*m_isRunning)
         return CvxErrorNotStarted;
     View &view = m_views.at(producer);
     if (!isInterfaceFresh(view, interfaceId)) {
@@ -129,10 +130,10 @@ CvxError DiscoverySession::searchInterface(
         view.wantedInterfaces.insert(interfaceId);
         m_wakeEvent.signal();
         const bool isAnswered = m_changed.wait_until(lock, deadline, [&] {
-            return m_isStopping || !view.isAwaited || isInterfaceFresh(view, interfaceId)
+            return !*m_isRunning || !view.isAwaited || isInterfaceFresh(view, interfaceId)
                 || view.wantedInterfaces.count(interfaceId) == 0;
         });
-        if (m_isStopping)
+        if (!*m_isRunning)
             return CvxErrorNotStarted;
         if (!isAnswered)
             view.isAwaited = false;
@@ -194,7 +195,7 @@ void DiscoverySession::serveUntilStopped()
 {
     std::vector<bool> isReadable(m_producers.size(), false);
     Time nextLook = Clock::now() + m_options.lookInterval; // The hosts make the first one when they start.
-    while (!m_isStopping) {
+    while (*m_isRunning) {
         stepProducers(isReadable);
         const Time now = Clock::now();
         const bool isLookDue = now >= nextLook;
@@ -254,8 +255,11 @@ void DiscoverySession::waitForEvents(Time nextLook, std::vector<bool> &isReadabl
 
 void DiscoverySession::stepProducers(const std::vector<bool> &isReadable)
 {
+    int starts = 0;
     for (std::size_t i = 0; i < m_producers.size(); ++i) {
         const Time now = Clock::now();
+        if (m_producers[i]->isStartDue(now) && ++starts > MostStarts)
+            continue;
         const Producer::Event event = m_producers[i]->step(now, isReadable[i]);
         if (event != Producer::Event::Nothing)
             publish(i, event, now);
@@ -335,7 +339,7 @@ void DiscoverySession::fail(const char *reason)
         m_options.report(std::string("the search for cameras ended: ") + reason);
     {
         const std::lock_guard lock(m_mutex);
-        m_isStopping = true;
+        *m_isRunning = false;
     }
     m_changed.notify_all();
 }

@@ -34,7 +34,7 @@ public:
     /// Searches for cameras, unless that was just done, and gives them all; false when the session ends.
     bool searchCameras(std::shared_ptr<const Cameras> &cameras);
 
-    bool isRunning() const override { return !m_isStopping; }
+    RunningFlag runningFlag() const override { return m_isRunning; }
     CvxCPP::CvxError searchInterface(std::size_t producer, const std::string &interfaceId,
         std::shared_ptr<const InterfaceRecord> &record) override;
 
@@ -85,7 +85,7 @@ private:
     std::vector<std::unique_ptr<Producer>> m_producers; // Of the session's thread.
     std::thread m_thread;
     Announcer m_announcer;
-    std::atomic<bool> m_isStopping{false};
+    const std::shared_ptr<std::atomic<bool>> m_isRunning = std::make_shared<std::atomic<bool>>(true);
 
     std::mutex m_mutex;
     std::condition_variable m_changed;

@@ -12,6 +12,7 @@ using namespace CvxCPP;
 InterfaceObject::InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
     std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record)
     : m_source(std::move(source)),
+      m_isRunning(m_source.lock()->runningFlag()),
       m_producer(producer),
       m_producerName(std::move(producerName)),
       m_id(record->id),
@@ -35,12 +36,6 @@ CvxError InterfaceObject::GetFeatureByName(const char *name, std::shared_ptr<Fea
     auto &found_feature = m_features[static_cast<std::size_t>(found - std::begin(names))];
     feature = std::shared_ptr<Feature>(shared_from_this(), &found_feature); // Keeps the whole interface.
     return CvxErrorSuccess;
-}
-
-bool InterfaceObject::isRunning() const
-{
-    const auto source = m_source.lock();
-    return source && source->isRunning();
 }
 
 CvxError InterfaceObject::updateDeviceList()

@@ -15,6 +15,7 @@
 class InterfaceObject final : public CvxCPP::Interface, public std::enable_shared_from_this<InterfaceObject>
 {
 public:
+    /// `source` must still be there.
     InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
         std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record);
 
@@ -22,7 +23,7 @@ public:
 
     const std::string &id() const { return m_id; }
     const std::string &producerName() const { return *m_producerName; }
-    bool isRunning() const;
+    bool isRunning() const { return *m_isRunning; }
 
     // What the features do.
     CvxCPP::CvxError updateDeviceList();
@@ -32,6 +33,7 @@ public:
 
 private:
     const std::weak_ptr<InterfaceSource> m_source;
+    const InterfaceSource::RunningFlag m_isRunning;
     const std::size_t m_producer;
     const std::shared_ptr<const std::string> m_producerName;
     const std::string m_id;

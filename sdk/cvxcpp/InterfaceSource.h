@@ -3,6 +3,7 @@
 #include "CvxCPP/CvxCPP.h"
 #include "sdk/cvxcpp/ProducerAnswer.h"
 
+#include <atomic>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -11,7 +12,9 @@
 class InterfaceSource
 {
 public:
-    virtual bool isRunning() const = 0;
+    /// True until the source ends; shared, so that its objects can ask when it is gone.
+    using RunningFlag = std::shared_ptr<const std::atomic<bool>>;
+    virtual RunningFlag runningFlag() const = 0;
 
     /// Searches one interface of a producer, unless it was just searched, and gives what is on it now.
     virtual CvxCPP::CvxError searchInterface(

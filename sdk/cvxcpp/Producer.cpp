@@ -90,7 +90,7 @@ Producer::Event Producer::step(Time now, bool isReadable)
 {
     switch (m_state) {
     case State::Waiting:
-        return now >= m_startAt ? start(now) : Event::Nothing;
+        return isStartDue(now) ? start(now) : Event::Nothing;
     case State::Running:
         return isReadable ? receive(now) : checkHost(now);
     case State::Ending:

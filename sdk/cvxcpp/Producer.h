@@ -44,6 +44,9 @@ public:
     /// Waits for an answer, which the first request of a host makes from its start on.
     bool isBusy() const { return m_isBusy; }
 
+    /// The next step will start its host.
+    bool isStartDue(Time now) const { return m_state == State::Waiting && now >= m_startAt; }
+
     /// Could be asked something now.
     bool isIdle() const { return m_state == State::Running && !m_isBusy; }
 
