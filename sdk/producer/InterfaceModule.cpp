@@ -43,43 +43,21 @@ InterfaceModule::InterfaceModule(std::shared_ptr<DeviceSource> source, Interface
 
 GC_ERROR InterfaceModule::updateDeviceList(bool8_t *changed)
 {
-    const std::lock_guard lock(m_mutex);
-    Snapshot<DeviceRecord> found(m_source->updateDevices(m_record.id));
-    if (changed)
-        *changed = found != m_devices;
-    m_devices = std::move(found);
-    m_updated = true;
-    return GC_ERR_SUCCESS;
+    return m_devices.update([this] { return m_source->updateDevices(m_record.id); }, changed);
 }
 
 GC_ERROR InterfaceModule::countDevices(std::uint32_t *count) const
 {
-    if (!count)
-        return failArgumentMissing();
-    const std::lock_guard lock(m_mutex);
-    if (!m_updated)
-        return failNeverUpdated();
-    *count = m_devices.count();
-    return GC_ERR_SUCCESS;
+    return m_devices.count(count);
 }
 
 GC_ERROR InterfaceModule::deviceId(std::uint32_t index, const Answer &answer) const
 {
-    if (!answer.isComplete())
-        return failArgumentMissing();
-    const std::lock_guard lock(m_mutex);
-    if (!m_updated)
-        return failNeverUpdated();
-    const DeviceRecord *const device = m_devices.at(index);
-    return device ? answer.text(device->id) : failIndex(index, m_devices.count());
+    return m_devices.id(index, answer);
 }
 
 GC_ERROR InterfaceModule::deviceInfo(
     const std::string &id, DEVICE_INFO_CMD command, const Answer &answer) const
 {
-    if (!answer.isComplete())
-        return failArgumentMissing();
-    const std::lock_guard lock(m_mutex);
-    const DeviceRecord *const device = m_devices.find(id);
-    return device ? answerDeviceInfo(*device, command, answer) : failUnknownId(id);
+    return m_devices.info(id, command, answer, answerDeviceInfo);
 }

@@ -2,10 +2,9 @@
 
 #include "sdk/producer/Answer.h"
 #include "sdk/producer/DeviceSource.h"
-#include "sdk/producer/Snapshot.h"
+#include "sdk/producer/UpdatedList.h"
 
 #include <memory>
-#include <mutex>
 #include <string>
 
 /// An open interface: the list of its devices as of the last update. Each has a lock of its own, so that
@@ -27,8 +26,5 @@ public:
 private:
     const std::shared_ptr<DeviceSource> m_source;
     const InterfaceRecord m_record;
-
-    mutable std::mutex m_mutex; // Guards what follows.
-    bool m_updated = false;
-    Snapshot<DeviceRecord> m_devices;
+    UpdatedList<DeviceRecord> m_devices;
 };

@@ -2,10 +2,9 @@
 
 #include "sdk/producer/Answer.h"
 #include "sdk/producer/DeviceSource.h"
-#include "sdk/producer/Snapshot.h"
+#include "sdk/producer/UpdatedList.h"
 
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 
@@ -26,10 +25,7 @@ public:
 
 private:
     const std::shared_ptr<DeviceSource> m_source;
-
-    mutable std::mutex m_mutex; // Guards what follows.
-    bool m_updated = false;
-    Snapshot<InterfaceRecord> m_interfaces;
+    UpdatedList<InterfaceRecord> m_interfaces;
 };
 
 GenTL::GC_ERROR answerInterfaceInfo(
