@@ -102,7 +102,7 @@ def closing_ends_everything(launcher):
     hosts = output_of("pgrep", "--parent", str(launcher.process.pid)).split()
     assert hosts, "no producer host ran at all"
     click(launcher.find("pushButton_2"))
-    assert launcher.process.wait(timeout=10) == 0
+    assert launcher.process.wait(timeout=10) == 0, launcher.printed()
     assert not [host for host in hosts if os.path.exists(f"/proc/{host}")], "a producer host is left"
     assert launcher.printed() == "", launcher.printed()
 

@@ -23,7 +23,7 @@ def main():
             button, = [node for node in descendants(dialog) if node["class"] == "QPushButton"]
             assert button["text"] in ("OK", "&OK"), button
             click(button, TITLE)
-            assert launcher.process.wait(timeout=10) == 255
+            assert launcher.process.wait(timeout=10) == 255, launcher.printed()
 
 
 main()
