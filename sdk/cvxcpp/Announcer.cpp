@@ -116,11 +116,11 @@ void Announcer::tell(
 }
 
 template <typename Observer, typename Call>
-void Announcer::callEach(const std::vector<std::shared_ptr<Observer>> &observers, const Call &call)
+void Announcer::callEach(std::vector<std::shared_ptr<Observer>> &observers, const Call &call)
 {
     std::unique_lock lock(m_mutex);
     for (std::size_t i = 0; i < observers.size() && !m_isStopping; ++i) {
-        const auto observer = observers[i];
+        const auto observer = observers[i]; // A copy, since others may be added meanwhile.
         lock.unlock(); // Observers are called with no lock held.
         try {
             call(*observer);

@@ -53,7 +53,7 @@ private:
         const std::vector<std::shared_ptr<InterfaceObject>> &interfaces, CvxCPP::UpdateTriggerType reason);
 
     template <typename Observer, typename Call>
-    void callEach(const std::vector<std::shared_ptr<Observer>> &observers, const Call &call);
+    void callEach(std::vector<std::shared_ptr<Observer>> &observers, const Call &call);
 
     const TakeChanges m_takeChanges;
     std::thread m_thread;

@@ -213,7 +213,7 @@ void appendPath(std::vector<std::string> &directories, const std::string &path,
     const std::string bases[]
         = {installRoot, std::filesystem::path(configurationFile).parent_path().string()};
     for (const std::string &base : bases) {
-        const std::string directory = base + '/' + path;
+        const std::string directory = std::filesystem::path(base) / path;
         struct stat status
         { };
         if (stat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {

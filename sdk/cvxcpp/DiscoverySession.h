@@ -26,7 +26,7 @@ public:
     using Cameras = std::vector<std::shared_ptr<CameraObject>>;
 
     DiscoverySession(const SystemOptions &options, std::vector<std::string> ctiDirectories);
-    ~DiscoverySession();
+    ~DiscoverySession() override;
 
     void start(); ///< Throws std::system_error when there is no thread to have.
     void stop(); ///< Wakes all waiters, ends the hosts, and returns when no observer is called any more.

@@ -111,7 +111,7 @@ void HostProcess::send(const std::string &line) const
 
 HostProcess::Reading HostProcess::readLine(std::string &line)
 {
-    constexpr std::size_t BlockSize = 128 * 1024; // Bytes.
+    constexpr std::size_t BlockSize = 128U << 10; // Bytes.
     for (;;) {
         const auto end = m_pending.find('\n', m_searched);
         if (end != std::string::npos) {

@@ -12,6 +12,8 @@
 class InterfaceSource
 {
 public:
+    virtual ~InterfaceSource() = default;
+
     /// True until the source ends; shared, so that its objects can ask when it is gone.
     using RunningFlag = std::shared_ptr<const std::atomic<bool>>;
     virtual RunningFlag runningFlag() const = 0;
@@ -23,7 +25,6 @@ public:
 
 protected:
     InterfaceSource() = default;
-    ~InterfaceSource() = default;
     InterfaceSource(const InterfaceSource &) = delete;
     InterfaceSource &operator=(const InterfaceSource &) = delete;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <dirent.h>
+#include <filesystem>
 #include <memory>
 #include <set>
 #include <string_view>
@@ -48,7 +49,7 @@ std::vector<std::string> findProducers(const std::vector<std::string> &directori
     std::set<std::pair<dev_t, ino_t>> known;
     for (const std::string &directory : directories) {
         for (const std::string &name : ctiNames(directory)) {
-            const std::string path = resolved(directory + '/' + name);
+            const std::string path = resolved(std::filesystem::path(directory) / name);
             struct stat file
             { };
             if (path.empty() || stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode))

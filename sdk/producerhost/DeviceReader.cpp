@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t LongestText = 64 * 1024; // Bytes. No ID or name comes near it.
+constexpr std::size_t LongestText = 64U << 10; // Bytes. No ID or name comes near it.
 constexpr std::size_t SpareBytes = 256; // For producers that write past the size they asked for.
 constexpr int ReadAttempts = 4; // A text may grow between the two calls.
 constexpr std::uint32_t MostDevices = 1U << 20;
