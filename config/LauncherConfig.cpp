@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr QLatin1String placeholderPicture(":/images/cameras/camera-placeholder.png");
-constexpr QLatin1String logoPicture(":/images/orvelle-logo.png");
+const QLatin1String placeholderPicture(":/images/cameras/camera-placeholder.png");
+const QLatin1String logoPicture(":/images/orvelle-logo.png");
 
 /// The document's root object; empty when the resource is missing, malformed or not an object.
 QJsonObject loadJsonFile(const QString &path)
@@ -32,7 +32,7 @@ QJsonObject loadJsonFile(const QString &path)
 /// The document, or in place of an unusable one an empty document of version 1.0 with the given list.
 QJsonObject loadOrEmpty(const QString &path, const QString &listKey)
 {
-    const QJsonObject object = loadJsonFile(path);
+    QJsonObject object = loadJsonFile(path);
     if (!object.isEmpty())
         return object;
     return {{QStringLiteral("version"), QStringLiteral("1.0")}, {listKey, QJsonArray()}};

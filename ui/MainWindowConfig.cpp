@@ -18,7 +18,7 @@ QString searchDirectory(const QString &path, const QDir &installRoot, const QDir
     if (QDir::isAbsolutePath(path))
         return path; // Taken unchecked: a missing directory is skipped when it is searched.
     for (const QDir &base : {installRoot, xmlDirectory}) {
-        const QString candidate = base.filePath(path);
+        QString candidate = base.filePath(path);
         if (QFileInfo(candidate).isDir())
             return candidate;
     }
@@ -177,7 +177,7 @@ QString MainWindow::resolveCtiPath(const QString &interfaceLabel)
         return *cached;
     const QFileInfoList files = ctiFiles(m_ctiSearchDirs);
     const QStringList keywords = ctiKeywordsForInterface(interfaceLabel);
-    const QString path = keywords.isEmpty() ? firstCtiFile(files) : bestCtiFile(files, keywords);
+    QString path = keywords.isEmpty() ? firstCtiFile(files) : bestCtiFile(files, keywords);
     m_ctiPathCache.insert(interfaceLabel, path);
     return path;
 }
