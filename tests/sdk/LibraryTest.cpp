@@ -31,7 +31,8 @@ protected:
     }
     ~LibraryTest() override
     {
-        EXPECT_TRUE(waitUntil([this] { return hosts().empty(); })) << "a host is left";
+        EXPECT_TRUE(waitUntil([this] { return hosts().empty(); }, 5s)) << "a host is left";
+        killAll(hosts());
     }
 
     void addSimulator() { fs::copy_file(SIMULATOR, root.path() / "cti/CorvixCameraSimulator.cti"); }

@@ -3,6 +3,7 @@
 #include "tests/sdk/support/TemporaryDirectory.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
@@ -61,6 +62,12 @@ std::vector<pid_t> processesWith(const std::string &argument)
 {
     return processesThat(
         [&](pid_t process) { return procFile(process, "cmdline").find(argument) != std::string::npos; });
+}
+
+void killAll(const std::vector<pid_t> &processes)
+{
+    for (const pid_t process : processes)
+        kill(process, SIGKILL);
 }
 
 std::size_t openDescriptors()

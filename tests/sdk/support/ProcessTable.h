@@ -11,6 +11,9 @@ std::vector<pid_t> childrenOf(pid_t parent);
 /// All processes with this text in their command line.
 std::vector<pid_t> processesWith(const std::string &argument);
 
+/// Ends what a failed test has left of its own.
+void killAll(const std::vector<pid_t> &processes);
+
 /// The open descriptors of this process.
 std::size_t openDescriptors();
 

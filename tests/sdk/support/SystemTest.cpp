@@ -31,6 +31,7 @@ SystemTest::~SystemTest()
     system.reset();
     const auto left = processesWith(directory.path().string());
     EXPECT_TRUE(left.empty()) << left.size() << " processes are left";
+    killAll(left);
     EXPECT_EQ(openDescriptors(), m_descriptors);
 }
 
