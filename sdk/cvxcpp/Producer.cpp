@@ -153,6 +153,7 @@ Producer::Event Producer::takeAnswer(const std::string &line, Time now)
 
 Producer::Event Producer::takeList(ProducerAnswer &answer, const std::string &line)
 {
+    m_lastReport.clear();
     m_lastAnswer = line;
     m_records.clear();
     m_records.reserve(answer.interfaces.size());
@@ -278,9 +279,11 @@ void Producer::killAtEnd(Time now)
     m_host.kill();
 }
 
-void Producer::report(const std::string &reason) const
+void Producer::report(const std::string &reason)
 {
     constexpr std::size_t LongestReason = 500; // Bytes.
+    if (reason == std::exchange(m_lastReport, reason))
+        return; // It fails in the same way at every start.
     if (m_options.report)
         m_options.report(toLine(m_path + ": " + reason.substr(0, LongestReason)));
 }

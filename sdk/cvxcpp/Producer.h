@@ -91,7 +91,7 @@ private:
     Event fail(Time now, const std::string &reason, SystemOptions::Milliseconds grace = {});
     SystemOptions::Milliseconds nextRestartDelay(Time now);
     void send(const std::string &line, Time now);
-    void report(const std::string &reason) const;
+    void report(const std::string &reason);
     void reportProblems(const std::vector<CallProblem> &problems);
 
     const SystemOptions &m_options;
@@ -106,6 +106,7 @@ private:
     Time m_startedAt{};
     Time m_killAt{}; // While ending.
     bool m_isReported = false; // The failure that the host is ending for.
+    std::string m_lastReport; // Since the last list; the same is not reported twice.
     int m_failures = 0; // Counted by the restart delay.
     bool m_isFirstOfHost = true;
 
