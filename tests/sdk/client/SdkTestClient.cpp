@@ -58,7 +58,8 @@ void forkAndExit()
 } // namespace
 
 // Asked by LeakSanitizer, which would report what only the threads that a fork leaves behind refer to.
-extern "C" int __lsan_is_turned_off() // NOLINT(bugprone-reserved-identifier)
+extern "C" __attribute__((visibility("default"))) int
+__lsan_is_turned_off() // NOLINT(bugprone-reserved-identifier)
 {
     return isForkedChild;
 }
