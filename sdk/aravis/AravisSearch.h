@@ -1,0 +1,45 @@
+#pragma once
+
+#include "sdk/producer/DeviceSource.h"
+
+#include <arv.h>
+#include <chrono>
+#include <mutex>
+#include <string>
+#include <vector>
+
+/// A device as Aravis has found it. Texts are UTF-8, and empty where Aravis tells none.
+struct FoundDevice
+{
+    std::string id; ///< Stays with the device wherever it is plugged in, and over restarts.
+    std::string vendor;
+    std::string model;
+    std::string serial;
+    std::string address; ///< The IP address of a GigE Vision device.
+};
+
+/// The record of a device that was found; its name for people is made of vendor, model and serial number.
+DeviceRecord toRecord(const FoundDevice &device, const std::string &tlType);
+
+/// The search for devices of one protocol. It takes as long as Aravis takes, a second for GigE Vision, and
+/// covers all interfaces at once: those that are updated side by side share one.
+class AravisSearch
+{
+public:
+    using InterfaceGetter = ArvInterface *(*)();
+
+    explicit AravisSearch(InterfaceGetter interface);
+
+    /// Searches now, or takes the result of a search that ended just now. May be called from several threads.
+    std::vector<FoundDevice> devices();
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    const InterfaceGetter m_interface;
+
+    std::mutex m_mutex; // Guards what follows; held during a search, for which every caller has to wait.
+    bool m_hasSearched = false;
+    Clock::time_point m_endedAt;
+    std::vector<FoundDevice> m_devices;
+};

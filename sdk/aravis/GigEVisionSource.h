@@ -1,0 +1,17 @@
+#pragma once
+
+#include "sdk/aravis/AravisSearch.h"
+#include "sdk/producer/DeviceSource.h"
+
+/// GigE Vision cameras of any maker. There is one interface per address of a network card, with the devices
+/// of its network, and one more for devices whose address fits no card.
+class GigEVisionSource final : public DeviceSource
+{
+public:
+    ProducerIdentity identity() const override;
+    std::vector<InterfaceRecord> updateInterfaces() override;
+    std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override;
+
+private:
+    AravisSearch m_search{arv_gv_interface_get_instance};
+};
