@@ -52,6 +52,7 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     limitMemory();
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
+    unsetenv("G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.
     HostServer(SocketDescriptor).run(argv[1]);
     leave();
 }
