@@ -37,7 +37,7 @@ class TestStagedFiles : public QObject
     Q_OBJECT
 
 private slots:
-    void producersAreSearchedInCti();
+    void producersAreSearchedInCtiAndOursForAnyMakerLast();
     void guideNamesEveryTool_data();
     void guideNamesEveryTool();
     void guideNamesEveryMessage_data();
@@ -46,7 +46,7 @@ private slots:
     void linksOfTheGuideLeadSomewhere();
 };
 
-void TestStagedFiles::producersAreSearchedInCti()
+void TestStagedFiles::producersAreSearchedInCtiAndOursForAnyMakerLast()
 {
     QXmlStreamReader xml(fileText(QStringLiteral("/bin/CvxC.xml")));
     QStringList parents, paths;
@@ -60,7 +60,9 @@ void TestStagedFiles::producersAreSearchedInCti()
             paths << parents.join(QLatin1Char('/')) + QLatin1Char('=') + xml.text().toString();
     }
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
-    QCOMPARE(paths, QStringList{QStringLiteral("CvxC/CtiPaths/Path=cti")});
+    QCOMPARE(paths,
+        (QStringList{QStringLiteral("CvxC/CtiPaths/Path=cti"),
+            QStringLiteral("CvxC/CtiPaths/Path=cti/fallback")}));
 }
 
 void TestStagedFiles::guideNamesEveryTool_data()
