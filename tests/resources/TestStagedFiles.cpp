@@ -61,8 +61,8 @@ void TestStagedFiles::producersAreSearchedInCtiAndOursForAnyMakerLast()
     }
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
     QCOMPARE(paths,
-        (QStringList{QStringLiteral("CvxC/CtiPaths/Path=cti"),
-            QStringLiteral("CvxC/CtiPaths/Path=cti/fallback")}));
+        (QStringList{
+            QStringLiteral("CvxC/CtiPaths/Path=cti"), QStringLiteral("CvxC/CtiPaths/Path=cti/fallback")}));
 }
 
 void TestStagedFiles::guideNamesEveryTool_data()

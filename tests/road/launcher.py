@@ -53,12 +53,24 @@ def descendants(node):
         yield from descendants(child)
 
 
+def keep_to_this_machine(stage):
+    """Takes the producer that would search the machine's real networks out of an installation."""
+    try:
+        os.remove(f"{stage}/cti/fallback/UniversalGEV.cti")
+    except FileNotFoundError:
+        return
+    print("no network of the test's own: UniversalGEV.cti is taken out")
+
+
 class Launcher:
     """Starts the program of an installation; to be used in a with statement."""
 
     def __init__(self, stage, plugins):
         self.program = f"{stage}/bin/CorvixLauncher"
         self.plugins = plugins
+
+        if "CORVIX_OWN_NETWORK" not in os.environ:
+            keep_to_this_machine(stage)
 
     def __enter__(self):
         self.directory = tempfile.mkdtemp()
@@ -107,11 +119,26 @@ class Launcher:
         """The table's texts, row by row."""
         return [tuple(row["texts"]) for row in self.find("cameraTable")["rows"]]
 
+    def tool_tip(self, vendor):
+        """The tooltip of that vendor's first row."""
+        return next(row["toolTips"][1] for row in self.find("cameraTable")["rows"] if row["texts"][0] == vendor)
+
     def cell(self, vendor):
         """The first cell of that vendor, as something to click."""
         table = self.find("cameraTable")
         x, y, width, height = next(row["box"] for row in table["rows"] if row["texts"][0] == vendor)
         return {"box": (table["box"][0] + x, table["box"][1] + y, width, height)}
+
+    def scroll_to(self, vendor):
+        """Turns the wheel over the table until the row of that vendor is in view; gives its first cell."""
+        def in_view():
+            table, cell = self.find("cameraTable"), self.cell(vendor)
+            if cell["box"][1] + cell["box"][3] <= table["box"][1] + table["box"][3]:
+                return cell
+            point_at(table)
+            xdotool("click", "5")
+            return None
+        return wait_for(f"the row of {vendor} can be scrolled to", in_view)
 
     def tiles(self):
         """The tiles by the name of their tool."""

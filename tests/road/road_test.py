@@ -1,27 +1,14 @@
 """From the start of the installed program to its end: list, select, launch, plug, unplug, close."""
 
-import json
 import os
-import shutil
 import signal
 import sys
 import time
 
 from launcher import Launcher, click, output_of, point_at, wait_for, xdotool
+from scene import Scene
 
 STAGE, PLUGINS = sys.argv[1:]
-SCENE = f"{STAGE}/cti/CorvixCameraSimulator.json"
-
-
-def scene():
-    with open(SCENE, encoding="utf-8") as file:
-        return json.load(file)
-
-
-def write_scene(content):
-    with open(SCENE + ".new", "w", encoding="utf-8") as file:
-        json.dump(content, file)
-    os.replace(SCENE + ".new", SCENE)
 
 
 def rows_of(content):
@@ -38,8 +25,8 @@ def select(launcher, vendor):
     click(launcher.cell(vendor))
 
 
-def lists_the_simulated_cameras(launcher):
-    wait_for("the table shows the scene", shows(launcher, scene()))
+def lists_the_simulated_cameras(launcher, scene):
+    wait_for("the table shows the scene", shows(launcher, scene.read()))
     print(f"first list on screen {time.monotonic() - launcher.started:.2f} s after the start")
     assert len(launcher.rows()) == 8, launcher.rows()
     assert launcher.enabled_tools() == set(), "a tool is enabled although no camera is selected"
@@ -86,13 +73,11 @@ def links_of(process):
             if int(number) > 2 and os.path.lexists(f"{directory}/{number}")}
 
 
-def a_plugged_camera_appears_and_an_unplugged_one_goes(launcher):
-    before, after = scene(), scene()
-    after["interfaces"][0]["devices"].append(
-        {"id": "road-1", "vendor": "Orvelle", "model": "Kx200 Road", "serial": "ROAD0001"})
+def a_plugged_camera_appears_and_an_unplugged_one_goes(launcher, scene):
+    before, after = scene.read(), scene.with_camera("Kx200 Road", "ROAD0001")
     for content, promise in ((after, "the new camera appears"), (before, "the camera goes")):
         written = time.monotonic()
-        write_scene(content)
+        scene.write(content)
         wait_for(promise, shows(launcher, content), bound=6)
         print(f"{promise}: {time.monotonic() - written:.2f} s")
     assert launcher.enabled_tools() == set(), "the selection was carried over a refresh"
@@ -108,21 +93,18 @@ def closing_ends_everything(launcher):
 
 
 def main():
-    pristine = SCENE + ".pristine"
-    shutil.copy(SCENE, pristine)
     tool = None
     try:
-        with Launcher(STAGE, PLUGINS) as launcher:
-            lists_the_simulated_cameras(launcher)
+        with Scene(STAGE) as scene, Launcher(STAGE, PLUGINS) as launcher:
+            lists_the_simulated_cameras(launcher, scene)
             selecting_enables_the_group_s_tools(launcher)
             tool = a_press_starts_the_tool_in_its_own_directory(launcher)
-            a_plugged_camera_appears_and_an_unplugged_one_goes(launcher)
+            a_plugged_camera_appears_and_an_unplugged_one_goes(launcher, scene)
             closing_ends_everything(launcher)
             assert os.path.exists(f"/proc/{tool}"), "the tool did not outlive the launcher"
     finally:
         if tool is not None:
             os.kill(tool, signal.SIGTERM)
-        os.replace(pristine, SCENE)
 
 
 main()

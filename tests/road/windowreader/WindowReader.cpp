@@ -22,15 +22,16 @@ QJsonArray rowsOf(const QTableWidget &table)
 {
     QJsonArray rows;
     for (int row = 0; row < table.rowCount(); ++row) {
-        QJsonArray texts;
+        QJsonArray texts, toolTips;
         for (int column = 0; column < table.columnCount(); ++column) {
             const QTableWidgetItem *item = table.item(row, column);
             texts.append(item ? item->text() : QString());
+            toolTips.append(item ? item->toolTip() : QString());
         }
         // The box of the first cell, in the table's coordinates: a place to click.
         const QRect cell
             = table.visualItemRect(table.item(row, 0)).translated(table.viewport()->mapTo(&table, QPoint()));
-        rows.append(QJsonObject{{QStringLiteral("texts"), texts},
+        rows.append(QJsonObject{{QStringLiteral("texts"), texts}, {QStringLiteral("toolTips"), toolTips},
             {QStringLiteral("box"), QJsonArray{cell.x(), cell.y(), cell.width(), cell.height()}}});
     }
     return rows;
