@@ -66,8 +66,7 @@ void Announcer::run()
     m_threadId = std::this_thread::get_id();
     while (waitForChanges()) {
         try {
-            for (const CameraListChange &change : m_takeChanges())
-                announce(change);
+            announce(m_takeChanges());
         } catch (const std::exception &) { // Out of memory: these changes stay untold.
         }
     }

@@ -19,8 +19,8 @@ class Announcer
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Gives the changes since the last call; called on the announcer's thread.
-    using TakeChanges = std::function<std::vector<CameraListChange>()>;
+    /// Gives what came and went since the last call; called on the announcer's thread.
+    using TakeChanges = std::function<CameraListChange()>;
 
     explicit Announcer(TakeChanges takeChanges);
     ~Announcer();

@@ -27,6 +27,12 @@ Objects missing(const Objects &left, const Objects &right, Less less)
     return difference;
 }
 
+template <typename Objects>
+void append(Objects &objects, const Objects &more)
+{
+    objects.insert(objects.end(), more.begin(), more.end());
+}
+
 } // namespace
 
 CameraList::Pointer CameraList::create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
@@ -57,4 +63,12 @@ CameraListChange CameraListChange::between(const CameraList &before, const Camer
     change.newCameras = missing(after.cameras, before.cameras, lessByIds);
     change.goneCameras = missing(before.cameras, after.cameras, lessByIds);
     return change;
+}
+
+void CameraListChange::add(const CameraListChange &other)
+{
+    append(newInterfaces, other.newInterfaces);
+    append(goneInterfaces, other.goneInterfaces);
+    append(newCameras, other.newCameras);
+    append(goneCameras, other.goneCameras);
 }

@@ -25,11 +25,15 @@ struct CameraList
     static Pointer empty();
 };
 
-/// What came and what went between two lists of one producer, told by interface ID and device ID.
+/// What came and what went, told by interface ID and device ID.
 struct CameraListChange
 {
     std::vector<std::shared_ptr<InterfaceObject>> newInterfaces, goneInterfaces;
     std::vector<std::shared_ptr<CameraObject>> newCameras, goneCameras;
 
+    /// Of two lists of one producer.
     static CameraListChange between(const CameraList &before, const CameraList &after);
+
+    /// Takes the changes of another producer in.
+    void add(const CameraListChange &other);
 };

@@ -23,9 +23,9 @@ public:
 
     const std::string &id() const { return device().id; }
     const std::string &interfaceId() const { return m_record->id; }
+    const DeviceRecord &device() const { return m_record->devices[m_device]; }
 
 private:
-    const DeviceRecord &device() const { return m_record->devices[m_device]; }
     CvxCPP::CvxError readText(const std::string &text, char *buffer, unsigned &size) const;
 
     const std::shared_ptr<InterfaceObject> m_interface;

@@ -1,5 +1,6 @@
 #include "sdk/cvxcpp/DiscoverySession.h"
 
+#include "sdk/cvxcpp/DoubleListing.h"
 #include "sdk/cvxcpp/ProducerSearch.h"
 
 #include <algorithm>
@@ -109,9 +110,9 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::collectCamera
 {
     auto cameras = std::make_shared<Cameras>();
     for (View &view : m_views) {
-        cameras->insert(cameras->end(), view.list->cameras.begin(), view.list->cameras.end());
+        cameras->insert(cameras->end(), view.shown->cameras.begin(), view.shown->cameras.end());
         if (!std::exchange(view.isSettled, true))
-            view.announced = view.list; // The program has it from here.
+            view.announced = view.shown; // The program has it from here.
     }
     return cameras;
 }
@@ -148,21 +149,31 @@ CvxError DiscoverySession::searchInterface(
     return CvxErrorSuccess;
 }
 
-std::vector<CameraListChange> DiscoverySession::takeChanges()
+CameraListChange DiscoverySession::takeChanges()
 {
     std::vector<std::pair<CameraList::Pointer, CameraList::Pointer>> lists;
     {
         const std::lock_guard lock(m_mutex);
         for (View &view : m_views) {
-            if (view.isSettled && view.announced != view.list)
-                lists.emplace_back(std::exchange(view.announced, view.list), view.list);
+            if (view.isSettled && view.announced != view.shown)
+                lists.emplace_back(std::exchange(view.announced, view.shown), view.shown);
         }
     }
-    std::vector<CameraListChange> changes;
-    changes.reserve(lists.size());
+    CameraListChange change; // All in one: a camera that changes hands goes before it comes.
     for (const auto &[before, after] : lists)
-        changes.push_back(CameraListChange::between(*before, *after));
-    return changes;
+        change.add(CameraListChange::between(*before, *after));
+    return change;
+}
+
+void DiscoverySession::hideRepeats()
+{
+    std::vector<ProducerReport> reports;
+    reports.reserve(m_views.size());
+    for (const View &view : m_views)
+        reports.push_back({view.directory, view.list});
+    const std::vector<CameraList::Pointer> shown = withoutRepeats(reports);
+    for (std::size_t i = 0; i < m_views.size(); ++i)
+        m_views[i].shown = shown[i];
 }
 
 // ---- The session's thread ----------------------------------------------------------------------------
@@ -180,12 +191,14 @@ void DiscoverySession::run()
 
 void DiscoverySession::startProducers()
 {
-    const std::vector<std::string> paths = findProducers(m_ctiDirectories);
-    for (std::size_t i = 0; i < paths.size(); ++i)
-        m_producers.push_back(std::make_unique<Producer>(m_options, paths[i], i, weak_from_this()));
+    const std::vector<ProducerFile> files = findProducers(m_ctiDirectories);
+    for (std::size_t i = 0; i < files.size(); ++i)
+        m_producers.push_back(std::make_unique<Producer>(m_options, files[i].path, i, weak_from_this()));
     {
         const std::lock_guard lock(m_mutex);
-        m_views.resize(paths.size());
+        m_views.resize(files.size());
+        for (std::size_t i = 0; i < files.size(); ++i)
+            m_views[i].directory = files[i].directory;
         m_isReady = true;
     }
     m_changed.notify_all();
@@ -277,6 +290,7 @@ void DiscoverySession::publish(std::size_t index, Producer::Event event, Time no
         if (isChanged) {
             view.list = producer.list();
             view.records = producer.records();
+            hideRepeats();
         }
         switch (event) {
         case Producer::Event::Listed:

@@ -47,7 +47,9 @@ private:
     /// What the callers see of one producer, and what they wish.
     struct View
     {
-        CameraList::Pointer list = CameraList::empty();
+        std::size_t directory = 0; ///< Of its producer, in the search order.
+        CameraList::Pointer list = CameraList::empty(); ///< What the producer reports.
+        CameraList::Pointer shown = CameraList::empty(); ///< Without what an earlier directory has.
         std::vector<std::shared_ptr<const InterfaceRecord>> records;
         Time listedAt = Time::min();
         std::map<std::string, Time> interfaceListedAt; ///< Searches of one interface, later than listedAt.
@@ -77,7 +79,8 @@ private:
     bool isFresh(Time searchedAt) const;
     bool isInterfaceFresh(const View &view, const std::string &interfaceId) const;
     std::shared_ptr<const Cameras> collectCameras();
-    std::vector<CameraListChange> takeChanges();
+    CameraListChange takeChanges();
+    void hideRepeats();
 
     const SystemOptions m_options;
     const std::vector<std::string> m_ctiDirectories;

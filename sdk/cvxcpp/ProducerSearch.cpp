@@ -43,11 +43,12 @@ std::string resolved(const std::string &path)
 
 } // namespace
 
-std::vector<std::string> findProducers(const std::vector<std::string> &directories)
+std::vector<ProducerFile> findProducers(const std::vector<std::string> &directories)
 {
-    std::vector<std::string> producers;
+    std::vector<ProducerFile> producers;
     std::set<std::pair<dev_t, ino_t>> known;
-    for (const std::string &directory : directories) {
+    for (std::size_t i = 0; i < directories.size(); ++i) {
+        const std::string &directory = directories[i];
         for (const std::string &name : ctiNames(directory)) {
             const std::string path = resolved(std::filesystem::path(directory) / name);
             struct stat file
@@ -55,7 +56,7 @@ std::vector<std::string> findProducers(const std::vector<std::string> &directori
             if (path.empty() || stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode))
                 continue;
             if (known.emplace(file.st_dev, file.st_ino).second)
-                producers.push_back(path);
+                producers.push_back({path, i});
         }
     }
     return producers;

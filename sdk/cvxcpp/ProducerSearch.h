@@ -1,8 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
+/// A producer that was found.
+struct ProducerFile
+{
+    std::string path;
+    std::size_t directory; ///< The place of the directory it was found in, in the search order.
+};
+
 /// The producers in the directories: every regular file "*.cti" in any letter case, directory by directory,
 /// each in the order of the file names. Links are resolved, and a file reached by several ways is there once.
-std::vector<std::string> findProducers(const std::vector<std::string> &directories);
+std::vector<ProducerFile> findProducers(const std::vector<std::string> &directories);

@@ -202,7 +202,7 @@ TEST_F(ListingTest, FindsProducersByTheEnvironmentToo)
 {
     const TemporaryDirectory other;
     std::filesystem::copy_file(TEST_PRODUCER, other.path() / "other.cti");
-    writeFile(other.path() / "other.script", cameras(1));
+    writeFile(other.path() / "other.script", "interface net0|N|GEV\ndevice net0|A1\n");
     addProducer("a", cameras(1));
     setenv("GENICAM_GENTL64_PATH", (":/nowhere:" + other.path().string()).c_str(), 1);
     start();

@@ -19,6 +19,14 @@ protected:
         writeFile(path, "x");
         return path.string();
     }
+    /// The paths of what is found.
+    static std::vector<std::string> find(const std::vector<std::string> &directories)
+    {
+        std::vector<std::string> paths;
+        for (const ProducerFile &producer : findProducers(directories))
+            paths.push_back(producer.path);
+        return paths;
+    }
     std::string dir(const std::string &name = {}) { return (root.path() / name).string(); }
 
     TemporaryDirectory root;
@@ -29,19 +37,19 @@ TEST_F(ProducerSearchTest, FindsFilesOfEveryLetterCaseInTheOrderOfTheirNames)
     const auto b = file("b.cti"), a = file("a.CTI"), c = file("c.Cti");
     file("d.cti.bak");
     file("cti");
-    EXPECT_EQ(findProducers({dir()}), (std::vector<std::string>{a, b, c}));
+    EXPECT_EQ(find({dir()}), (std::vector<std::string>{a, b, c}));
 }
 
 TEST_F(ProducerSearchTest, KeepsTheOrderOfTheDirectories)
 {
     const auto later = file("2/a.cti"), sooner = file("1/z.cti");
-    EXPECT_EQ(findProducers({dir("1"), dir("missing"), dir("2")}), (std::vector<std::string>{sooner, later}));
+    EXPECT_EQ(find({dir("1"), dir("missing"), dir("2")}), (std::vector<std::string>{sooner, later}));
 }
 
 TEST_F(ProducerSearchTest, DoesNotDescend)
 {
     file("below/a.cti");
-    EXPECT_TRUE(findProducers({dir()}).empty());
+    EXPECT_TRUE(find({dir()}).empty());
 }
 
 TEST_F(ProducerSearchTest, ResolvesLinksAndNamesAFileOnce)
@@ -51,8 +59,7 @@ TEST_F(ProducerSearchTest, ResolvesLinksAndNamesAFileOnce)
     fs::create_symlink(real, root.path() / "cti/link.cti");
     fs::create_hard_link(real, root.path() / "cti/other.cti");
     fs::create_directory_symlink(root.path() / "real", root.path() / "again");
-    EXPECT_EQ(
-        findProducers({dir("cti"), dir("real"), dir("again"), dir("real/")}), std::vector<std::string>{real});
+    EXPECT_EQ(find({dir("cti"), dir("real"), dir("again"), dir("real/")}), std::vector<std::string>{real});
 }
 
 TEST_F(ProducerSearchTest, PassesOverWhatIsNoFile)
@@ -60,11 +67,24 @@ TEST_F(ProducerSearchTest, PassesOverWhatIsNoFile)
     fs::create_directory(root.path() / "directory.cti");
     fs::create_symlink(root.path() / "nowhere", root.path() / "dangling.cti");
     ASSERT_EQ(mkfifo(dir("pipe.cti").c_str(), 0600), 0);
-    EXPECT_TRUE(findProducers({dir()}).empty());
+    EXPECT_TRUE(find({dir()}).empty());
 }
 
 TEST_F(ProducerSearchTest, TakesStrangeNames)
 {
     const auto strange = file("a b\"'\n\xFF.cti");
-    EXPECT_EQ(findProducers({dir()}), std::vector<std::string>{strange});
+    EXPECT_EQ(find({dir()}), std::vector<std::string>{strange});
+}
+
+TEST_F(ProducerSearchTest, TellsInWhichDirectoryAProducerWasFoundFirst)
+{
+    const auto real = file("real/maker.cti"), other = file("real/other.cti");
+    fs::create_directory(root.path() / "cti");
+    fs::create_symlink(real, root.path() / "cti/link.cti");
+    const auto found = findProducers({dir("missing"), dir("cti"), dir("real")});
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].path, real);
+    EXPECT_EQ(found[0].directory, 1U);
+    EXPECT_EQ(found[1].path, other);
+    EXPECT_EQ(found[1].directory, 2U);
 }
