@@ -211,6 +211,16 @@ TEST_F(ListingTest, FindsProducersByTheEnvironmentToo)
     EXPECT_EQ(callsOf("a").front(), "load") << "a producer must not see the variable";
 }
 
+TEST_F(ListingTest, KeepsFromProducersWhatMakesAWarningFatal)
+{
+    addProducer("a", cameras(1));
+    setenv("G_DEBUG", "fatal-warnings", 1);
+    start();
+    list();
+    unsetenv("G_DEBUG");
+    EXPECT_EQ(callsOf("a").front(), "load");
+}
+
 TEST_F(ListingTest, ReadsTheConfigurationFile)
 {
     std::filesystem::create_directories(directory.path() / "bin");

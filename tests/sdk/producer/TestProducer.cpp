@@ -218,8 +218,10 @@ struct AtLoad
     AtLoad()
     {
         readScript();
-        const char *path = std::getenv("GENICAM_GENTL64_PATH");
-        enter("load", path ? path : "");
+        std::string seen; // Of the environment, what a producer must not see.
+        for (const char *variable : {"GENICAM_GENTL64_PATH", "G_DEBUG"})
+            seen += std::getenv(variable) ? variable : "";
+        enter("load", seen);
     }
 } const atLoad;
 
