@@ -54,7 +54,9 @@ def descendants(node):
 
 
 def keep_to_this_machine(stage):
-    """Takes the producer that would search the machine's real networks out of an installation."""
+    """Takes the producer that would search real networks out of an installation, unless the network is our own."""
+    if "CORVIX_OWN_NETWORK" in os.environ:
+        return
     try:
         os.remove(f"{stage}/cti/fallback/UniversalGEV.cti")
     except FileNotFoundError:
@@ -68,9 +70,6 @@ class Launcher:
     def __init__(self, stage, plugins):
         self.program = f"{stage}/bin/CorvixLauncher"
         self.plugins = plugins
-
-        if "CORVIX_OWN_NETWORK" not in os.environ:
-            keep_to_this_machine(stage)
 
     def __enter__(self):
         self.directory = tempfile.mkdtemp()

@@ -5,7 +5,7 @@ import signal
 import sys
 import time
 
-from launcher import Launcher, click, output_of, point_at, wait_for, xdotool
+from launcher import Launcher, click, keep_to_this_machine, output_of, point_at, wait_for, xdotool
 from scene import Scene
 
 STAGE, PLUGINS = sys.argv[1:]
@@ -93,6 +93,7 @@ def closing_ends_everything(launcher):
 
 
 def main():
+    keep_to_this_machine(STAGE)
     tool = None
     try:
         with Scene(STAGE) as scene, Launcher(STAGE, PLUGINS) as launcher:
