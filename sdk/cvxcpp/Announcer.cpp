@@ -3,6 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr auto LongestHold = std::chrono::milliseconds(500); // However often the program lists.
+
+thread_local bool isAnnouncing = false;
+
+} // namespace
+
 Announcer::Announcer(TakeChanges takeChanges) : m_takeChanges(std::move(takeChanges)) { }
 
 Announcer::~Announcer()
@@ -50,7 +58,8 @@ void Announcer::notify()
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_isNotified = true;
+        if (!std::exchange(m_isNotified, true))
+            m_notifiedAt = Clock::now();
     }
     m_wake.notify_all();
 }
@@ -61,9 +70,14 @@ void Announcer::holdUntil(Clock::time_point time)
     m_holdUntil = std::max(m_holdUntil, time); // A sleeper finds it when it wakes.
 }
 
+bool Announcer::isCallingObservers()
+{
+    return isAnnouncing;
+}
+
 void Announcer::run()
 {
-    m_threadId = std::this_thread::get_id();
+    isAnnouncing = true;
     while (waitForChanges()) {
         try {
             announce(m_takeChanges());
@@ -78,7 +92,7 @@ bool Announcer::waitForChanges()
     while (!m_isStopping) {
         if (!m_isNotified)
             m_wake.wait(lock);
-        else if (const auto until = m_holdUntil; Clock::now() < until)
+        else if (const auto until = std::min(m_holdUntil, m_notifiedAt + LongestHold); Clock::now() < until)
             m_wake.wait_until(lock, until);
         else
             break;

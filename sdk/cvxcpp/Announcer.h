@@ -3,7 +3,6 @@
 #include "CvxCPP/CvxCPP.h"
 #include "sdk/cvxcpp/CameraList.h"
 
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -38,11 +37,13 @@ public:
     /// There may be changes.
     void notify();
 
-    /// Announces nothing before that time. A program that is just taking a list would miss an announcement:
-    /// it would answer it with the list that it is about to have.
+    /// Announces nothing before that time, but holds no change back for more than half a second. A program
+    /// that is just taking a list would miss an announcement: it would answer it with the list that it is
+    /// about to have.
     void holdUntil(Clock::time_point time);
 
-    bool isOwnThread() const { return std::this_thread::get_id() == m_threadId; }
+    /// The calling thread is one that calls observers.
+    static bool isCallingObservers();
 
 private:
     void run();
@@ -57,7 +58,6 @@ private:
 
     const TakeChanges m_takeChanges;
     std::thread m_thread;
-    std::atomic<std::thread::id> m_threadId{};
 
     std::mutex m_mutex;
     std::condition_variable m_wake;
@@ -65,5 +65,6 @@ private:
     std::vector<std::shared_ptr<CvxCPP::IInterfaceListObserver>> m_interfaceObservers;
     Clock::time_point m_holdUntil{};
     bool m_isNotified = false;
+    Clock::time_point m_notifiedAt{}; // While that is true.
     bool m_isStopping = false;
 };

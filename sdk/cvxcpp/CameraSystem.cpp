@@ -40,6 +40,8 @@ CameraSystem::~CameraSystem()
 
 CvxError CameraSystem::Startup()
 {
+    if (Announcer::isCallingObservers())
+        return CvxErrorAlreadyStarted; // Or just ending, which waits for this callback.
     const std::lock_guard lifeLock(m_lifeMutex);
     if (session())
         return CvxErrorAlreadyStarted;
@@ -64,9 +66,8 @@ CvxError CameraSystem::startSession()
 
 CvxError CameraSystem::Shutdown()
 {
-    const auto running = session();
-    if (running && running->announcer().isOwnThread())
-        return CvxErrorFailed; // From a callback, which would wait for itself.
+    if (Announcer::isCallingObservers())
+        return CvxErrorFailed; // It would wait for itself.
     const std::lock_guard lifeLock(m_lifeMutex);
     std::shared_ptr<DiscoverySession> ending;
     std::shared_ptr<const DiscoverySession::Cameras> found;

@@ -230,6 +230,27 @@ TEST_F(LifetimeTest, AnEndFromACallbackIsRefused)
     EXPECT_EQ(list().size(), 1U) << "and the system goes on";
 }
 
+TEST_F(LifetimeTest, ACallbackMayStartAndEndWhileTheSystemEnds)
+{
+    addProducer("a", cameras(1));
+    start();
+    std::atomic<bool> isCalled{false};
+    std::atomic<CvxError> startError{CvxErrorSuccess}, endError{CvxErrorSuccess};
+    const auto recorder = std::make_shared<CameraRecorder>();
+    recorder->onCall = [&] {
+        isCalled = true;
+        unsigned count = 0;
+        waitUntil([&] { return system->GetCameras(nullptr, count) == CvxErrorNotStarted; });
+        startError = system->Startup();
+        endError = system->Shutdown();
+    };
+    ASSERT_EQ(system->RegisterCameraListObserver(recorder), CvxErrorSuccess);
+    ASSERT_TRUE(waitUntil([&] { return isCalled.load(); }));
+    stop();
+    EXPECT_EQ(startError, CvxErrorAlreadyStarted);
+    EXPECT_EQ(endError, CvxErrorFailed);
+}
+
 TEST_F(LifetimeTest, StartedToolsInheritNothing)
 {
     addProducer("a", cameras(1));

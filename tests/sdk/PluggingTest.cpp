@@ -171,7 +171,7 @@ TEST_F(PluggingTest, ASlowObserverHoldsUpNoList)
 
 TEST_F(PluggingTest, NothingIsAnnouncedRightAfterAListWasHandedOut)
 {
-    options.announceDelay = 1000ms;
+    options.announceDelay = 400ms;
     addProducer("a", cameras(1));
     start();
     const auto recorder = recordCameras();
@@ -180,7 +180,21 @@ TEST_F(PluggingTest, NothingIsAnnouncedRightAfterAListWasHandedOut)
     const auto listedAt = std::chrono::steady_clock::now();
     setScript("a", cameras(3));
     ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
-    EXPECT_GE(std::chrono::steady_clock::now() - listedAt, 900ms);
+    EXPECT_GE(std::chrono::steady_clock::now() - listedAt, 390ms);
+}
+
+TEST_F(PluggingTest, AProgramThatListsAllTheTimeIsToldAllTheSame)
+{
+    options.announceDelay = 250ms; // As in a program.
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    list();
+    setScript("a", cameras(2));
+    EXPECT_TRUE(waitUntil([&] {
+        list();
+        return !recorder->calls().empty();
+    }));
 }
 
 TEST_F(PluggingTest, AfterTheEndObserversAreDropped)
