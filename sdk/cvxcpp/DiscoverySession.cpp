@@ -4,6 +4,7 @@
 #include "sdk/cvxcpp/ProducerSearch.h"
 
 #include <algorithm>
+#include <csignal>
 #include <exception>
 #include <poll.h>
 #include <utility>
@@ -16,6 +17,15 @@ namespace {
 constexpr int MostStarts = 4; // At a time; between them, the hosts that run get their turn.
 constexpr auto EndInterval = 5ms; // Between two looks at hosts that are ending.
 constexpr auto KillWait = 300ms; // For killed hosts to be gone.
+
+/// Reports are written on this thread: a closed standard error must not end the program.
+void blockBrokenPipeSignal()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
 
 /// For poll(): milliseconds from now, rounded up, so that it does not return too early; -1 for ever.
 int pollTimeout(Producer::Time until, Producer::Time now)
@@ -180,6 +190,7 @@ void DiscoverySession::hideRepeats()
 
 void DiscoverySession::run()
 {
+    blockBrokenPipeSignal();
     try {
         startProducers();
         serveUntilStopped();

@@ -1,14 +1,21 @@
 #include "sdk/cvxcpp/SystemOptions.h"
 
+#include <climits>
 #include <filesystem>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
 
-/// Written in one go, so that lines of several processes do not mix.
+/// Written in one go, so that lines of several processes do not mix. A standard error that nobody reads costs
+/// the line, and not the program.
 void reportOnStandardError(const std::string &text)
 {
-    const std::string line = "libCvxCPP: " + text + '\n';
+    constexpr int LongestWait = 100; // Milliseconds.
+    const std::string line = ("libCvxCPP: " + text).substr(0, PIPE_BUF - 1) + '\n'; // More could block.
+    pollfd output{STDERR_FILENO, POLLOUT, 0};
+    if (poll(&output, 1, LongestWait) <= 0)
+        return;
     [[maybe_unused]] const auto written = write(STDERR_FILENO, line.data(), line.size());
 }
 

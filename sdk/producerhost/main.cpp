@@ -1,6 +1,7 @@
 #include "sdk/producerhost/HostServer.h"
 #include "sdk/producerhost/ParentWatch.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -16,15 +17,16 @@ namespace {
 constexpr int SocketDescriptor = 3; // The parent puts it there.
 constexpr int UsageError = 64;
 
-/// A driver that allocates without end must not take the machine with it.
+/// A driver that allocates without end must not take the machine with it. Address space alone is free: some
+/// drivers reserve more than there is memory.
 void limitMemory()
 {
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // They map terabytes.
     rlimit limit{};
     constexpr rlim_t MostBytes = rlim_t(8) << 30;
-    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur > MostBytes) {
+    if (getrlimit(RLIMIT_DATA, &limit) == 0 && limit.rlim_cur > MostBytes) {
         limit.rlim_cur = MostBytes;
-        setrlimit(RLIMIT_AS, &limit);
+        setrlimit(RLIMIT_DATA, &limit);
     }
 #endif
 }
@@ -50,6 +52,7 @@ int main(int argc, char *argv[])
     }
     if (!dieWithParent(SocketDescriptor))
         return EXIT_FAILURE;
+    std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
     limitMemory();
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
     unsetenv("G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.

@@ -155,6 +155,32 @@ TEST_F(BadFileTest, AMegabyteOnStandardOutputDisturbsNothing)
     close(null);
 }
 
+TEST_F(BadFileTest, ADriverMayPrintWhereNobodyReads)
+{
+    const int output = dup(STDOUT_FILENO);
+    int ends[2] = {-1, -1};
+    ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+    close(ends[0]);
+    dup2(ends[1], STDOUT_FILENO);
+    addProducer("bad", "fault IFUpdateDeviceList print\n" + cameras(2));
+    start();
+    const bool isListed = waitUntil([this] { return countListed("bad.cti") == 2; });
+    stop();
+    dup2(output, STDOUT_FILENO); // Before a failure is printed.
+    close(output);
+    close(ends[1]);
+    EXPECT_TRUE(isListed);
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+}
+
+TEST_F(BadFileTest, ADriverMayReserveMoreAddressesThanThereIsMemory)
+{
+    addProducer("bad", "fault load reserve 64\n" + cameras(2));
+    start();
+    EXPECT_TRUE(waitUntil([this] { return countListed("bad.cti") == 2; }));
+    EXPECT_TRUE(reports().empty());
+}
+
 TEST_F(BadFileTest, AReportIsOneLineWhateverTheNameOfTheFile)
 {
     writeFile(ctiPath("a\nb\xFF.cti"), "");

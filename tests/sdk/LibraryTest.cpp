@@ -143,6 +143,18 @@ TEST_F(LibraryTest, ReportsOnStandardError)
         << process.output();
 }
 
+TEST_F(LibraryTest, AStandardErrorThatNobodyReadsHarmsNothing)
+{
+    addSimulator();
+    writeFile(root.path() / "cti/text.cti", "no library");
+    for (const char *error : {"unread", "stuffed"}) {
+        auto process = run({error, "start", "list", "stop"});
+        EXPECT_EQ(process.exitStatus(), 0) << error;
+        EXPECT_EQ(process.count("list 0 2"), 1U) << error << process.output();
+        EXPECT_EQ(process.count("stop 0"), 1U) << error;
+    }
+}
+
 TEST_F(LibraryTest, AnnouncesWithinThreeSeconds)
 {
     addSimulator();

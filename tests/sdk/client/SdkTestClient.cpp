@@ -1,6 +1,7 @@
 // What a program does with the library, driven by its arguments, each of which is one step:
 //   start, stop, list, watch (prints announcements from here on), leave (exits at once, without a stop),
-//   fork (a forked child exits), wait (until standard input ends)
+//   fork (a forked child exits), wait (until standard input ends), unread (standard error is a closed pipe),
+//   stuffed (standard error is a full pipe)
 
 #include "CvxCPP/CvxCPP.h"
 #include "tests/sdk/support/CameraText.h"
@@ -8,6 +9,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <memory>
 #include <string>
 #include <sys/wait.h>
@@ -41,6 +43,25 @@ void list(CvxSystem &system)
         system.GetCameras(cameras.data(), count);
     for (const auto &camera : cameras)
         std::printf("camera %s\n", extendedId(*camera).c_str());
+}
+
+/// Gives standard error to a pipe, and returns the end to read from.
+int pipeStandardError()
+{
+    int ends[2] = {-1, -1};
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        std::abort();
+    dup2(ends[1], STDERR_FILENO);
+    close(ends[1]);
+    return ends[0];
+}
+
+void stuffStandardError()
+{
+    pipeStandardError();
+    fcntl(STDERR_FILENO, F_SETFL, O_NONBLOCK);
+    while (write(STDERR_FILENO, "x", 1) == 1) { }
+    fcntl(STDERR_FILENO, F_SETFL, 0);
 }
 
 void forkAndExit()
@@ -78,6 +99,10 @@ int main(int argc, char *argv[])
             list(system);
         else if (step == "watch")
             std::printf("watch %d\n", system.RegisterCameraListObserver(std::make_shared<Printer>()));
+        else if (step == "unread")
+            close(pipeStandardError());
+        else if (step == "stuffed")
+            stuffStandardError();
         else if (step == "fork")
             forkAndExit();
         else if (step == "leave")
