@@ -76,10 +76,15 @@ bool DiscoverySession::isFresh(Time searchedAt) const
     return searchedAt != Time::min() && Clock::now() - searchedAt < m_options.reuseTime;
 }
 
+bool DiscoverySession::isListFresh(const View &view) const
+{
+    return isFresh(std::max(view.listedAt, view.searchEndedAt));
+}
+
 bool DiscoverySession::isInterfaceFresh(const View &view, const std::string &interfaceId) const
 {
     const auto single = view.interfaceListedAt.find(interfaceId);
-    return isFresh(view.listedAt) || (single != view.interfaceListedAt.end() && isFresh(single->second));
+    return isListFresh(view) || (single != view.interfaceListedAt.end() && isFresh(single->second));
 }
 
 bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
@@ -91,7 +96,7 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
     std::vector<std::pair<std::size_t, Time>> awaited; // Producer, and when it had its last list.
     for (std::size_t i = 0; i < m_views.size(); ++i) {
         View &view = m_views[i];
-        if (!view.isAwaited || isFresh(view.listedAt))
+        if (!view.isAwaited || isListFresh(view))
             continue;
         view.isListWanted = true;
         awaited.emplace_back(i, view.listedAt);
@@ -110,10 +115,22 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
         if (!isDone(entry))
             m_views[entry.first].isAwaited = false; // Its answer will be announced.
     }
+    if (!awaited.empty())
+        endSearch();
     cameras = collectCameras();
     lock.unlock();
     m_announcer.holdUntil(Clock::now() + m_options.announceDelay);
     return true;
+}
+
+void DiscoverySession::endSearch()
+{
+    // The quick producers' lists count from here on, too: those who go through them have just got them.
+    const Time now = Clock::now();
+    for (View &view : m_views) {
+        if (view.isAwaited && view.listedAt != Time::min())
+            view.searchEndedAt = now;
+    }
 }
 
 std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::collectCameras()
@@ -317,6 +334,7 @@ void DiscoverySession::publish(std::size_t index, Producer::Event event, Time no
         case Producer::Event::Lost:
         case Producer::Event::Nothing:
             view.listedAt = Time::min();
+            view.searchEndedAt = Time::min();
             view.interfaceListedAt.clear();
             view.wantedInterfaces.clear();
             break;

@@ -52,6 +52,7 @@ private:
         CameraList::Pointer shown = CameraList::empty(); ///< Without what an earlier directory has.
         std::vector<std::shared_ptr<const InterfaceRecord>> records;
         Time listedAt = Time::min();
+        Time searchEndedAt = Time::min(); ///< The search of all producers that had this list.
         std::map<std::string, Time> interfaceListedAt; ///< Searches of one interface, later than listedAt.
         bool isAwaited = true; ///< False from a missed deadline or a loss to the next answer.
 
@@ -77,7 +78,9 @@ private:
 
     // On the callers' threads, with the mutex held.
     bool isFresh(Time searchedAt) const;
+    bool isListFresh(const View &view) const;
     bool isInterfaceFresh(const View &view, const std::string &interfaceId) const;
+    void endSearch();
     std::shared_ptr<const Cameras> collectCameras();
     CameraListChange takeChanges();
     void hideRepeats();

@@ -127,6 +127,21 @@ TEST_F(ListingTest, AScanOfManyCamerasCostsOneSearch)
     EXPECT_EQ(countCalls("a", "IFUpdateDeviceList"), 1U);
 }
 
+TEST_F(ListingTest, AScanCostsOneSearchBesideASlowProducerToo)
+{
+    lookNever();
+    options.reuseTime = 1s;
+    addProducer("a", cameras(2));
+    addProducer("slow", "fault IFUpdateDeviceList slow 1500\n" + cameras(1));
+    start();
+    const Cameras found = list();
+    ASSERT_EQ(found.size(), 3U);
+    for (std::size_t i = 0; i < found.size(); ++i)
+        EXPECT_EQ(feature(*interfaceOf(found, i), "DeviceUpdateList")->RunCommand(), CvxErrorSuccess);
+    EXPECT_EQ(countCalls("a", "IFUpdateDeviceList"), 1U);
+    EXPECT_EQ(countCalls("slow", "IFUpdateDeviceList"), 1U);
+}
+
 TEST_F(ListingTest, ProducersAreAskedAtTheSameTime)
 {
     lookNever();
