@@ -17,16 +17,16 @@ namespace {
 constexpr int SocketDescriptor = 3; // The parent puts it there.
 constexpr int UsageError = 64;
 
-/// A driver that allocates without end must not take the machine with it. Address space alone is free: some
-/// drivers reserve more than there is memory.
+/// A driver that allocates without end must not take the machine with it. Counted in address space, which also
+/// stops one that only reserves; no driver for a list of cameras needs as much.
 void limitMemory()
 {
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // They map terabytes.
     rlimit limit{};
     constexpr rlim_t MostBytes = rlim_t(8) << 30;
-    if (getrlimit(RLIMIT_DATA, &limit) == 0 && limit.rlim_cur > MostBytes) {
+    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur > MostBytes) {
         limit.rlim_cur = MostBytes;
-        setrlimit(RLIMIT_DATA, &limit);
+        setrlimit(RLIMIT_AS, &limit);
     }
 #endif
 }

@@ -173,14 +173,6 @@ TEST_F(BadFileTest, ADriverMayPrintWhereNobodyReads)
     EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
 }
 
-TEST_F(BadFileTest, ADriverMayReserveMoreAddressesThanThereIsMemory)
-{
-    addProducer("bad", "fault load reserve 64\n" + cameras(2));
-    start();
-    EXPECT_TRUE(waitUntil([this] { return countListed("bad.cti") == 2; }));
-    EXPECT_TRUE(reports().empty());
-}
-
 TEST_F(BadFileTest, AReportIsOneLineWhateverTheNameOfTheFile)
 {
     writeFile(ctiPath("a\nb\xFF.cti"), "");

@@ -5,7 +5,7 @@
 //   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   missing fields at the end are refused with -1003
 //   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
 // Actions: error CODE, crash, abort, throw, exit CODE, hang, slow MILLISECONDS, untouched, fork, print,
-// reserve GIGABYTES, close. The calls are written to "name.log", each with its process.
+// close. The calls are written to "name.log", each with its process.
 
 #include "sdk/gentl/GenTL.h"
 
@@ -24,7 +24,6 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
-#include <sys/mman.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -164,12 +163,6 @@ int perform(const std::string &action)
         forkAndCrash();
     if (verb == "print")
         std::printf("%s\n", std::string(1 << 20, 'x').c_str());
-    if (verb == "reserve") { // Gigabytes of address space, as drivers for large buffers do.
-        if (mmap(nullptr, std::size_t(argument) << 30, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE,
-                -1, 0)
-            == MAP_FAILED)
-            std::abort();
-    }
     if (verb == "close") {
         for (int descriptor = 3; descriptor < 64; ++descriptor)
             close(descriptor);
