@@ -2,7 +2,7 @@
 
 #include "tests/road/windowreader/WindowReader.h"
 
-QObject *WindowReaderPlugin::create(const QString &, const QString &specification)
+QObject *WindowReaderPlugin::create(const QString &, const QString &socketPath)
 {
-    return new WindowReader(specification);
+    return new WindowReader(socketPath);
 }
