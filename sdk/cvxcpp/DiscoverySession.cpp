@@ -71,22 +71,6 @@ void DiscoverySession::stop()
 
 // ---- Callers -----------------------------------------------------------------------------------------
 
-bool DiscoverySession::isFresh(Time searchedAt) const
-{
-    return searchedAt != Time::min() && Clock::now() - searchedAt < m_options.reuseTime;
-}
-
-bool DiscoverySession::isListFresh(const View &view) const
-{
-    return isFresh(std::max(view.listedAt, view.searchEndedAt));
-}
-
-bool DiscoverySession::isInterfaceFresh(const View &view, const std::string &interfaceId) const
-{
-    const auto single = view.interfaceListedAt.find(interfaceId);
-    return isListFresh(view) || (single != view.interfaceListedAt.end() && isFresh(single->second));
-}
-
 bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
 {
     const Time deadline = Clock::now() + m_options.answerWait;
@@ -95,8 +79,8 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
 
     std::vector<std::pair<std::size_t, Time>> awaited; // Producer, and when it had its last list.
     for (std::size_t i = 0; i < m_views.size(); ++i) {
-        View &view = m_views[i];
-        if (!view.isAwaited || isListFresh(view))
+        ProducerView &view = m_views[i];
+        if (!view.isAwaited || view.isFresh(Clock::now(), m_options.reuseTime))
             continue;
         view.isListWanted = true;
         awaited.emplace_back(i, view.listedAt);
@@ -104,7 +88,7 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
     if (!awaited.empty())
         m_wakeEvent.signal();
     const auto isDone = [this](const std::pair<std::size_t, Time> &entry) {
-        const View &view = m_views[entry.first];
+        const ProducerView &view = m_views[entry.first];
         return !view.isAwaited || view.listedAt != entry.second;
     };
     m_changed.wait_until(
@@ -115,31 +99,22 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
         if (!isDone(entry))
             m_views[entry.first].isAwaited = false; // Its answer will be announced.
     }
-    if (!awaited.empty())
-        endSearch();
+    if (!awaited.empty()) {
+        for (ProducerView &view : m_views)
+            view.searchEnded(Clock::now()); // The quick producers' lists as well as the one waited for.
+    }
     cameras = collectCameras();
     lock.unlock();
     m_announcer.holdUntil(Clock::now() + m_options.announceDelay);
     return true;
 }
 
-void DiscoverySession::endSearch()
-{
-    // The quick producers' lists count from here on, too: those who go through them have just got them.
-    const Time now = Clock::now();
-    for (View &view : m_views) {
-        if (view.isAwaited && view.listedAt != Time::min())
-            view.searchEndedAt = now;
-    }
-}
-
 std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::collectCameras()
 {
     auto cameras = std::make_shared<Cameras>();
-    for (View &view : m_views) {
-        cameras->insert(cameras->end(), view.shown->cameras.begin(), view.shown->cameras.end());
-        if (!std::exchange(view.isSettled, true))
-            view.announced = view.shown; // The program has it from here.
+    for (ProducerView &view : m_views) {
+        const auto &shown = view.handOut().cameras;
+        cameras->insert(cameras->end(), shown.begin(), shown.end());
     }
     return cameras;
 }
@@ -151,14 +126,16 @@ CvxError DiscoverySession::searchInterface(
     std::unique_lock lock(m_mutex);
     if (!*m_isRunning)
         return CvxErrorNotStarted;
-    View &view = m_views.at(producer);
-    if (!isInterfaceFresh(view, interfaceId)) {
+    ProducerView &view = m_views.at(producer);
+    const auto isFresh
+        = [&] { return view.isInterfaceFresh(interfaceId, Clock::now(), m_options.reuseTime); };
+    if (!isFresh()) {
         if (!view.isAwaited)
             return CvxErrorTimeout;
         view.wantedInterfaces.insert(interfaceId);
         m_wakeEvent.signal();
         const bool isAnswered = m_changed.wait_until(lock, deadline, [&] {
-            return !*m_isRunning || !view.isAwaited || isInterfaceFresh(view, interfaceId)
+            return !*m_isRunning || !view.isAwaited || isFresh()
                 || view.wantedInterfaces.count(interfaceId) == 0;
         });
         if (!*m_isRunning)
@@ -168,12 +145,8 @@ CvxError DiscoverySession::searchInterface(
         if (!view.isAwaited)
             return CvxErrorTimeout;
     }
-    const auto found = std::find_if(view.records.begin(), view.records.end(),
-        [&](const auto &candidate) { return candidate->id == interfaceId; });
-    if (found == view.records.end())
-        return CvxErrorNotAvailable;
-    record = *found;
-    return CvxErrorSuccess;
+    record = view.findRecord(interfaceId);
+    return record ? CvxErrorSuccess : CvxErrorNotAvailable;
 }
 
 CameraListChange DiscoverySession::takeChanges()
@@ -181,7 +154,7 @@ CameraListChange DiscoverySession::takeChanges()
     std::vector<std::pair<CameraList::Pointer, CameraList::Pointer>> lists;
     {
         const std::lock_guard lock(m_mutex);
-        for (View &view : m_views) {
+        for (ProducerView &view : m_views) {
             if (view.isSettled && view.announced != view.shown)
                 lists.emplace_back(std::exchange(view.announced, view.shown), view.shown);
         }
@@ -196,7 +169,7 @@ void DiscoverySession::hideRepeats()
 {
     std::vector<ProducerReport> reports;
     reports.reserve(m_views.size());
-    for (const View &view : m_views)
+    for (const ProducerView &view : m_views)
         reports.push_back({view.directory, view.list});
     const std::vector<CameraList::Pointer> shown = withoutRepeats(reports);
     for (std::size_t i = 0; i < m_views.size(); ++i)
@@ -257,7 +230,7 @@ void DiscoverySession::sendWishes(Time now, bool isLookDue)
     {
         const std::lock_guard lock(m_mutex);
         for (std::size_t i = 0; i < m_producers.size(); ++i) {
-            View &view = m_views[i];
+            ProducerView &view = m_views[i];
             Producer &producer = *m_producers[i];
             view.isListWanted = view.isListWanted || isLookDue;
             if (!producer.isIdle())
@@ -313,34 +286,19 @@ void DiscoverySession::publish(std::size_t index, Producer::Event event, Time no
     bool isChanged = false;
     {
         const std::lock_guard lock(m_mutex);
-        View &view = m_views[index];
+        ProducerView &view = m_views[index];
         isChanged = view.list != producer.list();
         if (isChanged) {
             view.list = producer.list();
             view.records = producer.records();
             hideRepeats();
         }
-        switch (event) {
-        case Producer::Event::Listed:
-            view.listedAt = now;
-            view.interfaceListedAt.clear();
-            view.isListWanted = false;
-            view.wantedInterfaces.clear();
-            break;
-        case Producer::Event::InterfaceListed:
-            view.interfaceListedAt[producer.searchedInterface()] = now;
-            view.wantedInterfaces.erase(producer.searchedInterface());
-            break;
-        case Producer::Event::Lost:
-        case Producer::Event::Nothing:
-            view.listedAt = Time::min();
-            view.searchEndedAt = Time::min();
-            view.interfaceListedAt.clear();
-            view.wantedInterfaces.clear();
-            break;
-        }
-        view.isAwaited = event != Producer::Event::Lost;
-        view.isSettled = view.isSettled || !view.isAwaited;
+        if (event == Producer::Event::Listed)
+            view.listed(now);
+        else if (event == Producer::Event::InterfaceListed)
+            view.interfaceListed(producer.searchedInterface(), now);
+        else
+            view.lost();
     }
     m_changed.notify_all();
     if (isChanged)
@@ -355,8 +313,7 @@ void DiscoverySession::markLate(Time now)
         for (std::size_t i = 0; i < m_producers.size(); ++i) {
             if (!m_producers[i]->isLate(now) || !m_views[i].isAwaited)
                 continue;
-            m_views[i].isAwaited = false;
-            m_views[i].isSettled = true;
+            m_views[i].late();
             isAnyLate = true;
         }
     }
@@ -369,7 +326,7 @@ void DiscoverySession::settleAll()
     bool isAnyNew = false;
     {
         const std::lock_guard lock(m_mutex);
-        for (View &view : m_views)
+        for (ProducerView &view : m_views)
             isAnyNew = !std::exchange(view.isSettled, true) || isAnyNew;
     }
     if (isAnyNew)

@@ -4,16 +4,15 @@
 #include "sdk/cvxcpp/CameraList.h"
 #include "sdk/cvxcpp/InterfaceSource.h"
 #include "sdk/cvxcpp/Producer.h"
+#include "sdk/cvxcpp/ProducerView.h"
 #include "sdk/cvxcpp/SystemOptions.h"
 #include "sdk/cvxcpp/WakeEvent.h"
 
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <mutex>
-#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -44,25 +43,6 @@ private:
     using Clock = Producer::Clock;
     using Time = Producer::Time;
 
-    /// What the callers see of one producer, and what they wish.
-    struct View
-    {
-        std::size_t directory = 0; ///< Of its producer, in the search order.
-        CameraList::Pointer list = CameraList::empty(); ///< What the producer reports.
-        CameraList::Pointer shown = CameraList::empty(); ///< Without what an earlier directory has.
-        std::vector<std::shared_ptr<const InterfaceRecord>> records;
-        Time listedAt = Time::min();
-        Time searchEndedAt = Time::min(); ///< The search of all producers that had this list.
-        std::map<std::string, Time> interfaceListedAt; ///< Searches of one interface, later than listedAt.
-        bool isAwaited = true; ///< False from a missed deadline or a loss to the next answer.
-
-        CameraList::Pointer announced = CameraList::empty();
-        bool isSettled = false; ///< Its first list is not announced when the program has asked for it.
-
-        bool isListWanted = false;
-        std::set<std::string> wantedInterfaces;
-    };
-
     // On the session's thread.
     void run();
     void startProducers();
@@ -77,10 +57,6 @@ private:
     void fail(const char *reason);
 
     // On the callers' threads, with the mutex held.
-    bool isFresh(Time searchedAt) const;
-    bool isListFresh(const View &view) const;
-    bool isInterfaceFresh(const View &view, const std::string &interfaceId) const;
-    void endSearch();
     std::shared_ptr<const Cameras> collectCameras();
     CameraListChange takeChanges();
     void hideRepeats();
@@ -95,6 +71,6 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::vector<View> m_views; // As m_producers.
+    std::vector<ProducerView> m_views; // As m_producers.
     bool m_isReady = false; // The producers are known.
 };
