@@ -37,7 +37,7 @@ void append(Objects &objects, const Objects &more)
 
 CameraList::Pointer CameraList::create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
     const std::shared_ptr<const std::string> &producerName,
-    const std::vector<std::shared_ptr<const InterfaceRecord>> &records)
+    const std::vector<std::shared_ptr<const ListedInterface>> &records)
 {
     auto list = std::make_shared<CameraList>();
     list->interfaces.reserve(records.size());

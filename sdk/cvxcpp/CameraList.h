@@ -20,7 +20,7 @@ struct CameraList
     /// Makes the objects for records that are sorted by ID.
     static Pointer create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
         const std::shared_ptr<const std::string> &producerName,
-        const std::vector<std::shared_ptr<const InterfaceRecord>> &records);
+        const std::vector<std::shared_ptr<const ListedInterface>> &records);
 
     static Pointer empty();
 };

@@ -9,7 +9,7 @@
 using namespace CvxCPP;
 
 CameraObject::CameraObject(std::shared_ptr<InterfaceObject> interface,
-    std::shared_ptr<const InterfaceRecord> record, std::size_t device)
+    std::shared_ptr<const ListedInterface> record, std::size_t device)
     : m_interface(std::move(interface)), m_record(std::move(record)), m_device(device)
 { }
 

@@ -28,12 +28,12 @@ void blockBrokenPipeSignal()
 }
 
 /// For poll(): milliseconds from now, rounded up, so that it does not return too early; -1 for ever.
-int pollTimeout(Producer::Time until, Producer::Time now)
+int pollTimeout(HostedProducer::Time until, HostedProducer::Time now)
 {
     constexpr auto Longest = std::chrono::milliseconds(60000);
-    if (until == Producer::Time::max())
+    if (until == HostedProducer::Time::max())
         return -1;
-    const auto left = std::clamp<Producer::Clock::duration>(until - now, 0ms, Longest);
+    const auto left = std::clamp<HostedProducer::Clock::duration>(until - now, 0ms, Longest);
     return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count());
 }
 
@@ -120,7 +120,7 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::collectCamera
 }
 
 CvxError DiscoverySession::searchInterface(
-    std::size_t producer, const std::string &interfaceId, std::shared_ptr<const InterfaceRecord> &record)
+    std::size_t producer, const std::string &interfaceId, std::shared_ptr<const ListedInterface> &record)
 {
     const Time deadline = Clock::now() + m_options.answerWait;
     std::unique_lock lock(m_mutex);
@@ -194,7 +194,8 @@ void DiscoverySession::startProducers()
 {
     const std::vector<ProducerFile> files = findProducers(m_ctiDirectories);
     for (std::size_t i = 0; i < files.size(); ++i)
-        m_producers.push_back(std::make_unique<Producer>(m_options, files[i].path, i, weak_from_this()));
+        m_producers.push_back(
+            std::make_unique<HostedProducer>(m_options, files[i].path, i, weak_from_this()));
     {
         const std::lock_guard lock(m_mutex);
         m_views.resize(files.size());
@@ -231,7 +232,7 @@ void DiscoverySession::sendWishes(Time now, bool isLookDue)
         const std::lock_guard lock(m_mutex);
         for (std::size_t i = 0; i < m_producers.size(); ++i) {
             ProducerView &view = m_views[i];
-            Producer &producer = *m_producers[i];
+            HostedProducer &producer = *m_producers[i];
             view.isListWanted = view.isListWanted || isLookDue;
             if (!producer.isIdle())
                 continue;
@@ -274,15 +275,15 @@ void DiscoverySession::stepProducers(const std::vector<bool> &isReadable)
         const Time now = Clock::now();
         if (m_producers[i]->isStartDue(now) && ++starts > MostStarts)
             continue;
-        const Producer::Event event = m_producers[i]->step(now, isReadable[i]);
-        if (event != Producer::Event::Nothing)
+        const HostedProducer::Event event = m_producers[i]->step(now, isReadable[i]);
+        if (event != HostedProducer::Event::Nothing)
             publish(i, event, now);
     }
 }
 
-void DiscoverySession::publish(std::size_t index, Producer::Event event, Time now)
+void DiscoverySession::publish(std::size_t index, HostedProducer::Event event, Time now)
 {
-    const Producer &producer = *m_producers[index];
+    const HostedProducer &producer = *m_producers[index];
     bool isChanged = false;
     {
         const std::lock_guard lock(m_mutex);
@@ -293,9 +294,9 @@ void DiscoverySession::publish(std::size_t index, Producer::Event event, Time no
             view.records = producer.records();
             hideRepeats();
         }
-        if (event == Producer::Event::Listed)
+        if (event == HostedProducer::Event::Listed)
             view.listed(now);
-        else if (event == Producer::Event::InterfaceListed)
+        else if (event == HostedProducer::Event::InterfaceListed)
             view.interfaceListed(producer.searchedInterface(), now);
         else
             view.lost();

@@ -2,8 +2,8 @@
 
 #include "sdk/cvxcpp/Announcer.h"
 #include "sdk/cvxcpp/CameraList.h"
+#include "sdk/cvxcpp/HostedProducer.h"
 #include "sdk/cvxcpp/InterfaceSource.h"
-#include "sdk/cvxcpp/Producer.h"
 #include "sdk/cvxcpp/ProducerView.h"
 #include "sdk/cvxcpp/SystemOptions.h"
 #include "sdk/cvxcpp/WakeEvent.h"
@@ -35,13 +35,13 @@ public:
 
     RunningFlag runningFlag() const override { return m_isRunning; }
     CvxCPP::CvxError searchInterface(std::size_t producer, const std::string &interfaceId,
-        std::shared_ptr<const InterfaceRecord> &record) override;
+        std::shared_ptr<const ListedInterface> &record) override;
 
     Announcer &announcer() { return m_announcer; }
 
 private:
-    using Clock = Producer::Clock;
-    using Time = Producer::Time;
+    using Clock = HostedProducer::Clock;
+    using Time = HostedProducer::Time;
 
     // On the session's thread.
     void run();
@@ -50,7 +50,7 @@ private:
     void sendWishes(Time now, bool isLookDue);
     void waitForEvents(Time nextLook, std::vector<bool> &isReadable);
     void stepProducers(const std::vector<bool> &isReadable);
-    void publish(std::size_t index, Producer::Event event, Time now);
+    void publish(std::size_t index, HostedProducer::Event event, Time now);
     void markLate(Time now);
     void settleAll();
     void endProducers();
@@ -64,7 +64,7 @@ private:
     const SystemOptions m_options;
     const std::vector<std::string> m_ctiDirectories;
     const WakeEvent m_wakeEvent;
-    std::vector<std::unique_ptr<Producer>> m_producers; // Of the session's thread.
+    std::vector<std::unique_ptr<HostedProducer>> m_producers; // Of the session's thread.
     std::thread m_thread;
     Announcer m_announcer;
     const std::shared_ptr<std::atomic<bool>> m_isRunning = std::make_shared<std::atomic<bool>>(true);

@@ -28,7 +28,7 @@ char lowerCase(char character)
 }
 
 /// Empty for a camera that cannot be recognised.
-std::string identityOf(const DeviceRecord &device)
+std::string identityOf(const ListedDevice &device)
 {
     std::string identity;
     for (const std::string *field : {&device.vendor, &device.model, &device.serial}) {

@@ -10,7 +10,7 @@
 using namespace CvxCPP;
 
 InterfaceObject::InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
-    std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record)
+    std::shared_ptr<const std::string> producerName, std::shared_ptr<const ListedInterface> record)
     : m_source(std::move(source)),
       m_isRunning(m_source.lock()->runningFlag()),
       m_producer(producer),
@@ -43,7 +43,7 @@ CvxError InterfaceObject::updateDeviceList()
     const auto source = m_source.lock();
     if (!source)
         return CvxErrorNotStarted;
-    std::shared_ptr<const InterfaceRecord> record;
+    std::shared_ptr<const ListedInterface> record;
     try {
         const CvxError error = source->searchInterface(m_producer, m_id, record);
         if (error != CvxErrorSuccess)
@@ -83,7 +83,7 @@ CvxError InterfaceObject::select(long index)
     return CvxErrorSuccess;
 }
 
-CvxError InterfaceObject::selectedText(std::string DeviceRecord::*field, char *buffer, unsigned &size) const
+CvxError InterfaceObject::selectedText(std::string ListedDevice::*field, char *buffer, unsigned &size) const
 {
     if (!isRunning())
         return CvxErrorNotStarted;

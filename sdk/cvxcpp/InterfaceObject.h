@@ -17,7 +17,7 @@ class InterfaceObject final : public CvxCPP::Interface, public std::enable_share
 public:
     /// `source` must still be there.
     InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
-        std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record);
+        std::shared_ptr<const std::string> producerName, std::shared_ptr<const ListedInterface> record);
 
     CvxCPP::CvxError GetFeatureByName(const char *name, std::shared_ptr<CvxCPP::Feature> &feature) override;
 
@@ -29,7 +29,7 @@ public:
     CvxCPP::CvxError updateDeviceList();
     CvxCPP::CvxError selectorRange(long &min, long &max) const;
     CvxCPP::CvxError select(long index);
-    CvxCPP::CvxError selectedText(std::string DeviceRecord::*field, char *buffer, unsigned &size) const;
+    CvxCPP::CvxError selectedText(std::string ListedDevice::*field, char *buffer, unsigned &size) const;
 
 private:
     const std::weak_ptr<InterfaceSource> m_source;
@@ -40,6 +40,6 @@ private:
     std::array<InterfaceFeature, 4> m_features;
 
     mutable std::mutex m_mutex;
-    std::shared_ptr<const InterfaceRecord> m_record; // Never null.
+    std::shared_ptr<const ListedInterface> m_record; // Never null.
     std::size_t m_selected = 0; // Meaningless while there is no device.
 };

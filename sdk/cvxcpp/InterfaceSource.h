@@ -20,7 +20,7 @@ public:
 
     /// Searches one interface of a producer, unless it was just searched, and gives what is on it now.
     virtual CvxCPP::CvxError searchInterface(
-        std::size_t producer, const std::string &interfaceId, std::shared_ptr<const InterfaceRecord> &record)
+        std::size_t producer, const std::string &interfaceId, std::shared_ptr<const ListedInterface> &record)
         = 0;
 
 protected:

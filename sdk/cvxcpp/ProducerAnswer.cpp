@@ -163,7 +163,7 @@ private:
         }
     }
 
-    std::string *interfaceField(InterfaceRecord &record) const
+    std::string *interfaceField(ListedInterface &record) const
     {
         return m_key == "id"  ? &record.id
             : m_key == "name" ? &record.name
@@ -171,11 +171,11 @@ private:
                               : nullptr;
     }
 
-    std::string *deviceField(DeviceRecord &record) const
+    std::string *deviceField(ListedDevice &record) const
     {
-        static constexpr std::pair<std::string_view, std::string DeviceRecord::*> fields[] = {
-            {"id", &DeviceRecord::id}, {"vendor", &DeviceRecord::vendor}, {"model", &DeviceRecord::model},
-            {"serial", &DeviceRecord::serial}, {"name", &DeviceRecord::name}, {"type", &DeviceRecord::type}};
+        static constexpr std::pair<std::string_view, std::string ListedDevice::*> fields[] = {
+            {"id", &ListedDevice::id}, {"vendor", &ListedDevice::vendor}, {"model", &ListedDevice::model},
+            {"serial", &ListedDevice::serial}, {"name", &ListedDevice::name}, {"type", &ListedDevice::type}};
         for (const auto &[name, field] : fields) {
             if (m_key == name)
                 return &(record.*field);
@@ -189,7 +189,7 @@ private:
     bool m_isAnswer = false;
 };
 
-auto fieldsOf(const DeviceRecord &device)
+auto fieldsOf(const ListedDevice &device)
 {
     return std::tie(device.id, device.vendor, device.model, device.serial, device.name, device.type);
 }
@@ -211,7 +211,7 @@ bool parseAnswer(std::string_view line, ProducerAnswer &answer)
         AnswerHandler handler(answer);
         if (line.size() > LongestAnswer || !nlohmann::json::sax_parse(line, &handler) || !handler.isAnswer())
             return false;
-        for (InterfaceRecord &record : answer.interfaces)
+        for (ListedInterface &record : answer.interfaces)
             sortById(record.devices);
         sortById(answer.interfaces);
         return true;
@@ -220,12 +220,12 @@ bool parseAnswer(std::string_view line, ProducerAnswer &answer)
     }
 }
 
-bool operator==(const DeviceRecord &a, const DeviceRecord &b)
+bool operator==(const ListedDevice &a, const ListedDevice &b)
 {
     return fieldsOf(a) == fieldsOf(b);
 }
 
-bool operator==(const InterfaceRecord &a, const InterfaceRecord &b)
+bool operator==(const ListedInterface &a, const ListedInterface &b)
 {
     return a.number == b.number && a.id == b.id && a.name == b.name && a.type == b.type
         && a.devices == b.devices;

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// One device as its producer describes it. Valid UTF-8; every text but the ID may be empty.
-struct DeviceRecord
+struct ListedDevice
 {
     std::string id;
     std::string vendor;
@@ -18,13 +18,13 @@ struct DeviceRecord
 };
 
 /// One interface with the devices on it, sorted by ID.
-struct InterfaceRecord
+struct ListedInterface
 {
     std::uint64_t number = 0; ///< What the host calls it in requests.
     std::string id;
     std::string name;
     std::string type;
-    std::vector<DeviceRecord> devices;
+    std::vector<ListedDevice> devices;
 };
 
 /// One call of a producer that went wrong.
@@ -46,7 +46,7 @@ struct ProducerAnswer
     };
 
     Kind kind = Kind::List;
-    std::vector<InterfaceRecord> interfaces; ///< Of a list; sorted by ID.
+    std::vector<ListedInterface> interfaces; ///< Of a list; sorted by ID.
     std::vector<CallProblem> problems; ///< Of an error the one that is fatal.
 };
 
@@ -56,5 +56,5 @@ constexpr std::size_t LongestAnswer = 64U << 20;
 /// Reads one line of JSON. False when it is no answer; nothing is thrown, whatever the text.
 bool parseAnswer(std::string_view line, ProducerAnswer &answer);
 
-bool operator==(const DeviceRecord &a, const DeviceRecord &b);
-bool operator==(const InterfaceRecord &a, const InterfaceRecord &b);
+bool operator==(const ListedDevice &a, const ListedDevice &b);
+bool operator==(const ListedInterface &a, const ListedInterface &b);

@@ -68,7 +68,7 @@ const CameraList &ProducerView::handOut()
     return *shown;
 }
 
-std::shared_ptr<const InterfaceRecord> ProducerView::findRecord(const std::string &interfaceId) const
+std::shared_ptr<const ListedInterface> ProducerView::findRecord(const std::string &interfaceId) const
 {
     const auto found = std::find_if(
         records.begin(), records.end(), [&](const auto &candidate) { return candidate->id == interfaceId; });

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sdk/cvxcpp/CameraList.h"
-#include "sdk/cvxcpp/Producer.h"
+#include "sdk/cvxcpp/HostedProducer.h"
 
 #include <cstddef>
 #include <map>
@@ -13,13 +13,13 @@
 /// What the callers of a session see of one producer, and what they wish of it.
 struct ProducerView
 {
-    using Time = Producer::Time;
-    using Duration = Producer::Clock::duration;
+    using Time = HostedProducer::Time;
+    using Duration = HostedProducer::Clock::duration;
 
     std::size_t directory = 0; ///< Of its producer, in the search order.
     CameraList::Pointer list = CameraList::empty(); ///< What the producer reports.
     CameraList::Pointer shown = CameraList::empty(); ///< Without what an earlier directory has.
-    std::vector<std::shared_ptr<const InterfaceRecord>> records; ///< The list's interfaces.
+    std::vector<std::shared_ptr<const ListedInterface>> records; ///< The list's interfaces.
 
     Time listedAt = Time::min();
     Time searchEndedAt = Time::min(); ///< The search of all producers that had this list.
@@ -49,5 +49,5 @@ struct ProducerView
     const CameraList &handOut();
 
     /// Null when there is no such interface.
-    std::shared_ptr<const InterfaceRecord> findRecord(const std::string &interfaceId) const;
+    std::shared_ptr<const ListedInterface> findRecord(const std::string &interfaceId) const;
 };

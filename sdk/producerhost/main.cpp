@@ -17,8 +17,8 @@ namespace {
 constexpr int SocketDescriptor = 3; // The parent puts it there.
 constexpr int UsageError = 64;
 
-/// A driver that allocates without end must not take the machine with it. Counted in address space, which also
-/// stops one that only reserves; no driver for a list of cameras needs as much.
+/// A driver that allocates without end must not take the machine with it. Counted in address space, which
+/// also stops one that only reserves; no driver for a list of cameras needs as much.
 void limitMemory()
 {
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // They map terabytes.
@@ -55,7 +55,8 @@ int main(int argc, char *argv[])
     std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
     limitMemory();
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
-    unsetenv("G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.
+    unsetenv(
+        "G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.
     HostServer(SocketDescriptor).run(argv[1]);
     leave();
 }

@@ -19,7 +19,7 @@ TEST(ProducerAnswerTest, ReadsAList)
     const auto answer = parsed(R"({"interfaces":[{"number":3,"id":"if","name":"Net","type":"GEV","devices":[
         {"id":"d","vendor":"v","model":"m","serial":"s","name":"n","type":"U3V"}]}],
         "problems":[{"call":"IFUpdateDeviceList","code":-1011,"text":"t"},{"call":"TLClose","code":7,"text":""}]})");
-    const InterfaceRecord expected{3, "if", "Net", "GEV", {{"d", "v", "m", "s", "n", "U3V"}}};
+    const ListedInterface expected{3, "if", "Net", "GEV", {{"d", "v", "m", "s", "n", "U3V"}}};
     EXPECT_EQ(answer.kind, ProducerAnswer::Kind::List);
     ASSERT_EQ(answer.interfaces.size(), 1U);
     EXPECT_TRUE(answer.interfaces.front() == expected);

@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/Producer.h"
+#include "sdk/cvxcpp/HostedProducer.h"
 
 #include "sdk/cvxcpp/ExitReason.h"
 #include "sdk/cvxcpp/Utf8.h"
@@ -28,7 +28,7 @@ std::string seconds(std::chrono::milliseconds time)
 
 } // namespace
 
-Producer::Producer(
+HostedProducer::HostedProducer(
     const SystemOptions &options, std::string path, std::size_t index, std::weak_ptr<InterfaceSource> source)
     : m_options(options),
       m_path(std::move(path)),
@@ -37,7 +37,7 @@ Producer::Producer(
       m_source(std::move(source))
 { }
 
-void Producer::askForList(Time now)
+void HostedProducer::askForList(Time now)
 {
     // Looks for cameras come at whole intervals, give or take a little; so half of one is let pass.
     const bool withInterfaces
@@ -49,7 +49,7 @@ void Producer::askForList(Time now)
     send(nlohmann::json{{"request", "list"}, {"interfaces", withInterfaces}}.dump(), now);
 }
 
-bool Producer::askForInterface(const std::string &interfaceId, Time now)
+bool HostedProducer::askForInterface(const std::string &interfaceId, Time now)
 {
     const auto found = std::find_if(
         m_records.begin(), m_records.end(), [&](const auto &record) { return record->id == interfaceId; });
@@ -61,14 +61,14 @@ bool Producer::askForInterface(const std::string &interfaceId, Time now)
     return true;
 }
 
-void Producer::send(const std::string &line, Time now)
+void HostedProducer::send(const std::string &line, Time now)
 {
     m_isBusy = true;
     m_askedAt = now;
     m_host.send(line + '\n');
 }
 
-Producer::Time Producer::nextStep(Time now) const
+HostedProducer::Time HostedProducer::nextStep(Time now) const
 {
     switch (m_state) {
     case State::Waiting:
@@ -86,7 +86,7 @@ Producer::Time Producer::nextStep(Time now) const
     return next;
 }
 
-Producer::Event Producer::step(Time now, bool isReadable)
+HostedProducer::Event HostedProducer::step(Time now, bool isReadable)
 {
     switch (m_state) {
     case State::Waiting:
@@ -99,7 +99,7 @@ Producer::Event Producer::step(Time now, bool isReadable)
     return awaitEnd(now);
 }
 
-Producer::Event Producer::start(Time now)
+HostedProducer::Event HostedProducer::start(Time now)
 {
     m_startedAt = now;
     m_isFirstOfHost = true;
@@ -112,7 +112,7 @@ Producer::Event Producer::start(Time now)
     return Event::Nothing;
 }
 
-Producer::Event Producer::receive(Time now)
+HostedProducer::Event HostedProducer::receive(Time now)
 {
     std::string line;
     switch (m_host.readLine(line)) {
@@ -128,7 +128,7 @@ Producer::Event Producer::receive(Time now)
     return fail(now, {}, CloseGrace);
 }
 
-Producer::Event Producer::takeAnswer(const std::string &line, Time now)
+HostedProducer::Event HostedProducer::takeAnswer(const std::string &line, Time now)
 {
     if (!m_isBusy)
         return fail(now, "sent an answer that nobody asked for");
@@ -151,28 +151,28 @@ Producer::Event Producer::takeAnswer(const std::string &line, Time now)
     return m_isListAsked ? takeList(answer, line) : takeInterface(answer);
 }
 
-Producer::Event Producer::takeList(ProducerAnswer &answer, const std::string &line)
+HostedProducer::Event HostedProducer::takeList(ProducerAnswer &answer, const std::string &line)
 {
     m_lastReport.clear();
     m_lastAnswer = line;
     m_records.clear();
     m_records.reserve(answer.interfaces.size());
-    for (InterfaceRecord &record : answer.interfaces)
-        m_records.push_back(std::make_shared<const InterfaceRecord>(std::move(record)));
+    for (ListedInterface &record : answer.interfaces)
+        m_records.push_back(std::make_shared<const ListedInterface>(std::move(record)));
     m_list = CameraList::create(m_source, m_index, m_name, m_records);
     return Event::Listed;
 }
 
-Producer::Event Producer::takeInterface(ProducerAnswer &answer)
+HostedProducer::Event HostedProducer::takeInterface(ProducerAnswer &answer)
 {
     m_searchedInterface = m_askedInterface;
     if (answer.interfaces.empty())
         return Event::InterfaceListed; // It went meanwhile; the next list shows it.
-    InterfaceRecord &record = answer.interfaces.front();
+    ListedInterface &record = answer.interfaces.front();
     for (auto &known : m_records) {
         if (known->number != record.number || *known == record)
             continue;
-        known = std::make_shared<const InterfaceRecord>(std::move(record));
+        known = std::make_shared<const ListedInterface>(std::move(record));
         m_lastAnswer.clear();
         m_list = CameraList::create(m_source, m_index, m_name, m_records);
         break;
@@ -180,7 +180,7 @@ Producer::Event Producer::takeInterface(ProducerAnswer &answer)
     return Event::InterfaceListed;
 }
 
-Producer::Event Producer::checkHost(Time now)
+HostedProducer::Event HostedProducer::checkHost(Time now)
 {
     if (!m_isBusy)
         return Event::Nothing;
@@ -192,7 +192,8 @@ Producer::Event Producer::checkHost(Time now)
     return status ? fail(now, exitReason(*status)) : Event::Nothing;
 }
 
-Producer::Event Producer::fail(Time now, const std::string &reason, SystemOptions::Milliseconds grace)
+HostedProducer::Event HostedProducer::fail(
+    Time now, const std::string &reason, SystemOptions::Milliseconds grace)
 {
     if (!reason.empty())
         report(reason);
@@ -209,7 +210,7 @@ Producer::Event Producer::fail(Time now, const std::string &reason, SystemOption
     return Event::Lost;
 }
 
-Producer::Event Producer::awaitEnd(Time now)
+HostedProducer::Event HostedProducer::awaitEnd(Time now)
 {
     const auto status = m_host.isStarted() ? m_host.tryReap() : std::optional<int>(0);
     if (status) {
@@ -226,7 +227,7 @@ Producer::Event Producer::awaitEnd(Time now)
     return Event::Nothing;
 }
 
-SystemOptions::Milliseconds Producer::nextRestartDelay(Time now)
+SystemOptions::Milliseconds HostedProducer::nextRestartDelay(Time now)
 {
     if (now - m_startedAt >= m_options.longestRestart)
         m_failures = 0; // It went well for long enough.
@@ -237,7 +238,7 @@ SystemOptions::Milliseconds Producer::nextRestartDelay(Time now)
     return std::min(delay, m_options.longestRestart);
 }
 
-void Producer::askToEnd()
+void HostedProducer::askToEnd()
 {
     if (m_state == State::Running)
         m_host.send(nlohmann::json{{"request", "end"}}.dump() + '\n');
@@ -245,7 +246,7 @@ void Producer::askToEnd()
         m_host.kill();
 }
 
-void Producer::stepEnd(bool isReadable)
+void HostedProducer::stepEnd(bool isReadable)
 {
     std::string line;
     HostProcess::Reading reading = HostProcess::Reading::Line;
@@ -265,7 +266,7 @@ void Producer::stepEnd(bool isReadable)
         report(exitReason(*status) + " while it was closed");
 }
 
-void Producer::killAtEnd(Time now)
+void HostedProducer::killAtEnd(Time now)
 {
     if (hasGone())
         return;
@@ -279,7 +280,7 @@ void Producer::killAtEnd(Time now)
     m_host.kill();
 }
 
-void Producer::report(const std::string &reason)
+void HostedProducer::report(const std::string &reason)
 {
     constexpr std::size_t LongestReason = 500; // Bytes.
     if (reason == std::exchange(m_lastReport, reason))
@@ -288,7 +289,7 @@ void Producer::report(const std::string &reason)
         m_options.report(toLine(m_path + ": " + reason.substr(0, LongestReason)));
 }
 
-void Producer::reportProblems(const std::vector<CallProblem> &problems)
+void HostedProducer::reportProblems(const std::vector<CallProblem> &problems)
 {
     constexpr std::size_t MostReports = 64; // In the life of a host: some codes are new every time.
     for (const CallProblem &problem : problems) {

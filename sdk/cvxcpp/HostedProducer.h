@@ -16,7 +16,7 @@
 /// One producer and its host over time: starts the host, asks it, notices every way in which it can fail, and
 /// starts it again. Lives on one thread, which calls step() when there is something to read or a time has
 /// come.
-class Producer
+class HostedProducer
 {
 public:
     using Clock = std::chrono::steady_clock;
@@ -31,12 +31,12 @@ public:
         Lost
     };
 
-    Producer(const SystemOptions &options, std::string path, std::size_t index,
+    HostedProducer(const SystemOptions &options, std::string path, std::size_t index,
         std::weak_ptr<InterfaceSource> source);
 
     /// What is known of its cameras; empty while the host is not there.
     const CameraList::Pointer &list() const { return m_list; }
-    const std::vector<std::shared_ptr<const InterfaceRecord>> &records() const { return m_records; }
+    const std::vector<std::shared_ptr<const ListedInterface>> &records() const { return m_records; }
 
     /// The interface of the last InterfaceListed.
     const std::string &searchedInterface() const { return m_searchedInterface; }
@@ -118,7 +118,7 @@ private:
     std::string m_searchedInterface;
 
     std::string m_lastAnswer; // The list as text: an idle system's lists are all the same, and read once.
-    std::vector<std::shared_ptr<const InterfaceRecord>> m_records;
+    std::vector<std::shared_ptr<const ListedInterface>> m_records;
     CameraList::Pointer m_list = CameraList::empty();
     std::set<std::pair<std::string, std::int32_t>> m_reportedProblems; // Call and code, of this host.
 };
