@@ -81,6 +81,9 @@ std::vector<FoundDevice> AravisSearch::devices()
 
     // The interface object by itself rather than Aravis's list of all devices: that one belongs to the whole
     // process, in which a producer for another protocol may be loaded too.
+    static std::mutex
+        interfaceMutex; // The object is the process's, and may outlive a search that was given up.
+    const std::lock_guard interfaceLock(interfaceMutex);
     ArvInterface *const interface = m_interface();
     arv_interface_update_device_list(interface);
     std::vector<FoundDevice> found;
