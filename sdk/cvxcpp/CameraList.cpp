@@ -43,7 +43,8 @@ CameraList::Pointer CameraList::create(const std::weak_ptr<InterfaceSource> &sou
     list->interfaces.reserve(records.size());
     for (const auto &record : records) {
         auto interface = std::make_shared<InterfaceObject>(source, producer, producerName, record);
-        for (std::size_t device = 0; device < record->devices.size(); ++device)
+        const std::size_t count = std::min(record->devices.size(), MostCameras - list->cameras.size());
+        for (std::size_t device = 0; device < count; ++device)
             list->cameras.push_back(std::make_shared<CameraObject>(interface, record, device));
         list->interfaces.push_back(std::move(interface));
     }

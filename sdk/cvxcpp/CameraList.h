@@ -14,10 +14,13 @@ struct CameraList
 {
     using Pointer = std::shared_ptr<const CameraList>;
 
+    /// Of one producer; nobody has as many, and more would be a burden to every program that shows them.
+    static constexpr std::size_t MostCameras = 1000;
+
     std::vector<std::shared_ptr<InterfaceObject>> interfaces;
     std::vector<std::shared_ptr<CameraObject>> cameras;
 
-    /// Makes the objects for records that are sorted by ID.
+    /// Makes the objects for records that are sorted by ID; of the cameras, the first MostCameras.
     static Pointer create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
         const std::shared_ptr<const std::string> &producerName,
         const std::vector<std::shared_ptr<const ListedInterface>> &records);

@@ -5,8 +5,8 @@
 
 /// The directories that CvxC.xml names in its CtiPaths/Path elements, in order, each once. A relative one
 /// counts from the install root, or else from the folder of the file, and must exist. Names are compared
-/// without regard to case or namespace prefix. What stands before a fault in the file counts. Without any, it
-/// is the directory "cti" of the install root.
+/// without regard to case or namespace prefix. What stands before a fault in the file counts, and of a large
+/// file the first 256 KiB. Without any, it is the directory "cti" of the install root.
 std::vector<std::string> configuredCtiDirectories(
     const std::string &installRoot, const std::string &configurationFile);
 

@@ -2,6 +2,7 @@
 
 #include "sdk/cvxcpp/DoubleListing.h"
 #include "sdk/cvxcpp/ProducerSearch.h"
+#include "sdk/cvxcpp/Utf8.h"
 
 #include <algorithm>
 #include <csignal>
@@ -14,7 +15,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int MostStarts = 4; // At a time; between them, the hosts that run get their turn.
+constexpr std::size_t MostStarts = 4; // At a time; between them, the hosts that run get their turn.
 constexpr auto EndInterval = 5ms; // Between two looks at hosts that are ending.
 constexpr auto KillWait = 300ms; // For killed hosts to be gone.
 
@@ -80,13 +81,13 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
     std::vector<std::pair<std::size_t, Time>> awaited; // Producer, and when it had its last list.
     for (std::size_t i = 0; i < m_views.size(); ++i) {
         ProducerView &view = m_views[i];
-        if (!view.isAwaited || view.isFresh(Clock::now(), m_options.reuseTime))
+        if (view.isFresh(Clock::now(), m_options.reuseTime))
             continue;
         view.isListWanted = true;
-        awaited.emplace_back(i, view.listedAt);
+        if (view.isAwaited)
+            awaited.emplace_back(i, view.listedAt);
     }
-    if (!awaited.empty())
-        m_wakeEvent.signal();
+    m_wakeEvent.signal();
     const auto isDone = [this](const std::pair<std::size_t, Time> &entry) {
         const ProducerView &view = m_views[entry.first];
         return !view.isAwaited || view.listedAt != entry.second;
@@ -192,7 +193,10 @@ void DiscoverySession::run()
 
 void DiscoverySession::startProducers()
 {
-    const std::vector<ProducerFile> files = findProducers(m_ctiDirectories);
+    const std::vector<ProducerFile> files = findProducers(m_ctiDirectories, [this](const std::string &fault) {
+        if (m_options.report)
+            m_options.report(toLine(fault));
+    });
     for (std::size_t i = 0; i < files.size(); ++i)
         m_producers.push_back(
             std::make_unique<HostedProducer>(m_options, files[i].path, i, weak_from_this()));
@@ -270,15 +274,33 @@ void DiscoverySession::waitForEvents(Time nextLook, std::vector<bool> &isReadabl
 
 void DiscoverySession::stepProducers(const std::vector<bool> &isReadable)
 {
-    int starts = 0;
+    const std::vector<bool> mayStart = chooseStarts(Clock::now());
     for (std::size_t i = 0; i < m_producers.size(); ++i) {
         const Time now = Clock::now();
-        if (m_producers[i]->isStartDue(now) && ++starts > MostStarts)
+        if (m_producers[i]->isStartDue(now) && !mayStart[i])
             continue;
         const HostedProducer::Event event = m_producers[i]->step(now, isReadable[i]);
         if (event != HostedProducer::Event::Nothing)
             publish(i, event, now);
     }
+}
+
+/// Those that have been waiting longest, so that failing producers do not keep others from their first start.
+std::vector<bool> DiscoverySession::chooseStarts(Time now) const
+{
+    std::vector<std::size_t> due;
+    for (std::size_t i = 0; i < m_producers.size(); ++i) {
+        if (m_producers[i]->isStartDue(now))
+            due.push_back(i);
+    }
+    std::stable_sort(due.begin(), due.end(), [this](std::size_t a, std::size_t b) {
+        return m_producers[a]->startDueAt() < m_producers[b]->startDueAt();
+    });
+    due.resize(std::min(due.size(), MostStarts));
+    std::vector<bool> chosen(m_producers.size(), false);
+    for (const std::size_t i : due)
+        chosen[i] = true;
+    return chosen;
 }
 
 void DiscoverySession::publish(std::size_t index, HostedProducer::Event event, Time now)
@@ -300,6 +322,8 @@ void DiscoverySession::publish(std::size_t index, HostedProducer::Event event, T
             view.interfaceListed(producer.searchedInterface(), now);
         else
             view.lost();
+        if (!producer.hasAnsweredInTime(now))
+            view.isAwaited = false; // The next list does not wait for it, until it is quick for once.
     }
     m_changed.notify_all();
     if (isChanged)
@@ -358,8 +382,8 @@ void DiscoverySession::endProducers()
         for (const auto &producer : m_producers)
             descriptors.push_back({producer->descriptor(), POLLIN, 0});
         poll(descriptors.data(), descriptors.size(), pollTimeout(Clock::now() + EndInterval, Clock::now()));
-        for (std::size_t i = 0; i < m_producers.size(); ++i)
-            m_producers[i]->stepEnd(descriptors[i].revents != 0);
+        for (const auto &producer : m_producers)
+            producer->stepEnd();
         if (Clock::now() < killAt || std::exchange(isKilled, true))
             continue;
         for (const auto &producer : m_producers)

@@ -50,6 +50,7 @@ private:
     void sendWishes(Time now, bool isLookDue);
     void waitForEvents(Time nextLook, std::vector<bool> &isReadable);
     void stepProducers(const std::vector<bool> &isReadable);
+    std::vector<bool> chooseStarts(Time now) const;
     void publish(std::size_t index, HostedProducer::Event event, Time now);
     void markLate(Time now);
     void settleAll();

@@ -1,5 +1,7 @@
 #include "sdk/cvxcpp/ExitReason.h"
 
+#include "sdk/producerhost/ExitStatus.h"
+
 #include <cstddef>
 #include <cstring>
 #include <iterator>
@@ -31,6 +33,8 @@ std::string codeName(std::int32_t code)
 
 std::string exitReason(int status)
 {
+    if (WIFEXITED(status) && WEXITSTATUS(status) == ConnectionLostStatus)
+        return "closed its host's connection";
     if (WIFEXITED(status))
         return "exited with code " + std::to_string(WEXITSTATUS(status));
     if (!WIFSIGNALED(status))

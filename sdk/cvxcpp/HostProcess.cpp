@@ -1,12 +1,8 @@
 #include "sdk/cvxcpp/HostProcess.h"
 
-#include "sdk/cvxcpp/ProducerAnswer.h"
-
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstddef>
 #include <cstring>
 #include <fcntl.h>
 #include <spawn.h>
@@ -97,8 +93,6 @@ std::optional<std::string> HostProcess::start(const std::string &hostProgram, co
         return "cannot start " + hostProgram + ": " + strerrordesc_np(error);
     }
     m_socket = ends[0];
-    m_pending.clear();
-    m_searched = 0;
     return std::nullopt;
 }
 
@@ -109,45 +103,11 @@ void HostProcess::send(const std::string &line) const
         = ::send(m_socket, line.data(), line.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
 }
 
-HostProcess::Reading HostProcess::readLine(std::string &line)
-{
-    constexpr std::size_t BlockSize = 128U << 10; // Bytes.
-    for (;;) {
-        const auto end = m_pending.find('\n', m_searched);
-        if (end != std::string::npos) {
-            line.assign(m_pending, 0, end);
-            m_pending.erase(0, end + 1);
-            if (m_pending.empty())
-                m_pending.shrink_to_fit(); // Idle hosts cost no buffer.
-            m_searched = 0;
-            return Reading::Line;
-        }
-        m_searched = m_pending.size();
-        if (m_searched > LongestAnswer)
-            return Reading::TooLong;
-        if (m_socket < 0)
-            return Reading::Closed;
-
-        m_pending.resize(m_searched + BlockSize);
-        const ssize_t count = recv(m_socket, m_pending.data() + m_searched, BlockSize, MSG_DONTWAIT);
-        const int error = errno;
-        m_pending.resize(m_searched + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-        if (count < 0 && error == EINTR)
-            continue;
-        if (count < 0 && (error == EAGAIN || error == EWOULDBLOCK))
-            return Reading::Pending;
-        if (count <= 0)
-            return Reading::Closed;
-    }
-}
-
 void HostProcess::closeSocket()
 {
     if (m_socket >= 0)
         close(std::exchange(m_socket, -1));
-    m_pending.clear();
-    m_pending.shrink_to_fit();
-    m_searched = 0;
+    m_lines.clear();
 }
 
 void HostProcess::kill() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sdk/cvxcpp/AnswerLines.h"
+
 #include <optional>
 #include <string>
 #include <sys/types.h>
@@ -26,19 +28,13 @@ public:
     /// Sends one line; a failure shows as the end of the answers.
     void send(const std::string &line) const;
 
-    enum class Reading
-    {
-        Pending,
-        Line,
-        Closed,
-        TooLong
-    };
+    using Reading = AnswerLines::Reading;
 
     /// Reads what is there, without waiting, up to the end of a line, which is stored without its line feed.
-    Reading readLine(std::string &line);
+    Reading readLine(std::string &line) { return m_lines.read(m_socket, line); }
 
     /// Something has come after the last line that was read.
-    bool hasMore() const { return !m_pending.empty(); }
+    bool hasMore() const { return m_lines.hasMore(); }
 
     void closeSocket();
 
@@ -54,6 +50,5 @@ public:
 private:
     pid_t m_process = -1; // Also its process group.
     int m_socket = -1;
-    std::string m_pending; // Received, but not yet handed out.
-    std::string::size_type m_searched = 0; // No line feed up to here.
+    AnswerLines m_lines;
 };

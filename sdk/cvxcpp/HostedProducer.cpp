@@ -26,6 +26,11 @@ std::string seconds(std::chrono::milliseconds time)
     return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
 }
 
+std::string problemReason(const CallProblem &problem)
+{
+    return callReason(problem.call, problem.code, problem.text);
+}
+
 } // namespace
 
 HostedProducer::HostedProducer(
@@ -141,8 +146,7 @@ HostedProducer::Event HostedProducer::takeAnswer(const std::string &line, Time n
     if (!parseAnswer(line, answer) || answer.kind == ProducerAnswer::Kind::Ended)
         return fail(now, "sent an answer that cannot be read");
     if (answer.kind == ProducerAnswer::Kind::Error) {
-        const CallProblem &problem = answer.problems.front();
-        return fail(now, callReason(problem.call, problem.code, problem.text), m_options.endWait);
+        return fail(now, problemReason(answer.problems.front()), m_options.endWait);
     }
     if (hasMore)
         return fail(now, "sent more than the answer that it was asked for");
@@ -160,6 +164,7 @@ HostedProducer::Event HostedProducer::takeList(ProducerAnswer &answer, const std
     for (ListedInterface &record : answer.interfaces)
         m_records.push_back(std::make_shared<const ListedInterface>(std::move(record)));
     m_list = CameraList::create(m_source, m_index, m_name, m_records);
+    reportCrowd();
     return Event::Listed;
 }
 
@@ -175,6 +180,7 @@ HostedProducer::Event HostedProducer::takeInterface(ProducerAnswer &answer)
         known = std::make_shared<const ListedInterface>(std::move(record));
         m_lastAnswer.clear();
         m_list = CameraList::create(m_source, m_index, m_name, m_records);
+        reportCrowd();
         break;
     }
     return Event::InterfaceListed;
@@ -189,7 +195,17 @@ HostedProducer::Event HostedProducer::checkHost(Time now)
     if (now - m_askedAt < CheckInterval)
         return Event::Nothing;
     const auto status = m_host.tryReap();
-    return status ? fail(now, exitReason(*status)) : Event::Nothing;
+    return status ? fail(now, lastWords().value_or(exitReason(*status))) : Event::Nothing;
+}
+
+std::optional<std::string> HostedProducer::lastWords()
+{
+    std::string line;
+    ProducerAnswer answer;
+    if (m_host.readLine(line) != HostProcess::Reading::Line || !parseAnswer(line, answer)
+        || answer.kind != ProducerAnswer::Kind::Error)
+        return std::nullopt;
+    return problemReason(answer.problems.front());
 }
 
 HostedProducer::Event HostedProducer::fail(
@@ -216,7 +232,6 @@ HostedProducer::Event HostedProducer::awaitEnd(Time now)
     if (status) {
         if (!m_isReported)
             report(exitReason(*status));
-        m_isReported = true;
         m_state = State::Waiting;
     } else if (now >= m_killAt) {
         if (!m_isReported)
@@ -246,36 +261,37 @@ void HostedProducer::askToEnd()
         m_host.kill();
 }
 
-void HostedProducer::stepEnd(bool isReadable)
+void HostedProducer::stepEnd()
 {
+    if (hasGone())
+        return;
+    const auto status = m_host.tryReap(); // Before the reading: what it has sent is all there then.
     std::string line;
     HostProcess::Reading reading = HostProcess::Reading::Line;
-    while (isReadable && reading == HostProcess::Reading::Line) {
+    while (reading == HostProcess::Reading::Line) {
         reading = m_host.readLine(line);
         ProducerAnswer answer;
         if (reading == HostProcess::Reading::Line && parseAnswer(line, answer))
             reportProblems(answer.problems);
     }
-    if (reading == HostProcess::Reading::Closed || reading == HostProcess::Reading::TooLong)
+    if (status || reading != HostProcess::Reading::Pending)
         m_host.closeSocket();
-    if (hasGone())
-        return;
-    const auto status = m_host.tryReap();
     const bool isBadEnd = status && *status != HostProcess::LostStatus && *status != 0;
-    if (isBadEnd && !m_isReported && m_state == State::Running)
-        report(exitReason(*status) + " while it was closed");
+    if (isBadEnd && !m_isReported && m_state == State::Running) // With a request out it was not yet closing.
+        report(exitReason(*status) + (m_isBusy ? "" : " while it was closed"));
 }
 
 void HostedProducer::killAtEnd(Time now)
 {
     if (hasGone())
         return;
-    if (m_isBusy && !m_isReported) {
-        const auto waited = std::chrono::duration_cast<std::chrono::milliseconds>(now - m_askedAt);
+    // One that has failed since its last list was just being tried again, and its failure is known.
+    const bool isReported = m_isReported || (m_isBusy && !m_lastReport.empty());
+    const auto waited = std::chrono::duration_cast<std::chrono::milliseconds>(now - m_askedAt);
+    if (!isReported && m_isBusy)
         report("had not answered for " + seconds(waited) + " and was killed");
-    } else if (!m_isReported) {
+    else if (!isReported)
         report("did not end within " + seconds(m_options.endWait) + " and was killed");
-    }
     m_isReported = true;
     m_host.kill();
 }
@@ -295,6 +311,17 @@ void HostedProducer::reportProblems(const std::vector<CallProblem> &problems)
     for (const CallProblem &problem : problems) {
         if (m_reportedProblems.size() < MostReports
             && m_reportedProblems.emplace(problem.call, problem.code).second)
-            report(callReason(problem.call, problem.code, problem.text));
+            report(problemReason(problem));
     }
+}
+
+void HostedProducer::reportCrowd()
+{
+    std::size_t count = 0;
+    for (const auto &record : m_records)
+        count += record->devices.size();
+    const std::size_t most = CameraList::MostCameras;
+    if (count > most && m_reportedProblems.emplace("", 0).second)
+        report("lists " + std::to_string(count) + " cameras, of which the first " + std::to_string(most)
+            + " are shown");
 }

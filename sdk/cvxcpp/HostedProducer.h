@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -41,17 +42,20 @@ public:
     /// The interface of the last InterfaceListed.
     const std::string &searchedInterface() const { return m_searchedInterface; }
 
-    /// Waits for an answer, which the first request of a host makes from its start on.
-    bool isBusy() const { return m_isBusy; }
-
     /// The next step will start its host.
     bool isStartDue(Time now) const { return m_state == State::Waiting && now >= m_startAt; }
+
+    /// Since when it waits for that; the first start comes before every other.
+    Time startDueAt() const { return m_startAt; }
 
     /// Could be asked something now.
     bool isIdle() const { return m_state == State::Running && !m_isBusy; }
 
     /// The answer is out for longer than a list waits.
     bool isLate(Time now) const { return m_isBusy && now - m_askedAt >= m_options.answerWait; }
+
+    /// The answer that came just now did not keep a list waiting for too long.
+    bool hasAnsweredInTime(Time now) const { return now - m_askedAt < m_options.answerWait; }
 
     void askForList(Time now);
 
@@ -68,7 +72,7 @@ public:
     // The end: ask first, then step until it has gone.
     void askToEnd();
     bool hasGone() const { return !m_host.isStarted(); }
-    void stepEnd(bool isReadable);
+    void stepEnd();
     void killAtEnd(Time now);
 
 private:
@@ -85,6 +89,9 @@ private:
     Event takeList(ProducerAnswer &answer, const std::string &line);
     Event takeInterface(ProducerAnswer &answer);
     Event checkHost(Time now);
+
+    /// Of a host that has ended: why it did, if it has told.
+    std::optional<std::string> lastWords();
     Event awaitEnd(Time now);
 
     /// The host is lost; with an empty reason, how it ends will tell.
@@ -93,6 +100,7 @@ private:
     void send(const std::string &line, Time now);
     void report(const std::string &reason);
     void reportProblems(const std::vector<CallProblem> &problems);
+    void reportCrowd();
 
     const SystemOptions &m_options;
     const std::string m_path;

@@ -1,7 +1,9 @@
 #include "sdk/cvxcpp/ProducerSearch.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <dirent.h>
 #include <filesystem>
 #include <memory>
@@ -41,22 +43,35 @@ std::string resolved(const std::string &path)
     return real ? std::string(real.get()) : std::string();
 }
 
+/// Why this cannot be a producer, in words; empty for a regular file, whatever is in it.
+std::string findFault(const std::string &path, struct stat &file)
+{
+    if (stat(path.c_str(), &file) != 0)
+        return std::string("cannot be found: ") + strerrordesc_np(errno);
+    if (S_ISDIR(file.st_mode))
+        return "is a directory";
+    return S_ISREG(file.st_mode) ? "" : "is no regular file";
+}
+
 } // namespace
 
-std::vector<ProducerFile> findProducers(const std::vector<std::string> &directories)
+std::vector<ProducerFile> findProducers(
+    const std::vector<std::string> &directories, const std::function<void(const std::string &)> &report)
 {
     std::vector<ProducerFile> producers;
     std::set<std::pair<dev_t, ino_t>> known;
     for (std::size_t i = 0; i < directories.size(); ++i) {
         const std::string &directory = directories[i];
         for (const std::string &name : ctiNames(directory)) {
-            const std::string path = resolved(std::filesystem::path(directory) / name);
+            const std::string path = std::filesystem::path(directory) / name;
             struct stat file
             { };
-            if (path.empty() || stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode))
-                continue;
-            if (known.emplace(file.st_dev, file.st_ino).second)
-                producers.push_back({path, i});
+            const std::string fault = findFault(path, file);
+            if (!fault.empty() && report)
+                report(path + ": " + fault);
+            const std::string realPath = resolved(path);
+            if (fault.empty() && !realPath.empty() && known.emplace(file.st_dev, file.st_ino).second)
+                producers.push_back({realPath, i});
         }
     }
     return producers;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,4 +14,6 @@ struct ProducerFile
 
 /// The producers in the directories: every regular file "*.cti" in any letter case, directory by directory,
 /// each in the order of the file names. Links are resolved, and a file reached by several ways is there once.
-std::vector<ProducerFile> findProducers(const std::vector<std::string> &directories);
+/// Whatever else has such a name is passed over, and told to `report`: its path and the reason.
+std::vector<ProducerFile> findProducers(
+    const std::vector<std::string> &directories, const std::function<void(const std::string &)> &report = {});

@@ -24,7 +24,7 @@ struct ProducerView
     Time listedAt = Time::min();
     Time searchEndedAt = Time::min(); ///< The search of all producers that had this list.
     std::map<std::string, Time> interfaceListedAt; ///< Searches of one interface, later than listedAt.
-    bool isAwaited = true; ///< False from a missed deadline or a loss to the next answer.
+    bool isAwaited = true; ///< False from a missed deadline or a loss to the next answer in time.
 
     CameraList::Pointer announced = CameraList::empty();
     bool isSettled = false; ///< Its first list is not announced when the program has asked for it.

@@ -112,7 +112,10 @@ GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 
 GENTL_FUNCTION TLClose(TL_HANDLE hTL)
 {
-    return withSystem(hTL, [&](SystemModule &) { return Producer::instance().closeSystem(hTL); });
+    return guarded([&] {
+        const GC_ERROR error = Producer::instance().requireInitialised();
+        return error ? error : Producer::instance().closeSystem(hTL);
+    });
 }
 
 GENTL_FUNCTION TLGetInfo(
@@ -158,8 +161,10 @@ GENTL_FUNCTION TLOpenInterface(TL_HANDLE hTL, const char *sIfaceID, IF_HANDLE *p
 
 GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 {
-    return withInterface(
-        hIface, [&](InterfaceModule &) { return Producer::instance().closeInterface(hIface); });
+    return guarded([&] {
+        const GC_ERROR error = Producer::instance().requireInitialised();
+        return error ? error : Producer::instance().closeInterface(hIface);
+    });
 }
 
 GENTL_FUNCTION IFGetInfo(

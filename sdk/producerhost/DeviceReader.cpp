@@ -11,7 +11,8 @@ namespace {
 constexpr std::size_t LongestText = 64U << 10; // Bytes. No ID or name comes near it.
 constexpr std::size_t SpareBytes = 256; // For producers that write past the size they asked for.
 constexpr int ReadAttempts = 4; // A text may grow between the two calls.
-constexpr std::uint32_t MostDevices = 1U << 20;
+constexpr std::uint32_t MostCredible = 1U << 20; // Devices; a larger number is garbage.
+constexpr std::uint32_t MostDevices = 1000; // Of one interface; nobody has as many, and no list shows more.
 
 /// No count a producer gives, so it shows that an output was left untouched.
 constexpr std::uint32_t NoCount = std::numeric_limits<std::uint32_t>::max();
@@ -38,6 +39,7 @@ template <typename Query>
 std::optional<Problem> DeviceReader::readText(const char *call, const Query &query, std::string &text) const
 {
     std::optional<Problem> problem;
+    std::size_t wanted = 0;
     for (int attempt = 0; attempt < ReadAttempts; ++attempt) {
         std::size_t size = 0;
         GenTL::INFO_DATATYPE type = GenTL::INFO_DATATYPE_STRING; // Some producers never write it.
@@ -47,6 +49,7 @@ std::optional<Problem> DeviceReader::readText(const char *call, const Query &que
         if (size == 0)
             return Problem{call, 0, "gave a text without a size"};
 
+        wanted = size;
         std::string buffer(std::min(size, LongestText) + SpareBytes, '\0');
         size = buffer.size();
         problem = m_library.call(call, query, buffer.data(), &size, &type);
@@ -59,6 +62,8 @@ std::optional<Problem> DeviceReader::readText(const char *call, const Query &que
         text.assign(buffer.data(), strnlen(buffer.data(), std::min(size, buffer.size())));
         return std::nullopt;
     }
+    if (wanted > LongestText)
+        return Problem{call, 0, "gave a text of " + std::to_string(wanted) + " bytes"};
     return problem;
 }
 
@@ -83,8 +88,8 @@ std::string DeviceReader::readInterfaceInfo(
         return m_library.TLGetInterfaceInfo(system, interfaceId.c_str(), command, type, buffer, size);
     };
     std::string text;
-    if (readText("TLGetInterfaceInfo", query, text))
-        return {}; // The ID stands in for a name, the devices' own type for the interface's.
+    // Left empty by a failure: the ID stands in for a name, the devices' own type for the interface's.
+    readText("TLGetInterfaceInfo", query, text);
     return text;
 }
 
@@ -92,11 +97,19 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
 {
     std::uint32_t count = NoCount;
     auto problem = m_library.call("IFGetNumDevices", m_library.IFGetNumDevices, interface, &count);
-    if (!problem && count > MostDevices)
+    if (!problem && count > MostCredible)
         problem = Problem{"IFGetNumDevices", 0, "gave no credible number of devices"};
     if (problem) {
         addProblem(m_problems, std::move(*problem));
         return false;
+    }
+
+    if (count > MostDevices) {
+        addProblem(m_problems,
+            {"IFGetNumDevices", 0,
+                "gave " + std::to_string(count) + " devices, of which the first "
+                    + std::to_string(MostDevices) + " are listed"});
+        count = MostDevices;
     }
 
     std::set<std::string> ids; // Sorted, and each once: producers list in any order.

@@ -1,13 +1,15 @@
 #include "sdk/producerhost/HostServer.h"
 
+#include "sdk/producerhost/ExitStatus.h"
 #include "sdk/producerhost/ProducerAnswerWriter.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 
 HostServer::HostServer(int descriptor) : m_socket(descriptor) { }
 
-void HostServer::run(const char *producerPath)
+int HostServer::run(const char *producerPath)
 {
     if (const auto problem = m_producer.open(producerPath)) {
         answerError(*problem);
@@ -16,6 +18,7 @@ void HostServer::run(const char *producerPath)
         while (m_socket.readLine(request) && serve(request)) { }
     }
     m_socket.write(endAnswer(m_producer.close()));
+    return m_socket.isLost() ? ConnectionLostStatus : EXIT_SUCCESS;
 }
 
 bool HostServer::serve(const std::string &request)
@@ -43,7 +46,7 @@ bool HostServer::serveList(bool withInterfaces)
     return m_socket.write(listAnswer(m_producer.interfaces(), m_producer.problems()));
 }
 
-bool HostServer::answerError(const Problem &problem) const
+bool HostServer::answerError(const Problem &problem)
 {
     m_socket.write(errorAnswer(problem));
     return false;

@@ -12,13 +12,14 @@ class HostServer
 public:
     explicit HostServer(int descriptor);
 
-    void run(const char *producerPath);
+    /// Gives the status to exit with.
+    int run(const char *producerPath);
 
 private:
     /// False ends the service.
     bool serve(const std::string &request);
     bool serveList(bool withInterfaces);
-    bool answerError(const Problem &problem) const;
+    bool answerError(const Problem &problem);
 
     LineSocket m_socket;
     ProducerModule m_producer;

@@ -15,6 +15,8 @@ bool LineSocket::readLine(std::string &line)
         const ssize_t count = recv(m_descriptor, bytes.data(), bytes.size(), 0);
         if (count < 0 && errno == EINTR)
             continue;
+        if (count < 0)
+            noteError(errno);
         if (count <= 0)
             return false;
         m_pending.append(bytes.data(), static_cast<std::size_t>(count));
@@ -25,16 +27,23 @@ bool LineSocket::readLine(std::string &line)
     return true;
 }
 
-bool LineSocket::write(const std::string &text) const
+bool LineSocket::write(const std::string &text)
 {
     std::size_t done = 0;
     while (done < text.size()) {
         const ssize_t count = send(m_descriptor, text.data() + done, text.size() - done, MSG_NOSIGNAL);
         if (count < 0 && errno == EINTR)
             continue;
+        if (count < 0)
+            noteError(errno);
         if (count <= 0)
             return false;
         done += static_cast<std::size_t>(count);
     }
     return true;
+}
+
+void LineSocket::noteError(int error)
+{
+    m_isLost = m_isLost || error == EBADF || error == ENOTSOCK;
 }

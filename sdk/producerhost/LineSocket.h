@@ -12,9 +12,15 @@ public:
     bool readLine(std::string &line);
 
     /// Writes all of it; false when the other end is closed.
-    bool write(const std::string &text) const;
+    bool write(const std::string &text);
+
+    /// The descriptor is no socket any more: the driver has closed it.
+    bool isLost() const { return m_isLost; }
 
 private:
+    void noteError(int error);
+
     int m_descriptor;
+    bool m_isLost = false;
     std::string m_pending; // Read, but not yet handed out.
 };

@@ -1,8 +1,12 @@
 #include "sdk/producerhost/ProducerLibrary.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstring>
 #include <dlfcn.h>
+#include <elf.h>
+#include <fstream>
 
 namespace {
 
@@ -11,6 +15,26 @@ bool resolve(void *library, const char *name, Function &function)
 {
     function = reinterpret_cast<Function>(dlsym(library, name));
     return function != nullptr;
+}
+
+using ElfIdentity = std::array<char, 20>; // From the magic number to the machine.
+
+ElfIdentity elfIdentity(const char *path)
+{
+    ElfIdentity identity{};
+    std::ifstream(path, std::ios::binary).read(identity.data(), identity.size());
+    return identity;
+}
+
+/// The loader's own words for it are that there is no such file.
+bool isForAnotherMachine(const char *path)
+{
+    const auto identity = elfIdentity(path), own = elfIdentity("/proc/self/exe");
+    const auto differs = [&](std::size_t place) { return identity[place] != own[place]; };
+    const bool isElf = std::equal(own.begin(), own.begin() + SELFMAG, identity.begin());
+    return isElf
+        && (differs(EI_CLASS) || differs(EI_DATA) || differs(offsetof(Elf64_Ehdr, e_machine))
+            || differs(offsetof(Elf64_Ehdr, e_machine) + 1));
 }
 
 void *openLibrary(const char *path, std::string &error)
@@ -34,6 +58,8 @@ std::optional<Problem> ProducerLibrary::load(const char *path)
 {
     std::string error;
     void *library = openLibrary(path, error);
+    if (!library && isForAnotherMachine(path))
+        return Problem{"dlopen", 0, "the library is for another kind of machine"};
     if (!library)
         return Problem{"dlopen", 0, error};
     return resolveFunctions(library);

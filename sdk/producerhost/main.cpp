@@ -1,16 +1,15 @@
 #include "sdk/producerhost/HostServer.h"
+#include "sdk/producerhost/Leave.h"
 #include "sdk/producerhost/ParentWatch.h"
+#include "sdk/producerhost/UncaughtException.h"
 
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <malloc.h>
 #include <sys/resource.h>
 #include <unistd.h>
-
-#if defined(CORVIX_COVERAGE)
-extern "C" void __gcov_dump(void);
-#endif
 
 namespace {
 
@@ -31,15 +30,11 @@ void limitMemory()
 #endif
 }
 
-/// Ends the process without the destructors of the driver's static objects: it is closed in order, and what
-/// they still do can only crash or hang.
-[[noreturn]] void leave()
+/// Interfaces are searched on threads that come and go. With a heap for each, every one of them is cut to
+/// pieces in time: after 10,000 changes a host of 500 KiB takes 370 KiB more, and with one heap 90.
+void shareOneHeap()
 {
-    std::fflush(stdout); // What the driver has printed.
-#if defined(CORVIX_COVERAGE)
-    __gcov_dump();
-#endif
-    _exit(EXIT_SUCCESS);
+    mallopt(M_ARENA_MAX, 1);
 }
 
 } // namespace
@@ -54,9 +49,10 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
     limitMemory();
+    shareOneHeap();
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
     unsetenv(
         "G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.
-    HostServer(SocketDescriptor).run(argv[1]);
-    leave();
+    answerUncaughtExceptions(SocketDescriptor);
+    leave(HostServer(SocketDescriptor).run(argv[1]));
 }

@@ -78,7 +78,7 @@ Json parseDocument(const std::string &text)
 {
     try {
         return Json::parse(text);
-    } catch (const Json::parse_error &error) {
+    } catch (const Json::exception &error) { // A number can be out of range as well.
         throw std::runtime_error(error.what());
     }
 }

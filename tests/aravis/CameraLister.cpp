@@ -23,9 +23,11 @@ std::vector<std::string> CameraLister::interfaces()
 {
     m_session.updateInterfaces();
     std::vector<std::string> ids = m_session.interfaceIds();
-    for (const std::string &id : ids)
-        if (m_handles.count(id) == 0)
-            m_handles[id] = m_session.open(id);
+    for (const std::string &id : ids) {
+        const auto [entry, isNew] = m_handles.try_emplace(id);
+        if (isNew)
+            entry->second = m_session.open(id);
+    }
     return ids;
 }
 

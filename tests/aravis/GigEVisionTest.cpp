@@ -4,6 +4,7 @@
 #include "tests/aravis/FakeCamera.h"
 
 #include <chrono>
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 using namespace GenTL;
@@ -62,6 +63,13 @@ TEST_F(GigEVision, ACameraIsListedWithWhatItTellsOfItself)
         EXPECT_EQ(lister.session().deviceText(handle, id, command), text) << command;
 }
 
+TEST_F(GigEVision, ACameraWithoutAHardwareAddressHasItsOtherTextsAsId)
+{
+    const FakeCamera camera("LOOP1"); // Its hardware address is all zeros.
+    ASSERT_EQ(lister.awaitCameras({{"127.0.0.1", "LOOP1"}}), (ListedCameras{{"127.0.0.1", "LOOP1"}}));
+    EXPECT_EQ(firstDeviceId(lister), "Aravis-Fake-LOOP1");
+}
+
 TEST_F(GigEVision, ACameraGoesWithItsLastAnswerAndComesBackUnderItsId)
 {
     const ListedCameras one{{"127.0.0.1", "LOOP1"}};
@@ -99,4 +107,14 @@ TEST(GigEVisionSessions, ACameraKeepsItsIdFromOneSessionToTheNext)
         ids.push_back(firstDeviceId(lister));
     }
     EXPECT_EQ(ids[0], ids[1]);
+}
+
+TEST(GigEVisionSessions, AravisStaysLoadedWhenTheProducerIsUnloaded)
+{
+    {
+        CameraLister lister(UNIVERSAL_GEV_FILE);
+        lister.cameras();
+    }
+    // GLib holds pointers into it. Asked for by name, without being loaded.
+    EXPECT_NE(dlopen("libaravis-0.8.so.0", RTLD_LAZY | RTLD_NOLOAD), nullptr);
 }

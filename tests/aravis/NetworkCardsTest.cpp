@@ -5,6 +5,8 @@
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <ostream>
+#include <sys/resource.h>
+#include <system_error>
 
 namespace {
 
@@ -59,4 +61,22 @@ TEST(NetworkCards, EveryAddressOfThisMachineBelongsToItsOwnNetwork)
         EXPECT_FALSE(address.card.empty());
         EXPECT_NE(cardOf(own, address.address), nullptr) << address.address;
     }
+}
+
+TEST(NetworkCards, AFailureToListThemSaysWhatFailed)
+{
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlimit none = before;
+    none.rlim_cur = 0; // Listing them takes a descriptor.
+    std::string reason;
+    const std::system_error first(0, std::generic_category()); // UBSan opens descriptors to learn about a new type.
+    setrlimit(RLIMIT_NOFILE, &none);
+    try {
+        cardAddresses();
+    } catch (const std::system_error &error) {
+        reason = error.what();
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(reason, "The network cards cannot be listed: Too many open files");
 }

@@ -3,6 +3,29 @@
 #include "tests/producer/SimulatorScene.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <thread>
+
+namespace {
+
+/// Whether this process has opened the scene so that programs it starts inherit it; nothing while it is shut.
+std::optional<bool> isSceneInheritable()
+{
+    std::error_code gone; // A descriptor may be closed between two steps.
+    for (const auto &entry : std::filesystem::directory_iterator("/proc/self/fd", gone)) {
+        const auto file = std::filesystem::read_symlink(entry.path(), gone);
+        const int flags = fcntl(std::atoi(entry.path().filename().c_str()), F_GETFD);
+        if (flags >= 0 && file.filename() == "CorvixCameraSimulator.json")
+            return (flags & FD_CLOEXEC) == 0;
+    }
+    return std::nullopt;
+}
+
+} // namespace
 
 struct BrokenScene
 {
@@ -52,6 +75,7 @@ INSTANTIATE_TEST_SUITE_P(Scenes, BrokenSimulatorScene,
         BrokenScene{"NoJson", "camera one", "parse error"},
         BrokenScene{"BadUtf8", sceneOf("{\"id\": \"a\", \"vendor\": \"\xff\xfe\"}"), "parse error"},
         BrokenScene{"RawControlCharacter", sceneOf("{\"id\": \"a\", \"vendor\": \"\x01\"}"), "parse error"},
+        BrokenScene{"NumberOutOfRange", R"({"interfaces": [], "note": 1e999})", "number overflow"},
         BrokenScene{"DeeplyNested", std::string(500000, '['), "parse error"},
         BrokenScene{"NoObject", "[]", "interfaces"}, BrokenScene{"NoInterfaces", "{}", "interfaces"},
         BrokenScene{"InterfacesNoArray", R"({"interfaces": {}})", "\"interfaces\" is not an array"},
@@ -83,4 +107,47 @@ TEST_F(SimulatorScene, APipeInTheFilesPlaceHoldsNothingUp)
     testing::internal::CaptureStderr();
     EXPECT_EQ(devicesNow().size(), 2U);
     EXPECT_NE(testing::internal::GetCapturedStderr().find("not a regular file"), std::string::npos);
+}
+
+TEST_F(SimulatorScene, ADeviceInTheFilesPlaceHoldsNothingUp)
+{
+    folder.makeSceneALinkTo("/dev/zero"); // Without end.
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(devicesNow().size(), 2U);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("not a regular file"), std::string::npos);
+}
+
+TEST_F(SimulatorScene, ALinkInACircleIsABrokenScene)
+{
+    folder.makeSceneALinkTo("CorvixCameraSimulator.json");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(devicesNow().size(), 2U);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find(
+                  "CorvixCameraSimulator.json is not used: it cannot be opened: "),
+        std::string::npos);
+}
+
+TEST_F(SimulatorScene, AProgramStartedWhileItIsReadDoesNotInheritIt)
+{
+    folder.writeScene(oneCamera + std::string(15U << 20U, ' ')); // It takes a while to be read.
+    std::atomic<bool> isSeen{false};
+    std::thread reader([&] {
+        while (!isSeen)
+            session.updateInterfaces();
+    });
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    std::optional<bool> isInheritable;
+    while (!isInheritable && std::chrono::steady_clock::now() < deadline)
+        isInheritable = isSceneInheritable();
+    isSeen = true;
+    reader.join();
+    EXPECT_EQ(isInheritable, false);
+}
+
+TEST_F(SimulatorScene, WhatIsIgnoredMayBeNestedAMillionTimes)
+{
+    const std::string nested = std::string(1000000, '[') + std::string(1000000, ']');
+    folder.writeScene(
+        R"({"note": )" + nested + R"(, "interfaces": [{"id": "net", "devices": [{"id": "one"}]}]})");
+    EXPECT_EQ(devicesNow(), Ids{"one"});
 }

@@ -52,11 +52,13 @@ TEST_F(ProducerSkeleton, AFailedInterfaceSearchKeepsTheList)
 TEST_F(ProducerSkeleton, MemoryThatRunsOutHasItsOwnCode)
 {
     EXPECT_EQ(update(session.open("exhausts memory")), GC_ERR_OUT_OF_MEMORY);
+    EXPECT_EQ(lastErrorText(), "Out of memory.");
 }
 
 TEST_F(ProducerSkeleton, AnythingThrownIsAnError)
 {
     EXPECT_EQ(update(session.open("throws an int")), GC_ERR_ERROR);
+    EXPECT_EQ(lastErrorText(), "Unknown exception.");
 }
 
 TEST_F(ProducerSkeleton, AnEndlessErrorTextIsCut)

@@ -72,6 +72,11 @@ void SimulatorFolder::makeSceneAPipe() const
         throw std::runtime_error("cannot make a pipe");
 }
 
+void SimulatorFolder::makeSceneALinkTo(const std::filesystem::path &target) const
+{
+    std::filesystem::create_symlink(target, sceneFile());
+}
+
 void SimulatorFolder::letSceneSettle() const
 {
     constexpr std::time_t age = 4; // Seconds; more than the times of any file system are apart.

@@ -26,6 +26,7 @@ public:
     void removeScene() const;
     void makeSceneAFolder() const;
     void makeSceneAPipe() const;
+    void makeSceneALinkTo(const std::filesystem::path &target) const;
 
 private:
     std::filesystem::path sceneFile() const;

@@ -2,20 +2,34 @@
 
 #include "tests/producer/SimulatorScene.h"
 
+#include <cerrno>
+#include <unistd.h>
+
 using namespace GenTL;
 
 TEST_F(SimulatorScene, WithoutAFileThereAreTwoCameras)
 {
     const Ids ids = devicesNow();
-    ASSERT_EQ(ids.size(), 2U);
-    EXPECT_NE(ids[0], ids[1]);
+    ASSERT_EQ(ids, (Ids{"corvix-simulator-0001", "corvix-simulator-0002"}));
     for (const std::string &id : ids) {
         EXPECT_EQ(session.deviceText(handle, id, DEVICE_INFO_VENDOR), "Orvelle");
         EXPECT_EQ(session.deviceText(handle, id, DEVICE_INFO_MODEL), "Camera Simulator");
         EXPECT_EQ(session.deviceText(handle, id, DEVICE_INFO_USER_DEFINED_NAME), "");
     }
-    EXPECT_NE(session.deviceText(handle, ids[0], DEVICE_INFO_SERIAL_NUMBER),
-        session.deviceText(handle, ids[1], DEVICE_INFO_SERIAL_NUMBER));
+    EXPECT_EQ(session.deviceText(handle, ids[0], DEVICE_INFO_SERIAL_NUMBER), "SIM0001");
+    EXPECT_EQ(session.deviceText(handle, ids[1], DEVICE_INFO_SERIAL_NUMBER), "SIM0002");
+}
+
+TEST_F(SimulatorScene, TheFileIsReadWithoutStandardInputAsWell)
+{
+    folder.writeScene(oneCamera);
+    const int input = dup(STDIN_FILENO);
+    close(STDIN_FILENO); // So the scene is opened as descriptor 0.
+    errno = ENOENT;
+    const Ids ids = devicesNow();
+    dup2(input, STDIN_FILENO);
+    close(input);
+    EXPECT_EQ(ids, Ids{"one"});
 }
 
 TEST_F(SimulatorScene, EveryFieldIsReported)

@@ -88,6 +88,25 @@ std::string utf16(const std::string &ascii)
     return text;
 }
 
+/// A list of "/a", with this after the end of the document.
+std::string followedBy(const std::string &bytes)
+{
+    return "<CtiPaths><Path>/a</Path></CtiPaths>" + bytes;
+}
+
+/// A short document whose second path is two million characters long.
+std::string entityBomb()
+{
+    std::string entities = "<!ENTITY e0 '0123456789abcdef'>";
+    for (int level = 1; level <= 4; ++level) {
+        entities += "<!ENTITY e" + std::to_string(level) + " '";
+        for (int i = 0; i < (level < 4 ? 16 : 32); ++i)
+            entities += "&e" + std::to_string(level - 1) + ";";
+        entities += "'>";
+    }
+    return "<!DOCTYPE c [" + entities + "]><CtiPaths><Path>/a</Path><Path>/&e4;</Path></CtiPaths>";
+}
+
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Paths, CtiDocumentTest,
@@ -132,6 +151,39 @@ INSTANTIATE_TEST_SUITE_P(Documents, CtiDocumentTest,
             "<c><CtiPaths><Path>/a</Path><Path>/b</Pfad><Path>/c</Path></CtiPaths></c>", {"/a"}},
         Document{"BrokenAfterTheList", "<c><CtiPaths><Path>/a</Path></CtiPaths><d", {"/a"}},
         Document{"Utf16", utf16("<CtiPaths><Path>/a</Path></CtiPaths>"), {"/a"}},
+        Document{"OtherEncoding",
+            "<?xml version='1.0' encoding='KOI8-R'?><CtiPaths><Path>/\xC1</Path></CtiPaths>", {"/\xD0\xB0"}},
+        Document{"WrongEncoding",
+            "<?xml version='1.0' encoding='EUC-JP'?><CtiPaths><Path>/a</Path><Path>/\xFF</Path></CtiPaths>",
+            Fallback},
+        Document{"UnknownEncoding",
+            "<?xml version='1.0' encoding='none'?><CtiPaths><Path>/a</Path></CtiPaths>", Fallback},
+        Document{"CharacterCutAtTheEnd", followedBy("\xE2\x82"), {"/a"}},
+        Document{"WrongCharacterAtTheEnd", followedBy("\xED\xA0\x80"), Fallback},
+        Document{"EntitiesOfItsOwn", "<!DOCTYPE c [<!ENTITY e 'in'>]><CtiPaths><Path>/&e;</Path></CtiPaths>",
+            {"/in"}},
+        Document{"EntityBomb", entityBomb(), {"/a"}},
+        Document{"Utf16WithCarriageReturns", utf16("<CtiPaths>\r\n<Path>/a</Path>\r\n</CtiPaths>"), {"/a"}},
+        Document{"Latin1",
+            "<?xml version='1.0' encoding='ISO-8859-1'?><CtiPaths><Path>/\xE4</Path></CtiPaths>",
+            {"/\u00E4"}},
+        Document{"Windows1252",
+            "<?xml version='1.0' encoding='windows-1252'?><CtiPaths><Path>/\x80</Path></CtiPaths>",
+            {"/\u20AC"}},
+        Document{"Gb18030",
+            "<?xml version='1.0' encoding='GB18030'?><CtiPaths><Path>/\xCF\xE0\xBB\xFA</Path></CtiPaths>",
+            {"/\u76F8\u673A"}},
+        Document{"NotInItsEncoding", "<CtiPaths><Path>/a</Path></CtiPaths><!-- \xE4 -->", Fallback},
+        Document{"OtherVersion", "<?xml version='1.1'?><CtiPaths><Path>/a</Path></CtiPaths>", Fallback},
+        Document{"TextBeforeTheRoot", "x<CtiPaths><Path>/a</Path></CtiPaths>", Fallback},
+        Document{"AttributeTwice", "<CtiPaths><Path>/a</Path><Path x='1' x='2'>/b</Path></CtiPaths>", {"/a"}},
+        Document{"UndeclaredEntity", "<CtiPaths><Path>/a</Path><Path>&e;</Path><Path>/b</Path></CtiPaths>",
+            {"/a"}},
+        Document{"DeclaredEntities",
+            "<!DOCTYPE c [<!ENTITY % p '<!ENTITY e \"/e\">'>%p;<!ENTITY f '<Path>&e;</Path>'>]>"
+            "<CtiPaths>&f;<Path>&e;/f</Path></CtiPaths>",
+            {"/e", "/e/f"}},
+        Document{"ControlCharacter", "<CtiPaths><Path>/a</Path>\x01<Path>/b</Path></CtiPaths>", {"/a"}},
         Document{"ThousandsDeep",
             [] {
                 std::string xml;

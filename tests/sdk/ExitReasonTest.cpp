@@ -15,6 +15,7 @@ TEST(ExitReasonTest, NamesTheExitCode)
     EXPECT_EQ(exitReason(7 << 8), "exited with code 7");
     EXPECT_EQ(exitReason(0), "exited with code 0");
     EXPECT_EQ(exitReason(-1), "ended");
+    EXPECT_EQ(exitReason(113 << 8), "closed its host's connection");
 }
 
 TEST(ExitReasonTest, NamesTheCallAndItsCode)

@@ -62,5 +62,7 @@ TEST_F(HostAnswerTest, AProgramThatCannotBeExecutedIsReported)
     writeFile(ctiPath("a.cti"), "");
     start();
     EXPECT_TRUE(list().empty());
-    EXPECT_TRUE(waitUntil([this] { return countReports("cannot start") == 1; }));
+    EXPECT_TRUE(waitUntil([this] { return !reports().empty(); }));
+    EXPECT_EQ(reports().front(),
+        ctiPath("a.cti").string() + ": cannot start " + host.string() + ": No such file or directory");
 }

@@ -1,3 +1,6 @@
+#include "sdk/cvxcpp/Announcer.h"
+#include "tests/sdk/support/ClientProcess.h"
+#include "tests/sdk/support/OutOfMemory.h"
 #include "tests/sdk/support/SystemTest.h"
 
 #include <atomic>
@@ -117,6 +120,78 @@ TEST_F(LifetimeTest, TheEndWakesThoseWhoWait)
     stop();
     waiter.join();
     EXPECT_EQ(error, CvxErrorNotStarted);
+}
+
+TEST_F(LifetimeTest, TheEndOfTheSystemWakesAnUpdateToo)
+{
+    options.lookInterval = 1h;
+    options.answerWait = 1h;
+    options.answerLimit = 1h;
+    options.endWait = 200ms;
+    addProducer("a", cameras(1));
+    start();
+    const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
+    const std::size_t before = countCalls("a", "IFUpdateDeviceList");
+    setScript("a", "fault IFUpdateDeviceList hang\n" + cameras(1));
+    CvxError error = CvxErrorSuccess;
+    std::thread waiter([&] { error = update->RunCommand(); });
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") > before; }));
+    system.reset();
+    waiter.join();
+    EXPECT_EQ(error, CvxErrorNotStarted);
+}
+
+TEST_F(LifetimeTest, WithoutMemoryACallFailsAndTheSystemGoesOn)
+{
+    addProducer("a", cameras(1));
+    start();
+    const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
+    const auto recorder = std::make_shared<CameraRecorder>();
+    unsigned count = 7;
+    CvxError listError = CvxErrorSuccess, updateError = CvxErrorSuccess, observerError = CvxErrorSuccess;
+    {
+        const OutOfMemory outOfMemory;
+        listError = system->GetCameras(nullptr, count);
+        updateError = update->RunCommand();
+        observerError = system->RegisterCameraListObserver(recorder);
+    }
+    EXPECT_EQ(listError, CvxErrorFailed);
+    EXPECT_EQ(count, 7U);
+    EXPECT_EQ(updateError, CvxErrorFailed);
+    EXPECT_EQ(observerError, CvxErrorFailed);
+    EXPECT_EQ(list().size(), 1U);
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
+}
+
+TEST_F(LifetimeTest, ASearchThatFailsIsReportedAndEndsTheSystem)
+{
+    std::mutex mutex;
+    std::vector<std::string> lines;
+    options.report = [&](const std::string &line) {
+        const std::lock_guard lock(mutex);
+        lines.push_back(line);
+        if (lines.size() == 1)
+            throw std::bad_alloc(); // As any allocation of the search may.
+    };
+    addProducer("a", "fault load exit 9\n");
+    start();
+    unsigned count = 0;
+    EXPECT_TRUE(waitUntil([&] { return system->GetCameras(nullptr, count) == CvxErrorNotStarted; }));
+    stop();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines.back(), "the search for cameras ended: std::bad_alloc");
+}
+
+TEST(Announcer, DropsItsObserversWhenItStops)
+{
+    Announcer announcer([] { return CameraListChange(); });
+    const auto cameraObserver = std::make_shared<CameraRecorder>();
+    const auto interfaceObserver = std::make_shared<InterfaceRecorder>();
+    announcer.addObserver(std::shared_ptr<ICameraListObserver>(cameraObserver));
+    announcer.addObserver(std::shared_ptr<IInterfaceListObserver>(interfaceObserver));
+    announcer.stop();
+    EXPECT_EQ(cameraObserver.use_count(), 1);
+    EXPECT_EQ(interfaceObserver.use_count(), 1);
 }
 
 TEST_F(LifetimeTest, ObjectsMayOutliveTheSystem)
@@ -277,4 +352,35 @@ TEST_F(LifetimeTest, AHostGetsNoneOfOurDescriptors)
     for (const auto &entry : fs::directory_iterator("/proc/" + std::to_string(hosts.front()) + "/fd"))
         EXPECT_LE(std::atoi(entry.path().filename().c_str()), 3);
     close(ours);
+}
+
+TEST_F(LifetimeTest, AHostHandlesSignalsPlainlyWhateverTheProgramDoes)
+{
+    addProducer("a", cameras(1));
+    const auto before = std::signal(SIGUSR1, SIG_IGN);
+    start();
+    list();
+    const auto hosts = processesWith(ctiPath("a.cti").string());
+    ASSERT_EQ(hosts.size(), 1U);
+    std::istringstream status(readFile("/proc/" + std::to_string(hosts.front()) + "/status"));
+    std::signal(SIGUSR1, before);
+    unsigned long long ignored = ~0ULL;
+    for (std::string word; status >> word;) {
+        if (word == "SigIgn:")
+            status >> std::hex >> ignored;
+    }
+    EXPECT_EQ(ignored >> (SIGUSR1 - 1) & 1, 0U);
+}
+
+TEST_F(LifetimeTest, AHostThatIsStartedByHandLoadsNothing)
+{
+    addProducer("a", cameras(1));
+    const std::pair<const char *, int> cases[] = {{"3<&-", 64}, {"3</dev/null", 1}};
+    for (const auto &[redirection, status] : cases) {
+        ClientProcess shell("/bin/sh",
+            {"-c", std::string(R"(exec "$0" "$1" )") + redirection, CVX_PRODUCER_HOST,
+                ctiPath("a.cti").string()});
+        EXPECT_EQ(shell.exitStatus(), status) << redirection;
+    }
+    EXPECT_TRUE(callsOf("a").empty());
 }

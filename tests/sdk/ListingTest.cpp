@@ -265,9 +265,12 @@ TEST_F(ListingTest, ARepeatedDeviceIdCountsOncePerInterface)
 
 TEST_F(ListingTest, ManyCamerasComeThrough)
 {
-    addProducer("a", cameras(2000)); // More than a socket holds at once.
+    std::string script = "interface n|N|GEV\n"; // More than a socket holds at once.
+    for (int i = 0; i < 1000; ++i)
+        script += "device n|" + std::to_string(i) + "|V|M|S|" + std::string(500, 'x') + "|GEV\n";
+    addProducer("a", script);
     start();
-    EXPECT_EQ(list().size(), 2000U);
+    EXPECT_EQ(list().size(), 1000U);
 }
 
 TEST_F(ListingTest, SearchesAtTheSameTimeShareOne)
@@ -281,4 +284,15 @@ TEST_F(ListingTest, SearchesAtTheSameTimeShareOne)
     for (std::thread &thread : threads)
         thread.join();
     EXPECT_LE(countCalls("a", "IFUpdateDeviceList"), 2U);
+}
+
+TEST_F(ListingTest, ATextThatGrowsMeanwhileIsAskedForFourTimes)
+{
+    lookNever();
+    addProducer("new", "fault IFGetDeviceID grow\n" + cameras(1));
+    addProducer("old", "fault IFGetDeviceID grow-1.3\n" + cameras(1)); // By another code.
+    start();
+    EXPECT_TRUE(list().empty());
+    for (const char *producer : {"new", "old"})
+        EXPECT_EQ(countCalls(producer, "IFGetDeviceID"), 4 * 2U) << "its size and itself each time";
 }

@@ -68,6 +68,14 @@ TEST(ProducerAnswerTest, SkipsWhatItDoesNotKnow)
     EXPECT_EQ(answer.interfaces[0].devices[0].model, "");
 }
 
+TEST(ProducerAnswerTest, TakesTheCodeOfAProblemFromNowhereElse)
+{
+    const auto answer
+        = parsed(R"({"code":4,"interfaces":[{"id":"a","code":3,"devices":[{"id":"d","code":2}]}],
+        "problems":[{"code":-1004,"line":5}]})");
+    EXPECT_EQ(answer.problems.at(0).code, -1004);
+}
+
 TEST(ProducerAnswerTest, CutsTextsAtNul)
 {
     EXPECT_EQ(parsed(R"({"interfaces":[{"id":"a\u0000b","devices":[]}]})").interfaces[0].id, "a");

@@ -76,6 +76,19 @@ TEST_F(ProducerSearchTest, TakesStrangeNames)
     EXPECT_EQ(find({dir()}), std::vector<std::string>{strange});
 }
 
+TEST_F(ProducerSearchTest, TellsWhatItPassesOver)
+{
+    fs::create_directory(root.path() / "a.cti");
+    fs::create_symlink("/nowhere/maker.cti", root.path() / "b.cti");
+    ASSERT_EQ(mkfifo(dir("c.cti").c_str(), 0600), 0);
+    std::vector<std::string> faults;
+    EXPECT_TRUE(findProducers({dir()}, [&](const std::string &fault) { faults.push_back(fault); }).empty());
+    EXPECT_EQ(faults,
+        (std::vector<std::string>{dir("a.cti") + ": is a directory",
+            dir("b.cti") + ": cannot be found: No such file or directory",
+            dir("c.cti") + ": is no regular file"}));
+}
+
 TEST_F(ProducerSearchTest, TellsInWhichDirectoryAProducerWasFoundFirst)
 {
     const auto real = file("real/maker.cti"), other = file("real/other.cti");

@@ -72,6 +72,38 @@ TEST_F(RestartTest, TheDelayDoublesUpToItsLimit)
     }
 }
 
+TEST_F(RestartTest, TheDelayStartsFromTheFirstAgainAfterAGoodRun)
+{
+    options.firstRestart = 100ms;
+    options.longestRestart = 1600ms;
+    addProducer("a", "fault load exit 9\n" + cameras(1));
+    start();
+    ASSERT_TRUE(
+        waitUntil([&] { return countCalls("a", "load") >= 4; })); // The next delay is 800 ms, or 1600.
+    setScript("a", cameras(1));
+    ASSERT_TRUE(waitUntil([&] { return list().size() == 1; }));
+    const auto goodUntil = Clock::now() + options.longestRestart;
+    ASSERT_TRUE(waitUntil([&] { return Clock::now() >= goodUntil && list().size() == 1; }));
+
+    const std::size_t loads = countCalls("a", "load");
+    const auto killed = Clock::now();
+    ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
+    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") > loads; }));
+    EXPECT_LT(Clock::now() - killed, 700ms);
+}
+
+TEST_F(RestartTest, AHangThatRepeatsIsReportedOnce)
+{
+    options.answerWait = 100ms;
+    options.answerLimit = 300ms;
+    options.endWait = 100ms;
+    addProducer("a", "fault load hang\n");
+    start();
+    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 3; }));
+    stop(); // In the middle of another one.
+    EXPECT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
+}
+
 TEST_F(RestartTest, AFailureThatRepeatsIsReportedOnce)
 {
     addProducer("a", "fault load exit 9\n");
@@ -104,6 +136,28 @@ TEST_F(RestartTest, AMissingHostProgramIsReportedAndComesBack)
     ASSERT_TRUE(waitUntil([&] { return countReports("cannot start") > 0; }));
     EXPECT_TRUE(list().empty());
     std::filesystem::rename(directory.path() / "Away", host);
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
+}
+
+TEST_F(RestartTest, AReplacedHostProgramIsTakenWithTheNextStart)
+{
+    const auto host = directory.path() / "Host";
+    std::filesystem::copy_file(CVX_PRODUCER_HOST, host);
+    options.hostProgram = host.string();
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    const pid_t old = hostOf("a");
+    writeFile(host, "#!/bin/sh\nexit 5\n");
+    std::filesystem::permissions(host, std::filesystem::perms::owner_all);
+    EXPECT_EQ(list().size(), 1U);
+    EXPECT_EQ(hostOf("a"), old) << "the one that runs goes on";
+
+    ASSERT_EQ(kill(old, SIGKILL), 0);
+    EXPECT_TRUE(waitUntil([&] { return countReports("cti/a.cti: exited with code 5") == 1; }));
+    EXPECT_TRUE(list().empty());
+    std::filesystem::remove(host);
+    std::filesystem::copy_file(CVX_PRODUCER_HOST, host);
     EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
 }
 

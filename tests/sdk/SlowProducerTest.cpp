@@ -30,6 +30,20 @@ TEST_F(SlowProducerTest, IsNotWaitedForTwiceAndItsLateAnswerIsAnnounced)
     EXPECT_TRUE(reports().empty());
 }
 
+TEST_F(SlowProducerTest, IsWaitedForOnceWhenItIsSlowEveryTime)
+{
+    options.answerWait = 400ms;
+    addProducer("slow", "fault IFUpdateDeviceList slow 600\n" + cameras(1));
+    addProducer("well", cameras(2));
+    start();
+    EXPECT_GE(timeOf([this] { list(); }), 390ms);
+    const auto until = std::chrono::steady_clock::now() + 2s;
+    while (std::chrono::steady_clock::now() < until)
+        ASSERT_LT(timeOf([this] { list(); }), 250ms);
+    EXPECT_EQ(list().size(), 3U);
+    EXPECT_GE(countCalls("slow", "IFUpdateDeviceList"), 3U) << "it is asked all the same";
+}
+
 TEST_F(SlowProducerTest, KeepsItsCamerasWhileItIsLate)
 {
     options.lookInterval = 1h;
@@ -66,7 +80,19 @@ TEST_F(SlowProducerTest, ADriverThatForkedAndDiedIsNoticedAndCleanedUp)
     start();
     const auto recorder = recordCameras();
     ASSERT_EQ(list().size(), 1U);
-    setScript("a", "fault IFUpdateDeviceList fork\n" + cameras(1)); // The child keeps the socket open.
+    setScript(
+        "a", "fault IFUpdateDeviceList fork-and-die\n" + cameras(1)); // The child keeps the socket open.
     ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }, 10s));
     EXPECT_TRUE(waitUntil([&] { return processesWith(ctiPath("a.cti").string()).empty(); }));
+}
+
+TEST_F(SlowProducerTest, ADriverThatForkedAndDiedIsNotWaitedForAnyLonger)
+{
+    options.answerWait = 20s;
+    options.lookInterval = 1h; // So that nothing else wakes the search.
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault IFUpdateDeviceList fork-and-die\n" + cameras(1));
+    EXPECT_LT(timeOf([this] { EXPECT_TRUE(list().empty()); }), 10s);
 }

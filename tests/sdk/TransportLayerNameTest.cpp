@@ -41,6 +41,8 @@ INSTANTIATE_TEST_SUITE_P(AsProducersWriteThem, TransportLayerNameTest,
 
 INSTANTIATE_TEST_SUITE_P(Unknown, TransportLayerNameTest,
     testing::Values(TransportName{"", CvxTransportLayerUnknown},
-        TransportName{"GEVX", CvxTransportLayerUnknown},
+        TransportName{"GEVA", CvxTransportLayerUnknown}, TransportName{"GEVZ", CvxTransportLayerUnknown},
+        TransportName{"geva", CvxTransportLayerUnknown}, TransportName{"gevz", CvxTransportLayerUnknown},
+        TransportName{"GEV0", CvxTransportLayerUnknown}, TransportName{"GEV9", CvxTransportLayerUnknown},
         TransportName{"Orvelle Link", CvxTransportLayerUnknown},
         TransportName{"-", CvxTransportLayerUnknown}));

@@ -3,17 +3,23 @@
 // The script is read again at every update call and at every call that opens or closes. A line each:
 //   interface ID|NAME|TYPE
 //   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   missing fields at the end are refused with -1003
+//   interfaces NUMBER, devices INTERFACE|NUMBER         so many of them, "net1" or "D1" and so on
+//   changing INTERFACE                                  a device whose ID is another one at every update
+//   quiet                                               no log, no second reading: many take long otherwise
 //   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
-// Actions: error CODE, crash, abort, throw, exit CODE, hang, slow MILLISECONDS, untouched, fork, print,
-// close. The calls are written to "name.log", each with its process.
+// Actions of any function: error CODE, crash, abort, throw, throw-in-thread, exit CODE, hang, untouched,
+// slow MILLISECONDS, fork, fork-and-die, daemon, allocate, threads, signals, ignore-and-hang, print, close.
+// Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
+// of the standard's version 1.3), size BYTES ("size -1" says one less than there is and heeds no capacity).
+// Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
+// for a byte. The calls are written to "name.log", each with its process.
 
 #include "sdk/gentl/GenTL.h"
+#include "tests/sdk/producer/Misbehaviour.h"
 
 #include <array>
 #include <atomic>
-#include <chrono>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -22,9 +28,7 @@
 #include <map>
 #include <mutex>
 #include <sstream>
-#include <stdexcept>
 #include <string>
-#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -42,6 +46,7 @@ struct Interface
 {
     std::string id;
     std::vector<Entry> devices; // As of the last update.
+    std::map<std::string, std::size_t> places; // Of the devices, by ID.
     bool isUpdated = false;
     std::atomic<bool> isUpdating{false};
 };
@@ -51,6 +56,7 @@ struct Script
     std::vector<Entry> interfaces;
     std::multimap<std::string, Entry> devices; // By interface.
     std::map<std::string, std::string> faults; // Function, action.
+    bool isQuiet = false;
 };
 
 std::mutex mutex; // Guards all of these.
@@ -60,6 +66,8 @@ std::map<std::string, Interface *> opened; // Never deleted: tests look for uses
 bool isInitialised = false;
 bool isOpen = false;
 thread_local int lastCode = 0;
+thread_local std::string lie; // Of the call that is being made.
+int updates = 0; // Of all interfaces.
 int systemHandle = 0;
 
 const std::string &basePath()
@@ -73,42 +81,86 @@ const std::string &basePath()
     return path;
 }
 
+std::string unescaped(const std::string &text)
+{
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isByte = text.compare(i, 2, "\\x") == 0 && i + 3 < text.size();
+        result += isByte ? static_cast<char>(std::stoi(text.substr(i + 2, 2), nullptr, 16)) : text[i];
+        i += isByte ? 3 : 0;
+    }
+    return result;
+}
+
 std::vector<std::string> split(const std::string &text)
 {
     std::vector<std::string> fields;
     std::size_t start = 0;
     for (std::size_t end = text.find('|'); end != std::string::npos; end = text.find('|', start)) {
-        fields.push_back(text.substr(start, end - start));
+        fields.push_back(unescaped(text.substr(start, end - start)));
         start = end + 1;
     }
-    fields.push_back(text.substr(start));
+    fields.push_back(unescaped(text.substr(start)));
     return fields;
+}
+
+void addDevice(const std::string &interface, std::vector<std::string> fields)
+{
+    script.devices.emplace(interface, Entry{std::move(fields)});
+}
+
+void addDevices(const std::string &interface, int count)
+{
+    for (int i = 1; i <= count; ++i) {
+        const std::string number = std::to_string(i);
+        addDevice(interface, {'D' + number, "Maker", "Model " + number, "SN" + number, "Name", "GEV"});
+    }
+}
+
+void readLine(const std::string &line)
+{
+    const std::string word = line.substr(0, line.find(' '));
+    const std::string rest = line.substr(std::min(word.size() + 1, line.size()));
+    auto fields = split(rest);
+    if (word == "interface") {
+        script.interfaces.push_back({fields});
+    } else if (word == "interfaces") {
+        for (int i = 1; i <= std::stoi(rest); ++i)
+            script.interfaces.push_back({{"net" + std::to_string(i)}});
+    } else if (word == "device") {
+        const std::string interface = fields.front();
+        fields.erase(fields.begin());
+        addDevice(interface, fields);
+    } else if (word == "devices") {
+        addDevices(fields.at(0), std::stoi(fields.at(1)));
+    } else if (word == "changing") {
+        addDevice(rest, {'D' + std::to_string(++updates), "Maker", "Model", "SN", "Name", "GEV"});
+    } else if (word == "quiet") {
+        script.isQuiet = true;
+    } else if (word == "fault") {
+        const std::size_t space = rest.find(' ');
+        script.faults[rest.substr(0, space)] = rest.substr(space + 1);
+    }
 }
 
 void readScript()
 {
     const std::lock_guard lock(mutex);
+    if (script.isQuiet)
+        return;
     script = Script();
     std::ifstream file(basePath() + ".script");
-    for (std::string line; std::getline(file, line);) {
-        const std::string word = line.substr(0, line.find(' '));
-        const std::string rest = line.substr(std::min(word.size() + 1, line.size()));
-        if (word == "interface") {
-            script.interfaces.push_back({split(rest)});
-        } else if (word == "device") {
-            auto fields = split(rest);
-            const std::string interface = fields.front();
-            fields.erase(fields.begin());
-            script.devices.emplace(interface, Entry{fields});
-        } else if (word == "fault") {
-            const std::size_t space = rest.find(' ');
-            script.faults[rest.substr(0, space)] = rest.substr(space + 1);
-        }
-    }
+    for (std::string line; std::getline(file, line);)
+        readLine(line);
 }
 
 void log(const std::string &text)
 {
+    {
+        const std::lock_guard lock(mutex);
+        if (script.isQuiet)
+            return;
+    }
     const std::string line = std::to_string(getpid()) + ' ' + text + '\n';
     const int file = open((basePath() + ".log").c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
     [[maybe_unused]] const auto written = write(file, line.data(), line.size());
@@ -122,72 +174,54 @@ std::string actionFor(const std::string &function)
     return found == script.faults.end() ? std::string() : found->second;
 }
 
-/// What a scripted call returns at once; Continue when it goes on as usual.
-constexpr int Continue = 1'000'000;
-
-/// A child that keeps every descriptor, while its parent dies.
-void forkAndCrash()
-{
-    if (fork() == 0) {
-        for (;;)
-            pause();
-    }
-    raise(SIGKILL);
-}
-
-int perform(const std::string &action)
-{
-    std::istringstream words(action);
-    std::string verb;
-    int argument = 0;
-    words >> verb >> argument;
-    if (verb == "error")
-        return argument;
-    if (verb == "crash")
-        raise(SIGSEGV);
-    if (verb == "abort")
-        std::abort();
-    if (verb == "throw")
-        throw std::runtime_error("thrown by the driver");
-    if (verb == "exit")
-        std::exit(argument);
-    if (verb == "hang") {
-        for (;;)
-            pause();
-    }
-    if (verb == "slow")
-        std::this_thread::sleep_for(std::chrono::milliseconds(argument));
-    if (verb == "untouched")
-        return GC_ERR_SUCCESS;
-    if (verb == "fork")
-        forkAndCrash();
-    if (verb == "print")
-        std::printf("%s\n", std::string(1 << 20, 'x').c_str());
-    if (verb == "close") {
-        for (int descriptor = 3; descriptor < 64; ++descriptor)
-            close(descriptor);
-    }
-    return Continue;
-}
-
 /// Logs the call, then does what the script wants of it.
 int enter(const std::string &function, const std::string &detail = {})
 {
     log(detail.empty() ? function : function + ' ' + detail);
-    const int code = perform(actionFor(function));
+    lie = actionFor(function);
+    const int code = perform(lie);
     lastCode = code == Continue ? 0 : code;
     return code;
 }
 
-int give(const std::string &value, void *buffer, std::size_t *size)
+/// The value, or the text that the script wants in its place.
+std::string stretched(
+    const std::string &value, const std::string &verb, long long argument, const void *buffer)
 {
-    const std::size_t needed = value.size() + 1;
-    if (buffer && *size < needed)
-        return GC_ERR_BUFFER_TOO_SMALL;
+    if (verb == "long")
+        return std::string(static_cast<std::size_t>(argument), 'x');
+    if ((verb == "grow" || verb == "grow-1.3") && buffer)
+        return value + std::string(1000, 'x');
+    return value;
+}
+
+int give(const std::string &honest, void *buffer, std::size_t *size)
+{
+    std::istringstream words(lie);
+    std::string verb;
+    long long argument = 0;
+    words >> verb >> argument;
+    const std::string value = stretched(honest, verb, argument, buffer);
+    const std::size_t needed = value.size() + (verb == "no-nul" ? 0 : 1);
+    if (buffer && *size < needed && verb != "size")
+        return verb == "grow-1.3" ? GC_ERR_INVALID_PARAMETER : GC_ERR_BUFFER_TOO_SMALL;
     if (buffer)
         std::memcpy(buffer, value.c_str(), needed);
-    *size = needed;
+    *size = verb != "size" ? needed : argument < 0 ? needed - 1 : static_cast<std::size_t>(argument);
     return GC_ERR_SUCCESS;
+}
+
+std::uint32_t counted(std::size_t number)
+{
+    return static_cast<std::uint32_t>(number + (lie == "more" ? 3 : 0));
+}
+
+/// As it was seen: a consumer must never probe.
+GC_ERROR refuseIndex()
+{
+    if (actionFor("IFGetNumDevices") != "more" && actionFor("TLGetNumInterfaces") != "more")
+        raise(SIGSEGV);
+    return GC_ERR_INVALID_INDEX;
 }
 
 int giveText(const std::string &value, INFO_DATATYPE *type, void *buffer, std::size_t *size)
@@ -256,6 +290,7 @@ GENTL_FUNCTION GCCloseLib()
 GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
 {
     *piErrorCode = lastCode;
+    lie.clear();
     return give("the driver's own words", sErrText, piSize);
 }
 
@@ -296,7 +331,7 @@ GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE, std::uint32_t *piNumIfaces)
     if (const int code = enter("TLGetNumInterfaces"); code != Continue)
         return code;
     const std::lock_guard lock(mutex);
-    *piNumIfaces = static_cast<std::uint32_t>(interfaces.size());
+    *piNumIfaces = counted(interfaces.size());
     return GC_ERR_SUCCESS;
 }
 
@@ -304,9 +339,9 @@ GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE, std::uint32_t iIndex, char *sID, std:
 {
     if (const int code = enter("TLGetInterfaceID"); code != Continue)
         return code;
-    const std::lock_guard lock(mutex);
     if (iIndex >= interfaces.size())
-        raise(SIGSEGV); // As it was seen: never probe.
+        return refuseIndex();
+    const std::lock_guard lock(mutex);
     return give(interfaces[iIndex].id(), sID, piSize);
 }
 
@@ -338,7 +373,7 @@ GENTL_FUNCTION TLOpenInterface(TL_HANDLE, const char *sIfaceID, IF_HANDLE *phIfa
     interface->id = sIfaceID;
     opened[sIfaceID] = interface;
     *phIface = interface;
-    return GC_ERR_SUCCESS;
+    return lie == "in-use" ? GC_ERR_RESOURCE_IN_USE : GC_ERR_SUCCESS;
 }
 
 GENTL_FUNCTION IFClose(IF_HANDLE hIface)
@@ -363,8 +398,11 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
     const std::lock_guard lock(mutex);
     interface->devices.clear();
     const auto range = script.devices.equal_range(interface->id);
-    for (auto entry = range.first; entry != range.second; ++entry)
+    interface->places.clear();
+    for (auto entry = range.first; entry != range.second; ++entry) {
+        interface->places.emplace(entry->second.id(), interface->devices.size());
         interface->devices.push_back(entry->second);
+    }
     interface->isUpdated = true;
     return GC_ERR_SUCCESS;
 }
@@ -376,7 +414,7 @@ GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
     const auto *interface = static_cast<Interface *>(hIface);
     if (!interface->isUpdated)
         return GC_ERR_NOT_AVAILABLE;
-    *piNumDevices = static_cast<std::uint32_t>(interface->devices.size());
+    *piNumDevices = counted(interface->devices.size());
     return GC_ERR_SUCCESS;
 }
 
@@ -386,7 +424,7 @@ GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDev
         return code;
     const auto *interface = static_cast<Interface *>(hIface);
     if (iIndex >= interface->devices.size())
-        raise(SIGSEGV); // As it was seen: never probe.
+        return refuseIndex();
     return give(interface->devices[iIndex].id(), sIDeviceID, piSize);
 }
 
@@ -398,15 +436,15 @@ GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_I
         return code;
     // The fields of a device in a script, by command: ID, vendor, model, type, name; serial number.
     static constexpr std::array<std::size_t, 8> places{0, 1, 2, 5, 4, 99, 99, 3};
-    for (const Entry &device : static_cast<Interface *>(hIface)->devices) {
-        if (device.id() != sDeviceID)
-            continue;
-        const std::size_t place = places.at(static_cast<std::size_t>(iInfoCmd));
-        if (place >= device.fields.size())
-            return GC_ERR_NOT_IMPLEMENTED;
-        return giveText(device.fields[place], piType, pBuffer, piSize);
-    }
-    return GC_ERR_INVALID_ID;
+    const auto *interface = static_cast<Interface *>(hIface);
+    const auto found = interface->places.find(sDeviceID);
+    if (found == interface->places.end())
+        return GC_ERR_INVALID_ID;
+    const Entry &device = interface->devices[found->second];
+    const std::size_t place = places.at(static_cast<std::size_t>(iInfoCmd));
+    if (place >= device.fields.size())
+        return GC_ERR_NOT_IMPLEMENTED;
+    return giveText(device.fields[place], piType, pBuffer, piSize);
 }
 #endif
 

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <ios>
 #include <iterator>
 
 namespace {
@@ -25,7 +26,11 @@ std::vector<pid_t> allProcesses()
 
 std::string procFile(pid_t process, const char *name)
 {
-    return readFile("/proc/" + std::to_string(process) + '/' + name);
+    try {
+        return readFile("/proc/" + std::to_string(process) + '/' + name);
+    } catch (const std::ios_base::failure &) {
+        return {}; // It ended while it was read.
+    }
 }
 
 pid_t parentOf(pid_t process)
