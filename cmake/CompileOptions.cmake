@@ -2,6 +2,7 @@
 
 set(CORVIX_SANITIZE "" CACHE STRING "Sanitizers to build with, for example \"address,undefined\" or \"thread\"")
 option(CORVIX_COVERAGE "Instrument for gcov" OFF)
+option(CORVIX_FUZZ "Build the fuzzers in place of the tests that run their cases; needs clang" OFF)
 
 add_library(corvix_warnings INTERFACE)
 target_compile_options(corvix_warnings INTERFACE
@@ -20,4 +21,9 @@ endif()
 if(CORVIX_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)
+endif()
+if(CORVIX_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
 endif()

@@ -95,6 +95,7 @@ void LauncherConfig::load()
 
     // The compatibility document's version takes no part, on purpose.
     if (text(launcherConfig, "version") != text(camerasReference, "version")) {
+        //: For the log, which is in English throughout: to be left as it is.
         qCritical().noquote() << QCoreApplication::translate(
             "LauncherConfig", "Configuration files version mismatch!");
         return;

@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QHash>
 #include <QMenu>
 #include <QPixmap>
 #include <QProcess>
@@ -18,7 +19,7 @@ namespace {
 constexpr int tooltipWidth = 270; // pixels
 constexpr int imageCellWidth = 90; // pixels
 constexpr int imageCellPadding = 6; // pixels
-constexpr int imageWidth = 78; // pixels
+constexpr int imageWidth = 78; // pixels, on a fine screen as well: every tooltip carries its picture as text
 
 /// What the camera is attached by, for the choice of its transport-layer file.
 QString cameraInterfaceLabel(const CameraInfo &camera)
@@ -28,6 +29,9 @@ QString cameraInterfaceLabel(const CameraInfo &camera)
         return QStringLiteral("Simulator");
     return camera.interfaceType.isEmpty() ? QStringLiteral("Other") : camera.interfaceType;
 }
+
+/// The image cells of one rebuild, by picture: a thousand cameras share a handful of them.
+using ImageCells = QHash<QString, QString>;
 
 /// The picture as a table cell with the image inlined; empty when it cannot be loaded.
 QString imageCell(const QString &picturePath)
@@ -55,12 +59,15 @@ QString row(const QString &label, const QString &value)
 }
 
 /// The tooltip's HTML. `ctiPath` and `thumbnailPath` may be empty.
-QString buildCameraTooltip(const CameraInfo &camera, const QString &ctiPath, const QString &thumbnailPath)
+QString buildCameraTooltip(
+    const CameraInfo &camera, const QString &ctiPath, const QString &thumbnailPath, ImageCells &imageCells)
 {
     const QString ctiFileName = ctiPath.isEmpty() ? QStringLiteral("-") : QFileInfo(ctiPath).fileName();
     // The placeholder stands in for a missing path only, never for a picture that does not load.
     const QString picture
         = thumbnailPath.isEmpty() ? QStringLiteral(":/images/cameras/camera-placeholder.png") : thumbnailPath;
+    if (!imageCells.contains(picture))
+        imageCells.insert(picture, imageCell(picture));
     const QString information
         = QStringLiteral(
               "<td style='padding:8px;vertical-align:top;background:#1a2332;'><table cellspacing='2'>")
@@ -70,7 +77,7 @@ QString buildCameraTooltip(const CameraInfo &camera, const QString &ctiPath, con
     return QStringLiteral("<table cellspacing='0' cellpadding='0' width='%1' "
                           "style='font-family:Segoe UI;font-size:11px;'><tr>%2%3</tr></table>")
         .arg(tooltipWidth)
-        .arg(imageCell(picture), information);
+        .arg(imageCells.value(picture), information);
 }
 
 } // namespace
@@ -104,6 +111,7 @@ void MainWindow::setSelectedCamera(const CameraInfo &camera)
 void MainWindow::renderCameraTable()
 {
     QTableWidget *table = ui->cameraTable;
+    ImageCells imageCells;
     const QSignalBlocker blocker(table); // Or selectRow() below would re-enter the selection handler.
     table->clearContents();
     table->setRowCount(m_cameras.size());
@@ -117,8 +125,8 @@ void MainWindow::renderCameraTable()
 
         const QString ctiPath = resolveCtiPath(cameraInterfaceLabel(camera));
         auto *model = new QTableWidgetItem(camera.modelName);
-        model->setData(
-            Qt::ToolTipRole, buildCameraTooltip(camera, ctiPath, m_config.findThumbnailForCamera(camera)));
+        model->setData(Qt::ToolTipRole,
+            buildCameraTooltip(camera, ctiPath, m_config.findThumbnailForCamera(camera), imageCells));
         table->setItem(r, 1, model);
 
         table->setItem(r, 2, new QTableWidgetItem(camera.serialNumber));

@@ -2,82 +2,15 @@
 
 #include "ui/MainWindow.h"
 
+#include "ui/CtiSearchDirectories.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <limits>
 
 namespace {
-
-/// The directory that a Path element means; empty when it means none.
-QString searchDirectory(const QString &path, const QDir &installRoot, const QDir &xmlDirectory)
-{
-    if (QDir::isAbsolutePath(path))
-        return path; // Taken unchecked: a missing directory is skipped when it is searched.
-    for (const QDir &base : {installRoot, xmlDirectory}) {
-        QString candidate = base.filePath(path);
-        if (QFileInfo(candidate).isDir())
-            return candidate;
-    }
-    return {};
-}
-
-/// Whether the reader is at an element of that name, whatever its prefix and its letter case.
-bool isNamed(const QXmlStreamReader &xml, QLatin1String name)
-{
-    const QString elementName = xml.name().toString();
-    return elementName.midRef(elementName.lastIndexOf(QLatin1Char(':')) + 1)
-               .compare(name, Qt::CaseInsensitive)
-        == 0;
-}
-
-/// The texts of the Path elements inside CtiPaths, up to the end or the first error of the document.
-QStringList readCtiPaths(QXmlStreamReader &xml)
-{
-    QStringList paths;
-    bool inside = false;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (xml.hasError())
-            break;
-        if ((xml.isStartElement() || xml.isEndElement()) && isNamed(xml, QLatin1String("CtiPaths"))) {
-            inside = xml.isStartElement();
-        } else if (inside && xml.isStartElement() && isNamed(xml, QLatin1String("Path"))) {
-            const QString path = xml.readElementText().trimmed();
-            if (xml.hasError())
-                break; // A child element, for example: this Path contributes nothing.
-            if (!path.isEmpty())
-                paths.append(path);
-        }
-    }
-    return paths;
-}
-
-/// The directories that bin/CvxC.xml names, without duplicates; "cti" where it names none. Never empty.
-QStringList ctiSearchDirsFromCvxCXml(const QString &installRoot)
-{
-    const QDir root(installRoot);
-    const QString xmlPath = root.filePath(QStringLiteral("bin/CvxC.xml"));
-    QStringList directories;
-    QFile file(xmlPath);
-    // Only a regular file: a FIFO in its place would hold us up for ever.
-    if (QFileInfo(xmlPath).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        QXmlStreamReader xml(&file);
-        const QStringList paths = readCtiPaths(xml);
-        for (const QString &path : paths) {
-            const QString directory = searchDirectory(path, root, QFileInfo(xmlPath).absoluteDir());
-            if (!directory.isEmpty())
-                directories.append(directory);
-        }
-    }
-    directories.removeDuplicates();
-    if (directories.isEmpty())
-        directories.append(root.filePath(QStringLiteral("cti")));
-    return directories;
-}
 
 struct KeywordRow
 {

@@ -28,6 +28,8 @@ private slots:
     void relativeDirectoryPrefersTheInstallRoot();
     void fileInPlaceOfARelativeDirectoryIsPassedOver();
     void emptyInstallRootMeansTheCurrentDirectory();
+    void wideCharactersKeepTheirHalves_data();
+    void wideCharactersKeepTheirHalves();
     void nothingIsLogged();
 };
 
@@ -126,6 +128,13 @@ void TestCtiSearchDirectories::document_data()
         "<?xml version='1.0' encoding='UTF-8'?><!-- x --><c><CtiPaths><!-- y --><Path>more<!-- z --></Path>"
         "</CtiPaths></c>",
         "more");
+    add("colon in front", "<c><CtiPaths><Path>:/images</Path></CtiPaths></c>", "cti"); // Not our resources.
+    add("text after the root", "<c><CtiPaths><Path>more</Path></CtiPaths></c>last", "more");
+    add("undeclared entity", "<c><CtiPaths><Path>more</Path><Path>&e;</Path><Path>last</Path></CtiPaths></c>",
+        "more");
+    add("declared entity", "<!DOCTYPE c [<!ENTITY e 'more'>]><c><CtiPaths><Path>&e;</Path></CtiPaths></c>",
+        "more");
+    add("not in its encoding", "<c><CtiPaths><Path>more</Path></CtiPaths></c><!-- \xE4 -->", "cti");
     add("line ends of another system",
         "<c>\r\n<CtiPaths>\r\n<Path>\r\nmore\r\n</Path>\r\n</CtiPaths>\r\n</c>", "more");
 }
@@ -237,6 +246,25 @@ void TestCtiSearchDirectories::emptyInstallRootMeansTheCurrentDirectory()
     const QStringList found = searched(configured);
     QVERIFY(QDir::setCurrent(before));
     QCOMPARE(found, QStringList{latin1("cti")}); // The document is not even looked for.
+}
+
+void TestCtiSearchDirectories::wideCharactersKeepTheirHalves_data()
+{
+    QTest::addColumn<QByteArray>("mark");
+    QTest::newRow("marked") << QByteArray("\xFF\xFE"); // Little-endian, as this computer.
+    QTest::newRow("not marked") << QByteArray();
+}
+
+void TestCtiSearchDirectories::wideCharactersKeepTheirHalves()
+{
+    QFETCH(QByteArray, mark);
+    ConfiguredWindow configured(noFiles);
+    prepare(configured);
+    const QString xml = latin1("<c>\r\n<CtiPaths>\r\n<Path>more</Path>\r\n</CtiPaths>\r\n</c>");
+    const QByteArray utf16(reinterpret_cast<const char *>(xml.utf16()), xml.size() * 2);
+    ScriptFile::write(configured.path("bin/CvxC.xml"), mark + utf16);
+    configured.loadConfig();
+    QCOMPARE(searched(configured), QStringList{latin1("more")});
 }
 
 void TestCtiSearchDirectories::nothingIsLogged()

@@ -1,0 +1,91 @@
+// The launcher's configuration from arbitrary JSON: one object that holds the three documents and a camera.
+
+#include "camera/CameraInfo.h"
+#include "config/LauncherConfig.h"
+#include "tests/fuzz/FuzzTarget.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtGlobal>
+
+#include <sanitizer/lsan_interface.h>
+
+// Null where there is no leak detector.
+#pragma weak __lsan_disable
+#pragma weak __lsan_enable
+
+namespace {
+
+void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
+
+/// Qt 5.15 leaks memory when an object has the same key twice, so this call is not watched.
+QJsonObject parse(const QByteArray &text)
+{
+    if (__lsan_disable)
+        __lsan_disable();
+    QJsonObject object = QJsonDocument::fromJson(text).object();
+    if (__lsan_enable)
+        __lsan_enable();
+    return object;
+}
+
+CameraInfo cameraOf(const QJsonObject &object)
+{
+    const auto text = [&object](const char *key) { return object.value(QLatin1String(key)).toString(); };
+    CameraInfo camera;
+    camera.vendorName = text("vendor");
+    camera.modelName = text("model");
+    camera.cameraName = text("name");
+    camera.interfaceType = text("interface");
+    return camera;
+}
+
+QSet<QString> toolIds(const QVector<ToolConfig> &tools)
+{
+    QSet<QString> ids;
+    for (const ToolConfig &tool : tools)
+        ids.insert(tool.id);
+    return ids;
+}
+
+void requireTools(const LauncherConfig &config, const QString &platform)
+{
+    QSet<QString> executables;
+    for (const ToolConfig &tool : config.allTools(platform)) {
+        require(tool.platforms.isEmpty() || tool.platforms.contains(platform), "a tool fits its platform");
+        if (tool.executable.isEmpty())
+            continue;
+        require(!executables.contains(tool.executable), "each executable is there once");
+        executables.insert(tool.executable);
+    }
+}
+
+void requireAnswers(const LauncherConfig &config, const CameraInfo &camera)
+{
+    const QString platform = QStringLiteral("linux_x86_64");
+    requireTools(config, platform);
+    const HardwareGroupConfig group = config.findGroupForCamera(camera);
+    require(!config.findThumbnailForCamera(camera).isEmpty(), "every camera has a picture");
+    for (const QString &id : config.recommendedToolsIdsForCamera(group, camera, platform)) {
+        require(toolIds(group.tools).contains(id), "what is recommended is of the group");
+        require(group.type != QLatin1String("highres")
+                || config.isHalvexToolCompatibleWithCamera(camera.modelName, id),
+            "what is recommended fits the model");
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    static const QtMessageHandler silenced = qInstallMessageHandler(ignoreMessage);
+    Q_UNUSED(silenced)
+    const QJsonObject input = parse(QByteArray(reinterpret_cast<const char *>(data), int(size)));
+    const auto document = [&input](const char *key) { return input.value(QLatin1String(key)).toObject(); };
+
+    LauncherConfig config;
+    requireAnswers(config, cameraOf(document("camera")));
+    config.parseConfig(document("launcher"), document("reference"), document("compatibility"));
+    requireAnswers(config, cameraOf(document("camera")));
+    return 0;
+}
