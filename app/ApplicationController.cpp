@@ -73,6 +73,7 @@ ApplicationController::ApplicationController(QObject *parent)
 
 ApplicationController::~ApplicationController()
 {
+    window->hide(); // Or it would stand there, dead, until the scan has ended.
     // QtConcurrent::run() cannot be cancelled; it is the wait that keeps the scan off a closed SDK.
     watcher.cancel();
     watcher.waitForFinished();

@@ -11,6 +11,7 @@ import time
 
 BOUND = 30.0  # seconds, for everything that is waited for
 TITLE = "Corvix X - Application Launcher"
+ENGLISH = {"LC_ALL": "C.UTF-8", "LANGUAGE": ""}
 
 
 def wait_for(promise, condition, bound=BOUND):
@@ -64,23 +65,40 @@ def keep_to_this_machine(stage):
     print("no network of the test's own: UniversalGEV.cti is taken out")
 
 
+def answer_at(path):
+    """What the socket there answers, from JSON; None when nobody does."""
+    with socket.socket(socket.AF_UNIX) as reader:
+        reader.settimeout(BOUND)
+        try:
+            reader.connect(path)
+        except (FileNotFoundError, ConnectionRefusedError):
+            return None
+        with reader.makefile() as answer:
+            return json.loads(answer.read() or "null")
+
+
 class Launcher:
     """Starts the program of an installation; to be used in a with statement."""
 
-    def __init__(self, stage, plugins):
+    title = TITLE  # In the language that the program is to speak.
+
+    def __init__(self, stage, plugins, environment=None):
         self.program = f"{stage}/bin/CorvixLauncher"
         self.plugins = plugins
+        self.environment = environment or {}
 
     def __enter__(self):
         self.directory = tempfile.mkdtemp()
         self.socket = f"{self.directory}/reader"
-        environment = dict(os.environ, QT_PLUGIN_PATH=self.plugins,
-                           QT_QPA_GENERIC_PLUGINS=f"windowreader:{self.socket}")
+        environment = {**os.environ, "QT_PLUGIN_PATH": self.plugins,
+                       "QT_QPA_GENERIC_PLUGINS": f"windowreader:{self.socket}{self.more_plugins()}",
+                       **ENGLISH, **self.environment}  # Whatever the language of the one who runs the test.
         environment.pop("GENICAM_GENTL64_PATH", None)
         self.started = time.monotonic()
         # From another directory: nothing may depend on where the program is started.
         with open(f"{self.directory}/stderr", "wb") as errors:  # No pipe: the tools hold it open as well.
-            self.process = subprocess.Popen([self.program], cwd="/", env=environment, stderr=errors)
+            self.process = subprocess.Popen([self.program], cwd="/", env=environment,
+                                            stdout=subprocess.DEVNULL, stderr=errors)
         return self
 
     def __exit__(self, *_):
@@ -89,6 +107,14 @@ class Launcher:
             self.process.wait()
         shutil.rmtree(self.directory)
 
+    def more_plugins(self):
+        """What else Qt is to load into the program, with a comma before it; for derived classes."""
+        return ""
+
+    def elapsed(self):
+        """Seconds since the start."""
+        return time.monotonic() - self.started
+
     def printed(self):
         """What came on standard error so far."""
         with open(f"{self.directory}/stderr", encoding="utf-8", errors="replace") as errors:
@@ -96,19 +122,12 @@ class Launcher:
 
     def windows(self):
         """The visible windows; none before the program answers."""
-        with socket.socket(socket.AF_UNIX) as reader:
-            reader.settimeout(BOUND)
-            try:
-                reader.connect(self.socket)
-            except (FileNotFoundError, ConnectionRefusedError):
-                return []
-            with reader.makefile() as answer:
-                return json.loads(answer.read() or "[]")
+        return answer_at(self.socket) or []
 
     def window(self):
         """The main window, waited for."""
         return wait_for("the window is shown", lambda: next(
-            (window for window in self.windows() if window["text"] == TITLE), None))
+            (window for window in self.windows() if window["text"] == self.title), None))
 
     def find(self, name):
         """The widget of that object name."""
@@ -125,7 +144,7 @@ class Launcher:
     def cell(self, vendor):
         """The first cell of that vendor, as something to click."""
         table = self.find("cameraTable")
-        x, y, width, height = next(row["box"] for row in table["rows"] if row["texts"][0] == vendor)
+        x, y, width, height = next(row["cells"][0] for row in table["rows"] if row["texts"][0] == vendor)
         return {"box": (table["box"][0] + x, table["box"][1] + y, width, height)}
 
     def scroll_to(self, vendor):

@@ -2,39 +2,76 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFile>
+#include <QHeaderView>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
-#include <QSocketNotifier>
+#include <QMenu>
 #include <QTableWidget>
 #include <QWidget>
 
-#include <cstring>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 namespace {
 
+QJsonArray boxOf(const QRect &rectangle)
+{
+    return {rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
+}
+
+/// Texts, tool tips, the cells' boxes in the table's coordinates, and the widths that the texts need.
 QJsonArray rowsOf(const QTableWidget &table)
 {
+    const QPoint toTable = table.viewport()->mapTo(&table, QPoint());
     QJsonArray rows;
     for (int row = 0; row < table.rowCount(); ++row) {
-        QJsonArray texts, toolTips;
+        QJsonArray texts, toolTips, cells, needs;
         for (int column = 0; column < table.columnCount(); ++column) {
             const QTableWidgetItem *item = table.item(row, column);
             texts.append(item ? item->text() : QString());
             toolTips.append(item ? item->toolTip() : QString());
+            cells.append(boxOf(table.visualItemRect(item).translated(toTable)));
+            needs.append(table.sizeHintForIndex(table.model()->index(row, column)).width());
         }
-        // The box of the first cell, in the table's coordinates: a place to click.
-        const QRect cell
-            = table.visualItemRect(table.item(row, 0)).translated(table.viewport()->mapTo(&table, QPoint()));
         rows.append(QJsonObject{{QStringLiteral("texts"), texts}, {QStringLiteral("toolTips"), toolTips},
-            {QStringLiteral("box"), QJsonArray{cell.x(), cell.y(), cell.width(), cell.height()}}});
+            {QStringLiteral("cells"), cells}, {QStringLiteral("needs"), needs}});
     }
     return rows;
+}
+
+/// The columns' texts, their widths, and the widths that the texts need.
+QJsonArray columnsOf(const QTableWidget &table)
+{
+    const QHeaderView *header = table.horizontalHeader();
+    QJsonArray columns;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        columns.append(QJsonObject{{QStringLiteral("text"), table.horizontalHeaderItem(column)->text()},
+            {QStringLiteral("width"), header->sectionSize(column)},
+            {QStringLiteral("needs"), header->sectionSizeHint(column)}});
+    }
+    return columns;
+}
+
+/// The entries of a menu with their boxes, in the menu's coordinates; a separator has no text.
+QJsonArray actionsOf(const QMenu &menu)
+{
+    QJsonArray actions;
+    const QList<QAction *> entries = menu.actions();
+    for (QAction *entry : entries)
+        actions.append(QJsonObject{{QStringLiteral("text"), entry->text()},
+            {QStringLiteral("box"), boxOf(menu.actionGeometry(entry))}});
+    return actions;
+}
+
+/// The size that the widget's text takes up; the widget's own where there is none.
+QJsonArray neededSize(const QWidget &widget)
+{
+    QSize needed = widget.size();
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    if (label && label->wordWrap())
+        needed.setHeight(label->heightForWidth(label->width()));
+    else if ((label && !label->hasScaledContents()) || qobject_cast<const QAbstractButton *>(&widget))
+        needed = widget.minimumSizeHint();
+    return {needed.width(), needed.height()};
 }
 
 QString textOf(const QWidget &widget)
@@ -49,15 +86,25 @@ QString textOf(const QWidget &widget)
 QJsonObject describe(const QWidget &widget)
 {
     const QPoint place = widget.mapTo(widget.window(), QPoint());
+    const QPoint onScreen = widget.mapToGlobal(QPoint());
     QJsonObject object{
         {QStringLiteral("class"), QString::fromLatin1(widget.metaObject()->className())},
         {QStringLiteral("name"), widget.objectName()},
         {QStringLiteral("text"), textOf(widget)},
+        {QStringLiteral("toolTip"), widget.toolTip()},
+        {QStringLiteral("accessibleName"), widget.accessibleName()},
         {QStringLiteral("enabled"), widget.isEnabled()},
-        {QStringLiteral("box"), QJsonArray{place.x(), place.y(), widget.width(), widget.height()}},
+        {QStringLiteral("active"), widget.isActiveWindow()},
+        {QStringLiteral("box"), boxOf(QRect(place, widget.size()))},
+        {QStringLiteral("onScreen"), boxOf(QRect(onScreen, widget.size()))},
+        {QStringLiteral("needs"), neededSize(widget)},
     };
-    if (const auto *table = qobject_cast<const QTableWidget *>(&widget))
+    if (const auto *menu = qobject_cast<const QMenu *>(&widget))
+        object.insert(QStringLiteral("actions"), actionsOf(*menu));
+    if (const auto *table = qobject_cast<const QTableWidget *>(&widget)) {
+        object.insert(QStringLiteral("columns"), columnsOf(*table));
         object.insert(QStringLiteral("rows"), rowsOf(*table));
+    }
     QJsonArray children;
     for (const QObject *child : widget.children()) {
         const auto *childWidget = qobject_cast<const QWidget *>(child);
@@ -79,45 +126,6 @@ QByteArray visibleWindows()
     return QJsonDocument(windows).toJson(QJsonDocument::Compact);
 }
 
-/// -1 when the path is taken: tools that the program starts inherit its environment, and load us as well.
-int listenAt(const QByteArray &path)
-{
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, path.constData(), sizeof address.sun_path - 1);
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (::bind(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0
-        && ::listen(socket, 8) == 0)
-        return socket;
-    ::close(socket);
-    return -1;
-}
-
 } // namespace
 
-WindowReader::WindowReader(const QString &socketPath) : m_socket(listenAt(QFile::encodeName(socketPath)))
-{
-    if (m_socket < 0)
-        return;
-    auto *notifier = new QSocketNotifier(m_socket, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, &WindowReader::answer);
-}
-
-WindowReader::~WindowReader()
-{
-    ::close(m_socket);
-}
-
-void WindowReader::answer() const
-{
-    const int peer = ::accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
-    const QByteArray windows = visibleWindows();
-    for (qint64 sent = 0; sent < windows.size();) {
-        const ssize_t count
-            = ::send(peer, windows.constData() + sent, size_t(windows.size() - sent), MSG_NOSIGNAL);
-        if (count <= 0)
-            break; // The test has gone.
-        sent += count;
-    }
-    ::close(peer);
-}
+WindowReader::WindowReader(const QString &socketPath) : m_socket(socketPath, visibleWindows) { }

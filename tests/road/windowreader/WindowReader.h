@@ -1,19 +1,18 @@
 #pragma once
 
+#include "tests/road/windowreader/AnswerSocket.h"
+
 #include <QObject>
 #include <QString>
 
-/// Answers every connection to its Unix socket with the program's visible windows, as JSON, and closes it.
+/// Answers at its socket with the program's visible windows, as JSON.
 class WindowReader : public QObject
 {
     Q_OBJECT
 
 public:
     explicit WindowReader(const QString &socketPath);
-    ~WindowReader() override;
 
 private:
-    void answer() const;
-
-    int m_socket;
+    AnswerSocket m_socket;
 };

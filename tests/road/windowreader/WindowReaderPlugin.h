@@ -4,7 +4,7 @@
 
 /// Lets a test look into a running, unchanged Qt program: Qt itself loads the plugin when the environment
 /// says QT_QPA_GENERIC_PLUGINS=windowreader:SOCKET. SOCKET is the path of the Unix socket that the reader
-/// serves.
+/// serves. With ",eventlatency:SOCKET" it measures as well how long events wait, at a socket of its own.
 class WindowReaderPlugin : public QGenericPlugin
 {
     Q_OBJECT
