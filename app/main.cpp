@@ -1,4 +1,5 @@
 #include "app/ApplicationController.h"
+#include "app/Translations.h"
 
 #include <QApplication>
 #include <QByteArray>
@@ -23,6 +24,7 @@ int main(int argc, char *argv[])
         qWarning("Failed to load stylesheet");
     }
 
+    const Translations translations; // Before the window asks for its first text.
     ApplicationController controller;
     if (controller.init())
         return controller.run();

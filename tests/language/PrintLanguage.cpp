@@ -1,0 +1,16 @@
+// Prints a text of the launcher and a text of Qt in the language that the environment asks for.
+
+#include "app/Translations.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const Translations translations;
+    std::printf("%s, %s\n", qUtf8Printable(QCoreApplication::translate("MainWindow", "Close")),
+        qUtf8Printable(QCoreApplication::translate("QMessageBox", "About Qt")));
+    return 0;
+}

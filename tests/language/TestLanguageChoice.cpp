@@ -1,0 +1,66 @@
+#include <QProcess>
+#include <QtTest>
+
+/// Which language the program speaks, by the environment that it is started in.
+class TestLanguageChoice : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void environmentDecides_data();
+    void environmentDecides();
+};
+
+void TestLanguageChoice::environmentDecides_data()
+{
+    const auto german = QStringLiteral("Schließen, Über Qt");
+    const auto french = QStringLiteral("Fermer, À propos de Qt");
+    const auto japanese = QStringLiteral("閉じる, Qt について");
+    const auto korean = QStringLiteral("닫기, Qt 정보");
+    const auto chinese = QStringLiteral("关闭, 关于 Qt");
+    const auto english = QStringLiteral("Close, About Qt");
+
+    QTest::addColumn<QString>("environment");
+    QTest::addColumn<QString>("texts");
+    const auto add = [](const char *name, const char *environment, const QString &texts) {
+        QTest::newRow(name) << QString::fromLatin1(environment) << texts;
+    };
+    add("German", "LANG=de_DE.UTF-8", german);
+    add("French", "LANG=fr_FR.UTF-8", french);
+    add("Japanese", "LANG=ja_JP.UTF-8", japanese);
+    add("Korean", "LANG=ko_KR.UTF-8", korean);
+    add("Chinese", "LANG=zh_CN.UTF-8", chinese);
+    add("another country", "LANG=de_AT.UTF-8", german);
+    add("another encoding", "LANG=fr_BE@euro", french);
+    add("simplified script of another country", "LANG=zh_SG.UTF-8", chinese);
+    add("traditional script is another one", "LANG=zh_TW.UTF-8", english);
+    add("language of the messages", "LANG=en_US.UTF-8 LC_MESSAGES=de_DE.UTF-8", german);
+    add("English messages", "LANG=de_DE.UTF-8 LC_MESSAGES=en_US.UTF-8", english);
+    add("LC_ALL before all", "LANG=de_DE.UTF-8 LC_MESSAGES=ja_JP.UTF-8 LC_ALL=fr_FR.UTF-8", french);
+    add("list of languages", "LANG=de_DE.UTF-8 LANGUAGE=ko:de", korean);
+    add("first that we speak", "LANG=es_ES.UTF-8 LANGUAGE=es:pt:ja:de", japanese);
+    add("English before others", "LANG=en_US.UTF-8 LANGUAGE=en_US:de", english);
+    add("others before English", "LANG=de_DE.UTF-8 LANGUAGE=de:en", german);
+    add("C locale", "LC_ALL=C LANGUAGE=de", english);
+    add("C locale in UTF-8", "LC_ALL=C.UTF-8", english);
+    add("language that we do not speak", "LANG=es_ES.UTF-8", english);
+    add("English of another country", "LANG=en_GB.UTF-8", english);
+    add("nothing said", "", english);
+}
+
+void TestLanguageChoice::environmentDecides()
+{
+    QFETCH(QString, environment);
+    QProcess program;
+    program.setProcessEnvironment(QProcessEnvironment());
+    program.setProgram(QStringLiteral("env"));
+    program.setArguments(QStringList(QStringLiteral("-i"))
+        + environment.split(QLatin1Char(' '), Qt::SkipEmptyParts)
+        + QStringList(QStringLiteral(LANGUAGE_PROGRAM)));
+    program.start();
+    QVERIFY2(program.waitForFinished(), qPrintable(program.errorString()));
+    QTEST(QString::fromUtf8(program.readAllStandardOutput()).trimmed(), "texts");
+}
+
+QTEST_GUILESS_MAIN(TestLanguageChoice)
+#include "TestLanguageChoice.moc"
