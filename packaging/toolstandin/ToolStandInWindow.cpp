@@ -50,7 +50,8 @@ QString ToolStandInWindow::toolName(const QString &program)
     LauncherConfig config;
     config.load();
     const QString platform = QStringLiteral("linux_") + QSysInfo::currentCpuArchitecture();
-    for (const ToolConfig &tool : config.allTools(platform)) {
+    const QVector<ToolConfig> tools = config.allTools(platform);
+    for (const ToolConfig &tool : tools) {
         if (QFileInfo(tool.executable).fileName() == fileName)
             return tool.name;
     }

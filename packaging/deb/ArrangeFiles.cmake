@@ -1,0 +1,61 @@
+# Runs between staging and packing. What the rest of the system looks for leaves /opt/corvix-x for /usr, and each
+# package gets the files that every Debian package has.
+
+if(NOT CPACK_GENERATOR STREQUAL "DEB")
+    return()
+endif()
+
+# The day is that of SOURCE_DATE_EPOCH, or today. What is new stands in CHANGELOG.md, which is installed as well.
+function(write_changelog package file)
+    string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+    file(WRITE ${file} "${package} (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) stable; urgency=medium
+
+  * What is new in ${CPACK_PACKAGE_VERSION} stands in /opt/corvix-x/doc/CHANGELOG.md.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${date}
+")
+    execute_process(COMMAND gzip --best --no-name --force ${file} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# Moves a directory of the installation's root to its place in the system, if the component has it.
+function(move_to_system root from to)
+    if(NOT EXISTS ${root}/opt/corvix-x/${from})
+        return()
+    endif()
+    get_filename_component(parent ${root}/${to} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(RENAME ${root}/opt/corvix-x/${from} ${root}/${to})
+endfunction()
+
+# In the system the programs' directory is known, and is not where a desktop looks for programs.
+function(complete_desktop_entries root)
+    file(GLOB entries ${root}/usr/share/applications/*.desktop)
+    foreach(entry IN LISTS entries)
+        file(READ ${entry} text)
+        string(REGEX REPLACE "(Exec=)CorvixLauncher" "\\1/opt/corvix-x/bin/CorvixLauncher" text "${text}")
+        file(WRITE ${entry} "${text}")
+    endforeach()
+endfunction()
+
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} key)
+    set(package ${CPACK_DEBIAN_${key}_PACKAGE_NAME})
+    set(root ${CPACK_TEMPORARY_DIRECTORY}/${component})
+
+    move_to_system(${root} share usr/share)
+    move_to_system(${root} lib/udev usr/lib/udev)
+    file(REMOVE_RECURSE ${root}/opt/corvix-x/lib) # Empty now.
+    complete_desktop_entries(${root})
+
+    set(documents ${root}/usr/share/doc/${package})
+    file(MAKE_DIRECTORY ${documents} ${root}/usr/share/lintian/overrides)
+    configure_file(${CPACK_SOURCE_DIR}/packaging/deb/copyright ${documents}/copyright COPYONLY)
+    configure_file(${CPACK_SOURCE_DIR}/packaging/deb/${package}/lintian-overrides
+        ${root}/usr/share/lintian/overrides/${package} COPYONLY)
+    write_changelog(${package} ${documents}/changelog.Debian)
+
+    if(component STREQUAL "sdk-dev") # So that find_package(CvxCPP) needs no hint.
+        file(MAKE_DIRECTORY ${root}/usr/share/cmake)
+        file(CREATE_LINK /opt/corvix-x/api/lib/cmake/CvxCPP ${root}/usr/share/cmake/CvxCPP SYMBOLIC)
+    endif()
+endforeach()
