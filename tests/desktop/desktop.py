@@ -1,6 +1,7 @@
 """What the tests of the desktop share: an installation to change, the launcher in it, and a pointer."""
 
 import functools
+import itertools
 import os
 import shutil
 import sys
@@ -141,10 +142,16 @@ class DesktopLauncher(Launcher):
         return wait_for("a menu opens", lambda: self.of_class("QMenu"))
 
     def choose(self, menu, text):
-        entry = next(action for action in menu["actions"] if action["text"] == text)
-        x, y, width, height = entry["box"]
+        """Clicks an entry of a menu, once the pointer has marked it; until then the menu may not be on the screen."""
+        x, y, width, height = next(action["box"] for action in menu["actions"] if action["text"] == text)
         left, top = menu["onScreen"][:2]
-        click(*self.device((left + x + width // 2, top + y + height // 2)))
+        across = itertools.cycle((width // 2, width // 2 + 1))
+
+        def marked():
+            move(*self.device((left + x + next(across), top + y + height // 2)))
+            return any(action["active"] and action["text"] == text for action in self.menu()["actions"])
+        wait_for(f'"{text}" is marked', marked)
+        xdotool("click", "1")
 
     def tray_icon(self):
         """The icon, as soon as it is drawn where the program takes it to be."""

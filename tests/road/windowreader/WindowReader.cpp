@@ -58,7 +58,8 @@ QJsonArray actionsOf(const QMenu &menu)
     const QList<QAction *> entries = menu.actions();
     for (QAction *entry : entries)
         actions.append(QJsonObject{{QStringLiteral("text"), entry->text()},
-            {QStringLiteral("box"), boxOf(menu.actionGeometry(entry))}});
+            {QStringLiteral("box"), boxOf(menu.actionGeometry(entry))},
+            {QStringLiteral("active"), entry == menu.activeAction()}});
     return actions;
 }
 
