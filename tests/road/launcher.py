@@ -38,8 +38,8 @@ def xdotool(*arguments):
 def point_at(node, title=TITLE):
     """Moves the pointer to the middle of a node in the window of that title."""
     x, y, width, height = node["box"]
-    found = wait_for("the window is on the screen", output_of(
-        "xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split)
+    found = wait_for("the window is on the screen", lambda: output_of(
+        "xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split())
     xdotool("mousemove", "--sync", "--window", found[0], str(x + width // 2), str(y + height // 2))
 
 
