@@ -10,6 +10,11 @@
 
 int main(int argc, char *argv[])
 {
+    // By this a desktop finds the entry that belongs to our windows, be it X11 (the class) or Wayland.
+    const QString applicationId = QStringLiteral("example.orvelle.CorvixLauncher");
+    QApplication::setApplicationName(applicationId);
+    QApplication::setDesktopFileName(applicationId);
+
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
