@@ -1,0 +1,108 @@
+"""Housings and what cools them."""
+
+from connectors import ribbon
+from light import shade
+from solids import inset, rectangle
+
+
+def housing(drawing, model, back, front):
+    """A milled block, with a front plate in the maker's colour just behind its front."""
+    width, height = model.size[:2]
+    profile = rectangle(width, height, model.corner, 1 if model.cut else 4)
+    band = max(2, min(width, height) * .055)
+    plate = max(3, min(width, height) * .12)
+    waist = inset(profile, .3)
+    rear = front - plate - band
+    if model.plates:
+        cooling_plates(drawing, model, profile, back, rear)
+    elif model.ribs:
+        ribbed(drawing, model, back, rear)
+    else:
+        drawing.prism(profile, back, rear, model.body)
+    if not (model.plates or model.flanks or model.fan):
+        type_plate(drawing, model, back, rear)
+    drawing.prism(waist, rear, front - plate, model.accent)
+    drawing.prism(profile, front - plate, front, model.body, bevel=max(.7, plate * .2))
+    screws(drawing, model, front)
+
+
+def cooling_plates(drawing, model, profile, back, front):
+    """Plates all around, across the optical axis."""
+    pitch = (front - back) / model.plates
+    core = inset(profile, min(model.size[:2]) * .08)
+    for index in range(model.plates):
+        z = back + pitch * index
+        drawing.prism(core, z, z + pitch * .5, 'rubber')
+        drawing.prism(profile, z + pitch * .5, z + pitch, model.body)
+
+
+def ribbed(drawing, model, back, front):
+    """Cooling ribs along the optical axis, on the top and maybe on the right side, level with the front plate."""
+    width, height, _ = model.size
+    rise = min(width, height) * .09
+    length, z = front - back, (front + back) / 2
+    flank = rise if model.flanks else 0
+    core = [(min(x, width / 2 - flank), min(y, height / 2 - rise)) for x, y in rectangle(width, height)]
+    drawing.prism(core, back, front, model.body)
+    for index in range(model.flanks):
+        pitch = (height - rise) / model.flanks
+        y = -height / 2 + pitch * (index + .5)
+        drawing.box((width / 2 - rise / 2, y, z), (rise, pitch * .5, length), model.body)
+    for index in range(model.ribs):
+        pitch = width / model.ribs
+        x = -width / 2 + pitch * (index + .5)
+        drawing.box((x, height / 2 - rise / 2, z), (pitch * .5, rise, length), model.body)
+
+
+def type_plate(drawing, model, back, front):
+    """Two lines of print on a smooth side."""
+    width, height, _ = model.size
+    depth = front - back
+    print_colour = shade('pale', (1, 0, 0), .25)
+    lines = ''.join(f'<rect x="{-depth * .3:.2f}" y="{y * height:.2f}" width="{w * depth:.2f}" '
+                    f'height="{height * .05:.2f}" fill="{print_colour}"/>' for y, w in ((.1, .5), (-.02, .34)))
+    drawing.flat('side', (width / 2, 0, (back + front) / 2), lines)
+
+
+def fan(drawing, model, back, front):
+    """On the right side, in a frame of its own. It is drawn for a radius of 1."""
+    width, height, _ = model.size
+    radius = min(height * .38, (front - back) * .46)
+    blades = ''.join('<path d="M.2 0C.45 .1 .8 .05 .84 .42C.7 .48 .3 .42 .1 .2Z" fill="#7d8793" '
+                     f'transform="rotate({angle})"/>' for angle in range(0, 360, 60))
+    heads = ''.join(f'<circle cx="{x}" cy="{y}" r=".08" fill="#8a93a0"/>' for x in (-.75, .75) for y in (-.75, .75))
+    drawing.flat('side', (width / 2 + .1, 0, (back + front) / 2),
+                 f'<g transform="scale({radius:.2f})"><rect x="-1" y="-1" width="2" height="2" rx=".2" fill="#2a3037"/>'
+                 '<circle r=".93" fill="#0b0d10" stroke="#8a93a0" stroke-width=".07"/>'
+                 f'{blades}<circle r=".3" fill="#a9b2bd"/>{heads}</g>')
+
+
+def screws(drawing, model, z):
+    """In the four corners; where those are cut off, beside the cut."""
+    width, height = model.size[:2]
+    edge = max(2.4, min(width, height) * .095)
+    x, y = width / 2 - (model.corner if model.cut else edge), height / 2 - edge
+    heads = ''.join(f'<circle cx="{sx * x:.2f}" cy="{sy * y:.2f}" r="{edge * .42:.2f}" fill="#1a1e23" stroke="#fff" '
+                    f'stroke-opacity=".3" stroke-width="{edge * .14:.2f}"/>' for sx in (-1, 1) for sy in (-1, 1))
+    drawing.flat('front', (0, 0, z), heads)
+
+
+def boards(drawing, model, back, front):
+    """Two boards without a housing, held by spacers; the rear one has the cable."""
+    width, height, _ = model.size
+    corners = [(x * width * .41, y * height * .41) for x in (-1, 1) for y in (-1, 1)]
+    ribbon(drawing, width / 2 - 4, -height * .12, back)
+    profile = rectangle(width, height, 2.5)
+    drawing.prism(profile, back, back + 2, 'green')
+    drawing.box((width * .22, height * .12, back + 3.6), (13, 13, 3), 'chip')
+    for x, y in sorted(corners):
+        drawing.cylinder((x, y, back + 2), 2, front - back - 4, 'gold')
+    drawing.prism(profile, front - 2, front, 'green')
+    pads = ''.join(f'<circle cx="{x:.1f}" cy="{y:.1f}" r="2.5" fill="#e9c56a"/>'
+                   f'<circle cx="{x:.1f}" cy="{y:.1f}" r="1.3" fill="#3c434b"/>' for x, y in corners)
+    tracks = ''.join(f'<path d="{path}" fill="none" stroke="#7fd8a8" stroke-opacity=".7" stroke-width=".7"/>'
+                     for path in ('M-19 6h6l3 3h8', 'M-19 3h5l3 3', 'M19 -6h-6l-3 -3h-4', 'M19 -9h-5l-2 -2'))
+    chips = ''.join(f'<rect x="{x}" y="{y}" width="{w}" height="{h}" fill="{fill}"/>' for x, y, w, h, fill in (
+        (-7, 13, 9, 4, '#15181c'), (5, 13, 3, 4, '#d9c08a'), (-18, -9, 5, 8, '#15181c'), (7, -17, 9, 4, '#15181c'),
+        (0, -17, 4, 3, '#d9c08a'), (14, 2, 4, 6, '#15181c')))
+    drawing.flat('front', (0, 0, front), tracks + chips + pads)
