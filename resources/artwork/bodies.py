@@ -1,12 +1,12 @@
 """Housings and what cools them."""
 
 from connectors import ribbon
-from light import shade
+from lettering import lettering
 from solids import inset, rectangle
 
 
 def housing(drawing, model, back, front):
-    """A milled block, with a front plate in the maker's colour just behind its front."""
+    """A milled block; a band in the maker's colour runs behind its front plate."""
     width, height = model.size[:2]
     profile = rectangle(width, height, model.corner, 1 if model.cut else 4)
     band = max(2, min(width, height) * .055)
@@ -19,8 +19,8 @@ def housing(drawing, model, back, front):
         ribbed(drawing, model, back, rear)
     else:
         drawing.prism(profile, back, rear, model.body)
-    if not (model.plates or model.flanks or model.fan):
-        type_plate(drawing, model, back, rear)
+    if model.name:
+        name_plate(drawing, model, back, rear)
     drawing.prism(waist, rear, front - plate, model.accent)
     drawing.prism(profile, front - plate, front, model.body, bevel=max(.7, plate * .2))
     screws(drawing, model, front)
@@ -54,14 +54,13 @@ def ribbed(drawing, model, back, front):
         drawing.box((x, height / 2 - rise / 2, z), (pitch * .5, rise, length), model.body)
 
 
-def type_plate(drawing, model, back, front):
-    """Two lines of print on a smooth side."""
-    width, height, _ = model.size
-    depth = front - back
-    print_colour = shade('pale', (1, 0, 0), .25)
-    lines = ''.join(f'<rect x="{-depth * .3:.2f}" y="{y * height:.2f}" width="{w * depth:.2f}" '
-                    f'height="{height * .05:.2f}" fill="{print_colour}"/>' for y, w in ((.1, .5), (-.02, .34)))
-    drawing.flat('side', (width / 2, 0, (back + front) / 2), lines)
+def name_plate(drawing, model, back, front):
+    """The name of the series on a smooth side."""
+    room = (front - back) * .7, model.size[1] * .26
+    text = lettering(model.name, room, '#2b3138' if model.body == 'silver' else '#c0c6cc')
+    # Seen from the right, the optical axis runs from right to left.
+    drawing.flat('side', (model.size[0] / 2, model.size[1] * .06, (back + front) / 2),
+                 f'<g transform="scale(-1 1)">{text}</g>')
 
 
 def fan(drawing, model, back, front):

@@ -18,6 +18,7 @@ class Model:
     kind: str = 'area'  # Of sensor: area, polar, line or tdi.
     corner: float = 1.5  # Radius of the corners of the body,
     cut: bool = False  # or how much is cut off.
+    name: str = ''  # On the side, where that is smooth.
     plates: int = 0  # Cooling plates across the optical axis.
     ribs: int = 0  # Cooling ribs along it, on the top
     flanks: int = 0  # and on the side.
@@ -36,40 +37,42 @@ MODELS = {
     'camera-placeholder': Model((34, 34, 40), C_MOUNT, (11, 8), body='pale', accent='silver', ring='pale', tint='pale'),
 
     # Orvelle's cubes: the larger the number, the larger the sensor and what carries its heat away.
-    'kx': Model((29, 29, 30), C_MOUNT, (8, 6), ['rj45']),
-    'kx200': Model((29, 29, 46), C_MOUNT, (10, 7.5), ['rj45', 'power']),
+    'kx': Model((29, 29, 30), C_MOUNT, (8, 6), ['rj45'], name='KX'),
+    'kx200': Model((29, 29, 46), C_MOUNT, (10, 7.5), ['rj45', 'power'], name='KX200'),
     'kx200-pro': Model((36, 36, 50), C_MOUNT, (11, 8.5), ['rj45', 'power'], ribs=6, flanks=6),
-    'kx400': Model((48, 29, 42), C_MOUNT, (12, 8), ['usb']),
-    'kx400-pro': Model((56, 38, 50), M32, (16, 11), ['usb', 'power'], ribs=9),
-    'kx-mini': Model((24, 24, 15), S_MOUNT, rear=['usb']),
+    'kx400': Model((48, 29, 42), C_MOUNT, (12, 8), ['usb'], name='KX400'),
+    'kx400-pro': Model((56, 38, 50), M32, (16, 11), ['usb', 'power'], ribs=9, name='KX400'),
+    'kx-mini': Model((24, 24, 15), S_MOUNT, rear=['usb'], name='KX'),
     'kx-board': Model((44, 40, 17), S_MOUNT, bare=True),
     'kx-cooled': Model((54, 54, 58), C_MOUNT, (12, 9), ['rj45', 'm12'], tint='cooled', plates=6, fan=True),
 
     # Light of other kinds: the mount tells which.
-    'borea': Model((40, 40, 34), C_MOUNT, (10, 8), ['rj45'], **SILVER),
+    'borea': Model((40, 40, 34), C_MOUNT, (10, 8), ['rj45'], name='BOREA', **SILVER),
     'borea-uv': Model((40, 40, 42), C_MOUNT, (10, 10), ['rj45', 'power'], accent='violet', ring='violet', tint='uv',
-                      **SILVER),
+                      name='BOREA', **SILVER),
     'borea-swir': Model((48, 48, 54), C_MOUNT, (10, 8), ['rj45', 'power'], accent='red', ring='red', tint='swir',
                         plates=6, **SILVER),
-    'borea-polar': Model((40, 40, 42), C_MOUNT, (13, 10), ['usb'], accent='teal', ring='teal', kind='polar', **SILVER),
+    'borea-polar': Model((40, 40, 42), C_MOUNT, (13, 10), ['usb'], accent='teal', ring='teal', kind='polar',
+                         name='BOREA', **SILVER),
 
     # Many megapixels over fibre.
     'tarn12': Model((50, 50, 46), M32, (16, 12), ['sfp', 'power'], ribs=7, flanks=7, **NAVY),
     'tarn25': Model((58, 58, 56), F_MOUNT, (19, 17), ['sfp', 'power'], tint='large', ribs=8, flanks=8, **NAVY),
     'tarn65': Model((72, 72, 64), M58, (30, 25), ['sfp', 'sfp', 'power'], tint='large', ribs=9, fan=True, **NAVY),
-    'tarn-rugged': Model((48, 48, 46), ('lens tube', 20, 34), rear=['m12', 'm12'], corner=9, **NAVY),
-    'ilvo': Model((30, 36, 20), CS_MOUNT, (8, 6), ['usb'], 'blue', 'silver', corner=5),
+    'tarn-rugged': Model((48, 48, 46), ('lens tube', 20, 34), rear=['m12', 'm12'], corner=9, name='TARN', **NAVY),
+    'ilvo': Model((30, 36, 20), CS_MOUNT, (8, 6), ['usb'], 'blue', 'silver', corner=5, name='ILVO'),
 
     # Line scan: a wide opening with a slit.
-    'qz10': Model((66, 62, 34), M42, (24, 1.4), ['rj45', 'power'], **LINE),
-    'qz20': Model((92, 66, 40), M58, (34, 1.8), ['rj45', 'power'], **SILVER, **LINE),
+    'qz10': Model((66, 62, 34), M42, (24, 1.4), ['rj45', 'power'], name='QZ', **LINE),
+    'qz20': Model((92, 66, 40), M58, (34, 1.8), ['rj45', 'power'], name='QZ', **SILVER, **LINE),
     'qz40-tdi': Model((118, 84, 56), M72, (44, 9), ['sfp', 'sfp', 'm12'], accent=LINTARO, kind='tdi', ribs=11,
                       flanks=8),
-    'stria8k': Model((124, 54, 32), F_MOUNT, (23, 1.6), ['camera link', 'power'], corner=10, cut=True, **LINE),
+    'stria8k': Model((124, 54, 32), F_MOUNT, (23, 1.6), ['camera link', 'power'], corner=10, cut=True, name='8K',
+                     **LINE),
 
     # Kordane: black, and cooled all around.
     'hx': Model((80, 80, 66), M58, (30, 24), ['camera link', 'power'], plates=6, **BLACK),
     'hxl': Model((112, 112, 74), M95, (50, 41), ['coax'] * 4, corner=22, cut=True, plates=6, **BLACK),
     'hxt': Model((92, 92, 104), M72, (37, 30), ['coax', 'coax', 'm12'], ribs=9, fan=True, **BLACK),
-    'halvex-compact': Model((60, 60, 40), F_MOUNT, (22, 17), ['sfp', 'power'], corner=12, cut=True, **BLACK),
+    'halvex-compact': Model((60, 60, 40), F_MOUNT, (22, 17), ['sfp', 'power'], corner=12, cut=True, name='HC', **BLACK),
 }
