@@ -14,6 +14,8 @@ ApplicationLauncher::ApplicationLauncher(const QString &name, const QString &des
     ui->setupUi(this);
     ui->applicationName->setText(name);
     ui->applicationDescription->setText(description);
+    setAccessibleName(name);
+    setAccessibleDescription(description);
 
     m_opacityEffect = new QGraphicsOpacityEffect(this);
     m_opacityEffect->setOpacity(1.0); // Qt's own default is 0.7.

@@ -311,11 +311,12 @@ void TestMainWindowForm::onlyListedPropertiesDifferFromTheDefault_data()
     add("connectedCamerasLabel", "text");
     add("refreshBtn", fixed);
     add("cameraTable",
-        "sizePolicy|focusPolicy|editTriggers|selectionMode|selectionBehavior|showGrid|contextMenuPolicy|"
+        "sizePolicy|accessibleName|focusPolicy|editTriggers|selectionMode|selectionBehavior|showGrid|"
+        "contextMenuPolicy|"
         "mouseTracking|columnCount");
     add("recommendedToolsLabel", "text");
     add("toolsDescriptionLabel", "text");
-    add("toolsScroll", "sizePolicy|frameShape|widgetResizable|autoFillBackground");
+    add("toolsScroll", "sizePolicy|accessibleName|frameShape|widgetResizable|autoFillBackground");
     add("toolsScrollContent", "autoFillBackground");
     add("toolsContainer", "sizePolicy|autoFillBackground");
     add("line", "frameShape|sizePolicy"); // The shape brings its policy along.

@@ -24,6 +24,7 @@ private slots:
     void textsAreShownAsPlainText();
     void emptyTextsGiveEmptyLabels();
     void nameIsKept();
+    void screenReadersGetNameAndDescription();
     void clickedIsTheOnlyMethod();
     void leftPressClicksBeforeTheRelease();
     void otherPressesDoNothing_data();
@@ -134,6 +135,12 @@ void TestToolTile::emptyTextsGiveEmptyLabels()
 void TestToolTile::nameIsKept()
 {
     QCOMPARE(m_tile->GetName(), QStringLiteral("Viewer"));
+}
+
+void TestToolTile::screenReadersGetNameAndDescription()
+{
+    QCOMPARE(m_tile->accessibleName(), QStringLiteral("Viewer"));
+    QCOMPARE(m_tile->accessibleDescription(), QStringLiteral("Shows pictures"));
 }
 
 void TestToolTile::clickedIsTheOnlyMethod()
