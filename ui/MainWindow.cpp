@@ -17,6 +17,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
 namespace {
 
@@ -26,6 +27,12 @@ constexpr int scrollBarWidth = 8; // pixels, as in the style sheet
 QColor backgroundColor()
 {
     return QColor(QStringLiteral("#0f1419"));
+}
+
+/// Under Wayland a client neither knows nor sets the place of its window.
+bool desktopAlonePlacesWindows()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 } // namespace
@@ -81,7 +88,9 @@ void MainWindow::paintEvent(QPaintEvent *)
 void MainWindow::mousePressEvent(QMouseEvent *event)
 {
     const bool onHeader = ui->widget->frameGeometry().contains(event->localPos().toPoint());
-    if (onHeader && event->button() == Qt::LeftButton) {
+    if (onHeader && event->button() == Qt::LeftButton && desktopAlonePlacesWindows()) {
+        windowHandle()->startSystemMove(); // Until the button is released, which we are not told.
+    } else if (onHeader && event->button() == Qt::LeftButton) {
         m_dragging = true;
         m_dragPosition = event->screenPos().toPoint() - frameGeometry().topLeft();
     }

@@ -207,6 +207,8 @@ def pictured(test):
 class DesktopTest(unittest.TestCase):
     """Every test has an installation of its own, a folder before the PATH, and the pointer out of the way."""
 
+    launcher_class = DesktopLauncher
+
     def __init_subclass__(cls):
         for name in [name for name in dir(cls) if name.startswith("test_")]:
             setattr(cls, name, pictured(getattr(cls, name)))
@@ -228,7 +230,7 @@ class DesktopTest(unittest.TestCase):
         given = {"PATH": f"{self.programs}:{os.environ['PATH']}",
                  "DBUS_SESSION_BUS_ADDRESS": "disabled:",  # A session bus may offer a tray of another kind.
                  **environment}
-        launcher = self.enterContext(DesktopLauncher(self.installation.root, PLUGINS, given))
+        launcher = self.enterContext(self.launcher_class(self.installation.root, PLUGINS, given))
         launcher.scale = float(environment.get("QT_SCALE_FACTOR", 1))
         wait_for("the launcher shows something", launcher.windows)
         return launcher

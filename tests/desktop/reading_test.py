@@ -77,6 +77,15 @@ class Reading(ReadingTest):
         self.assertTrue(accessible.named(self.application, text))
 
 
+class UnderWayland(DesktopTest):
+    def test_the_window_is_read(self):
+        launcher = self.start_without_window(
+            DISPLAY="", DBUS_SESSION_BUS_ADDRESS=os.environ["DBUS_SESSION_BUS_ADDRESS"])
+        application = accessible.application_of(launcher.process.pid)
+        self.assertTrue(accessible.named(application, launcher.title))
+        self.assertEqual(button_names(application), BUTTONS)
+
+
 class Keyboard(ReadingTest):
     def focused(self):
         """The name of what has the focus; empty when nothing has."""

@@ -1,6 +1,7 @@
 """What is on the screen, pixel by pixel, and pictures kept to compare it with."""
 
 import os
+import re
 import subprocess
 
 KEPT = os.environ.get("CORVIX_PICTURES")  # A directory: what is compared or looked at is saved there as well.
@@ -49,6 +50,17 @@ class Picture:
         wanted = bytes(channels(colour))
         found = sum(self.pixels[begin:begin + 3] == wanted for begin in range(0, len(self.pixels), 3))
         return found / (self.width * self.height)
+
+    def box_of(self, colour):
+        """The smallest box with all that has that colour; none where nothing has."""
+        wanted, length = bytes(channels(colour)), 3 * self.width
+        found = [(y, match.start() // 3) for y in range(self.height)
+                 for match in re.finditer(re.escape(wanted), self.pixels[y * length:(y + 1) * length])
+                 if match.start() % 3 == 0]
+        if not found:
+            return None
+        rows, columns = zip(*found)
+        return min(columns), rows[0], max(columns) - min(columns) + 1, rows[-1] - rows[0] + 1
 
     def difference(self, other, tolerance=40):
         """Which part of the pixels differs in some channel by more than that, from 0 to 1."""
