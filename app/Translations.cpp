@@ -46,7 +46,7 @@ QString catalogueOfTheUser()
         const QLocale wanted(language);
         if (wanted.language() == QLocale::English)
             return {}; // What the sources speak: a language that comes after it is not asked for.
-        const QString name = catalogueFor(wanted);
+        QString name = catalogueFor(wanted);
         if (!name.isEmpty())
             return name;
     }

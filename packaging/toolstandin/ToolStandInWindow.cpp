@@ -46,7 +46,7 @@ ToolStandInWindow::ToolStandInWindow(const QString &program, QWidget *parent) : 
 
 QString ToolStandInWindow::toolName(const QString &program)
 {
-    const QString fileName = QFileInfo(program).fileName();
+    QString fileName = QFileInfo(program).fileName();
     LauncherConfig config;
     config.load();
     const QString platform = QStringLiteral("linux_") + QSysInfo::currentCpuArchitecture();

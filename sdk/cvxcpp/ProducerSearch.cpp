@@ -68,7 +68,7 @@ std::vector<ProducerFile> findProducers(
             { };
             const std::string fault = findFault(path, file);
             if (!fault.empty() && report)
-                report(path + ": " + fault);
+                report(std::string(path).append(": ").append(fault));
             const std::string realPath = resolved(path);
             if (fault.empty() && !realPath.empty() && known.emplace(file.st_dev, file.st_ino).second)
                 producers.push_back({realPath, i});

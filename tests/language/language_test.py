@@ -81,8 +81,10 @@ class ForeignLauncher(Launcher):
         xdotool("click", str(button))
 
     def close_menu(self):
+        """Until the X server has taken it away, it gets what is clicked."""
+        window = self.of_class("QMenu")["xWindow"]
         xdotool("key", "Escape")
-        wait_for("the menu closes", lambda: not self.of_class("QMenu"))
+        wait_for("the menu closes", lambda: "IsViewable" not in output_of("xwininfo", "-id", window))
 
     def answer_box(self):
         """Presses its button, again should the window manager have moved it meanwhile."""

@@ -99,6 +99,7 @@ QJsonObject describe(const QWidget &widget)
         {QStringLiteral("box"), boxOf(QRect(place, widget.size()))},
         {QStringLiteral("onScreen"), boxOf(QRect(onScreen, widget.size()))},
         {QStringLiteral("needs"), neededSize(widget)},
+        {QStringLiteral("xWindow"), QString::number(widget.internalWinId())},
     };
     if (const auto *menu = qobject_cast<const QMenu *>(&widget))
         object.insert(QStringLiteral("actions"), actionsOf(*menu));
