@@ -71,10 +71,10 @@ def answer_at(path):
         reader.settimeout(BOUND)
         try:
             reader.connect(path)
-        except (FileNotFoundError, ConnectionRefusedError):
+            with reader.makefile() as answer:
+                return json.loads(answer.read() or "null")
+        except (FileNotFoundError, ConnectionRefusedError, ConnectionResetError):
             return None
-        with reader.makefile() as answer:
-            return json.loads(answer.read() or "null")
 
 
 class Launcher:
