@@ -14,6 +14,7 @@ using namespace std::chrono_literals;
 constexpr auto CheckInterval = 250ms; // While an answer is out: a driver that forked keeps the socket open.
 constexpr auto ReapInterval = 5ms; // A host whose socket is closed has all but ended.
 constexpr auto CloseGrace = 500ms; // From the socket's end to the process's.
+constexpr int MostLastLines = 4; // An answer that was on its way and that of the end, and some more.
 
 std::string fileName(const std::string &path)
 {
@@ -268,7 +269,7 @@ void HostedProducer::stepEnd()
     const auto status = m_host.tryReap(); // Before the reading: what it has sent is all there then.
     std::string line;
     HostProcess::Reading reading = HostProcess::Reading::Line;
-    while (reading == HostProcess::Reading::Line) {
+    for (int lines = 0; lines < MostLastLines && reading == HostProcess::Reading::Line; ++lines) {
         reading = m_host.readLine(line);
         ProducerAnswer answer;
         if (reading == HostProcess::Reading::Line && parseAnswer(line, answer))
@@ -299,18 +300,20 @@ void HostedProducer::killAtEnd(Time now)
 void HostedProducer::report(const std::string &reason)
 {
     constexpr std::size_t LongestReason = 500; // Bytes.
-    if (reason == std::exchange(m_lastReport, reason))
+    const std::string start = reason.substr(0, LongestReason);
+    if (start == std::exchange(m_lastReport, start))
         return; // It fails in the same way at every start.
     if (m_options.report)
-        m_options.report(toLine(m_path + ": " + reason.substr(0, LongestReason)));
+        m_options.report(toLine(m_path + ": " + start));
 }
 
 void HostedProducer::reportProblems(const std::vector<CallProblem> &problems)
 {
     constexpr std::size_t MostReports = 64; // In the life of a host: some codes are new every time.
+    constexpr std::size_t LongestCall = 64; // Bytes; no function has as long a name.
     for (const CallProblem &problem : problems) {
         if (m_reportedProblems.size() < MostReports
-            && m_reportedProblems.emplace(problem.call, problem.code).second)
+            && m_reportedProblems.emplace(problem.call.substr(0, LongestCall), problem.code).second)
             report(problemReason(problem));
     }
 }

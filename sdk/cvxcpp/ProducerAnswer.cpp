@@ -20,7 +20,7 @@ public:
 
     bool isAnswer() const { return m_isAnswer; }
 
-    bool start_object(std::size_t) override { return open(placeOfObject()); }
+    bool start_object(std::size_t) override { return ++m_objects <= MostRecords && open(placeOfObject()); }
     bool end_object() override { return close(); }
     bool start_array(std::size_t) override { return open(placeOfArray()); }
     bool end_array() override { return close(); }
@@ -186,6 +186,7 @@ private:
     ProducerAnswer &m_answer;
     std::vector<Place> m_places;
     std::string m_key; // The last one; an array's elements are told by their place instead.
+    std::size_t m_objects = 0;
     bool m_isAnswer = false;
 };
 

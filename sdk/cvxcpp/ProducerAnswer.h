@@ -53,6 +53,9 @@ struct ProducerAnswer
 /// A longer answer is not read: the host that sends it is out of its mind.
 constexpr std::size_t LongestAnswer = 64U << 20;
 
+/// An answer with more objects is not read either: a few bytes of text each, they would be gigabytes here.
+constexpr std::size_t MostRecords = 1U << 18;
+
 /// Reads one line of JSON. False when it is no answer; nothing is thrown, whatever the text.
 bool parseAnswer(std::string_view line, ProducerAnswer &answer);
 

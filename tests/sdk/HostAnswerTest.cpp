@@ -12,17 +12,24 @@ struct FakeHost
 
 /// The host program replaced by something that does not keep to the protocol.
 class HostAnswerTest : public SystemTest, public testing::WithParamInterface<FakeHost>
-{ };
+{
+protected:
+    /// Asked once only, when it is started.
+    void useHost(const std::string &script)
+    {
+        const auto host = directory.path() / "FakeHost";
+        writeFile(host, "#!/bin/sh\n" + script + '\n');
+        std::filesystem::permissions(host, std::filesystem::perms::owner_all);
+        options.hostProgram = host.string();
+        options.firstRestart = 1h;
+        options.lookInterval = 1h;
+        options.reuseTime = 1h;
+    }
+};
 
 TEST_P(HostAnswerTest, IsReportedOnceAndEndsTheHost)
 {
-    const auto host = directory.path() / "FakeHost";
-    writeFile(host, "#!/bin/sh\n" + GetParam().script + '\n');
-    std::filesystem::permissions(host, std::filesystem::perms::owner_all);
-    options.hostProgram = host.string();
-    options.firstRestart = 1h;
-    options.lookInterval = 1h;
-    options.reuseTime = 1h;
+    useHost(GetParam().script);
     writeFile(ctiPath("a.cti"), "");
     start();
     EXPECT_TRUE(list().empty());
@@ -47,10 +54,25 @@ INSTANTIATE_TEST_SUITE_P(Hosts, HostAnswerTest,
         FakeHost{"UnaskedAnswer",
             "read line <&3; echo '{\"interfaces\":[]}' >&3; sleep 0.3; echo x >&3; sleep 100",
             "sent an answer that nobody asked for"},
+        FakeHost{"ProblemsWithLongNames",
+            "name=$(head -c 100 /dev/zero | tr '\\0' x); read line <&3; "
+            "printf '{\"interfaces\":[],\"problems\":[{\"call\":\"%sa\"},{\"call\":\"%sb\"}]}\\n' "
+            "$name $name >&3; read line <&3",
+            "xxx"},
         FakeHost{"ClosedSocket", "exec 3>&-; sleep 100", "closed its connection and was killed"},
         FakeHost{"EndUnasked", "read line <&3; echo '{\"ended\":true}' >&3; sleep 100",
             "sent an answer that cannot be read"}),
     [](const auto &test) { return test.param.name; });
+
+TEST_F(HostAnswerTest, AnAnswerWithoutEndDoesNotKeepTheSystemFromEnding)
+{
+    useHost("read line <&3; echo '{\"interfaces\":[]}' >&3; read line <&3; exec yes >&3");
+    writeFile(ctiPath("a.cti"), "");
+    start();
+    EXPECT_TRUE(list().empty());
+    EXPECT_LT(timeOf([this] { stop(); }), 2500ms);
+    EXPECT_EQ(countReports("while it was closed"), 1U) << testing::PrintToString(reports());
+}
 
 TEST_F(HostAnswerTest, AProgramThatCannotBeExecutedIsReported)
 {

@@ -112,6 +112,19 @@ TEST(ProducerAnswerTest, RefusesWhatIsTooLong)
     EXPECT_FALSE(parseAnswer(line, answer));
 }
 
+TEST(ProducerAnswerTest, RefusesMoreRecordsThanAreCredible)
+{
+    const auto read = [](std::size_t interfaces) {
+        std::string line = R"({"interfaces":[{})"; // The answer itself counts as well.
+        for (std::size_t i = 1; i < interfaces; ++i)
+            line += ",{}";
+        ProducerAnswer answer;
+        return parseAnswer(line + "]}", answer);
+    };
+    EXPECT_TRUE(read(MostRecords - 1));
+    EXPECT_FALSE(read(MostRecords));
+}
+
 TEST(ProducerAnswerTest, IgnoresNumbersOutOfRange)
 {
     const auto answer = parsed(R"({"interfaces":[{"id":"a","number":-1,"devices":[]}],
