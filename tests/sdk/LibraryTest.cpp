@@ -155,6 +155,16 @@ TEST_F(LibraryTest, AStandardErrorThatNobodyReadsHarmsNothing)
     }
 }
 
+TEST_F(LibraryTest, AStandardErrorThatNobodyReadsDelaysNoList)
+{
+    addSimulator();
+    for (int i = 0; i < 40; ++i) // Before the simulator in the order of names.
+        writeFile(root.path() / "cti" / (std::to_string(i) + "text.cti"), "no library");
+    auto process = run({"stuffed", "start", "list", "stop"});
+    EXPECT_EQ(process.exitStatus(), 0);
+    EXPECT_EQ(process.count("list 0 2"), 1U) << process.output();
+}
+
 TEST_F(LibraryTest, AnnouncesWithinThreeSeconds)
 {
     addSimulator();
