@@ -67,16 +67,19 @@ std::string toLine(std::string_view bytes)
 {
     static constexpr char digits[] = "0123456789abcdef";
     std::string line;
-    for (const char character : toValidUtf8(bytes)) {
-        const auto code = static_cast<unsigned char>(character);
-        if (character == '\n') {
+    const std::string text = toValidUtf8(bytes);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        // U+0080 to U+009F, which some terminals obey, are 0xC2 and a byte of that number.
+        const bool isUpper = byteAt(text, i) == 0xC2 && byteAt(text, i + 1) < 0xA0;
+        const unsigned code = byteAt(text, isUpper ? ++i : i);
+        if (code == '\n') {
             line += "\\n";
-        } else if (code < 0x20 || code == 0x7F) {
+        } else if (code < 0x20 || code == 0x7F || isUpper) {
             line += "\\x";
             line += digits[code >> 4];
             line += digits[code & 0xF];
         } else {
-            line += character;
+            line += text[i];
         }
     }
     return line;

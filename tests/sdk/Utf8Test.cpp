@@ -38,6 +38,13 @@ INSTANTIATE_TEST_SUITE_P(Sequences, Utf8MalformedTest,
         Malformed{"\xF4\x90\x80\x80", R + R + R + R}, Malformed{"\xE2\x82", R + R},
         Malformed{"\xE2\x82x", R + R + "x"}, Malformed{"\xC3(", R + "("}));
 
+TEST(Utf8Test, EscapesTheControlCharactersAboveAscii)
+{
+    EXPECT_EQ(toLine("\xC2\x80\xC2\x85\xC2\x9B"
+                     "31m\xC2\x9F\xC2\xA0\xC3\x80"),
+        "\\x80\\x85\\x9b31m\\x9f\xC2\xA0\xC3\x80");
+}
+
 TEST(Utf8Test, PutsTextOnOneLine)
 {
     EXPECT_EQ(toLine("a\nb\x1b[0m\x7F\xFF"), "a\\nb\\x1b[0m\\x7f" + R);
