@@ -19,7 +19,7 @@ from selection import WHOLE_PROGRAM
 _ISOLATED = ['setpriv', '--pdeathsig', 'KILL',
              'unshare', '--mount', '--pid', '--net', '--ipc', '--fork', '--kill-child', '--mount-proc']
 _PREPARE = 'mount -t tmpfs -o size=1g tmpfs /tmp && ip link set lo up && "$@"; exit $?'
-_MEMORY = 8 << 30  # Bytes of address space of one process.
+_MEMORY = 12 << 30  # Bytes of address space of one process; more than a producer's host allows itself.
 _SKIPPED = 77
 
 

@@ -43,10 +43,12 @@ void forkDaemon()
 void allocateWithoutEnd()
 {
     constexpr std::size_t BlockSize = 64U << 20;
-    for (;;) {
+    constexpr std::size_t EnoughBytes = std::size_t(10) << 30;
+    for (std::size_t bytes = 0; bytes < EnoughBytes; bytes += BlockSize) {
         if (!std::malloc(BlockSize))
             throw std::bad_alloc();
     }
+    throw std::runtime_error("was given more memory than anybody needs");
 }
 
 /// Threads that nobody ends, and that are in the driver's code when it is closed.

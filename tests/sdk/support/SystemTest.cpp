@@ -32,6 +32,8 @@ SystemTest::~SystemTest()
     const auto left = processesWith(directory.path().string());
     EXPECT_TRUE(left.empty()) << left.size() << " processes are left";
     killAll(left);
+    EXPECT_TRUE(childrenOf(getpid()).empty())
+        << "one that has ended has no command line, and is a child still";
     EXPECT_EQ(openDescriptors(), m_descriptors);
 }
 
