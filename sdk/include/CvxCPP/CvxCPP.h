@@ -71,7 +71,8 @@ class CVXCPP_API Feature
 public:
     virtual ~Feature() = default;
 
-    /// Executes a command and returns when it is done.
+    /// Executes a command and returns when it is done; CvxErrorTimeout after 3 s, or at once while the
+    /// producer has an answer overdue.
     virtual CvxError RunCommand() = 0;
 
     /// Gives the smallest and the largest value of an integer, both inclusive.
@@ -109,8 +110,9 @@ class CVXCPP_API Camera
 public:
     virtual ~Camera() = default;
 
-    /// Reads the camera's ID: the plain one is what its interface calls it; the extended one is unique in the
-    /// system (producer file, interface ID and device ID joined by "/").
+    /// Reads the camera's ID: the plain one is what its interface calls it; the extended one (the name of the
+    /// producer's file, interface ID and device ID joined by "/") is unique as long as no two files in
+    /// different directories have the same name.
     virtual CvxError GetID(char *buffer, unsigned &size, bool extended) const = 0;
 
     /// Reads the model name; empty when the producer tells none.
@@ -171,8 +173,9 @@ public:
         = 0;
 
     /// Lists the cameras, with two calls. With a null array: searches, unless a search ended less than 1 s
-    /// ago, and stores the number of cameras in `count`. With an array of `count` elements: fills it with the
-    /// cameras that the search found, at most `count` of them, and stores the number written.
+    /// ago, and stores the number of cameras in `count`; it waits for at most 3 s, and what a slower producer
+    /// finds is announced. With an array of `count` elements: fills it with the cameras that the search
+    /// found, at most `count` of them, and stores the number written.
     virtual CvxError GetCameras(std::shared_ptr<Camera> *cameras, unsigned &count) = 0;
 
 protected:
