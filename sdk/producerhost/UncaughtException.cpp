@@ -15,10 +15,12 @@ int answerSocket = -1;
 /// What was thrown, as far as it tells.
 std::string describeException()
 {
+    const auto thrown = std::current_exception();
+    if (!thrown) // As when a thread is destroyed that still runs.
+        return "called std::terminate";
     std::string text = "threw an exception that nobody caught";
     try {
-        if (const auto exception = std::current_exception())
-            std::rethrow_exception(exception);
+        std::rethrow_exception(thrown);
     } catch (const std::exception &exception) {
         text += std::string(": ") + exception.what();
     } catch (...) {

@@ -264,6 +264,8 @@ Rows processes()
             2},
         {"process/throw in a thread", withFault("GCInitLib throw-in-thread"), Due::AtStart,
             "thrown in a thread of the driver"},
+        {"process/terminate", withFault("GCInitLib terminate"), Due::AtStart,
+            "the driver failed: called std::terminate"},
         {"process/signal handlers", withFault("GCInitLib signals"), Due::Never,
             "they are its own process's alone", "", 0, 2},
         {"process/ignores SIGTERM", withFault("IFUpdateDeviceList ignore-and-hang"), Due::AtEnd,

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <functional>
 #include <map>
 #include <new>
@@ -90,6 +91,7 @@ int perform(const std::string &action)
         {"abort", [](int) { std::abort(); }},
         {"throw", [](int) { throw std::runtime_error("thrown by the driver"); }},
         {"throw-in-thread", [](int) { throwInThread(); }},
+        {"terminate", [](int) { std::terminate(); }},
         {"exit", [](int code) { std::exit(code); }},
         {"hang", [](int) { hang(); }},
         {"slow", [](int time) { std::this_thread::sleep_for(std::chrono::milliseconds(time)); }},

@@ -7,8 +7,9 @@
 //   changing INTERFACE                                  a device whose ID is another one at every update
 //   quiet                                               no log, no second reading: many take long otherwise
 //   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
-// Actions of any function: error CODE, crash, abort, throw, throw-in-thread, exit CODE, hang, untouched,
-// slow MILLISECONDS, fork, fork-and-die, daemon, allocate, threads, signals, ignore-and-hang, print, close.
+// Actions of any function: error CODE, crash, abort, throw, throw-in-thread, terminate, exit CODE, hang,
+// untouched, slow MILLISECONDS, fork, fork-and-die, daemon, allocate, threads, signals, ignore-and-hang,
+// print, close.
 // Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
 // of the standard's version 1.3), size BYTES ("size -1" says one less than there is and heeds no capacity).
 // Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
