@@ -147,6 +147,8 @@ void SceneFile::reportProblem(const std::string &problem)
 {
     if (problem == m_reported)
         return;
-    std::fprintf(stderr, "Camera simulator: %s is not used: %s\n", m_path.c_str(), problem.c_str());
+    constexpr std::size_t longest = 500; // Bytes; the parser quotes what it has read, however much that is.
+    std::fprintf(
+        stderr, "Camera simulator: %s is not used: %s\n", m_path.c_str(), problem.substr(0, longest).c_str());
     m_reported = problem;
 }
