@@ -212,12 +212,13 @@ QSet<QString> LauncherConfig::recommendedToolsIdsForCamera(
     const HardwareGroupConfig &group, const CameraInfo &camera, const QString &platform) const
 {
     const bool limitedByModel = group.type == QLatin1String("highres");
+    const QSet<QString> *fitting = limitedByModel ? halvexTools(camera.modelName) : nullptr;
     QSet<QString> ids;
     for (const ToolConfig &tool : group.tools) {
         // Letter case does not matter here, though it does in allTools(); the asymmetry is intended.
         if (!admits(tool.transports, camera.interfaceType) || !admits(tool.platforms, platform))
             continue;
-        if (!limitedByModel || isHalvexToolCompatibleWithCamera(camera.modelName, tool.id))
+        if (!fitting || fitting->contains(tool.id))
             ids.insert(tool.id);
     }
     return ids;
@@ -225,9 +226,15 @@ QSet<QString> LauncherConfig::recommendedToolsIdsForCamera(
 
 bool LauncherConfig::isHalvexToolCompatibleWithCamera(const QString &model, const QString &toolId) const
 {
+    const QSet<QString> *tools = halvexTools(model);
+    return !tools || tools->contains(toolId);
+}
+
+const QSet<QString> *LauncherConfig::halvexTools(const QString &model) const
+{
     for (auto entry = halvexCompatibility.begin(); entry != halvexCompatibility.end(); ++entry) {
         if (entry.key().compare(model, Qt::CaseInsensitive) == 0)
-            return entry.value().contains(toolId);
+            return &entry.value();
     }
-    return true; // A model the table does not know is offered every tool of its group.
+    return nullptr;
 }

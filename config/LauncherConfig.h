@@ -47,6 +47,9 @@ public:
     bool isHalvexToolCompatibleWithCamera(const QString &model, const QString &toolId) const;
 
 private:
+    /// The tools that the compatibility table has for the model; null for a model it does not know.
+    const QSet<QString> *halvexTools(const QString &model) const;
+
     QMap<QString, HardwareGroupConfig> groups; // Keyed by the type in lower case.
     QVector<CameraThumbnailEntry> thumbnails; // Longest model first.
     QHash<QString, QSet<QString>> halvexCompatibility; // Model code as written.
