@@ -48,7 +48,7 @@ def a_press_starts_the_tool_in_its_own_directory(launcher):
     try:
         tools = wait_for("the tool runs before the button is released", lambda: [
             int(process) for process in os.listdir("/proc") if process.isdigit()
-            and command_of(process).endswith("bin/ImageViewer")])
+            and command_of(process) == os.path.realpath(f"{STAGE}/bin") + "/ImageViewer"])
     finally:
         xdotool("mouseup", "1")
     assert len(tools) == 1, tools
@@ -56,6 +56,7 @@ def a_press_starts_the_tool_in_its_own_directory(launcher):
     sockets = [link for link in links_of(tools[0]) if link in links_of(launcher.process.pid)
                and link.startswith(("socket:", "pipe:"))]
     assert sockets == [], f"inherited by the tool: {sockets}"
+    assert environment_of(tools[0]) == environment_of(launcher.process.pid), "the tool has another environment"
     return tools[0]
 
 
@@ -67,10 +68,23 @@ def command_of(process):
         return ""
 
 
+def environment_of(process):
+    """What the process was started with."""
+    with open(f"/proc/{process}/environ", "rb") as file:
+        return sorted(file.read().split(b"\0"))
+
+
 def links_of(process):
     directory = f"/proc/{process}/fd"
     return {os.readlink(f"{directory}/{number}") for number in os.listdir(directory)
             if int(number) > 2 and os.path.lexists(f"{directory}/{number}")}
+
+
+def it_gets_by_without_opengl(launcher):
+    """Which takes as long to load as all else of a start."""
+    with open(f"/proc/{launcher.process.pid}/maps", encoding="utf-8") as file:
+        drivers = {line.split()[-1] for line in file if "_dri.so" in line or "libGLX_" in line}
+    assert not drivers, drivers
 
 
 def a_plugged_camera_appears_and_an_unplugged_one_goes(launcher, scene):
@@ -99,6 +113,7 @@ def main():
         with Scene(STAGE) as scene, Launcher(STAGE, PLUGINS) as launcher:
             lists_the_simulated_cameras(launcher, scene)
             selecting_enables_the_group_s_tools(launcher)
+            it_gets_by_without_opengl(launcher)
             tool = a_press_starts_the_tool_in_its_own_directory(launcher)
             a_plugged_camera_appears_and_an_unplugged_one_goes(launcher, scene)
             closing_ends_everything(launcher)
