@@ -1,0 +1,69 @@
+"""From a click to what it does: a row selected, a tool started."""
+
+import os
+import select
+import shutil
+import subprocess
+import time
+
+from frames import BOUND, running
+from pairs import Figure, at_most_times, in_pairs
+from places import IMAGE_VIEWER, LISTED, row
+
+SIZES = 8, 64
+
+
+def selection(bench):
+    for size in SIZES:
+        printed = subprocess.run([bench.program("select_row"), bench.stage, str(size), str(bench.pairs)],
+                                 stdout=subprocess.PIPE, check=True, text=True).stdout
+        ours, floor = ([float(value) for value in values] for values in zip(*map(str.split, printed.splitlines())))
+        bench.curves.setdefault("row selected", {})[size] = ours
+        yield Figure(f"row selected to redrawn, {size} cameras", "ms", ours, floor, *at_most_times(1.3))
+
+
+class Note:
+    """A pipe that a tool writes to when its main() is reached."""
+
+    def __init__(self, bench):
+        self.path = f"{bench.place}/note"
+        os.mkfifo(self.path)
+        self.descriptor = os.open(self.path, os.O_RDWR)
+        self.environment = {"BENCH_NOTE": self.path}
+
+    def await_start(self):
+        """Seconds of the monotonic clock."""
+        assert select.select([self.descriptor], [], [], BOUND)[0], "the tool is not started"
+        return int(os.read(self.descriptor, 100)) / 1e9
+
+
+def tool_start(bench):
+    stage = f"{bench.place}/with-tool"
+    shutil.copytree(bench.stage, stage, symlinks=True)
+    tool = f"{stage}/bin/ImageViewer"
+    os.remove(tool)  # A link to the stand-in.
+    shutil.copy(bench.program("marked_tool"), tool)
+    note = Note(bench)
+
+    def spawn():
+        started = time.monotonic()
+        process = os.posix_spawn(tool, [tool], {**os.environ, **note.environment})
+        reached = note.await_start()
+        os.waitpid(process, 0)
+        return (reached - started) * 1e3
+
+    def press():
+        pressed = bench.screen.press(IMAGE_VIEWER)
+        return (note.await_start() - pressed) * 1e3
+
+    with running(f"{stage}/bin/CorvixLauncher", environment=note.environment):
+        bench.screen.await_window()
+        bench.screen.await_texts(LISTED)
+        bench.screen.press(row(0))
+        measured = in_pairs(press, spawn, bench.pairs)
+    yield Figure("tile pressed to the tool's main()", "ms", *measured, *at_most_times(1.5))
+
+
+def figures(bench):
+    yield from selection(bench)
+    yield from tool_start(bench)

@@ -1,0 +1,80 @@
+"""What the launcher takes of the machine while nobody looks."""
+
+import contextlib
+import os
+import subprocess
+import time
+
+import footprint
+from frames import running
+from pairs import Figure, at_most, at_most_times, in_pairs
+from places import LISTED
+
+SETTLED = 2.0  # seconds, until what a start leaves behind has gone.
+POOL_SETTLED = 32.0  # seconds: threads of Qt's pool end after 30.
+SLICES, SLICE = 15, 4.0  # seconds: 60 in all.
+
+
+@contextlib.contextmanager
+def idle_launcher(bench, settled):
+    with running(bench.launcher) as (process, _):
+        bench.screen.await_window()
+        bench.screen.await_texts(LISTED)
+        time.sleep(settled)
+        yield process.pid
+
+
+def memory(processes):
+    """MiB, of which shared pages count in parts."""
+    return sum(footprint.Footprint(process).memory["PSS"] for process in processes) / 1024
+
+
+def ours(bench):
+    with idle_launcher(bench, SETTLED) as launcher:
+        return memory([launcher, *footprint.hosts(launcher).values()])
+
+
+def floor(bench):
+    with running(bench.program("empty_window")) as (process, _), \
+            subprocess.Popen(["sleep", "infinity"], close_fds=False) as bare:
+        bench.screen.await_window()
+        time.sleep(SETTLED)
+        try:
+            return memory([process.pid, bare.pid])
+        finally:
+            bare.kill()
+
+
+class Activity:
+    """Seconds of processor time, and how often it was woken, of all threads of a process so far."""
+
+    def __init__(self, process):
+        self.seconds, self.wakes = 0.0, 0
+        for task in os.listdir(f"/proc/{process}/task"):
+            self.seconds += int(footprint.read(process, f"task/{task}/schedstat").split()[0]) / 1e9
+            status = footprint.read(process, f"task/{task}/status")
+            self.wakes += int(status.rpartition("\nvoluntary_ctxt_switches:")[2].split()[0])
+
+
+def activity(bench):
+    """Slice by slice: the processor time of all in percent, and the wake-ups a second of launcher and host."""
+    with idle_launcher(bench, POOL_SETTLED) as launcher:
+        processes = [launcher, *footprint.hosts(launcher).values()]
+        assert len(processes) == 2, "there is one producer, and so one host"
+        before, slices = [Activity(process) for process in processes], []
+        for _ in range(bench.rounds(SLICES)):
+            time.sleep(SLICE)
+            after = [Activity(process) for process in processes]
+            slices.append((100 * sum(b.seconds - a.seconds for a, b in zip(before, after)) / SLICE,
+                           *((b.wakes - a.wakes) / SLICE for a, b in zip(before, after))))
+            before = after
+        return [list(values) for values in zip(*slices)]
+
+
+def figures(bench):
+    yield Figure("memory (PSS) of launcher and host, idle", "MiB",
+                 *in_pairs(lambda: ours(bench), lambda: floor(bench), bench.pairs), *at_most_times(1.3))
+    processor, launcher, host = activity(bench)
+    yield Figure("processor use, idle, one producer", "%", processor, [0], *at_most(0.3, "% of a core"))
+    yield Figure("wake-ups of the launcher, idle", "/s", launcher, [0], *at_most(5, "/s"))
+    yield Figure("wake-ups of a host, idle", "/s", host, [0], *at_most(2, "/s"))

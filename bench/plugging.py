@@ -1,0 +1,32 @@
+"""From a change of the simulator's scene to its row on the screen."""
+
+import time
+
+from frames import running
+from pairs import Figure
+from places import vendor
+from scene import Scene
+
+ROUNDS = 30
+LOOK = 2.0  # seconds, from one look for cameras to the next.
+MOST = 2.5
+
+
+def figures(bench):
+    times = []
+    with Scene(bench.stage) as scene, running(bench.launcher):
+        interface, *_ = scene.read()["interfaces"]
+        one, two = ({"interfaces": [{**interface, "devices": interface["devices"][:count]}]} for count in (1, 2))
+        bench.screen.await_window()
+        bench.screen.await_texts([vendor(1)])
+        for index in range(bench.rounds(ROUNDS)):
+            scene.write(one)
+            bench.screen.await_texts([vendor(1)], wanted=False)
+            bench.screen.await_texts([vendor(0)])
+            time.sleep(LOOK * (index * 0.618 % 1))  # Evenly over the interval.
+            written = time.monotonic()
+            scene.write(two)
+            times.append(bench.screen.await_texts([vendor(1)]) - written)
+    yield Figure(f"plugged in to row on the screen, worst of {len(times)}", "s", [max(times)], [LOOK], f"≤ {MOST} s",
+                 lambda figure: figure.median() <= MOST)
+    yield Figure("the same, all of them", "s", times, [LOOK], f"≤ {MOST} s", lambda figure: max(figure.ours) <= MOST)

@@ -1,0 +1,26 @@
+// The floor of a start: a window of the launcher's size in its style, with one label. With a producer as
+// argument the label says how many cameras it has, listed before the window is shown.
+
+#include "bench/programs/directListing.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QStyleFactory>
+#include <QWidget>
+
+int main(int argc, char *argv[])
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    QApplication application(argc, argv);
+    QWidget window;
+    QLabel label(QStringLiteral("Nothing"), &window);
+    if (argc > 1) {
+        const int count = listDirectly(argv[1]);
+        if (count < 0)
+            return EXIT_FAILURE;
+        label.setNum(count);
+    }
+    window.setFixedSize(600, 660);
+    window.show();
+    return QApplication::exec();
+}

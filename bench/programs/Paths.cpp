@@ -1,0 +1,107 @@
+// The four paths whose instructions are counted: from data to data, with neither clock, disk nor screen. Each
+// runs once unmeasured, for what is made at a first call, and then once in a function of its own, at which
+// callgrind counts.
+
+#include "bench/programs/ReferenceCameras.h"
+#include "config/LauncherConfig.h"
+#include "sdk/cvxcpp/ProducerAnswer.h"
+
+// What builds a tooltip is private to this file. Its class is not used.
+#include "ui/MainWindowCameraTable.cpp" // NOLINT(bugprone-suspicious-include)
+
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+constexpr int cameraCount = 64;
+
+/// What a host answers for so many cameras on one interface.
+std::string answer()
+{
+    std::string devices;
+    for (int index = 0; index < cameraCount; ++index) {
+        const std::string serial = std::to_string(24000000 + index);
+        devices += index > 0 ? "," : "";
+        devices += R"({"id":"SIM-GEV-)" + serial + R"(","model":"Kx200 Pro 5MP-C","name":"Orvelle Kx200 Pro )"
+            + serial + R"(","serial":")" + serial + R"(","type":"GEV","vendor":"Orvelle"})";
+    }
+    return R"({"interfaces":[{"devices":[)" + devices
+        + R"(],"id":"Sim0-GigE","name":"Simulated GigE network","number":1,"type":"GEV"}],"problems":[]})";
+}
+
+std::size_t parsed(const std::string &line)
+{
+    ProducerAnswer result;
+    return parseAnswer(line, result) ? result.interfaces.front().devices.size() : 0;
+}
+
+std::size_t matched(const LauncherConfig &config, const QVector<CameraInfo> &cameras)
+{
+    std::size_t found = 0;
+    for (const CameraInfo &camera : cameras)
+        found += config.findGroupForCamera(camera).type.isEmpty() ? 0 : 1;
+    return found;
+}
+
+std::size_t loaded()
+{
+    LauncherConfig config;
+    config.load();
+    return std::size_t(config.allTools(QStringLiteral("linux_x86_64")).size());
+}
+
+std::size_t described(const QVector<CameraInfo> &cameras, ImageCells &imageCells)
+{
+    std::size_t length = 0;
+    for (const CameraInfo &camera : cameras) {
+        length += std::size_t(
+            buildCameraTooltip(camera, QStringLiteral("/opt/corvix-x/cti/CorvixCameraSimulator.cti"),
+                QStringLiteral("picture"), imageCells)
+                .size());
+    }
+    return length;
+}
+
+} // namespace
+
+// Callgrind finds them by their names.
+extern "C" {
+__attribute__((noinline)) std::size_t count_list_parsing(const std::string &line)
+{
+    return parsed(line);
+}
+
+__attribute__((noinline)) std::size_t count_group_matching(
+    const LauncherConfig &config, const QVector<CameraInfo> &cameras)
+{
+    return matched(config, cameras);
+}
+
+__attribute__((noinline)) std::size_t count_configuration_load()
+{
+    return loaded();
+}
+
+__attribute__((noinline)) std::size_t count_tooltip_building(
+    const QVector<CameraInfo> &cameras, ImageCells &imageCells)
+{
+    return described(cameras, imageCells);
+}
+}
+
+int main()
+{
+    const std::string line = answer();
+    const QVector<CameraInfo> cameras = referenceCameras(cameraCount);
+    LauncherConfig config;
+    config.load();
+    // A picture that is there already: making one is the work of Qt and libpng, and would hide all of ours.
+    ImageCells imageCells{{QStringLiteral("picture"), QString(4000, QLatin1Char('x'))}};
+
+    const bool isSame = count_list_parsing(line) == parsed(line) && parsed(line) == cameraCount
+        && matched(config, cameras) == cameraCount && count_group_matching(config, cameras) == cameraCount
+        && loaded() > 0 && count_configuration_load() > 0
+        && described(cameras, imageCells) == count_tooltip_building(cameras, imageCells);
+    return isSame ? EXIT_SUCCESS : EXIT_FAILURE;
+}

@@ -1,0 +1,64 @@
+// Prints a line for each query of the configuration, with the shipped data: its name, the allocations of one
+// call, and the microseconds of one call, batch after batch.
+
+#include "bench/programs/CountedAllocations.h"
+#include "bench/programs/ReferenceCameras.h"
+#include "config/LauncherConfig.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int Rounds = 50; // Of all cameras, in a batch.
+
+/// Calls `query` for each camera, over and over.
+template <typename Query>
+void measure(const char *name, const QVector<CameraInfo> &cameras, int batches, const Query &query)
+{
+    for (const CameraInfo &camera : cameras)
+        query(camera); // Once unmeasured: what is made at the first call.
+    const std::size_t before = countedAllocations();
+    for (const CameraInfo &camera : cameras)
+        query(camera);
+    std::printf("%s %.2f", name, double(countedAllocations() - before) / cameras.size());
+    for (int batch = 0; batch < batches; ++batch) {
+        const auto start = std::chrono::steady_clock::now();
+        for (int round = 0; round < Rounds; ++round) {
+            for (const CameraInfo &camera : cameras)
+                query(camera);
+        }
+        const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
+        std::printf(" %.4f", time.count() / Rounds / cameras.size());
+    }
+    std::printf("\n");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const int batches = argc > 1 ? std::atoi(argv[1]) : 15;
+    LauncherConfig config;
+    config.load();
+    QVector<CameraInfo> cameras = referenceCameras(64);
+    for (int index = 0; index < cameras.size();
+         index += 4) // A table row decides for these, the last one's the latest.
+        cameras[index].modelName = QStringLiteral("Unknown to the reference");
+    QVector<CameraInfo> large = cameras;
+    for (CameraInfo &camera : large) {
+        camera.vendorName = QStringLiteral("KORDANE");
+        camera.modelName = QStringLiteral("Unknown to the table");
+    }
+    const HardwareGroupConfig highRes = config.findGroupForCamera(large.constFirst());
+    const QString platform = QStringLiteral("linux_x86_64");
+
+    measure("findGroupForCamera", cameras, batches,
+        [&](const CameraInfo &camera) { return config.findGroupForCamera(camera); });
+    measure("findThumbnailForCamera", cameras, batches,
+        [&](const CameraInfo &camera) { return config.findThumbnailForCamera(camera); });
+    measure("recommendedToolsIdsForCamera", large, batches, [&](const CameraInfo &camera) {
+        return config.recommendedToolsIdsForCamera(highRes, camera, platform);
+    });
+}

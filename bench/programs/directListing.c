@@ -1,0 +1,132 @@
+#define _POSIX_C_SOURCE 200809L
+#include "bench/programs/directListing.h"
+
+#include <dlfcn.h>
+#include <stddef.h>
+#include <stdint.h>
+#include <stdlib.h>
+#include <string.h>
+
+enum
+{
+    Timeout = 500,
+    /* Milliseconds. */ LongestText = 1024
+};
+enum
+{
+    DisplayName = 1,
+    TransportLayerType = 2
+}; /* Of an interface. */
+
+static const int32_t deviceFacts[] = {1, 2, 3, 4, 7}; /* Vendor, model, type, display name, serial number. */
+enum
+{
+    DeviceFacts = sizeof deviceFacts / sizeof *deviceFacts
+};
+
+struct Producer
+{
+    int32_t (*initLib)(void);
+    int32_t (*openSystem)(void **);
+    int32_t (*updateInterfaces)(void *, uint8_t *, uint64_t);
+    int32_t (*countInterfaces)(void *, uint32_t *);
+    int32_t (*interfaceId)(void *, uint32_t, char *, size_t *);
+    int32_t (*interfaceInfo)(void *, const char *, int32_t, int32_t *, void *, size_t *);
+    int32_t (*openInterface)(void *, const char *, void **);
+    int32_t (*updateDevices)(void *, uint8_t *, uint64_t);
+    int32_t (*countDevices)(void *, uint32_t *);
+    int32_t (*deviceId)(void *, uint32_t, char *, size_t *);
+    int32_t (*deviceInfo)(void *, const char *, int32_t, int32_t *, void *, size_t *);
+};
+
+struct Camera
+{
+    char *id;
+    char *facts[DeviceFacts];
+};
+
+static struct Camera *cameras; /* Kept, as a list is; never freed. */
+static size_t cameraCount;
+
+static int resolve(void *library, const char *name, void *function)
+{
+    void *symbol = dlsym(library, name);
+    memcpy(function, &symbol, sizeof symbol);
+    return symbol != NULL;
+}
+
+static int load(const char *path, struct Producer *producer)
+{
+    void *library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    return library && resolve(library, "GCInitLib", &producer->initLib)
+        && resolve(library, "TLOpen", &producer->openSystem)
+        && resolve(library, "TLUpdateInterfaceList", &producer->updateInterfaces)
+        && resolve(library, "TLGetNumInterfaces", &producer->countInterfaces)
+        && resolve(library, "TLGetInterfaceID", &producer->interfaceId)
+        && resolve(library, "TLGetInterfaceInfo", &producer->interfaceInfo)
+        && resolve(library, "TLOpenInterface", &producer->openInterface)
+        && resolve(library, "IFUpdateDeviceList", &producer->updateDevices)
+        && resolve(library, "IFGetNumDevices", &producer->countDevices)
+        && resolve(library, "IFGetDeviceID", &producer->deviceId)
+        && resolve(library, "IFGetDeviceInfo", &producer->deviceInfo);
+}
+
+static int readDevice(const struct Producer *producer, void *interface, uint32_t index, struct Camera *camera)
+{
+    char text[LongestText];
+    size_t size = sizeof text;
+    if (producer->deviceId(interface, index, text, &size) != 0)
+        return 0;
+    camera->id = strdup(text);
+    for (int fact = 0; fact < DeviceFacts; ++fact) {
+        int32_t type = 0;
+        size = sizeof text;
+        if (producer->deviceInfo(interface, camera->id, deviceFacts[fact], &type, text, &size) != 0)
+            return 0;
+        camera->facts[fact] = strdup(text);
+    }
+    return 1;
+}
+
+static int readInterface(const struct Producer *producer, void *system, uint32_t index)
+{
+    char id[LongestText], text[LongestText];
+    size_t size = sizeof id;
+    int32_t type = 0;
+    void *interface = NULL;
+    uint8_t changed = 0;
+    uint32_t count = 0;
+    if (producer->interfaceId(system, index, id, &size) != 0
+        || producer->openInterface(system, id, &interface) != 0
+        || producer->updateDevices(interface, &changed, Timeout) != 0
+        || producer->countDevices(interface, &count) != 0)
+        return 0;
+    for (int32_t fact = DisplayName; fact <= TransportLayerType; ++fact) {
+        size = sizeof text;
+        producer->interfaceInfo(system, id, fact, &type, text, &size); /* A list does without. */
+    }
+    cameras = realloc(cameras, (cameraCount + count) * sizeof *cameras);
+    for (uint32_t device = 0; device < count; ++device) {
+        if (!readDevice(producer, interface, device, &cameras[cameraCount]))
+            return 0;
+        ++cameraCount;
+    }
+    return 1;
+}
+
+int listDirectly(const char *path)
+{
+    struct Producer producer;
+    void *system = NULL;
+    uint8_t changed = 0;
+    uint32_t interfaces = 0;
+    if (!load(path, &producer) || producer.initLib() != 0 || producer.openSystem(&system) != 0
+        || producer.updateInterfaces(system, &changed, Timeout) != 0
+        || producer.countInterfaces(system, &interfaces) != 0)
+        return -1;
+    for (uint32_t index = 0; index < interfaces; ++index) {
+        if (!readInterface(&producer, system, index))
+            return -1;
+    }
+    return (int)cameraCount;
+}

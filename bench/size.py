@@ -1,0 +1,14 @@
+"""What the launcher takes of a disk."""
+
+import os
+import subprocess
+
+from pairs import Figure, at_most
+
+
+def figures(bench):
+    root = f"{bench.place}/component"
+    subprocess.run(["cmake", "--install", bench.build, "--component", "launcher", "--strip", "--prefix", root],
+                   stdout=subprocess.DEVNULL, check=True)
+    size = sum(os.lstat(f"{directory}/{file}").st_size for directory, _, files in os.walk(root) for file in files)
+    yield Figure("size of the installed launcher component", "MiB", [size / 2**20], [], *at_most(3, "MB"))

@@ -1,0 +1,30 @@
+"""From the start of a process to what is on the screen, and to the first list."""
+
+from frames import running
+from pairs import Figure, at_most_times, in_pairs
+from places import LISTED
+
+
+def milliseconds(command, screen, is_drawn):
+    with running(*command) as (_, started):
+        return (is_drawn(screen) - started) * 1e3
+
+
+def first_frame(screen):
+    return screen.await_window()
+
+
+def first_list(screen):
+    screen.await_window()
+    return screen.await_texts(LISTED)
+
+
+def figures(bench):
+    launcher, empty = [bench.launcher], [bench.program("empty_window")]
+    listing = [*empty, f"{bench.stage}/cti/CorvixCameraSimulator.cti"]
+    for name, ours, ours_drawn, floor, most in (
+            ("start to first frame", launcher, first_frame, empty, 1.35),
+            ("start to first complete list, 8 cameras", launcher, first_list, listing, 1.5)):
+        measured = in_pairs(lambda: milliseconds(ours, bench.screen, ours_drawn),  # pylint: disable=W0640
+                            lambda: milliseconds(floor, bench.screen, first_frame), bench.pairs)  # pylint: disable=W0640
+        yield Figure(name, "ms", *measured, *at_most_times(most))
