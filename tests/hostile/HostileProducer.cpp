@@ -166,7 +166,8 @@ Rows functions()
         const std::string function = untouched.function;
         const bool isClosing = function.find("Close") != std::string::npos;
         const auto add = [&](const std::string &fault, Due due, const std::string &words) {
-            rows.push_back({function + '/' + fault, withFault(function + ' ' + fault), due, words});
+            rows.push_back({std::string(function).append("/").append(fault),
+                withFault(std::string(function).append(" ").append(fault)), due, words});
         };
         const Due due = isClosing ? Due::AtEnd : Due::AtStart;
         add("error -1010", due, function + " failed with -1010 (GC_ERR_IO): the driver's own words");

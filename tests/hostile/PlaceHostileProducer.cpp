@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <nlohmann/json.hpp>
 
 namespace {
@@ -38,7 +39,7 @@ int place(const Rows &rows, const std::string &name, const std::string &folder)
 } // namespace
 
 int main(int argc, char *argv[])
-{
+try {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     const Rows rows = hostileProducers();
     if (arguments.size() == 3 && arguments[0] == "place")
@@ -47,4 +48,7 @@ int main(int argc, char *argv[])
         return UsageError;
     list(rows);
     return EXIT_SUCCESS;
+} catch (const std::exception &error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return EXIT_FAILURE;
 }

@@ -18,7 +18,7 @@ std::optional<bool> isSceneInheritable()
     std::error_code gone; // A descriptor may be closed between two steps.
     for (const auto &entry : std::filesystem::directory_iterator("/proc/self/fd", gone)) {
         const auto file = std::filesystem::read_symlink(entry.path(), gone);
-        const int flags = fcntl(std::atoi(entry.path().filename().c_str()), F_GETFD);
+        const int flags = fcntl(std::stoi(entry.path().filename()), F_GETFD);
         if (flags >= 0 && file.filename() == "CorvixCameraSimulator.json")
             return (flags & FD_CLOEXEC) == 0;
     }

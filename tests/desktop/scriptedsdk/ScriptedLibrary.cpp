@@ -80,7 +80,7 @@ ScriptedLibrary::ScriptedLibrary()
     refuse("Startup", Function::Startup, CvxCPP::CvxErrorHostMissing);
     refuse("RegisterCameraListObserver", Function::RegisterCameraListObserver, CvxCPP::CvxErrorFailed);
     refuse("RegisterInterfaceListObserver", Function::RegisterInterfaceListObserver, CvxCPP::CvxErrorFailed);
-    const int cameras = std::atoi(setting("CORVIX_SCRIPTED_CAMERAS").c_str());
+    const long cameras = std::strtol(setting("CORVIX_SCRIPTED_CAMERAS").c_str(), nullptr, 10);
     for (int number = 0; number < cameras; ++number)
         script.cameras.push_back(camera(number));
     script.intercept = [this](const CvxScripted::Call &call) { return onCall(call); };
