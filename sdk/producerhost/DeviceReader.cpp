@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr std::size_t LongestText = 64U << 10; // Bytes. No ID or name comes near it.
+// Bytes. No ID or name comes near it, and a thousand cameras with longer ones would delay every list.
+constexpr std::size_t LongestText = 1U << 10;
 constexpr std::size_t SpareBytes = 256; // For producers that write past the size they asked for.
 constexpr int ReadAttempts = 4; // A text may grow between the two calls.
 constexpr std::uint32_t MostCredible = 1U << 20; // Devices; a larger number is garbage.
@@ -40,7 +41,7 @@ std::optional<Problem> DeviceReader::readText(const char *call, const Query &que
 {
     std::optional<Problem> problem;
     std::size_t wanted = 0;
-    for (int attempt = 0; attempt < ReadAttempts; ++attempt) {
+    for (int attempt = 0; attempt < ReadAttempts && wanted <= LongestText; ++attempt) {
         std::size_t size = 0;
         GenTL::INFO_DATATYPE type = GenTL::INFO_DATATYPE_STRING; // Some producers never write it.
         problem = m_library.call(call, query, static_cast<char *>(nullptr), &size, &type);

@@ -225,7 +225,7 @@ Rows data()
         withDevice("invalid UTF-8", "\xC3\x28\xFF\xED\xA0\x80"),
         withDevice("control characters", "\\x01\\x07\\x08\\x0a\\x0d\\x1b\\x7f"),
         withDevice("JSON metacharacters", "\"}],{:\\\\u0000\\"),
-        withDevice("texts of 30 KiB", std::string(30U << 10, 'y')),
+        withDevice("texts of 1,000 bytes", std::string(1000, 'y')),
         listing("1,000 interfaces", "quiet\ninterfaces 1000\n", 0),
         listing("10 interfaces with 100 devices each", "quiet\n" + devicesOnInterfaces(10, 100), 1000),
         listing("repeated IDs", TwoCameras + TwoCameras + "interface net1\ndevices net1|2\n", 4),
@@ -251,6 +251,12 @@ Rows data()
         "lists 2000 cameras, of which the first 1000 are shown", 1000);
     add("10,000 devices", "quiet\ninterface net0\ndevices net0|10000\n",
         "gave 10000 devices, of which the first 1000 are listed", 1000);
+    if (IsSanitized) // What follows is about time.
+        return rows;
+    const std::string many = "quiet\ninterface net0\ndevices net0|1000\nfault IFGetDeviceInfo ";
+    rows.push_back(listing("1,000 devices with texts of 1,000 bytes", many + "long 1000\n", 1000));
+    add("1,000 devices with texts of 10 KiB", many + "long 10240\n",
+        "IFGetDeviceInfo failed: gave a text of 10241 bytes", 1000);
     return rows;
 }
 
