@@ -5,12 +5,6 @@
 #include <string>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool IsSanitized = true;
-#else
-constexpr bool IsSanitized = false;
-#endif
-
 /// One way in which a file in the folder of producers can be hostile, and what is to come of it.
 struct HostileProducer
 {
@@ -32,5 +26,5 @@ struct HostileProducer
     bool leavesDaemon = false; ///< A process that has left its host's process group is beyond our reach.
 };
 
-/// All rows of this build: sanitizers allow no limit of memory, and no crowd of hosts.
+/// All rows of this build: sanitizers allow no limit of memory, and instrumentation no crowd of hosts.
 std::vector<HostileProducer> hostileProducers();

@@ -21,10 +21,12 @@ void PrintTo(const HostileProducer &row, std::ostream *stream)
 
 namespace {
 
-// Sanitizers slow hosts and library down by some ten times; there it is other things that these tests find.
+// Instrumentation slows hosts and library down, by up to some ten times; with it these tests find other
+// things.
 constexpr Milliseconds FirstListBound
-    = IsSanitized ? 6000ms : 3500ms; // From the start to the others' cameras.
-constexpr Milliseconds LaterListBound = IsSanitized ? 3000ms : 300ms; // More than without the hostile one.
+    = IS_INSTRUMENTED ? 6000ms : 3500ms; // From the start to the others' cameras.
+constexpr Milliseconds LaterListBound
+    = IS_INSTRUMENTED ? 3000ms : 300ms; // More than without the hostile one.
 constexpr auto GoneBound = 500ms; // For what was killed to be gone.
 constexpr int LaterLists = 8;
 constexpr std::size_t SimulatedCameras = 2;
