@@ -9,7 +9,6 @@
 #include <limits>
 #include <memory>
 #include <new>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,8 +33,6 @@ CameraHandles cameraHandles(CvxSystem &system)
             handles.resize(count);
         return handles;
     } catch (const std::bad_alloc &) {
-        return {};
-    } catch (const std::length_error &) {
         return {};
     }
 }
@@ -93,8 +90,6 @@ bool readText(const Feature &textFeature, std::string &value)
     try {
         return textFeature.GetValue(value) == CvxErrorSuccess;
     } catch (const std::bad_alloc &) {
-        return false;
-    } catch (const std::length_error &) {
         return false;
     }
 }

@@ -1,7 +1,6 @@
 #include "camera/SdkText.h"
 
 #include <new>
-#include <stdexcept>
 #include <string>
 
 bool SdkText::read(const Reader &reader, QByteArray &text)
@@ -16,8 +15,6 @@ bool SdkText::read(const Reader &reader, QByteArray &text)
         text = QByteArray(buffer.c_str()); // The length may count a NUL; a stored text never carries one.
         return true;
     } catch (const std::bad_alloc &) {
-        return false;
-    } catch (const std::length_error &) {
         return false;
     }
 }

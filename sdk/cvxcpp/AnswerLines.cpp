@@ -29,9 +29,7 @@ AnswerLines::Reading AnswerLines::read(int socket, std::string &line)
         const ssize_t count = recv(socket, m_pending.data() + m_searched, BlockSize, MSG_DONTWAIT);
         const int error = errno;
         m_pending.resize(m_searched + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-        if (count < 0 && error == EINTR)
-            continue;
-        if (count < 0 && (error == EAGAIN || error == EWOULDBLOCK))
+        if (count < 0 && (error == EAGAIN || error == EINTR))
             return Reading::Pending;
         if (count <= 0)
             return Reading::Closed;

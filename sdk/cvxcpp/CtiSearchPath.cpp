@@ -27,14 +27,11 @@ std::string readFile(const std::string &path)
     if (fstat(descriptor, &file) == 0 && S_ISREG(file.st_mode)) {
         content.resize(std::min(static_cast<std::size_t>(file.st_size), LargestFile));
         std::size_t done = 0;
-        while (done < content.size()) {
-            const ssize_t count = read(descriptor, content.data() + done, content.size() - done);
-            if (count < 0 && errno == EINTR)
-                continue;
-            if (count <= 0)
-                break;
-            done += static_cast<std::size_t>(count);
-        }
+        ssize_t count = 0;
+        do {
+            count = TEMP_FAILURE_RETRY(read(descriptor, content.data() + done, content.size() - done));
+            done += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+        } while (count > 0);
         content.resize(done);
     }
     close(descriptor);

@@ -28,12 +28,10 @@ void blockBrokenPipeSignal()
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 }
 
-/// For poll(): milliseconds from now, rounded up, so that it does not return too early; -1 for ever.
+/// For poll(): milliseconds from now, rounded up, so that it does not return too early.
 int pollTimeout(HostedProducer::Time until, HostedProducer::Time now)
 {
     constexpr auto Longest = std::chrono::milliseconds(60000);
-    if (until == HostedProducer::Time::max())
-        return -1;
     const auto left = std::clamp<HostedProducer::Clock::duration>(until - now, 0ms, Longest);
     return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count());
 }
@@ -193,10 +191,11 @@ void DiscoverySession::run()
 
 void DiscoverySession::startProducers()
 {
-    const std::vector<ProducerFile> files = findProducers(m_ctiDirectories, [this](const std::string &fault) {
+    const auto report = [this](const std::string &fault) {
         if (m_options.report)
             m_options.report(toLine(fault));
-    });
+    };
+    const std::vector<ProducerFile> files = findProducers(m_ctiDirectories, report);
     for (std::size_t i = 0; i < files.size(); ++i)
         m_producers.push_back(
             std::make_unique<HostedProducer>(m_options, files[i].path, i, weak_from_this()));
@@ -264,8 +263,8 @@ void DiscoverySession::waitForEvents(Time nextLook, std::vector<bool> &isReadabl
         descriptors.push_back({producer->descriptor(), POLLIN, 0}); // poll() passes over -1.
         wakeAt = std::min(wakeAt, producer->nextStep(now));
     }
-    if (poll(descriptors.data(), descriptors.size(), pollTimeout(wakeAt, now)) < 0)
-        descriptors.assign(descriptors.size(), pollfd{});
+    // Interrupted by a signal of the program's, it gives no events.
+    poll(descriptors.data(), descriptors.size(), pollTimeout(wakeAt, now));
     if (descriptors.front().revents != 0)
         m_wakeEvent.clear();
     for (std::size_t i = 0; i < m_producers.size(); ++i)

@@ -3,15 +3,13 @@
 #include "CvxCPP/CvxCPP.h"
 
 #include <cstring>
-#include <limits>
 #include <string>
 
 /// Hands a text out by the two-call protocol of CvxCPP.h.
 inline CvxCPP::CvxError copyText(const std::string &text, char *buffer, unsigned &size)
 {
-    if (text.size() >= std::numeric_limits<unsigned>::max())
-        return CvxCPP::CvxErrorFailed;
-    const auto needed = static_cast<unsigned>(text.size() + 1); // With the closing NUL.
+    // With the closing NUL. It came in an answer of 64 MiB at the most, so its length fits.
+    const auto needed = static_cast<unsigned>(text.size() + 1);
     if (buffer && size < needed)
         return CvxCPP::CvxErrorBufferTooSmall;
     if (buffer)

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <sys/socket.h>
+#include <unistd.h>
 
 LineSocket::LineSocket(int descriptor) : m_descriptor(descriptor) { }
 
@@ -12,9 +13,7 @@ bool LineSocket::readLine(std::string &line)
     std::size_t end = m_pending.find('\n');
     while (end == std::string::npos) {
         std::array<char, 1024> bytes;
-        const ssize_t count = recv(m_descriptor, bytes.data(), bytes.size(), 0);
-        if (count < 0 && errno == EINTR)
-            continue;
+        const ssize_t count = TEMP_FAILURE_RETRY(recv(m_descriptor, bytes.data(), bytes.size(), 0));
         if (count < 0)
             noteError(errno);
         if (count <= 0)
@@ -31,9 +30,8 @@ bool LineSocket::write(const std::string &text)
 {
     std::size_t done = 0;
     while (done < text.size()) {
-        const ssize_t count = send(m_descriptor, text.data() + done, text.size() - done, MSG_NOSIGNAL);
-        if (count < 0 && errno == EINTR)
-            continue;
+        const ssize_t count
+            = TEMP_FAILURE_RETRY(send(m_descriptor, text.data() + done, text.size() - done, MSG_NOSIGNAL));
         if (count < 0)
             noteError(errno);
         if (count <= 0)

@@ -37,32 +37,17 @@ bool isForAnotherMachine(const char *path)
             || differs(offsetof(Elf64_Ehdr, e_machine) + 1));
 }
 
-void *openLibrary(const char *path, std::string &error)
-{
-    try {
-        void *library = dlopen(path, RTLD_NOW | RTLD_LOCAL); // All producers export the same names.
-        if (!library) {
-            const char *text = dlerror();
-            error = text ? text : "unknown error";
-        }
-        return library;
-    } catch (...) { // Constructors of the library run in here.
-        error = "threw an exception while it was loaded";
-        return nullptr;
-    }
-}
-
 } // namespace
 
 std::optional<Problem> ProducerLibrary::load(const char *path)
 {
-    std::string error;
-    void *library = openLibrary(path, error);
-    if (!library && isForAnotherMachine(path))
+    // All producers export the same names. What a constructor throws gets no further than dlopen().
+    if (void *const library = dlopen(path, RTLD_NOW | RTLD_LOCAL))
+        return resolveFunctions(library);
+    const std::string error = dlerror();
+    if (isForAnotherMachine(path))
         return Problem{"dlopen", 0, "the library is for another kind of machine"};
-    if (!library)
-        return Problem{"dlopen", 0, error};
-    return resolveFunctions(library);
+    return Problem{"dlopen", 0, error};
 }
 
 std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)

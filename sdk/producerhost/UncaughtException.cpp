@@ -1,5 +1,6 @@
 #include "sdk/producerhost/UncaughtException.h"
 
+#include "sdk/producerhost/ExitStatus.h"
 #include "sdk/producerhost/Leave.h"
 #include "sdk/producerhost/LineSocket.h"
 #include "sdk/producerhost/ProducerAnswerWriter.h"
@@ -33,9 +34,8 @@ std::string describeException()
 {
     std::set_terminate(std::abort); // What is left to fail here is a lack of memory.
     LineSocket socket(answerSocket);
-    if (!socket.write(errorAnswer({"the driver", 0, describeException()})))
-        std::abort();
-    leave(EXIT_SUCCESS);
+    socket.write(errorAnswer({"the driver", 0, describeException()}));
+    leave(socket.isLost() ? ConnectionLostStatus : EXIT_SUCCESS);
 }
 
 } // namespace

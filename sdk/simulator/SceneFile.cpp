@@ -59,9 +59,7 @@ std::string readAll(int descriptor)
     std::string text;
     char block[1U << 16U];
     for (;;) {
-        const ssize_t count = ::read(descriptor, block, sizeof block);
-        if (count < 0 && errno == EINTR)
-            continue;
+        const ssize_t count = TEMP_FAILURE_RETRY(::read(descriptor, block, sizeof block));
         if (count < 0)
             throwSystemError("it cannot be read");
         if (count == 0)
