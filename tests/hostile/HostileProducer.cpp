@@ -129,6 +129,8 @@ Rows constructors()
         {"constructor/abort", withFault("load abort"), Due::AtStart, "SIGABRT"},
         {"constructor/hang", withFault("load hang"), Due::AtEnd, "was killed"},
         {"constructor/throw", withFault("load throw"), Due::AtStart, "thrown by the driver"},
+        {"constructor/throw a number", withFault("load throw-number"), Due::AtStart,
+            "threw an exception that nobody caught"},
         {"constructor/exit 0", withFault("load exit 0"), Due::AtStart, "exited with code 0"},
         {"constructor/close", withFault("load close"), Due::AtStart, "closed its host's connection"},
         {"constructor/print", withFault("load print"), Due::Never, "standard output is the producer's own",
@@ -186,6 +188,8 @@ Rows functions()
         "a name of the interface is not needed", "", 0, 2});
     rows.push_back({"TLOpenInterface/in-use", withFault("TLOpenInterface in-use"), Due::AtStart,
         "TLOpenInterface failed with -1004 (GC_ERR_RESOURCE_IN_USE)"});
+    rows.push_back({"TLOpen/throw a number", withFault("TLOpen throw-number"), Due::AtStart,
+        "TLOpen failed: threw an exception"});
     rows.push_back({"IFUpdateDeviceList/close", withFault("IFUpdateDeviceList close"), Due::AtStart,
         "closed its host's connection"});
     return rows;
@@ -244,6 +248,11 @@ Rows data()
         "IFGetDeviceID failed: gave a text of 1048577 bytes", 0);
     add("a text that grows", "fault IFGetDeviceInfo grow\n" + TwoCameras, "IFGetDeviceInfo failed with -1016",
         2);
+    add("a text that fails in the end", "fault IFGetDeviceInfo late-error -1010\n" + TwoCameras,
+        "IFGetDeviceInfo failed with -1010", 2);
+    add("a number for a text", "fault IFGetDeviceInfo number\n" + TwoCameras, "gave data that is no text", 2);
+    add("devices that are gone", "fault IFGetDeviceInfo error -1007\n" + TwoCameras,
+        "IFGetDeviceInfo failed with -1007", 0);
     add("fewer devices than counted", "fault IFGetNumDevices more\n" + TwoCameras,
         "IFGetDeviceID failed with -1017", 2);
     add("fewer interfaces than counted", "fault TLGetNumInterfaces more\n" + TwoCameras,
@@ -274,6 +283,9 @@ Rows processes()
             "thrown in a thread of the driver"},
         {"process/terminate", withFault("GCInitLib terminate"), Due::AtStart,
             "the driver failed: called std::terminate"},
+        {"process/throw in a thread, unconnected",
+            scripted("fault GCInitLib close\nfault TLOpen throw-in-thread\n" + TwoCameras), Due::AtStart,
+            "closed its host's connection"},
         {"process/signal handlers", withFault("GCInitLib signals"), Due::Never,
             "they are its own process's alone", "", 0, 2},
         {"process/ignores SIGTERM", withFault("IFUpdateDeviceList ignore-and-hang"), Due::AtEnd,

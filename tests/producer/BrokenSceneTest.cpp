@@ -119,6 +119,14 @@ TEST_F(SimulatorScene, ADeviceInTheFilesPlaceHoldsNothingUp)
     EXPECT_NE(testing::internal::GetCapturedStderr().find("not a regular file"), std::string::npos);
 }
 
+TEST_F(SimulatorScene, AFileThatCannotBeReadIsABrokenScene)
+{
+    folder.makeSceneALinkTo("/proc/self/mem"); // A regular file, with nothing at its start.
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(devicesNow().size(), 2U);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("it cannot be read: "), std::string::npos);
+}
+
 TEST_F(SimulatorScene, ALinkInACircleIsABrokenScene)
 {
     folder.makeSceneALinkTo("CorvixCameraSimulator.json");

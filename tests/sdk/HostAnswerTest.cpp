@@ -1,3 +1,5 @@
+#include "sdk/cvxcpp/ProducerAnswer.h"
+#include "tests/sdk/support/OutOfMemory.h"
 #include "tests/sdk/support/SystemTest.h"
 
 using namespace CvxCPP;
@@ -72,6 +74,37 @@ TEST_F(HostAnswerTest, AnAnswerWithoutEndDoesNotKeepTheSystemFromEnding)
     EXPECT_TRUE(list().empty());
     EXPECT_LT(timeOf([this] { stop(); }), 2500ms);
     EXPECT_EQ(countReports("while it was closed"), 1U) << testing::PrintToString(reports());
+}
+
+TEST_F(HostAnswerTest, AnInterfaceThatHasGoneMeanwhileIsLeftToTheNextList)
+{
+    useHost(R"(while read line; do
+    case $line in
+    *'"list"'*) echo '{"interfaces":[{"number":1,"id":"net0","devices":[{"id":"A1"}]}]}' ;;
+    *'"interface"'*) echo '{"interfaces":[]}' ;;
+    *) exit 0 ;;
+    esac
+done <&3 >&3)");
+    options.reuseTime = 0ms; // Asked whenever the program asks.
+    writeFile(ctiPath("a.cti"), "");
+    start();
+    const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
+    EXPECT_EQ(listIds(), std::vector<std::string>{"a.cti/net0/A1"});
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+}
+
+TEST_F(HostAnswerTest, AnAnswerIsNoneWithoutMemory)
+{
+    const std::string line = R"({"interfaces":[]})";
+    ProducerAnswer answer;
+    bool isAnswer = true;
+    {
+        const OutOfMemory outOfMemory;
+        isAnswer = parseAnswer(line, answer);
+    }
+    EXPECT_FALSE(isAnswer);
+    EXPECT_TRUE(parseAnswer(line, answer));
 }
 
 TEST_F(HostAnswerTest, AProgramThatCannotBeExecutedIsReported)

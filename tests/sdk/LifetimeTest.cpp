@@ -1,5 +1,6 @@
 #include "sdk/cvxcpp/Announcer.h"
 #include "tests/sdk/support/ClientProcess.h"
+#include "tests/sdk/support/OutOfDescriptors.h"
 #include "tests/sdk/support/OutOfMemory.h"
 #include "tests/sdk/support/SystemTest.h"
 
@@ -58,6 +59,18 @@ TEST_F(LifetimeTest, StartingNeedsTheHostProgram)
     EXPECT_EQ(lacking.Startup(), CvxErrorHostMissing);
     fs::permissions(host, fs::perms::owner_all);
     EXPECT_EQ(lacking.Startup(), CvxErrorSuccess);
+}
+
+TEST_F(LifetimeTest, StartingNeedsADescriptor)
+{
+    CameraSystem starting(options);
+    CvxError error = CvxErrorSuccess;
+    {
+        const OutOfDescriptors outOfDescriptors;
+        error = starting.Startup();
+    }
+    EXPECT_EQ(error, CvxErrorFailed);
+    EXPECT_EQ(starting.Startup(), CvxErrorSuccess);
 }
 
 TEST_F(LifetimeTest, TwoHundredRoundsLeaveNothing)
@@ -141,24 +154,47 @@ TEST_F(LifetimeTest, TheEndOfTheSystemWakesAnUpdateToo)
     EXPECT_EQ(error, CvxErrorNotStarted);
 }
 
-TEST_F(LifetimeTest, WithoutMemoryACallFailsAndTheSystemGoesOn)
+TEST_F(LifetimeTest, AnUpdateIsRefusedWhileTheSystemEnds)
 {
-    addProducer("a", cameras(1));
+    options.reuseTime = 1h;
+    options.endWait = 1s;
+    addProducer("a", "fault GCCloseLib hang\n" + cameras(1));
     start();
     const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
+    std::thread end([this] { stop(); });
+    EXPECT_TRUE(waitUntil([this] { return countCalls("a", "GCCloseLib") == 1; }));
+    EXPECT_EQ(update->RunCommand(), CvxErrorNotStarted);
+    end.join();
+}
+
+TEST_F(LifetimeTest, WithoutMemoryACallFailsAndTheSystemGoesOn)
+{
+    const std::string tooLongToNeedNone(100, 'x');
+    addProducer(
+        "a", "interface net0\ndevice net0|" + tooLongToNeedNone + "|V|M|S|N|" + tooLongToNeedNone + '\n');
+    start();
+    const Cameras found = list();
+    const auto update = feature(*interfaceOf(found, 0), "DeviceUpdateList");
     const auto recorder = std::make_shared<CameraRecorder>();
-    unsigned count = 7;
-    CvxError listError = CvxErrorSuccess, updateError = CvxErrorSuccess, observerError = CvxErrorSuccess;
+    unsigned count = 7, size = 7;
+    CvxTransportLayerType type = CvxTransportLayerUnknown;
+    CvxError listError = CvxErrorSuccess, updateError = CvxErrorSuccess, observerError = CvxErrorSuccess,
+             idError = CvxErrorSuccess, typeError = CvxErrorSuccess;
     {
         const OutOfMemory outOfMemory;
         listError = system->GetCameras(nullptr, count);
         updateError = update->RunCommand();
         observerError = system->RegisterCameraListObserver(recorder);
+        idError = found[0]->GetID(nullptr, size, true);
+        typeError = found[0]->GetInterfaceType(type);
     }
     EXPECT_EQ(listError, CvxErrorFailed);
     EXPECT_EQ(count, 7U);
     EXPECT_EQ(updateError, CvxErrorFailed);
     EXPECT_EQ(observerError, CvxErrorFailed);
+    EXPECT_EQ(idError, CvxErrorFailed);
+    EXPECT_EQ(typeError, CvxErrorFailed);
     EXPECT_EQ(list().size(), 1U);
     EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
 }
@@ -192,6 +228,21 @@ TEST(Announcer, DropsItsObserversWhenItStops)
     announcer.stop();
     EXPECT_EQ(cameraObserver.use_count(), 1);
     EXPECT_EQ(interfaceObserver.use_count(), 1);
+}
+
+TEST(Announcer, GoesOnAfterAChangeThatItHadNoMemoryFor)
+{
+    std::atomic<int> changes{0};
+    Announcer announcer([&] {
+        if (++changes == 1)
+            throw std::bad_alloc();
+        return CameraListChange();
+    });
+    announcer.start();
+    EXPECT_TRUE(waitUntil([&] {
+        announcer.notify();
+        return changes > 1;
+    }));
 }
 
 TEST_F(LifetimeTest, ObjectsMayOutliveTheSystem)
@@ -370,6 +421,28 @@ TEST_F(LifetimeTest, AHostHandlesSignalsPlainlyWhateverTheProgramDoes)
             status >> std::hex >> ignored;
     }
     EXPECT_EQ(ignored >> (SIGUSR1 - 1) & 1, 0U);
+}
+
+TEST_F(LifetimeTest, ASignalToItsThreadsChangesNothing)
+{
+    static std::atomic<int> handled{0};
+    struct sigaction action
+    {
+    }, before{};
+    action.sa_handler = [](int) { ++handled; }; // Calls that wait are not taken up again.
+    sigaction(SIGUSR1, &action, &before);
+    options.lookInterval = 1h; // They all wait.
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    int signals = 0;
+    for (const auto &entry : fs::directory_iterator("/proc/self/task"))
+        signals += tgkill(getpid(), std::atoi(entry.path().filename().c_str()), SIGUSR1) == 0 ? 1 : 0;
+    EXPECT_TRUE(waitUntil([&] { return handled == signals; }));
+    EXPECT_GE(signals, 3);
+    EXPECT_EQ(list().size(), 1U);
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+    sigaction(SIGUSR1, &before, nullptr);
 }
 
 TEST_F(LifetimeTest, AHostThatIsStartedByHandLoadsNothing)

@@ -213,6 +213,15 @@ TEST_F(ListingTest, AnInterfaceWithoutDevicesIsNotAskedAboutItself)
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "TLGetInterfaceInfo empty"), 0);
 }
 
+TEST_F(ListingTest, AProducerMayLackWhatOnlyAddsToAnAnswer)
+{
+    setScript("a", cameras(1));
+    std::filesystem::copy_file(MINIMAL_PRODUCER, ctiPath("a.cti"));
+    start();
+    EXPECT_EQ(listIds(), Ids{"a.cti/net0/A1"});
+    EXPECT_TRUE(reports().empty());
+}
+
 TEST_F(ListingTest, FindsProducersByTheEnvironmentToo)
 {
     const TemporaryDirectory other;

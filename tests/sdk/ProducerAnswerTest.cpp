@@ -61,7 +61,7 @@ TEST(ProducerAnswerTest, SortsByIdWhateverTheOrder)
 TEST(ProducerAnswerTest, SkipsWhatItDoesNotKnow)
 {
     const auto answer = parsed(R"({"new":{"id":"x","devices":[{"id":1}]},"list":[[1,2.5,null,true]],
-        "interfaces":[{"id":"a","speed":1e99,"tags":["t"],"devices":[{"id":"d","ports":[{"id":"p"}],"model":5}]}]})");
+        "interfaces":[{"id":"a","speed":1e99,"tags":["t"],"devices":[{"id":"d","colour":"red","ports":[{"id":"p"}],"model":5}]}]})");
     ASSERT_EQ(answer.interfaces.size(), 1U);
     ASSERT_EQ(answer.interfaces[0].devices.size(), 1U);
     EXPECT_EQ(answer.interfaces[0].devices[0].id, "d");

@@ -1,3 +1,4 @@
+#include "tests/sdk/support/OutOfDescriptors.h"
 #include "tests/sdk/support/SystemTest.h"
 
 #include <csignal>
@@ -121,6 +122,34 @@ TEST_F(RestartTest, AFailureIsReportedAgainWhenTheProducerHasWorkedMeanwhile)
         ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
         EXPECT_TRUE(waitUntil([&] { return countReports("SIGKILL") == crashes; }));
     }
+}
+
+TEST_F(RestartTest, AFailureIsReportedWithoutTheDriversWordsWhereItHasNone)
+{
+    const std::string failure = "fault IFUpdateDeviceList error -1010\n" + cameras(1);
+    addProducer("refusing", failure + "fault GCGetLastError error -1001\n");
+    addProducer("throwing", failure + "fault GCGetLastError throw\n");
+    setScript("lacking", failure);
+    std::filesystem::copy_file(MINIMAL_PRODUCER, ctiPath("lacking.cti"));
+    start();
+    EXPECT_TRUE(waitUntil([this] { return reports().size() == 3; }));
+    for (const std::string &line : reports())
+        EXPECT_EQ(line.substr(line.find(": ")), ": IFUpdateDeviceList failed with -1010 (GC_ERR_IO)") << line;
+}
+
+TEST_F(RestartTest, AHostIsStartedAgainWhenThereAreDescriptorsAgain)
+{
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    const pid_t host = hostOf("a");
+    {
+        const OutOfDescriptors outOfDescriptors;
+        ASSERT_EQ(kill(host, SIGKILL), 0);
+        EXPECT_TRUE(waitUntil(
+            [this] { return countReports("cti/a.cti: no socket for its host: Too many open files") == 1; }));
+    }
+    EXPECT_TRUE(waitUntil([this] { return list().size() == 1; }));
 }
 
 TEST_F(RestartTest, AMissingHostProgramIsReportedAndComesBack)

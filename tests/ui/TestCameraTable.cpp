@@ -31,6 +31,7 @@ private slots:
     void placeholderRowIsDrawnSelected();
     void nothingIsSelectedAfterARefresh();
     void clickOnASelectedRowChangesNothing();
+    void selectionWithoutACurrentCellChangesNothing();
     void dragOverTheRowsEndsWithOneSelection();
     void clickOnARowThatTheListLostIsIgnored();
     void groupIsMarkedInTheFirstColumn();
@@ -223,6 +224,19 @@ void TestCameraTable::clickOnASelectedRowChangesNothing()
     configured.click(configured.cellCenter(2, 1));
     configured.click(configured.cellCenter(2, 0));
     QCOMPARE(configured.selectedRows(), QList<int>{2});
+    QCOMPARE(groupMarks(configured), QVector<bool>({true, false, true, false}));
+}
+
+void TestCameraTable::selectionWithoutACurrentCellChangesNothing()
+{
+    ConfiguredWindow configured;
+    configured.loadConfig();
+    configured.list(fourCameras);
+    configured.show();
+    configured.click(configured.cellCenter(2, 1));
+    const QSignalSpy selections(configured.table(), &QTableWidget::itemSelectionChanged);
+    configured.table()->setCurrentCell(-1, -1);
+    QCOMPARE(selections.size(), 1);
     QCOMPARE(groupMarks(configured), QVector<bool>({true, false, true, false}));
 }
 

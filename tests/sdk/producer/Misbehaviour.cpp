@@ -90,6 +90,7 @@ int perform(const std::string &action)
         {"crash", [](int) { raise(SIGSEGV); }},
         {"abort", [](int) { std::abort(); }},
         {"throw", [](int) { throw std::runtime_error("thrown by the driver"); }},
+        {"throw-number", [](int number) { throw number; }},
         {"throw-in-thread", [](int) { throwInThread(); }},
         {"terminate", [](int) { std::terminate(); }},
         {"exit", [](int code) { std::exit(code); }},

@@ -7,11 +7,12 @@
 //   changing INTERFACE                                  a device whose ID is another one at every update
 //   quiet                                               no log, no second reading: many take long otherwise
 //   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
-// Actions of any function: error CODE, crash, abort, throw, throw-in-thread, terminate, exit CODE, hang,
-// untouched, slow MILLISECONDS, fork, fork-and-die, daemon, allocate, threads, signals, ignore-and-hang,
-// print, close.
+// Actions of any function: error CODE, crash, abort, throw, throw-number, throw-in-thread, terminate,
+// exit CODE, hang, untouched, slow MILLISECONDS, fork, fork-and-die, daemon, allocate, threads, signals,
+// ignore-and-hang, print, close.
 // Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
-// of the standard's version 1.3), size BYTES ("size -1" says one less than there is and heeds no capacity).
+// of the standard's version 1.3), late-error CODE (of the second call), number (in place of a text), size
+// BYTES ("size -1" says one less than there is and heeds no capacity).
 // Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
 // for a byte. The calls are written to "name.log", each with its process.
 
@@ -204,6 +205,8 @@ int give(const std::string &honest, void *buffer, std::size_t *size)
     words >> verb >> argument;
     const std::string value = stretched(honest, verb, argument, buffer);
     const std::size_t needed = value.size() + (verb == "no-nul" ? 0 : 1);
+    if (buffer && verb == "late-error")
+        return static_cast<int>(argument);
     if (buffer && *size < needed && verb != "size")
         return verb == "grow-1.3" ? GC_ERR_INVALID_PARAMETER : GC_ERR_BUFFER_TOO_SMALL;
     if (buffer)
@@ -227,7 +230,7 @@ GC_ERROR refuseIndex()
 
 int giveText(const std::string &value, INFO_DATATYPE *type, void *buffer, std::size_t *size)
 {
-    *type = INFO_DATATYPE_STRING;
+    *type = lie == "number" ? INFO_DATATYPE_INT64 : INFO_DATATYPE_STRING;
     return give(value, buffer, size);
 }
 
@@ -288,12 +291,16 @@ GENTL_FUNCTION GCCloseLib()
     return GC_ERR_SUCCESS;
 }
 
+#ifndef WITHOUT_OPTIONAL_FUNCTIONS
 GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
 {
     *piErrorCode = lastCode;
     lie.clear();
-    return give("the driver's own words", sErrText, piSize);
+    const int given = give("the driver's own words", sErrText, piSize);
+    const int code = perform(actionFor("GCGetLastError"));
+    return code == Continue ? given : code;
 }
+#endif
 
 GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 {
@@ -346,6 +353,7 @@ GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE, std::uint32_t iIndex, char *sID, std:
     return give(interfaces[iIndex].id(), sID, piSize);
 }
 
+#ifndef WITHOUT_OPTIONAL_FUNCTIONS
 GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
@@ -362,6 +370,7 @@ GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INF
     }
     return GC_ERR_NOT_IMPLEMENTED;
 }
+#endif
 
 GENTL_FUNCTION TLOpenInterface(TL_HANDLE, const char *sIfaceID, IF_HANDLE *phIface)
 {
