@@ -435,11 +435,10 @@ TEST_F(LifetimeTest, ASignalToItsThreadsChangesNothing)
     addProducer("a", cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);
-    int signals = 0;
     for (const auto &entry : fs::directory_iterator("/proc/self/task"))
-        signals += tgkill(getpid(), std::atoi(entry.path().filename().c_str()), SIGUSR1) == 0 ? 1 : 0;
-    EXPECT_TRUE(waitUntil([&] { return handled == signals; }));
-    EXPECT_GE(signals, 3);
+        tgkill(getpid(), std::atoi(entry.path().filename().c_str()), SIGUSR1);
+    // This one and the library's two; a sanitizer's own thread takes no signals.
+    EXPECT_TRUE(waitUntil([&] { return handled >= 3; }));
     EXPECT_EQ(list().size(), 1U);
     EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
     sigaction(SIGUSR1, &before, nullptr);
