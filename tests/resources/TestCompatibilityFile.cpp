@@ -108,13 +108,13 @@ void TestCompatibilityFile::noEntryListsAToolTwice()
 void TestCompatibilityFile::toolsAreThoseOfTheHighResolutionGroup()
 {
     QSet<QString> used, offered;
-    for (const QJsonValue entry : cameras()) {
+    for (const QJsonValue &entry : cameras()) {
         for (const QString &id : toolsFor(entry))
             used << id;
     }
     const QJsonObject launcher = jsonObject(QStringLiteral(":/config/launcher_config.json"));
     const QJsonValue highres = launcher.value(QStringLiteral("hardwareGroups")).toArray().at(2);
-    for (const QJsonValue tool : highres[QStringLiteral("tools")].toArray())
+    for (const QJsonValue &tool : highres[QStringLiteral("tools")].toArray())
         offered << tool[QStringLiteral("id")].toString();
 
     QCOMPARE(used.size(), 6);
@@ -124,7 +124,7 @@ void TestCompatibilityFile::toolsAreThoseOfTheHighResolutionGroup()
 void TestCompatibilityFile::tenEntriesCarryNotes()
 {
     int notes = 0;
-    for (const QJsonValue entry : cameras())
+    for (const QJsonValue &entry : cameras())
         notes += entry[QStringLiteral("notes")].toString().isEmpty() ? 0 : 1;
     QCOMPARE(notes, 10);
 }

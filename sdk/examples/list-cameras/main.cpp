@@ -3,6 +3,7 @@
 #include <CvxCPP/CvxCPP.h>
 
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,7 +23,8 @@ std::string text(const Camera &camera, TextFunction function)
     std::string buffer(size, '\0');
     if ((camera.*function)(buffer.data(), size) != CvxErrorSuccess)
         return {};
-    return buffer.c_str(); // The length counts the closing NUL.
+    buffer.resize(std::strlen(buffer.c_str())); // The length counts the closing NUL.
+    return buffer;
 }
 
 std::string id(const Camera &camera)
@@ -33,7 +35,8 @@ std::string id(const Camera &camera)
     std::string buffer(size, '\0');
     if (camera.GetID(buffer.data(), size, false) != CvxErrorSuccess)
         return {};
-    return buffer.c_str();
+    buffer.resize(std::strlen(buffer.c_str()));
+    return buffer;
 }
 
 } // namespace
