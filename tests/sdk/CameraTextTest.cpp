@@ -61,6 +61,15 @@ TEST_F(CameraTextTest, ControlCharactersAndQuotesComeThrough)
     EXPECT_EQ(nameOf(*camera), "\xE2\x82\xAC");
 }
 
+TEST_F(CameraTextTest, OneOddCharacterInAnOrdinaryTextIsEnough)
+{
+    const auto camera = cameraOf("interface if|Net|GEV\ndevice if|a\"b|V|c\\d|e\tf|g\x7Fh|GEV\n");
+    EXPECT_EQ(plainId(*camera), "a\"b");
+    EXPECT_EQ(modelOf(*camera), "c\\d");
+    EXPECT_EQ(serialOf(*camera), "e\tf");
+    EXPECT_EQ(nameOf(*camera), "g\x7Fh");
+}
+
 TEST_F(CameraTextTest, AnAbsurdlyLongOneIsLeftOutAndReported)
 {
     const auto camera
