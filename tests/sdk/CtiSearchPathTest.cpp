@@ -159,6 +159,8 @@ INSTANTIATE_TEST_SUITE_P(Documents, CtiDocumentTest,
         Document{"UnknownEncoding",
             "<?xml version='1.0' encoding='none'?><CtiPaths><Path>/a</Path></CtiPaths>", Fallback},
         Document{"CharacterCutAtTheEnd", followedBy("\xE2\x82"), {"/a"}},
+        Document{"LongCharacterCutAtTheEnd", followedBy("\xF0\x9F\x80"), {"/a"}},
+        Document{"LastCharacterCutAtTheEnd", followedBy("\xF4\x8F"), {"/a"}}, // U+10FFFF.
         Document{"NoCharacterAtTheEnd", followedBy("\x80\x80\x80\x80"), Fallback},
         Document{"WrongCharacterAtTheEnd", followedBy("\xED\xA0\x80"), Fallback},
         Document{"EntitiesOfItsOwn", "<!DOCTYPE c [<!ENTITY e 'in'>]><CtiPaths><Path>/&e;</Path></CtiPaths>",

@@ -168,6 +168,19 @@ TEST_F(RestartTest, AMissingHostProgramIsReportedAndComesBack)
     EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
 }
 
+TEST_F(RestartTest, ThoseThatFailKeepNobodyFromItsFirstStart)
+{
+    options.hostProgram = (directory.path() / "Host").string();
+    writeFile(options.hostProgram, "#!/nowhere/interpreter\n"); // Fails before there is a process.
+    std::filesystem::permissions(options.hostProgram, std::filesystem::perms::owner_all);
+    options.firstRestart = 0ms; // A producer that has failed is due again at once.
+    constexpr std::size_t Producers = 12; // More than are started at a time.
+    for (std::size_t i = 0; i < Producers; ++i)
+        addProducer("a" + std::to_string(i), cameras(1));
+    start();
+    EXPECT_TRUE(waitUntil([&] { return countReports("cannot start") == Producers; }));
+}
+
 TEST_F(RestartTest, AReplacedHostProgramIsTakenWithTheNextStart)
 {
     const auto host = directory.path() / "Host";
