@@ -27,7 +27,7 @@ void keepAravisLoaded()
 {
     Dl_info library{};
     if (dladdr(reinterpret_cast<const void *>(&arv_interface_get_type), &library) != 0)
-        dlopen(library.dli_fname, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+        dlopen(library.dli_fname, RTLD_NOW); // A reference that nobody gives back.
 }
 
 FoundDevice readDevice(ArvInterface *interface, unsigned index)
