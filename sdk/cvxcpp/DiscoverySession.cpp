@@ -377,10 +377,7 @@ void DiscoverySession::endProducers()
     const auto isGone = [](const auto &producer) { return producer->hasGone(); };
     bool isKilled = false;
     while (!std::all_of(m_producers.begin(), m_producers.end(), isGone) && Clock::now() < giveUpAt) {
-        std::vector<pollfd> descriptors;
-        for (const auto &producer : m_producers)
-            descriptors.push_back({producer->descriptor(), POLLIN, 0});
-        poll(descriptors.data(), descriptors.size(), pollTimeout(Clock::now() + EndInterval, Clock::now()));
+        std::this_thread::sleep_for(EndInterval);
         for (const auto &producer : m_producers)
             producer->stepEnd();
         if (Clock::now() < killAt || std::exchange(isKilled, true))
