@@ -70,11 +70,12 @@ class ForeignLauncher(Launcher):
         return wait_for(f"a {name} opens", lambda: self.of_class(name))
 
     def is_in_place(self):
-        """On the screen, and where the program takes it to be."""
+        """On the screen, with the keyboard, and where the program takes it to be."""
         found = output_of("xdotool", "search", "--onlyvisible", "--name", "^Corvix X - ", "getwindowgeometry",
                           "--shell")
-        x, y = self.window()["onScreen"][:2]
-        return f"\nX={x}\nY={y}\n" in found
+        window = self.window()
+        x, y = window["onScreen"][:2]
+        return window["active"] and f"\nX={x}\nY={y}\n" in found
 
     def click(self, node, button=1):
         move_to(node)
@@ -84,7 +85,8 @@ class ForeignLauncher(Launcher):
         """Until the X server has taken it away, it gets what is clicked."""
         window = self.of_class("QMenu")["xWindow"]
         xdotool("key", "Escape")
-        wait_for("the menu closes", lambda: "IsViewable" not in output_of("xwininfo", "-id", window))
+        wait_for("the menu closes", lambda: "IsViewable" not in output_of("xwininfo", "-id", window)
+                 and self.is_in_place())
 
     def answer_box(self):
         """Presses its button, again should the window manager have moved it meanwhile."""
