@@ -11,4 +11,4 @@ def figures(bench):
     subprocess.run(["cmake", "--install", bench.build, "--component", "launcher", "--strip", "--prefix", root],
                    stdout=subprocess.DEVNULL, check=True)
     size = sum(os.lstat(f"{directory}/{file}").st_size for directory, _, files in os.walk(root) for file in files)
-    yield Figure("size of the installed launcher component", "MiB", [size / 2**20], [], *at_most(3, "MB"))
+    yield Figure("size of the installed launcher component", "MB", [size / 1e6], [], *at_most(3, "MB"))
