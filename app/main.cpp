@@ -1,44 +1,14 @@
 #include "app/ApplicationController.h"
+#include "app/NoOpenGl.h"
 #include "app/Translations.h"
 
 #include <QApplication>
-#include <QByteArray>
 #include <QFile>
 #include <QMessageBox>
-#include <QOpenGLContext>
 #include <QStyleFactory>
 #include <QtDebug>
 
 #include <memory>
-
-namespace {
-
-/// Keeps Qt from loading OpenGL, with which nothing here is drawn: on X11 that takes a third of a start. Qt
-/// is told by its own variable, where the user has not set it, and decides once.
-class NoOpenGl
-{
-public:
-    NoOpenGl() : m_isOurs(!qEnvironmentVariableIsSet(variable))
-    {
-        if (m_isOurs)
-            qputenv(variable, "none");
-    }
-    ~NoOpenGl()
-    {
-        if (QGuiApplication::platformName() == QLatin1String("xcb")) // Elsewhere the question would load it.
-            QOpenGLContext::supportsThreadedOpenGL(); // Asked for the decision only.
-        if (m_isOurs)
-            qunsetenv(variable); // Or the tools would do without as well.
-    }
-    NoOpenGl(const NoOpenGl &) = delete;
-    NoOpenGl &operator=(const NoOpenGl &) = delete;
-
-private:
-    static constexpr const char *variable = "QT_XCB_GL_INTEGRATION";
-    const bool m_isOurs;
-};
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
