@@ -215,9 +215,15 @@ class DesktopTest(unittest.TestCase):
 
     def setUp(self):
         move(*ASIDE)
-        self.installation = self.enterContext(Installation())
+        self.installation = self.entered(Installation())
         self.programs = self.installation.path("programs")
         os.mkdir(self.programs)
+
+    def entered(self, context):
+        """As enterContext() of Python 3.11, which Ubuntu 22.04 does not have."""
+        value = context.__enter__()
+        self.addCleanup(context.__exit__, None, None, None)
+        return value
 
     def start(self, **environment):
         """The launcher, with its window on the screen."""
@@ -230,7 +236,7 @@ class DesktopTest(unittest.TestCase):
         given = {"PATH": f"{self.programs}:{os.environ['PATH']}",
                  "DBUS_SESSION_BUS_ADDRESS": "disabled:",  # A session bus may offer a tray of another kind.
                  **environment}
-        launcher = self.enterContext(self.launcher_class(self.installation.root, PLUGINS, given))
+        launcher = self.entered(self.launcher_class(self.installation.root, PLUGINS, given))
         launcher.scale = float(environment.get("QT_SCALE_FACTOR", 1))
         wait_for("the launcher shows something", launcher.windows)
         return launcher

@@ -61,7 +61,8 @@ PALE = """
 class GuideInBrowser(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.browser = cls.enterClassContext(Browser(find_browser()))
+        cls.browser = Browser(find_browser()).__enter__()
+        cls.addClassCleanup(cls.browser.__exit__)
 
     def setUp(self):
         self.browser.set_media()
