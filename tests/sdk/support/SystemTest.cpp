@@ -1,5 +1,7 @@
 #include "tests/sdk/support/SystemTest.h"
 
+#include "tests/sdk/support/Waiting.h"
+
 #include <algorithm>
 #include <sstream>
 #include <unistd.h>
@@ -29,7 +31,11 @@ SystemTest::SystemTest()
 SystemTest::~SystemTest()
 {
     system.reset();
-    const auto left = processesWith(directory.path().string());
+    std::vector<pid_t> left;
+    waitUntil([&] { // What a driver has forked is killed with its host, but may be there for a moment more.
+        left = processesWith(directory.path().string());
+        return left.empty();
+    });
     EXPECT_TRUE(left.empty()) << left.size() << " processes are left";
     killAll(left);
     EXPECT_TRUE(childrenOf(getpid()).empty())
