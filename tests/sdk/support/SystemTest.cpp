@@ -32,11 +32,12 @@ SystemTest::~SystemTest()
 {
     system.reset();
     std::vector<pid_t> left;
-    waitUntil([&] { // What a driver has forked is killed with its host, but may be there for a moment more.
+    // What a driver has forked is killed with its host, but may be there for a moment more.
+    const auto noneIsLeft = [&] {
         left = processesWith(directory.path().string());
         return left.empty();
-    });
-    EXPECT_TRUE(left.empty()) << left.size() << " processes are left";
+    };
+    EXPECT_TRUE(waitUntil(noneIsLeft, 2s)) << left.size() << " processes are left";
     killAll(left);
     EXPECT_TRUE(childrenOf(getpid()).empty())
         << "one that has ended has no command line, and is a child still";
