@@ -7,13 +7,9 @@ import unittest
 from desktop import DesktopTest, click, drag, window_box, x_window
 from launcher import output_of, wait_for, xdotool
 from scripted import ScriptedTest
-from x11 import ask_to_close, tray_is_there
+from x11 import ask_to_close
 
 TOOL = "bin/ImageViewer"
-
-
-def setUpModule():
-    wait_for("the desktop has a tray", tray_is_there)
 
 
 class DuringAScan(ScriptedTest):

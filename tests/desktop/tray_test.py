@@ -5,16 +5,11 @@ import unittest
 from desktop import DESKTOP, DesktopTest, click, move, window_box, x_window
 from launcher import output_of, wait_for, xdotool
 from screen import grab
-from x11 import tray_is_there
 
 NAME = "Corvix X - Application Launcher"
 
 
 class WithTray(DesktopTest):
-    @classmethod
-    def setUpClass(cls):
-        wait_for("the desktop has a tray", tray_is_there)
-
     def click_icon(self, launcher, button, times=1):
         click(*launcher.middle_of(launcher.tray_icon()), button, times)
 

@@ -1,6 +1,5 @@
-"""The two things to ask of the X server that xdotool does not know."""
+"""The one request to the X server that xdotool does not know."""
 
-import contextlib
 import ctypes
 
 xlib = ctypes.CDLL("libX11.so.6")
@@ -14,26 +13,11 @@ class ClientMessage(ctypes.Structure):
                 ("format", ctypes.c_int), ("data", ctypes.c_long * 5), ("padding", ctypes.c_long * 12)]
 
 
-@contextlib.contextmanager
-def opened_display():
-    display = ctypes.c_void_p(xlib.XOpenDisplay(None))
-    try:
-        yield display
-    finally:
-        xlib.XCloseDisplay(display)
-
-
-def tray_is_there():
-    """Whether a program has taken the selection that stands for the system tray."""
-    with opened_display() as display:
-        tray = xlib.XInternAtom(display, b"_NET_SYSTEM_TRAY_S0", False)
-        return xlib.XGetSelectionOwner(display, ctypes.c_ulong(tray)) != 0
-
-
 def ask_to_close(window):
     """As a task bar does; the window may decline."""
-    with opened_display() as display:
-        message = ClientMessage(type=33, window=int(window), format=32,
-                                message_type=xlib.XInternAtom(display, b"_NET_CLOSE_WINDOW", False))
-        root = ctypes.c_ulong(xlib.XDefaultRootWindow(display))
-        xlib.XSendEvent(display, root, False, ctypes.c_long(SUBSTRUCTURE), ctypes.byref(message))
+    display = ctypes.c_void_p(xlib.XOpenDisplay(None))
+    message = ClientMessage(type=33, window=int(window), format=32,
+                            message_type=xlib.XInternAtom(display, b"_NET_CLOSE_WINDOW", False))
+    root = ctypes.c_ulong(xlib.XDefaultRootWindow(display))
+    xlib.XSendEvent(display, root, False, ctypes.c_long(SUBSTRUCTURE), ctypes.byref(message))
+    xlib.XCloseDisplay(display)
