@@ -31,8 +31,11 @@ private slots:
     void rightOrMiddlePressDoesNotDrag();
     void rightReleaseDoesNotEndADrag();
     void leftReleaseEndsTheDrag();
+    void leftReleaseOutsideTheHeaderEndsTheDrag();
     void moveIsFollowedWhateverButtonIsHeld();
     void moveWithoutAPressDoesNothing();
+    void onlyThePressIsLeftUnaccepted_data();
+    void onlyThePressIsLeftUnaccepted();
     void pressOnAHeaderButtonDoesNotDrag_data();
     void pressOnAHeaderButtonDoesNotDrag();
 
@@ -41,6 +44,8 @@ private:
     void press(const QPoint &at, Qt::MouseButton button = Qt::LeftButton);
     void release(const QPoint &at, Qt::MouseButton button = Qt::LeftButton);
     void move(const QPoint &at);
+    bool send(
+        QEvent::Type type, const QPoint &at, Qt::MouseButton button, Qt::MouseButtons held = Qt::NoButton);
     QPoint pressedAndMoved(const QPoint &at, Qt::MouseButton button);
 
     std::unique_ptr<ConfiguredWindow> m_window;
@@ -90,6 +95,16 @@ void TestHeaderAndDrag::move(const QPoint &at)
 {
     QTest::mouseMove(m_window->window.windowHandle(), at);
     QCoreApplication::processEvents();
+}
+
+/// Hands the event to the window itself, past what Qt withholds: it drops moves with no button held.
+/// Returns whether the window accepted it.
+bool TestHeaderAndDrag::send(
+    QEvent::Type type, const QPoint &at, Qt::MouseButton button, Qt::MouseButtons held)
+{
+    QMouseEvent event(type, at, m_window->window.mapToGlobal(at), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&m_window->window, &event);
+    return event.isAccepted();
 }
 
 /// How far the window went when the mouse went `m_way` with the button down.
@@ -184,29 +199,59 @@ void TestHeaderAndDrag::leftReleaseEndsTheDrag()
     press(at);
     move(at + m_way);
     release(at);
-    move(at + m_way);
+    send(QEvent::MouseMove, at + m_way, Qt::NoButton, Qt::RightButton);
     QCOMPARE(m_window->window.pos(), m_start + m_way);
+    const QPoint elsewhere = centerOf("footerLabel");
+    press(elsewhere);
+    move(elsewhere - m_way);
+    release(elsewhere - m_way);
+    QCOMPARE(m_window->window.pos(), m_start + m_way);
+}
+
+void TestHeaderAndDrag::leftReleaseOutsideTheHeaderEndsTheDrag()
+{
+    const QPoint at = centerOf("titleLabel");
+    press(at);
+    send(QEvent::MouseButtonRelease, centerOf("footerLabel"), Qt::LeftButton);
+    send(QEvent::MouseMove, at + m_way, Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(m_window->window.pos(), m_start);
+    release(at);
 }
 
 // Intended: only the left press and the left release count, never the buttons that a move reports.
 void TestHeaderAndDrag::moveIsFollowedWhateverButtonIsHeld()
 {
-    press(centerOf("titleLabel"));
-    const QPoint local = centerOf("titleLabel") + m_way;
-    QMouseEvent move(QEvent::MouseMove, local, m_window->window.mapToGlobal(local), Qt::NoButton,
-        Qt::RightButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&m_window->window, &move);
+    const QPoint at = centerOf("titleLabel");
+    press(at);
+    send(QEvent::MouseMove, at + m_way, Qt::NoButton, Qt::RightButton);
     QCOMPARE(m_window->window.pos(), m_start + m_way);
-    release(centerOf("titleLabel"));
+    release(at);
 }
 
 void TestHeaderAndDrag::moveWithoutAPressDoesNothing()
 {
-    const QPoint local = centerOf("titleLabel");
-    QMouseEvent move(QEvent::MouseMove, local, m_window->window.mapToGlobal(local), Qt::NoButton,
-        Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&m_window->window, &move);
+    send(QEvent::MouseMove, centerOf("titleLabel"), Qt::NoButton, Qt::LeftButton);
     QCOMPARE(m_window->window.pos(), m_start);
+}
+
+void TestHeaderAndDrag::onlyThePressIsLeftUnaccepted_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("header, left") << QByteArray("titleLabel") << Qt::LeftButton;
+    QTest::newRow("header, right") << QByteArray("titleLabel") << Qt::RightButton;
+    QTest::newRow("footer, left") << QByteArray("footerLabel") << Qt::LeftButton;
+}
+
+// Intended: the press alone goes on to the base class, which leaves it unaccepted.
+void TestHeaderAndDrag::onlyThePressIsLeftUnaccepted()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(Qt::MouseButton, button);
+    const QPoint at = centerOf(name.constData());
+    QVERIFY(!send(QEvent::MouseButtonPress, at, button, button));
+    QVERIFY(send(QEvent::MouseMove, at, Qt::NoButton, button));
+    QVERIFY(send(QEvent::MouseButtonRelease, at, button));
 }
 
 void TestHeaderAndDrag::pressOnAHeaderButtonDoesNotDrag_data()
