@@ -4,9 +4,9 @@
 
 OpenedDirectories::OpenedDirectories() : m_path(qgetenv("PATH"))
 {
-    // Written aside and renamed, so that a reader sees the whole call or nothing.
+    // Appended in one write, so that a reader sees whole calls only.
     ScriptFile::writeExecutable(m_directory.filePath(QStringLiteral("xdg-open")),
-        "cd \"$(dirname \"$0\")\" && printf '%s\\n' \"$@\" > call.tmp && mv call.tmp call\n");
+        "printf '%s\\n' \"$@\" >> \"$(dirname \"$0\")/calls\"\n");
     qputenv("PATH", m_directory.path().toLocal8Bit() + ':' + m_path);
 }
 
@@ -17,5 +17,5 @@ OpenedDirectories::~OpenedDirectories()
 
 QString OpenedDirectories::arguments() const
 {
-    return QString::fromUtf8(ScriptFile::read(m_directory.filePath(QStringLiteral("call"))));
+    return QString::fromUtf8(ScriptFile::read(m_directory.filePath(QStringLiteral("calls"))));
 }

@@ -15,7 +15,7 @@ public:
     OpenedDirectories(const OpenedDirectories &) = delete;
     OpenedDirectories &operator=(const OpenedDirectories &) = delete;
 
-    /// The arguments of the only call, one per line; empty until there was one.
+    /// The arguments of all calls so far, one per line.
     QString arguments() const;
 
 private:

@@ -50,6 +50,20 @@ void prepare(ConfiguredWindow &configured)
     configured.show();
 }
 
+/// A shown window with two cameras, whose transport-layer files are in "one" and "two".
+void prepareTwo(ConfiguredWindow &configured)
+{
+    configured.touch(latin1("one/a_gige.cti"));
+    configured.touch(latin1("two/a_usb.cti"));
+    ScriptFile::write(
+        configured.path("bin/CvxC.xml"), "<c><CtiPaths><Path>one</Path><Path>two</Path></CtiPaths></c>");
+    configured.loadConfig();
+    CameraInfo usb = gigE("b");
+    usb.interfaceType = latin1("USB");
+    configured.list({gigE(), usb});
+    configured.show();
+}
+
 } // namespace
 
 void TestCameraMenu::initTestCase()
@@ -103,31 +117,23 @@ void TestCameraMenu::directoryIsOneArgumentWhateverItsName()
 void TestCameraMenu::dismissingItOpensNothing()
 {
     ConfiguredWindow configured;
-    prepare(configured);
+    prepareTwo(configured);
     const OpenedDirectories opened;
     ModalCatcher catcher;
     rightClick(configured, 0); // Closed with Escape.
     QCOMPARE(catcher.menus().size(), 1);
     catcher.choose = latin1("CTI location");
-    rightClick(configured, 0);
-    // One call's worth of arguments after both: had the first one started the opener, too, it would have
-    // had the whole second menu's time to write.
-    QTRY_COMPARE(opened.arguments(), configured.path("cti\n"));
+    rightClick(configured, 1);
+    // Had the first menu started the opener, too, its call would stand before this one: it would have had
+    // the whole second menu's time to write.
+    QTRY_COMPARE(opened.arguments(), configured.path("two\n"));
     QCOMPARE(catcher.menus().size(), 2);
 }
 
 void TestCameraMenu::menuFollowsTheCamerasInterface()
 {
     ConfiguredWindow configured;
-    configured.touch(latin1("one/a_gige.cti"));
-    configured.touch(latin1("two/a_usb.cti"));
-    ScriptFile::write(
-        configured.path("bin/CvxC.xml"), "<c><CtiPaths><Path>one</Path><Path>two</Path></CtiPaths></c>");
-    configured.loadConfig();
-    CameraInfo usb = gigE("b");
-    usb.interfaceType = latin1("USB");
-    configured.list({gigE(), usb});
-    configured.show();
+    prepareTwo(configured);
     const OpenedDirectories opened;
     ModalCatcher catcher;
     catcher.choose = latin1("CTI location");
