@@ -18,6 +18,7 @@ private slots:
     void leavingTheTableClearsTheTint();
     void spaceBelowTheLastRowIsNoRow();
     void rebuildKeepsTheHoveredRow();
+    void tableGetsTheEventsAsWell();
     void moveWithinTheRowRepaintsNothing();
     void leaveAlwaysRepaints();
     void groupBarStandsOnlyInTheFirstColumn();
@@ -36,6 +37,14 @@ const QString hoverColor = QStringLiteral("#243447");
 const QString barColor = QStringLiteral("#64748b");
 const QString ground = QStringLiteral("#0f1419");
 
+QVector<CameraInfo> threeCameras()
+{
+    QVector<CameraInfo> cameras;
+    for (const char *id : {"a", "b", "c"})
+        cameras.append(camera(latin1("Orvelle"), latin1("Kx"), latin1(id), latin1(id)));
+    return cameras;
+}
+
 } // namespace
 
 void TestCameraTableHover::initTestCase()
@@ -47,10 +56,7 @@ void TestCameraTableHover::init()
 {
     m_configured = std::make_unique<ConfiguredWindow>();
     m_configured->loadConfig();
-    QVector<CameraInfo> cameras;
-    for (const char *id : {"a", "b", "c"})
-        cameras.append(camera(latin1("Orvelle"), latin1("Kx"), latin1(id), latin1(id)));
-    m_configured->list(cameras);
+    m_configured->list(threeCameras());
     m_configured->show();
     moveTo({2, 2});
 }
@@ -116,9 +122,9 @@ void TestCameraTableHover::hoveredRowIsTintedInAllCells()
 void TestCameraTableHover::selectedRowKeepsItsOwnColour()
 {
     m_configured->click(m_configured->cellCenter(1, 1));
+    moveTo({2, 2}); // The style's colour lets the tint shine through, so it is taken with no row hovered.
     const QString selected = color(1, 1);
     QVERIFY(selected != hoverColor && selected != ground);
-    moveTo(m_configured->cellCenter(0, 1));
     moveTo(m_configured->cellCenter(1, 1));
     for (int column = 0; column < 3; ++column)
         QCOMPARE(color(1, column), selected);
@@ -146,8 +152,18 @@ void TestCameraTableHover::spaceBelowTheLastRowIsNoRow()
 void TestCameraTableHover::rebuildKeepsTheHoveredRow()
 {
     moveTo(m_configured->cellCenter(1, 1));
-    m_configured->window.setSelectedCamera({});
+    m_configured->list(threeCameras());
     QCOMPARE(color(1, 1), hoverColor);
+}
+
+void TestCameraTableHover::tableGetsTheEventsAsWell()
+{
+    const QSignalSpy entered(m_configured->table(), &QTableWidget::cellEntered);
+    moveTo(m_configured->cellCenter(1, 2));
+    QCOMPARE(entered, (QList<QList<QVariant>>{{1, 2}}));
+    QObject &filter = m_configured->window; // As Qt calls it.
+    QEvent leave(QEvent::Leave);
+    QVERIFY(!filter.eventFilter(m_configured->table()->viewport(), &leave));
 }
 
 void TestCameraTableHover::moveWithinTheRowRepaintsNothing()
