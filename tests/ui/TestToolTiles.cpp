@@ -36,6 +36,7 @@ private slots:
     void tilesKeepTheirPlaces();
     void toolsWithTheSameIdGoTogether();
     void idsAreComparedWithLetterCase();
+    void recommendedToolWithoutATileIsIgnored();
     void pressAsksForTheExecutableAsConfigured();
     void rightPressAsksForNothing();
     void disabledTileAsksForNothing();
@@ -274,6 +275,19 @@ void TestToolTiles::idsAreComparedWithLetterCase()
     QCOMPARE(configured.tiles().size(), 2);
     QVERIFY(!configured.tiles().at(0)->isEnabled());
     QVERIFY(configured.tiles().at(1)->isEnabled());
+}
+
+void TestToolTiles::recommendedToolWithoutATileIsIgnored()
+{
+    ConfiguredWindow configured(filesWith(
+        groups({group("areascan", {tool("a", "bin/Same")}), group("linescan", {tool("b", "bin/Same")})})));
+    configured.loadConfig();
+    // "b" is recommended, but the executable has its tile already, that of "a".
+    configured.window.setSelectedCamera(camera(latin1("Lintaro"), {}, {}, latin1("id")));
+    QCOMPARE(names(configured, false), upper({"a"}));
+    QCOMPARE(enabledNames(configured), QStringList());
+    QCOMPARE(
+        hint(configured.window), latin1("Recommended for LINESCAN. Non-recommended tools are disabled."));
 }
 
 void TestToolTiles::pressAsksForTheExecutableAsConfigured()
