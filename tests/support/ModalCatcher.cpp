@@ -34,8 +34,8 @@ void ModalCatcher::look()
 
 void ModalCatcher::answerBox(QMessageBox *box)
 {
-    m_boxes.append({box->windowTitle(), box->text(), box->icon(), box->standardButtons(),
-        box->standardButton(box->defaultButton()), box->parentWidget()});
+    m_boxes.append(
+        {box->windowTitle(), box->text(), box->icon(), box->standardButtons(), box->parentWidget()});
     if (onBox)
         onBox(*box);
     const QList<QAbstractButton *> buttons = box->buttons();

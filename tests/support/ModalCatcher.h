@@ -24,7 +24,6 @@ public:
         QString text;
         QMessageBox::Icon icon;
         QMessageBox::StandardButtons buttons;
-        QMessageBox::StandardButton defaultButton;
         QPointer<QWidget> parent;
     };
 
