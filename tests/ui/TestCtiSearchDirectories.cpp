@@ -2,6 +2,7 @@
 #include "tests/support/MessageLog.h"
 #include "tests/support/ScriptFile.h"
 #include "tests/ui/ConfiguredWindow.h"
+#include "ui/CtiSearchDirectories.h"
 
 #include <QDir>
 #include <QtTest>
@@ -20,6 +21,7 @@ class TestCtiSearchDirectories : public QObject
 private slots:
     void document_data();
     void document();
+    void directoriesComeOnceInTheOrderOfTheirFirstMention();
     void missingDocumentMeansTheDirectoryCti();
     void unreadableDocumentMeansTheDirectoryCti_data();
     void unreadableDocumentMeansTheDirectoryCti();
@@ -114,7 +116,6 @@ void TestCtiSearchDirectories::document_data()
     add("missing relative directory", "<c><CtiPaths><Path>nowhere</Path></CtiPaths></c>", "cti");
     add("missing beside a present one", "<c><CtiPaths><Path>nowhere</Path><Path>more</Path></CtiPaths></c>",
         "more");
-    add("named twice", "<c><CtiPaths><Path>more</Path><Path>more</Path></CtiPaths></c>", "more");
     add("error after a path", "<c><CtiPaths><Path>more</Path><Path>last</CtiPaths></c>", "more");
     add("child element ends the reading",
         "<c><CtiPaths><Path>more</Path><Path>cti<b/></Path><Path>last</Path></CtiPaths></c>", "more");
@@ -147,6 +148,22 @@ void TestCtiSearchDirectories::document()
     ScriptFile::write(configured.path("bin/CvxC.xml"), xml);
     configured.loadConfig();
     QTEST(searched(configured), "directories");
+}
+
+// The list itself: a directory that is searched twice finds the same files.
+void TestCtiSearchDirectories::directoriesComeOnceInTheOrderOfTheirFirstMention()
+{
+    ConfiguredWindow configured(noFiles);
+    prepare(configured);
+    const QString last = configured.path("last");
+    // Compared as texts: "./more" is another one.
+    const QStringList paths{latin1("last"), latin1("more"), last, latin1("cti"), latin1("./more"),
+        latin1("/nowhere"), latin1("more"), latin1("/nowhere")};
+    ScriptFile::write(configured.path("bin/CvxC.xml"),
+        "<CtiPaths><Path>" + paths.join(latin1("</Path><Path>")).toUtf8() + "</Path></CtiPaths>");
+    const QStringList expected{
+        last, configured.path("more"), configured.path("cti"), configured.path("./more"), latin1("/nowhere")};
+    QCOMPARE(ctiSearchDirsFromCvxCXml(configured.root()), expected);
 }
 
 void TestCtiSearchDirectories::missingDocumentMeansTheDirectoryCti()
