@@ -73,7 +73,10 @@ QString searchDirectory(const QString &path, const QDir &installRoot, const QDir
         return path; // Taken unchecked: a missing directory is skipped when it is searched.
     for (const QDir &base : {installRoot, xmlDirectory}) {
         // Not filePath(), which takes a name with a colon in front for a resource of ours.
-        QString candidate = base.path() + QLatin1Char('/') + path;
+        QString candidate = base.path();
+        if (!candidate.endsWith(QLatin1Char('/'))) // As "/" does.
+            candidate += QLatin1Char('/');
+        candidate += path;
         if (QFileInfo(candidate).isDir())
             return candidate;
     }

@@ -28,6 +28,7 @@ private slots:
     void missingAbsoluteDirectoryIsKeptAndSkipped();
     void absoluteDirectoryIsTakenAsItStands();
     void relativeDirectoryPrefersTheInstallRoot();
+    void installRootThatEndsInASlashGetsNoSecondOne();
     void fileInPlaceOfARelativeDirectoryIsPassedOver();
     void emptyInstallRootMeansTheCurrentDirectory();
     void wideCharactersKeepTheirHalves_data();
@@ -240,6 +241,17 @@ void TestCtiSearchDirectories::relativeDirectoryPrefersTheInstallRoot()
     configured.loadConfig();
     configured.list({camera({}, {}, {}, {}, latin1("GigE"))});
     QCOMPARE(configured.ctiFile(0), latin1("root_gige.cti")); // "bin_gige.cti" would win a tie.
+}
+
+// As "/" ends in one. Of two, QDir drops one.
+void TestCtiSearchDirectories::installRootThatEndsInASlashGetsNoSecondOne()
+{
+    ConfiguredWindow configured(noFiles);
+    prepare(configured);
+    ScriptFile::write(configured.path("bin/CvxC.xml"), "<c><CtiPaths><Path>more</Path></CtiPaths></c>");
+    const QString root = configured.root() + latin1("//");
+    QVERIFY(QDir(root).path().endsWith(QLatin1Char('/')));
+    QCOMPARE(ctiSearchDirsFromCvxCXml(root), QStringList{configured.path("more")});
 }
 
 void TestCtiSearchDirectories::fileInPlaceOfARelativeDirectoryIsPassedOver()
