@@ -122,10 +122,12 @@ void TestCtiChoice::betterScoreWins_data()
         QTest::newRow(name) << latin1(type) << words(files) << latin1(best);
     };
     add("two keywords against none", "GigE", "a_gige.cti b_usb.cti", "a_gige.cti");
+    add("two keywords outweigh the name", "GigE", "b_gige.cti a_usb.cti", "b_gige.cti");
     add("two keywords against one", "GigE", "a_gig.cti b_gige.cti", "b_gige.cti");
     add("three keywords against two", "GigE", "a_gige.cti b_gevt_gig.cti", "b_gevt_gig.cti");
     add("gigeetl has three", "GigE", "a_gevt.cti b_gigeetl.cti", "b_gigeetl.cti");
     add("usbtl has five hits", "USB", "y_usb.cti x_usbtl.cti", "x_usbtl.cti");
+    add("five hits outweigh the name", "USB", "y_usb.cti z_usbtl.cti", "z_usbtl.cti");
     // "usbt" stands twice in the list and "usbtL" is lower-cased: both on purpose. So "usbt" scores 300 and
     // ties with nothing less, "usbtl" scores 500.
     add("usbt counts twice", "USB", "a_usb_u3v.cti b_usbt.cti", "b_usbt.cti");
@@ -133,7 +135,13 @@ void TestCtiChoice::betterScoreWins_data()
     add("usb and u3v against usb", "USB", "a_usb.cti b_usb_u3v.cti", "b_usb_u3v.cti");
     add("high-speed link has its own row", "CameraLinkHS", "a_cameralink_cltl.cti b_clhs.cti", "b_clhs.cti");
     add("link has its own row", "CameraLink", "a_clhs.cti b_cltl.cti", "b_cltl.cti");
-    add("simulator goes first", "GigE Simulator", "a_gige.cti b_simulator.cti", "b_simulator.cti");
+    // A label with the words of two rows has the keywords of the earlier one alone.
+    add("simulator before gige", "GigE Simulator", "a_gige.cti b_simulator.cti", "b_simulator.cti");
+    add("gige before usb", "USB GigE", "a_usb.cti b_gige.cti", "b_gige.cti");
+    add("usb before cxp", "CXP USB", "a_cxp.cti b_usb.cti", "b_usb.cti");
+    add("cxp before clhs", "CLHS CXP", "a_clhs.cti b_cxp.cti", "b_cxp.cti");
+    add("clhs before cl", "CL CLHS", "a_cl.cti b_clhs.cti", "b_clhs.cti");
+    add("cl before iidc", "IIDC CL", "a_iidc.cti b_cl.cti", "b_cl.cti");
     add("maker's name decides between equals", "GigE", "a_gige.cti b_gige_Corvix.cti", "b_gige_Corvix.cti");
     add("maker's name never outweighs a keyword", "GigE", "a_corvix_gev.cti b_gige.cti", "b_gige.cti");
     add("name decides between equals", "GigE", "b_gige.cti a_gige.cti c_gige.cti", "a_gige.cti");
