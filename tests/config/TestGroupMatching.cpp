@@ -1,6 +1,7 @@
 #include "config/LauncherConfig.h"
 #include "tests/config/ConfigDocuments.h"
 #include "tests/support/CameraBuilder.h"
+#include "tests/support/MessageLog.h"
 
 #include <QtTest>
 
@@ -17,6 +18,7 @@ private slots:
     void nameAndSerialTakeNoPart();
     void longerReferenceModelWinsWhateverTheFileOrder();
     void rowTypeIsTakenAsItStands();
+    void rowWithoutAModelTakesNoCamera();
     void missingGroupIsEmptyAndNotTheNextTest_data();
     void missingGroupIsEmptyAndNotTheNextTest();
     void emptyConfigurationGivesTheEmptyGroup();
@@ -129,6 +131,16 @@ void TestGroupMatching::rowTypeIsTakenAsItStands()
     LauncherConfig config;
     config.parseConfig(allGroups(), references({{"Kx200", "AreaScan"}}), {});
     QCOMPARE(groupType(config, latin1("Orvelle"), latin1("Kx200")), QString());
+}
+
+// Every text contains the empty one, so such a row is not kept.
+void TestGroupMatching::rowWithoutAModelTakesNoCamera()
+{
+    LauncherConfig config;
+    const MessageLog log; // Its warning is a promise of its own.
+    config.parseConfig(allGroups(), references({{"", "areascan"}}), {});
+    QCOMPARE(groupType(config, {}, {}), latin1("other"));
+    QCOMPARE(groupType(config, latin1("Some Maker"), latin1("Nova 7")), latin1("other"));
 }
 
 void TestGroupMatching::missingGroupIsEmptyAndNotTheNextTest_data()
