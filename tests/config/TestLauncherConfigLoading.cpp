@@ -27,6 +27,12 @@ private slots:
     void nothingEmbeddedIsAnEmptyConfigurationWithoutAMessage();
     void fieldOfAnotherTypeReadsEmpty_data();
     void fieldOfAnotherTypeReadsEmpty();
+    void groupFieldOfAnotherTypeReadsEmpty_data();
+    void groupFieldOfAnotherTypeReadsEmpty();
+    void groupWhoseTypeIsNoTextHasTheEmptyKey_data();
+    void groupWhoseTypeIsNoTextHasTheEmptyKey();
+    void listOfAnotherTypeReadsEmpty_data();
+    void listOfAnotherTypeReadsEmpty();
     void toolIsReadWhole();
     void missingListsAreEmpty();
     void listElementsThatAreNoTextBecomeEmptyTexts();
@@ -93,6 +99,26 @@ ToolConfig onlyTool(const QJsonObject &toolObject)
     LauncherConfig config;
     config.parseConfig(groups({group("other", {toolObject})}), {}, {});
     return config.findGroupForCamera({}).tools.value(0);
+}
+
+/// A name for a row of test data.
+const char *typeName(const QJsonValue &value)
+{
+    static const char *const names[] = {"null", "truth value", "number", "text", "array", "object"};
+    return value.isUndefined() ? "missing" : names[value.type()];
+}
+
+/// What may stand in the place of a text.
+QVector<QJsonValue> noTexts()
+{
+    return {QJsonValue::Undefined, QJsonValue::Null, true, 12, QJsonArray{latin1("x")},
+        QJsonObject{{latin1("x"), latin1("x")}}};
+}
+
+/// What may stand in the place of a list; the object is one that the list could hold.
+QVector<QJsonValue> noLists(const QJsonObject &element)
+{
+    return {QJsonValue::Undefined, QJsonValue::Null, true, 12, latin1("x"), element};
 }
 
 } // namespace
@@ -245,16 +271,14 @@ void TestLauncherConfigLoading::fieldOfAnotherTypeReadsEmpty_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QJsonValue>("value");
-    for (const char *key : {"id", "name", "executable", "description", "platforms", "transports"}) {
-        QTest::addRow("%s missing", key) << latin1(key) << QJsonValue(QJsonValue::Undefined);
-        QTest::addRow("%s null", key) << latin1(key) << QJsonValue();
-        QTest::addRow("%s number", key) << latin1(key) << QJsonValue(12);
-        QTest::addRow("%s object", key) << latin1(key) << QJsonValue(QJsonObject{{latin1("a"), 1}});
+    for (const char *key : {"id", "name", "executable", "description"}) {
+        for (const QJsonValue &value : noTexts())
+            QTest::addRow("%s %s", key, typeName(value)) << latin1(key) << value;
     }
-    for (const char *key : {"id", "name", "executable", "description"})
-        QTest::addRow("%s array", key) << latin1(key) << QJsonValue(QJsonArray{latin1("x")});
-    for (const char *key : {"platforms", "transports"})
-        QTest::addRow("%s text", key) << latin1(key) << QJsonValue(latin1("USB"));
+    for (const char *key : {"platforms", "transports"}) {
+        for (const QJsonValue &value : noLists({{latin1("a"), 1}}))
+            QTest::addRow("%s %s", key, typeName(value)) << latin1(key) << value;
+    }
 }
 
 void TestLauncherConfigLoading::fieldOfAnotherTypeReadsEmpty()
@@ -269,6 +293,85 @@ void TestLauncherConfigLoading::fieldOfAnotherTypeReadsEmpty()
         {latin1("description"), read.description.isEmpty()}, {latin1("platforms"), read.platforms.isEmpty()},
         {latin1("transports"), read.transports.isEmpty()}};
     QCOMPARE(empty.keys(true), QStringList{key}); // The others are read all the same.
+}
+
+void TestLauncherConfigLoading::groupFieldOfAnotherTypeReadsEmpty_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("value");
+    for (const char *key : {"name", "brand", "description"}) {
+        for (const QJsonValue &value : noTexts())
+            QTest::addRow("%s %s", key, typeName(value)) << latin1(key) << value;
+    }
+    for (const QJsonValue &value : noLists(tool("a", "bin/A")))
+        QTest::addRow("tools %s", typeName(value)) << latin1("tools") << value;
+}
+
+void TestLauncherConfigLoading::groupFieldOfAnotherTypeReadsEmpty()
+{
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, value);
+    QJsonObject object = group("other", {tool("a", "bin/A")});
+    object.insert(latin1("brand"), latin1("Brand"));
+    object.insert(latin1("description"), latin1("Description"));
+    object.insert(key, value);
+    LauncherConfig config;
+    config.parseConfig(groups({object}), {}, {});
+    const HardwareGroupConfig read = config.findGroupForCamera({});
+    const QMap<QString, bool> empty{{latin1("type"), read.type.isEmpty()},
+        {latin1("name"), read.name.isEmpty()}, {latin1("brand"), read.brand.isEmpty()},
+        {latin1("description"), read.description.isEmpty()}, {latin1("tools"), read.tools.isEmpty()}};
+    QCOMPARE(empty.keys(true), QStringList{key}); // The others are read all the same.
+}
+
+void TestLauncherConfigLoading::groupWhoseTypeIsNoTextHasTheEmptyKey_data()
+{
+    QTest::addColumn<QJsonValue>("type");
+    for (const QJsonValue &type : noTexts())
+        QTest::newRow(typeName(type)) << type;
+}
+
+void TestLauncherConfigLoading::groupWhoseTypeIsNoTextHasTheEmptyKey()
+{
+    QFETCH(QJsonValue, type);
+    QJsonObject earlier = group("", {tool("earlier", "bin/Earlier")});
+    earlier.insert(latin1("type"), type);
+    LauncherConfig config;
+    config.parseConfig(groups({earlier}), {}, {});
+    QCOMPARE(config.allTools({}).value(0).id, latin1("earlier"));
+    // No query gets at the empty key; but what is stored under it as well takes the group's place.
+    config.parseConfig(groups({group("", {tool("later", "bin/Later")})}), {}, {});
+    QCOMPARE(config.allTools({}).size(), 1);
+    QCOMPARE(config.allTools({}).value(0).id, latin1("later"));
+}
+
+void TestLauncherConfigLoading::listOfAnotherTypeReadsEmpty_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QStringList>("known");
+    const auto add = [](const QString &path, const char *key, const QStringList &known) {
+        const QJsonArray list
+            = QJsonDocument::fromJson(usableDocuments().value(path)).object().value(latin1(key)).toArray();
+        for (const QJsonValue &value : noLists(list.at(0).toObject()))
+            QTest::addRow("%s %s", key, typeName(value)) << path << latin1(key) << value << known;
+    };
+    add(groupsPath, "hardwareGroups", {latin1("compatibility")}); // Without groups no row shows.
+    add(referencePath, "cameras", {latin1("groups"), latin1("compatibility")});
+}
+
+void TestLauncherConfigLoading::listOfAnotherTypeReadsEmpty()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, value);
+    QJsonObject document = QJsonDocument::fromJson(usableDocuments().value(path)).object();
+    document.insert(key, value);
+    const EmbeddedFiles files(usableDocumentsWith(path, json(document)));
+    MessageLog log;
+    QTEST(knows(loaded()), "known");
+    QCOMPARE(log.entries().size(), 0);
 }
 
 void TestLauncherConfigLoading::toolIsReadWhole()

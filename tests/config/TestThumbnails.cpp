@@ -16,6 +16,9 @@ private slots:
     void picture();
     void incompleteRowIsSkippedWithAWarning_data();
     void incompleteRowIsSkippedWithAWarning();
+    void fieldThatIsNoTextReadsEmpty_data();
+    void fieldThatIsNoTextReadsEmpty();
+    void rowThatIsNoObjectReadsEmpty();
     void percentSignInARowIsNoPlaceInTheWarning();
     void rowsAfterAnInvalidOneStillCount();
     void firstSevenCharactersGoWithoutALook_data();
@@ -116,6 +119,47 @@ void TestThumbnails::incompleteRowIsSkippedWithAWarning()
     QCOMPARE(log.entries().size(), 1);
     // Of the maker's cameras every one would match the row, had it been kept.
     QCOMPARE(config.findThumbnailForCamera(camera(latin1("Orvelle"), latin1("Kx"))), logo);
+}
+
+void TestThumbnails::fieldThatIsNoTextReadsEmpty_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QString>("message");
+    const auto add = [](const char *key, const QString &message) {
+        QTest::addRow("%s missing", key) << latin1(key) << QJsonValue(QJsonValue::Undefined) << message;
+        QTest::addRow("%s null", key) << latin1(key) << QJsonValue() << message;
+        QTest::addRow("%s number", key) << latin1(key) << QJsonValue(12) << message;
+        QTest::addRow("%s truth value", key) << latin1(key) << QJsonValue(true) << message;
+        QTest::addRow("%s array", key) << latin1(key) << QJsonValue(QJsonArray{latin1("12")}) << message;
+    };
+    add("model", warning("", "areascan", "assets/cameras/kx.png"));
+    add("type", warning("12", "", "assets/cameras/kx.png"));
+    add("thumbnail", warning("12", "areascan", ""));
+}
+
+void TestThumbnails::fieldThatIsNoTextReadsEmpty()
+{
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, value);
+    QFETCH(QString, message);
+    QJsonObject row{{latin1("model"), latin1("12")}, {latin1("type"), latin1("areascan")},
+        {latin1("thumbnail"), latin1("assets/cameras/kx.png")}};
+    row.insert(key, value);
+    LauncherConfig config;
+    MessageLog log;
+    config.parseConfig(allGroups(), {{latin1("cameras"), QJsonArray{row}}}, {});
+    QCOMPARE(log.texts(QtWarningMsg), QStringList{message});
+    QCOMPARE(config.findThumbnailForCamera(camera(latin1("Orvelle"), latin1("12"))), logo);
+}
+
+void TestThumbnails::rowThatIsNoObjectReadsEmpty()
+{
+    LauncherConfig config;
+    MessageLog log;
+    config.buildThumbnailLookup({{latin1("cameras"), QJsonArray{12, latin1("Kx"), QJsonValue()}}});
+    QCOMPARE(log.texts(QtWarningMsg),
+        QStringList({warning("", "", ""), warning("", "", ""), warning("", "", "")}));
 }
 
 void TestThumbnails::percentSignInARowIsNoPlaceInTheWarning()
