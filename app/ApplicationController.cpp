@@ -73,7 +73,6 @@ ApplicationController::ApplicationController(QObject *parent)
 
 ApplicationController::~ApplicationController()
 {
-    window->hide(); // Or it would stand there, dead, until the scan has ended.
     // QtConcurrent::run() cannot be cancelled; it is the wait that keeps the scan off a closed SDK.
     watcher.cancel();
     watcher.waitForFinished();
@@ -118,6 +117,8 @@ void ApplicationController::refreshCameras()
 {
     if (scanning)
         return; // Dropped on purpose: a request during a scan causes no second scan afterwards.
+    if (!cameraProvider)
+        return; // A camera is announced while a box of init() stands open. The first scan will list it.
     scanning = true;
     window->setRefreshEnabled(false);
 

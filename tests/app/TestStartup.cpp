@@ -61,6 +61,7 @@ private slots:
     void refusedObserverIsReportedAndTheProgramRuns_data();
     void refusedObserverIsReportedAndTheProgramRuns();
     void bothObserversRefusedGiveTwoBoxesInOrder();
+    void cameraAnnouncedWhileABoxIsOpenIsListedByTheFirstScan();
     void acceptedObserversGiveNoBox();
 
     // run()
@@ -173,6 +174,29 @@ void TestStartup::refusedObserverIsReportedAndTheProgramRuns()
     QVERIFY(tileCount() > 0);
     refreshButton()->click();
     QTRY_COMPARE(rows(), QList<QStringList>{rowOf(QStringLiteral("a"))});
+}
+
+void TestStartup::cameraAnnouncedWhileABoxIsOpenIsListedByTheFirstScan()
+{
+    ModalCatcher catcher;
+    catcher.onBox = [](QMessageBox &) {
+        CvxScripted::announceCamera(cameraRecord("a"), CvxCPP::UpdateTriggerPluggedIn);
+        processQueuedEvents();
+    };
+    script().errors[Function::RegisterInterfaceListObserver] = CvxCPP::CvxErrorFailed;
+    script().cameras = {cameraRecord("a")};
+    ApplicationController controller;
+    QVERIFY(controller.init());
+    QCOMPARE(catcher.boxes().size(), 1);
+    QVERIFY(CvxScripted::callCount(Function::GetExtendedId) > 0); // The camera was announced.
+    QCOMPARE(scans(), 0);
+
+    QTimer::singleShot(0, qApp, [] {
+        QTRY_COMPARE(rows(), QList<QStringList>{rowOf(QStringLiteral("a"))});
+        QCoreApplication::quit();
+    });
+    QCOMPARE(controller.run(), 0);
+    QCOMPARE(scans(), 1);
 }
 
 void TestStartup::bothObserversRefusedGiveTwoBoxesInOrder()
