@@ -2,7 +2,6 @@
 
 #include "camera/SdkText.h"
 
-#include <QByteArray>
 #include <QMutex>
 #include <QMutexLocker>
 
@@ -14,9 +13,9 @@ void CameraObserver::CameraListChanged(
     const QMutexLocker locker(mutex);
     if (!camera)
         return;
-    QByteArray id;
+    QString id;
     const auto extendedId
         = [&camera](char *buffer, unsigned &size) { return camera->GetID(buffer, size, true); };
     if (SdkText::read(extendedId, id))
-        emit updateDeviceList(QString::fromUtf8(id), reason);
+        emit updateDeviceList(id, reason);
 }

@@ -37,10 +37,10 @@ CameraHandles cameraHandles(CvxSystem &system)
     }
 }
 
-/// The camera's plain ID, as bytes; empty when it cannot be read.
-QByteArray plainId(const Camera &camera)
+/// The camera's plain ID, as bytes or for showing; empty when it cannot be read.
+template <class Text> Text plainId(const Camera &camera)
 {
-    QByteArray id;
+    Text id;
     SdkText::read([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); }, id);
     return id;
 }
@@ -49,9 +49,9 @@ using TextGetter = CvxError (Camera::*)(char *, unsigned &) const;
 
 QString text(const Camera &camera, TextGetter getter)
 {
-    QByteArray bytes;
-    SdkText::read([&](char *buffer, unsigned &size) { return (camera.*getter)(buffer, size); }, bytes);
-    return QString::fromUtf8(bytes);
+    QString value;
+    SdkText::read([&](char *buffer, unsigned &size) { return (camera.*getter)(buffer, size); }, value);
+    return value;
 }
 
 /// Any type that the table does not name, and one that cannot be read, is "Other".
@@ -94,8 +94,22 @@ bool readText(const Feature &textFeature, std::string &value)
     }
 }
 
+/// The same for a text to be shown.
+bool readText(const Feature &textFeature, QString &value)
+{
+    try {
+        std::string bytes;
+        if (!readText(textFeature, bytes))
+            return false;
+        value = QString::fromUtf8(bytes.c_str());
+        return true;
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+}
+
 /// Walks the interface's device list for the camera and reads its vendor there; the first match decides.
-bool readVendorFromList(Interface &iface, std::string_view cameraId, std::string &vendor)
+bool readVendorFromList(Interface &iface, std::string_view cameraId, QString &vendor)
 {
     const std::shared_ptr<Feature> update = feature(iface, "DeviceUpdateList");
     const std::shared_ptr<Feature> selector = feature(iface, "DeviceSelector");
@@ -124,24 +138,24 @@ QString vendorName(const Camera &camera)
     std::shared_ptr<Interface> iface;
     if (camera.GetInterface(iface) != CvxErrorSuccess || !iface)
         return {};
-    const QByteArray cameraId = plainId(camera);
+    const auto cameraId = plainId<QByteArray>(camera);
     if (cameraId.isEmpty())
         return {};
-    std::string vendor;
+    QString vendor;
     if (readVendorFromList(*iface, {cameraId.constData(), std::size_t(cameraId.size())}, vendor))
-        return QString::fromUtf8(vendor.c_str());
+        return vendor;
 
     // Intended: whatever device is selected now answers, even if it is another one on the same interface.
     const std::shared_ptr<Feature> deviceVendor = feature(*iface, "DeviceVendorName");
     if (deviceVendor && readText(*deviceVendor, vendor))
-        return QString::fromUtf8(vendor.c_str());
+        return vendor;
     return {};
 }
 
 CameraInfo toCameraInfo(const Camera &camera)
 {
     CameraInfo info;
-    info.cameraId = QString::fromUtf8(plainId(camera));
+    info.cameraId = plainId<QString>(camera);
     info.modelName = text(camera, &Camera::GetModel);
     info.cameraName = text(camera, &Camera::GetName);
     info.serialNumber = text(camera, &Camera::GetSerialNumber);

@@ -18,3 +18,16 @@ bool SdkText::read(const Reader &reader, QByteArray &text)
         return false;
     }
 }
+
+bool SdkText::read(const Reader &reader, QString &text)
+{
+    try {
+        QByteArray bytes;
+        if (!read(reader, bytes))
+            return false;
+        text = QString::fromUtf8(bytes);
+        return true;
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+}

@@ -3,6 +3,7 @@
 #include "CvxCPP/CvxCPP.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <functional>
 
@@ -15,5 +16,8 @@ using Reader = std::function<CvxCPP::CvxError(char *buffer, unsigned &size)>;
 /// Stores the text, up to its first NUL, in `text` and returns true. When either call fails, or memory runs
 /// out, `text` stays as it was and the result is false.
 bool read(const Reader &reader, QByteArray &text);
+
+/// The same for a text to be shown: `text` is what the bytes mean in UTF-8.
+bool read(const Reader &reader, QString &text);
 
 } // namespace SdkText
