@@ -1,3 +1,5 @@
+#include "tests/support/ScriptFile.h"
+
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -19,8 +21,14 @@ Run run(const QString &program, const QByteArray &scenario)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LAUNCHER_TEST_SCENARIO"), QString::fromUtf8(scenario));
     environment.insert(QStringLiteral("QT_LOGGING_TO_CONSOLE"), QStringLiteral("1"));
-    const QTemporaryDir runtimeDirectory; // Qt wants a private one, or warns.
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDirectory.path());
+    const QTemporaryDir directory; // Of the run alone: Qt wants a private one, or warns.
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), directory.path());
+    // A desktop whose user wants the style "windows".
+    ScriptFile::write(directory.filePath(QStringLiteral("kdeglobals")), "[General]\nwidgetStyle=windows\n");
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), directory.path());
+    environment.insert(QStringLiteral("XDG_CURRENT_DESKTOP"), QStringLiteral("KDE"));
+    environment.insert(QStringLiteral("KDE_FULL_SESSION"), QStringLiteral("true"));
+    environment.insert(QStringLiteral("KDE_SESSION_VERSION"), QStringLiteral("5"));
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, QStringList());

@@ -3,6 +3,7 @@
 
 #include "ui/ApplicationLauncher.h"
 
+#include <future>
 #include <stdexcept>
 
 using namespace ControllerTest;
@@ -65,6 +66,7 @@ private slots:
     void announcedCameraWithoutAReadableIdStartsNothing_data();
     void announcedCameraWithoutAReadableIdStartsNothing();
     void announcedInterfaceReachesNoOne();
+    void announcementsTakeTurns();
     void manyScansInARowAllEnd();
 
 private:
@@ -306,6 +308,26 @@ void TestRefresh::announcedInterfaceReachesNoOne()
     processQueuedEvents();
     QVERIFY(refreshButton()->isEnabled());
     QCOMPARE(scans(), 0);
+}
+
+void TestRefresh::announcementsTakeTurns()
+{
+    CvxScripted::Gate gate;
+    script().intercept = [&gate](const CvxScripted::Call &call) {
+        if (call.function == Function::GetExtendedId)
+            gate.pass();
+        return CvxCPP::CvxErrorSuccess;
+    };
+    const auto camera = std::async(std::launch::async, [] { plugIn("a"); });
+    QVERIFY(gate.waitForArrival());
+    const auto iface = std::async(std::launch::async, [] {
+        CvxScripted::announceInterface(
+            std::make_shared<CvxScripted::InterfaceRecord>(), CvxCPP::UpdateTriggerPluggedIn);
+    });
+    QVERIFY(iface.wait_for(std::chrono::milliseconds(300)) == std::future_status::timeout);
+    gate.open();
+    QVERIFY(iface.wait_for(std::chrono::seconds(10)) == std::future_status::ready);
+    QTRY_COMPARE(scans(), 1);
 }
 
 void TestRefresh::manyScansInARowAllEnd()
