@@ -8,7 +8,7 @@ import sys
 import tempfile
 import unittest
 
-from launcher import TITLE, Launcher, descendants, output_of, wait_for, xdotool
+from launcher import TITLE, Launcher, descendants, opened_by, output_of, wait_for, xdotool
 from screen import grab, load
 
 STAGE, PLUGINS = os.environ["CORVIX_STAGE"], os.environ["CORVIX_PLUGINS"]
@@ -141,6 +141,10 @@ class DesktopLauncher(Launcher):
         """The menu that is open, waited for."""
         return wait_for("a menu opens", lambda: self.of_class("QMenu"))
 
+    def menu_at(self, place, button=1):
+        """The menu that a click there opens."""
+        return opened_by(lambda: click(*place, button), "a menu opens", lambda: self.of_class("QMenu"))
+
     def choose(self, menu, text):
         """Clicks an entry of a menu, once the pointer has marked it; until then the menu may not be on the screen."""
         x, y, width, height = next(action["box"] for action in menu["actions"] if action["text"] == text)
@@ -163,8 +167,7 @@ class DesktopLauncher(Launcher):
         return wait_for("the icon is in the tray", drawn)
 
     def open_tray_menu(self):
-        click(*self.middle_of(self.tray_icon()), button=3)
-        return self.menu()
+        return self.menu_at(self.middle_of(self.tray_icon()), button=3)
 
     def picture(self):
         """The main window, as the screen shows it."""

@@ -39,8 +39,7 @@ class Identity(DesktopTest):
 
     def open_about_qt(self):
         """Gives the X server's number of the box."""
-        click(*self.launcher.middle_of(self.launcher.find("aboutQt_")))
-        self.launcher.choose(self.launcher.menu(), "About Qt")
+        self.launcher.choose(self.launcher.menu_at(self.launcher.middle_of(self.launcher.find("aboutQt_"))), "About Qt")
         return wait_for("the box is on the screen", lambda: output_of(
             "xdotool", "search", "--onlyvisible", "--name", "^About Qt$").split())[0]
 

@@ -19,8 +19,7 @@ class OpeningTest(DesktopTest):
 
 class CtiLocation(OpeningTest):
     def open_menu(self, launcher, row):
-        click(*launcher.in_cell(row), button=3)
-        menu = launcher.menu()
+        menu = launcher.menu_at(launcher.in_cell(row), button=3)
         self.assertEqual([action["text"] for action in menu["actions"]], ["CTI location"])
         return menu
 
@@ -106,8 +105,7 @@ class Footer(OpeningTest):
 
 class About(DesktopTest):
     def open_menu(self, launcher):
-        click(*launcher.middle_of(launcher.find("aboutQt_")))
-        menu = launcher.menu()
+        menu = launcher.menu_at(launcher.middle_of(launcher.find("aboutQt_")))
         self.assertEqual([action["text"] for action in menu["actions"]], ["About Qt"])
         return menu
 

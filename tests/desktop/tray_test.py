@@ -15,7 +15,7 @@ class WithTray(DesktopTest):
 
     def minimise(self, launcher):
         click(*launcher.middle_of(launcher.find("pushButton")))
-        wait_for("the window leaves the screen", lambda: not window_box())
+        wait_for("the window leaves the screen", lambda: not window_box() and not launcher.active("MainWindow"))
 
     def test_the_icon_is_the_logo(self):
         launcher = self.start()

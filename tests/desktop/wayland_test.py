@@ -114,8 +114,7 @@ class Nested(WaylandTest):
         self.assertIn(self.launcher.process.poll(), (None, 0))
 
     def test_the_menu_opens_and_is_chosen_from(self):
-        click(*self.place("aboutQt_"))
-        self.launcher.choose(self.launcher.menu(), "About Qt")
+        self.launcher.choose(self.launcher.menu_at(self.place("aboutQt_")), "About Qt")
         self.launcher.box()
         xdotool("key", "Escape")
         wait_for("the box is gone", lambda: not self.launcher.of_class("QMessageBox"))

@@ -11,7 +11,7 @@ from html import escape
 from signal import SIGCONT, SIGSTOP
 
 from findings import messages
-from launcher import Launcher, descendants, output_of, wait_for, xdotool
+from launcher import Launcher, descendants, opened_by, output_of, wait_for, xdotool
 
 LOCALE = sys.argv.pop()
 STAGE, PLUGINS = os.environ["CORVIX_STAGE"], os.environ["CORVIX_PLUGINS"]
@@ -80,6 +80,11 @@ class ForeignLauncher(Launcher):
     def click(self, node, button=1):
         move_to(node)
         xdotool("click", str(button))
+
+    def menu_of(self, node, button=1):
+        """The texts of the menu that a click there opens."""
+        menu = opened_by(lambda: self.click(node, button), "a menu opens", lambda: self.of_class("QMenu"))
+        return [action["text"] for action in menu["actions"]]
 
     def close_menu(self):
         """Until the X server has taken it away, it gets what is clicked."""
@@ -171,9 +176,6 @@ class LanguageTest(unittest.TestCase):
         """The hint is the longest text by far; desktops with larger fonts are to show it as well."""
         self.assertLessEqual(label["needs"][0], 0.9 * label["box"][2], label["text"])
 
-    def assert_menu(self, launcher, *texts):
-        self.assertEqual([action["text"] for action in launcher.opened("QMenu")["actions"]], list(texts))
-
     def assert_box(self, launcher, title, text):
         box = launcher.opened("QMessageBox")
         self.assertEqual(box["text"], title)
@@ -247,12 +249,11 @@ class LanguageTest(unittest.TestCase):
 
     def test_menus_and_boxes(self):
         launcher = self.start()
-        launcher.click(on_screen(launcher, VENDOR_OF_THE_GROUP), button=3)
-        self.assert_menu(launcher, window_text("CTI location"))
+        self.assertEqual(launcher.menu_of(on_screen(launcher, VENDOR_OF_THE_GROUP), button=3),
+                         [window_text("CTI location")])
         launcher.close_menu()
 
-        launcher.click(launcher.find("aboutQt_"))
-        self.assert_menu(launcher, window_text("About Qt"))
+        self.assertEqual(launcher.menu_of(launcher.find("aboutQt_")), [window_text("About Qt")])
         xdotool("key", "Down", "Return")
         box = launcher.opened("QMessageBox")
         self.assertEqual(box["text"], QT["QMessageBox", "About Qt"])
@@ -267,17 +268,14 @@ class LanguageTest(unittest.TestCase):
     def test_tray_and_end(self):
         launcher = self.start()
 
-        def tip():
+        def point_at_icon():
+            xdotool("mousemove", "2", "2")  # From elsewhere, also once more: the tray may have moved its icon.
             move_to(launcher.opened("QSystemTrayIconSys"))
-            try:
-                return wait_for("a tooltip opens", lambda: launcher.of_class("QTipLabel"), bound=3)
-            except AssertionError:
-                xdotool("mousemove", "2", "2")  # The tray had moved its icon meanwhile.
-                return None
-        self.assertEqual(wait_for("the icon tells its name", tip)["text"],
-                         controller_text("Corvix X - Application Launcher"))
-        launcher.click(launcher.of_class("QSystemTrayIconSys"), button=3)
-        self.assert_menu(launcher, controller_text("Show"), "", controller_text("Exit"))
+
+        tip = opened_by(point_at_icon, "the icon tells its name", lambda: launcher.of_class("QTipLabel"))
+        self.assertEqual(tip["text"], controller_text("Corvix X - Application Launcher"))
+        self.assertEqual(launcher.menu_of(launcher.of_class("QSystemTrayIconSys"), button=3),
+                         [controller_text("Show"), "", controller_text("Exit")])
         launcher.close_menu()
         launcher.click(launcher.find("pushButton_2"))
         self.assertEqual((launcher.process.wait(timeout=10), launcher.printed()), (0, ""))

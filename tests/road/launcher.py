@@ -14,16 +14,31 @@ TITLE = "Corvix X - Application Launcher"
 ENGLISH = {"LC_ALL": "C.UTF-8", "LANGUAGE": ""}
 
 
-def wait_for(promise, condition, bound=BOUND):
-    """Returns the first true value of condition(); fails, naming the promise, when there is none in time."""
+def soon(condition, bound):
+    """Returns the first true value of condition(); what is not true when there is none in time."""
     end = time.monotonic() + bound
     while True:
         value = condition()
-        if value:
+        if value or time.monotonic() > end:
             return value
-        if time.monotonic() > end:
-            raise AssertionError(f"not within {bound} s: {promise}")
         time.sleep(0.02)
+
+
+def wait_for(promise, condition, bound=BOUND):
+    """As above; fails, naming the promise, when there is no true value in time."""
+    value = soon(condition, bound)
+    if not value:
+        raise AssertionError(f"not within {bound} s: {promise}")
+    return value
+
+
+def opened_by(action, promise, condition):
+    """Waits for what an action opens, and acts again when it is not there: Qt closes a menu when another window gets
+    the keyboard, of which it hears late, and the X server loses a click in a thousand."""
+    def opened():
+        action()
+        return soon(condition, BOUND / 6)
+    return wait_for(promise, opened)
 
 
 def output_of(*command):
