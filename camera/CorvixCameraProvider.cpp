@@ -38,7 +38,8 @@ CameraHandles cameraHandles(CvxSystem &system)
 }
 
 /// The camera's plain ID, as bytes or for showing; empty when it cannot be read.
-template <class Text> Text plainId(const Camera &camera)
+template <class Text>
+Text plainId(const Camera &camera)
 {
     Text id;
     SdkText::read([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); }, id);
