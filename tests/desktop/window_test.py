@@ -5,6 +5,7 @@ import unittest
 from desktop import BACKGROUND, DesktopTest, click, drag, move, noted, window_box, x_window
 from launcher import output_of, wait_for, xdotool
 from screen import grab, near
+from x11 import PointerShapes
 
 BORDER, LIT_BORDER = "#2d3a4d", "#2196f3"
 
@@ -112,6 +113,11 @@ class Tiles(DesktopTest):
     def place(self, tool):
         return self.launcher.middle_of(self.launcher.tiles()[tool])
 
+    def frame(self):
+        """The colour of the first tile's frame."""
+        x, y, width, _ = self.launcher.tiles()["Image Viewer"]["onScreen"]
+        return grab((x + width // 2, y, 1, 1)).at(0, 0)
+
     def test_a_press_starts_the_tool_before_the_button_is_released(self):
         xdotool("mousemove", *map(str, self.place("Image Viewer")), "mousedown", "1")
         try:
@@ -119,6 +125,22 @@ class Tiles(DesktopTest):
         finally:
             xdotool("mouseup", "1")
         self.assertEqual(note, [self.installation.path("bin")])  # No arguments; its own directory.
+
+    def test_the_pointer_tells_that_a_tool_is_started(self):
+        """It is another one for that time only."""
+        move(*self.place("Image Viewer"))
+        wait_for("the tile is under the pointer", lambda: self.frame() == LIT_BORDER)
+        shapes = []
+
+        def changed_twice():
+            shapes.extend(pointer.new())
+            return len(shapes) >= 2 and shapes[-1] != shapes[0]
+        with PointerShapes() as pointer:
+            click(*self.place("Image Viewer"))
+            wait_for("the pointer is another one, and not for ever", changed_twice)
+            before = len(shapes)
+            click(*self.place("Image Viewer"))
+            wait_for("so it is once more", lambda: changed_twice() and shapes[0] in shapes[before:])
 
     def test_a_right_click_starts_nothing(self):
         self.assert_starts_nothing(self.place("Image Viewer"), button=3)
@@ -138,13 +160,11 @@ class Tiles(DesktopTest):
         self.assertIsNone(self.launcher.of_class("QMessageBox"))
 
     def test_the_tile_under_the_pointer_is_framed(self):
-        x, y, width, height = self.launcher.tiles()["Image Viewer"]["onScreen"]
-        edge = (x + width // 2, y, 1, 1)
-        wait_for("the enabled tile is drawn", lambda: grab(edge).at(0, 0) == BORDER)
+        wait_for("the enabled tile is drawn", lambda: self.frame() == BORDER)
         move(*self.place("Image Viewer"))
-        wait_for("the frame lights up", lambda: grab(edge).at(0, 0) == LIT_BORDER)
+        wait_for("the frame lights up", lambda: self.frame() == LIT_BORDER)
         move(*self.place("Camera Setup"))
-        wait_for("the frame is as before", lambda: grab(edge).at(0, 0) == BORDER)
+        wait_for("the frame is as before", lambda: self.frame() == BORDER)
 
 
 if __name__ == "__main__":
