@@ -32,6 +32,11 @@ CUT_OFF = """
             && !element.closest('pre, .scroll, svg');
     }).map(element => element.outerHTML.slice(0, 80))"""
 
+# Boxes that have to be scrolled sideways.
+SCROLLED = """
+    [...document.querySelectorAll('pre, .scroll')].filter(box => box.scrollWidth > box.clientWidth)
+        .map(box => box.innerText.slice(0, 80))"""
+
 # The contrast of every text with the background it stands on, where it is less than WCAG asks for.
 PALE = """
     (() => {
@@ -104,6 +109,8 @@ class GuideInBrowser(unittest.TestCase):
                     self.keep_picture(f"{name}-{scheme}")
                     self.assertLessEqual(self.browser.value("document.documentElement.scrollWidth"), width)
                     self.assertEqual(self.browser.value(CUT_OFF), [])
+                    if name == "desktop":
+                        self.assertEqual(self.browser.value(SCROLLED), [])
                     self.assertEqual(self.browser.value(PALE), [])
         self.assertEqual(len(backgrounds), 2, "light and dark look the same")
 
