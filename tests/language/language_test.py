@@ -39,6 +39,15 @@ def qt_s_own_texts():
         return texts_in(f"{scratch}/qt.ts")
 
 
+def drawable_characters():
+    """All that an installed font has."""
+    characters = set()
+    for part in output_of("fc-list", "--format", "%{charset} ").split():
+        first, _, last = part.partition("-")
+        characters.update(map(chr, range(int(first, 16), int(last or first, 16) + 1)))
+    return characters
+
+
 OURS = texts_in(f"{HERE}/../../translations/corvix_{catalogue_name()}.ts")
 QT = qt_s_own_texts()
 
@@ -187,6 +196,13 @@ class LanguageTest(unittest.TestCase):
     def test_language_is_another_one(self):
         self.assertGreater(sum(source != text for (_, source), text in OURS.items()), 20)
         self.assertNotEqual(QT["QMessageBox", "About Qt"], "About Qt")
+
+    def test_fonts_have_every_character(self):
+        """The others would be empty boxes, whose sizes tell nothing."""
+        texts = "".join(text or "" for text in [*OURS.values(), *QT.values()])
+        said = set(filter(str.isprintable, texts))
+        self.assertGreater(len(said), 50)
+        self.assertEqual(sorted(said - drawable_characters()), [])
 
     def test_window(self):
         launcher = self.start()
