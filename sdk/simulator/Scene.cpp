@@ -1,5 +1,6 @@
 #include "sdk/simulator/Scene.h"
 
+#include <map>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
@@ -63,15 +64,22 @@ DeviceRecord parseDevice(const Json &object, const std::string &interfaceTlType,
     return device;
 }
 
-/// Calls parseElement(element, place) for each element of the array under a key.
+/// Calls parseElement(element, place) for each element of the array under a key. It returns the element's ID,
+/// which no other of the array may have.
 template <typename ParseElement>
 void forEachElement(const Json &object, const char *key, const std::string &place, ParseElement parseElement)
 {
     const Json &array = object.at(key);
     if (!array.is_array())
         throw std::runtime_error(place + ": \"" + key + "\" is not an array");
-    for (std::size_t i = 0; i < array.size(); ++i)
-        parseElement(array[i], place + "." + key + "[" + std::to_string(i) + "]");
+    const auto placeOf
+        = [&](std::size_t index) { return place + "." + key + "[" + std::to_string(index) + "]"; };
+    std::map<std::string, std::size_t> known; // IDs, and the index of each.
+    for (std::size_t i = 0; i < array.size(); ++i) {
+        const auto [first, isNew] = known.emplace(parseElement(array[i], placeOf(i)), i);
+        if (!isNew)
+            throw std::runtime_error(placeOf(i) + ": \"id\" is that of " + placeOf(first->second));
+    }
 }
 
 Json parseDocument(const std::string &text)
@@ -95,6 +103,7 @@ SceneInterface parseInterface(const Json &object, const std::string &place)
     if (object.contains("devices"))
         forEachElement(object, "devices", place, [&](const Json &device, const std::string &devicePlace) {
             parsed.devices.push_back(parseDevice(device, record.tlType, devicePlace));
+            return parsed.devices.back().id;
         });
     return parsed;
 }
@@ -125,6 +134,7 @@ Scene parseScene(const std::string &text)
     Scene scene;
     forEachElement(document, "interfaces", "scene", [&](const Json &element, const std::string &place) {
         scene.push_back(parseInterface(element, place));
+        return scene.back().record.id;
     });
     return scene;
 }

@@ -41,6 +41,6 @@ Scene defaultScene();
 ///         ]
 ///     }
 ///
-/// All values are strings, a serial number too. Keys that are not named here are ignored. Of two entries with
-/// one ID the first counts. Throws std::runtime_error, which names the faulty place, for any other text.
+/// All values are strings, a serial number too. Keys that are not named here are ignored. Throws
+/// std::runtime_error, which names the faulty place, for any other text.
 Scene parseScene(const std::string &text);

@@ -5,6 +5,7 @@
 #include "tests/fuzz/FuzzTarget.h"
 
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -35,16 +36,26 @@ void requireDevice(const DeviceRecord &device)
         "a device has an ID, a name to show and a technology");
 }
 
+void requireDevices(const std::vector<DeviceRecord> &devices)
+{
+    std::set<std::string> ids;
+    for (const DeviceRecord &device : devices) {
+        requireDevice(device);
+        require(ids.insert(device.id).second, "a device's ID is its own on its interface");
+    }
+}
+
 void requireScene(const Scene &scene)
 {
+    std::set<std::string> ids;
     for (const SceneInterface &element : scene) {
         const InterfaceRecord &record = element.record;
         for (const std::string &text : {record.id, record.displayName, record.tlType})
             requireText(text);
         require(!record.id.empty() && !record.displayName.empty() && !record.tlType.empty(),
             "an interface has an ID, a name to show and a technology");
-        for (const DeviceRecord &device : element.devices)
-            requireDevice(device);
+        require(ids.insert(record.id).second, "an interface's ID is its own");
+        requireDevices(element.devices);
     }
 }
 

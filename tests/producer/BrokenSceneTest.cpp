@@ -88,6 +88,11 @@ INSTANTIATE_TEST_SUITE_P(Scenes, BrokenSimulatorScene,
             "DevicesNoArray", R"({"interfaces": [{"id": "n", "devices": "x"}]})", "\"devices\" is not"},
         BrokenScene{"DeviceNoObject", sceneOf("null"), "interfaces[0].devices[0] is not an object"},
         BrokenScene{"DeviceWithoutId", sceneOf(R"({"id": "a"}, {"model": "M"})"), "devices[1]: \"id\""},
+        BrokenScene{"InterfaceIdTwice", R"({"interfaces": [{"id": "a"}, {"id": "b"}, {"id": "a"}]})",
+            "is not used: scene.interfaces[2]: \"id\" is that of scene.interfaces[0]\n"},
+        BrokenScene{"DeviceIdTwice", sceneOf(R"({"id": "a"}, {"id": "b"}, {"id": "c"}, {"id": "b"})"),
+            "is not used: scene.interfaces[0].devices[3]: \"id\" is that of "
+            "scene.interfaces[0].devices[1]\n"},
         BrokenScene{"NumberForText", sceneOf(R"({"id": "a", "serial": 42})"), "\"serial\" is not a string"},
         BrokenScene{
             "NullForText", sceneOf(R"({"id": "a", "userName": null})"), "\"userName\" is not a string"},

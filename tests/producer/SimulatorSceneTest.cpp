@@ -90,15 +90,6 @@ TEST_F(SimulatorScene, ControlCharactersAndAnyLanguagePassThrough)
     EXPECT_EQ(deviceText(DEVICE_INFO_MODEL), u8"カメラ \U0001F4F7");
 }
 
-TEST_F(SimulatorScene, OfTwoEntriesWithOneIdTheFirstCounts)
-{
-    folder.writeScene(R"({"interfaces": [
-        {"id": "net", "devices": [{"id": "a", "model": "first"}, {"id": "b"}, {"id": "a", "model": "second"}]},
-        {"id": "net", "devices": [{"id": "c"}]}]})");
-    EXPECT_EQ(devicesNow(), (Ids{"a", "b"}));
-    EXPECT_EQ(session.deviceText(handle, "a", DEVICE_INFO_MODEL), "first");
-}
-
 TEST_F(SimulatorScene, DevicesOfDifferentInterfacesMayShareAnId)
 {
     folder.writeScene(R"({"interfaces": [

@@ -64,6 +64,8 @@ class RandomScenes:
             {"interfaces": 7}, {"interface": []}, [], {"interfaces": ["Soak0"]}, {"interfaces": [{"id": ""}]},
             {"interfaces": [{"id": "Soak0", "devices": {}}]}, {"interfaces": [{"id": "Soak0", "devices": [{}]}]},
             {"interfaces": [{"id": "Soak0", "devices": [{"id": "A", "model": 200}]}]},
+            {"interfaces": [{"id": "Soak0"}, {"id": "Soak0"}]},
+            {"interfaces": [{"id": "Soak0", "devices": [{"id": "A"}, {"id": "A"}]}]},
         ]
         return self.random.choice([
             "", "no scene at all", "\udcff\udcfe", text[:self.random.randrange(1, len(text))], text + "}",
