@@ -37,10 +37,9 @@ bool HostServer::serve(const std::string &request)
 
 bool HostServer::serveList(bool withInterfaces)
 {
-    if (withInterfaces || !m_isListed) {
+    if (withInterfaces || !m_producer.isListed()) {
         if (const auto problem = m_producer.updateInterfaces())
             return answerError(*problem);
-        m_isListed = true;
     }
     m_producer.updateDevices();
     return m_socket.write(listAnswer(m_producer.interfaces(), m_producer.problems()));

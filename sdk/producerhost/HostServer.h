@@ -23,5 +23,4 @@ private:
 
     LineSocket m_socket;
     ProducerModule m_producer;
-    bool m_isListed = false; // The list of interfaces has been read once.
 };

@@ -10,7 +10,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::uint64_t UpdateTimeoutMs = 500; // Never infinite: some producers then return at once, empty.
 constexpr std::size_t MostThreads = 8;
 constexpr auto SerialTime = std::chrono::milliseconds(20); // Up to this, threads cost more than they gain.
 constexpr int ToleratedFailures = 1; // One failed update may be a hiccup; the second empties the interface.
@@ -32,14 +31,20 @@ InterfaceUpdater::InterfaceUpdater(const ProducerLibrary &library) : m_library(l
 
 void InterfaceUpdater::update(OpenInterface &interface) const
 {
+    update(interface, UpdateTimeout::bound());
+}
+
+void InterfaceUpdater::update(OpenInterface &interface, Clock::time_point bound) const
+{
     const auto start = Clock::now();
     interface.problems.clear();
     DeviceReader reader(m_library, interface.problems);
     GenTL::bool8_t changed = 0; // Not every producer writes it, so it is not looked at.
-    auto problem = m_library.call(
-        "IFUpdateDeviceList", m_library.IFUpdateDeviceList, interface.handle, &changed, UpdateTimeoutMs);
+    auto problem = m_library.call("IFUpdateDeviceList", m_library.IFUpdateDeviceList, interface.handle,
+        &changed, interface.timeout.until(bound));
     const bool updated = !problem;
-    if (problem)
+    const bool getsMoreTime = problem && isTimeout(*problem) && interface.timeout.grow();
+    if (problem && !getsMoreTime)
         addProblem(interface.problems, std::move(*problem));
     if (updated && reader.readDevices(interface.handle, interface.devices))
         interface.failedUpdates = 0;
@@ -51,13 +56,14 @@ void InterfaceUpdater::update(OpenInterface &interface) const
 
 void InterfaceUpdater::updateAll(std::vector<OpenInterface> &interfaces) const
 {
+    const Clock::time_point bound = UpdateTimeout::bound();
     std::atomic<std::size_t> next{0};
     const auto work = [&](Clock::time_point until) {
         while (Clock::now() < until) {
             const std::size_t index = next++;
             if (index >= interfaces.size())
                 return;
-            update(interfaces[index]);
+            update(interfaces[index], bound);
         }
     };
     // Interfaces that answered at once so far need no threads, and no wake-ups while nobody looks.

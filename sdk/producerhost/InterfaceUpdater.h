@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sdk/producerhost/DeviceReader.h"
+#include "sdk/producerhost/UpdateTimeout.h"
 
 #include <chrono>
 #include <cstdint>
@@ -18,6 +19,7 @@ struct OpenInterface
     std::vector<DeviceDescription> devices; ///< Sorted by ID.
     std::vector<Problem> problems; ///< Of the last update.
     int failedUpdates = 0; ///< In a row.
+    UpdateTimeout timeout;
     bool isUpdated = false; ///< An update has been made.
     std::chrono::steady_clock::duration updateTime{}; ///< What the last update took.
 };
@@ -36,5 +38,7 @@ public:
     void updateAll(std::vector<OpenInterface> &interfaces) const;
 
 private:
+    void update(OpenInterface &interface, UpdateTimeout::Clock::time_point bound) const;
+
     const ProducerLibrary &m_library;
 };

@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+bool isTimeout(const Problem &problem)
+{
+    return problem.code == GenTL::GC_ERR_TIMEOUT;
+}
+
 void addProblem(std::vector<Problem> &problems, Problem problem)
 {
     const bool known = std::any_of(problems.begin(), problems.end(),

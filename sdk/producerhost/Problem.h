@@ -13,5 +13,8 @@ struct Problem
     std::string text; ///< The producer's words or ours; may be empty, may be invalid UTF-8.
 };
 
+/// The call was given too little time.
+bool isTimeout(const Problem &problem);
+
 /// Adds a problem unless one with this call and code is there: a thousand devices may fail the same way.
 void addProblem(std::vector<Problem> &problems, Problem problem);

@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr std::uint64_t InterfaceTimeoutMs = 500;
 constexpr std::uint32_t MostInterfaces = 1U << 16;
 constexpr std::uint32_t NoCount = std::numeric_limits<std::uint32_t>::max();
 
@@ -35,8 +34,11 @@ std::optional<Problem> ProducerModule::updateInterfaces()
 {
     m_problems.clear();
     GenTL::bool8_t changed = 0;
-    auto problem = m_library.call(
-        "TLUpdateInterfaceList", m_library.TLUpdateInterfaceList, m_system, &changed, InterfaceTimeoutMs);
+    auto problem = m_library.call("TLUpdateInterfaceList", m_library.TLUpdateInterfaceList, m_system,
+        &changed, m_timeout.until(UpdateTimeout::bound()));
+    m_isListed = !(problem && isTimeout(*problem) && m_timeout.grow());
+    if (!m_isListed)
+        return std::nullopt;
     std::vector<std::string> ids;
     if (!problem)
         problem = readInterfaceIds(ids);

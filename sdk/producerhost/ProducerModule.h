@@ -2,6 +2,7 @@
 
 #include "sdk/producerhost/InterfaceUpdater.h"
 #include "sdk/producerhost/ProducerLibrary.h"
+#include "sdk/producerhost/UpdateTimeout.h"
 
 #include <cstdint>
 #include <optional>
@@ -22,6 +23,9 @@ public:
     /// Rebuilds the list of interfaces: opens the new ones and closes those that are gone. Not to be called
     /// with every search, since it gets slower from call to call in some producers.
     std::optional<Problem> updateInterfaces();
+
+    /// False when the last update of the interfaces ran out of time, or there was none; the next gets more.
+    bool isListed() const { return m_isListed; }
 
     /// Searches all interfaces for devices.
     void updateDevices();
@@ -48,5 +52,7 @@ private:
     std::vector<OpenInterface> m_interfaces;
     std::vector<Problem> m_problems; // Of the list of interfaces.
     std::uint64_t m_nextNumber = 1;
+    UpdateTimeout m_timeout; // Of the list of interfaces.
     bool m_isInitialised = false;
+    bool m_isListed = false;
 };

@@ -209,9 +209,9 @@ TEST_F(RestartTest, AnInterfaceSurvivesOneFailedUpdate)
     start();
     const auto recorder = recordCameras();
     ASSERT_EQ(list().size(), 1U);
-    setScript("a", "fault IFUpdateDeviceList error -1011\n" + cameras(1));
+    setScript("a", "fault IFUpdateDeviceList error -1010\n" + cameras(1));
     ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); })) << "two failures are too many";
-    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1011 (GC_ERR_TIMEOUT)"), 1U);
+    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1010 (GC_ERR_IO)"), 1U);
     setScript("a", cameras(1));
     EXPECT_TRUE(waitUntil([&] { return list().size() == 1; }));
     EXPECT_EQ(countCalls("a", "load"), 1U) << "it is no reason to start the host again";

@@ -13,6 +13,17 @@ protected:
         options.answerWait = 1500ms;
         options.firstRestart = 1h;
     }
+
+    /// What the calls of a function, or of a function and an interface, were given.
+    Calls timeoutsOf(const std::string &producer, const std::string &call) const
+    {
+        Calls timeouts;
+        for (const std::string &line : callsOf(producer)) {
+            if (line.rfind(call + ' ', 0) == 0)
+                timeouts.push_back(line.substr(call.size() + 1));
+        }
+        return timeouts;
+    }
 };
 
 TEST_F(SlowProducerTest, IsNotWaitedForTwiceAndItsLateAnswerIsAnnounced)
@@ -55,6 +66,60 @@ TEST_F(SlowProducerTest, KeepsItsCamerasWhileItIsLate)
     EXPECT_EQ(list().size(), 1U);
     ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
     EXPECT_EQ(recorder->calls(), Calls{"+slow.cti/net0/A2"});
+}
+
+TEST_F(SlowProducerTest, ASearchThatRunsOutOfTimeGetsMoreAndKeepsIt)
+{
+    options.answerWait = 3s;
+    addProducer("slow",
+        "fault IFUpdateDeviceList:net0 search 1200\n" + cameras(1)
+            + "interface net1|Network 1|GEV\ndevice net1|Q1|V|M|S|N|GEV\n");
+    start();
+    EXPECT_EQ(listIds(), Calls{"slow.cti/net1/Q1"}) << "the others are not kept waiting";
+    const Calls both{"slow.cti/net0/A1", "slow.cti/net1/Q1"};
+    ASSERT_TRUE(waitUntil([&] { return listIds() == both; }));
+    const std::size_t searches = timeoutsOf("slow", "IFUpdateDeviceList net0").size();
+    ASSERT_TRUE(waitUntil([&] { return timeoutsOf("slow", "IFUpdateDeviceList net0").size() > searches; }));
+    EXPECT_EQ(listIds(), both);
+    Calls timeouts = timeoutsOf("slow", "IFUpdateDeviceList net0");
+    timeouts.resize(4);
+    EXPECT_EQ(timeouts, (Calls{"500", "1000", "2000", "2000"}));
+    EXPECT_EQ(timeoutsOf("slow", "IFUpdateDeviceList net1").back(), "500");
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+}
+
+TEST_F(SlowProducerTest, ASearchForInterfacesThatRunsOutOfTimeGetsMoreAndKeepsIt)
+{
+    options.answerWait = 3s;
+    addProducer("slow", "fault TLUpdateInterfaceList search 1200\n" + cameras(1));
+    start();
+    EXPECT_TRUE(waitUntil([this] { return list().size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return timeoutsOf("slow", "TLUpdateInterfaceList").size() >= 4; }));
+    Calls timeouts = timeoutsOf("slow", "TLUpdateInterfaceList");
+    timeouts.resize(4);
+    EXPECT_EQ(timeouts, (Calls{"500", "1000", "2000", "2000"}));
+    EXPECT_EQ(countCalls("slow", "load"), 1U) << "it is no reason to start the host again";
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+}
+
+TEST_F(SlowProducerTest, SearchesThatNeverEndStayWithinTheLimit)
+{
+    options.answerLimit = 6500ms; // One that waited the longest time for each would need eight seconds.
+    std::string script;
+    for (int i = 10; i < 26; ++i) { // Twice as many as are searched side by side.
+        const std::string id = "net" + std::to_string(i);
+        script += "interface " + id + "\nfault IFUpdateDeviceList:" + id + " search 60000\n";
+    }
+    addProducer("slow", script);
+    start();
+    const auto lastAndFirst = [this] {
+        const Calls all = timeoutsOf("slow", "IFUpdateDeviceList net10");
+        return all.size() >= 5 ? Calls{all[3], all[4]} : Calls{};
+    };
+    ASSERT_TRUE(waitUntil([&] { return !lastAndFirst().empty(); }));
+    EXPECT_EQ(lastAndFirst(), (Calls{"4000", "500"})) << "what never answers is given little time again";
+    EXPECT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
+    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1011 (GC_ERR_TIMEOUT)"), 1U);
 }
 
 TEST_F(SlowProducerTest, IsKilledAtTheLimit)

@@ -13,14 +13,18 @@
 // Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
 // of the standard's version 1.3), late-error CODE (of the second call), number (in place of a text), size
 // BYTES ("size -1" says one less than there is and heeds no capacity).
+// Of the update functions: search MILLISECONDS, which runs out of time when it is given less; for the devices
+// of one interface as a fault of IFUpdateDeviceList:ID.
 // Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
 // for a byte. The calls are written to "name.log", each with its process.
 
 #include "sdk/gentl/GenTL.h"
 #include "tests/sdk/producer/Misbehaviour.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
@@ -31,6 +35,7 @@
 #include <mutex>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -234,6 +239,19 @@ int giveText(const std::string &value, INFO_DATATYPE *type, void *buffer, std::s
     return give(value, buffer, size);
 }
 
+/// What comes of a search that takes as long as the script says.
+int search(const std::string &action, std::uint64_t timeout)
+{
+    std::istringstream words(action);
+    std::string verb;
+    std::uint64_t needed = 0;
+    words >> verb >> needed;
+    if (verb != "search")
+        return Continue;
+    std::this_thread::sleep_for(std::chrono::milliseconds(std::min(needed, timeout)));
+    return needed > timeout ? int(GC_ERR_TIMEOUT) : Continue;
+}
+
 /// Ends the process when two updates of one interface run at once.
 class Updating
 {
@@ -324,10 +342,12 @@ GENTL_FUNCTION TLClose(TL_HANDLE hTL)
     return GC_ERR_SUCCESS;
 }
 
-GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t)
+GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t iTimeout)
 {
     readScript();
-    if (const int code = enter("TLUpdateInterfaceList"); code != Continue)
+    if (const int code = enter("TLUpdateInterfaceList", std::to_string(iTimeout)); code != Continue)
+        return code;
+    if (const int code = search(lie, iTimeout); code != Continue)
         return code;
     const std::lock_guard lock(mutex);
     interfaces = script.interfaces;
@@ -402,9 +422,12 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
     const Updating updating(*interface);
     readScript();
     const int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
-    const int ownCode = perform(actionFor("IFUpdateDeviceList:" + interface->id));
+    const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
+    const int ownCode = perform(ownAction);
     if (code != Continue || ownCode != Continue)
         return code != Continue ? code : ownCode;
+    if (const int searchCode = search(ownAction, iTimeout); searchCode != Continue)
+        return searchCode;
     const std::lock_guard lock(mutex);
     interface->devices.clear();
     const auto range = script.devices.equal_range(interface->id);
