@@ -68,16 +68,13 @@ std::optional<Problem> DeviceReader::readText(const char *call, const Query &que
     return problem;
 }
 
-bool DeviceReader::readInterfaceId(GenTL::TL_HANDLE system, std::uint32_t index, std::string &id)
+std::optional<Problem> DeviceReader::readInterfaceId(
+    GenTL::TL_HANDLE system, std::uint32_t index, std::string &id) const
 {
     const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *) {
         return m_library.TLGetInterfaceID(system, index, buffer, size);
     };
-    if (auto problem = readText("TLGetInterfaceID", query, id)) {
-        addProblem(m_problems, std::move(*problem));
-        return false;
-    }
-    return true;
+    return readText("TLGetInterfaceID", query, id);
 }
 
 std::string DeviceReader::readInterfaceInfo(
@@ -113,6 +110,7 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
         count = MostDevices;
     }
 
+    bool isComplete = true;
     std::set<std::string> ids; // Sorted, and each once: producers list in any order.
     for (std::uint32_t index = 0; index < count; ++index) {
         const auto query = [&](char *buffer, std::size_t *size, GenTL::INFO_DATATYPE *) {
@@ -120,10 +118,12 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
         };
         std::string id;
         problem = readText("IFGetDeviceID", query, id);
-        if (problem)
-            addProblem(m_problems, std::move(*problem));
-        else
+        if (!problem) {
             ids.insert(std::move(id));
+            continue;
+        }
+        isComplete = isComplete && isGone(*problem);
+        addProblem(m_problems, std::move(*problem));
     }
     devices.clear();
     devices.reserve(ids.size());
@@ -131,7 +131,7 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
         if (auto device = readDevice(interface, std::move(ids.extract(ids.begin()).value())))
             devices.push_back(std::move(*device));
     }
-    return true;
+    return isComplete;
 }
 
 std::optional<DeviceDescription> DeviceReader::readDevice(GenTL::IF_HANDLE interface, std::string id)
@@ -146,10 +146,10 @@ std::optional<DeviceDescription> DeviceReader::readDevice(GenTL::IF_HANDLE inter
     device.id = std::move(id);
     for (const auto &[command, field] : required) {
         auto problem = readDeviceInfo(interface, device.id, command, device.*field);
-        const bool isGone = problem && problem->code == GenTL::GC_ERR_INVALID_ID;
-        if (problem)
-            addProblem(m_problems, std::move(*problem));
-        if (isGone)
+        if (!problem)
+            continue;
+        addProblem(m_problems, *problem);
+        if (isGone(*problem))
             return std::nullopt;
     }
     // Many producers cannot tell it, which is no fault.

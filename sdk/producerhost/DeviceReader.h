@@ -24,11 +24,13 @@ public:
     /// Problems are added to `problems`; an optional text that fails is no problem.
     DeviceReader(const ProducerLibrary &library, std::vector<Problem> &problems);
 
-    bool readInterfaceId(GenTL::TL_HANDLE system, std::uint32_t index, std::string &id);
+    std::optional<Problem> readInterfaceId(
+        GenTL::TL_HANDLE system, std::uint32_t index, std::string &id) const;
     std::string readInterfaceInfo(
         GenTL::TL_HANDLE system, const std::string &interfaceId, GenTL::INTERFACE_INFO_CMD command);
 
-    /// Reads all devices of an interface's current list, sorted by ID; false when there is no list.
+    /// Reads the devices of an interface's current list, sorted by ID; false when some or all could not be
+    /// read.
     bool readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDescription> &devices);
 
 private:

@@ -12,7 +12,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t MostThreads = 8;
 constexpr auto SerialTime = std::chrono::milliseconds(20); // Up to this, threads cost more than they gain.
-constexpr int ToleratedFailures = 1; // One failed update may be a hiccup; the second empties the interface.
+constexpr int ToleratedFailures = 1; // One may be a hiccup; after the second, what it gave counts.
 
 bool isExpectedQuick(const std::vector<OpenInterface> &interfaces)
 {
@@ -46,10 +46,11 @@ void InterfaceUpdater::update(OpenInterface &interface, Clock::time_point bound)
     const bool getsMoreTime = problem && isTimeout(*problem) && interface.timeout.grow();
     if (problem && !getsMoreTime)
         addProblem(interface.problems, std::move(*problem));
-    if (updated && reader.readDevices(interface.handle, interface.devices))
-        interface.failedUpdates = 0;
-    else if (++interface.failedUpdates > ToleratedFailures)
-        interface.devices.clear();
+    std::vector<DeviceDescription> devices;
+    const bool isComplete = updated && reader.readDevices(interface.handle, devices);
+    interface.failedUpdates = isComplete ? 0 : interface.failedUpdates + 1;
+    if (isComplete || interface.failedUpdates > ToleratedFailures || interface.devices.empty())
+        interface.devices = std::move(devices);
     interface.isUpdated = true;
     interface.updateTime = Clock::now() - start;
 }

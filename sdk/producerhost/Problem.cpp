@@ -8,6 +8,11 @@ bool isTimeout(const Problem &problem)
     return problem.code == GenTL::GC_ERR_TIMEOUT;
 }
 
+bool isGone(const Problem &problem)
+{
+    return problem.code == GenTL::GC_ERR_INVALID_ID || problem.code == GenTL::GC_ERR_INVALID_INDEX;
+}
+
 void addProblem(std::vector<Problem> &problems, Problem problem)
 {
     const bool known = std::any_of(problems.begin(), problems.end(),

@@ -16,5 +16,8 @@ struct Problem
 /// The call was given too little time.
 bool isTimeout(const Problem &problem);
 
+/// What was asked about is not there any more, which a list may have told of a moment ago.
+bool isGone(const Problem &problem);
+
 /// Adds a problem unless one with this call and code is there: a thousand devices may fail the same way.
 void addProblem(std::vector<Problem> &problems, Problem problem);

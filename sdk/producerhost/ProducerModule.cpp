@@ -64,10 +64,19 @@ std::optional<Problem> ProducerModule::readInterfaceIds(std::vector<std::string>
     if (count > MostInterfaces)
         return Problem{"TLGetNumInterfaces", 0, "gave no credible number of interfaces"};
     DeviceReader reader(m_library, m_problems);
+    bool isComplete = true;
     for (std::uint32_t index = 0; index < count; ++index) {
         std::string id;
-        if (reader.readInterfaceId(m_system, index, id))
+        if (auto problem = reader.readInterfaceId(m_system, index, id)) {
+            isComplete = isComplete && isGone(*problem);
+            addProblem(m_problems, std::move(*problem));
+        } else {
             ids.push_back(std::move(id));
+        }
+    }
+    if (!isComplete) { // One of those that are open may be it.
+        for (const OpenInterface &interface : m_interfaces)
+            ids.push_back(interface.id);
     }
     std::sort(ids.begin(), ids.end());
     ids.erase(std::unique(ids.begin(), ids.end()), ids.end());

@@ -217,6 +217,49 @@ TEST_F(RestartTest, AnInterfaceSurvivesOneFailedUpdate)
     EXPECT_EQ(countCalls("a", "load"), 1U) << "it is no reason to start the host again";
 }
 
+TEST_F(RestartTest, AnInterfaceSurvivesOneIdThatCannotBeRead)
+{
+    options.lookInterval = 1h; // A look is a list.
+    addProducer("a", cameras(2));
+    start();
+    ASSERT_EQ(list().size(), 2U);
+    setScript("a", "fault IFGetDeviceID:A1 error -1010\n" + cameras(2));
+    EXPECT_EQ(list().size(), 2U);
+    setScript("a", cameras(2));
+    EXPECT_EQ(list().size(), 2U);
+    EXPECT_EQ(countReports("IFGetDeviceID failed with -1010 (GC_ERR_IO)"), 1U);
+    setScript("a", "fault IFGetDeviceID:A1 error -1007\n" + cameras(2));
+    EXPECT_EQ(listIds(), Calls{"a.cti/net0/A2"}) << "what is gone is gone";
+}
+
+TEST_F(RestartTest, AnIdThatCanNeverBeReadHidesNoOther)
+{
+    options.lookInterval = 1h; // A look is a list.
+    addProducer("a", "fault IFGetDeviceID:A1 error -1010\n" + cameras(2));
+    start();
+    for (int look = 0; look < 3; ++look)
+        EXPECT_EQ(listIds(), Calls{"a.cti/net0/A2"}) << look;
+}
+
+TEST_F(RestartTest, AnInterfaceWhoseIdCannotBeReadGoesOn)
+{
+    options.interfaceInterval = 0ms;
+    const std::string both = cameras(1) + "interface net1|Network 1|GEV\n";
+    addProducer("a", both);
+    start();
+    const auto recorder = recordCameras();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault TLGetInterfaceID:net0 error -1010\n" + both);
+    ASSERT_TRUE(
+        waitUntil([&] { return countReports("TLGetInterfaceID failed with -1010 (GC_ERR_IO)") == 1; }));
+    EXPECT_EQ(list().size(), 1U);
+    EXPECT_EQ(countCalls("a", "IFClose"), 0U);
+    setScript("a", "fault TLGetInterfaceID:net0 error -1007\n" + both);
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "IFClose") == 1; })) << "what is gone is closed";
+    EXPECT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
+    EXPECT_EQ(recorder->calls(), Calls{"-a.cti/net0/A1"});
+}
+
 TEST_F(RestartTest, AFailingListOfInterfacesKeepsThoseThatAreOpen)
 {
     options.interfaceInterval = 0ms;

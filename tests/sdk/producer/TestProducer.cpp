@@ -14,7 +14,7 @@
 // of the standard's version 1.3), late-error CODE (of the second call), number (in place of a text), size
 // BYTES ("size -1" says one less than there is and heeds no capacity).
 // Of the update functions: search MILLISECONDS, which runs out of time when it is given less; for the devices
-// of one interface as a fault of IFUpdateDeviceList:ID.
+// of one interface as a fault of IFUpdateDeviceList:ID. TLGetInterfaceID:ID and IFGetDeviceID:ID are alike.
 // Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
 // for a byte. The calls are written to "name.log", each with its process.
 
@@ -369,6 +369,8 @@ GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE, std::uint32_t iIndex, char *sID, std:
         return code;
     if (iIndex >= interfaces.size())
         return refuseIndex();
+    if (const int code = perform(actionFor("TLGetInterfaceID:" + interfaces[iIndex].id())); code != Continue)
+        return code;
     const std::lock_guard lock(mutex);
     return give(interfaces[iIndex].id(), sID, piSize);
 }
@@ -458,7 +460,10 @@ GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDev
     const auto *interface = static_cast<Interface *>(hIface);
     if (iIndex >= interface->devices.size())
         return refuseIndex();
-    return give(interface->devices[iIndex].id(), sIDeviceID, piSize);
+    const std::string &id = interface->devices[iIndex].id();
+    if (const int code = perform(actionFor("IFGetDeviceID:" + id)); code != Continue)
+        return code;
+    return give(id, sIDeviceID, piSize);
 }
 
 #ifndef WITHOUT_IFGETDEVICEINFO
