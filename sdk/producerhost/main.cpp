@@ -48,6 +48,8 @@ int main(int argc, char *argv[])
     if (!dieWithParent(SocketDescriptor))
         return EXIT_FAILURE;
     std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
+    std::signal(SIGTTOU, SIG_IGN); // On a terminal they are in the background,
+    std::signal(SIGTTIN, SIG_IGN); // and one that is stopped would be taken for hanging.
     limitMemory();
     shareOneHeap();
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.

@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 
 using Steps = std::vector<std::string>;
 
+const std::string SomeCamera = "interface net|Net|GEV\ndevice net|D1|V|M|S|N|GEV\n";
+
 /// The library as it is installed, with its own times, and a program beside it.
 class LibraryTest : public testing::Test
 {
@@ -163,6 +165,18 @@ TEST_F(LibraryTest, AStandardErrorThatNobodyReadsDelaysNoList)
     auto process = run({"stuffed", "start", "list", "stop"});
     EXPECT_EQ(process.exitStatus(), 0);
     EXPECT_EQ(process.count("list 0 2"), 1U) << process.output();
+}
+
+TEST_F(LibraryTest, ADriverMayUseTheTerminalOfTheProgram)
+{
+    addProducer("asking", "fault load ask\n" + SomeCamera);
+    addProducer("printing", "fault load print\n" + SomeCamera);
+    ClientProcess process(
+        "/usr/bin/script", // Which gives it a terminal; there, what is in the background stops.
+        {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start list stop", "/dev/null"});
+    EXPECT_EQ(process.exitStatus(), 0);
+    EXPECT_EQ(process.count("list 0 2"), 1U) << process.output().substr(0, 1000);
+    EXPECT_GT(process.count("xxxx"), 0U) << "what it prints is read";
 }
 
 TEST_F(LibraryTest, AnnouncesWithinThreeSeconds)

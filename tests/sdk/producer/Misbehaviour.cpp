@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <fcntl.h>
 #include <functional>
 #include <map>
 #include <new>
@@ -77,6 +78,16 @@ void closeDescriptors()
         close(descriptor);
 }
 
+/// As a driver does that asks whoever sits there.
+void readTerminal()
+{
+    const int terminal = open("/dev/tty", O_RDONLY | O_CLOEXEC);
+    char answer = 0;
+    if (terminal < 0 || read(terminal, &answer, 1) >= 0)
+        throw std::runtime_error("there is no terminal, or it is ours");
+    close(terminal);
+}
+
 void printMegabyte()
 {
     std::printf("%s\n", std::string(1 << 20, 'x').c_str());
@@ -112,6 +123,7 @@ int perform(const std::string &action)
                 hang();
             }},
         {"print", [](int) { printMegabyte(); }},
+        {"ask", [](int) { readTerminal(); }},
         {"close", [](int) { closeDescriptors(); }},
     };
     std::istringstream words(action);
