@@ -1,5 +1,7 @@
 #include "sdk/cvxcpp/HostProcess.h"
 
+#include "sdk/cvxcpp/Descriptor.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -80,6 +82,8 @@ std::optional<std::string> HostProcess::start(const std::string &hostProgram, co
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
         return std::string("no socket for its host: ") + strerrordesc_np(errno);
+    for (int &end : ends)
+        end = aboveStandard(end);
 
     std::string program = hostProgram;
     std::string argument = producer;

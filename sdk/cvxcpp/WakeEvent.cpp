@@ -1,11 +1,13 @@
 #include "sdk/cvxcpp/WakeEvent.h"
 
+#include "sdk/cvxcpp/Descriptor.h"
+
 #include <cerrno>
 #include <sys/eventfd.h>
 #include <system_error>
 #include <unistd.h>
 
-WakeEvent::WakeEvent() : m_descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+WakeEvent::WakeEvent() : m_descriptor(aboveStandard(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)))
 {
     if (m_descriptor < 0)
         throw std::system_error(errno, std::generic_category(), "eventfd");

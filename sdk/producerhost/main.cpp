@@ -37,6 +37,15 @@ void shareOneHeap()
     mallopt(M_ARENA_MAX, 1);
 }
 
+/// A program that was started without them hands down none; then what is printed would go into a file of the
+/// driver's.
+void openStandardDescriptors()
+{
+    int descriptor = 0;
+    while ((descriptor = open("/dev/null", O_RDWR)) >= 0 && descriptor <= STDERR_FILENO) { }
+    close(descriptor);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -50,6 +59,7 @@ int main(int argc, char *argv[])
     std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
     std::signal(SIGTTOU, SIG_IGN); // On a terminal they are in the background,
     std::signal(SIGTTIN, SIG_IGN); // and one that is stopped would be taken for hanging.
+    openStandardDescriptors();
     limitMemory();
     shareOneHeap();
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.

@@ -179,6 +179,28 @@ TEST_F(LibraryTest, ADriverMayUseTheTerminalOfTheProgram)
     EXPECT_GT(process.count("xxxx"), 0U) << "what it prints is read";
 }
 
+TEST_F(LibraryTest, StandardDescriptorsThatAreClosedAreTakenByNobody)
+{
+    addProducer("good", "fault load slow 500\n" + SomeCamera);
+    writeFile(root.path() / "cti/text.cti", "no library"); // Its line must not go where standard error was.
+    for (const char *closed : {"<&- 2>&-", "2>&-", "<&-"}) {
+        ClientProcess process("/bin/sh", {"-c", "exec '" + client() + "' start list stop " + closed});
+        EXPECT_EQ(process.exitStatus(), 0) << closed;
+        EXPECT_EQ(process.count("list 0 1"), 1U) << closed << process.output();
+    }
+}
+
+TEST_F(LibraryTest, AHostHasStandardDescriptorsWhereItsProgramHasNone)
+{
+    addSimulator();
+    ClientProcess process("/bin/sh", {"-c", "exec '" + client() + "' start list wait 2>&-"});
+    ASSERT_TRUE(process.waitFor("list 0 2"));
+    ASSERT_EQ(hosts().size(), 1U);
+    EXPECT_EQ(fs::read_symlink("/proc/" + std::to_string(hosts().front()) + "/fd/2"), "/dev/null");
+    process.closeInput();
+    EXPECT_EQ(process.exitStatus(), 0);
+}
+
 TEST_F(LibraryTest, AnnouncesWithinThreeSeconds)
 {
     addSimulator();
