@@ -1,5 +1,6 @@
 #include "sdk/aravis/AravisSearch.h"
 
+#include <algorithm>
 #include <dlfcn.h>
 #include <memory>
 
@@ -68,7 +69,8 @@ DeviceRecord toRecord(const FoundDevice &device, const std::string &tlType)
     return record;
 }
 
-AravisSearch::AravisSearch(InterfaceGetter interface) : m_interface(interface)
+AravisSearch::AravisSearch(InterfaceGetter interface, Answers answers)
+    : m_interface(interface), m_answers(answers)
 {
     keepAravisLoaded();
 }
@@ -90,8 +92,22 @@ std::vector<FoundDevice> AravisSearch::devices()
     const unsigned count = arv_interface_get_n_devices(interface);
     for (unsigned index = 0; index < count; ++index)
         found.push_back(readDevice(interface, index));
+    if (m_answers == Answers::MayGetLost)
+        addMissed(found);
     m_devices = std::move(found);
     m_endedAt = Clock::now();
     m_hasSearched = true;
     return m_devices;
+}
+
+void AravisSearch::addMissed(std::vector<FoundDevice> &found) const
+{
+    for (const FoundDevice &device : m_devices) {
+        const bool isFound = std::any_of(
+            found.begin(), found.end(), [&](const FoundDevice &other) { return other.id == device.id; });
+        if (isFound || device.isMissed)
+            continue;
+        found.push_back(device);
+        found.back().isMissed = true;
+    }
 }

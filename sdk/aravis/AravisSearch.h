@@ -16,6 +16,7 @@ struct FoundDevice
     std::string model;
     std::string serial;
     std::string address; ///< The IP address of a GigE Vision device.
+    bool isMissed = false; ///< This search has not found it, but the one before.
 };
 
 /// The record of a device that was found; its name for people is made of vendor, model and serial number.
@@ -28,7 +29,14 @@ class AravisSearch
 public:
     using InterfaceGetter = ArvInterface *(*)();
 
-    explicit AravisSearch(InterfaceGetter interface);
+    /// Where answers may get lost on their way, a device that one search misses is still listed.
+    enum class Answers
+    {
+        AreCertain,
+        MayGetLost
+    };
+
+    AravisSearch(InterfaceGetter interface, Answers answers);
 
     /// Searches now, or takes the result of a search that ended just now. May be called from several threads.
     std::vector<FoundDevice> devices();
@@ -36,7 +44,10 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    void addMissed(std::vector<FoundDevice> &found) const;
+
     const InterfaceGetter m_interface;
+    const Answers m_answers;
 
     std::mutex m_mutex; // Guards what follows; held during a search, for which every caller has to wait.
     bool m_hasSearched = false;

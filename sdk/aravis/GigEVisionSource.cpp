@@ -37,9 +37,13 @@ std::vector<DeviceRecord> GigEVisionSource::updateDevices(const std::string &int
     const std::vector<FoundDevice> found = m_search.devices();
     const std::vector<CardAddress> cards = cardAddresses();
     std::vector<DeviceRecord> devices;
-    for (const FoundDevice &device : found)
-        if (interfaceIdOf(device, cards) == interfaceId)
+    for (const FoundDevice &device : found) {
+        const std::string id = interfaceIdOf(device, cards);
+        // Its card may have gone with it; then it is nowhere.
+        const bool mayHaveLostCard = device.isMissed && id == elsewhereId;
+        if (id == interfaceId && !mayHaveLostCard)
             devices.push_back(toRecord(device, GenTL::TLTypeGEVName));
+    }
     return devices;
 }
 

@@ -13,5 +13,5 @@ public:
     std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override;
 
 private:
-    AravisSearch m_search{arv_gv_interface_get_instance};
+    AravisSearch m_search{arv_gv_interface_get_instance, AravisSearch::Answers::MayGetLost};
 };

@@ -17,7 +17,7 @@ public:
 private:
     bool isUsbReady();
 
-    AravisSearch m_search{arv_uv_interface_get_instance};
+    AravisSearch m_search{arv_uv_interface_get_instance, AravisSearch::Answers::AreCertain};
 
     std::mutex m_mutex; // Guards what follows.
     bool m_isReady = false;

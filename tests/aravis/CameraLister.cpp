@@ -52,6 +52,13 @@ ListedCameras CameraLister::cameras()
     return cameras;
 }
 
+ListedCameras CameraLister::searchedCameras()
+{
+    ListedCameras found;
+    waitUntil([&] { return timeOf([&] { found = cameras(); }) > std::chrono::milliseconds(800); });
+    return found;
+}
+
 ListedCameras CameraLister::awaitCameras(const ListedCameras &expected)
 {
     ListedCameras found;

@@ -33,6 +33,10 @@ public:
     /// The cameras of all interfaces, which are updated side by side, sorted by interface and serial number.
     ListedCameras cameras();
 
+    /// The cameras of a search that has begun after the call. A producer may answer at once from one that has
+    /// just ended, and a search takes a second.
+    ListedCameras searchedCameras();
+
     /// Lists until they are these or it takes too long; gives the last list.
     ListedCameras awaitCameras(const ListedCameras &expected);
 

@@ -2,6 +2,7 @@
 
 #include "tests/aravis/CameraLister.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 TEST(CameraNetworks, EachCameraIsListedAtItsCard)
@@ -9,4 +10,14 @@ TEST(CameraNetworks, EachCameraIsListedAtItsCard)
     CameraLister lister(UNIVERSAL_GEV_FILE);
     const ListedCameras expected{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"elsewhere", "STRAY"}};
     EXPECT_EQ(lister.awaitCameras(expected), expected);
+}
+
+TEST(CameraNetworks, ACameraGoesWithItsCard)
+{
+    CameraLister lister(UNIVERSAL_GEV_FILE);
+    const ListedCameras all{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"elsewhere", "STRAY"}};
+    ASSERT_EQ(lister.awaitCameras(all), all);
+    ASSERT_EQ(std::system("ip link set card1 down"), 0);
+    const ListedCameras left{{"10.77.2.1", "CARD2"}, {"elsewhere", "STRAY"}};
+    EXPECT_EQ(lister.searchedCameras(), left) << "and is not elsewhere for a while";
 }

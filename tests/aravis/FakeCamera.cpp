@@ -21,6 +21,16 @@ FakeCamera::FakeCamera(const std::string &serial, const std::string &address) : 
     _exit(127);
 }
 
+void FakeCamera::pause()
+{
+    kill(m_process, SIGSTOP);
+}
+
+void FakeCamera::resume()
+{
+    kill(m_process, SIGCONT);
+}
+
 FakeCamera::~FakeCamera()
 {
     kill(m_process, SIGKILL);

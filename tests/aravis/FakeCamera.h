@@ -13,6 +13,9 @@ public:
     FakeCamera(const FakeCamera &) = delete;
     FakeCamera &operator=(const FakeCamera &) = delete;
 
+    void pause(); ///< From here on it answers nothing, as if packets were lost.
+    void resume();
+
 private:
     pid_t m_process;
 };

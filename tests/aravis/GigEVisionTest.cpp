@@ -70,7 +70,30 @@ TEST_F(GigEVision, ACameraWithoutAHardwareAddressHasItsOtherTextsAsId)
     EXPECT_EQ(firstDeviceId(lister), "Aravis-Fake-LOOP1");
 }
 
-TEST_F(GigEVision, ACameraGoesWithItsLastAnswerAndComesBackUnderItsId)
+TEST_F(GigEVision, ACameraThatMissesOneSearchStays)
+{
+    FakeCamera camera("LOOP1");
+    const ListedCameras one{{"127.0.0.1", "LOOP1"}};
+    ASSERT_EQ(lister.awaitCameras(one), one);
+    for (int i = 0; i < 2; ++i) {
+        camera.pause();
+        EXPECT_EQ(lister.searchedCameras(), one) << i;
+        camera.resume();
+        EXPECT_EQ(lister.searchedCameras(), one) << i;
+    }
+}
+
+TEST_F(GigEVision, ACameraThatMissesTwoSearchesGoes)
+{
+    FakeCamera camera("LOOP1");
+    const ListedCameras one{{"127.0.0.1", "LOOP1"}};
+    ASSERT_EQ(lister.awaitCameras(one), one);
+    camera.pause();
+    EXPECT_EQ(lister.searchedCameras(), one);
+    EXPECT_EQ(lister.searchedCameras(), ListedCameras{});
+}
+
+TEST_F(GigEVision, ACameraGoesAndComesBackUnderItsId)
 {
     const ListedCameras one{{"127.0.0.1", "LOOP1"}};
     std::string id;
