@@ -128,9 +128,7 @@ CvxError DiscoverySession::searchInterface(
     ProducerView &view = m_views.at(producer);
     const auto isFresh
         = [&] { return view.isInterfaceFresh(interfaceId, Clock::now(), m_options.reuseTime); };
-    if (!isFresh()) {
-        if (!view.isAwaited)
-            return CvxErrorTimeout;
+    if (!isFresh() && view.isAwaited) {
         view.wantedInterfaces.insert(interfaceId);
         m_wakeEvent.signal();
         const bool isAnswered = m_changed.wait_until(lock, deadline, [&] {
@@ -141,11 +139,11 @@ CvxError DiscoverySession::searchInterface(
             return CvxErrorNotStarted;
         if (!isAnswered)
             view.isAwaited = false;
-        if (!view.isAwaited)
-            return CvxErrorTimeout;
     }
-    record = view.findRecord(interfaceId);
-    return record ? CvxErrorSuccess : CvxErrorNotAvailable;
+    record = view.findRecord(interfaceId); // Of a late producer as old as its cameras in the list.
+    if (record)
+        return CvxErrorSuccess;
+    return view.isAwaited ? CvxErrorNotAvailable : CvxErrorTimeout;
 }
 
 CameraListChange DiscoverySession::takeChanges()

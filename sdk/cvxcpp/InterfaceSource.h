@@ -18,7 +18,8 @@ public:
     using RunningFlag = std::shared_ptr<const std::atomic<bool>>;
     virtual RunningFlag runningFlag() const = 0;
 
-    /// Searches one interface of a producer, unless it was just searched, and gives what is on it now.
+    /// Searches one interface of a producer, unless it was just searched, and gives what is on it now; while
+    /// the producer is late, what was on it at the last search.
     virtual CvxCPP::CvxError searchInterface(
         std::size_t producer, const std::string &interfaceId, std::shared_ptr<const ListedInterface> &record)
         = 0;

@@ -55,6 +55,22 @@ TEST_F(SlowProducerTest, IsWaitedForOnceWhenItIsSlowEveryTime)
     EXPECT_GE(countCalls("slow", "IFUpdateDeviceList"), 3U) << "it is asked all the same";
 }
 
+TEST_F(SlowProducerTest, TellsEachCamerasVendorWhenItIsSlowEveryTime)
+{
+    options.answerWait = 400ms;
+    addProducer("slow",
+        "fault IFUpdateDeviceList slow 600\n"
+        "interface net0|N|GEV\ndevice net0|A1|Orvelle\ndevice net0|A2|Ferrant\n");
+    start();
+    ASSERT_TRUE(waitUntil([this] { return list().size() == 2; }));
+    const auto interface = interfaceOf(list(), 1);
+    const auto update = feature(*interface, "DeviceUpdateList");
+    EXPECT_LT(timeOf([&] { EXPECT_EQ(update->RunCommand(), CvxErrorSuccess); }), 300ms);
+    ASSERT_EQ(feature(*interface, "DeviceSelector")->SetValue(1), CvxErrorSuccess);
+    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A2");
+    EXPECT_EQ(valueOf(*feature(*interface, "DeviceVendorName")), "Ferrant");
+}
+
 TEST_F(SlowProducerTest, KeepsItsCamerasWhileItIsLate)
 {
     options.lookInterval = 1h;

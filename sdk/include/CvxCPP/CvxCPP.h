@@ -71,8 +71,8 @@ class CVXCPP_API Feature
 public:
     virtual ~Feature() = default;
 
-    /// Executes a command and returns when it is done; CvxErrorTimeout after 3 s, or at once while the
-    /// producer has an answer overdue.
+    /// Executes a command and returns when it is done, after 3 s, or at once while the producer has an answer
+    /// overdue. What the last search has found stays then; CvxErrorTimeout when there is nothing of it.
     virtual CvxError RunCommand() = 0;
 
     /// Gives the smallest and the largest value of an integer, both inclusive.
