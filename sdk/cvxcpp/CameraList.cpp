@@ -11,10 +11,11 @@ bool lessById(const std::shared_ptr<InterfaceObject> &a, const std::shared_ptr<I
     return a->id() < b->id();
 }
 
-bool lessByIds(const std::shared_ptr<CameraObject> &a, const std::shared_ptr<CameraObject> &b)
+/// By all that is listed of them: a camera whose texts change is another one.
+bool lessByTexts(const std::shared_ptr<CameraObject> &a, const std::shared_ptr<CameraObject> &b)
 {
     const int order = a->interfaceId().compare(b->interfaceId());
-    return order != 0 ? order < 0 : a->id() < b->id();
+    return order != 0 ? order < 0 : a->device() < b->device();
 }
 
 /// What `left` has and `right` has not; of equal ones, as many as are too many.
@@ -61,8 +62,8 @@ CameraListChange CameraListChange::between(const CameraList &before, const Camer
     CameraListChange change;
     change.newInterfaces = missing(after.interfaces, before.interfaces, lessById);
     change.goneInterfaces = missing(before.interfaces, after.interfaces, lessById);
-    change.newCameras = missing(after.cameras, before.cameras, lessByIds);
-    change.goneCameras = missing(before.cameras, after.cameras, lessByIds);
+    change.newCameras = missing(after.cameras, before.cameras, lessByTexts);
+    change.goneCameras = missing(before.cameras, after.cameras, lessByTexts);
     return change;
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// The interfaces and cameras of one producer at one time, sorted by interface ID, then by device ID.
+/// The interfaces and cameras of one producer at one time, sorted by interface ID, then by device.
 /// Never changed once it is made: two lists that are the same object hold the same.
 struct CameraList
 {
@@ -28,7 +28,7 @@ struct CameraList
     static Pointer empty();
 };
 
-/// What came and what went, told by interface ID and device ID.
+/// What came and what went: interfaces by their ID, cameras by all that is listed of them.
 struct CameraListChange
 {
     std::vector<std::shared_ptr<InterfaceObject>> newInterfaces, goneInterfaces;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <tuple>
@@ -195,10 +196,9 @@ auto fieldsOf(const ListedDevice &device)
     return std::tie(device.id, device.vendor, device.model, device.serial, device.name, device.type);
 }
 
-template <typename Record>
-void sortById(std::vector<Record> &records)
+template <typename Record, typename Less>
+void sort(std::vector<Record> &records, Less less)
 {
-    const auto less = [](const Record &a, const Record &b) { return a.id < b.id; };
     if (!std::is_sorted(records.begin(), records.end(), less)) // The host sorts, by bytes before replacement.
         std::stable_sort(records.begin(), records.end(), less);
 }
@@ -213,8 +213,8 @@ bool parseAnswer(std::string_view line, ProducerAnswer &answer)
         if (line.size() > LongestAnswer || !nlohmann::json::sax_parse(line, &handler) || !handler.isAnswer())
             return false;
         for (ListedInterface &record : answer.interfaces)
-            sortById(record.devices);
-        sortById(answer.interfaces);
+            sort(record.devices, std::less<>());
+        sort(answer.interfaces, [](const auto &a, const auto &b) { return a.id < b.id; });
         return true;
     } catch (const std::exception &) { // Out of memory.
         return false;
@@ -224,6 +224,11 @@ bool parseAnswer(std::string_view line, ProducerAnswer &answer)
 bool operator==(const ListedDevice &a, const ListedDevice &b)
 {
     return fieldsOf(a) == fieldsOf(b);
+}
+
+bool operator<(const ListedDevice &a, const ListedDevice &b)
+{
+    return fieldsOf(a) < fieldsOf(b);
 }
 
 bool operator==(const ListedInterface &a, const ListedInterface &b)

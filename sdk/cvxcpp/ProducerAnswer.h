@@ -60,4 +60,5 @@ constexpr std::size_t MostRecords = 1U << 18;
 bool parseAnswer(std::string_view line, ProducerAnswer &answer);
 
 bool operator==(const ListedDevice &a, const ListedDevice &b);
+bool operator<(const ListedDevice &a, const ListedDevice &b); ///< By ID, then by the other texts.
 bool operator==(const ListedInterface &a, const ListedInterface &b);

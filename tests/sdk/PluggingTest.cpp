@@ -28,7 +28,7 @@ TEST_F(PluggingTest, ACameraThatComesOrGoesIsAnnouncedOnce)
     list();
     setScript("a", cameras(2));
     ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
-    setScript("a", "interface net0|N|GEV\ndevice net0|A2\n");
+    setScript("a", "interface net0|N|GEV\ndevice net0|A2|Orvelle|Model 2|SN2|Camera 2|GEV\n");
     ASSERT_TRUE(waitUntil([&] { return recorder->calls().size() >= 2; }));
     awaitTwoLooks("a");
     EXPECT_EQ(recorder->calls(), (Calls{"+a.cti/net0/A2", "-a.cti/net0/A1"}));
@@ -41,10 +41,30 @@ TEST_F(PluggingTest, WithoutAChangeThereIsNoCall)
     const auto recorder = recordCameras();
     list();
     awaitTwoLooks("a");
-    setScript("a", // Another order, another name, another serial number: the same cameras.
-        "interface net0|N|GEV\ndevice net0|A3|V|M|S9|N9|GEV\ndevice net0|A1\ndevice net0|A2\n");
+    std::string script = "interface net0|Another name|GEV\n";
+    for (const char *number : {"3", "1", "2"}) // Another order: the same cameras.
+        script += std::string("device net0|A") + number + "|Orvelle|Model " + number + "|SN" + number
+            + "|Camera " + number + "|GEV\n";
+    setScript("a", script);
     awaitTwoLooks("a");
     EXPECT_EQ(recorder->calls(), Calls{});
+}
+
+TEST_F(PluggingTest, ACameraWhoseTextsChangeGoesAndComes)
+{
+    const std::string other = "device n|E|V|M|S|N|GEV\n"; // Stays as it is.
+    addProducer("a", "interface n|N|GEV\ndevice n|D|||||\n" + other);
+    start();
+    const auto recorder = recordCameras();
+    ASSERT_EQ(list().size(), 2U);
+    Calls expected;
+    for (const char *texts : {"V||||", "V|M|||", "V|M|S||", "V|M|S|N|", "V|M|S|N|U3V"}) {
+        setScript("a", std::string("interface n|N|GEV\ndevice n|D|") + texts + '\n' + other);
+        expected.insert(expected.end(), {"-a.cti/n/D", "+a.cti/n/D"});
+        ASSERT_TRUE(waitUntil([&] { return recorder->calls().size() >= expected.size(); })) << texts;
+    }
+    awaitTwoLooks("a");
+    EXPECT_EQ(recorder->calls(), expected);
 }
 
 TEST_F(PluggingTest, ChangedTextsAreListed)

@@ -50,6 +50,13 @@ TEST(ProducerAnswerTest, ReadsTheEnd)
     EXPECT_EQ(parsed(R"({"ended":true,"problems":[]})").kind, ProducerAnswer::Kind::Ended);
 }
 
+TEST(ProducerAnswerTest, SortsDevicesOfOneIdByTheirTexts)
+{
+    const auto answer
+        = parsed(R"({"interfaces":[{"id":"a","devices":[{"id":"y","model":"2"},{"id":"y","model":"1"}]}]})");
+    EXPECT_EQ(answer.interfaces[0].devices[0].model, "1");
+}
+
 TEST(ProducerAnswerTest, SortsByIdWhateverTheOrder)
 {
     const auto answer

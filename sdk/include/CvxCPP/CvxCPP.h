@@ -131,7 +131,8 @@ public:
     virtual CvxError GetInterface(std::shared_ptr<Interface> &iface) const = 0;
 };
 
-/// Told of every camera that comes or goes. Called on a thread of the system, which holds no lock meanwhile.
+/// Told of every camera that comes or goes; one of which anything that Camera tells changes, goes and comes.
+/// Called on a thread of the system, which holds no lock meanwhile.
 class CVXCPP_API ICameraListObserver
 {
 public:
