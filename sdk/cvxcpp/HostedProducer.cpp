@@ -32,6 +32,15 @@ std::string problemReason(const CallProblem &problem)
     return callReason(problem.call, problem.code, problem.text);
 }
 
+/// Why a host has given up; nothing when the line tells something else.
+std::optional<std::string> errorReason(const std::string &line)
+{
+    ProducerAnswer answer;
+    if (!parseAnswer(line, answer) || answer.kind != ProducerAnswer::Kind::Error)
+        return std::nullopt;
+    return problemReason(answer.problems.front());
+}
+
 } // namespace
 
 HostedProducer::HostedProducer(
@@ -136,8 +145,11 @@ HostedProducer::Event HostedProducer::receive(Time now)
 
 HostedProducer::Event HostedProducer::takeAnswer(const std::string &line, Time now)
 {
-    if (!m_isBusy)
-        return fail(now, "sent an answer that nobody asked for");
+    if (!m_isBusy) {
+        const auto reason = errorReason(line); // A thread of the driver may fail at any time.
+        return reason ? fail(now, *reason, m_options.endWait)
+                      : fail(now, "sent an answer that nobody asked for");
+    }
     const bool hasMore = m_host.hasMore();
     if (!hasMore && m_isListAsked && line == m_lastAnswer) {
         m_isBusy = false;
@@ -202,11 +214,7 @@ HostedProducer::Event HostedProducer::checkHost(Time now)
 std::optional<std::string> HostedProducer::lastWords()
 {
     std::string line;
-    ProducerAnswer answer;
-    if (m_host.readLine(line) != HostProcess::Reading::Line || !parseAnswer(line, answer)
-        || answer.kind != ProducerAnswer::Kind::Error)
-        return std::nullopt;
-    return problemReason(answer.problems.front());
+    return m_host.readLine(line) == HostProcess::Reading::Line ? errorReason(line) : std::nullopt;
 }
 
 HostedProducer::Event HostedProducer::fail(

@@ -137,6 +137,19 @@ TEST_F(RestartTest, AFailureIsReportedWithoutTheDriversWordsWhereItHasNone)
         EXPECT_EQ(line.substr(line.find(": ")), ": IFUpdateDeviceList failed with -1010 (GC_ERR_IO)") << line;
 }
 
+TEST_F(RestartTest, ADriverThatThrowsBetweenTwoLooksIsReportedWithItsReason)
+{
+    options.lookInterval = 1h;
+    options.firstRestart = 1h;
+    addProducer("a", "fault GCInitLib throw-later 1000\n" + cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    ASSERT_TRUE(waitUntil([this] { return !reports().empty(); }));
+    EXPECT_EQ(reports(),
+        std::vector<std::string>{ctiPath("a.cti").string()
+            + ": the driver failed: threw an exception that nobody caught: licence server lost"});
+}
+
 TEST_F(RestartTest, AHostIsStartedAgainWhenThereAreDescriptorsAgain)
 {
     addProducer("a", cameras(1));

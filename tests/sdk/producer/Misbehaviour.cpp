@@ -65,6 +65,14 @@ void throwInThread()
     std::thread([] { throw std::runtime_error("thrown in a thread of the driver"); }).join();
 }
 
+void throwLater(int time)
+{
+    std::thread([time] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(time));
+        throw std::runtime_error("licence server lost");
+    }).detach();
+}
+
 /// Of every signal that can be handled, to something that a host would not want.
 void changeSignalHandlers()
 {
@@ -103,6 +111,7 @@ int perform(const std::string &action)
         {"throw", [](int) { throw std::runtime_error("thrown by the driver"); }},
         {"throw-number", [](int number) { throw number; }},
         {"throw-in-thread", [](int) { throwInThread(); }},
+        {"throw-later", throwLater},
         {"terminate", [](int) { std::terminate(); }},
         {"exit", [](int code) { std::exit(code); }},
         {"hang", [](int) { hang(); }},

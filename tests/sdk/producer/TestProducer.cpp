@@ -7,9 +7,9 @@
 //   changing INTERFACE                                  a device whose ID is another one at every update
 //   quiet                                               no log, no second reading: many take long otherwise
 //   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
-// Actions of any function: error CODE, crash, abort, throw, throw-number, throw-in-thread, terminate,
-// exit CODE, hang, untouched, slow MILLISECONDS, fork, fork-and-die, daemon, allocate, threads, signals,
-// ignore-and-hang, print, ask (on the terminal), close.
+// Actions of any function: error CODE, crash, abort, throw, throw-number, throw-in-thread, throw-later
+// MILLISECONDS, terminate, exit CODE, hang, untouched, slow MILLISECONDS, fork, fork-and-die, daemon,
+// allocate, threads, signals, ignore-and-hang, print, ask (on the terminal), close.
 // Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
 // of the standard's version 1.3), late-error CODE (of the second call), number (in place of a text), size
 // BYTES ("size -1" says one less than there is and heeds no capacity).
