@@ -5,6 +5,7 @@
 #include "sdk/cvxcpp/Utf8.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <exception>
 #include <poll.h>
@@ -18,6 +19,7 @@ namespace {
 constexpr std::size_t MostStarts = 4; // At a time; between them, the hosts that run get their turn.
 constexpr auto EndInterval = 5ms; // Between two looks at hosts that are ending.
 constexpr auto KillWait = 300ms; // For killed hosts to be gone.
+constexpr auto FailedPollWait = 100ms; // In its place; then every host is read.
 
 /// Reports are written on this thread: a closed standard error must not end the program.
 void blockBrokenPipeSignal()
@@ -257,16 +259,25 @@ void DiscoverySession::waitForEvents(Time nextLook, std::vector<bool> &isReadabl
     const Time now = Clock::now();
     Time wakeAt = nextLook;
     std::vector<pollfd> descriptors{{m_wakeEvent.descriptor(), POLLIN, 0}};
-    for (const auto &producer : m_producers) {
-        descriptors.push_back({producer->descriptor(), POLLIN, 0}); // poll() passes over -1.
-        wakeAt = std::min(wakeAt, producer->nextStep(now));
+    std::vector<std::size_t> indices; // Of the producers whose descriptors come after that.
+    for (std::size_t i = 0; i < m_producers.size(); ++i) {
+        const HostedProducer &producer = *m_producers[i];
+        wakeAt = std::min(wakeAt, producer.nextStep(now));
+        if (producer.descriptor() < 0)
+            continue; // poll() would pass over it, but refuses more than the program may open.
+        descriptors.push_back({producer.descriptor(), POLLIN, 0});
+        indices.push_back(i);
     }
     // Interrupted by a signal of the program's, it gives no events.
-    poll(descriptors.data(), descriptors.size(), pollTimeout(wakeAt, now));
+    const bool hasFailed
+        = poll(descriptors.data(), descriptors.size(), pollTimeout(wakeAt, now)) < 0 && errno != EINTR;
+    if (hasFailed) // The limit was lowered since, or there is no memory.
+        std::this_thread::sleep_for(FailedPollWait);
     if (descriptors.front().revents != 0)
         m_wakeEvent.clear();
-    for (std::size_t i = 0; i < m_producers.size(); ++i)
-        isReadable[i] = descriptors[i + 1].revents != 0;
+    isReadable.assign(m_producers.size(), false);
+    for (std::size_t i = 0; i < indices.size(); ++i)
+        isReadable[indices[i]] = hasFailed || descriptors[i + 1].revents != 0;
 }
 
 void DiscoverySession::stepProducers(const std::vector<bool> &isReadable)

@@ -2,6 +2,7 @@
 #include "tests/sdk/support/SystemTest.h"
 
 #include <csignal>
+#include <ctime>
 
 using namespace CvxCPP;
 using namespace std::chrono_literals;
@@ -16,6 +17,15 @@ protected:
     {
         const auto hosts = processesWith(ctiPath(producer + ".cti").string());
         return hosts.empty() ? -1 : hosts.front();
+    }
+
+    /// What a call takes of this process's processor time.
+    template <typename Call>
+    static std::chrono::milliseconds processorTimeOf(const Call &call)
+    {
+        const std::clock_t start = std::clock();
+        call();
+        return std::chrono::milliseconds((std::clock() - start) * 1000 / CLOCKS_PER_SEC);
     }
 };
 
@@ -163,6 +173,31 @@ TEST_F(RestartTest, AHostIsStartedAgainWhenThereAreDescriptorsAgain)
             [this] { return countReports("cti/a.cti: no socket for its host: Too many open files") == 1; }));
     }
     EXPECT_TRUE(waitUntil([this] { return list().size() == 1; }));
+}
+
+TEST_F(RestartTest, MoreProducersThanDescriptorsKeepNoneFromAnswering)
+{
+    options.lookInterval = 1h;
+    options.firstRestart = 1h;
+    addProducer("a", "fault IFUpdateDeviceList slow 1500\n" + cameras(1));
+    for (int i = 0; i < 40; ++i)
+        writeFile(ctiPath("text" + std::to_string(i) + ".cti"), "no library");
+    const OutOfDescriptors few(32);
+    start();
+    const auto used = processorTimeOf([this] { EXPECT_EQ(list().size(), 1U); });
+    EXPECT_LT(used, 750ms) << "it waits, and does not ask all the time";
+}
+
+TEST_F(RestartTest, ALimitBelowWhatIsOpenStopsNothing)
+{
+    options.lookInterval = 1h;
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault IFUpdateDeviceList slow 1500\n" + cameras(2));
+    const OutOfDescriptors none;
+    const auto used = processorTimeOf([this] { EXPECT_EQ(list().size(), 2U); });
+    EXPECT_LT(used, 750ms) << "it waits, and does not ask all the time";
 }
 
 TEST_F(RestartTest, AMissingHostProgramIsReportedAndComesBack)

@@ -16,12 +16,12 @@ void showUbsanWhatIsThrown()
 
 } // namespace
 
-OutOfDescriptors::OutOfDescriptors()
+OutOfDescriptors::OutOfDescriptors(rlim_t limit)
 {
     showUbsanWhatIsThrown();
     getrlimit(RLIMIT_NOFILE, &m_before);
-    const rlimit none{0, m_before.rlim_max};
-    setrlimit(RLIMIT_NOFILE, &none);
+    const rlimit low{limit, m_before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &low);
 }
 
 OutOfDescriptors::~OutOfDescriptors()
