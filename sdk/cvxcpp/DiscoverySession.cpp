@@ -105,8 +105,7 @@ bool DiscoverySession::searchCameras(std::shared_ptr<const Cameras> &cameras)
             view.searchEnded(Clock::now()); // The quick producers' lists as well as the one waited for.
     }
     cameras = collectCameras();
-    lock.unlock();
-    m_announcer.holdUntil(Clock::now() + m_options.announceDelay);
+    m_announcer.holdUntil(Clock::now() + m_options.announceDelay); // Before the next change can be there.
     return true;
 }
 
