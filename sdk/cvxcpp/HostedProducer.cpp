@@ -12,7 +12,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto CheckInterval = 250ms; // While an answer is out: a driver that forked keeps the socket open.
-constexpr auto ReapInterval = 5ms; // A host whose socket is closed has all but ended.
+constexpr auto ReapInterval = 5ms; // A host whose socket is closed has all but ended …
+constexpr auto ReapTime = 1s; // … unless it is stuck in the kernel; then it is looked at less often.
 constexpr auto CloseGrace = 500ms; // From the socket's end to the process's.
 constexpr int MostLastLines = 4; // An answer that was on its way and that of the end, and some more.
 
@@ -89,7 +90,7 @@ HostedProducer::Time HostedProducer::nextStep(Time now) const
     case State::Waiting:
         return m_startAt;
     case State::Ending:
-        return now + ReapInterval;
+        return now + (now - m_killAt < ReapTime ? ReapInterval : CheckInterval);
     case State::Running:
         break;
     }
