@@ -179,13 +179,19 @@ void DiscoverySession::hideRepeats()
 void DiscoverySession::run()
 {
     blockBrokenPipeSignal();
+    attempt(&DiscoverySession::startProducers);
+    attempt(&DiscoverySession::serveUntilStopped);
+    attempt(&DiscoverySession::endProducers);
+    m_producers.clear(); // Kills what still runs.
+}
+
+void DiscoverySession::attempt(void (DiscoverySession::*step)())
+{
     try {
-        startProducers();
-        serveUntilStopped();
+        (this->*step)();
     } catch (const std::exception &exception) { // Out of memory, in practice.
         fail(exception.what());
     }
-    endProducers();
 }
 
 void DiscoverySession::startProducers()
@@ -367,13 +373,16 @@ void DiscoverySession::settleAll()
 
 void DiscoverySession::fail(const char *reason)
 {
-    if (m_options.report)
-        m_options.report(std::string("the search for cameras ended: ") + reason);
     {
         const std::lock_guard lock(m_mutex);
         *m_isRunning = false;
     }
     m_changed.notify_all();
+    try {
+        if (m_options.report)
+            m_options.report(std::string("the search for cameras ended: ") + reason);
+    } catch (const std::exception &) { // No memory for these words either.
+    }
 }
 
 void DiscoverySession::endProducers()
@@ -393,5 +402,4 @@ void DiscoverySession::endProducers()
         for (const auto &producer : m_producers)
             producer->killAtEnd(Clock::now());
     }
-    m_producers.clear();
 }

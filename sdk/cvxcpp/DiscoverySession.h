@@ -45,6 +45,7 @@ private:
 
     // On the session's thread.
     void run();
+    void attempt(void (DiscoverySession::*step)()); ///< The search ends when it throws.
     void startProducers();
     void serveUntilStopped();
     void sendWishes(Time now, bool isLookDue);

@@ -218,6 +218,21 @@ TEST_F(LifetimeTest, ASearchThatFailsIsReportedAndEndsTheSystem)
     EXPECT_EQ(lines.back(), "the search for cameras ended: std::bad_alloc");
 }
 
+TEST_F(LifetimeTest, AProgramOutlivesASystemThatHasNoMemoryForItsLastWords)
+{
+    std::atomic<int> lines{0};
+    options.report = [&](const std::string &) {
+        ++lines;
+        throw std::bad_alloc();
+    };
+    addProducer("a", "fault GCCloseLib exit 9\n" + cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    stop();
+    EXPECT_EQ(lines, 2) << "how the producer ended, and how the search did";
+    EXPECT_TRUE(childrenOf(getpid()).empty());
+}
+
 TEST(Announcer, DropsItsObserversWhenItStops)
 {
     Announcer announcer([] { return CameraListChange(); });
