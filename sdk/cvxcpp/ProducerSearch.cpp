@@ -22,11 +22,28 @@ bool isCtiName(std::string_view name)
         && strncasecmp(name.data() + name.size() - suffix.size(), suffix.data(), suffix.size()) == 0;
 }
 
-std::vector<std::string> ctiNames(const std::string &directory)
+using Report = std::function<void(const std::string &)>;
+using FileIds = std::set<std::pair<dev_t, ino_t>>;
+
+void tell(const Report &report, const std::string &path, const std::string &fault)
+{
+    if (report)
+        report(std::string(path).append(": ").append(fault));
+}
+
+/// None of a directory that is known already, by another path.
+std::vector<std::string> ctiNames(const std::string &directory, FileIds &known, const Report &report)
 {
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR *)> stream(opendir(directory.c_str()), closedir);
-    if (!stream)
+    if (!stream) {
+        if (errno != ENOENT && errno != ENOTDIR)
+            tell(report, directory, std::string("cannot be searched: ") + strerrordesc_np(errno));
+        return names;
+    }
+    struct stat file
+    { };
+    if (fstat(dirfd(stream.get()), &file) == 0 && !known.emplace(file.st_dev, file.st_ino).second)
         return names;
     while (const dirent *entry = readdir(stream.get())) {
         if (isCtiName(entry->d_name))
@@ -55,20 +72,19 @@ std::string findFault(const std::string &path, struct stat &file)
 
 } // namespace
 
-std::vector<ProducerFile> findProducers(
-    const std::vector<std::string> &directories, const std::function<void(const std::string &)> &report)
+std::vector<ProducerFile> findProducers(const std::vector<std::string> &directories, const Report &report)
 {
     std::vector<ProducerFile> producers;
-    std::set<std::pair<dev_t, ino_t>> known;
+    FileIds known;
     for (std::size_t i = 0; i < directories.size(); ++i) {
         const std::string &directory = directories[i];
-        for (const std::string &name : ctiNames(directory)) {
+        for (const std::string &name : ctiNames(directory, known, report)) {
             const std::string path = std::filesystem::path(directory) / name;
             struct stat file
             { };
             const std::string fault = findFault(path, file);
-            if (!fault.empty() && report)
-                report(std::string(path).append(": ").append(fault));
+            if (!fault.empty())
+                tell(report, path, fault);
             const std::string realPath = resolved(path);
             if (fault.empty() && !realPath.empty() && known.emplace(file.st_dev, file.st_ino).second)
                 producers.push_back({realPath, i});

@@ -19,6 +19,13 @@ protected:
         writeFile(path, "x");
         return path.string();
     }
+    /// What is told of all that is passed over.
+    static std::vector<std::string> faultsIn(const std::vector<std::string> &directories)
+    {
+        std::vector<std::string> faults;
+        findProducers(directories, [&](const std::string &fault) { faults.push_back(fault); });
+        return faults;
+    }
     /// The paths of what is found.
     static std::vector<std::string> find(const std::vector<std::string> &directories)
     {
@@ -81,12 +88,30 @@ TEST_F(ProducerSearchTest, TellsWhatItPassesOver)
     fs::create_directory(root.path() / "a.cti");
     fs::create_symlink("/nowhere/maker.cti", root.path() / "b.cti");
     ASSERT_EQ(mkfifo(dir("c.cti").c_str(), 0600), 0);
-    std::vector<std::string> faults;
-    EXPECT_TRUE(findProducers({dir()}, [&](const std::string &fault) { faults.push_back(fault); }).empty());
-    EXPECT_EQ(faults,
+    EXPECT_EQ(faultsIn({dir()}),
         (std::vector<std::string>{dir("a.cti") + ": is a directory",
             dir("b.cti") + ": cannot be found: No such file or directory",
             dir("c.cti") + ": is no regular file"}));
+}
+
+TEST_F(ProducerSearchTest, TellsWhatItPassesOverOnceByWhateverPath)
+{
+    fs::create_directories(root.path() / "real/a.cti");
+    fs::create_directory_symlink(root.path() / "real", root.path() / "again");
+    EXPECT_EQ(faultsIn({dir("real"), dir("real/"), dir("again")}),
+        std::vector<std::string>{dir("real/a.cti") + ": is a directory"});
+}
+
+TEST_F(ProducerSearchTest, TellsWhichDirectoryItCannotRead)
+{
+    fs::create_symlink("itself", root.path() / "itself");
+    EXPECT_EQ(faultsIn({dir("itself")}),
+        std::vector<std::string>{dir("itself") + ": cannot be searched: Too many levels of symbolic links"});
+}
+
+TEST_F(ProducerSearchTest, TellsNothingOfADirectoryThatIsNotThere)
+{
+    EXPECT_TRUE(faultsIn({dir("missing"), file("file"), dir("file/below"), ""}).empty());
 }
 
 TEST_F(ProducerSearchTest, TellsInWhichDirectoryAProducerWasFoundFirst)
