@@ -69,8 +69,8 @@ DeviceRecord toRecord(const FoundDevice &device, const std::string &tlType)
     return record;
 }
 
-AravisSearch::AravisSearch(InterfaceGetter interface, Answers answers)
-    : m_interface(interface), m_answers(answers)
+AravisSearch::AravisSearch(InterfaceGetter interface, Placer placer, Answers answers)
+    : m_interface(interface), m_placer(placer), m_answers(answers)
 {
     keepAravisLoaded();
 }
@@ -90,8 +90,10 @@ std::vector<FoundDevice> AravisSearch::devices()
     arv_interface_update_device_list(interface);
     std::vector<FoundDevice> found;
     const unsigned count = arv_interface_get_n_devices(interface);
-    for (unsigned index = 0; index < count; ++index)
+    for (unsigned index = 0; index < count; ++index) {
         found.push_back(readDevice(interface, index));
+        found.back().interfaceId = m_placer(found.back());
+    }
     if (m_answers == Answers::MayGetLost)
         addMissed(found);
     m_devices = std::move(found);

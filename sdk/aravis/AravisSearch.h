@@ -16,6 +16,7 @@ struct FoundDevice
     std::string model;
     std::string serial;
     std::string address; ///< The IP address of a GigE Vision device.
+    std::string interfaceId; ///< Where it was when it was found.
     bool isMissed = false; ///< This search has not found it, but the one before.
 };
 
@@ -29,6 +30,9 @@ class AravisSearch
 public:
     using InterfaceGetter = ArvInterface *(*)();
 
+    /// Gives the ID of the interface that a device is to be listed at.
+    using Placer = std::string (*)(const FoundDevice &device);
+
     /// Where answers may get lost on their way, a device that one search misses is still listed.
     enum class Answers
     {
@@ -36,7 +40,7 @@ public:
         MayGetLost
     };
 
-    AravisSearch(InterfaceGetter interface, Answers answers);
+    AravisSearch(InterfaceGetter interface, Placer placer, Answers answers);
 
     /// Searches now, or takes the result of a search that ended just now. May be called from several threads.
     std::vector<FoundDevice> devices();
@@ -47,6 +51,7 @@ private:
     void addMissed(std::vector<FoundDevice> &found) const;
 
     const InterfaceGetter m_interface;
+    const Placer m_placer;
     const Answers m_answers;
 
     std::mutex m_mutex; // Guards what follows; held during a search, for which every caller has to wait.

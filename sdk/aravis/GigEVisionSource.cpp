@@ -2,14 +2,19 @@
 
 #include "sdk/aravis/NetworkCards.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char elsewhereId[] = "elsewhere";
 
-std::string interfaceIdOf(const FoundDevice &device, const std::vector<CardAddress> &cards)
+/// Its card may have gone with a device that a search misses.
+bool hasLostCard(const FoundDevice &device)
 {
-    const CardAddress *const card = cardOf(cards, device.address);
-    return card ? card->address : elsewhereId;
+    const std::vector<CardAddress> cards = cardAddresses();
+    return device.isMissed && device.interfaceId != elsewhereId
+        && std::none_of(cards.begin(), cards.end(),
+            [&](const CardAddress &card) { return card.address == device.interfaceId; });
 }
 
 } // namespace
@@ -34,17 +39,19 @@ std::vector<InterfaceRecord> GigEVisionSource::updateInterfaces()
 
 std::vector<DeviceRecord> GigEVisionSource::updateDevices(const std::string &interfaceId)
 {
-    const std::vector<FoundDevice> found = m_search.devices();
-    const std::vector<CardAddress> cards = cardAddresses();
     std::vector<DeviceRecord> devices;
-    for (const FoundDevice &device : found) {
-        const std::string id = interfaceIdOf(device, cards);
-        // Its card may have gone with it; then it is nowhere.
-        const bool mayHaveLostCard = device.isMissed && id == elsewhereId;
-        if (id == interfaceId && !mayHaveLostCard)
+    for (const FoundDevice &device : m_search.devices()) {
+        if (device.interfaceId == interfaceId && !hasLostCard(device))
             devices.push_back(toRecord(device, GenTL::TLTypeGEVName));
     }
     return devices;
+}
+
+std::string GigEVisionSource::interfaceIdOf(const FoundDevice &device)
+{
+    const std::vector<CardAddress> cards = cardAddresses();
+    const CardAddress *const card = cardOf(cards, device.address);
+    return card ? card->address : elsewhereId;
 }
 
 std::unique_ptr<DeviceSource> createDeviceSource(const std::filesystem::path &)

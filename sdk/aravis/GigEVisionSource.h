@@ -13,5 +13,7 @@ public:
     std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override;
 
 private:
-    AravisSearch m_search{arv_gv_interface_get_instance, AravisSearch::Answers::MayGetLost};
+    static std::string interfaceIdOf(const FoundDevice &device);
+
+    AravisSearch m_search{arv_gv_interface_get_instance, interfaceIdOf, AravisSearch::Answers::MayGetLost};
 };

@@ -30,6 +30,11 @@ std::vector<DeviceRecord> Usb3VisionSource::updateDevices(const std::string &int
     return devices;
 }
 
+std::string Usb3VisionSource::interfaceIdOf(const FoundDevice &)
+{
+    return hostId;
+}
+
 bool Usb3VisionSource::isUsbReady()
 {
     const std::lock_guard lock(m_mutex);

@@ -16,8 +16,9 @@ public:
 
 private:
     bool isUsbReady();
+    static std::string interfaceIdOf(const FoundDevice &device);
 
-    AravisSearch m_search{arv_uv_interface_get_instance, AravisSearch::Answers::AreCertain};
+    AravisSearch m_search{arv_uv_interface_get_instance, interfaceIdOf, AravisSearch::Answers::AreCertain};
 
     std::mutex m_mutex; // Guards what follows.
     bool m_isReady = false;
