@@ -54,9 +54,12 @@ ListedCameras CameraLister::cameras()
 
 ListedCameras CameraLister::searchedCameras()
 {
-    ListedCameras found;
-    waitUntil([&] { return timeOf([&] { found = cameras(); }) > std::chrono::milliseconds(800); });
-    return found;
+    interfaces();
+    const IF_HANDLE any = m_handles.begin()->second;
+    waitUntil([&] {
+        return timeOf([&] { m_session.updateDevices(any); }) > std::chrono::milliseconds(800);
+    });
+    return cameras(); // All of them share that search.
 }
 
 ListedCameras CameraLister::awaitCameras(const ListedCameras &expected)
