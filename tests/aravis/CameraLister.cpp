@@ -56,9 +56,7 @@ ListedCameras CameraLister::searchedCameras()
 {
     interfaces();
     const IF_HANDLE any = m_handles.begin()->second;
-    waitUntil([&] {
-        return timeOf([&] { m_session.updateDevices(any); }) > std::chrono::milliseconds(800);
-    });
+    waitUntil([&] { return timeOf([&] { m_session.updateDevices(any); }) > std::chrono::milliseconds(800); });
     return cameras(); // All of them share that search.
 }
 
