@@ -3,21 +3,43 @@
 import math
 import statistics
 
-WIDTH, HEIGHT, LEFT, RIGHT, TOP, BOTTOM = 640, 360, 60, 170, 20, 45
-COLOURS = "#0b69c7", "#0891b2", "#64748b", "#c2410c"
+WIDTH, HEIGHT, LEFT, RIGHT, TOP, BOTTOM = 640, 360, 60, 170, 40, 45
+HEAD = f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {WIDTH} {HEIGHT}" role="img" aria-labelledby="title">
+<title id="title">The time of a list and of a selection against the number of cameras</title>
+<style>
+.sheet {{ fill: #ffffff; }}
+.grid {{ stroke: #e2e8f0; }}
+text {{ font: 12px system-ui, "DejaVu Sans", sans-serif; fill: #334155; }}
+.curve {{ fill: none; stroke-width: 2; }}
+.c0 {{ --colour: #0b69c7; }} .c1 {{ --colour: #0e7490; }} .c2 {{ --colour: #64748b; }} .c3 {{ --colour: #c2410c; }}
+.curve {{ stroke: var(--colour); }} circle, .name {{ fill: var(--colour); }}
+@media (prefers-color-scheme: dark) {{
+.sheet {{ fill: #0f1419; }}
+.grid {{ stroke: #2d3a4d; }}
+text {{ fill: #e8edf2; }}
+.c0 {{ --colour: #4fb0ff; }} .c1 {{ --colour: #22d3ee; }} .c2 {{ --colour: #a3b1c2; }} .c3 {{ --colour: #ff9f5a; }}
+}}
+</style>
+<rect class="sheet" width="100%" height="100%"/>"""
 
 
 class Scale:
+    """From the least value to the most, with a little room."""
+
     def __init__(self, values, start, end):
-        self.least = math.floor(math.log10(min(values)))
-        self.most = math.ceil(math.log10(max(values)))
+        least, most = math.log10(min(values)), math.log10(max(values))
+        room = 0.03 * (most - least)
+        self.least, self.most = least - room, most + room
         self.start, self.end = start, end
 
     def place(self, value):
         return self.start + (self.end - self.start) * (math.log10(value) - self.least) / (self.most - self.least)
 
-    def decades(self):
-        return [10.0 ** power for power in range(self.least, self.most + 1)]
+    def marks(self):
+        """1, 2 and 5 of every decade."""
+        values = [digit * 10.0 ** power for power in range(math.floor(self.least), math.ceil(self.most))
+                  for digit in (1, 2, 5)]
+        return [value for value in values if self.least <= math.log10(value) <= self.most]
 
 
 def draw(curves):
@@ -26,28 +48,27 @@ def draw(curves):
                for name, curve in curves.items()}
     across = Scale([size for curve in medians.values() for size in curve], LEFT, WIDTH - RIGHT)
     up = Scale([value for curve in medians.values() for value in curve.values()], HEIGHT - BOTTOM, TOP)
-    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}" '
-             'font-family="sans-serif" font-size="12">', '<rect width="100%" height="100%" fill="white"/>']
-    for size in across.decades():
+    parts = [HEAD]
+    for size in across.marks():
         x = across.place(size)
         parts += [line(x, TOP, x, HEIGHT - BOTTOM), text(x, HEIGHT - BOTTOM + 16, f"{size:g}", "middle")]
-    for value in up.decades():
+    for value in up.marks():
         y = up.place(value)
         parts += [line(LEFT, y, WIDTH - RIGHT, y), text(LEFT - 6, y + 4, f"{value:g}", "end")]
-    parts += [text((LEFT + WIDTH - RIGHT) / 2, HEIGHT - 8, "cameras", "middle"), text(6, TOP - 6, "milliseconds")]
-    for colour, (name, curve) in zip(COLOURS, medians.items()):
+    parts += [text((LEFT + WIDTH - RIGHT) / 2, HEIGHT - 8, "cameras", "middle"), text(6, TOP - 18, "milliseconds")]
+    for number, (name, curve) in enumerate(medians.items()):
         points = [(across.place(size), up.place(value)) for size, value in sorted(curve.items())]
         path = " ".join(f"{x:.1f},{y:.1f}" for x, y in points)
-        parts.append(f'<polyline points="{path}" fill="none" stroke="{colour}" stroke-width="2"/>')
-        parts += [f'<circle cx="{x:.1f}" cy="{y:.1f}" r="3" fill="{colour}"/>' for x, y in points]
-        parts.append(text(WIDTH - RIGHT + 10 if max(curve) == 1000 else points[-1][0] + 8, points[-1][1] + 4, name,
-                          colour=colour))
+        x, y = points[-1]
+        parts += [f'<g class="c{number}">', f'<polyline class="curve" points="{path}"/>',
+                  *(f'<circle cx="{x:.1f}" cy="{y:.1f}" r="3"/>' for x, y in points),
+                  f'<text class="name" x="{x + 8:.1f}" y="{y + 4:.1f}">{name}</text>', "</g>"]
     return "\n".join([*parts, "</svg>", ""])
 
 
 def line(x1, y1, x2, y2):
-    return f'<line x1="{x1:.1f}" y1="{y1:.1f}" x2="{x2:.1f}" y2="{y2:.1f}" stroke="#e2e8f0"/>'
+    return f'<line class="grid" x1="{x1:.1f}" y1="{y1:.1f}" x2="{x2:.1f}" y2="{y2:.1f}"/>'
 
 
-def text(x, y, words, anchor="start", colour="#334155"):
-    return f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="{anchor}" fill="{colour}">{words}</text>'
+def text(x, y, words, anchor="start"):
+    return f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="{anchor}">{words}</text>'

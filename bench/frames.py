@@ -10,6 +10,7 @@ import tempfile
 import time
 
 BOUND = 30.0  # seconds, for everything that is waited for
+WITHOUT_OPENGL = {"QT_XCB_GL_INTEGRATION": "none"}  # An environment for Qt.
 xlib, xdamage, xtest = (ctypes.CDLL(f"lib{name}") for name in ("X11.so.6", "Xdamage.so.1", "Xtst.so.6"))
 ulong, pointer = ctypes.c_ulong, ctypes.c_void_p
 xlib.XOpenDisplay.restype = pointer

@@ -6,8 +6,8 @@ import subprocess
 import time
 
 import footprint
-from frames import running
-from pairs import Figure, at_most_on_average, at_most_times, in_pairs
+from frames import WITHOUT_OPENGL, running
+from pairs import TOLD_ONLY, Figure, at_most_on_average, at_most_times, in_pairs
 from places import LISTED
 
 SETTLED = 2.0  # seconds, until what a start leaves behind has gone.
@@ -34,8 +34,8 @@ def ours(bench):
         return memory([launcher, *footprint.hosts(launcher).values()])
 
 
-def floor(bench):
-    with running(bench.program("empty_window")) as (process, _), \
+def floor(bench, environment=None):
+    with running(bench.program("empty_window"), environment=environment) as (process, _), \
             subprocess.Popen(["sleep", "infinity"], close_fds=False) as bare:
         bench.screen.await_window()
         time.sleep(SETTLED)
@@ -72,8 +72,10 @@ def activity(bench):
 
 
 def figures(bench):
-    yield Figure("memory (PSS) of launcher and host, idle", "MiB",
-                 *in_pairs(lambda: ours(bench), lambda: floor(bench), bench.pairs), *at_most_times(1.3))
+    name = "memory (PSS) of launcher and host, idle"
+    yield Figure(name, "MiB", *in_pairs(lambda: ours(bench), lambda: floor(bench), bench.pairs), *at_most_times(1.3))
+    yield Figure(f"{name}, floor without OpenGL", "MiB",
+                 *in_pairs(lambda: ours(bench), lambda: floor(bench, WITHOUT_OPENGL), bench.pairs), *TOLD_ONLY)
     processor, launcher, host = activity(bench)
     yield Figure("processor use, idle, one producer", "%", processor, [0], *at_most_on_average(0.3, "% of a core"))
     yield Figure("wake-ups of the launcher, idle", "/s", launcher, [0], *at_most_on_average(5, "/s"))
