@@ -17,7 +17,7 @@ PATHS = "list_parsing", "group_matching", "configuration_load", "tooltip_buildin
 SKIPPED = 77
 
 # What differs between machines, and between runs, is kept out: the processor's newer instructions, which the C library
-# and Qt choose at run time, the seed of Qt's hashes, symbols that are looked up at their first call, the language, and
+# and Qt choose at run time, the order of Qt's hashes, symbols that are looked up at their first call, the language, and
 # all else that an environment may hold.
 WITHOUT = ("AVX", "AVX2", "AVX512BW", "AVX512F", "AVX512VL", "AVX_Fast_Unaligned_Load", "BMI1", "BMI2", "ERMS", "FSRM",
            "LZCNT", "MOVBE", "POPCNT", "RTM", "SSE3", "SSE4_1", "SSE4_2", "SSSE3", "XSAVE", "XSAVEC")

@@ -11,10 +11,11 @@ constexpr char elsewhereId[] = "elsewhere";
 /// Its card may have gone with a device that a search misses.
 bool hasLostCard(const FoundDevice &device)
 {
+    if (!device.isMissed || device.interfaceId == elsewhereId)
+        return false;
     const std::vector<CardAddress> cards = cardAddresses();
-    return device.isMissed && device.interfaceId != elsewhereId
-        && std::none_of(cards.begin(), cards.end(),
-            [&](const CardAddress &card) { return card.address == device.interfaceId; });
+    return std::none_of(cards.begin(), cards.end(),
+        [&](const CardAddress &card) { return card.address == device.interfaceId; });
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-"""Which mutants a run makes: a share for every folder, in proportion to its lines, drawn by the seed."""
+"""Which mutants a run makes: a share for every folder, in proportion to its lines; the same ones each time."""
 
 import pathlib
 import tomllib
