@@ -1,0 +1,32 @@
+#include "sdk/protocol/CameraRecords.h"
+
+#include <tuple>
+
+namespace {
+
+auto fieldsOf(const DeviceRecord &device)
+{
+    return std::tie(device.id, device.vendor, device.model, device.serial, device.name, device.type);
+}
+
+auto fieldsOf(const InterfaceRecord &interface)
+{
+    return std::tie(interface.number, interface.id, interface.name, interface.type, interface.devices);
+}
+
+} // namespace
+
+bool operator==(const DeviceRecord &a, const DeviceRecord &b)
+{
+    return fieldsOf(a) == fieldsOf(b);
+}
+
+bool operator==(const InterfaceRecord &a, const InterfaceRecord &b)
+{
+    return fieldsOf(a) == fieldsOf(b);
+}
+
+bool operator<(const DeviceRecord &a, const DeviceRecord &b)
+{
+    return fieldsOf(a) < fieldsOf(b);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+/// One device as its producer describes it. Every string but the ID may be empty. The strings are raw bytes
+/// in the host and valid UTF-8 in the library: sending a message replaces malformed bytes by U+FFFD.
+struct DeviceRecord
+{
+    std::string id;
+    std::string vendor;
+    std::string model;
+    std::string serial;
+    std::string name;
+    std::string type; ///< GenTL transport layer type, for example "GEV".
+};
+
+/// One interface of a producer with the devices on it.
+struct InterfaceRecord
+{
+    std::uint64_t number = 0; ///< The host's number for it; never reused while the host runs.
+    std::string id;
+    std::string name;
+    std::string type; ///< GenTL transport layer type.
+    std::vector<DeviceRecord> devices; ///< Sorted.
+};
+
+bool operator==(const DeviceRecord &a, const DeviceRecord &b);
+bool operator==(const InterfaceRecord &a, const InterfaceRecord &b);
+
+/// Orders devices by ID, then by the other fields.
+bool operator<(const DeviceRecord &a, const DeviceRecord &b);
+
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(DeviceRecord, id, vendor, model, serial, name, type)
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(InterfaceRecord, number, id, name, type, devices)

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// One message between library and host. On the wire it is a line of JSON: {"body": {…}, "id": 7, "kind":
+/// "listCameras"}. A content type has a static member `kind` and the nlohmann conversions to_json() and
+/// from_json().
+class Message
+{
+public:
+    using Id = std::uint32_t;
+
+    /// ID of a message that answers no request.
+    static constexpr Id noRequest = 0;
+
+    /// A reply has the ID of the request that it answers.
+    template <typename Content>
+    Message(Id id, const Content &content) : m_id(id), m_kind(Content::kind), m_body(content)
+    { }
+
+    /// Parses a line without its line feed. Returns nothing if the line is not a message.
+    static std::optional<Message> fromLine(std::string_view line);
+
+    /// Returns the message as a line with its line feed. Bytes that are not UTF-8 become U+FFFD.
+    std::string toLine() const;
+
+    Id id() const { return m_id; }
+
+    /// Returns the content; nothing if the message is of another kind or its body is malformed.
+    template <typename Content>
+    std::optional<Content> content() const
+    {
+        if (m_kind != Content::kind)
+            return std::nullopt;
+        try {
+            return m_body.get<Content>();
+        } catch (const nlohmann::json::exception &) {
+            return std::nullopt;
+        }
+    }
+
+private:
+    Message(Id id, std::string kind, nlohmann::json body);
+
+    Id m_id;
+    std::string m_kind;
+    nlohmann::json m_body;
+};
