@@ -32,7 +32,7 @@ bool isText(GenTL::INFO_DATATYPE type)
 
 } // namespace
 
-DeviceReader::DeviceReader(const ProducerLibrary &library, std::vector<Problem> &problems)
+DeviceReader::DeviceReader(const ProducerLibrary &library, ProblemList &problems)
     : m_library(library), m_problems(problems)
 { }
 
@@ -91,22 +91,21 @@ std::string DeviceReader::readInterfaceInfo(
     return text;
 }
 
-bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDescription> &devices)
+bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceRecord> &devices)
 {
     std::uint32_t count = NoCount;
     auto problem = m_library.call("IFGetNumDevices", m_library.IFGetNumDevices, interface, &count);
     if (!problem && count > MostCredible)
         problem = Problem{"IFGetNumDevices", 0, "gave no credible number of devices"};
     if (problem) {
-        addProblem(m_problems, std::move(*problem));
+        m_problems.add(std::move(*problem));
         return false;
     }
 
     if (count > MostDevices) {
-        addProblem(m_problems,
-            {"IFGetNumDevices", 0,
-                "gave " + std::to_string(count) + " devices, of which the first "
-                    + std::to_string(MostDevices) + " are listed"});
+        m_problems.add({"IFGetNumDevices", 0,
+            "gave " + std::to_string(count) + " devices, of which the first " + std::to_string(MostDevices)
+                + " are listed"});
         count = MostDevices;
     }
 
@@ -123,7 +122,7 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
             continue;
         }
         isComplete = isComplete && isGone(*problem);
-        addProblem(m_problems, std::move(*problem));
+        m_problems.add(std::move(*problem));
     }
     devices.clear();
     devices.reserve(ids.size());
@@ -134,21 +133,21 @@ bool DeviceReader::readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDes
     return isComplete;
 }
 
-std::optional<DeviceDescription> DeviceReader::readDevice(GenTL::IF_HANDLE interface, std::string id)
+std::optional<DeviceRecord> DeviceReader::readDevice(GenTL::IF_HANDLE interface, std::string id)
 {
-    static constexpr std::pair<GenTL::DEVICE_INFO_CMD, std::string DeviceDescription::*> required[] = {
-        {GenTL::DEVICE_INFO_VENDOR, &DeviceDescription::vendor},
-        {GenTL::DEVICE_INFO_MODEL, &DeviceDescription::model},
-        {GenTL::DEVICE_INFO_DISPLAYNAME, &DeviceDescription::name},
-        {GenTL::DEVICE_INFO_TLTYPE, &DeviceDescription::type},
+    static constexpr std::pair<GenTL::DEVICE_INFO_CMD, std::string DeviceRecord::*> required[] = {
+        {GenTL::DEVICE_INFO_VENDOR, &DeviceRecord::vendor},
+        {GenTL::DEVICE_INFO_MODEL, &DeviceRecord::model},
+        {GenTL::DEVICE_INFO_DISPLAYNAME, &DeviceRecord::name},
+        {GenTL::DEVICE_INFO_TLTYPE, &DeviceRecord::type},
     };
-    DeviceDescription device;
+    DeviceRecord device;
     device.id = std::move(id);
     for (const auto &[command, field] : required) {
         auto problem = readDeviceInfo(interface, device.id, command, device.*field);
         if (!problem)
             continue;
-        addProblem(m_problems, *problem);
+        m_problems.add(*problem);
         if (isGone(*problem))
             return std::nullopt;
     }

@@ -45,12 +45,12 @@ void InterfaceUpdater::update(OpenInterface &interface, Clock::time_point bound)
     const bool updated = !problem;
     const bool getsMoreTime = problem && isTimeout(*problem) && interface.timeout.grow();
     if (problem && !getsMoreTime)
-        addProblem(interface.problems, std::move(*problem));
-    std::vector<DeviceDescription> devices;
+        interface.problems.add(std::move(*problem));
+    std::vector<DeviceRecord> devices;
     const bool isComplete = updated && reader.readDevices(interface.handle, devices);
     interface.failedUpdates = isComplete ? 0 : interface.failedUpdates + 1;
-    if (isComplete || interface.failedUpdates > ToleratedFailures || interface.devices.empty())
-        interface.devices = std::move(devices);
+    if (isComplete || interface.failedUpdates > ToleratedFailures || interface.record.devices.empty())
+        interface.record.devices = std::move(devices);
     interface.isUpdated = true;
     interface.updateTime = Clock::now() - start;
 }

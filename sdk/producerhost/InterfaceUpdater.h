@@ -11,13 +11,10 @@
 /// One open interface of the producer and the devices last seen on it.
 struct OpenInterface
 {
-    std::uint64_t number = 0; ///< Ours; never given to another interface of this process.
-    std::string id; ///< The producer's, as raw bytes.
+    InterfaceRecord record;
     GenTL::IF_HANDLE handle = GenTL::GENTL_INVALID_HANDLE;
-    std::string name; ///< Empty until a device was seen on it.
-    std::string type; ///< Empty until a device was seen on it.
-    std::vector<DeviceDescription> devices; ///< Sorted by ID.
-    std::vector<Problem> problems; ///< Of the last update.
+    ProblemList problems; ///< The failed calls of the last update.
+    bool isDescribed = false; ///< The producer was asked for the interface's name and type.
     int failedUpdates = 0; ///< In a row.
     UpdateTimeout timeout;
     bool isUpdated = false; ///< An update has been made.

@@ -1,11 +1,23 @@
 #pragma once
 
 #include "sdk/gentl/GenTL.h"
-#include "sdk/producerhost/Problem.h"
+#include "sdk/protocol/Problem.h"
 
 #include <exception>
 #include <optional>
 #include <string>
+
+/// Returns true if the call was given too little time.
+inline bool isTimeout(const Problem &problem)
+{
+    return problem.code == GenTL::GC_ERR_TIMEOUT;
+}
+
+/// Returns true if the call was about an interface or device that has gone since it was listed.
+inline bool isGone(const Problem &problem)
+{
+    return problem.code == GenTL::GC_ERR_INVALID_ID || problem.code == GenTL::GC_ERR_INVALID_INDEX;
+}
 
 /// The functions of one loaded GenTL producer, and the one way to call them: every failure, an exception
 /// included, comes back as a Problem. The library is never unloaded, since some producers do not survive it.

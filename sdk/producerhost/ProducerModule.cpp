@@ -45,14 +45,14 @@ std::optional<Problem> ProducerModule::updateInterfaces()
     if (problem && m_interfaces.empty())
         return problem;
     if (problem) { // The interfaces that are open go on working.
-        addProblem(m_problems, std::move(*problem));
+        m_problems.add(std::move(*problem));
         return std::nullopt;
     }
     closeInterfacesExcept(ids);
     for (const std::string &id : ids)
         openInterface(id);
     std::sort(m_interfaces.begin(), m_interfaces.end(),
-        [](const OpenInterface &a, const OpenInterface &b) { return a.id < b.id; });
+        [](const OpenInterface &a, const OpenInterface &b) { return a.record.id < b.record.id; });
     return std::nullopt;
 }
 
@@ -69,14 +69,14 @@ std::optional<Problem> ProducerModule::readInterfaceIds(std::vector<std::string>
         std::string id;
         if (auto problem = reader.readInterfaceId(m_system, index, id)) {
             isComplete = isComplete && isGone(*problem);
-            addProblem(m_problems, std::move(*problem));
+            m_problems.add(std::move(*problem));
         } else {
             ids.push_back(std::move(id));
         }
     }
     if (!isComplete) { // One of those that are open may be it.
         for (const OpenInterface &interface : m_interfaces)
-            ids.push_back(interface.id);
+            ids.push_back(interface.record.id);
     }
     std::sort(ids.begin(), ids.end());
     ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
@@ -86,10 +86,10 @@ std::optional<Problem> ProducerModule::readInterfaceIds(std::vector<std::string>
 void ProducerModule::closeInterfacesExcept(const std::vector<std::string> &ids)
 {
     const auto isGone = [&](const OpenInterface &interface) {
-        if (std::binary_search(ids.begin(), ids.end(), interface.id))
+        if (std::binary_search(ids.begin(), ids.end(), interface.record.id))
             return false;
         if (auto problem = m_library.call("IFClose", m_library.IFClose, interface.handle))
-            addProblem(m_problems, std::move(*problem));
+            m_problems.add(std::move(*problem));
         return true;
     };
     m_interfaces.erase(std::remove_if(m_interfaces.begin(), m_interfaces.end(), isGone), m_interfaces.end());
@@ -98,20 +98,21 @@ void ProducerModule::closeInterfacesExcept(const std::vector<std::string> &ids)
 void ProducerModule::openInterface(const std::string &id)
 {
     const bool isOpen = std::any_of(m_interfaces.begin(), m_interfaces.end(),
-        [&](const OpenInterface &interface) { return interface.id == id; });
+        [&](const OpenInterface &interface) { return interface.record.id == id; });
     if (isOpen)
         return;
     OpenInterface interface;
-    interface.id = id;
+    interface.record.id = id;
+    interface.record.name = id;
     auto problem = m_library.call(
         "TLOpenInterface", m_library.TLOpenInterface, m_system, id.c_str(), &interface.handle);
     if (!problem && interface.handle == GenTL::GENTL_INVALID_HANDLE)
         problem = Problem{"TLOpenInterface", 0, "gave no handle"};
     if (problem) { // Tried again with the next list of interfaces.
-        addProblem(m_problems, std::move(*problem));
+        m_problems.add(std::move(*problem));
         return;
     }
-    interface.number = m_nextNumber++;
+    interface.record.number = m_nextNumber++;
     m_interfaces.push_back(std::move(interface));
 }
 
@@ -125,7 +126,7 @@ void ProducerModule::updateDevices()
 const OpenInterface *ProducerModule::updateDevices(std::uint64_t number)
 {
     const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(),
-        [&](const OpenInterface &interface) { return interface.number == number; });
+        [&](const OpenInterface &interface) { return interface.record.number == number; });
     if (found == m_interfaces.end())
         return nullptr;
     m_updater.update(*found);
@@ -136,13 +137,14 @@ const OpenInterface *ProducerModule::updateDevices(std::uint64_t number)
 void ProducerModule::describe(OpenInterface &interface)
 {
     // Asked of an interface without devices, this call ended some producers with a SIGSEGV.
-    if (interface.devices.empty() || !interface.name.empty())
+    InterfaceRecord &record = interface.record;
+    if (record.devices.empty() || std::exchange(interface.isDescribed, true))
         return;
     DeviceReader reader(m_library, interface.problems);
-    interface.name = reader.readInterfaceInfo(m_system, interface.id, GenTL::INTERFACE_INFO_DISPLAYNAME);
-    interface.type = reader.readInterfaceInfo(m_system, interface.id, GenTL::INTERFACE_INFO_TLTYPE);
-    if (interface.name.empty())
-        interface.name = interface.id;
+    const std::string name = reader.readInterfaceInfo(m_system, record.id, GenTL::INTERFACE_INFO_DISPLAYNAME);
+    if (!name.empty())
+        record.name = name;
+    record.type = reader.readInterfaceInfo(m_system, record.id, GenTL::INTERFACE_INFO_TLTYPE);
 }
 
 std::vector<Problem> ProducerModule::close()
@@ -151,13 +153,14 @@ std::vector<Problem> ProducerModule::close()
     closeInterfacesExcept({});
     const auto note = [this](std::optional<Problem> problem) {
         if (problem)
-            addProblem(m_problems, std::move(*problem));
+            m_problems.add(std::move(*problem));
     };
     if (m_system != GenTL::GENTL_INVALID_HANDLE)
         note(m_library.call("TLClose", m_library.TLClose, std::exchange(m_system, nullptr)));
     if (std::exchange(m_isInitialised, false))
         note(m_library.call("GCCloseLib", m_library.GCCloseLib));
-    if (m_problems.size() > 1)
-        m_problems.resize(1); // What cannot be closed makes the next call fail as well.
-    return m_problems;
+    std::vector<Problem> first = m_problems.all();
+    if (first.size() > 1)
+        first.resize(1); // A module that cannot be closed makes the next calls fail as well.
+    return first;
 }

@@ -35,7 +35,7 @@ public:
 
     /// Sorted by ID.
     const std::vector<OpenInterface> &interfaces() const { return m_interfaces; }
-    const std::vector<Problem> &problems() const { return m_problems; }
+    const ProblemList &problems() const { return m_problems; }
 
     /// Tears down in order, the only order that all producers survive, and gives what went wrong first.
     std::vector<Problem> close();
@@ -50,7 +50,7 @@ private:
     InterfaceUpdater m_updater;
     GenTL::TL_HANDLE m_system = GenTL::GENTL_INVALID_HANDLE;
     std::vector<OpenInterface> m_interfaces;
-    std::vector<Problem> m_problems; // Of the list of interfaces.
+    ProblemList m_problems; // Of the list of interfaces.
     std::uint64_t m_nextNumber = 1;
     UpdateTimeout m_timeout; // Of the list of interfaces.
     bool m_isInitialised = false;

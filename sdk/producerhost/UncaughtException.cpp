@@ -1,9 +1,10 @@
 #include "sdk/producerhost/UncaughtException.h"
 
-#include "sdk/producerhost/ExitStatus.h"
 #include "sdk/producerhost/Leave.h"
-#include "sdk/producerhost/LineSocket.h"
-#include "sdk/producerhost/ProducerAnswerWriter.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/HostContract.h"
+#include "sdk/protocol/LineChannel.h"
+#include "sdk/protocol/Message.h"
 
 #include <cstdlib>
 #include <exception>
@@ -33,9 +34,10 @@ std::string describeException()
 [[noreturn]] void answerAndLeave()
 {
     std::set_terminate(std::abort); // What is left to fail here is a lack of memory.
-    LineSocket socket(answerSocket);
-    socket.write(errorAnswer({"the driver", 0, describeException()}));
-    leave(socket.isLost() ? ConnectionLostStatus : EXIT_SUCCESS);
+    LineChannel channel(answerSocket);
+    const ProducerFailedReply reply{{"the driver", 0, describeException()}};
+    const auto status = channel.send(Message(Message::noRequest, reply).toLine());
+    leave(status == LineChannel::Status::Lost ? connectionLostStatus : EXIT_SUCCESS);
 }
 
 } // namespace

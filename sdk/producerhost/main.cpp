@@ -2,6 +2,7 @@
 #include "sdk/producerhost/Leave.h"
 #include "sdk/producerhost/ParentWatch.h"
 #include "sdk/producerhost/UncaughtException.h"
+#include "sdk/protocol/HostContract.h"
 
 #include <csignal>
 #include <cstdio>
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr int SocketDescriptor = 3; // The parent puts it there.
 constexpr int UsageError = 64;
 
 /// A driver that allocates without end must not take the machine with it. Counted in address space, which
@@ -50,11 +50,11 @@ void openStandardDescriptors()
 
 int main(int argc, char *argv[])
 {
-    if (argc != 2 || fcntl(SocketDescriptor, F_SETFD, FD_CLOEXEC) != 0) {
+    if (argc != 2 || fcntl(hostSocketDescriptor, F_SETFD, FD_CLOEXEC) != 0) {
         std::fputs("CvxProducerHost is started by libCvxCPP.so and by nothing else.\n", stderr);
         return UsageError;
     }
-    if (!dieWithParent(SocketDescriptor))
+    if (!dieWithParent(hostSocketDescriptor))
         return EXIT_FAILURE;
     std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
     std::signal(SIGTTOU, SIG_IGN); // On a terminal they are in the background,
@@ -65,6 +65,6 @@ int main(int argc, char *argv[])
     unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
     unsetenv(
         "G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.
-    answerUncaughtExceptions(SocketDescriptor);
-    leave(HostServer(SocketDescriptor).run(argv[1]));
+    answerUncaughtExceptions(hostSocketDescriptor);
+    leave(HostServer(hostSocketDescriptor).run(argv[1]));
 }
