@@ -48,7 +48,7 @@ std::function<void(const fs::path &)> withByte(std::size_t offset, unsigned char
 
 Rows files()
 {
-    constexpr auto awkwardName = "it's \"1\"\n\xFF.cti";
+    static constexpr auto awkwardName = "it's \"1\"\n\xFF.cti";
     constexpr auto otherMachine = "dlopen failed: the library is for another processor architecture";
     const auto crowd = [](const fs::path &cti) {
         for (int i = 0; i < hostsInCrowd; ++i) // Their names sort before the simulator's.
