@@ -11,25 +11,23 @@ int HostServer::run(const char *producerPath)
     if (const auto problem = m_producer.open(producerPath))
         fail(*problem);
     std::string line;
-    while (!m_isFinished && m_connection == LineChannel::Status::Line) {
-        m_connection = m_channel.waitForLine(line);
-        if (m_connection == LineChannel::Status::Line && !serve(line))
-            break;
-    }
+    while (!m_isFinished && (m_connection = m_channel.waitForLine(line)) == LineChannel::Status::Line)
+        serve(line);
     m_producer.close();
     return m_connection == LineChannel::Status::Lost ? connectionLostStatus : EXIT_SUCCESS;
 }
 
-bool HostServer::serve(const std::string &line)
+void HostServer::serve(const std::string &line)
 {
     const auto message = Message::fromLine(line);
-    return message
-        && (isServed<ListCamerasRequest>(*message) || isServed<ListInterfaceRequest>(*message)
-            || isServed<CloseProducerRequest>(*message));
+    const bool isServed = message
+        && (tryServe<ListCamerasRequest>(*message) || tryServe<ListInterfaceRequest>(*message)
+            || tryServe<CloseProducerRequest>(*message));
+    m_isFinished = m_isFinished || !isServed; // The other end is not the library of this installation.
 }
 
 template <typename Request>
-bool HostServer::isServed(const Message &message)
+bool HostServer::tryServe(const Message &message)
 {
     const auto request = message.content<Request>();
     if (!request)
@@ -41,16 +39,16 @@ bool HostServer::isServed(const Message &message)
 
 void HostServer::handle(const ListCamerasRequest &request)
 {
-    if (request.updatesInterfaces || !m_producer.isListed()) {
+    if (request.updatesInterfaces || m_producer.needsInterfaceUpdate()) {
         if (const auto problem = m_producer.updateInterfaces())
             return fail(*problem);
     }
-    m_producer.updateDevices();
+    m_producer.searchAll();
     CameraListReply cameras;
     ProblemList problems = m_producer.problems();
-    for (const OpenInterface &interface : m_producer.interfaces()) {
-        cameras.interfaces.push_back(interface.record);
-        problems.add(interface.problems);
+    for (const auto &interface : m_producer.interfaces()) {
+        cameras.interfaces.push_back(interface->record());
+        problems.add(interface->problems());
     }
     cameras.problems = problems.all();
     reply(cameras);
@@ -59,9 +57,9 @@ void HostServer::handle(const ListCamerasRequest &request)
 void HostServer::handle(const ListInterfaceRequest &request)
 {
     CameraListReply cameras;
-    if (const OpenInterface *interface = m_producer.updateDevices(request.number)) {
-        cameras.interfaces.push_back(interface->record);
-        cameras.problems = interface->problems.all();
+    if (const OpenInterface *interface = m_producer.searchInterface(request.number)) {
+        cameras.interfaces.push_back(interface->record());
+        cameras.problems = interface->problems().all();
     }
     reply(cameras);
 }

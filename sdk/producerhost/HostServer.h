@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/producerhost/ProducerModule.h"
+#include "sdk/producerhost/LoadedProducer.h"
 #include "sdk/protocol/DiscoveryMessages.h"
 #include "sdk/protocol/LineChannel.h"
 #include "sdk/protocol/Message.h"
@@ -19,13 +19,14 @@ public:
     int run(const char *producerPath);
 
 private:
-    /// Calls the handler of the request in this line and sends its reply. Returns false if the host must end.
-    bool serve(const std::string &line);
+    /// Calls the handler of the request in this line. Ends the service if there is none.
+    void serve(const std::string &line);
 
+    /// Calls the handler if the message is this kind of request.
     template <typename Request>
-    bool isServed(const Message &message);
+    bool tryServe(const Message &message);
 
-    // One handler for each request.
+    // One handler for each request; it sends the reply.
     void handle(const ListCamerasRequest &request);
     void handle(const ListInterfaceRequest &request);
     void handle(const CloseProducerRequest &request);
@@ -36,7 +37,7 @@ private:
 
     LineChannel m_channel;
     LineChannel::Status m_connection = LineChannel::Status::Line; // Result of the last read or write.
-    ProducerModule m_producer;
+    LoadedProducer m_producer;
     Message::Id m_request = Message::noRequest; // The request that is being handled.
-    bool m_isFinished = false; // The last reply has been sent.
+    bool m_isFinished = false; // No request is served any more.
 };

@@ -1,4 +1,4 @@
-#include "sdk/producerhost/Leave.h"
+#include "sdk/producerhost/ProcessExit.h"
 
 #include <cstdio>
 #include <unistd.h>
@@ -7,9 +7,9 @@
 extern "C" void __gcov_dump(void);
 #endif
 
-void leave(int status)
+void exitWithoutDestructors(int status)
 {
-    std::fflush(stdout); // What the driver has printed.
+    std::fflush(stdout); // Output of the producer.
 #if defined(CORVIX_COVERAGE)
     __gcov_dump();
 #endif
