@@ -19,7 +19,7 @@ class HostileProducerTest : public SystemTest, public testing::WithParamInterfac
 protected:
     HostileProducerTest()
     {
-        options.answerWait = 500ms; // For producers that hang.
+        options.searchTimeout = 500ms; // For producers that hang.
         std::filesystem::copy_file(SIMULATOR, ctiPath("CorvixCameraSimulator.cti"));
         GetParam().place(directory.path() / "cti");
     }
