@@ -92,8 +92,8 @@ TEST_F(DoubleListingTest, WhenTheLaterProducerLosesItNothingIsAnnounced)
 
 TEST_F(DoubleListingTest, ACrashOfTheEarlierProducerBringsTheLaterOnesCamera)
 {
-    options.firstRestart = std::chrono::hours(1);
-    options.longestRestart = options.firstRestart;
+    options.firstRestartDelay = std::chrono::hours(1);
+    options.maxRestartDelay = options.firstRestartDelay;
     addProducer("a", maker);
     addLaterProducer(fallback);
     start();

@@ -9,7 +9,7 @@ protected:
     /// The interface "net0" of a producer with that many cameras.
     std::shared_ptr<Interface> interfaceWith(int count)
     {
-        options.lookInterval = 1h;
+        options.pollInterval = 1h;
         addProducer("maker", cameras(count));
         start();
         return interfaceOf(list(), 0);
@@ -99,7 +99,7 @@ TEST_F(FeatureTest, WithoutDevicesNothingIsSelected)
 
 TEST_F(FeatureTest, AnUpdateSearchesItsInterfaceAlone)
 {
-    options.lookInterval = 1h;
+    options.pollInterval = 1h;
     addProducer("maker", "interface a|A|GEV\ninterface b|B|GEV\ndevice a|1\ndevice b|2\n");
     start();
     const Cameras found = list();
@@ -115,7 +115,7 @@ TEST_F(FeatureTest, AnUpdateSearchesItsInterfaceAlone)
 
 TEST_F(FeatureTest, AnUpdateOfAnInterfaceThatIsGoneFails)
 {
-    options.interfaceInterval = 0ms;
+    options.interfaceUpdateInterval = 0ms;
     const auto interface = interfaceWith(1);
     setScript("maker", "interface other|O|GEV\n");
     list();
@@ -125,7 +125,7 @@ TEST_F(FeatureTest, AnUpdateOfAnInterfaceThatIsGoneFails)
 
 TEST_F(FeatureTest, AnUpdateDoesNotWaitLongerThanAListDoes)
 {
-    options.answerWait = 1000ms;
+    options.searchTimeout = 1000ms;
     const auto interface = interfaceWith(1);
     setScript("maker", "fault IFUpdateDeviceList hang\n" + cameras(1));
     const auto update = feature(*interface, "DeviceUpdateList");
@@ -137,7 +137,7 @@ TEST_F(FeatureTest, AnUpdateDoesNotWaitLongerThanAListDoes)
 
 TEST_F(FeatureTest, AnUpdateWithoutItsProducerFails)
 {
-    options.firstRestart = 1h;
+    options.firstRestartDelay = 1h;
     const auto interface = interfaceWith(1);
     setScript("maker", "fault IFUpdateDeviceList crash\n" + cameras(1));
     EXPECT_TRUE(list().empty());

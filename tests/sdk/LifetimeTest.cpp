@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/Announcer.h"
+#include "sdk/cvxcpp/ObserverNotifier.h"
 #include "tests/sdk/support/ClientProcess.h"
 #include "tests/sdk/support/OutOfDescriptors.h"
 #include "tests/sdk/support/OutOfMemory.h"
@@ -111,7 +111,7 @@ TEST_F(LifetimeTest, TheEndDoesNotWaitForAHangingDriver)
 {
     addProducer("a", "fault GCInitLib hang\n");
     addProducer("b", "fault load hang\n");
-    options.endWait = 1500ms; // As in a program.
+    options.closeTimeout = 1500ms; // As in a program.
     start();
     EXPECT_TRUE(waitUntil([&] { return countCalls("a", "GCInitLib") == 1 && countCalls("b", "load") == 1; }));
     EXPECT_LT(timeOf([this] { stop(); }), 2000ms);
@@ -121,8 +121,8 @@ TEST_F(LifetimeTest, TheEndDoesNotWaitForAHangingDriver)
 TEST_F(LifetimeTest, TheEndWakesThoseWhoWait)
 {
     addProducer("a", "fault IFUpdateDeviceList hang\n" + cameras(1));
-    options.answerWait = 1h;
-    options.endWait = 200ms;
+    options.searchTimeout = 1h;
+    options.closeTimeout = 200ms;
     start();
     CvxError error = CvxErrorSuccess;
     std::thread waiter([&] {
@@ -137,10 +137,10 @@ TEST_F(LifetimeTest, TheEndWakesThoseWhoWait)
 
 TEST_F(LifetimeTest, TheEndOfTheSystemWakesAnUpdateToo)
 {
-    options.lookInterval = 1h;
-    options.answerWait = 1h;
-    options.answerLimit = 1h;
-    options.endWait = 200ms;
+    options.pollInterval = 1h;
+    options.searchTimeout = 1h;
+    options.replyTimeout = 1h;
+    options.closeTimeout = 200ms;
     addProducer("a", cameras(1));
     start();
     const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
@@ -157,7 +157,7 @@ TEST_F(LifetimeTest, TheEndOfTheSystemWakesAnUpdateToo)
 TEST_F(LifetimeTest, AnUpdateIsRefusedWhileTheSystemEnds)
 {
     options.reuseTime = 1h;
-    options.endWait = 1s;
+    options.closeTimeout = 1s;
     addProducer("a", "fault GCCloseLib hang\n" + cameras(1));
     start();
     const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
@@ -235,7 +235,7 @@ TEST_F(LifetimeTest, AProgramOutlivesASystemThatHasNoMemoryForItsLastWords)
 
 TEST(Announcer, DropsItsObserversWhenItStops)
 {
-    Announcer announcer([] { return CameraListChange(); });
+    ObserverNotifier announcer([] { return CameraListChange(); });
     const auto cameraObserver = std::make_shared<CameraRecorder>();
     const auto interfaceObserver = std::make_shared<InterfaceRecorder>();
     announcer.addObserver(std::shared_ptr<ICameraListObserver>(cameraObserver));
@@ -248,7 +248,7 @@ TEST(Announcer, DropsItsObserversWhenItStops)
 TEST(Announcer, GoesOnAfterAChangeThatItHadNoMemoryFor)
 {
     std::atomic<int> changes{0};
-    Announcer announcer([&] {
+    ObserverNotifier announcer([&] {
         if (++changes == 1)
             throw std::bad_alloc();
         return CameraListChange();
@@ -446,7 +446,7 @@ TEST_F(LifetimeTest, ASignalToItsThreadsChangesNothing)
     }, before{};
     action.sa_handler = [](int) { ++handled; }; // Calls that wait are not taken up again.
     sigaction(SIGUSR1, &action, &before);
-    options.lookInterval = 1h; // They all wait.
+    options.pollInterval = 1h; // They all wait.
     addProducer("a", cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);

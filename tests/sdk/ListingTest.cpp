@@ -12,7 +12,7 @@ class ListingTest : public SystemTest
 {
 protected:
     /// So that only what the test asks for is searched.
-    void lookNever() { options.lookInterval = 1h; }
+    void lookNever() { options.pollInterval = 1h; }
 };
 
 TEST_F(ListingTest, NoProducersAreNoFailure)
@@ -194,7 +194,7 @@ TEST_F(ListingTest, UpdatesHaveAFiniteTimeout)
 TEST_F(ListingTest, TheListOfInterfacesIsNotReadWithEverySearch)
 {
     lookNever();
-    options.interfaceInterval = 2h;
+    options.interfaceUpdateInterval = 2h;
     addProducer("a", cameras(1));
     start();
     for (int i = 0; i < 5; ++i)

@@ -87,7 +87,7 @@ TEST_F(PluggingTest, WhatIsThereAtTheStartIsAnnouncedToAProgramThatDoesNotList)
 
 TEST_F(PluggingTest, ACameraThatAListShowsFirstIsAnnouncedAllTheSame)
 {
-    options.lookInterval = 1h;
+    options.pollInterval = 1h;
     addProducer("a", cameras(1));
     start();
     const auto recorder = recordCameras();
@@ -191,7 +191,7 @@ TEST_F(PluggingTest, ASlowObserverHoldsUpNoList)
 
 TEST_F(PluggingTest, NothingIsAnnouncedRightAfterAListWasHandedOut)
 {
-    options.announceDelay = 400ms;
+    options.notificationHold = 400ms;
     addProducer("a", cameras(1));
     start();
     const auto recorder = recordCameras();
@@ -205,7 +205,7 @@ TEST_F(PluggingTest, NothingIsAnnouncedRightAfterAListWasHandedOut)
 
 TEST_F(PluggingTest, AProgramThatListsAllTheTimeIsToldAllTheSame)
 {
-    options.announceDelay = 250ms; // As in a program.
+    options.notificationHold = 250ms; // As in a program.
     addProducer("a", cameras(1));
     start();
     const auto recorder = recordCameras();

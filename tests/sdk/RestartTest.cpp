@@ -45,7 +45,7 @@ TEST_F(RestartTest, ACrashedHostLosesItsCamerasAndComesBackWithThem)
 
 TEST_F(RestartTest, ACrashIsNoticedWhileNobodyAsks)
 {
-    options.lookInterval = 1h;
+    options.pollInterval = 1h;
     addProducer("a", cameras(1));
     start();
     const auto recorder = recordCameras();
@@ -65,8 +65,8 @@ TEST_F(RestartTest, ARepairedDriverComesBack)
 
 TEST_F(RestartTest, TheDelayDoublesUpToItsLimit)
 {
-    options.firstRestart = 100ms;
-    options.longestRestart = 400ms;
+    options.firstRestartDelay = 100ms;
+    options.maxRestartDelay = 400ms;
     addProducer("a", "fault load exit 9\n");
     start();
     std::vector<Clock::time_point> times;
@@ -85,15 +85,15 @@ TEST_F(RestartTest, TheDelayDoublesUpToItsLimit)
 
 TEST_F(RestartTest, TheDelayStartsFromTheFirstAgainAfterAGoodRun)
 {
-    options.firstRestart = 100ms;
-    options.longestRestart = 1600ms;
+    options.firstRestartDelay = 100ms;
+    options.maxRestartDelay = 1600ms;
     addProducer("a", "fault load exit 9\n" + cameras(1));
     start();
     ASSERT_TRUE(
         waitUntil([&] { return countCalls("a", "load") >= 4; })); // The next delay is 800 ms, or 1600.
     setScript("a", cameras(1));
     ASSERT_TRUE(waitUntil([&] { return list().size() == 1; }));
-    const auto goodUntil = Clock::now() + options.longestRestart;
+    const auto goodUntil = Clock::now() + options.maxRestartDelay;
     ASSERT_TRUE(waitUntil([&] { return Clock::now() >= goodUntil && list().size() == 1; }));
 
     const std::size_t loads = countCalls("a", "load");
@@ -105,9 +105,9 @@ TEST_F(RestartTest, TheDelayStartsFromTheFirstAgainAfterAGoodRun)
 
 TEST_F(RestartTest, AHangThatRepeatsIsReportedOnce)
 {
-    options.answerWait = 100ms;
-    options.answerLimit = 300ms;
-    options.endWait = 100ms;
+    options.searchTimeout = 100ms;
+    options.replyTimeout = 300ms;
+    options.closeTimeout = 100ms;
     addProducer("a", "fault load hang\n");
     start();
     ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 3; }));
@@ -149,8 +149,8 @@ TEST_F(RestartTest, AFailureIsReportedWithoutTheDriversWordsWhereItHasNone)
 
 TEST_F(RestartTest, ADriverThatThrowsBetweenTwoLooksIsReportedWithItsReason)
 {
-    options.lookInterval = 1h;
-    options.firstRestart = 1h;
+    options.pollInterval = 1h;
+    options.firstRestartDelay = 1h;
     addProducer("a", "fault GCInitLib throw-later 1000\n" + cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);
@@ -177,8 +177,8 @@ TEST_F(RestartTest, AHostIsStartedAgainWhenThereAreDescriptorsAgain)
 
 TEST_F(RestartTest, MoreProducersThanDescriptorsKeepNoneFromAnswering)
 {
-    options.lookInterval = 1h;
-    options.firstRestart = 1h;
+    options.pollInterval = 1h;
+    options.firstRestartDelay = 1h;
     addProducer("a", "fault IFUpdateDeviceList slow 1500\n" + cameras(1));
     for (int i = 0; i < 40; ++i)
         writeFile(ctiPath("text" + std::to_string(i) + ".cti"), "no library");
@@ -190,7 +190,7 @@ TEST_F(RestartTest, MoreProducersThanDescriptorsKeepNoneFromAnswering)
 
 TEST_F(RestartTest, ALimitBelowWhatIsOpenStopsNothing)
 {
-    options.lookInterval = 1h;
+    options.pollInterval = 1h;
     addProducer("a", cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);
@@ -221,7 +221,7 @@ TEST_F(RestartTest, ThoseThatFailKeepNobodyFromItsFirstStart)
     options.hostProgram = (directory.path() / "Host").string();
     writeFile(options.hostProgram, "#!/nowhere/interpreter\n"); // Fails before there is a process.
     std::filesystem::permissions(options.hostProgram, std::filesystem::perms::owner_all);
-    options.firstRestart = 0ms; // A producer that has failed is due again at once.
+    options.firstRestartDelay = 0ms; // A producer that has failed is due again at once.
     constexpr std::size_t Producers = 12; // More than are started at a time.
     for (std::size_t i = 0; i < Producers; ++i)
         addProducer("a" + std::to_string(i), cameras(1));
@@ -267,7 +267,7 @@ TEST_F(RestartTest, AnInterfaceSurvivesOneFailedUpdate)
 
 TEST_F(RestartTest, AnInterfaceSurvivesOneIdThatCannotBeRead)
 {
-    options.lookInterval = 1h; // A look is a list.
+    options.pollInterval = 1h; // A look is a list.
     addProducer("a", cameras(2));
     start();
     ASSERT_EQ(list().size(), 2U);
@@ -282,7 +282,7 @@ TEST_F(RestartTest, AnInterfaceSurvivesOneIdThatCannotBeRead)
 
 TEST_F(RestartTest, AnIdThatCanNeverBeReadHidesNoOther)
 {
-    options.lookInterval = 1h; // A look is a list.
+    options.pollInterval = 1h; // A look is a list.
     addProducer("a", "fault IFGetDeviceID:A1 error -1010\n" + cameras(2));
     start();
     for (int look = 0; look < 3; ++look)
@@ -291,7 +291,7 @@ TEST_F(RestartTest, AnIdThatCanNeverBeReadHidesNoOther)
 
 TEST_F(RestartTest, AnInterfaceWhoseIdCannotBeReadGoesOn)
 {
-    options.interfaceInterval = 0ms;
+    options.interfaceUpdateInterval = 0ms;
     const std::string both = cameras(1) + "interface net1|Network 1|GEV\n";
     addProducer("a", both);
     start();
@@ -310,7 +310,7 @@ TEST_F(RestartTest, AnInterfaceWhoseIdCannotBeReadGoesOn)
 
 TEST_F(RestartTest, AFailingListOfInterfacesKeepsThoseThatAreOpen)
 {
-    options.interfaceInterval = 0ms;
+    options.interfaceUpdateInterval = 0ms;
     addProducer("a", cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);

@@ -10,8 +10,8 @@ class SlowProducerTest : public SystemTest
 protected:
     SlowProducerTest()
     {
-        options.answerWait = 1500ms;
-        options.firstRestart = 1h;
+        options.searchTimeout = 1500ms;
+        options.firstRestartDelay = 1h;
     }
 
     /// What the calls of a function, or of a function and an interface, were given.
@@ -28,7 +28,7 @@ protected:
 
 TEST_F(SlowProducerTest, IsNotWaitedForTwiceAndItsLateAnswerIsAnnounced)
 {
-    options.lookInterval = 1h;
+    options.pollInterval = 1h;
     addProducer("slow", "fault load slow 4000\n" + cameras(1));
     addProducer("well", cameras(2));
     start();
@@ -43,7 +43,7 @@ TEST_F(SlowProducerTest, IsNotWaitedForTwiceAndItsLateAnswerIsAnnounced)
 
 TEST_F(SlowProducerTest, IsWaitedForOnceWhenItIsSlowEveryTime)
 {
-    options.answerWait = 400ms;
+    options.searchTimeout = 400ms;
     addProducer("slow", "fault IFUpdateDeviceList slow 600\n" + cameras(1));
     addProducer("well", cameras(2));
     start();
@@ -57,7 +57,7 @@ TEST_F(SlowProducerTest, IsWaitedForOnceWhenItIsSlowEveryTime)
 
 TEST_F(SlowProducerTest, TellsEachCamerasVendorWhenItIsSlowEveryTime)
 {
-    options.answerWait = 400ms;
+    options.searchTimeout = 400ms;
     addProducer("slow",
         "fault IFUpdateDeviceList slow 600\n"
         "interface net0|N|GEV\ndevice net0|A1|Orvelle\ndevice net0|A2|Ferrant\n");
@@ -73,7 +73,7 @@ TEST_F(SlowProducerTest, TellsEachCamerasVendorWhenItIsSlowEveryTime)
 
 TEST_F(SlowProducerTest, KeepsItsCamerasWhileItIsLate)
 {
-    options.lookInterval = 1h;
+    options.pollInterval = 1h;
     addProducer("slow", cameras(1));
     start();
     const auto recorder = recordCameras();
@@ -86,7 +86,7 @@ TEST_F(SlowProducerTest, KeepsItsCamerasWhileItIsLate)
 
 TEST_F(SlowProducerTest, ASearchThatRunsOutOfTimeGetsMoreAndKeepsIt)
 {
-    options.answerWait = 3s;
+    options.searchTimeout = 3s;
     addProducer("slow",
         "fault IFUpdateDeviceList:net0 search 1200\n" + cameras(1)
             + "interface net1|Network 1|GEV\ndevice net1|Q1|V|M|S|N|GEV\n");
@@ -106,7 +106,7 @@ TEST_F(SlowProducerTest, ASearchThatRunsOutOfTimeGetsMoreAndKeepsIt)
 
 TEST_F(SlowProducerTest, ASearchForInterfacesThatRunsOutOfTimeGetsMoreAndKeepsIt)
 {
-    options.answerWait = 3s;
+    options.searchTimeout = 3s;
     addProducer("slow", "fault TLUpdateInterfaceList search 1200\n" + cameras(1));
     start();
     EXPECT_TRUE(waitUntil([this] { return list().size() == 1; }));
@@ -120,7 +120,7 @@ TEST_F(SlowProducerTest, ASearchForInterfacesThatRunsOutOfTimeGetsMoreAndKeepsIt
 
 TEST_F(SlowProducerTest, SearchesThatNeverEndStayWithinTheLimit)
 {
-    options.answerLimit = 6500ms; // One that waited the longest time for each would need eight seconds.
+    options.replyTimeout = 6500ms; // One that waited the longest time for each would need eight seconds.
     std::string script;
     for (int i = 10; i < 26; ++i) { // Twice as many as are searched side by side.
         const std::string id = "net" + std::to_string(i);
@@ -143,7 +143,7 @@ TEST_F(SlowProducerTest, SearchesThatNeverEndStayWithinTheLimit)
 
 TEST_F(SlowProducerTest, IsKilledAtTheLimit)
 {
-    options.answerLimit = 2000ms;
+    options.replyTimeout = 2000ms;
     addProducer("slow", cameras(1));
     addProducer("well", cameras(2));
     start();
@@ -172,8 +172,8 @@ TEST_F(SlowProducerTest, ADriverThatForkedAndDiedIsNoticedAndCleanedUp)
 
 TEST_F(SlowProducerTest, ADriverThatForkedAndDiedIsNotWaitedForAnyLonger)
 {
-    options.answerWait = 20s;
-    options.lookInterval = 1h; // So that nothing else wakes the search.
+    options.searchTimeout = 20s;
+    options.pollInterval = 1h; // So that nothing else wakes the search.
     addProducer("a", cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);

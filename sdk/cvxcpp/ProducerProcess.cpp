@@ -1,6 +1,7 @@
-#include "sdk/cvxcpp/HostProcess.h"
+#include "sdk/cvxcpp/ProducerProcess.h"
 
 #include "sdk/cvxcpp/Descriptor.h"
+#include "sdk/protocol/HostContract.h"
 
 #include <array>
 #include <cerrno>
@@ -15,19 +16,17 @@
 
 namespace {
 
-constexpr int HostSocket = 3; // Where the host expects its end.
-
-/// What the host gets: its socket, no standard input, our output and error, and nothing else.
+/// The descriptors of the host: its socket, no standard input, our standard output and error, nothing else.
 class FileActions
 {
 public:
     explicit FileActions(int socket)
     {
         posix_spawn_file_actions_init(&m_actions);
-        posix_spawn_file_actions_adddup2(
-            &m_actions, socket, HostSocket); // First, or the next could close it.
+        // First, since the next actions may replace the descriptor of the socket.
+        posix_spawn_file_actions_adddup2(&m_actions, socket, hostSocketDescriptor);
         posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-        posix_spawn_file_actions_addclosefrom_np(&m_actions, HostSocket + 1);
+        posix_spawn_file_actions_addclosefrom_np(&m_actions, hostSocketDescriptor + 1);
     }
     ~FileActions() { posix_spawn_file_actions_destroy(&m_actions); }
     FileActions(const FileActions &) = delete;
@@ -39,8 +38,8 @@ private:
     posix_spawn_file_actions_t m_actions;
 };
 
-/// Plain signal handling and a process group of its own: Ctrl-C is for the program, which ends its hosts
-/// itself.
+/// Default signal handling, whatever the program has set, and a process group of its own: Ctrl-C goes to the
+/// program alone, which then ends its hosts itself.
 class Attributes
 {
 public:
@@ -68,70 +67,52 @@ private:
 
 } // namespace
 
-HostProcess::~HostProcess()
+ProducerProcess::~ProducerProcess()
 {
-    closeSocket();
     if (!isStarted())
         return;
     kill();
-    waitpid(m_process, nullptr, WNOHANG); // Not waited for: it may be stuck in the kernel.
+    waitpid(m_process, nullptr, WNOHANG); // Without blocking: the host may be stuck in the kernel.
 }
 
-std::optional<std::string> HostProcess::start(const std::string &hostProgram, const std::string &producer)
+ProducerProcess::StartResult ProducerProcess::start(
+    const std::string &hostProgram, const std::string &producerPath)
 {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
-        return std::string("no socket for its host: ") + strerrordesc_np(errno);
-    for (int &end : ends)
-        end = aboveStandard(end);
+        return {LineChannel(), std::string("cannot create a socket for its host: ") + strerrordesc_np(errno)};
+    LineChannel ours(aboveStandard(ends[0]));
+    const LineChannel theirs(aboveStandard(ends[1]));
 
     std::string program = hostProgram;
-    std::string argument = producer;
+    std::string argument = producerPath;
     char *const arguments[] = {program.data(), argument.data(), nullptr};
-    const int error = posix_spawn(
-        &m_process, program.c_str(), FileActions(ends[1]).get(), Attributes().get(), arguments, environ);
-    close(ends[1]);
-    if (error != 0) {
-        m_process = -1;
-        close(ends[0]);
-        return "cannot start " + hostProgram + ": " + strerrordesc_np(error);
-    }
-    m_socket = ends[0];
-    return std::nullopt;
+    const int error = posix_spawn(&m_process, program.c_str(), FileActions(theirs.descriptor()).get(),
+        Attributes().get(), arguments, environ);
+    if (error == 0)
+        return {std::move(ours), {}};
+    m_process = -1;
+    return {LineChannel(), "cannot start " + hostProgram + ": " + strerrordesc_np(error)};
 }
 
-void HostProcess::send(const std::string &line) const
-{
-    // Never blocks and never falls short: there is one request on its way at a time, of a few bytes.
-    [[maybe_unused]] const auto sent
-        = ::send(m_socket, line.data(), line.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
-}
-
-void HostProcess::closeSocket()
-{
-    if (m_socket >= 0)
-        close(std::exchange(m_socket, -1));
-    m_lines.clear();
-}
-
-void HostProcess::kill() const
+void ProducerProcess::kill() const
 {
     if (!isStarted())
         return;
     ::kill(-m_process, SIGKILL);
-    ::kill(m_process, SIGKILL); // It may have left its group.
+    ::kill(m_process, SIGKILL); // The host may have left its group.
 }
 
-std::optional<int> HostProcess::tryReap()
+std::optional<int> ProducerProcess::tryReap()
 {
     siginfo_t info{};
     if (waitid(P_PID, static_cast<id_t>(m_process), &info, WEXITED | WNOHANG | WNOWAIT) != 0) {
         m_process = -1;
-        return LostStatus;
+        return unknownStatus;
     }
     if (info.si_pid == 0)
         return std::nullopt;
-    ::kill(-m_process, SIGKILL); // Before the reaping, while the number of the group is still ours.
+    ::kill(-m_process, SIGKILL); // Before reaping, while the number of the group cannot be reused.
     int status = 0;
     waitpid(m_process, &status, 0);
     m_process = -1;
