@@ -23,7 +23,8 @@ void HostServer::serve(const std::string &line)
     const bool isServed = message
         && (tryServe<ListCamerasRequest>(*message) || tryServe<ListInterfaceRequest>(*message)
             || tryServe<CloseProducerRequest>(*message));
-    m_isFinished = m_isFinished || !isServed; // The other end is not the library of this installation.
+    if (!isServed) // Does not happen: library and host are installed together.
+        m_isFinished = true;
 }
 
 template <typename Request>

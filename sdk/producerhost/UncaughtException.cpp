@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <exception>
 #include <string>
+#include <unistd.h>
 
 namespace {
 
@@ -29,9 +30,17 @@ std::string describeException()
     }
 }
 
+[[noreturn]] void waitForExit()
+{
+    for (;;)
+        pause();
+}
+
 [[noreturn]] void reportAndExit()
 {
-    std::set_terminate(std::abort); // A second failure in here ends the process at once.
+    // Threads that fail at the same time must not end the process before the first one has sent its report.
+    if (std::set_terminate(waitForExit) == waitForExit)
+        waitForExit();
     LineChannel channel(replySocket);
     const ProducerFailedReply reply{{"the producer", 0, describeException()}};
     const auto status = channel.send(Message(Message::noRequest, reply).toLine());
