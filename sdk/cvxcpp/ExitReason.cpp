@@ -1,6 +1,6 @@
 #include "sdk/cvxcpp/ExitReason.h"
 
-#include "sdk/producerhost/ExitStatus.h"
+#include "sdk/protocol/HostContract.h"
 
 #include <cstddef>
 #include <cstring>
@@ -33,7 +33,7 @@ std::string codeName(std::int32_t code)
 
 std::string exitReason(int status)
 {
-    if (WIFEXITED(status) && WEXITSTATUS(status) == ConnectionLostStatus)
+    if (WIFEXITED(status) && WEXITSTATUS(status) == connectionLostStatus)
         return "closed its host's connection";
     if (WIFEXITED(status))
         return "exited with code " + std::to_string(WEXITSTATUS(status));
