@@ -11,8 +11,9 @@ LIBRARY = os.environ["CORVIX_SCRIPTED_LIBRARY"]
 class ScriptedTest(DesktopTest):
     def setUp(self):
         super().setUp()
-        self.installation.remove("bin/libCvxCPP.so")
-        os.link(LIBRARY, self.installation.path("bin/libCvxCPP.so"))
+        name = f"bin/{os.path.basename(LIBRARY)}"  # The SONAME, which the launcher loads.
+        self.installation.remove(name)
+        os.link(LIBRARY, self.installation.path(name))
         self.record = self.installation.path("record")
         self.gate = self.installation.path("gate")
 
