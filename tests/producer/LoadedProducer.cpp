@@ -26,27 +26,20 @@ LoadedProducer::~LoadedProducer()
 
 void *LoadedProducer::symbol(const std::string &name) const
 {
-    return dlsym(m_library, name.c_str());
-}
-
-void *LoadedProducer::requiredSymbol(const std::string &name) const
-{
-    void *const found = symbol(name);
+    void *const found = dlsym(m_library, name.c_str());
     if (!found)
         throw std::runtime_error(m_file.string() + " does not export " + name);
     return found;
 }
 
-const std::vector<std::string> &discoveryFunctions()
+std::vector<std::string> discoveryFunctions()
 {
-    static const std::vector<std::string> names{"GCInitLib", "GCCloseLib", "GCGetInfo", "GCGetLastError",
-        "TLOpen", "TLClose", "TLGetInfo", "TLUpdateInterfaceList", "TLGetNumInterfaces", "TLGetInterfaceID",
-        "TLGetInterfaceInfo", "TLOpenInterface", "IFClose", "IFGetInfo", "IFUpdateDeviceList",
-        "IFGetNumDevices", "IFGetDeviceID", "IFGetDeviceInfo", "IFGetParentTL"};
-    return names;
+#define CORVIX_NAME(name) #name,
+    return {CORVIX_DISCOVERY_FUNCTIONS(CORVIX_NAME)};
+#undef CORVIX_NAME
 }
 
-const std::vector<std::string> &functionsBeyondDiscovery()
+const std::vector<std::string> &unsupportedFunctions()
 {
     static const std::vector<std::string> names{"GCReadPort", "GCWritePort", "GCGetPortURL", "GCGetPortInfo",
         "GCGetNumPortURLs", "GCGetPortURLInfo", "GCReadPortStacked", "GCWritePortStacked", "GCRegisterEvent",

@@ -9,58 +9,17 @@ namespace {
 constexpr std::uint64_t timeout = 500; // Milliseconds
 constexpr bool8_t neverWritten = 0xA5;
 
+/// Returns all IDs of a list that has this number of entries.
+template <typename Function>
+std::vector<std::string> readIds(Function function, void *handle, std::uint32_t count)
+{
+    std::vector<std::string> ids;
+    for (std::uint32_t index = 0; index < count; ++index)
+        ids.push_back(readId(idCall(function, handle, index)));
+    return ids;
+}
+
 } // namespace
-
-InfoCall libraryInfo(const LoadedProducer &producer, TL_INFO_CMD command)
-{
-    return [&producer, command](INFO_DATATYPE *type, void *buffer, std::size_t *size) {
-        return producer.GCGetInfo(command, type, buffer, size);
-    };
-}
-
-InfoCall systemInfo(const LoadedProducer &producer, TL_HANDLE system, TL_INFO_CMD command)
-{
-    return [&producer, system, command](INFO_DATATYPE *type, void *buffer, std::size_t *size) {
-        return producer.TLGetInfo(system, command, type, buffer, size);
-    };
-}
-
-InfoCall interfaceId(const LoadedProducer &producer, TL_HANDLE system, std::uint32_t index)
-{
-    return [&producer, system, index](INFO_DATATYPE *, void *buffer, std::size_t *size) {
-        return producer.TLGetInterfaceID(system, index, static_cast<char *>(buffer), size);
-    };
-}
-
-InfoCall listedInterfaceInfo(
-    const LoadedProducer &producer, TL_HANDLE system, const std::string &id, INTERFACE_INFO_CMD command)
-{
-    return [&producer, system, id, command](INFO_DATATYPE *type, void *buffer, std::size_t *size) {
-        return producer.TLGetInterfaceInfo(system, id.c_str(), command, type, buffer, size);
-    };
-}
-
-InfoCall openInterfaceInfo(const LoadedProducer &producer, IF_HANDLE handle, INTERFACE_INFO_CMD command)
-{
-    return [&producer, handle, command](INFO_DATATYPE *type, void *buffer, std::size_t *size) {
-        return producer.IFGetInfo(handle, command, type, buffer, size);
-    };
-}
-
-InfoCall deviceId(const LoadedProducer &producer, IF_HANDLE handle, std::uint32_t index)
-{
-    return [&producer, handle, index](INFO_DATATYPE *, void *buffer, std::size_t *size) {
-        return producer.IFGetDeviceID(handle, index, static_cast<char *>(buffer), size);
-    };
-}
-
-InfoCall deviceInfo(
-    const LoadedProducer &producer, IF_HANDLE handle, const std::string &id, DEVICE_INFO_CMD command)
-{
-    return [&producer, handle, id, command](INFO_DATATYPE *type, void *buffer, std::size_t *size) {
-        return producer.IFGetDeviceInfo(handle, id.c_str(), command, type, buffer, size);
-    };
-}
 
 ProducerSession::ProducerSession(const std::filesystem::path &file) : m_producer(file)
 {
@@ -71,7 +30,7 @@ ProducerSession::ProducerSession(const std::filesystem::path &file) : m_producer
 
 ProducerSession::~ProducerSession()
 {
-    // No TLClose: some tests have closed the system already, and closing the library closes all of it.
+    // No TLClose: some tests have closed the system already, and closing the library closes everything.
     EXPECT_EQ(m_producer.GCCloseLib(), GC_ERR_SUCCESS);
 }
 
@@ -95,20 +54,14 @@ std::vector<std::string> ProducerSession::interfaceIds() const
 {
     std::uint32_t count = 0;
     EXPECT_EQ(m_producer.TLGetNumInterfaces(m_system, &count), GC_ERR_SUCCESS);
-    std::vector<std::string> ids;
-    for (std::uint32_t index = 0; index < count; ++index)
-        ids.push_back(readId(interfaceId(m_producer, m_system, index)));
-    return ids;
+    return readIds(m_producer.TLGetInterfaceID, m_system, count);
 }
 
 std::vector<std::string> ProducerSession::deviceIds(IF_HANDLE handle) const
 {
     std::uint32_t count = 0;
     EXPECT_EQ(m_producer.IFGetNumDevices(handle, &count), GC_ERR_SUCCESS);
-    std::vector<std::string> ids;
-    for (std::uint32_t index = 0; index < count; ++index)
-        ids.push_back(readId(deviceId(m_producer, handle, index)));
-    return ids;
+    return readIds(m_producer.IFGetDeviceID, handle, count);
 }
 
 IF_HANDLE ProducerSession::open(const std::string &id) const
@@ -119,13 +72,33 @@ IF_HANDLE ProducerSession::open(const std::string &id) const
     return handle;
 }
 
-std::string ProducerSession::interfaceText(const std::string &id, INTERFACE_INFO_CMD command) const
+std::vector<IF_HANDLE> ProducerSession::openAll() const
 {
-    return readText(listedInterfaceInfo(m_producer, m_system, id, command));
+    std::vector<IF_HANDLE> handles;
+    for (const std::string &id : interfaceIds())
+        handles.push_back(open(id));
+    return handles;
 }
 
-std::string ProducerSession::deviceText(
+std::string ProducerSession::interfaceString(const std::string &id, INTERFACE_INFO_CMD command) const
+{
+    return readString(infoCall(m_producer.TLGetInterfaceInfo, m_system, id.c_str(), command));
+}
+
+std::string ProducerSession::openInterfaceString(IF_HANDLE handle, INTERFACE_INFO_CMD command) const
+{
+    return readString(infoCall(m_producer.IFGetInfo, handle, command));
+}
+
+std::string ProducerSession::deviceString(
     IF_HANDLE handle, const std::string &id, DEVICE_INFO_CMD command) const
 {
-    return readText(deviceInfo(m_producer, handle, id, command));
+    return readString(infoCall(m_producer.IFGetDeviceInfo, handle, id.c_str(), command));
+}
+
+std::pair<GC_ERROR, std::string> ProducerSession::lastError() const
+{
+    GC_ERROR code = GC_ERR_SUCCESS;
+    const std::string message = readId(idCall(m_producer.GCGetLastError, &code));
+    return {code, message};
 }

@@ -1,5 +1,5 @@
-// A producer for tests of what all of ours share. The ID of an interface is what happens when its devices
-// are searched; the environment variable SCRIPTED_PRODUCER names what else goes wrong.
+// A producer for tests of what all our producers share. The ID of an interface names what happens when its
+// devices are enumerated; the environment variable SCRIPTED_PRODUCER names what else happens.
 
 #include "sdk/producer/DeviceSource.h"
 
@@ -33,7 +33,7 @@ public:
         std::unique_lock lock(m_mutex);
         ++m_arrived;
         m_changed.notify_all();
-        return m_changed.wait_for(lock, std::chrono::seconds(10), [this] { return m_arrived >= 2; });
+        return m_changed.wait_for(lock, std::chrono::seconds(60), [this] { return m_arrived >= 2; });
     }
 
 private:
@@ -54,11 +54,13 @@ public:
     {
         if (isScripted("interface search fails"))
             throw std::runtime_error("The interface search failed.");
+        if (isScripted("interfaces are gone"))
+            return {};
+        const std::string prefix = isScripted("interfaces are renamed") ? "New " : "Interface ";
         std::vector<InterfaceRecord> interfaces;
         for (const char *const id : {"empty", "throws", "throws an int", "exhausts memory", "meets one",
-                 "meets another", "one at a time", "doubtful IDs", "long text", "empty"})
-            interfaces.push_back({id, std::string("Interface ") + id, "Custom"});
-        interfaces.push_back({"", "Without an ID", "Custom"});
+                 "meets another", "one at a time", "doubtful IDs", "long message", "empty", ""})
+            interfaces.push_back({id, prefix + id, "Custom"});
         return interfaces;
     }
 
@@ -77,7 +79,7 @@ public:
         if (interfaceId == "doubtful IDs")
             return {device("twice"), device(""), device("twice"), device(std::string("cut\0here", 8)),
                 device("cut"), device("last")};
-        if (interfaceId == "long text")
+        if (interfaceId == "long message")
             throw std::runtime_error(std::string(100000, 'x'));
         return {};
     }
@@ -85,23 +87,23 @@ public:
 private:
     std::vector<DeviceRecord> throwOnSecondSearch()
     {
-        if (m_searched.exchange(true))
+        if (m_hasSearched.exchange(true))
             throw std::runtime_error("The device search failed.");
         return {device("kept")};
     }
 
     std::vector<DeviceRecord> countSearchesAtOnce()
     {
-        const bool alone = m_searchesAtOnce.fetch_add(1) == 0;
-        m_neverTwice = m_neverTwice && alone;
+        if (m_searchesAtOnce.fetch_add(1) != 0)
+            m_hasOverlapped = true;
         m_searchesAtOnce.fetch_sub(1);
-        return {device(m_neverTwice ? "never twice at once" : "twice at once")};
+        return {device(m_hasOverlapped ? "overlapped" : "never overlapped")};
     }
 
     MeetingPoint m_meetingPoint;
-    std::atomic<bool> m_searched{false};
+    std::atomic<bool> m_hasSearched{false};
     std::atomic<int> m_searchesAtOnce{0};
-    std::atomic<bool> m_neverTwice{true};
+    std::atomic<bool> m_hasOverlapped{false};
 };
 
 } // namespace

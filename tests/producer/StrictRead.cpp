@@ -9,45 +9,18 @@ using namespace GenTL;
 
 namespace {
 
-constexpr unsigned char untouched = 0xA5;
 constexpr std::size_t guardSize = 32;
+constexpr char guard = '\xA5';
 
-/// A buffer of some capacity with a guarded zone behind it.
-struct GuardedBuffer
+/// Calls with a buffer of this capacity that has a guarded zone behind it. Returns the content of the buffer.
+std::string readInto(const InfoCall &call, std::size_t capacity, GC_ERROR expected, std::size_t *size)
 {
-    explicit GuardedBuffer(std::size_t capacityInBytes)
-        : capacity(capacityInBytes), bytes(capacityInBytes + guardSize, untouched)
-    { }
-
-    bool guardIsIntact() const
-    {
-        return std::all_of(bytes.begin() + static_cast<std::ptrdiff_t>(capacity), bytes.end(),
-            [](unsigned char byte) { return byte == untouched; });
-    }
-
-    std::size_t capacity;
-    std::vector<unsigned char> bytes;
-};
-
-/// The value, if a buffer of this capacity is long enough for all of it.
-std::string readInto(const InfoCall &call, std::size_t capacity, std::size_t expectedSize)
-{
-    GuardedBuffer buffer(capacity);
+    std::string buffer(capacity + guardSize, guard);
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
-    std::size_t size = capacity;
-    EXPECT_EQ(call(&type, buffer.bytes.data(), &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(size, expectedSize);
-    EXPECT_TRUE(buffer.guardIsIntact());
-    return {buffer.bytes.begin(), buffer.bytes.begin() + static_cast<std::ptrdiff_t>(expectedSize)};
-}
-
-void expectTooSmall(const InfoCall &call, std::size_t capacity)
-{
-    GuardedBuffer buffer(capacity);
-    INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
-    std::size_t size = capacity;
-    EXPECT_EQ(call(&type, buffer.bytes.data(), &size), GC_ERR_BUFFER_TOO_SMALL) << capacity << " bytes";
-    EXPECT_TRUE(buffer.guardIsIntact());
+    *size = capacity;
+    EXPECT_EQ(call(&type, buffer.data(), size), expected) << capacity << " bytes";
+    EXPECT_EQ(buffer.substr(capacity), std::string(guardSize, guard)) << "written past the end";
+    return buffer.substr(0, std::min(*size, capacity));
 }
 
 std::string readBytes(const InfoCall &call)
@@ -60,20 +33,25 @@ std::string readBytes(const InfoCall &call)
     if (code != GC_ERR_SUCCESS || size == 0)
         return {};
 
-    std::string value = readInto(call, size, size);
-    EXPECT_EQ(readInto(call, size + 10, size), value);
-    expectTooSmall(call, size - 1);
-    expectTooSmall(call, 0);
+    std::size_t exact = 0;
+    std::size_t longer = 0;
+    std::size_t ignored = 0;
+    std::string value = readInto(call, size, GC_ERR_SUCCESS, &exact);
+    EXPECT_EQ(exact, size);
+    EXPECT_EQ(readInto(call, size + 10, GC_ERR_SUCCESS, &longer), value);
+    EXPECT_EQ(longer, size);
+    readInto(call, size - 1, GC_ERR_BUFFER_TOO_SMALL, &ignored);
+    readInto(call, 0, GC_ERR_BUFFER_TOO_SMALL, &ignored);
 
     EXPECT_EQ(call(&type, nullptr, nullptr), GC_ERR_INVALID_PARAMETER);
-    std::vector<unsigned char> buffer(size);
+    std::string buffer(size, '\0');
     EXPECT_EQ(call(&type, buffer.data(), nullptr), GC_ERR_INVALID_PARAMETER);
     return value;
 }
 
 std::string withoutNul(const std::string &bytes)
 {
-    EXPECT_EQ(bytes.find('\0'), bytes.size() - 1) << "one NUL, and that at the end";
+    EXPECT_EQ(bytes.find('\0') + 1, bytes.size()) << "one NUL, at the end";
     return bytes.substr(0, bytes.find('\0'));
 }
 
@@ -82,12 +60,12 @@ void expectType(const InfoCall &call, INFO_DATATYPE expected)
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
     std::size_t size = 0;
     EXPECT_EQ(call(&type, nullptr, &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(type, expected) << "asked for the size";
+    EXPECT_EQ(type, expected) << "without a buffer";
 
     type = INFO_DATATYPE_UNKNOWN;
-    std::vector<unsigned char> buffer(size);
+    std::string buffer(size, '\0');
     EXPECT_EQ(call(&type, buffer.data(), &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(type, expected) << "asked for the value";
+    EXPECT_EQ(type, expected) << "with a buffer";
 
     EXPECT_EQ(call(nullptr, nullptr, &size), GC_ERR_INVALID_PARAMETER);
 }
@@ -110,7 +88,7 @@ std::string readId(const InfoCall &call)
     return withoutNul(readBytes(call));
 }
 
-std::string readText(const InfoCall &call)
+std::string readString(const InfoCall &call)
 {
     expectType(call, INFO_DATATYPE_STRING);
     return withoutNul(readBytes(call));
