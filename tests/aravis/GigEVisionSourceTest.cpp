@@ -47,6 +47,7 @@ TEST_F(GigEVisionSourceTest, eachAddressIsAnInterfaceAndListsTheDevicesOfItsNetw
     EXPECT_EQ(devices("10.0.1.1"), Ids{"a"});
     EXPECT_EQ(devices("10.0.2.1"), Ids{"b"});
     EXPECT_EQ(devices("elsewhere"), Ids{"c"});
+    EXPECT_EQ(source.updateDevices("elsewhere").at(0).displayName, "c") << "the ID, without other fields";
 }
 
 TEST_F(GigEVisionSourceTest, missedDeviceGoesAtOnceWithItsNetworkInterface)

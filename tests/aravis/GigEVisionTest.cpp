@@ -88,40 +88,17 @@ const Cameras loopbackCamera{{"127.0.0.1", "LOOP1"}};
 
 } // namespace
 
-TEST(GigEVision, cameraIsListedWithItsFields)
-{
-    const FakeCamera camera;
-    CameraLister lister;
-    ASSERT_EQ(lister.await(loopbackCamera), loopbackCamera);
-    EXPECT_EQ(lister.session().interfaceIds(), (std::vector<std::string>{"127.0.0.1", "elsewhere"}));
-    EXPECT_EQ(lister.session().interfaceString("127.0.0.1", INTERFACE_INFO_DISPLAYNAME),
-        "Network card lo (127.0.0.1)");
-
-    // The hardware address of the fake camera is all zeros, so other fields identify it.
-    const std::string id = "Aravis-Fake-LOOP1";
-    const std::pair<DEVICE_INFO_CMD, const char *> expected[] = {
-        {DEVICE_INFO_VENDOR, "Aravis"},
-        {DEVICE_INFO_MODEL, "Fake"},
-        {DEVICE_INFO_SERIAL_NUMBER, "LOOP1"},
-        {DEVICE_INFO_TLTYPE, "GEV"},
-        {DEVICE_INFO_DISPLAYNAME, "Aravis Fake LOOP1"},
-        {DEVICE_INFO_USER_DEFINED_NAME, ""},
-    };
-    for (const auto &[command, text] : expected)
-        EXPECT_EQ(lister.session().deviceString(lister.handle("127.0.0.1"), id, command), text) << command;
-}
-
-TEST(GigEVision, cameraGoesAndComesBackUnderItsId)
+TEST(GigEVision, cameraComesAndGoesAndComesBackUnderItsId)
 {
     CameraLister lister;
-    std::vector<std::string> ids;
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(lister.await({}), Cameras{});
         const FakeCamera camera;
         ASSERT_EQ(lister.await(loopbackCamera), loopbackCamera);
-        ids.push_back(lister.session().deviceIds(lister.handle("127.0.0.1")).at(0));
+        // The hardware address of the fake camera is all zeros, so its other fields identify it.
+        EXPECT_EQ(lister.session().deviceIds(lister.handle("127.0.0.1")).at(0), "Aravis-Fake-LOOP1");
     }
-    EXPECT_EQ(ids[0], ids[1]);
+    EXPECT_EQ(lister.session().interfaceIds(), (std::vector<std::string>{"127.0.0.1", "elsewhere"}));
 }
 
 TEST(GigEVision, aravisStaysLoadedWhenTheProducerIsUnloaded)

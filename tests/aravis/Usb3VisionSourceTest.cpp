@@ -19,10 +19,9 @@ TEST(Usb3VisionSource, camerasAreListedOnTheUsbHost)
     EXPECT_TRUE(source.updateDevices("another").empty());
     const auto cameras = source.updateDevices("usb");
     ASSERT_EQ(cameras.size(), 1U);
-    EXPECT_EQ(cameras.front().vendor, "Aravis");
-    EXPECT_EQ(cameras.front().model, "Fake");
-    EXPECT_EQ(cameras.front().tlType, "U3V");
-    EXPECT_FALSE(cameras.front().id.empty());
+    EXPECT_EQ(cameras.front(),
+        (DeviceRecord{"Fake_1", "Aravis", "Fake", "U3V", "Aravis Fake 1", "", "1",
+            GenTL::DEVICE_ACCESS_STATUS_UNKNOWN}));
 }
 
 TEST(Usb3VisionSource, whileUsbCannotBeSearchedTheListIsEmptyAndOneLineReportsIt)

@@ -2,33 +2,45 @@
 
 #include "sdk/gentl/GenTL.h"
 
+#include <dlfcn.h>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
-#include <vector>
 
 /// Calls X(name) for each function that discovery needs.
 #define CORVIX_DISCOVERY_FUNCTIONS(X)                                                                        \
     X(GCInitLib)                                                                                             \
     X(GCCloseLib)                                                                                            \
-    X(GCGetInfo) X(GCGetLastError) X(TLOpen) X(TLClose) X(TLGetInfo) X(TLUpdateInterfaceList)                \
-        X(TLGetNumInterfaces) X(TLGetInterfaceID) X(TLGetInterfaceInfo) X(TLOpenInterface) X(IFClose)        \
-            X(IFGetInfo) X(IFUpdateDeviceList) X(IFGetNumDevices) X(IFGetDeviceID) X(IFGetDeviceInfo)        \
-                X(IFGetParentTL)
+    X(GCGetInfo)                                                                                             \
+    X(GCGetLastError)                                                                                        \
+    X(TLOpen)                                                                                                \
+    X(TLClose)                                                                                               \
+    X(TLGetInfo) X(TLUpdateInterfaceList) X(TLGetNumInterfaces) X(TLGetInterfaceID) X(TLGetInterfaceInfo)    \
+        X(TLOpenInterface) X(IFClose) X(IFGetInfo) X(IFUpdateDeviceList) X(IFGetNumDevices) X(IFGetDeviceID) \
+            X(IFGetDeviceInfo) X(IFGetParentTL)
 
 /// A producer that is loaded like any consumer loads it: by its path, each function by its name.
 /// The functions are public members under their own names. Throws if the file cannot be loaded.
 class LoadedProducer
 {
 public:
-    explicit LoadedProducer(const std::filesystem::path &file);
-    ~LoadedProducer();
+    /// Without a file, takes the producer that is linked into this program.
+    explicit LoadedProducer(const std::filesystem::path &file = {})
+        : m_file(file.empty() ? file : std::filesystem::canonical(file)),
+          m_library(dlopen(file.empty() ? nullptr : m_file.c_str(), RTLD_NOW | RTLD_LOCAL))
+    { }
+    ~LoadedProducer() { dlclose(m_library); }
     LoadedProducer(const LoadedProducer &) = delete;
     LoadedProducer &operator=(const LoadedProducer &) = delete;
 
     const std::filesystem::path &file() const { return m_file; }
 
     /// Throws if the producer does not export this function.
-    void *symbol(const std::string &name) const;
+    void *symbol(const std::string &name) const
+    {
+        void *const found = m_library ? dlsym(m_library, name.c_str()) : nullptr;
+        return found ? found : throw std::runtime_error(dlerror());
+    }
 
 private:
     const std::filesystem::path m_file;
@@ -39,9 +51,3 @@ public:
     CORVIX_DISCOVERY_FUNCTIONS(CORVIX_MEMBER)
 #undef CORVIX_MEMBER
 };
-
-/// Returns the names of the functions that discovery needs.
-std::vector<std::string> discoveryFunctions();
-
-/// Returns the names of the functions of GenTL 1.6 that our producers export but do not implement.
-const std::vector<std::string> &unsupportedFunctions();

@@ -25,20 +25,20 @@ const Ids defaultCameras{"corvix-simulator-0001", "corvix-simulator-0002"};
 class SimulatedSourceTest : public testing::Test
 {
 protected:
-    SimulatedSourceTest() : folder(std::filesystem::temp_directory_path() / "simulator-XXXXXX")
+    static std::filesystem::path newFolder()
     {
-        std::string name = folder;
-        folder = mkdtemp(name.data());
-        file = folder / "CorvixCameraSimulator.json";
-        source = createDeviceSource(folder / "any.cti");
+        std::string name = std::filesystem::temp_directory_path() / "simulator-XXXXXX";
+        return mkdtemp(name.data());
     }
+
     ~SimulatedSourceTest() override { std::filesystem::remove_all(folder); }
 
     /// Overwrites the file. Its time stamp is set, because two quick edits can get the same one.
-    void write(const std::string &text, std::chrono::seconds modified)
+    void write(const std::string &text, int seconds)
     {
         std::ofstream(file, std::ios::binary) << text;
-        std::filesystem::last_write_time(file, std::filesystem::file_time_type(modified));
+        std::filesystem::last_write_time(
+            file, std::filesystem::file_time_type(std::chrono::seconds(seconds)));
     }
 
     /// Returns the devices of the only interface.
@@ -66,41 +66,34 @@ protected:
         EXPECT_LE(line.size(), start.size() + 501) << line;
     }
 
-    std::filesystem::path folder;
-    std::filesystem::path file;
-    std::unique_ptr<DeviceSource> source;
+    const std::filesystem::path folder = newFolder();
+    const std::filesystem::path file = folder / "CorvixCameraSimulator.json";
+    const std::unique_ptr<DeviceSource> source = createDeviceSource(folder / "any.cti");
 };
 
 TEST_F(SimulatedSourceTest, fileIsReadAgainWhenItsTimeStampOrSizeChanges)
 {
-    using namespace std::chrono_literals;
     EXPECT_EQ(devices(), defaultCameras);
-    write(withDevice("one"), 1s);
-    EXPECT_EQ(devices(), Ids{"one"});
-    write(withDevice("two"), 2s);
-    EXPECT_EQ(devices(), Ids{"two"});
-    write(withDevice("three"), 2s);
-    EXPECT_EQ(devices(), Ids{"three"});
+    for (const auto &[id, seconds] : {std::pair("one", 1), {"two", 2}, {"three", 2}, {"eight", 1}}) {
+        write(withDevice(id), seconds);
+        EXPECT_EQ(devices(), Ids{id});
+    }
     EXPECT_TRUE(source->updateDevices("another interface").empty());
 }
 
 TEST_F(SimulatedSourceTest, fileWithAMistakeChangesNothingAndIsReportedOnce)
 {
-    using namespace std::chrono_literals;
-    write(R"({"interfaces": [1]})", 1s);
+    write(R"({"interfaces": [1]})", 1);
     expectProblem(defaultCameras, "interfaces[0] is not an object");
-    write(withDevice("one"), 2s);
+    write(withDevice("one"), 2);
     EXPECT_EQ(devices(), Ids{"one"});
-    write("{\"interfaces\": \"" + std::string(1U << 20U, 'x'), 3s);
+    write("{\"interfaces\": \"" + std::string(1U << 20U, 'x'), 3);
     expectProblem({"one"}, "parse error");
-    write(withDevice("two"), 4s);
-    EXPECT_EQ(devices(), Ids{"two"});
 }
 
 TEST_F(SimulatedSourceTest, removedFileMeansTwoCamerasAndAnUnusableOneTheLastGoodFile)
 {
-    using namespace std::chrono_literals;
-    write(withDevice("one"), 1s);
+    write(withDevice("one"), 1);
     EXPECT_EQ(devices(), Ids{"one"});
     std::filesystem::remove(file);
     EXPECT_EQ(devices(), defaultCameras);

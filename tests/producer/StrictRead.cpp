@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
-#include <vector>
 
 using namespace GenTL;
 
@@ -12,41 +11,54 @@ namespace {
 constexpr std::size_t guardSize = 32;
 constexpr char guard = '\xA5';
 
-/// Calls with a buffer of this capacity that has a guarded zone behind it. Returns the content of the buffer.
-std::string readInto(const InfoCall &call, std::size_t capacity, GC_ERROR expected, std::size_t *size)
+/// What a call writes into a buffer of some capacity.
+struct Reply
+{
+    GC_ERROR code;
+    INFO_DATATYPE type;
+    std::string bytes;
+};
+
+/// Calls with a buffer that has a guarded zone behind its end.
+Reply callWithBuffer(const InfoCall &call, std::size_t capacity)
 {
     std::string buffer(capacity + guardSize, guard);
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
-    *size = capacity;
-    EXPECT_EQ(call(&type, buffer.data(), size), expected) << capacity << " bytes";
+    std::size_t size = capacity;
+    const GC_ERROR code = call(&type, buffer.data(), &size);
     EXPECT_EQ(buffer.substr(capacity), std::string(guardSize, guard)) << "written past the end";
-    return buffer.substr(0, std::min(*size, capacity));
+    EXPECT_LE(size, capacity);
+    return {code, type, buffer.substr(0, size)};
 }
 
-std::string readBytes(const InfoCall &call)
+/// Reads the bytes of a value. An "ID" function leaves the type INFO_DATATYPE_UNKNOWN.
+std::string readBytes(const InfoCall &call, INFO_DATATYPE expectedType)
 {
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
     std::size_t size = 0;
     const GC_ERROR code = call(&type, nullptr, &size);
     EXPECT_EQ(code, GC_ERR_SUCCESS);
+    EXPECT_EQ(type, expectedType);
     EXPECT_GT(size, 0U);
     if (code != GC_ERR_SUCCESS || size == 0)
         return {};
 
-    std::size_t exact = 0;
-    std::size_t longer = 0;
-    std::size_t ignored = 0;
-    std::string value = readInto(call, size, GC_ERR_SUCCESS, &exact);
-    EXPECT_EQ(exact, size);
-    EXPECT_EQ(readInto(call, size + 10, GC_ERR_SUCCESS, &longer), value);
-    EXPECT_EQ(longer, size);
-    readInto(call, size - 1, GC_ERR_BUFFER_TOO_SMALL, &ignored);
-    readInto(call, 0, GC_ERR_BUFFER_TOO_SMALL, &ignored);
+    const Reply exact = callWithBuffer(call, size);
+    const Reply longer = callWithBuffer(call, size + 10);
+    EXPECT_EQ(exact.code, GC_ERR_SUCCESS);
+    EXPECT_EQ(exact.type, expectedType);
+    EXPECT_EQ(exact.bytes.size(), size);
+    EXPECT_EQ(longer.code, GC_ERR_SUCCESS);
+    EXPECT_EQ(longer.bytes, exact.bytes);
+    EXPECT_EQ(callWithBuffer(call, size - 1).code, GC_ERR_BUFFER_TOO_SMALL);
+    EXPECT_EQ(callWithBuffer(call, 0).code, GC_ERR_BUFFER_TOO_SMALL);
 
-    EXPECT_EQ(call(&type, nullptr, nullptr), GC_ERR_INVALID_PARAMETER);
     std::string buffer(size, '\0');
+    EXPECT_EQ(call(&type, nullptr, nullptr), GC_ERR_INVALID_PARAMETER);
     EXPECT_EQ(call(&type, buffer.data(), nullptr), GC_ERR_INVALID_PARAMETER);
-    return value;
+    const bool needsType = expectedType != INFO_DATATYPE_UNKNOWN;
+    EXPECT_EQ(call(nullptr, nullptr, &size), needsType ? GC_ERR_INVALID_PARAMETER : GC_ERR_SUCCESS);
+    return exact.bytes;
 }
 
 std::string withoutNul(const std::string &bytes)
@@ -55,53 +67,25 @@ std::string withoutNul(const std::string &bytes)
     return bytes.substr(0, bytes.find('\0'));
 }
 
-void expectType(const InfoCall &call, INFO_DATATYPE expected)
-{
-    INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
-    std::size_t size = 0;
-    EXPECT_EQ(call(&type, nullptr, &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(type, expected) << "without a buffer";
-
-    type = INFO_DATATYPE_UNKNOWN;
-    std::string buffer(size, '\0');
-    EXPECT_EQ(call(&type, buffer.data(), &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(type, expected) << "with a buffer";
-
-    EXPECT_EQ(call(nullptr, nullptr, &size), GC_ERR_INVALID_PARAMETER);
-}
-
-template <typename Number>
-Number readNumber(const InfoCall &call, INFO_DATATYPE type)
-{
-    expectType(call, type);
-    const std::string bytes = readBytes(call);
-    Number number{};
-    EXPECT_EQ(bytes.size(), sizeof number);
-    std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof number));
-    return number;
-}
-
 } // namespace
 
 std::string readId(const InfoCall &call)
 {
-    return withoutNul(readBytes(call));
+    return withoutNul(readBytes(call, INFO_DATATYPE_UNKNOWN));
 }
 
 std::string readString(const InfoCall &call)
 {
-    expectType(call, INFO_DATATYPE_STRING);
-    return withoutNul(readBytes(call));
+    return withoutNul(readBytes(call, INFO_DATATYPE_STRING));
 }
 
-std::int32_t readInt32(const InfoCall &call)
+std::int32_t readNumber(const InfoCall &call, INFO_DATATYPE type)
 {
-    return readNumber<std::int32_t>(call, INFO_DATATYPE_INT32);
-}
-
-std::uint32_t readUint32(const InfoCall &call)
-{
-    return readNumber<std::uint32_t>(call, INFO_DATATYPE_UINT32);
+    const std::string bytes = readBytes(call, type);
+    std::int32_t number = 0;
+    EXPECT_EQ(bytes.size(), sizeof number);
+    std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof number));
+    return number;
 }
 
 GC_ERROR codeOf(const InfoCall &call)

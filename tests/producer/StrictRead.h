@@ -32,8 +32,7 @@ InfoCall idCall(Function function, Arguments... arguments)
 // rule is a test failure.
 std::string readId(const InfoCall &call);
 std::string readString(const InfoCall &call);
-std::int32_t readInt32(const InfoCall &call);
-std::uint32_t readUint32(const InfoCall &call);
+std::int32_t readNumber(const InfoCall &call, GenTL::INFO_DATATYPE type); ///< A type of 32 bits.
 
 /// Returns the error code of a call that only asks for the size.
 GenTL::GC_ERROR codeOf(const InfoCall &call);
