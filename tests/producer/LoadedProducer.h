@@ -8,16 +8,13 @@
 #include <string>
 
 /// Calls X(name) for each function that discovery needs.
-#define CORVIX_DISCOVERY_FUNCTIONS(X)                                                                        \
-    X(GCInitLib)                                                                                             \
-    X(GCCloseLib)                                                                                            \
-    X(GCGetInfo)                                                                                             \
-    X(GCGetLastError)                                                                                        \
-    X(TLOpen)                                                                                                \
-    X(TLClose)                                                                                               \
-    X(TLGetInfo) X(TLUpdateInterfaceList) X(TLGetNumInterfaces) X(TLGetInterfaceID) X(TLGetInterfaceInfo)    \
-        X(TLOpenInterface) X(IFClose) X(IFGetInfo) X(IFUpdateDeviceList) X(IFGetNumDevices) X(IFGetDeviceID) \
-            X(IFGetDeviceInfo) X(IFGetParentTL)
+// clang-format off
+#define CORVIX_DISCOVERY_FUNCTIONS(X) \
+    X(GCInitLib) X(GCCloseLib) X(GCGetInfo) X(GCGetLastError) X(TLOpen) X(TLClose) X(TLGetInfo) \
+    X(TLUpdateInterfaceList) X(TLGetNumInterfaces) X(TLGetInterfaceID) X(TLGetInterfaceInfo) X(TLOpenInterface) \
+    X(IFClose) X(IFGetInfo) X(IFUpdateDeviceList) X(IFGetNumDevices) X(IFGetDeviceID) X(IFGetDeviceInfo) \
+    X(IFGetParentTL)
+// clang-format on
 
 /// A producer that is loaded like any consumer loads it: by its path, each function by its name.
 /// The functions are public members under their own names. Throws if the file cannot be loaded.
