@@ -1,7 +1,8 @@
-// The exported functions of discovery. Each checks what the C interface hands it (state, handle, text),
-// and leaves the answer to the module behind the handle.
+// The exported C functions that discovery needs. Each finds the module behind its handle and calls that
+// module's list, or the Producer where handles are opened and closed. GenTL.h refers to the standard, which
+// defines what each function returns.
 
-#include "sdk/producer/Answer.h"
+#include "sdk/producer/InfoCommands.h"
 #include "sdk/producer/LastError.h"
 #include "sdk/producer/Producer.h"
 
@@ -12,7 +13,7 @@ using namespace GenTL;
 
 namespace {
 
-/// Runs the body of an exported function. No exception gets past here: the caller may be written in C.
+/// Runs the body of an exported function. No exception leaves it, because the consumer may be written in C.
 template <typename Body>
 GC_ERROR guarded(Body &&body) noexcept
 {
@@ -35,7 +36,8 @@ GC_ERROR withSystem(TL_HANDLE handle, Body &&body) noexcept
         if (const GC_ERROR error = Producer::instance().requireInitialised())
             return error;
         const std::shared_ptr<SystemModule> module = Producer::instance().system(handle);
-        return module ? body(*module) : fail(GC_ERR_INVALID_HANDLE, "This is no open system module.");
+        return module ? body(*module)
+                      : fail(GC_ERR_INVALID_HANDLE, "This is not the handle of the open system module.");
     });
 }
 
@@ -47,25 +49,26 @@ GC_ERROR withInterface(IF_HANDLE handle, Body &&body) noexcept
         if (const GC_ERROR error = Producer::instance().requireInitialised())
             return error;
         const std::shared_ptr<InterfaceModule> module = Producer::instance().interface(handle);
-        return module ? body(*module) : fail(GC_ERR_INVALID_HANDLE, "This is no open interface.");
+        return module ? body(*module)
+                      : fail(GC_ERR_INVALID_HANDLE, "This is not the handle of an open interface.");
     });
 }
 
-/// The interface as the system's list has it now; as it was when opened, once it is gone from there.
+/// Returns the interface as the system's list contains it now; if it is no longer there, as it was opened.
 InterfaceRecord currentRecord(const InterfaceModule &module)
 {
-    const std::shared_ptr<SystemModule> system = Producer::instance().system();
-    return (system ? system->findInterface(module.record().id) : std::nullopt).value_or(module.record());
+    const std::shared_ptr<SystemModule> system = Producer::instance().openedSystem();
+    return (system ? system->interfaces.find(module.openedAs.id) : std::nullopt).value_or(module.openedAs);
 }
 
-GC_ERROR answerLastError(
-    GC_ERROR code, const std::string &text, GC_ERROR *codeOutput, const Answer &textOutput)
+GC_ERROR writeLastError(
+    GC_ERROR code, const std::string &message, GC_ERROR *codeOutput, const InfoOutput &messageOutput)
 {
     if (const GC_ERROR error = Producer::instance().requireInitialised())
         return error;
-    if (!codeOutput || !textOutput.isComplete())
-        return failArgumentMissing();
-    const GC_ERROR error = textOutput.text(text);
+    if (!codeOutput || !messageOutput.isComplete())
+        return failMissingArgument();
+    const GC_ERROR error = messageOutput.writeString(message);
     if (!error)
         *codeOutput = code;
     return error;
@@ -87,118 +90,115 @@ GENTL_FUNCTION GCCloseLib()
 
 GENTL_FUNCTION GCGetInfo(TL_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    return guarded([&] { return Producer::instance().info(iInfoCmd, Answer(piType, pBuffer, piSize)); });
+    return guarded([&] { return Producer::instance().info(iInfoCmd, InfoOutput(piType, pBuffer, piSize)); });
 }
 
 GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
 {
     return guarded([&] {
         const GC_ERROR code = lastErrorCode();
-        const std::string text = lastErrorText();
-        const GC_ERROR error = answerLastError(code, text, piErrorCode, Answer(sErrText, piSize));
+        const std::string message = lastErrorMessage();
+        const GC_ERROR error = writeLastError(code, message, piErrorCode, InfoOutput(sErrText, piSize));
         if (error)
-            fail(code, text); // Still there for a second try with a longer buffer.
+            fail(code, message); // The consumer may ask again with a longer buffer.
         return error;
     });
 }
 
 GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 {
-    return guarded([&] {
-        const GC_ERROR error = Producer::instance().requireInitialised();
-        return error ? error : Producer::instance().openSystem(phTL);
-    });
+    return guarded([&] { return Producer::instance().openSystem(phTL); });
 }
 
 GENTL_FUNCTION TLClose(TL_HANDLE hTL)
 {
-    return guarded([&] {
-        const GC_ERROR error = Producer::instance().requireInitialised();
-        return error ? error : Producer::instance().closeSystem(hTL);
-    });
+    return guarded([&] { return Producer::instance().closeSystem(hTL); });
 }
 
 GENTL_FUNCTION TLGetInfo(
     TL_HANDLE hTL, TL_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    return withSystem(hTL,
-        [&](SystemModule &) { return Producer::instance().info(iInfoCmd, Answer(piType, pBuffer, piSize)); });
+    return withSystem(hTL, [&](SystemModule &) {
+        return Producer::instance().info(iInfoCmd, InfoOutput(piType, pBuffer, piSize));
+    });
 }
 
-// The sources have no use for a time limit, so neither update function looks at it.
+// Both update functions ignore the timeout: no source could end its search early.
 GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE hTL, bool8_t *pbChanged, std::uint64_t)
 {
-    return withSystem(hTL, [&](SystemModule &system) { return system.updateInterfaceList(pbChanged); });
+    return withSystem(hTL, [&](SystemModule &system) {
+        return system.interfaces.update([&] { return system.source->updateInterfaces(); }, pbChanged);
+    });
 }
 
 GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE hTL, std::uint32_t *piNumIfaces)
 {
-    return withSystem(hTL, [&](SystemModule &system) { return system.countInterfaces(piNumIfaces); });
+    return withSystem(hTL, [&](SystemModule &system) { return system.interfaces.count(piNumIfaces); });
 }
 
 GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE hTL, std::uint32_t iIndex, char *sID, std::size_t *piSize)
 {
     return withSystem(
-        hTL, [&](SystemModule &system) { return system.interfaceId(iIndex, Answer(sID, piSize)); });
+        hTL, [&](SystemModule &system) { return system.interfaces.id(iIndex, InfoOutput(sID, piSize)); });
 }
 
 GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE hTL, const char *sIfaceID, INTERFACE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
     return withSystem(hTL, [&](SystemModule &system) {
-        return sIfaceID ? system.interfaceInfo(sIfaceID, iInfoCmd, Answer(piType, pBuffer, piSize))
-                        : failArgumentMissing();
+        return system.interfaces.info(
+            sIfaceID, iInfoCmd, InfoOutput(piType, pBuffer, piSize), writeInterfaceInfo);
     });
 }
 
 GENTL_FUNCTION TLOpenInterface(TL_HANDLE hTL, const char *sIfaceID, IF_HANDLE *phIface)
 {
     return withSystem(hTL, [&](SystemModule &system) {
-        return sIfaceID ? Producer::instance().openInterface(system, sIfaceID, phIface)
-                        : failArgumentMissing();
+        return sIfaceID
+            ? Producer::instance().openInterface(sIfaceID, system.interfaces.find(sIfaceID), phIface)
+            : failMissingArgument();
     });
 }
 
 GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 {
-    return guarded([&] {
-        const GC_ERROR error = Producer::instance().requireInitialised();
-        return error ? error : Producer::instance().closeInterface(hIface);
-    });
+    return guarded([&] { return Producer::instance().closeInterface(hIface); });
 }
 
 GENTL_FUNCTION IFGetInfo(
     IF_HANDLE hIface, INTERFACE_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
     return withInterface(hIface, [&](InterfaceModule &module) {
-        const Answer answer(piType, pBuffer, piSize);
-        return answer.isComplete() ? answerInterfaceInfo(currentRecord(module), iInfoCmd, answer)
-                                   : failArgumentMissing();
+        const InfoOutput output(piType, pBuffer, piSize);
+        return output.isComplete() ? writeInterfaceInfo(currentRecord(module), iInfoCmd, output)
+                                   : failMissingArgument();
     });
 }
 
 GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *pbChanged, std::uint64_t)
 {
-    return withInterface(hIface, [&](InterfaceModule &module) { return module.updateDeviceList(pbChanged); });
+    return withInterface(hIface, [&](InterfaceModule &module) {
+        return module.devices.update(
+            [&] { return module.source->updateDevices(module.openedAs.id); }, pbChanged);
+    });
 }
 
 GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
 {
-    return withInterface(hIface, [&](InterfaceModule &module) { return module.countDevices(piNumDevices); });
+    return withInterface(hIface, [&](InterfaceModule &module) { return module.devices.count(piNumDevices); });
 }
 
 GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDeviceID, std::size_t *piSize)
 {
-    return withInterface(
-        hIface, [&](InterfaceModule &module) { return module.deviceId(iIndex, Answer(sIDeviceID, piSize)); });
+    return withInterface(hIface,
+        [&](InterfaceModule &module) { return module.devices.id(iIndex, InfoOutput(sIDeviceID, piSize)); });
 }
 
 GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
     return withInterface(hIface, [&](InterfaceModule &module) {
-        return sDeviceID ? module.deviceInfo(sDeviceID, iInfoCmd, Answer(piType, pBuffer, piSize))
-                         : failArgumentMissing();
+        return module.devices.info(sDeviceID, iInfoCmd, InfoOutput(piType, pBuffer, piSize), writeDeviceInfo);
     });
 }
 
@@ -206,7 +206,7 @@ GENTL_FUNCTION IFGetParentTL(IF_HANDLE hIface, TL_HANDLE *phSystem)
 {
     return withInterface(hIface, [&](InterfaceModule &) {
         if (!phSystem)
-            return failArgumentMissing();
+            return failMissingArgument();
         *phSystem = Producer::instance().systemHandle();
         return GC_ERR_SUCCESS;
     });
