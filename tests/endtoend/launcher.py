@@ -39,18 +39,12 @@ def xdotool(*arguments):
     subprocess.run(["xdotool", *map(str, arguments)], check=True)
 
 
-def point_at(node):
-    """Moves the pointer to the middle of a node of the main window."""
-    x, y, width, height = node["box"]
-    # The X server knows the window's position before Qt does.
+def click(node):
+    """Clicks at the middle of a node of the main window. The X server knows the window's place before Qt does."""
     found = wait_for("the window is on the screen", lambda: output_of(
         "xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$").split())
-    xdotool("mousemove", "--window", found[0], x + width // 2, y + height // 2)
-
-
-def click(node):
-    point_at(node)
-    xdotool("click", 1)
+    x, y, width, height = node["box"]
+    xdotool("mousemove", "--window", found[0], x + width // 2, y + height // 2, "click", 1)
 
 
 def descendants(node):
