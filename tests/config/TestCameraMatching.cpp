@@ -15,7 +15,6 @@ class TestCameraMatching : public QObject
 private slots:
     void groupAndPicture_data();
     void groupAndPicture();
-    void longerReferenceModelWinsInEitherFileOrder();
     void groupThatIsNotConfiguredIsEmpty_data();
     void groupThatIsNotConfiguredIsEmpty();
     void typesAreNotLowerCased();
@@ -110,17 +109,6 @@ void TestCameraMatching::groupAndPicture()
     const LauncherConfig config = configured(allGroups(), exampleRows());
     QTEST(config.findGroupForCamera(info).type, "group");
     QTEST(config.findThumbnailForCamera(info), "picture");
-}
-
-void TestCameraMatching::longerReferenceModelWinsInEitherFileOrder()
-{
-    const QJsonObject shortFirst = references({{"Kx200", "areascan"}, {"Kx200 Pro", "linescan"}});
-    const QJsonObject longFirst = references({{"Kx200 Pro", "linescan"}, {"Kx200", "areascan"}});
-    for (const QJsonObject &rows : {shortFirst, longFirst}) {
-        const LauncherConfig config = configured(allGroups(), rows);
-        QCOMPARE(config.findGroupForCamera(camera({}, "Kx200 Pro 5MP"_s)).type, "linescan"_s);
-        QCOMPARE(config.findGroupForCamera(camera({}, "Kx200 5MP"_s)).type, "areascan"_s);
-    }
 }
 
 void TestCameraMatching::groupThatIsNotConfiguredIsEmpty_data()
