@@ -5,7 +5,7 @@ import time
 from frames import running
 from pairs import Figure
 from places import vendor
-from scene import Scene
+from simulator import SimulatorConfiguration
 
 ROUNDS = 30
 LOOK = 2.0  # seconds, from one look for cameras to the next.
@@ -14,7 +14,7 @@ MOST = 2.5
 
 def figures(bench):
     times = []
-    with Scene(bench.stage) as scene, running(bench.launcher):
+    with SimulatorConfiguration(bench.stage) as scene, running(bench.launcher):
         interface, *_ = scene.read()["interfaces"]
         one, two = ({"interfaces": [{**interface, "devices": interface["devices"][:count]}]} for count in (1, 2))
         bench.screen.await_window()

@@ -1,4 +1,4 @@
-#include "tests/road/windowreader/WindowReader.h"
+#include "tests/endtoend/windowreader/WindowReaderPlugin.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -7,9 +7,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QMenu>
 #include <QTableWidget>
-#include <QWidget>
 
 namespace {
 
@@ -18,7 +19,8 @@ QJsonArray boxOf(const QRect &rectangle)
     return {rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
 }
 
-/// Texts, tool tips, the cells' boxes in the table's coordinates, and the widths that the texts need.
+/// Returns each row's strings and tooltips, its cells in the table's coordinates, and the widths that the
+/// strings need.
 QJsonArray rowsOf(const QTableWidget &table)
 {
     const QPoint toTable = table.viewport()->mapTo(&table, QPoint());
@@ -38,7 +40,6 @@ QJsonArray rowsOf(const QTableWidget &table)
     return rows;
 }
 
-/// The columns' texts, their widths, and the widths that the texts need.
 QJsonArray columnsOf(const QTableWidget &table)
 {
     const QHeaderView *header = table.horizontalHeader();
@@ -51,19 +52,18 @@ QJsonArray columnsOf(const QTableWidget &table)
     return columns;
 }
 
-/// The entries of a menu with their boxes, in the menu's coordinates; a separator has no text.
+/// Returns the entries of a menu with their boxes in the menu's coordinates. A separator has an empty text.
 QJsonArray actionsOf(const QMenu &menu)
 {
     QJsonArray actions;
-    const QList<QAction *> entries = menu.actions();
-    for (QAction *entry : entries)
-        actions.append(QJsonObject{{QStringLiteral("text"), entry->text()},
-            {QStringLiteral("box"), boxOf(menu.actionGeometry(entry))},
-            {QStringLiteral("active"), entry == menu.activeAction()}});
+    for (QAction *action : menu.actions())
+        actions.append(QJsonObject{{QStringLiteral("text"), action->text()},
+            {QStringLiteral("box"), boxOf(menu.actionGeometry(action))},
+            {QStringLiteral("active"), action == menu.activeAction()}});
     return actions;
 }
 
-/// The size that the widget's text takes up; the widget's own where there is none.
+/// Returns the size that the widget's text takes up, or the widget's size if it has no text.
 QJsonArray neededSize(const QWidget &widget)
 {
     QSize needed = widget.size();
@@ -86,8 +86,6 @@ QString textOf(const QWidget &widget)
 
 QJsonObject describe(const QWidget &widget)
 {
-    const QPoint place = widget.mapTo(widget.window(), QPoint());
-    const QPoint onScreen = widget.mapToGlobal(QPoint());
     QJsonObject object{
         {QStringLiteral("class"), QString::fromLatin1(widget.metaObject()->className())},
         {QStringLiteral("name"), widget.objectName()},
@@ -96,8 +94,8 @@ QJsonObject describe(const QWidget &widget)
         {QStringLiteral("accessibleName"), widget.accessibleName()},
         {QStringLiteral("enabled"), widget.isEnabled()},
         {QStringLiteral("active"), widget.isActiveWindow()},
-        {QStringLiteral("box"), boxOf(QRect(place, widget.size()))},
-        {QStringLiteral("onScreen"), boxOf(QRect(onScreen, widget.size()))},
+        {QStringLiteral("box"), boxOf(QRect(widget.mapTo(widget.window(), QPoint()), widget.size()))},
+        {QStringLiteral("onScreen"), boxOf(QRect(widget.mapToGlobal(QPoint()), widget.size()))},
         {QStringLiteral("needs"), neededSize(widget)},
         {QStringLiteral("xWindow"), QString::number(widget.internalWinId())},
     };
@@ -117,17 +115,26 @@ QJsonObject describe(const QWidget &widget)
     return object;
 }
 
-QByteArray visibleWindows()
+void sendVisibleWindows(QLocalSocket &reader)
 {
     QJsonArray windows;
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (const QWidget *window : topLevels) {
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
         if (window->isVisible())
             windows.append(describe(*window));
     }
-    return QJsonDocument(windows).toJson(QJsonDocument::Compact);
+    QObject::connect(&reader, &QLocalSocket::disconnected, &reader, &QObject::deleteLater);
+    reader.write(QJsonDocument(windows).toJson(QJsonDocument::Compact));
+    reader.disconnectFromServer(); // Closes the connection when everything has been sent.
 }
 
 } // namespace
 
-WindowReader::WindowReader(const QString &socketPath) : m_socket(socketPath, visibleWindows) { }
+QObject *WindowReaderPlugin::create(const QString &, const QString &socketPath)
+{
+    auto *server = new QLocalServer;
+    QObject::connect(server, &QLocalServer::newConnection, server,
+        [server] { sendVisibleWindows(*server->nextPendingConnection()); });
+    server->listen(socketPath); // Fails in a tool, which inherits the launcher's environment: the launcher
+                                // owns the path.
+    return server;
+}
