@@ -1,6 +1,6 @@
 // Reads the text of a simulator configuration.
 
-#include "sdk/simulator/Scene.h"
+#include "sdk/simulator/SimulatorConfiguration.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 #include <set>
@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     try {
         std::set<std::string> ids;
-        for (const auto &[record, devices] : parseScene(textOf(data, size))) {
+        for (const auto &[record, devices] : parseConfiguration(textOf(data, size))) {
             requireNoNul({record.id, record.displayName, record.tlType});
             require(!record.id.empty() && !record.displayName.empty() && !record.tlType.empty(),
                 "an interface has an ID, a display name and a technology");
