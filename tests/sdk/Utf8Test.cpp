@@ -28,7 +28,7 @@ TEST(Utf8Test, replacesMalformedSequences)
 
 TEST(Utf8Test, escapesControlCharacters)
 {
-    EXPECT_EQ(toLine("a\nb\x1b[0m\x7F\xFF"), "a\\nb\\x1b[0m\\x7f\xEF\xBF\xBD");
+    EXPECT_EQ(toLine("a\nb\x1b[0m\x1f \x7F\xFF"), "a\\nb\\x1b[0m\\x1f \\x7f\xEF\xBF\xBD");
     EXPECT_EQ(toLine("\xC2\x80\xC2\x85\xC2\x9B"
                      "31m\xC2\x9F\xC2\xA0\xC3\x80"),
         "\\x80\\x85\\x9b31m\\x9f\xC2\xA0\xC3\x80");
