@@ -80,7 +80,7 @@ struct KeywordRow
 /// Returns what the name of a producer file for the interface is likely to contain; empty for most labels.
 QStringList ctiKeywordsForInterface(const QString &interfaceLabel)
 {
-    const auto l = [](const char *words) { return QString::fromLatin1(words).split(QLatin1Char(' ')); };
+    const auto l = [](const char *list) { return QString::fromLatin1(list).split(QLatin1Char(' ')); };
     // The order matters: "cameralinkhs" also contains "cameralink". Intended: "usbt" is listed twice and
     // "usbtL" has a capital, so a file name with "usbt" outweighs one with only "usb".
     static const KeywordRow rows[] = {
