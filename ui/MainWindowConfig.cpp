@@ -27,7 +27,8 @@ QStringList readCtiPaths(QIODevice &document)
     bool inside = false;
     while (!xml.hasError() && xml.readNext() != QXmlStreamReader::EndDocument) {
         if ((xml.isStartElement() || xml.isEndElement()) && isNamed(xml, QLatin1String("CtiPaths"))) {
-            inside = xml.isStartElement(); // Intended: no depth, an inner end tag also ends the outer element.
+            // Intended: the depth is not counted, so an inner end tag also ends the outer element.
+            inside = xml.isStartElement();
         } else if (inside && xml.isStartElement() && isNamed(xml, QLatin1String("Path"))) {
             // The text before an error still counts, for example before a child element.
             paths.append(xml.readElementText().trimmed());
