@@ -1,33 +1,38 @@
-#include "camera/SdkText.h"
+#include "camera/SdkRead.h"
 
-#include <new>
-#include <string>
+#include <cstring>
 
-bool SdkText::read(const Reader &reader, QByteArray &text)
+using CvxCPP::CvxErrorSuccess;
+
+std::optional<std::string> SdkRead::bytes(const StringGetter &getter)
 {
-    try {
+    return orEmpty([&]() -> std::optional<std::string> {
         unsigned size = 0;
-        if (reader(nullptr, size) != CvxCPP::CvxErrorSuccess)
-            return false;
+        if (getter(nullptr, size) != CvxErrorSuccess)
+            return std::nullopt;
         std::string buffer(size, '\0');
-        if (size > 0 && reader(buffer.data(), size) != CvxCPP::CvxErrorSuccess)
-            return false;
-        text = QByteArray(buffer.c_str()); // The length may count a NUL; a stored text never carries one.
-        return true;
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
+        if (size > 0 && getter(buffer.data(), size) != CvxErrorSuccess)
+            return std::nullopt;
+        buffer.resize(std::strlen(buffer.c_str())); // The reported length may include the terminating NUL.
+        return buffer;
+    });
 }
 
-bool SdkText::read(const Reader &reader, QString &text)
+std::optional<std::string> SdkRead::bytes(const CvxCPP::Feature &feature)
 {
-    try {
-        QByteArray bytes;
-        if (!read(reader, bytes))
-            return false;
-        text = QString::fromUtf8(bytes);
-        return true;
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
+    return orEmpty([&]() -> std::optional<std::string> {
+        std::string value;
+        if (feature.GetValue(value) != CvxErrorSuccess)
+            return std::nullopt;
+        return value;
+    });
+}
+
+std::optional<QString> SdkRead::decoded(const std::optional<std::string> &bytes)
+{
+    return orEmpty([&]() -> std::optional<QString> {
+        if (!bytes)
+            return std::nullopt;
+        return QString::fromStdString(*bytes);
+    });
 }

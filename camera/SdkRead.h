@@ -2,22 +2,38 @@
 
 #include "CvxCPP/CvxCPP.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <functional>
+#include <new>
+#include <optional>
+#include <string>
 
-/// Reads one text of the SDK, with the two calls that the SDK wants.
-namespace SdkText {
+/// Reads values from the camera SDK. A read fails if the SDK reports an error or if memory runs out.
+namespace SdkRead {
 
-/// One text operation of the SDK: buffer (null asks for the length) and size, as CvxCPP.h describes.
-using Reader = std::function<CvxCPP::CvxError(char *buffer, unsigned &size)>;
+/// Calls `read` and returns its result, or an empty value if memory runs out.
+template <typename Read>
+auto orEmpty(const Read &read) -> decltype(read())
+{
+    try {
+        return read();
+    } catch (const std::bad_alloc &) {
+        return {};
+    }
+}
 
-/// Stores the text, up to its first NUL, in `text` and returns true. When either call fails, or memory runs
-/// out, `text` stays as it was and the result is false.
-bool read(const Reader &reader, QByteArray &text);
+/// A string getter of the SDK. It is called with a null buffer for the length, then with a buffer of that
+/// size.
+using StringGetter = std::function<CvxCPP::CvxError(char *buffer, unsigned &size)>;
 
-/// The same for a text to be shown: `text` is what the bytes mean in UTF-8.
-bool read(const Reader &reader, QString &text);
+/// Returns the string up to its first NUL, or nothing if one of the two calls fails.
+std::optional<std::string> bytes(const StringGetter &getter);
 
-} // namespace SdkText
+/// Returns the value of a string feature up to its first NUL, or nothing if it cannot be read.
+std::optional<std::string> bytes(const CvxCPP::Feature &feature);
+
+/// Decodes UTF-8. Returns nothing for a string that could not be read.
+std::optional<QString> decoded(const std::optional<std::string> &bytes);
+
+} // namespace SdkRead

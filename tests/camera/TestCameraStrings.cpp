@@ -1,200 +1,103 @@
-#include "tests/camera/AllocationLimit.h"
 #include "tests/camera/ProviderTest.h"
 
-#include <climits>
-
-using namespace CvxScripted;
 using namespace ProviderTest;
 
-Q_DECLARE_METATYPE(CvxScripted::Text CvxScripted::CameraRecord::*)
+Q_DECLARE_METATYPE(CvxScripted::Function)
 Q_DECLARE_METATYPE(QString CameraInfo::*)
-Q_DECLARE_METATYPE(CvxScripted::Text)
 
-namespace {
+using Field = QString CameraInfo::*;
 
-using RecordText = Text CameraRecord::*;
-using InfoText = QString CameraInfo::*;
-
-Text text(const std::string &value, bool countsNul)
-{
-    Text made(value);
-    made.countsNul = countsNul;
-    return made;
-}
-
-Text textOfLength(const std::string &value, unsigned length)
-{
-    Text made(value);
-    made.length = length;
-    return made;
-}
-
-/// One row per text of a camera: where the SDK has it, and where the list has it.
-void addTexts()
-{
-    QTest::addColumn<RecordText>("source");
-    QTest::addColumn<InfoText>("target");
-    QTest::newRow("ID") << &CameraRecord::id << &CameraInfo::cameraId;
-    QTest::newRow("model") << &CameraRecord::model << &CameraInfo::modelName;
-    QTest::newRow("name") << &CameraRecord::name << &CameraInfo::cameraName;
-    QTest::newRow("serial number") << &CameraRecord::serialNumber << &CameraInfo::serialNumber;
-}
-
-/// What is listed when one text cannot be read: a camera without an ID finds no vendor either.
-CameraInfo infoWithout(InfoText lost)
-{
-    CameraInfo info = completeInfo(QStringLiteral("a"));
-    info.*lost = QString();
-    if (info.cameraId.isEmpty())
-        info.vendorName = QString();
-    return info;
-}
-
-} // namespace
-
-/// Reading one text of a camera, with the SDK's two calls.
-class TestCameraTexts : public QObject
+/// Reading one string of a camera with the SDK's two calls.
+class TestCameraStrings : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { reset(); }
 
-    void failedLengthLeavesOnlyThatFieldEmpty_data() { addTexts(); }
-    void failedLengthLeavesOnlyThatFieldEmpty();
-    void failedReadLeavesOnlyThatFieldEmpty_data() { addTexts(); }
-    void failedReadLeavesOnlyThatFieldEmpty();
+    void unreadableStringLeavesOnlyItsFieldEmpty_data();
+    void unreadableStringLeavesOnlyItsFieldEmpty();
     void failedLengthIsNotFollowedByARead();
-    void outOfMemoryLeavesOnlyThatFieldEmpty_data() { addTexts(); }
-    void outOfMemoryLeavesOnlyThatFieldEmpty();
-    void outOfMemoryInsideTheSdkLeavesOnlyThatFieldEmpty();
-    void textEndsAtItsFirstNul_data();
-    void textEndsAtItsFirstNul();
-    void textIsUtf8_data();
-    void textIsUtf8();
-    void idThatFailsTheSecondTimeKeepsTheIdButFindsNoVendor_data();
-    void idThatFailsTheSecondTimeKeepsTheIdButFindsNoVendor();
+    void stringIsUtf8UpToItsFirstNul_data();
+    void stringIsUtf8UpToItsFirstNul();
+    void idThatBecomesUnreadableOnlyCostsTheVendor_data() { addFailures(); }
+    void idThatBecomesUnreadableOnlyCostsTheVendor();
 };
 
-void TestCameraTexts::failedLengthLeavesOnlyThatFieldEmpty()
+void TestCameraStrings::unreadableStringLeavesOnlyItsFieldEmpty_data()
 {
-    QFETCH(RecordText, source);
-    QFETCH(InfoText, target);
-    CameraRecord record = completeCamera("a");
-    (record.*source).lengthError = CvxCPP::CvxErrorNotAvailable;
-    QCOMPARE(listOne(record), infoWithout(target));
+    QTest::addColumn<Function>("function");
+    QTest::addColumn<Field>("field");
+    QTest::addColumn<Failure>("failure");
+    const auto addRows = [](const char *name, Function function, Field field) {
+        QTest::addRow("%s, length", name) << function << field << Failure::AtLength;
+        QTest::addRow("%s, read", name) << function << field << Failure::AtRead;
+        QTest::addRow("%s, out of memory", name) << function << field << Failure::OutOfMemory;
+    };
+    addRows("ID", Function::GetId, &CameraInfo::cameraId);
+    addRows("model", Function::GetModel, &CameraInfo::modelName);
+    addRows("name", Function::GetName, &CameraInfo::cameraName);
+    addRows("serial number", Function::GetSerialNumber, &CameraInfo::serialNumber);
 }
 
-void TestCameraTexts::failedReadLeavesOnlyThatFieldEmpty()
+void TestCameraStrings::unreadableStringLeavesOnlyItsFieldEmpty()
 {
-    QFETCH(RecordText, source);
-    QFETCH(InfoText, target);
-    CameraRecord record = completeCamera("a");
-    (record.*source).textError = CvxCPP::CvxErrorBufferTooSmall;
-    QCOMPARE(listOne(record), infoWithout(target));
+    QFETCH(Function, function);
+    QFETCH(Field, field);
+    QFETCH(Failure, failure);
+    CameraInfo expected = completeInfo(QStringLiteral("a"));
+    expected.*field = QString();
+    if (function == Function::GetId)
+        expected.vendorName = QString(); // Without an ID, the vendor cannot be found either.
+    failReads(function, "a", failure);
+    QCOMPARE(listOne(completeCamera("a")), expected);
 }
 
-void TestCameraTexts::failedLengthIsNotFollowedByARead()
+void TestCameraStrings::failedLengthIsNotFollowedByARead()
 {
-    CameraRecord record = completeCamera("a");
-    record.model.lengthError = CvxCPP::CvxErrorFailed;
-    listOne(record);
+    failReads(Function::GetModel, "a", Failure::AtLength);
+    listOne(completeCamera("a"));
     QCOMPARE(callCount(Function::GetModel), std::size_t(1));
 }
 
-void TestCameraTexts::outOfMemoryLeavesOnlyThatFieldEmpty()
-{
-    QFETCH(RecordText, source);
-    QFETCH(InfoText, target);
-    const AllocationLimit limit;
-    for (const unsigned length : {unsigned(INT_MAX), unsigned(INT_MAX) + 1, UINT_MAX}) {
-        CameraRecord record = completeCamera("a");
-        (record.*source).length = length;
-        QCOMPARE(listOne(record), infoWithout(target));
-    }
-    QVERIFY(limit.refused() >= 3);
-}
-
-void TestCameraTexts::outOfMemoryInsideTheSdkLeavesOnlyThatFieldEmpty()
-{
-    script().intercept = [](const Call &call) -> CvxCPP::CvxError {
-        if (call.function == Function::GetName && !call.asksLength)
-            throw std::bad_alloc();
-        return CvxCPP::CvxErrorSuccess;
-    };
-    QCOMPARE(listOne(completeCamera("a")), infoWithout(&CameraInfo::cameraName));
-}
-
-void TestCameraTexts::textEndsAtItsFirstNul_data()
-{
-    using namespace std::string_literals;
-    QTest::addColumn<Text>("told");
-    QTest::addColumn<QString>("listed");
-    const QString expected = QStringLiteral("Kx200");
-    QTest::newRow("length counts the NUL") << text("Kx200", true) << expected;
-    QTest::newRow("length does not count it") << text("Kx200", false) << expected;
-    QTest::newRow("several NULs at the end") << text("Kx200\0\0\0"s, true) << expected;
-    QTest::newRow("something after the NUL") << text("Kx200\0old text"s, false) << expected;
-    QTest::newRow("buffer longer than the text") << textOfLength("Kx200", 64) << expected;
-    QTest::newRow("empty, NUL counted") << text("", true) << QString();
-    QTest::newRow("empty, length 0") << text("", false) << QString();
-    QTest::newRow("NUL at the front") << text("\0Kx200"s, false) << QString();
-    Text boasting("Kx200");
-    boasting.writtenSize = 4000;
-    QTest::newRow("claims to have written more") << boasting << expected;
-    QTest::newRow("blanks stay") << text(" Kx200 ", true) << QStringLiteral(" Kx200 ");
-}
-
-void TestCameraTexts::textEndsAtItsFirstNul()
-{
-    QFETCH(Text, told);
-    QFETCH(QString, listed);
-    CameraRecord record;
-    record.id = record.model = record.name = record.serialNumber = told;
-    CameraInfo expected;
-    expected.cameraId = expected.modelName = expected.cameraName = expected.serialNumber = listed;
-    expected.interfaceType = QStringLiteral("Other");
-    QCOMPARE(listOne(record), expected);
-}
-
-void TestCameraTexts::textIsUtf8_data()
+void TestCameraStrings::stringIsUtf8UpToItsFirstNul_data()
 {
     QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("countsNul");
     QTest::addColumn<QString>("listed");
-    QTest::newRow("two bytes") << QByteArray("K\xc3\xa4mera") << QStringLiteral("K\u00e4mera");
-    QTest::newRow("three bytes") << QByteArray("\xe7\x9b\xb8\xe6\x9c\xba") << QStringLiteral("\u76f8\u673a");
-    QTest::newRow("four bytes") << QByteArray("\xf0\x9f\x93\xb7") << QStringLiteral("\U0001f4f7");
-    QTest::newRow("a bad byte is replaced") << QByteArray("a\xff"
-                                                          "b")
-                                            << QStringLiteral("a\ufffd"
-                                                              "b");
+    const QString expected = QStringLiteral("Kx200");
+    QTest::newRow("length includes the NUL") << QByteArray("Kx200") << true << expected;
+    QTest::newRow("length excludes the NUL") << QByteArray("Kx200") << false << expected;
+    QTest::newRow("several NULs at the end") << QByteArray("Kx200\0\0\0", 8) << true << expected;
+    QTest::newRow("characters after the NUL") << QByteArray("Kx200\0old", 9) << false << expected;
+    QTest::newRow("empty, NUL counted") << QByteArray("") << true << QString();
+    QTest::newRow("empty, length 0") << QByteArray("") << false << QString();
+    QTest::newRow("NUL at the front") << QByteArray("\0Kx200", 6) << false << QString();
+    QTest::newRow("spaces stay") << QByteArray(" Kx200 ") << true << QStringLiteral(" Kx200 ");
+    QTest::newRow("two-byte character") << QByteArray("\xc3\xa4") << true << QStringLiteral("\u00e4");
+    QTest::newRow("invalid UTF-8") << QByteArray("a\xff") << true << QStringLiteral("a\ufffd");
 }
 
-void TestCameraTexts::textIsUtf8()
+void TestCameraStrings::stringIsUtf8UpToItsFirstNul()
 {
     QFETCH(QByteArray, bytes);
-    CameraRecord record = completeCamera("a");
-    record.model = bytes.toStdString();
-    QTEST(listOne(record).modelName, "listed");
+    QFETCH(bool, countsNul);
+    QFETCH(QString, listed);
+    StringField string(bytes.toStdString());
+    string.countsNul = countsNul;
+    const CameraRecord record{string, string, string, string};
+    QCOMPARE(
+        listOne(record), (CameraInfo{listed, {}, listed, listed, listed, {}, {}, QStringLiteral("Other")}));
 }
 
-void TestCameraTexts::idThatFailsTheSecondTimeKeepsTheIdButFindsNoVendor_data()
+void TestCameraStrings::idThatBecomesUnreadableOnlyCostsTheVendor()
 {
-    QTest::addColumn<bool>("failsAtLength");
-    QTest::newRow("length") << true;
-    QTest::newRow("text") << false;
+    QFETCH(Failure, failure);
+    failReads(Function::GetId, "a", failure, 2); // The ID is read first for its field, then for the vendor.
+    CameraInfo expected = completeInfo(QStringLiteral("a"));
+    expected.vendorName = QString();
+    QCOMPARE(listOne(completeCamera("a")), expected);
 }
 
-void TestCameraTexts::idThatFailsTheSecondTimeKeepsTheIdButFindsNoVendor()
-{
-    QFETCH(bool, failsAtLength);
-    script().intercept = [failsAtLength, seen = 0](const Call &call) mutable -> CvxCPP::CvxError {
-        if (call.function == Function::GetId && call.asksLength == failsAtLength && ++seen == 2)
-            return CvxCPP::CvxErrorFailed;
-        return CvxCPP::CvxErrorSuccess;
-    };
-    QCOMPARE(listOne(completeCamera("a")), infoWithout(&CameraInfo::vendorName));
-}
-
-QTEST_APPLESS_MAIN(TestCameraTexts)
-#include "TestCameraTexts.moc"
+QTEST_APPLESS_MAIN(TestCameraStrings)
+#include "TestCameraStrings.moc"
