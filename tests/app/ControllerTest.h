@@ -68,10 +68,7 @@ inline QStringList rows()
 }
 
 /// The rows during a scan.
-inline QStringList scanningRows()
-{
-    return {QStringLiteral("[ApplicationController] Scanning...||")};
-}
+inline const QStringList scanningRows{QStringLiteral("[ApplicationController] Scanning...||")};
 
 /// Returns a camera whose row is "|model|ID".
 inline CvxScripted::CameraRecord cameraRecord(const std::string &id)
@@ -105,12 +102,6 @@ inline void processQueuedEvents()
 {
     for (int round = 0; round < 3; ++round)
         QCoreApplication::processEvents();
-}
-
-/// Calls a slot by its name through the meta-object system.
-inline bool call(QObject &object, const char *slot)
-{
-    return QMetaObject::invokeMethod(&object, slot, Qt::DirectConnection);
 }
 
 } // namespace ControllerTest

@@ -40,30 +40,18 @@ class TestObservers : public QObject
 private slots:
     void init() { reset(); }
 
-    void cameraIsReportedWithItsExtendedId_data();
     void cameraIsReportedWithItsExtendedId();
     void cameraWithoutAReadableIdIsNotReported();
     void everyInterfaceChangeIsReported();
     void mutexIsHeldOnlyDuringTheNotification();
 };
 
-void TestObservers::cameraIsReportedWithItsExtendedId_data()
-{
-    QTest::addColumn<QByteArray>("extendedId");
-    QTest::addColumn<unsigned>("reason");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("plugged in") << QByteArray("if/device") << 0u << QStringLiteral("if/device");
-    QTest::newRow("plugged out, UTF-8") << QByteArray("\xc3\xa4") << 1u << QStringLiteral("\u00e4");
-    QTest::newRow("unknown reason, empty ID") << QByteArray("") << UINT_MAX << QString();
-}
-
 void TestObservers::cameraIsReportedWithItsExtendedId()
 {
-    QFETCH(QByteArray, extendedId);
-    QFETCH(unsigned, reason);
-    QFETCH(QString, id);
-    const auto camera = cameraWithExtendedId(extendedId.toStdString());
-    QCOMPARE(reported(camera, reason), (QList<QVariantList>{{id, reason}}));
+    const QString id = QStringLiteral("if/\u00e4");
+    for (const unsigned reason : {0u, 1u, UINT_MAX}) // The SDK may define more reasons later.
+        QCOMPARE(reported(cameraWithExtendedId("if/\xc3\xa4"), reason), (QList<QVariantList>{{id, reason}}));
+    QCOMPARE(reported(cameraWithExtendedId("")), (QList<QVariantList>{{QString(), 0u}}));
 }
 
 void TestObservers::cameraWithoutAReadableIdIsNotReported()
