@@ -26,4 +26,3 @@ try:
 finally:
     for process in (tool or "").split():
         os.kill(int(process), signal.SIGTERM)
-print(f"{PREFIX}: {len(cameras)} cameras listed, a tool started")

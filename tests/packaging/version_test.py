@@ -15,5 +15,4 @@ project = re.search(r"^project\(\w+ VERSION (\S+)", (SOURCES / "CMakeLists.txt")
 changelog = re.findall(r"^## \[([\d.]+)\] - (\S+)$", (SOURCES / "CHANGELOG.md").read_text(encoding="utf-8"), re.M)
 metainfo = [(release.get("version"), release.get("date"))
             for release in xml.etree.ElementTree.parse(METAINFO).iter("release")]
-assert changelog[0][0] == project, f"CHANGELOG.md ends at {changelog[0][0]}, the project is {project}"
-assert metainfo == changelog, f"the releases differ: {metainfo} and {changelog}"
+assert changelog[0][0] == project and metainfo == changelog, f"project {project}, {changelog}, metadata {metainfo}"
