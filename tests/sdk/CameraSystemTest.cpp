@@ -38,16 +38,16 @@ TEST_F(CameraSystemTest, startNeedsTheHostProgram)
 {
     const auto host = directory.path() / "Host";
     options.hostProgram = host.string();
-    CameraSystem system(options);
-    EXPECT_EQ(system.Startup(), CvxErrorHostMissing);
+    CameraSystem starting(options);
+    EXPECT_EQ(starting.Startup(), CvxErrorHostMissing);
     fs::create_directory(host);
-    EXPECT_EQ(system.Startup(), CvxErrorHostMissing);
+    EXPECT_EQ(starting.Startup(), CvxErrorHostMissing);
     fs::remove(host);
     fs::copy_file(CVX_PRODUCER_HOST, host);
     fs::permissions(host, fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_EQ(system.Startup(), CvxErrorHostMissing);
+    EXPECT_EQ(starting.Startup(), CvxErrorHostMissing);
     fs::permissions(host, fs::perms::owner_all);
-    EXPECT_EQ(system.Startup(), CvxErrorSuccess);
+    EXPECT_EQ(starting.Startup(), CvxErrorSuccess);
 }
 
 TEST_F(CameraSystemTest, startWaitsForNoProducer)
@@ -83,7 +83,7 @@ TEST_F(CameraSystemTest, manyRoundsLeaveNothing)
 TEST_F(CameraSystemTest, endKillsHangingHostsAndReportsThem)
 {
     addProducer("a", "fault GCInitLib hang\n");
-    addProducer("b", "fault GCCloseLib hang\ninterface n\ndevice n|1\n");
+    addProducer("b", "fault GCCloseLib hang\ninterface n|N|GEV\ndevice n|1|V|M|S|N|GEV\n");
     addProducer("c", "fault GCCloseLib exit 9\n");
     options.pollInterval = 1h;
     options.closeTimeout = 500ms;

@@ -66,7 +66,8 @@ TEST_F(DiscoveryTest, manyCamerasComeThroughAndTheSurplusIsReported)
     addProducer("a", script);
     start();
     EXPECT_EQ(list().size(), 1000U);
-    EXPECT_EQ(countReports("reports 1001 cameras, of which only the first 1000 are used"), 1U);
+    EXPECT_TRUE(
+        waitUntil([&] { return countReports("reports 1001 cameras, of which only the first 1000") == 1; }));
 }
 
 TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)

@@ -204,7 +204,7 @@ TEST_F(FailureTest, slowProducerIsNotWaitedForTwiceAndItsLateReplyIsAnnounced)
     options.pollInterval = 1h;
     options.searchTimeout = 2s;
     addProducer("slow", "fault load slow 5000\n" + cameras(1));
-    addProducer("well", "interface n|N|GEV\ndevice n|1\n");
+    addProducer("well", "interface n|N|GEV\ndevice n|1|V|M|S|N|GEV\n");
     start();
     const auto recorder = recordCameras();
     EXPECT_EQ(listIds(), Ids{"well.cti/n/1"});

@@ -112,7 +112,7 @@ TEST_F(HostSearchTest, slowSearchGetsMoreTimeAndKeepsIt)
 {
     addProducer("a",
         "fault IFUpdateDeviceList:net0 search 1200\n" + cameras(1)
-            + "interface net1|Network 1|GEV\ndevice net1|Q1\n");
+            + "interface net1|Network 1|GEV\ndevice net1|Q1|V|M|S|N|GEV\n");
     start();
     EXPECT_EQ(listIds(), Ids{"a.cti/net1/Q1"}) << "other interfaces do not wait for it";
     EXPECT_EQ(firstTimeouts("a", "IFUpdateDeviceList net0", 4), (Calls{"500", "1000", "2000", "2000"}));
