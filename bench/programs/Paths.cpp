@@ -4,7 +4,8 @@
 
 #include "bench/programs/ReferenceCameras.h"
 #include "config/LauncherConfig.h"
-#include "sdk/cvxcpp/ProducerAnswer.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/Message.h"
 
 // What builds a tooltip is private to this file. Its class is not used.
 #include "ui/MainWindowCameraTable.cpp" // NOLINT(bugprone-suspicious-include)
@@ -16,24 +17,25 @@ namespace {
 
 constexpr int cameraCount = 64;
 
-/// What a host answers for so many cameras on one interface.
-std::string answer()
+/// Returns the reply of a host with so many cameras on one interface, without its line feed.
+std::string replyLine()
 {
-    std::string devices;
+    InterfaceRecord network{1, "Sim0-GigE", "Simulated GigE network", "GEV", {}};
     for (int index = 0; index < cameraCount; ++index) {
         const std::string serial = std::to_string(24000000 + index);
-        devices += index > 0 ? "," : "";
-        devices += R"({"id":"SIM-GEV-)" + serial + R"(","model":"Kx200 Pro 5MP-C","name":"Orvelle Kx200 Pro )"
-            + serial + R"(","serial":")" + serial + R"(","type":"GEV","vendor":"Orvelle"})";
+        network.devices.push_back({"SIM-GEV-" + serial, "Orvelle", "Kx200 Pro 5MP-C", serial,
+            "Orvelle Kx200 Pro " + serial, "GEV"});
     }
-    return R"({"interfaces":[{"devices":[)" + devices
-        + R"(],"id":"Sim0-GigE","name":"Simulated GigE network","number":1,"type":"GEV"}],"problems":[]})";
+    std::string line = Message(1, CameraListReply{{network}, {}}).toLine();
+    line.pop_back();
+    return line;
 }
 
 std::size_t parsed(const std::string &line)
 {
-    ProducerAnswer result;
-    return parseAnswer(line, result) ? result.interfaces.front().devices.size() : 0;
+    const auto message = Message::fromLine(line);
+    const auto reply = message ? message->content<CameraListReply>() : std::nullopt;
+    return reply ? reply->interfaces.front().devices.size() : 0;
 }
 
 std::size_t matched(const LauncherConfig &config, const QVector<CameraInfo> &cameras)
@@ -92,7 +94,7 @@ __attribute__((noinline)) std::size_t count_tooltip_building(
 
 int main()
 {
-    const std::string line = answer();
+    const std::string line = replyLine();
     const QVector<CameraInfo> cameras = referenceCameras(cameraCount);
     LauncherConfig config;
     config.load();

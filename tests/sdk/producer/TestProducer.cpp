@@ -1,22 +1,21 @@
-// A GenTL producer for tests, which does what a script beside it says: "name.script" for "name.cti".
-//
-// The script is read again at every update call and at every call that opens or closes. A line each:
+// A GenTL producer for tests, which follows the script "name.script" beside "name.cti". Every update call and
+// every call that opens or closes something reads the script again. One line each:
 //   interface ID|NAME|TYPE
-//   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   missing fields at the end are refused with -1003
-//   interfaces NUMBER, devices INTERFACE|NUMBER         so many of them, "net1" or "D1" and so on
-//   changing INTERFACE                                  a device whose ID is another one at every update
-//   quiet                                               no log, no second reading: many take long otherwise
-//   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
-// Actions of any function: error CODE, crash, abort, throw, throw-number, throw-in-thread, throw-later
-// MILLISECONDS, terminate, exit CODE, hang, untouched, slow MILLISECONDS, fork, fork-and-die, daemon,
-// allocate, threads, signals, ignore-and-hang, print, ask (on the terminal), close.
-// Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
-// of the standard's version 1.3), late-error CODE (of the second call), number (in place of a text), size
-// BYTES ("size -1" says one less than there is and heeds no capacity).
-// Of the update functions: search MILLISECONDS, which runs out of time when it is given less; for the devices
-// of one interface as a fault of IFUpdateDeviceList:ID. TLGetInterfaceID:ID and IFGetDeviceID:ID are alike.
-// Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
-// for a byte. The calls are written to "name.log", each with its process.
+//   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   Missing fields at the end fail with -1003.
+//   interfaces NUMBER, devices INTERFACE|NUMBER         So many of them: "net1" or "D1" and so on.
+//   changing INTERFACE                                  A device whose ID is different after every update.
+//   quiet                                               No log, and the script is not read again: it is
+//   faster. fault FUNCTION ACTION [ARGUMENT]                    "load" is the constructor of the library.
+// Actions of every function: error CODE, crash, abort, throw, throw-number, throw-in-thread, throw-later
+// MILLISECONDS, terminate, exit CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die,
+// daemon, allocate, threads, signals, ignore-and-hang, print, ask (on the terminal), close. Faults of
+// functions that return a string: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the error
+// code of GenTL 1.3), late-error CODE (of the second call), number (instead of a string), size BYTES
+// ("size -1" reports one byte less than the string has, and ignores the capacity).
+// Faults of the update functions: search MILLISECONDS, which times out if it gets less time.
+// IFUpdateDeviceList:ID is the update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
+// TLOpenInterface: in-use, which opens the interface all the same. Functions that count: more. In strings,
+// \xHH is a byte. "name.log" receives every call with its process.
 
 #include "sdk/gentl/GenTL.h"
 #include "tests/sdk/producer/Misbehaviour.h"
@@ -52,8 +51,8 @@ struct Entry
 struct Interface
 {
     std::string id;
-    std::vector<Entry> devices; // As of the last update.
-    std::map<std::string, std::size_t> places; // Of the devices, by ID.
+    std::vector<Entry> devices; // Since the last update.
+    std::map<std::string, std::size_t> places; // Index of each device, by ID.
     bool isUpdated = false;
     std::atomic<bool> isUpdating{false};
 };
@@ -66,15 +65,15 @@ struct Script
     bool isQuiet = false;
 };
 
-std::mutex mutex; // Guards all of these.
+std::mutex mutex; // Guards the variables below.
 Script script;
-std::vector<Entry> interfaces; // As of the last update.
-std::map<std::string, Interface *> opened; // Never deleted: tests look for uses after the close.
+std::vector<Entry> interfaces; // Since the last update.
+std::map<std::string, Interface *> opened; // Never deleted, to detect uses after the close.
 bool isInitialised = false;
 bool isOpen = false;
 thread_local int lastCode = 0;
-thread_local std::string lie; // Of the call that is being made.
-int updates = 0; // Of all interfaces.
+thread_local std::string currentFault; // Fault of the current call.
+int updates = 0; // Number of updates of all interfaces.
 int systemHandle = 0;
 
 const std::string &basePath()
@@ -120,31 +119,31 @@ void addDevices(const std::string &interface, int count)
 {
     for (int i = 1; i <= count; ++i) {
         const std::string number = std::to_string(i);
-        addDevice(interface, {'D' + number, "Maker", "Model " + number, "SN" + number, "Name", "GEV"});
+        addDevice(interface, {'D' + number, "Vendor", "Model " + number, "SN" + number, "Name", "GEV"});
     }
 }
 
 void readLine(const std::string &line)
 {
-    const std::string word = line.substr(0, line.find(' '));
-    const std::string rest = line.substr(std::min(word.size() + 1, line.size()));
+    const std::string keyword = line.substr(0, line.find(' '));
+    const std::string rest = line.substr(std::min(keyword.size() + 1, line.size()));
     auto fields = split(rest);
-    if (word == "interface") {
+    if (keyword == "interface") {
         script.interfaces.push_back({fields});
-    } else if (word == "interfaces") {
+    } else if (keyword == "interfaces") {
         for (int i = 1; i <= std::stoi(rest); ++i)
             script.interfaces.push_back({{"net" + std::to_string(i)}});
-    } else if (word == "device") {
+    } else if (keyword == "device") {
         const std::string interface = fields.front();
         fields.erase(fields.begin());
         addDevice(interface, fields);
-    } else if (word == "devices") {
+    } else if (keyword == "devices") {
         addDevices(fields.at(0), std::stoi(fields.at(1)));
-    } else if (word == "changing") {
-        addDevice(rest, {'D' + std::to_string(++updates), "Maker", "Model", "SN", "Name", "GEV"});
-    } else if (word == "quiet") {
+    } else if (keyword == "changing") {
+        addDevice(rest, {'D' + std::to_string(++updates), "Vendor", "Model", "SN", "Name", "GEV"});
+    } else if (keyword == "quiet") {
         script.isQuiet = true;
-    } else if (word == "fault") {
+    } else if (keyword == "fault") {
         const std::size_t space = rest.find(' ');
         script.faults[rest.substr(0, space)] = rest.substr(space + 1);
     }
@@ -181,18 +180,18 @@ std::string actionFor(const std::string &function)
     return found == script.faults.end() ? std::string() : found->second;
 }
 
-/// Logs the call, then does what the script wants of it.
+/// Logs the call, then performs the fault of the script.
 int enter(const std::string &function, const std::string &detail = {})
 {
     log(detail.empty() ? function : function + ' ' + detail);
-    lie = actionFor(function);
-    const int code = perform(lie);
-    lastCode = code == Continue ? 0 : code;
+    currentFault = actionFor(function);
+    const int code = perform(currentFault);
+    lastCode = code == continueCall ? 0 : code;
     return code;
 }
 
-/// The value, or the text that the script wants in its place.
-std::string stretched(
+/// Returns the value, or the string that the script replaces it by.
+std::string replaced(
     const std::string &value, const std::string &verb, long long argument, const void *buffer)
 {
     if (verb == "long")
@@ -202,13 +201,13 @@ std::string stretched(
     return value;
 }
 
-int give(const std::string &honest, void *buffer, std::size_t *size)
+int returnString(const std::string &original, void *buffer, std::size_t *size)
 {
-    std::istringstream words(lie);
+    std::istringstream fields(currentFault);
     std::string verb;
     long long argument = 0;
-    words >> verb >> argument;
-    const std::string value = stretched(honest, verb, argument, buffer);
+    fields >> verb >> argument;
+    const std::string value = replaced(original, verb, argument, buffer);
     const std::size_t needed = value.size() + (verb == "no-nul" ? 0 : 1);
     if (buffer && verb == "late-error")
         return static_cast<int>(argument);
@@ -222,10 +221,10 @@ int give(const std::string &honest, void *buffer, std::size_t *size)
 
 std::uint32_t counted(std::size_t number)
 {
-    return static_cast<std::uint32_t>(number + (lie == "more" ? 3 : 0));
+    return static_cast<std::uint32_t>(number + (currentFault == "more" ? 3 : 0));
 }
 
-/// As it was seen: a consumer must never probe.
+/// Crashes, as a known producer does: a consumer must never probe for the end of a list.
 GC_ERROR refuseIndex()
 {
     if (actionFor("IFGetNumDevices") != "more" && actionFor("TLGetNumInterfaces") != "more")
@@ -233,26 +232,26 @@ GC_ERROR refuseIndex()
     return GC_ERR_INVALID_INDEX;
 }
 
-int giveText(const std::string &value, INFO_DATATYPE *type, void *buffer, std::size_t *size)
+int returnInfo(const std::string &value, INFO_DATATYPE *type, void *buffer, std::size_t *size)
 {
-    *type = lie == "number" ? INFO_DATATYPE_INT64 : INFO_DATATYPE_STRING;
-    return give(value, buffer, size);
+    *type = currentFault == "number" ? INFO_DATATYPE_INT64 : INFO_DATATYPE_STRING;
+    return returnString(value, buffer, size);
 }
 
-/// What comes of a search that takes as long as the script says.
+/// Searches for as long as the script says. Returns GC_ERR_TIMEOUT if that takes too long.
 int search(const std::string &action, std::uint64_t timeout)
 {
-    std::istringstream words(action);
+    std::istringstream fields(action);
     std::string verb;
     std::uint64_t needed = 0;
-    words >> verb >> needed;
+    fields >> verb >> needed;
     if (verb != "search")
-        return Continue;
+        return continueCall;
     std::this_thread::sleep_for(std::chrono::milliseconds(std::min(needed, timeout)));
-    return needed > timeout ? int(GC_ERR_TIMEOUT) : Continue;
+    return needed > timeout ? int(GC_ERR_TIMEOUT) : continueCall;
 }
 
-/// Ends the process when two updates of one interface run at once.
+/// Ends the process if two updates of one interface run at once.
 class Updating
 {
 public:
@@ -274,10 +273,10 @@ struct AtLoad
     AtLoad()
     {
         readScript();
-        std::string seen; // Of the environment, what a producer must not see.
+        std::string visible; // Variables that a host must hide.
         for (const char *variable : {"GENICAM_GENTL64_PATH", "G_DEBUG"})
-            seen += std::getenv(variable) ? variable : "";
-        enter("load", seen);
+            visible += std::getenv(variable) ? variable : "";
+        enter("load", visible);
     }
 } const atLoad;
 
@@ -288,7 +287,7 @@ extern "C" {
 
 GENTL_FUNCTION GCInitLib()
 {
-    if (const int code = enter("GCInitLib"); code != Continue)
+    if (const int code = enter("GCInitLib"); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     if (isInitialised)
@@ -300,7 +299,7 @@ GENTL_FUNCTION GCInitLib()
 GENTL_FUNCTION GCCloseLib()
 {
     readScript();
-    if (const int code = enter("GCCloseLib"); code != Continue)
+    if (const int code = enter("GCCloseLib"); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     if (!isInitialised || isOpen)
@@ -313,16 +312,16 @@ GENTL_FUNCTION GCCloseLib()
 GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
 {
     *piErrorCode = lastCode;
-    lie.clear();
-    const int given = give("the driver's own words", sErrText, piSize);
+    currentFault.clear();
+    const int result = returnString("the producer's own text", sErrText, piSize);
     const int code = perform(actionFor("GCGetLastError"));
-    return code == Continue ? given : code;
+    return code == continueCall ? result : code;
 }
 #endif
 
 GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 {
-    if (const int code = enter("TLOpen"); code != Continue)
+    if (const int code = enter("TLOpen"); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     isOpen = true;
@@ -333,7 +332,7 @@ GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 GENTL_FUNCTION TLClose(TL_HANDLE hTL)
 {
     readScript();
-    if (const int code = enter("TLClose"); code != Continue)
+    if (const int code = enter("TLClose"); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     if (hTL != &systemHandle || !isOpen)
@@ -345,9 +344,9 @@ GENTL_FUNCTION TLClose(TL_HANDLE hTL)
 GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t iTimeout)
 {
     readScript();
-    if (const int code = enter("TLUpdateInterfaceList", std::to_string(iTimeout)); code != Continue)
+    if (const int code = enter("TLUpdateInterfaceList", std::to_string(iTimeout)); code != continueCall)
         return code;
-    if (const int code = search(lie, iTimeout); code != Continue)
+    if (const int code = search(currentFault, iTimeout); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     interfaces = script.interfaces;
@@ -356,7 +355,7 @@ GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t iTimeou
 
 GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE, std::uint32_t *piNumIfaces)
 {
-    if (const int code = enter("TLGetNumInterfaces"); code != Continue)
+    if (const int code = enter("TLGetNumInterfaces"); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     *piNumIfaces = counted(interfaces.size());
@@ -365,30 +364,31 @@ GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE, std::uint32_t *piNumIfaces)
 
 GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE, std::uint32_t iIndex, char *sID, std::size_t *piSize)
 {
-    if (const int code = enter("TLGetInterfaceID"); code != Continue)
+    if (const int code = enter("TLGetInterfaceID"); code != continueCall)
         return code;
     if (iIndex >= interfaces.size())
         return refuseIndex();
-    if (const int code = perform(actionFor("TLGetInterfaceID:" + interfaces[iIndex].id())); code != Continue)
+    if (const int code = perform(actionFor("TLGetInterfaceID:" + interfaces[iIndex].id()));
+        code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
-    return give(interfaces[iIndex].id(), sID, piSize);
+    return returnString(interfaces[iIndex].id(), sID, piSize);
 }
 
 #ifndef WITHOUT_OPTIONAL_FUNCTIONS
 GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    if (const int code = enter("TLGetInterfaceInfo", sIfaceID); code != Continue)
+    if (const int code = enter("TLGetInterfaceInfo", sIfaceID); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     const auto found = opened.find(sIfaceID);
     if (found == opened.end() || !found->second->isUpdated || found->second->devices.empty())
-        raise(SIGSEGV); // As it was seen.
+        raise(SIGSEGV); // As a known producer does.
     for (const Entry &interface : interfaces) {
         const auto field = static_cast<std::size_t>(iInfoCmd);
         if (interface.id() == sIfaceID && field < interface.fields.size())
-            return giveText(interface.fields[field], piType, pBuffer, piSize);
+            return returnInfo(interface.fields[field], piType, pBuffer, piSize);
     }
     return GC_ERR_NOT_IMPLEMENTED;
 }
@@ -396,7 +396,7 @@ GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INF
 
 GENTL_FUNCTION TLOpenInterface(TL_HANDLE, const char *sIfaceID, IF_HANDLE *phIface)
 {
-    if (const int code = enter("TLOpenInterface", sIfaceID); code != Continue)
+    if (const int code = enter("TLOpenInterface", sIfaceID); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     if (opened.count(sIfaceID) > 0)
@@ -405,14 +405,14 @@ GENTL_FUNCTION TLOpenInterface(TL_HANDLE, const char *sIfaceID, IF_HANDLE *phIfa
     interface->id = sIfaceID;
     opened[sIfaceID] = interface;
     *phIface = interface;
-    return lie == "in-use" ? GC_ERR_RESOURCE_IN_USE : GC_ERR_SUCCESS;
+    return currentFault == "in-use" ? GC_ERR_RESOURCE_IN_USE : GC_ERR_SUCCESS;
 }
 
 GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 {
     readScript();
     const auto *interface = static_cast<Interface *>(hIface);
-    if (const int code = enter("IFClose", interface->id); code != Continue)
+    if (const int code = enter("IFClose", interface->id); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     return opened.erase(interface->id) == 1 ? GC_ERR_SUCCESS : GC_ERR_INVALID_HANDLE;
@@ -426,9 +426,9 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
     const int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
     const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
     const int ownCode = perform(ownAction);
-    if (code != Continue || ownCode != Continue)
-        return code != Continue ? code : ownCode;
-    if (const int searchCode = search(ownAction, iTimeout); searchCode != Continue)
+    if (code != continueCall || ownCode != continueCall)
+        return code != continueCall ? code : ownCode;
+    if (const int searchCode = search(ownAction, iTimeout); searchCode != continueCall)
         return searchCode;
     const std::lock_guard lock(mutex);
     interface->devices.clear();
@@ -444,7 +444,7 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
 
 GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
 {
-    if (const int code = enter("IFGetNumDevices"); code != Continue)
+    if (const int code = enter("IFGetNumDevices"); code != continueCall)
         return code;
     const auto *interface = static_cast<Interface *>(hIface);
     if (!interface->isUpdated)
@@ -455,22 +455,22 @@ GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
 
 GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDeviceID, std::size_t *piSize)
 {
-    if (const int code = enter("IFGetDeviceID"); code != Continue)
+    if (const int code = enter("IFGetDeviceID"); code != continueCall)
         return code;
     const auto *interface = static_cast<Interface *>(hIface);
     if (iIndex >= interface->devices.size())
         return refuseIndex();
     const std::string &id = interface->devices[iIndex].id();
-    if (const int code = perform(actionFor("IFGetDeviceID:" + id)); code != Continue)
+    if (const int code = perform(actionFor("IFGetDeviceID:" + id)); code != continueCall)
         return code;
-    return give(id, sIDeviceID, piSize);
+    return returnString(id, sIDeviceID, piSize);
 }
 
 #ifndef WITHOUT_IFGETDEVICEINFO
 GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    if (const int code = enter("IFGetDeviceInfo"); code != Continue)
+    if (const int code = enter("IFGetDeviceInfo"); code != continueCall)
         return code;
     // The fields of a device in a script, by command: ID, vendor, model, type, name; serial number.
     static constexpr std::array<std::size_t, 8> places{0, 1, 2, 5, 4, 99, 99, 3};
@@ -482,7 +482,7 @@ GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_I
     const std::size_t place = places.at(static_cast<std::size_t>(iInfoCmd));
     if (place >= device.fields.size())
         return GC_ERR_NOT_IMPLEMENTED;
-    return giveText(device.fields[place], piType, pBuffer, piSize);
+    return returnInfo(device.fields[place], piType, pBuffer, piSize);
 }
 #endif
 
