@@ -1,23 +1,26 @@
-"""Prints what in catalogues is unfinished, or disagrees with its source; fails when there is anything."""
+"""Prints every translation of the given catalogues that is unfinished or does not match its source.
+
+The exit status is 1 if anything is printed.
+"""
 
 import os
 import re
 import sys
 from xml.etree import ElementTree
 
-# What has to be in a translation as often as it is in its source.
-KEPT = {
-    "places": r"%(?:L?\d+|n)",
+# A translation has to contain each of these exactly as often as its source.
+COUNTED = {
+    "placeholders": r"%(?:L?\d+|n)",
     "tags": r"<[^<>]*>",
     "accelerators": r"&(?=\w)",
-    "line ends": r"\n",
+    "line breaks": r"\n",
     "dots at the end": r"\.\.\.$",
-    "blanks around it": r"^\s|\s$",
+    "leading or trailing spaces": r"^\s|\s$",
 }
 
 
 def messages(catalogue):
-    """(context, source, translation element) of every entry."""
+    """Yields the context, the source and the translation element of every message."""
     for context in ElementTree.parse(catalogue).getroot().iter("context"):
         for message in context.iter("message"):
             yield context.findtext("name"), message.findtext("source"), message.find("translation")
@@ -29,19 +32,19 @@ def findings(source, translation):
         yield translation.get("type", "empty")
         return
     for form in forms:
-        for what, pattern in KEPT.items():
+        for name, pattern in COUNTED.items():
             if sorted(re.findall(pattern, source)) != sorted(re.findall(pattern, form)):
-                yield f"other {what}: {form!r}"
+                yield f"different {name}: {form!r}"
 
 
 def main():
-    found = False
-    for catalogue in sys.argv[1:]:
-        for context, source, translation in messages(catalogue):
-            for finding in findings(source, translation):
-                found = True
-                print(f"{os.path.basename(catalogue)}: {context}: {source!r}: {finding}")
-    sys.exit(found)
+    lines = [f"{os.path.basename(catalogue)}: {context}: {source!r}: {finding}"
+             for catalogue in sys.argv[1:]
+             for context, source, translation in messages(catalogue)
+             for finding in findings(source, translation)]
+    for line in lines:
+        print(line)
+    sys.exit(bool(lines))
 
 
 if __name__ == "__main__":

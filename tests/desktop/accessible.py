@@ -1,9 +1,9 @@
-"""What a screen reader learns of a program, over AT-SPI. Needs tests/desktop/with-screen-reader-bus."""
+"""What a screen reader learns of a program, over AT-SPI. Needs the buses of with-screen-reader-bus."""
 
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402 (the version comes first)
+from gi.repository import Atspi, GLib  # noqa: E402 (the version has to be required first)
 
 from launcher import wait_for
 
@@ -12,22 +12,20 @@ BUTTON, TABLE = Atspi.Role.PUSH_BUTTON, Atspi.Role.TABLE
 
 
 def application_of(process):
-    """The application of that process, waited for."""
+    """Waits until a process is on the bus, and returns its application."""
     Atspi.init()
     desktop = Atspi.get_desktop(0)
     desktop.set_cache_mask(Atspi.Cache.NONE)
-
-    def found():
-        return next((node for node in children(desktop) if process_of(node) == process), None)
-    application = wait_for("the program is on the bus", found)
-    application.set_cache_mask(Atspi.Cache.NONE)  # Every answer is the program's, of now.
+    application = wait_for("the program is on the bus", lambda: next(
+        (node for node in children(desktop) if process_of(node) == process), None))
+    application.set_cache_mask(Atspi.Cache.NONE)  # The cache would return outdated names and states.
     return application
 
 
 def process_of(application):
     try:
         return application.get_process_id()
-    except GLib.Error:  # It has just ended.
+    except GLib.Error:  # The application has just ended.
         return None
 
 
@@ -50,5 +48,4 @@ def of_role(node, role):
 
 
 def named(node, name):
-    """The first below the node that has the name."""
     return next((child for child in descendants(node) if child.get_name() == name), None)

@@ -1,101 +1,59 @@
-"""The icon in the system tray; and that without a tray there is none, and nothing else is different."""
+"""The icon in a system tray."""
 
 import unittest
 
-from desktop import DESKTOP, DesktopTest, click, move, window_box, x_window
-from launcher import output_of, wait_for, xdotool
+from desktop import DESKTOP, DesktopTest
+from launcher import wait_for
+from PIL import ImageColor
 from screen import grab
 
-NAME = "Corvix X - Application Launcher"
 
-
-class WithTray(DesktopTest):
-    def click_icon(self, launcher, button, times=1):
-        click(*launcher.middle_of(launcher.tray_icon()), button, times)
-
+class Tray(DesktopTest):
     def minimise(self, launcher):
-        click(*launcher.middle_of(launcher.find("pushButton")))
-        wait_for("the window leaves the screen", lambda: not window_box() and not launcher.active("MainWindow"))
+        launcher.click("pushButton")
+        wait_for("the window leaves the screen", lambda: not launcher.on_screen() and not launcher.window()["active"])
 
-    def test_the_icon_is_the_logo(self):
+    def test_icon_shows_the_logo_and_restores_the_minimised_window(self):
         launcher = self.start()
-        grab(launcher.tray_icon()["onScreen"]).keep("tray icon")  # Compared with the logo on the way.
-
-    def test_the_icon_s_tooltip_is_the_program_s_name(self):
-        launcher = self.start()
-        move(*launcher.middle_of(launcher.tray_icon()))
-        tip = wait_for("a tooltip opens", lambda: launcher.of_class("QTipLabel"))
-        self.assertEqual(tip["text"], NAME)
-
-    def test_the_menu_offers_to_show_and_to_exit(self):
-        launcher = self.start()
-        menu = launcher.open_tray_menu()
+        self.assertEqual(launcher.tooltip_at(launcher.tray_icon())["text"], "Corvix X - Application Launcher")
+        self.minimise(launcher)
+        launcher.click(launcher.tray_icon(), times=2)
+        wait_for("the window is back", lambda: launcher.on_screen() and launcher.window()["active"])
+        self.minimise(launcher)
+        menu = launcher.menu_at(launcher.tray_icon(), button=3)
         self.assertEqual([action["text"] for action in menu["actions"]], ["Show", "", "Exit"])
-        grab(launcher.device(menu["onScreen"])).keep("tray menu")
-        xdotool("key", "Escape")
-        wait_for("the menu closes", lambda: not launcher.of_class("QMenu"))
-
-    def test_a_double_click_restores_the_minimised_window(self):
-        launcher = self.start_listed()
-        self.minimise(launcher)
-        self.click_icon(launcher, 1, times=2)
-        wait_for("the window is back", window_box)
-        wait_for("it is active", lambda: output_of("xdotool", "getactivewindow").strip() == x_window())
-
-    def test_single_clicks_leave_the_window_minimised(self):
-        launcher = self.start_listed()
-        self.minimise(launcher)
-        self.click_icon(launcher, 1)
-        self.click_icon(launcher, 2)
-        launcher.open_tray_menu()  # Handled after the clicks.
-        self.assertIsNone(window_box())
-
-    def test_show_restores_the_minimised_window(self):
-        launcher = self.start_listed()
-        self.minimise(launcher)
-        launcher.choose(launcher.open_tray_menu(), "Show")
-        wait_for("the window is back", window_box)
-
-    def test_exit_ends_the_program(self):
-        launcher = self.start_listed()
-        launcher.choose(launcher.open_tray_menu(), "Exit")
-        self.assert_ends(launcher)
-        self.assertEqual(launcher.printed(), "")
+        launcher.choose(menu, "Show")
+        wait_for("the window is back", launcher.on_screen)
 
     def test_exit_ends_the_program_while_it_is_minimised(self):
-        launcher = self.start_listed()
+        launcher = self.start()
         self.minimise(launcher)
-        launcher.choose(launcher.open_tray_menu(), "Exit")
+        launcher.choose(launcher.menu_at(launcher.tray_icon(), button=3), "Exit")
         self.assert_ends(launcher)
 
-    def test_closing_the_window_ends_the_program_and_takes_the_icon_away(self):
-        launcher = self.start_listed()
+    def test_closing_the_window_removes_the_icon(self):
+        launcher = self.start()
         box = launcher.device(launcher.tray_icon()["onScreen"])
-        click(*launcher.middle_of(launcher.find("pushButton_2")))
+        launcher.click("pushButton_2")
         self.assert_ends(launcher)
-        wait_for("the tray is empty", lambda: grab(box).share_of(DESKTOP) == 1)
+        wait_for("the tray is empty", lambda: grab(box).getcolors() == [(box[2] * box[3], ImageColor.getrgb(DESKTOP))])
+
+    def test_the_tray_waits_for_a_message_box(self):
+        launcher, box = self.start_with_box()
+        icon = launcher.place(launcher.tray_icon())
+        launcher.click(icon, button=3)
+        launcher.click(icon, times=2)
+        launcher.answer(box)
+        self.assertIsNone(launcher.of_class("QMenu"))
+        launcher.choose(launcher.menu_at(icon, button=3), "Exit")
+        self.assert_ends(launcher)
 
 
 class WithoutTray(DesktopTest):
-    def test_there_is_no_icon_and_nothing_is_printed(self):
-        launcher = self.start_listed()
-        self.assertIsNone(launcher.of_class("QSystemTrayIconSys"))
-        self.assertEqual(len(launcher.windows()), 1)
+    def test_there_is_no_icon(self):
+        launcher = self.start()
+        self.assertEqual([window["class"] for window in launcher.windows()], ["MainWindow"])
         self.assertEqual(launcher.printed(), "")
-
-    def test_the_window_is_the_same(self):
-        launcher = self.start_listed()
-        self.assert_looks_like("listed", launcher.picture)
-
-    def test_minimise_and_close_are_the_same(self):
-        launcher = self.start_listed()
-        window = x_window()
-        click(*launcher.middle_of(launcher.find("pushButton")))
-        wait_for("the window leaves the screen", lambda: not window_box())
-        xdotool("windowactivate", window)
-        wait_for("the window is back", window_box)
-        click(*launcher.middle_of(launcher.find("pushButton_2")))
-        self.assert_ends(launcher)
 
 
 if __name__ == "__main__":

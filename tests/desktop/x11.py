@@ -1,56 +1,46 @@
-"""What to ask of the X server that xdotool does not know."""
+"""What the X server knows of a window that the window reader describes, and a request to the window manager."""
 
-import ctypes
+import Xlib.display
+import Xlib.error
+from Xlib import X
+from Xlib.protocol.event import ClientMessage
 
-xlib = ctypes.CDLL("libX11.so.6")
-xlib.XOpenDisplay.restype = ctypes.c_void_p
-xfixes = ctypes.CDLL("libXfixes.so.3")
-SUBSTRUCTURE = 1 << 19 | 1 << 20  # Redirect and notify: the window manager hears it.
-
-
-class ClientMessage(ctypes.Structure):
-    _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
-                ("display", ctypes.c_void_p), ("window", ctypes.c_ulong), ("message_type", ctypes.c_ulong),
-                ("format", ctypes.c_int), ("data", ctypes.c_long * 5), ("padding", ctypes.c_long * 12)]
+display = Xlib.display.Display()
+root = display.screen().root
 
 
-def ask_to_close(window):
-    """As a task bar does; the window may decline."""
-    display = ctypes.c_void_p(xlib.XOpenDisplay(None))
-    message = ClientMessage(type=33, window=int(window), format=32,
-                            message_type=xlib.XInternAtom(display, b"_NET_CLOSE_WINDOW", False))
-    root = ctypes.c_ulong(xlib.XDefaultRootWindow(display))
-    xlib.XSendEvent(display, root, False, ctypes.c_long(SUBSTRUCTURE), ctypes.byref(message))
-    xlib.XCloseDisplay(display)
+def window_of(node):
+    return display.create_resource_object("window", int(node["xWindow"]))
 
 
-class CursorNotify(ctypes.Structure):
-    _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
-                ("display", ctypes.c_void_p), ("window", ctypes.c_ulong), ("subtype", ctypes.c_int),
-                ("cursor_serial", ctypes.c_ulong), ("timestamp", ctypes.c_ulong), ("cursor_name", ctypes.c_ulong),
-                ("padding", ctypes.c_long * 16)]
+def box_of(node):
+    """Returns the place and size of a window, or None while it is not on the screen."""
+    window = window_of(node)
+    try:
+        if window.get_attributes().map_state != X.IsViewable:
+            return None
+        place, size = root.translate_coords(window, 0, 0), window.get_geometry()
+    except Xlib.error.XError:  # The window has been destroyed.
+        return None
+    return place.x, place.y, size.width, size.height
 
 
-class PointerShapes:
-    """Tells the shapes that the pointer takes while it lives, each by a number; to be used in a with statement."""
+def property_of(node, name):
+    found = window_of(node).get_full_property(display.get_atom(name), X.AnyPropertyType)
+    return list(found.value) if found else []
 
-    def __enter__(self):
-        self.display = ctypes.c_void_p(xlib.XOpenDisplay(None))
-        base, unused = ctypes.c_int(), ctypes.c_int()
-        xfixes.XFixesQueryExtension(self.display, ctypes.byref(base), ctypes.byref(unused))
-        self.event_type = base.value + 1  # XFixesCursorNotify
-        root = ctypes.c_ulong(xlib.XDefaultRootWindow(self.display))
-        xfixes.XFixesSelectCursorInput(self.display, root, ctypes.c_ulong(1))  # XFixesDisplayCursorNotifyMask
-        xlib.XSync(self.display, False)
-        return self
 
-    def __exit__(self, *_):
-        xlib.XCloseDisplay(self.display)
+def ask(node, message, *data):
+    """Sends the window manager a message about a window, as a task bar does."""
+    event = ClientMessage(window=window_of(node), client_type=display.get_atom(message),
+                          data=(32, (list(data) + [0] * 5)[:5]))
+    root.send_event(event, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+    display.sync()
 
-    def new(self):
-        """Those since the last call, in their order."""
-        xlib.XSync(self.display, False)
-        shapes, event = [], CursorNotify()
-        while xlib.XCheckTypedEvent(self.display, self.event_type, ctypes.byref(event)):
-            shapes.append(event.cursor_serial)
-        return shapes
+
+def ask_to_close(node):
+    ask(node, "_NET_CLOSE_WINDOW")
+
+
+def ask_to_activate(node):
+    ask(node, "_NET_ACTIVE_WINDOW", 2)

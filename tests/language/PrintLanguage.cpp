@@ -1,4 +1,4 @@
-// Prints a text of the launcher and a text of Qt in the language that the environment asks for.
+// Prints a string of the launcher and a string of Qt in the language that the environment selects.
 
 #include "app/Translations.h"
 

@@ -1,17 +1,17 @@
 #include <QProcess>
 #include <QtTest>
 
-/// Which language the program speaks, by the environment that it is started in.
+/// The environment in which the program is started selects its language.
 class TestLanguageChoice : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void environmentDecides_data();
-    void environmentDecides();
+    void environmentSelectsTheLanguage_data();
+    void environmentSelectsTheLanguage();
 };
 
-void TestLanguageChoice::environmentDecides_data()
+void TestLanguageChoice::environmentSelectsTheLanguage_data()
 {
     const auto german = QStringLiteral("Schließen, Über Qt");
     const auto french = QStringLiteral("Fermer, À propos de Qt");
@@ -30,25 +30,26 @@ void TestLanguageChoice::environmentDecides_data()
     add("Japanese", "LANG=ja_JP.UTF-8", japanese);
     add("Korean", "LANG=ko_KR.UTF-8", korean);
     add("Chinese", "LANG=zh_CN.UTF-8", chinese);
-    add("another country", "LANG=de_AT.UTF-8", german);
+    add("language of another country", "LANG=de_AT.UTF-8", german);
     add("another encoding", "LANG=fr_BE@euro", french);
-    add("simplified script of another country", "LANG=zh_SG.UTF-8", chinese);
-    add("traditional script is another one", "LANG=zh_TW.UTF-8", english);
-    add("language of the messages", "LANG=en_US.UTF-8 LC_MESSAGES=de_DE.UTF-8", german);
+    add("simplified Chinese of another country", "LANG=zh_SG.UTF-8", chinese);
+    add("traditional Chinese is not translated", "LANG=zh_TW.UTF-8", english);
+    add("LC_MESSAGES before LANG", "LANG=en_US.UTF-8 LC_MESSAGES=de_DE.UTF-8", german);
     add("English messages", "LANG=de_DE.UTF-8 LC_MESSAGES=en_US.UTF-8", english);
-    add("LC_ALL before all", "LANG=de_DE.UTF-8 LC_MESSAGES=ja_JP.UTF-8 LC_ALL=fr_FR.UTF-8", french);
-    add("list of languages", "LANG=de_DE.UTF-8 LANGUAGE=ko:de", korean);
-    add("first that we speak", "LANG=es_ES.UTF-8 LANGUAGE=es:pt:ja:de", japanese);
-    add("English before others", "LANG=en_US.UTF-8 LANGUAGE=en_US:de", english);
-    add("others before English", "LANG=de_DE.UTF-8 LANGUAGE=de:en", german);
+    add("LC_ALL before everything else", "LANG=de_DE.UTF-8 LC_MESSAGES=ja_JP.UTF-8 LC_ALL=fr_FR.UTF-8",
+        french);
+    add("LANGUAGE is a list", "LANG=de_DE.UTF-8 LANGUAGE=ko:de", korean);
+    add("first language with a translation", "LANG=es_ES.UTF-8 LANGUAGE=es:pt:ja:de", japanese);
+    add("English first in the list", "LANG=en_US.UTF-8 LANGUAGE=en_US:de", english);
+    add("English last in the list", "LANG=de_DE.UTF-8 LANGUAGE=de:en", german);
     add("C locale", "LC_ALL=C LANGUAGE=de", english);
     add("C locale in UTF-8", "LC_ALL=C.UTF-8", english);
-    add("language that we do not speak", "LANG=es_ES.UTF-8", english);
+    add("language without a translation", "LANG=es_ES.UTF-8", english);
     add("English of another country", "LANG=en_GB.UTF-8", english);
-    add("nothing said", "", english);
+    add("empty environment", "", english);
 }
 
-void TestLanguageChoice::environmentDecides()
+void TestLanguageChoice::environmentSelectsTheLanguage()
 {
     QFETCH(QString, environment);
     QProcess program;

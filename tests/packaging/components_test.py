@@ -11,8 +11,9 @@ BUILD, SOURCE, STAGE = sys.argv[1:]
 
 # What each component may hold; what stands first in a row has to be there.
 LAUNCHER = (
-    [r"bin/CorvixLauncher", r"bin/CvxProducerHost", r"bin/libCvxCPP\.so", r"bin/CvxC\.xml", r"doc/index\.html",
-     r"doc/LICENSE", r"doc/THIRD-PARTY\.md", r"doc/CHANGELOG\.md", r"lib/udev/rules\.d/60-corvix-usb3-vision\.rules",
+    [r"bin/CorvixLauncher", r"bin/CvxProducerHost", r"bin/libCvxCPP\.so", r"bin/libCvxCPP\.so\.\d+",
+     r"bin/libCvxCPP\.so(\.\d+){3}", r"bin/CvxC\.xml", r"doc/index\.html", r"doc/LICENSE",
+     r"doc/THIRD-PARTY\.md", r"doc/CHANGELOG\.md", r"lib/udev/rules\.d/60-corvix-usb3-vision\.rules",
      r"share/applications/[^/]*\.desktop", r"share/metainfo/[^/]*\.metainfo\.xml",
      r"share/icons/hicolor/scalable/apps/[^/]*\.svg"],
     [r"cti/fallback/Universal(GEV|U3V)\.cti", r"doc/.*", r"share/icons/hicolor/[^/]*/apps/[^/]*"])

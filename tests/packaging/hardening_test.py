@@ -21,6 +21,11 @@ def elf_files():
                 yield path
 
 
+def name_of(path):
+    """Returns the file name, of a library without its version."""
+    return re.sub(r"\.so[.\d]+$", ".so", os.path.basename(path))
+
+
 def readelf(option, path):
     return subprocess.run(["readelf", "--wide", option, path], check=True, stdout=subprocess.PIPE, text=True,
                           env=dict(os.environ, LC_ALL="C")).stdout
@@ -33,7 +38,7 @@ def imports(path):
 
 def faults(path):
     """What is wrong with a file."""
-    name = os.path.basename(path)
+    name = name_of(path)
     dynamic, segments = readelf("--dynamic", path), readelf("--segments", path)
     imported = imports(path)
     flags = re.search(r"\(FLAGS_1\).*", dynamic)
@@ -60,7 +65,7 @@ def faults(path):
 
 def main():
     files = sorted(elf_files())
-    names = {os.path.basename(path) for path in files}
+    names = {name_of(path) for path in files}
     assert PROGRAMS | FORTIFIED | WITH_RUNPATH <= names, f"only {names} are there"
     found = [f"{os.path.basename(path)}: {fault}" for path in files for fault in faults(path)]
     assert found == [], "\n".join(found)

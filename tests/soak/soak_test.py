@@ -13,7 +13,7 @@ from collections import Counter
 import footprint
 from launcher import Launcher, keep_to_this_machine, wait_for, xdotool
 from recommendation import Recommendation
-from scene import Scene
+from simulator import SimulatorConfiguration
 from scenes import RandomScenes
 from scripted import CrashingProducer, SlowProducer
 from session import Session, named, press
@@ -165,7 +165,7 @@ def main():
         bad.put_in_place()
     # Without a session bus: Qt would look for one, and start one, in every tool.
     environment = {"DBUS_SESSION_BUS_ADDRESS": "disabled:"}
-    with Scene(stage) as scene, Launcher(stage, plugins, environment) as launcher:
+    with SimulatorConfiguration(stage) as scene, Launcher(stage, plugins, environment) as launcher:
         scenes = RandomScenes(chance, recommendation.models(), scene.read())
         session = Session(launcher, scene, scenes, recommendation, slow, crashing, chance)
         try:
