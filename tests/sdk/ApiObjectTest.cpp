@@ -8,10 +8,22 @@
 
 using namespace CvxCPP;
 
+namespace {
+
+DeviceRecord device(const std::string &id, const std::string &vendor = "", const std::string &model = "")
+{
+    return {id, vendor, model, "", "", ""};
+}
+
+} // namespace
+
 class ApiObjectTest : public testing::Test
 {
 protected:
-    ApiObjectTest() { setDevices({{"D1", "V1", "M", "S", "N", "U3V"}, {"D2", "V2"}, {"D3", "V3"}}); }
+    ApiObjectTest()
+    {
+        setDevices({{"D1", "V1", "M", "S", "N", "U3V"}, device("D2", "V2"), device("D3", "V3")});
+    }
 
     /// Makes the objects for an interface with these devices.
     void setDevices(const std::vector<DeviceRecord> &devices)
@@ -79,7 +91,7 @@ TEST_F(ApiObjectTest, interfaceTypeIsTheDevicesOrElseTheInterfaces)
 
 TEST_F(ApiObjectTest, stringIsReadWithTwoCalls)
 {
-    setDevices({{"D", "", "abc"}});
+    setDevices({device("D", "", "abc")});
     const CameraObject camera(interface, record, 0);
     unsigned size = 99;
     ASSERT_EQ(camera.GetModel(nullptr, size), CvxErrorSuccess);
@@ -150,7 +162,7 @@ TEST_F(ApiObjectTest, updateReplacesTheDevicesAndKeepsTheSelectorInRange)
 {
     const auto selector = feature("DeviceSelector"), id = feature("DeviceID");
     ASSERT_EQ(selector->SetValue(2), CvxErrorSuccess);
-    ASSERT_EQ(updateTo({{"E1"}, {"E2"}}), CvxErrorSuccess);
+    ASSERT_EQ(updateTo({device("E1"), device("E2")}), CvxErrorSuccess);
     EXPECT_EQ(valueOf(*id), "E2");
 
     ASSERT_EQ(updateTo({}), CvxErrorSuccess);
@@ -162,7 +174,7 @@ TEST_F(ApiObjectTest, updateReplacesTheDevicesAndKeepsTheSelectorInRange)
     EXPECT_EQ(selector->SetValue(0), CvxErrorNotAvailable);
     EXPECT_EQ(id->GetValue(nullptr, size), CvxErrorNotAvailable);
 
-    ASSERT_EQ(updateTo({{"F1"}}), CvxErrorSuccess);
+    ASSERT_EQ(updateTo({device("F1")}), CvxErrorSuccess);
     EXPECT_EQ(valueOf(*id), "F1");
 }
 

@@ -71,21 +71,6 @@ TEST_F(ObserverNotifierTest, continuesAfterAnObserverThrows)
     EXPECT_EQ(thrower->calls().size(), 1U);
 }
 
-TEST_F(ObserverNotifierTest, continuesAfterAChangeThatItCouldNotTake)
-{
-    std::atomic<int> changes{0};
-    ObserverNotifier other([&] {
-        if (++changes == 1)
-            throw std::bad_alloc();
-        return CameraListChange();
-    });
-    other.start();
-    EXPECT_TRUE(waitUntil([&] {
-        other.notify();
-        return changes > 1;
-    }));
-}
-
 TEST_F(ObserverNotifierTest, holdsAChangeBack)
 {
     std::atomic<TimePoint> calledAt{TimePoint()};

@@ -67,14 +67,6 @@ void throwInThread()
     std::thread([] { throw std::runtime_error("thrown in a thread of the producer"); }).join();
 }
 
-void throwLater(int time)
-{
-    std::thread([time] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(time));
-        throw std::runtime_error("licence server lost");
-    }).detach();
-}
-
 /// Changes the handling of every signal, in a way that harms a host.
 void changeSignalHandlers()
 {
@@ -126,7 +118,6 @@ int perform(const std::string &action)
         {"throw", [](int) { throw std::runtime_error("thrown by the producer"); }},
         {"throw-number", [](int number) { throw number; }},
         {"throw-in-thread", [](int) { throwInThread(); }},
-        {"throw-later", throwLater},
         {"terminate", [](int) { std::terminate(); }},
         {"exit", [](int code) { std::exit(code); }},
         {"hang", [](int) { hang(); }},
@@ -141,11 +132,6 @@ int perform(const std::string &action)
         {"allocate", [](int) { allocateWithoutEnd(); }},
         {"threads", [](int) { startThreads(); }},
         {"signals", [](int) { changeSignalHandlers(); }},
-        {"ignore-and-hang",
-            [](int) {
-                changeSignalHandlers();
-                hang();
-            }},
         {"print", [](int) { printMegabyte(); }},
         {"ask", [](int) { readTerminal(); }},
         {"close", [](int) { closeDescriptors(); }},
