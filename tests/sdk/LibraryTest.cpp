@@ -113,7 +113,7 @@ TEST_F(LibraryTest, listsCamerasWhenNobodyReadsStandardError)
 TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
 {
     addProducer("asking", "fault load ask\n" + oneCamera);
-    addProducer("printing", "fault load print\n" + oneCamera);
+    addProducer("printing", "fault load print\ninterface net|Net|GEV\ndevice net|D2|V|M|S2|N|GEV\n");
     ClientProcess process(
         "/usr/bin/script", // Runs the program in a terminal that stops background processes which use it.
         {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start list stop", "/dev/null"});
