@@ -111,7 +111,7 @@ Rows failures()
         rows.push_back(
             withFault(function, "throw", due, function + " failed: threw an exception: thrown by"));
         rows.push_back(withFault(function, "throw-number", due, function + " failed: threw an exception"));
-        rows.push_back(withFault(function, "error 3", due, function + " failed with 3 (no GenTL code)"));
+        rows.push_back(withFault(function, "error 3", due, function + " failed with 3 (not a GenTL code)"));
     }
     return rows;
 }

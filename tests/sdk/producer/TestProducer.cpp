@@ -21,7 +21,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -50,7 +49,7 @@ struct Interface
     std::vector<Fields> devices; // Since the last update.
     std::map<std::string, std::size_t> places; // Index of each device, by ID.
     bool isUpdated = false;
-    std::atomic<bool> isUpdating{false};
+    std::mutex updating;
 };
 
 struct Script
@@ -388,14 +387,14 @@ GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTimeout)
 {
     auto *interface = static_cast<Interface *>(hIface);
-    if (interface->isUpdating.exchange(true))
+    const std::unique_lock updating(interface->updating, std::try_to_lock);
+    if (!updating)
         std::abort(); // Two updates of one interface must not run at once.
     readScript();
     const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
     int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
     if (code == continueCall)
         code = search(ownAction, iTimeout);
-    interface->isUpdating = false;
     if (code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
