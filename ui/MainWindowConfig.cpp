@@ -27,7 +27,8 @@ QStringList readCtiPaths(QIODevice &document)
     bool inside = false;
     while (!xml.hasError() && xml.readNext() != QXmlStreamReader::EndDocument) {
         if ((xml.isStartElement() || xml.isEndElement()) && isNamed(xml, QLatin1String("CtiPaths"))) {
-            inside = xml.isStartElement(); // Intended: no depth, an inner end tag also ends the outer element.
+            // Intended: the depth is not counted, so an inner end tag also ends the outer element.
+            inside = xml.isStartElement();
         } else if (inside && xml.isStartElement() && isNamed(xml, QLatin1String("Path"))) {
             // The text before an error still counts, for example before a child element.
             paths.append(xml.readElementText().trimmed());
@@ -80,7 +81,7 @@ struct KeywordRow
 /// Returns what the name of a producer file for the interface is likely to contain; empty for most labels.
 QStringList ctiKeywordsForInterface(const QString &interfaceLabel)
 {
-    const auto l = [](const char *words) { return QString::fromLatin1(words).split(QLatin1Char(' ')); };
+    const auto l = [](const char *list) { return QString::fromLatin1(list).split(QLatin1Char(' ')); };
     // The order matters: "cameralinkhs" also contains "cameralink". Intended: "usbt" is listed twice and
     // "usbtL" has a capital, so a file name with "usbt" outweighs one with only "usb".
     static const KeywordRow rows[] = {

@@ -30,7 +30,7 @@ std::shared_ptr<const SimulatorConfiguration> ConfigurationFile::current()
     std::ifstream stream(m_path, std::ios::binary);
     state.openError = stream ? 0 : errno;
 
-    const bool isMissing = state.openError == ENOENT || state.openError == ENOTDIR;
+    const bool isMissing = state.openError == ENOENT;
     if (!(m_state == state)) {
         m_state = state;
         if (state.openError == 0)

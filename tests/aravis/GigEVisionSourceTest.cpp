@@ -35,7 +35,8 @@ protected:
         {"one", "10.0.1.1", 0x0A000101, mask}, {"two", "10.0.2.1", 0x0A000201, mask}};
     std::vector<FoundDevice> found{device("a", "10.0.1.7"), device("b", "10.0.2.7"), device("c", "10.9.9.7")};
     GigEVisionSource source{
-        [this] { return found; }, [this] { return addresses; }, std::chrono::milliseconds(0)};
+        [this] { return found; }, [this] { return ++addressLists, addresses; }, std::chrono::milliseconds(0)};
+    int addressLists = 0;
 };
 
 TEST_F(GigEVisionSourceTest, eachAddressIsAnInterfaceAndListsTheDevicesOfItsNetwork)
@@ -47,6 +48,7 @@ TEST_F(GigEVisionSourceTest, eachAddressIsAnInterfaceAndListsTheDevicesOfItsNetw
     EXPECT_EQ(devices("10.0.1.1"), Ids{"a"});
     EXPECT_EQ(devices("10.0.2.1"), Ids{"b"});
     EXPECT_EQ(devices("elsewhere"), Ids{"c"});
+    EXPECT_EQ(addressLists, 4) << "once per search while no device is missed";
     EXPECT_EQ(source.updateDevices("elsewhere").at(0).displayName, "c") << "the ID, without other fields";
 }
 

@@ -35,7 +35,7 @@ TEST(SharedSearch, searchIsSharedUntilItIsTooOld)
         ++searches;
         return std::vector<FoundDevice>(1);
     };
-    SharedSearch fresh(find, SharedSearch::Transport::Reliable, std::chrono::hours(24));
+    SharedSearch fresh(find, SharedSearch::Transport::Reliable, std::chrono::minutes(1));
     EXPECT_EQ(fresh.devices().size(), 1U);
     EXPECT_EQ(fresh.devices().size(), 1U);
     EXPECT_EQ(searches, 1);

@@ -17,11 +17,9 @@ TEST(Usb3VisionSource, camerasAreListedOnTheUsbHost)
     Usb3VisionSource source;
     EXPECT_EQ(source.updateInterfaces(), (std::vector<InterfaceRecord>{{"usb", "USB host", "U3V"}}));
     EXPECT_TRUE(source.updateDevices("another").empty());
-    const auto cameras = source.updateDevices("usb");
-    ASSERT_EQ(cameras.size(), 1U);
-    EXPECT_EQ(cameras.front(),
-        (DeviceRecord{"Fake_1", "Aravis", "Fake", "U3V", "Aravis Fake 1", "", "1",
-            GenTL::DEVICE_ACCESS_STATUS_UNKNOWN}));
+    EXPECT_EQ(source.updateDevices("usb"),
+        (std::vector<DeviceRecord>{{"Fake_1", "Aravis", "Fake", "U3V", "Aravis Fake 1", "", "1",
+            GenTL::DEVICE_ACCESS_STATUS_UNKNOWN}}));
 }
 
 TEST(Usb3VisionSource, whileUsbCannotBeSearchedTheListIsEmptyAndOneLineReportsIt)

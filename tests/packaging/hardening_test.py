@@ -1,29 +1,18 @@
-"""Every installed program and library is built to make an attacker's work hard, as its ELF headers tell."""
+"""Every installed program and library is built with the usual protections, as its ELF headers show.
+
+usage: hardening_test.py STAGE fortified|plain
+"""
 
 import os
+import pathlib
 import re
 import subprocess
 import sys
 
-STAGE, KIND = sys.argv[1:]
+STAGE, KIND = pathlib.Path(sys.argv[1]), sys.argv[2]
 PROGRAMS = {"CorvixLauncher", "CvxProducerHost", "CvxToolStandIn"}
-# Where a fixed-size buffer is filled by a function that has a checked form. The others fill none.
-FORTIFIED = {"CvxProducerHost", "libCvxCPP.so", "CorvixCameraSimulator.cti"}
-# Who finds one of our libraries beside itself.
-WITH_RUNPATH = {"CorvixLauncher", "libCvxCPP.so"}
-
-
-def elf_files():
-    for parent, _, names in os.walk(STAGE):
-        for name in names:
-            path = os.path.join(parent, name)
-            if not os.path.islink(path) and open(path, "rb").read(4) == b"\x7fELF":
-                yield path
-
-
-def name_of(path):
-    """Returns the file name, of a library without its version."""
-    return re.sub(r"\.so[.\d]+$", ".so", os.path.basename(path))
+FORTIFIED = {"CvxProducerHost", "libCvxCPP.so", "CorvixCameraSimulator.cti"}  # They call functions with a checked form.
+WITH_RUNPATH = {"CorvixLauncher", "libCvxCPP.so"}  # They load one of our libraries from their own directory.
 
 
 def readelf(option, path):
@@ -31,45 +20,26 @@ def readelf(option, path):
                           env=dict(os.environ, LC_ALL="C")).stdout
 
 
-def imports(path):
-    rows = [line.split() for line in readelf("--dyn-syms", path).splitlines()]
-    return {row[7].split("@")[0] for row in rows if len(row) > 7 and row[6] == "UND"}
-
-
 def faults(path):
-    """What is wrong with a file."""
-    name = name_of(path)
-    dynamic, segments = readelf("--dynamic", path), readelf("--segments", path)
-    imported = imports(path)
-    flags = re.search(r"\(FLAGS_1\).*", dynamic)
-    runpath = re.findall(r"\((?:RUNPATH|RPATH)\)\s+Library (\w+): \[(.*)\]", dynamic)
+    dynamic, segments, symbols = (readelf(option, path) for option in ("--dynamic", "--segments", "--dyn-syms"))
+    flags = "".join(re.findall(r"\(FLAGS_1\).*", dynamic))
+    name = path.name.partition(".so")[0] + ".so" if ".so" in path.name else path.name
     stack = re.search(r"GNU_STACK\s+(?:0x\w+\s+){5}([RWE ]+)", segments)
-    if name in PROGRAMS and not (flags and "PIE" in flags[0]):
-        yield "no position-independent executable"
-    if "GNU_RELRO" not in segments or not (flags and "NOW" in flags[0]):
-        yield "its tables stay writable (no full RELRO)"
-    if not stack or "E" in stack[1]:
-        yield "its stack may be executed"
-    if re.search(r"LOAD\s+(?:0x\w+\s+){5}RWE", segments):
-        yield "a segment may be written and executed"
-    if "TEXTREL" in dynamic:
-        yield "its code is written to when it is loaded"
-    if runpath != ([("runpath", "$ORIGIN")] if name in WITH_RUNPATH else []):
-        yield f"searches libraries in {runpath}"
-    if "__stack_chk_fail" not in imported:
-        yield "no stack protector"
-    if KIND == "fortified" and name in FORTIFIED and not any(
-            re.fullmatch(r"__\w+_chk", symbol) for symbol in imported):
-        yield "none of its calls is checked (_FORTIFY_SOURCE)"
+    runpath = re.findall(r"\((?:RUNPATH|RPATH)\)\s+Library (\w+): \[(.*)\]", dynamic)
+    return [fault for is_wrong, fault in (
+        (name in PROGRAMS and "PIE" not in flags, "not position-independent"),
+        ("GNU_RELRO" not in segments or "NOW" not in flags, "no full RELRO"),
+        (not stack or "E" in stack[1], "executable stack"),
+        (re.search(r"LOAD\s+(?:0x\w+\s+){5}RWE", segments), "a segment is writable and executable"),
+        ("TEXTREL" in dynamic, "text relocations"),
+        (runpath != ([("runpath", "$ORIGIN")] if name in WITH_RUNPATH else []), f"run path {runpath}"),
+        ("__stack_chk_fail" not in symbols, "no stack protector"),
+        (KIND == "fortified" and name in FORTIFIED and not re.search(r" UND __\w+_chk", symbols), "not fortified"),
+    ) if is_wrong]
 
 
-def main():
-    files = sorted(elf_files())
-    names = {name_of(path) for path in files}
-    assert PROGRAMS | FORTIFIED | WITH_RUNPATH <= names, f"only {names} are there"
-    found = [f"{os.path.basename(path)}: {fault}" for path in files for fault in faults(path)]
-    assert found == [], "\n".join(found)
-    print(f"{len(files)} files, {KIND}: {', '.join(sorted(names))}")
-
-
-main()
+files = [path for path in STAGE.rglob("*")
+         if path.is_file() and not path.is_symlink() and path.read_bytes()[:4] == b"\x7fELF"]
+assert {path.name for path in files} >= PROGRAMS, files
+found = {path.name: faults(path) for path in files if faults(path)}
+assert not found, found

@@ -3,7 +3,6 @@
 #include "tests/producer/ProducerSession.h"
 
 #include <cstdlib>
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 /// Returns the file of the producer that the conformance tests check.

@@ -96,7 +96,9 @@ TEST_F(SimulatedSourceTest, removedFileMeansTwoCamerasAndAnUnusableOneTheLastGoo
     write(withDevice("one"), 1);
     EXPECT_EQ(devices(), Ids{"one"});
     std::filesystem::remove(file);
+    testing::internal::CaptureStderr();
     EXPECT_EQ(devices(), defaultCameras);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     std::filesystem::create_symlink(file.filename(), file); // A link to itself cannot be opened.
     expectProblem({"one"}, "Too many levels of symbolic links");
     std::filesystem::remove(file);

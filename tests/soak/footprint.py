@@ -1,17 +1,11 @@
-"""What processes take of the machine, read from /proc."""
+"""The memory, descriptors, threads and processor time of processes, read from /proc."""
 
 import os
 import time
 
-TICK = os.sysconf("SC_CLK_TCK")
-
-# Threads of Qt's pool end after 30 s without work: how many there are is chance, and each has an event descriptor.
-POOLED = "Thread (pooled)"
-EVENT = "anon_inode:[eventfd]"
-
 
 def read(process, name):
-    """The file's text; empty when the process is gone."""
+    """Returns the file's text, which is empty if the process is gone."""
     try:
         with open(f"/proc/{process}/{name}", encoding="utf-8", errors="surrogateescape") as file:
             return file.read()
@@ -20,7 +14,7 @@ def read(process, name):
 
 
 def stat_fields(process):
-    """The fields of /proc/PID/stat from the state on, which is field 3 in proc(5)."""
+    """Returns the fields of /proc/PID/stat from the state on, which proc(5) calls field 3."""
     return read(process, "stat").rpartition(")")[2].split()
 
 
@@ -29,7 +23,6 @@ def state(process):
 
 
 def parent(process):
-    """0 when the process is gone."""
     return int((stat_fields(process) or ["", "0"])[1])
 
 
@@ -41,69 +34,36 @@ def processes():
     return [int(name) for name in os.listdir("/proc") if name.isdigit()]
 
 
-def children(process):
-    return [other for other in processes() if parent(other) == process]
-
-
-def zombies(process):
-    return [child for child in children(process) if state(child) == "Z"]
-
-
 def hosts(launcher):
-    """The producer hosts by the name of their file."""
-    return {os.path.basename(arguments(process)[-1]): process for process in children(launcher)
-            if os.path.basename(arguments(process)[0]) == "CvxProducerHost"}
+    """Returns the processes of the producer hosts by the names of their producers."""
+    return {os.path.basename(arguments(process)[-1]): process for process in processes()
+            if parent(process) == launcher and os.path.basename(arguments(process)[0]) == "CvxProducerHost"}
 
 
-def seconds_used(process):
-    """Processor time of the process, and of its children that have ended."""
-    own, system, of_children, system_of_children = (int(field) / TICK for field in stat_fields(process)[11:15])
-    return own + system, of_children + system_of_children
+def seconds_used(launcher):
+    """Returns the processor time that the launcher and all of its hosts have used, also those that have ended."""
+    fields = [stat_fields(process)[11:13] for process in hosts(launcher).values()]
+    ticks = sum(int(field) for of_process in (stat_fields(launcher)[11:15], *fields) for field in of_process)
+    return ticks / os.sysconf("SC_CLK_TCK")
 
 
 class Footprint:
-    """A process that does nothing in particular. Memory in KiB; "own" is what it shares with nobody, as its heap."""
+    """What an idle process takes. Memory is in KiB; "own" memory is shared with no other process."""
 
     def __init__(self, process):
         self.process = process
         rollup = dict(line.split(":", 1) for line in read(process, "smaps_rollup").splitlines()[1:])
-        self.memory = {name: int(rollup[key].split()[0])
-                       for name, key in (("PSS", "Pss"), ("own", "Pss_Anon"), ("RSS", "Rss"))}
-        self.descriptors, self.threads = self.look()
-
-    def look_again(self):
-        """A search takes a thread and a socket for its time: the least is what is there for good."""
-        descriptors, threads = self.look()
-        self.descriptors = min(self.descriptors, descriptors, key=len)
-        self.threads = min(self.threads, threads, key=len)
-
-    def look(self):
-        names, links = sorted(self.thread_names()), sorted(self.links())
-        for _ in range(min(names.count(POOLED), links.count(EVENT))):
-            links.remove(EVENT)
-        return links, [name for name in names if name != POOLED]
-
-    def links(self):
-        directory = f"/proc/{self.process}/fd"
-        for number in os.listdir(directory):
-            try:
-                yield os.readlink(f"{directory}/{number}")
-            except OSError:
-                pass  # Closed meanwhile.
-
-    def thread_names(self):
-        for thread in os.listdir(f"/proc/{self.process}/task"):
-            name = read(self.process, f"task/{thread}/comm").strip()
-            if name:
-                yield name
+        self.memory = {name: int(rollup[key].split()[0]) for name, key in (("PSS", "Pss"), ("own", "Pss_Anon"))}
+        self.descriptors, self.threads = (len(os.listdir(f"/proc/{process}/{name}")) for name in ("fd", "task"))
 
 
-def footprints(named_processes, seconds=5):
-    """By name; looked at for more than twice as long as it takes a producer to search again."""
-    prints = {name: Footprint(process) for name, process in named_processes.items()}
-    end = time.monotonic() + seconds
-    while time.monotonic() < end:
+def footprints(named_processes):
+    """Returns the footprints by name. A search takes threads and sockets for a while, so the smallest numbers count."""
+    found = {name: Footprint(process) for name, process in named_processes.items()}
+    for _ in range(50):
         time.sleep(0.1)
-        for footprint in prints.values():
-            footprint.look_again()
-    return prints
+        for footprint in found.values():
+            now = Footprint(footprint.process)
+            footprint.descriptors = min(footprint.descriptors, now.descriptors)
+            footprint.threads = min(footprint.threads, now.threads)
+    return found

@@ -1,6 +1,6 @@
-"""Hours with the launcher: plugs and unplugs at random beside bad producers, and looks what it costs in the end.
+"""Runs the launcher for minutes while cameras come and go and producers fail, and measures what it takes at the end.
 
-usage: soak_test.py MINUTES SEED STAGE PLUGINS PRODUCER DOCUMENTS
+usage: soak_test.py MINUTES SEED STAGE PLUGINS PRODUCER
 """
 
 import os
@@ -8,176 +8,115 @@ import random
 import re
 import sys
 import time
-from collections import Counter
 
 import footprint
+from configurations import RandomConfigurations
 from launcher import Launcher, keep_to_this_machine, wait_for, xdotool
-from recommendation import Recommendation
-from simulator import SimulatorConfiguration
-from scenes import RandomScenes
 from scripted import CrashingProducer, SlowProducer
 from session import Session, named, press
+from simulator import SimulatorConfiguration
 
-LONG = 5  # minutes; a shorter run has less time for its preparations
-MOST_GROWTH = 0.05
-SMALLEST_GROWTH = 128  # KiB, the step in which a heap grows; that of a host is only a few times as large
-FIRST_GROWTH = 2048  # KiB; so much a launcher may still grow in its second minute, until all that it keeps is there
-MOST_IDLE = 0.005  # of one core
+REST = 60  # seconds; Qt drops the pictures that it keeps for a while
+MAX_GROWTH = 1.05
+MIN_GROWTH = 128  # KiB; a heap grows in such steps, and that of a host is only a few times as large
+MAX_IDLE_USE = 0.005  # of one processor
 EXPECTED_LINES = re.compile(
     r"Camera simulator: \S+\.json is not used: .*"
     r"|libCvxCPP: \S+/cti/Crashing\.cti: (was ended by SIG(SEGV|ABRT) .*|exited with code 3)")
 
 
-def measure(session, content, rest):
-    """What everything takes after a rest of so many seconds, and what the rest has cost.
+def measure(session, content):
+    """Shows a configuration and rests. Returns the footprints of the processes and the share of a processor they used."""
+    session.slow.search_for(1500)
+    session.show(content)
+    xdotool("mousemove", 2, 2)
+    session.assert_unchanged(5)
+    launcher = session.launcher.process.pid
 
-    Both times the same scene is shown. In a rest of a minute Qt also drops the pictures that it keeps for a while.
-    """
-    session.slow.take(1500)
-    session.show("interfaces", content)
-    xdotool("mousemove", "2", "2")
-    session.stays(5)
-    parent = session.launcher.process.pid
-    cost = idle_use(parent, rest)
-    hosts = wait_for("only the good hosts run", lambda: good_hosts(parent))
-    wait_for("no child is left as a zombie", lambda: not footprint.zombies(parent), 5)
-    return footprint.footprints({"launcher": parent, **hosts}), cost
+    started, used = time.monotonic(), footprint.seconds_used(launcher)
+    time.sleep(REST)  # The time itself is measured.
+    use = (footprint.seconds_used(launcher) - used) / (time.monotonic() - started)
 
-
-def good_hosts(launcher):
-    """All hosts, when that of the crashing producer is down; else none."""
-    hosts = footprint.hosts(launcher)
-    well = {"CorvixCameraSimulator.cti", "Slow.cti"} <= set(hosts) and "Crashing.cti" not in hosts
-    return hosts if well else None
+    wait_for("the crashing producer is down, the slow one runs, and no child is a zombie", lambda:
+             "Slow.cti" in footprint.hosts(launcher) and "Crashing.cti" not in footprint.hosts(launcher) and
+             (launcher, "Z") not in ((footprint.parent(child), footprint.state(child)) for child in footprint.processes()))
+    return footprint.footprints({"launcher": launcher, **footprint.hosts(launcher)}), use
 
 
-def idle_use(launcher, seconds):
-    """The shares of one core that the launcher and all of its hosts use."""
-    def used():
-        own, ended = footprint.seconds_used(launcher)
-        hosts = footprint.hosts(launcher).values()
-        return own, ended + sum(footprint.seconds_used(host)[0] for host in hosts)
-
-    started, before = time.monotonic(), used()
-    time.sleep(seconds)  # Nothing is waited for: the time itself is measured.
-    taken, after = time.monotonic() - started, used()
-    return tuple((late - early) / taken for early, late in zip(before, after))
-
-
-def growth(before, after, kind):
-    return after.memory[kind] / before.memory[kind] - 1
-
-
-def compare(first, last, is_long):
-    """The lines of the summary on memory, descriptors and threads, and what is wrong with them."""
+def growth(first, last):
+    """Returns lines about the footprints, and the problems that they show."""
     lines, problems = [], []
-    if set(first) != set(last):
-        problems.append(f"there were {sorted(first)} and are {sorted(last)}")
-    for name in sorted(set(first) & set(last), reverse=True):
-        before, after = first[name], last[name]
-        memory = ", ".join(f"{kind} {before.memory[kind]} to {after.memory[kind]} ({growth(before, after, kind):+.1%})"
-                           for kind in before.memory)
-        lines.append(f"{name}: KiB {memory}; descriptors {len(before.descriptors)} to {len(after.descriptors)}; "
-                     f"threads {len(before.threads)} to {len(after.threads)}")
-        if after.process != before.process:
-            problems.append(f"{name} was started anew")
-        # PSS and RSS are told, not judged: they change with what other programs use of the same libraries, and with
-        # which pages of files the system keeps.
-        least = SMALLEST_GROWTH if name != "launcher" else 0 if is_long else FIRST_GROWTH
-        if growth(before, after, "own") >= MOST_GROWTH and after.memory["own"] - before.memory["own"] > least:
-            problems.append(f"{name} takes more memory")
-        for what in ("descriptors", "threads"):
-            now, then = getattr(after, what), getattr(before, what)
-            if len(now) > len(then):
-                problems.append(f"{name} has more {what}; new are {list((Counter(now) - Counter(then)).elements())}")
+    if {name: before.process for name, before in first.items()} != {name: after.process for name, after in last.items()}:
+        return lines, [f"the processes have changed from {sorted(first)} to {sorted(last)}, or one was restarted"]
+    for name, before in first.items():
+        for kind, then, now in (
+                ("KiB", before.memory["own"], last[name].memory["own"]),
+                ("descriptors", before.descriptors, last[name].descriptors),
+                ("threads", before.threads, last[name].threads)):
+            lines.append(f"{name}: {then} to {now} {kind}")
+            if now > (max(MAX_GROWTH * then, then + MIN_GROWTH) if kind == "KiB" else then):
+                problems.append(f"more {lines[-1]}")
     return lines, problems
 
 
 def close(session):
-    """Ends the launcher as its user does; gives what is wrong with the end and with what it has printed."""
-    launcher = session.launcher
-    hosts = footprint.hosts(launcher.process.pid).values()
+    """Closes the launcher with its button. Returns the problems of the end and of the standard error."""
+    hosts = footprint.hosts(session.launcher.process.pid).values()
     press(named(session.window(), "pushButton_2"))
-    problems = []
-    if launcher.process.wait(timeout=10) != 0:
-        problems.append(f"exit status {launcher.process.returncode}")
-    if any(footprint.state(host) for host in hosts):
-        problems.append("a host is left")
-    lines = launcher.printed().splitlines()
-    unexpected = [line for line in lines if not EXPECTED_LINES.fullmatch(line)]
-    if unexpected:
-        problems.append(f"{len(unexpected)} unexpected lines on standard error: {unexpected[:20]}")
-    if session.reports() != session.counts.get("broken scenes", 0):
-        problems.append(f"{session.reports()} reports of broken scenes")
-    starts = session.crashing.starts()
-    return [f"{len(lines)} lines on standard error; {starts} starts of the crashing producer"], problems
-
-
-def warm_up(session, until):
-    """Everything once, and the largest scene: what is loaded when needed and then kept is there, as are pictures."""
-    session.show_largest()
-    for act in (session.start_tool, session.hover, session.break_scene, session.remove_file, session.refresh):
-        act()
-    while time.monotonic() < until:
-        session.step()
+    status = session.launcher.process.wait(timeout=60)
+    unexpected = [line for line in session.launcher.printed().splitlines() if not EXPECTED_LINES.fullmatch(line)]
+    return [problem for is_wrong, problem in (
+        (status, f"exit status {status}"),
+        (any(footprint.state(host) for host in hosts), "a host is left"),
+        (unexpected, f"{len(unexpected)} unexpected lines on standard error: {unexpected[:20]}"),
+        (session.reports() != session.broken, f"{session.reports()} reports of {session.broken} broken configurations"),
+    ) if is_wrong]
 
 
 def run(session, minutes):
-    """Gives the lines of the summary and the list of what is wrong."""
+    """Returns the lines of the summary and the problems."""
     end = session.launcher.started + 60 * minutes
-    is_long = minutes >= LONG
-    quiet = 60 if is_long else 20
-    session.launcher.window()
-    session.await_table("the first list is shown")
-    content = session.scene.read()
-    warm_up(session, session.launcher.started + (60 if is_long else 30))
-    # Without a rest, the short form starts from a larger footprint and so sees larger leaks only.
-    first, _ = measure(session, content, quiet if is_long else 0)
-    while time.monotonic() < end - quiet - 15:
+    session.wait_for_table("the first list is shown")
+    content = session.simulator.read()
+    # What is loaded when it is first needed, and then kept, has to be there before the first measurement.
+    session.show(session.configurations.largest())
+    for step in (session.start_tool, session.hover, session.break_configuration, session.remove_file, session.refresh):
+        step()
+    while time.monotonic() < session.launcher.started + 60:
         session.step()
-    last, (own, of_hosts) = measure(session, content, quiet)
-    lines, problems = compare(first, last, is_long)
-    lines.append(f"idle for {quiet} s: launcher {own:.2%}, its hosts {of_hosts:.2%} of one core")
-    if own + of_hosts >= MOST_IDLE:
-        problems.append("not idle when idle")
-    session.await_table("the table still shows the scene")
-    more_lines, more_problems = close(session)
-    return lines + more_lines, problems + more_problems
-
-
-def summary(session, lines):
-    changes = ", ".join(f"{number} {kind}" for kind, number in sorted(session.counts.items()))
-    worst = ", ".join(f"{kind} {seconds:.1f} s" for kind, seconds in sorted(session.worst.items()))
-    return [f"steps: {changes}", f"longest from scene to screen: {worst}", *lines]
+    first, _ = measure(session, content)
+    while time.monotonic() < end - REST - 15:
+        session.step()
+    last, use = measure(session, content)
+    lines, problems = growth(first, last)
+    lines.append(f"{len(session.history)} steps; {use:.2%} of one processor when idle")
+    if use > MAX_IDLE_USE:
+        problems.append("the launcher and its hosts are not idle")
+    session.wait_for_table("the table still shows the cameras")
+    return lines, problems + close(session)
 
 
 def main():
     minutes, seed = float(sys.argv[1]), int(sys.argv[2])
-    stage, plugins, producer, documents = (os.path.abspath(path) for path in sys.argv[3:])
+    stage, plugins, producer = (os.path.abspath(path) for path in sys.argv[3:])
     print(f"soak for {minutes:g} minutes, seed {seed}", flush=True)
     keep_to_this_machine(stage)
     chance = random.Random(seed)
-    recommendation = Recommendation(documents)
-    slow, crashing = SlowProducer(stage, producer), CrashingProducer(stage, producer)
-    slow.take(1500)
-    crashing.crash_in("IFUpdateDeviceList", "crash")
-    for bad in (slow, crashing):
-        bad.put_in_place()
-    # Without a session bus: Qt would look for one, and start one, in every tool.
-    environment = {"DBUS_SESSION_BUS_ADDRESS": "disabled:"}
-    with SimulatorConfiguration(stage) as scene, Launcher(stage, plugins, environment) as launcher:
-        scenes = RandomScenes(chance, recommendation.models(), scene.read())
-        session = Session(launcher, scene, scenes, recommendation, slow, crashing, chance)
+    slow, crashing = SlowProducer(stage, "Slow", producer), CrashingProducer(stage, "Crashing", producer)
+    slow.search_for(1500)
+    crashing.crash(chance)
+    slow.put_in_place()
+    crashing.put_in_place()
+    os.environ["DBUS_SESSION_BUS_ADDRESS"] = "disabled:"  # Qt would start a session bus in every tool.
+    with SimulatorConfiguration(stage) as simulator, Launcher(stage, plugins) as launcher:
+        session = Session(launcher, simulator, RandomConfigurations(chance, simulator.read()), slow, crashing, chance)
         try:
             lines, problems = run(session, minutes)
-        except Exception as failure:  # Whatever it is, the summary has to say with which seed it came.
-            lines, problems = [], [f"{type(failure).__name__}: {failure}", "before: " + "; ".join(session.history),
+        except Exception as failure:  # The summary has to contain the seed, whatever has failed.
+            lines, problems = [], [f"{type(failure).__name__}: {failure}", "last steps: " + "; ".join(session.history[-10:]),
                                    f"standard error: {launcher.printed()[-3000:]}"]
-        print("\n".join(summary(session, lines)))
-        if problems:
-            print(f"FAILED with seed {seed}:\n" + "\n".join(problems))
-            sys.exit(1)
-        print("passed")
+    print("\n".join(lines))
+    sys.exit("\n".join([f"FAILED with seed {seed}:", *problems]) if problems else 0)
 
 
 main()

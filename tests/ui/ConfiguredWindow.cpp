@@ -94,7 +94,7 @@ void ConfiguredWindow::open(const QVector<CameraInfo> &cameras)
     loadConfig();
     setCameras(cameras);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, hangTimeout));
 }
 
 QList<ApplicationLauncher *> ConfiguredWindow::tiles() const

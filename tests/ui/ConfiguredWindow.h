@@ -12,6 +12,8 @@
 
 class ApplicationLauncher;
 
+constexpr int hangTimeout = 30'000; // Milliseconds. Only a hang takes longer.
+
 Q_DECLARE_METATYPE(CameraInfo)
 
 /// A window in an empty installation directory, with its own configuration documents and pictures.

@@ -218,9 +218,9 @@ void TestCameraTable::columnsAreSizedOnce()
     table->setFixedWidth(table->width() - table->viewport()->width() + 401);
     childNamed<QWidget>(configured.window, "centralwidget")->layout()->activate();
     QCOMPARE(table->viewport()->width(), 401);
-    QTRY_COMPARE(widths(), (QList<int>{100, 200, 101}));
+    QTRY_COMPARE_WITH_TIMEOUT(widths(), (QList<int>{100, 200, 101}), hangTimeout);
     table->setFixedWidth(table->width() + 80);
-    QTRY_COMPARE(table->viewport()->width(), 481);
+    QTRY_COMPARE_WITH_TIMEOUT(table->viewport()->width(), 481, hangTimeout);
     configured.setCameras({fourCameras.at(0)});
     QCoreApplication::processEvents();
     QCOMPARE(widths(), (QList<int>{100, 200, 181}));

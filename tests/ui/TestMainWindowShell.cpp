@@ -118,7 +118,7 @@ void TestMainWindowShell::refreshButtonRequestsARefreshWhileEnabled()
 void TestMainWindowShell::minimiseButtonMinimises()
 {
     click("pushButton");
-    QTRY_VERIFY(window().isMinimized());
+    QTRY_VERIFY_WITH_TIMEOUT(window().isMinimized(), hangTimeout);
     QVERIFY(window().isVisible());
 }
 
@@ -133,7 +133,7 @@ void TestMainWindowShell::menuContainsOnlyAboutQt()
     ModalCatcher catcher;
     const QPoint cursor = window().mapToGlobal({30, 200});
     QCursor::setPos(cursor);
-    QTRY_COMPARE(QCursor::pos(), cursor);
+    QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cursor, hangTimeout);
     button("aboutQt_")->click(); // Leaves the cursor where it is.
     QCOMPARE(catcher.menus().size(), 1);
     QCOMPARE(catcher.menus().at(0).actions, QStringList{"About Qt"_s});

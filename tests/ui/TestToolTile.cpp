@@ -45,7 +45,7 @@ void TestToolTile::init()
     m_tile = new ApplicationLauncher("Viewer"_s, "Shows pictures"_s, m_page.get());
     m_tile->move(10, 10);
     m_page->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_page.get(), hangTimeout));
     QCursor::setPos(m_page->mapToGlobal(QPoint(2, 2))); // Outside the tile.
 }
 

@@ -172,11 +172,11 @@ void TestToolTiles::scrollAreaGrowsToAllRowsOfTiles()
     ConfiguredWindow configured;
     configured.loadConfig();
     auto *scroll = childNamed<QScrollArea>(configured.window, "toolsScroll");
-    QTRY_COMPARE(scroll->minimumHeight(), 3 * 70 + 2 * 6);
+    QTRY_COMPARE_WITH_TIMEOUT(scroll->minimumHeight(), 3 * 70 + 2 * 6, hangTimeout);
     scroll->setMinimumHeight(0);
     configured.window.setSelectedCamera(areaCamera);
     QCOMPARE(scroll->minimumHeight(), 0); // Set once the layout has been activated.
-    QTRY_COMPARE(scroll->minimumHeight(), 222);
+    QTRY_COMPARE_WITH_TIMEOUT(scroll->minimumHeight(), 222, hangTimeout);
 }
 
 QTEST_MAIN(TestToolTiles)

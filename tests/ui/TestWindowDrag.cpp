@@ -38,7 +38,7 @@ void TestWindowDrag::init()
     m_configured = std::make_unique<ConfiguredWindow>();
     m_configured->open({camera("Orvelle"_s, "Kx200"_s, "1"_s, "id"_s)});
     m_configured->window.move(m_start);
-    QTRY_COMPARE(m_configured->window.pos(), m_start);
+    QTRY_COMPARE_WITH_TIMEOUT(m_configured->window.pos(), m_start, hangTimeout);
     QCoreApplication::processEvents(); // Sets the height of the tile area.
 }
 
@@ -65,8 +65,8 @@ QPoint TestWindowDrag::movedByMouse(const QPoint &at, Qt::MouseButton button)
     QTest::mouseMove(handle(), at + m_distance);
     QCoreApplication::processEvents();
     const QPoint result = moved();
-    QTest::mouseRelease(
-        handle(), button, {}, at + m_distance); // Outside a pressed button, which is not clicked then.
+    // Outside the pressed widget, so a button there is not clicked.
+    QTest::mouseRelease(handle(), button, {}, at + m_distance);
     return result;
 }
 
