@@ -146,4 +146,8 @@ TEST_F(ProducerClientTest, collectsTheProblemsOfTheLastMessages)
     EXPECT_EQ(problems[0].call, "IFGetDeviceID");
     EXPECT_EQ(problems[1].call, "TLClose");
     EXPECT_EQ(problems[2].call, "the producer");
+    connect();
+    for (int i = 0; i < 10; ++i)
+        host.send(replyTo(1));
+    EXPECT_FALSE(client.receiveLast(problems)) << "a host that keeps sending is not read for ever";
 }
