@@ -31,7 +31,7 @@ public:
     void addObserver(const std::shared_ptr<CvxCPP::ICameraListObserver> &observer);
     void addObserver(const std::shared_ptr<CvxCPP::IInterfaceListObserver> &observer);
 
-    /// Tells the notifier that there may be a change.
+    /// Schedules a notification. Call it whenever there may be a change.
     void notify();
 
     /// Notifies nobody before that time; see NotificationHold.

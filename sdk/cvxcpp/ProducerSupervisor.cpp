@@ -9,7 +9,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A producer that forked keeps the socket open when it dies, so a waiting client also looks at the process.
+// A producer that forked keeps the socket open when it dies, so the process is checked too while a reply is
+// awaited.
 constexpr auto checkInterval = 250ms;
 
 constexpr auto reapInterval = 5ms; // A host whose connection has ended is about to exit …

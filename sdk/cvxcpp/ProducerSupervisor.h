@@ -68,7 +68,7 @@ private:
     {
         Waiting, ///< There is no process until startTime().
         Running, ///< The host is connected.
-        Disconnected, ///< The connection ended without a reason; the exit status will tell it.
+        Disconnected, ///< The connection ended without a reason; the exit status will be reported.
         Failed, ///< The failure is reported; the process has not ended yet.
         Closing, ///< The idle host was asked to close.
         ClosingDuringRequest ///< The host was asked to close while a reply was outstanding.

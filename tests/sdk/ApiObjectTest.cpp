@@ -59,15 +59,15 @@ protected:
 TEST_F(ApiObjectTest, cameraReturnsItsRecord)
 {
     const CameraObject camera(interface, record, 0);
-    EXPECT_EQ(plainId(camera), "D1");
-    EXPECT_EQ(extendedId(camera), "vendor.cti/net/D1");
-    EXPECT_EQ(modelOf(camera), "M");
-    EXPECT_EQ(serialOf(camera), "S");
-    EXPECT_EQ(nameOf(camera), "N");
+    EXPECT_EQ(idOf(camera, false), "D1");
+    EXPECT_EQ(idOf(camera, true), "vendor.cti/net/D1");
+    EXPECT_EQ(textOf([&](char *buffer, unsigned &size) { return camera.GetModel(buffer, size); }), "M");
+    EXPECT_EQ(
+        textOf([&](char *buffer, unsigned &size) { return camera.GetSerialNumber(buffer, size); }), "S");
+    EXPECT_EQ(textOf([&](char *buffer, unsigned &size) { return camera.GetName(buffer, size); }), "N");
     std::shared_ptr<Interface> found;
     EXPECT_EQ(camera.GetInterface(found), CvxErrorSuccess);
     EXPECT_EQ(found, interface);
-    EXPECT_EQ(modelOf(CameraObject(interface, record, 1)), "");
 }
 
 TEST_F(ApiObjectTest, interfaceTypeIsTheDevicesOrElseTheInterfaces)
@@ -118,13 +118,6 @@ TEST_F(ApiObjectTest, interfaceHasFourFeatures)
     EXPECT_FALSE(none);
 }
 
-TEST_F(ApiObjectTest, featureKeepsItsInterface)
-{
-    const auto id = feature("DeviceID");
-    interface.reset();
-    EXPECT_EQ(valueOf(*id), "D1");
-}
-
 TEST_F(ApiObjectTest, featureRefusesCallsOfAnotherType)
 {
     long min = 0, max = 0;
@@ -162,6 +155,11 @@ TEST_F(ApiObjectTest, updateReplacesTheDevicesAndKeepsTheSelectorInRange)
 {
     const auto selector = feature("DeviceSelector"), id = feature("DeviceID");
     ASSERT_EQ(selector->SetValue(2), CvxErrorSuccess);
+    source->search = [] { return InterfaceSource::SearchResult{CvxErrorTimeout, nullptr}; };
+    EXPECT_EQ(feature("DeviceUpdateList")->RunCommand(), CvxErrorTimeout);
+    source->search = []() -> InterfaceSource::SearchResult { throw std::runtime_error("no memory"); };
+    EXPECT_EQ(feature("DeviceUpdateList")->RunCommand(), CvxErrorFailed);
+    EXPECT_EQ(valueOf(*id), "D3") << "a failed update keeps the devices";
     ASSERT_EQ(updateTo({device("E1"), device("E2")}), CvxErrorSuccess);
     EXPECT_EQ(valueOf(*id), "E2");
 
@@ -178,35 +176,24 @@ TEST_F(ApiObjectTest, updateReplacesTheDevicesAndKeepsTheSelectorInRange)
     EXPECT_EQ(valueOf(*id), "F1");
 }
 
-TEST_F(ApiObjectTest, failedUpdateKeepsTheDevices)
+TEST_F(ApiObjectTest, objectsMayOutliveTheSystemAndFeaturesTheirInterface)
 {
-    source->search = [] { return InterfaceSource::SearchResult{CvxErrorTimeout, nullptr}; };
-    EXPECT_EQ(feature("DeviceUpdateList")->RunCommand(), CvxErrorTimeout);
-    source->search = []() -> InterfaceSource::SearchResult { throw std::runtime_error("no memory"); };
-    EXPECT_EQ(feature("DeviceUpdateList")->RunCommand(), CvxErrorFailed);
-    EXPECT_EQ(valueOf(*feature("DeviceID")), "D1");
-}
-
-TEST_F(ApiObjectTest, objectsMayOutliveTheSystem)
-{
-    const CameraObject camera(interface, record, 0);
+    const auto camera = std::make_unique<CameraObject>(interface, record, 0);
     const auto update = feature("DeviceUpdateList"), selector = feature("DeviceSelector"),
                id = feature("DeviceID");
-    *source->isRunning = false;
-    source.reset();
     unsigned size = 0;
     long min = 0, max = 0;
     CvxTransportLayerType type = CvxTransportLayerUnknown;
     std::shared_ptr<Interface> found;
     std::shared_ptr<Feature> another;
-    for (const bool isExtended : {false, true})
-        EXPECT_EQ(camera.GetID(nullptr, size, isExtended), CvxErrorNotStarted);
-    EXPECT_EQ(camera.GetModel(nullptr, size), CvxErrorNotStarted);
-    EXPECT_EQ(camera.GetInterfaceType(type), CvxErrorNotStarted);
-    EXPECT_EQ(camera.GetInterface(found), CvxErrorNotStarted);
+    *source->isRunning = false;
+    source.reset();
     EXPECT_EQ(interface->GetFeatureByName("DeviceID", another), CvxErrorNotStarted);
-    EXPECT_EQ(update->RunCommand(), CvxErrorNotStarted);
-    EXPECT_EQ(selector->GetRange(min, max), CvxErrorNotStarted);
-    EXPECT_EQ(selector->SetValue(0), CvxErrorNotStarted);
-    EXPECT_EQ(id->GetValue(nullptr, size), CvxErrorNotStarted);
+    interface.reset();
+    const CvxError errors[] = {camera->GetID(nullptr, size, false), camera->GetID(nullptr, size, true),
+        camera->GetModel(nullptr, size), camera->GetInterfaceType(type), camera->GetInterface(found),
+        update->RunCommand(), selector->GetRange(min, max), selector->SetValue(0),
+        id->GetValue(nullptr, size)};
+    for (const CvxError error : errors)
+        EXPECT_EQ(error, CvxErrorNotStarted);
 }

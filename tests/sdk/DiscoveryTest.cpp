@@ -2,7 +2,6 @@
 
 #include "tests/sdk/support/SystemTest.h"
 
-#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 
@@ -12,12 +11,7 @@ using namespace std::chrono_literals;
 using Calls = std::vector<std::string>;
 using Ids = std::vector<std::string>;
 
-class DiscoveryTest : public SystemTest
-{
-protected:
-    /// Makes the system search only when the test asks for it.
-    void neverPoll() { options.pollInterval = 1h; }
-};
+using DiscoveryTest = SystemTest;
 
 TEST_F(DiscoveryTest, findsProducersInTheConfiguredDirectoriesAndThoseOfTheEnvironment)
 {
@@ -38,6 +32,7 @@ TEST_F(DiscoveryTest, findsProducersInTheConfiguredDirectoriesAndThoseOfTheEnvir
 
 TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)
 {
+    options.pollInterval = 1h;
     addProducer("a", cameras(3));
     start();
     Cameras found(5);
@@ -46,62 +41,39 @@ TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)
     EXPECT_EQ(count, 2U);
     EXPECT_TRUE(found[1]);
     EXPECT_FALSE(found[2]) << "never beyond the end of the array";
-
-    const auto recorder = recordCameras();
-    ASSERT_EQ(system->GetCameras(nullptr, count), CvxErrorSuccess);
-    EXPECT_EQ(count, 3U);
     setScript("a", cameras(4));
-    ASSERT_TRUE(waitUntil([&] { return recorder->calls().size() == 1; }));
-    count = 5;
-    EXPECT_EQ(system->GetCameras(found.data(), count), CvxErrorSuccess);
+    ASSERT_EQ(feature(*interfaceOf(found, 0), "DeviceUpdateList")->RunCommand(), CvxErrorSuccess);
+    EXPECT_EQ(system->GetCameras(found.data(), count = 5), CvxErrorSuccess);
     EXPECT_EQ(count, 3U) << "whatever appeared since";
+    EXPECT_EQ(system->GetCameras(nullptr, count), CvxErrorSuccess);
+    EXPECT_EQ(count, 4U);
 }
 
-TEST_F(DiscoveryTest, recentSearchIsReusedAlsoBesideASlowProducer)
+TEST_F(DiscoveryTest, updateOfAnInterfaceSearchesItAloneAndOnlyIfThatWasNotJustDone)
 {
-    neverPoll();
-    options.searchTimeout = 1min;
-    options.reuseTime = 4s;
-    addProducer("quick", "interface n|N|GEV\ndevice n|1\n");
-    addProducer("slow", "fault IFUpdateDeviceList slow 4200\n" + cameras(1));
-    start();
-    const Cameras found = list();
-    ASSERT_EQ(found.size(), 2U);
-    EXPECT_EQ(feature(*interfaceOf(found, 0), "DeviceUpdateList")->RunCommand(), CvxErrorSuccess);
-    EXPECT_EQ(countCalls("quick", "IFUpdateDeviceList"), 1U);
-}
-
-TEST_F(DiscoveryTest, oldSearchIsRepeatedWithoutReadingTheInterfacesAgain)
-{
-    neverPoll();
-    options.interfaceUpdateInterval = 2h;
-    addProducer("a", cameras(2));
-    start();
-    list();
-    setScript("a", cameras(3));
-    EXPECT_EQ(list().size(), 3U);
-    EXPECT_EQ(countCalls("a", "TLUpdateInterfaceList"), 1U);
-}
-
-TEST_F(DiscoveryTest, updateOfAnInterfaceSearchesItAlone)
-{
-    neverPoll();
+    options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
+    options.reuseTime = 3s;
     const std::string both = "interface a|A|GEV\ninterface b|B|GEV\ndevice a|1\ndevice b|2\n";
     addProducer("p", both);
     start();
     const auto interface = interfaceOf(list(), 1);
-    const std::size_t before = countCalls("p", "IFUpdateDeviceList");
+    const auto update = feature(*interface, "DeviceUpdateList"), id = feature(*interface, "DeviceID");
     setScript("p", both + "device b|3\n");
-    ASSERT_EQ(feature(*interface, "DeviceUpdateList")->RunCommand(), CvxErrorSuccess);
-    EXPECT_EQ(countCalls("p", "IFUpdateDeviceList"), before + 1);
-    ASSERT_EQ(feature(*interface, "DeviceSelector")->SetValue(1), CvxErrorSuccess);
-    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "3");
+    EXPECT_EQ(list().size(), 2U);
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
+    EXPECT_EQ(countCalls("p", "IFUpdateDeviceList"), 2U) << "the search of both interfaces is reused";
+    EXPECT_TRUE(waitUntil([&] {
+        EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
+        return feature(*interface, "DeviceSelector")->SetValue(1) == CvxErrorSuccess;
+    }));
+    EXPECT_EQ(valueOf(*id), "3");
+    EXPECT_EQ(countCalls("p", "IFUpdateDeviceList"), 3U);
 
     setScript("p", "interface other|O|GEV\n");
-    list();
-    EXPECT_EQ(feature(*interface, "DeviceUpdateList")->RunCommand(), CvxErrorNotAvailable);
-    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "3") << "the snapshot stays";
+    EXPECT_TRUE(waitUntil([&] { return list().empty(); }));
+    EXPECT_EQ(update->RunCommand(), CvxErrorNotAvailable);
+    EXPECT_EQ(valueOf(*id), "3") << "the snapshot stays";
 }
 
 TEST_F(DiscoveryTest, announcesCamerasAndInterfacesThatAppearOrDisappear)
@@ -154,22 +126,4 @@ TEST_F(DiscoveryTest, observerMayUseTheSystem)
     EXPECT_TRUE(waitUntil([&] { return listed == 2; }));
     EXPECT_EQ(error, CvxErrorSuccess);
     stop();
-}
-
-TEST_F(DiscoveryTest, slowObserverDelaysNoList)
-{
-    addProducer("a", cameras(1));
-    start();
-    list();
-    std::atomic<bool> isReleased{false};
-    const auto slow = std::make_shared<CameraRecorder>();
-    slow->onCall = [&] { waitUntil([&] { return isReleased.load(); }); };
-    ASSERT_EQ(system->RegisterCameraListObserver(slow), CvxErrorSuccess);
-    setScript("a", cameras(2));
-    ASSERT_TRUE(waitUntil([&] { return slow->calls().size() == 1; }));
-    setScript("a", cameras(3));
-    EXPECT_TRUE(waitUntil([&] { return list().size() == 3; }));
-    EXPECT_EQ(slow->calls().size(), 1U);
-    isReleased = true;
-    EXPECT_TRUE(waitUntil([&] { return slow->calls().size() == 2; }));
 }

@@ -16,7 +16,12 @@ protected:
 TEST_F(FailureReporterTest, namesTheProducerInOneLine)
 {
     reporter.reportFailure("was lost\nin\x1b[31m thought");
-    EXPECT_EQ(lines, Lines{"/cti/a.cti: was lost\\nin\\x1b[31m thought"});
+    reporter.reportUnusedCameras(1001, 1000);
+    reporter.camerasListed();
+    reporter.reportUnusedCameras(1002, 1000); // Once per host.
+    EXPECT_EQ(lines,
+        (Lines{"/cti/a.cti: was lost\\nin\\x1b[31m thought",
+            "/cti/a.cti: reports 1001 cameras, of which only the first 1000 are used"}));
 }
 
 TEST_F(FailureReporterTest, repeatsAFailureOnlyWhenTheProducerHasWorkedMeanwhile)
@@ -61,12 +66,4 @@ TEST_F(FailureReporterTest, limitsWhatAProducerCanReport)
     for (int code = 1; code < 100; ++code)
         reporter.reportProblems({{"TLOpen", code, ""}});
     EXPECT_EQ(lines.size(), 1U + 64U);
-}
-
-TEST_F(FailureReporterTest, reportsUnusedCamerasOncePerHost)
-{
-    reporter.reportUnusedCameras(1001, 1000);
-    reporter.camerasListed();
-    reporter.reportUnusedCameras(1002, 1000);
-    EXPECT_EQ(lines, Lines{"/cti/a.cti: reports 1001 cameras, of which only the first 1000 are used"});
 }

@@ -117,19 +117,6 @@ TEST_F(FailureTest, brokenProtocolIsReportedAndEndsTheHost)
     }
 }
 
-TEST_F(FailureTest, hostThatKeepsSendingDoesNotKeepTheSystemFromEnding)
-{
-    useHost(R"(read line <&3; echo '{"body":{"interfaces":[],"problems":[]},"id":1,"kind":"cameraList"}' >&3
-        read line <&3; exec yes >&3)");
-    options.pollInterval = 1h;
-    options.reuseTime = 1h;
-    writeFile(ctiPath("a.cti"), "");
-    start();
-    EXPECT_TRUE(list().empty());
-    stop();
-    EXPECT_EQ(countReports("while it was closed"), 1U) << testing::PrintToString(reports());
-}
-
 TEST_F(FailureTest, hostProgramThatCannotBeStartedIsTriedAgain)
 {
     useHost("exit 0");

@@ -18,10 +18,13 @@ constexpr std::size_t maxLength = 500; // Bytes of a line.
 class ProducerClientTest : public testing::Test
 {
 protected:
-    ProducerClientTest()
+    ProducerClientTest() { connect(); }
+
+    void connect()
     {
         std::array<int, 2> ends{};
         EXPECT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+        client = ProducerClient(3s, 10s);
         client.connect(LineChannel(ends[0], maxLength));
         host = LineChannel(ends[1]);
     }
@@ -63,16 +66,6 @@ TEST_F(ProducerClientTest, acceptsTheReplyToItsRequest)
     EXPECT_FALSE(client.isWaiting());
 }
 
-TEST_F(ProducerClientTest, waitsForTheRestOfAReply)
-{
-    client.send(ListCamerasRequest(), start);
-    const std::string reply = replyTo(1);
-    host.send(reply.substr(0, 10));
-    EXPECT_EQ(received(), "nothing");
-    host.send(reply.substr(10));
-    EXPECT_EQ(received(), "reply");
-}
-
 TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
 {
     const std::string failure = Message(Message::noRequest, ProducerFailedReply{{"TLOpen", -1, ""}}).toLine();
@@ -90,24 +83,14 @@ TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
         {"failure after the reply", replyTo(1) + failure, "TLOpen"},
     };
     for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        std::array<int, 2> ends{};
-        ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
-        ProducerClient fresh(3s, 10s);
-        fresh.connect(LineChannel(ends[0], maxLength));
-        std::swap(client, fresh);
+        connect();
         client.send(ListCamerasRequest(), start);
-        LineChannel(ends[1]).send(row.sent);
-        EXPECT_EQ(received(), row.result);
+        host.send(row.sent);
+        EXPECT_EQ(received(), row.result) << row.name;
     }
-}
-
-TEST_F(ProducerClientTest, acceptsNothingButAFailureWithoutARequest)
-{
+    connect();
     host.send(replyTo(Message::noRequest));
     EXPECT_EQ(received(), "sent a reply that was not requested");
-    host.send(Message(Message::noRequest, ProducerFailedReply{{"the producer", 0, ""}}).toLine());
-    EXPECT_EQ(received(), "the producer");
 }
 
 TEST_F(ProducerClientTest, returnsTheReplyBeforeTheEndOfTheConnection)
@@ -163,12 +146,8 @@ TEST_F(ProducerClientTest, collectsTheProblemsOfTheLastMessages)
     EXPECT_EQ(problems[0].call, "IFGetDeviceID");
     EXPECT_EQ(problems[1].call, "TLClose");
     EXPECT_EQ(problems[2].call, "the producer");
-}
-
-TEST_F(ProducerClientTest, aHostThatKeepsSendingIsNotReadForEver)
-{
+    connect();
     for (int i = 0; i < 10; ++i)
         host.send(replyTo(1));
-    std::vector<Problem> problems;
-    EXPECT_FALSE(client.receiveLast(problems));
+    EXPECT_FALSE(client.receiveLast(problems)) << "a host that keeps sending is not read for ever";
 }

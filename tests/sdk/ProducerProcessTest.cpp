@@ -1,5 +1,4 @@
 #include "sdk/cvxcpp/ProducerProcess.h"
-#include "tests/sdk/support/OutOfDescriptors.h"
 #include "tests/sdk/support/TemporaryDirectory.h"
 #include "tests/sdk/support/Waiting.h"
 
@@ -8,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -57,6 +57,11 @@ TEST_F(ProducerProcessTest, connectsTheHostAndPassesTheProducer)
     EXPECT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 7);
     EXPECT_FALSE(process.isStarted());
+
+    const auto before = std::signal(SIGCHLD, SIG_IGN); // Then nobody can wait for a child.
+    ASSERT_EQ(startScript("exit 0", process), "");
+    EXPECT_EQ(statusOf(process), ProducerProcess::unknownStatus);
+    std::signal(SIGCHLD, before);
 }
 
 TEST_F(ProducerProcessTest, hostHasOnlyItsOwnDescriptorsAndDefaultSignalHandling)
@@ -98,17 +103,12 @@ TEST_F(ProducerProcessTest, reportsWhyItCannotStart)
         "cannot start /nowhere/host: No such file or directory");
     EXPECT_FALSE(process.isStarted());
 
-    const OutOfDescriptors outOfDescriptors;
+    rlimit before{};
+    getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit none{0, before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
     const auto result = process.start(CVX_PRODUCER_HOST, "a.cti");
+    setrlimit(RLIMIT_NOFILE, &before);
     EXPECT_EQ(result.failure, "cannot create a socket for its host: Too many open files");
     EXPECT_EQ(result.channel.descriptor(), -1);
-}
-
-TEST_F(ProducerProcessTest, noticesTheEndInAProgramThatIgnoresItsChildren)
-{
-    const auto before = std::signal(SIGCHLD, SIG_IGN);
-    ProducerProcess process;
-    ASSERT_EQ(startScript("exit 0", process), "");
-    EXPECT_EQ(statusOf(process), ProducerProcess::unknownStatus);
-    std::signal(SIGCHLD, before);
 }

@@ -19,14 +19,13 @@ protected:
 TEST_F(SearchStateTest, startsResponsiveAndWithoutResults)
 {
     EXPECT_TRUE(search.isResponsive());
-    EXPECT_FALSE(search.isFresh(start));
     EXPECT_FALSE(search.takeListRequest());
     EXPECT_EQ(search.nextInterfaceRequest(), std::nullopt);
     search.searchEnded(start);
-    EXPECT_FALSE(search.isFresh(start)) << "a search without a list leaves nothing to reuse";
+    EXPECT_FALSE(search.isFresh(start));
 }
 
-TEST_F(SearchStateTest, listIsFreshForTheReuseTime)
+TEST_F(SearchStateTest, listIsFreshForTheReuseTimeAfterItsSearch)
 {
     search.listReceived(start, true);
     EXPECT_EQ(search.listCount(), 1U);
@@ -35,14 +34,9 @@ TEST_F(SearchStateTest, listIsFreshForTheReuseTime)
     EXPECT_FALSE(search.isFresh(start + 1s));
     search.searchEnded(start + 1s);
     EXPECT_TRUE(search.isFresh(start + 1999ms)) << "a slow neighbour does not make the list old";
-}
-
-TEST_F(SearchStateTest, listOfAnUnresponsiveProducerIsNotRenewedByTheSearch)
-{
-    search.listReceived(start, true);
     search.deadlineMissed();
-    search.searchEnded(start + 900ms);
-    EXPECT_FALSE(search.isFresh(start + 1s));
+    search.searchEnded(start + 1900ms);
+    EXPECT_FALSE(search.isFresh(start + 2s)) << "this producer had no part in the second search";
 }
 
 TEST_F(SearchStateTest, interfaceIsFreshByItself)
@@ -60,39 +54,30 @@ TEST_F(SearchStateTest, requestsStayPendingUntilTheyAreAnswered)
     search.requestList();
     EXPECT_TRUE(search.takeListRequest());
     EXPECT_FALSE(search.takeListRequest());
-    search.requestInterface("b");
-    search.requestInterface("a");
+    for (const char *interface : {"c", "b", "a"})
+        search.requestInterface(interface);
     EXPECT_EQ(search.nextInterfaceRequest(), "a");
-    EXPECT_TRUE(search.isInterfacePending("a"));
     search.interfaceReceived("a", start, true);
     EXPECT_FALSE(search.isInterfacePending("a"));
     EXPECT_EQ(search.nextInterfaceRequest(), "b");
     search.dropInterfaceRequest("b");
-    EXPECT_EQ(search.nextInterfaceRequest(), std::nullopt);
-}
-
-TEST_F(SearchStateTest, listAnswersEveryEarlierRequest)
-{
+    EXPECT_TRUE(search.isInterfacePending("c"));
     search.requestList();
-    search.requestInterface("net");
-    search.interfaceReceived("other", start, true);
-    search.listReceived(start + 2s, true);
+    search.listReceived(start, true);
+    EXPECT_FALSE(search.isInterfacePending("c")) << "a list answers every earlier request";
     EXPECT_FALSE(search.takeListRequest());
-    EXPECT_FALSE(search.isInterfacePending("net"));
 }
 
 TEST_F(SearchStateTest, producerIsUnresponsiveUntilItsNextReplyInTime)
 {
     search.deadlineMissed();
     EXPECT_FALSE(search.isResponsive());
-    search.listReceived(start, false);
-    EXPECT_FALSE(search.isResponsive());
-    search.listReceived(start, true);
-    EXPECT_TRUE(search.isResponsive());
-    search.interfaceReceived("net", start, false);
-    EXPECT_FALSE(search.isResponsive());
-    search.interfaceReceived("net", start, true);
-    EXPECT_TRUE(search.isResponsive());
+    for (const bool isInTime : {false, true, false, true}) {
+        search.listReceived(start, isInTime);
+        EXPECT_EQ(search.isResponsive(), isInTime);
+        search.interfaceReceived("net", start, !isInTime);
+        EXPECT_EQ(search.isResponsive(), !isInTime);
+    }
 }
 
 TEST_F(SearchStateTest, lostProducerHasNothingFreshAndNothingPendingButItsList)

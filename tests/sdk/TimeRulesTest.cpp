@@ -27,21 +27,12 @@ std::vector<Milliseconds> delaysOf(RestartPolicy &policy, int failures)
 
 } // namespace
 
-TEST(RestartPolicy, startsForTheFirstTimeAtOnce)
-{
-    EXPECT_LE(RestartPolicy(1s, 60s).nextStart(), start);
-}
-
 TEST(RestartPolicy, delayDoublesUpToTheLimit)
 {
-    RestartPolicy policy(1s, 10s);
+    RestartPolicy policy(1s, 10s), limited(20s, 10s);
+    EXPECT_LE(policy.nextStart(), start) << "the first start is not delayed";
     EXPECT_EQ(delaysOf(policy, 6), (std::vector<Milliseconds>{1s, 2s, 4s, 8s, 10s, 10s}));
-}
-
-TEST(RestartPolicy, firstDelayStaysBelowTheLimitToo)
-{
-    RestartPolicy policy(20s, 10s);
-    EXPECT_EQ(delaysOf(policy, 2), (std::vector<Milliseconds>{10s, 10s}));
+    EXPECT_EQ(delaysOf(limited, 2), (std::vector<Milliseconds>{10s, 10s}));
 }
 
 TEST(RestartPolicy, delayIsTheFirstAgainAfterALongRun)
@@ -59,7 +50,7 @@ TEST(RestartPolicy, delayIsTheFirstAgainAfterALongRun)
     }
 }
 
-TEST(PollSchedule, pollsOnceInEveryInterval)
+TEST(PollSchedule, pollsOnceInEveryIntervalAndOnceAfterAStandstill)
 {
     PollSchedule schedule(2s, start);
     EXPECT_EQ(schedule.nextPoll(), start + 2s);
@@ -67,11 +58,6 @@ TEST(PollSchedule, pollsOnceInEveryInterval)
     EXPECT_TRUE(schedule.takeDuePoll(start + 2100ms));
     EXPECT_EQ(schedule.nextPoll(), start + 4s) << "a late poll does not delay the next one";
     EXPECT_FALSE(schedule.takeDuePoll(start + 3999ms));
-}
-
-TEST(PollSchedule, replacesPollsMissedDuringAStandstillByOne)
-{
-    PollSchedule schedule(2s, start);
     EXPECT_TRUE(schedule.takeDuePoll(start + 100s));
     EXPECT_EQ(schedule.nextPoll(), start + 100s);
     EXPECT_TRUE(schedule.takeDuePoll(start + 100s));
@@ -98,18 +84,10 @@ TEST(StartOrder, prefersThoseThatWaitLongest)
     EXPECT_EQ(chooseStarts({start + 1ms, running}, start), std::vector<std::size_t>{});
 }
 
-TEST(NotificationHold, nothingIsDueWithoutAChange)
-{
-    NotificationHold hold;
-    EXPECT_FALSE(hold.dueTime());
-    hold.changed(start);
-    hold.notified();
-    EXPECT_FALSE(hold.dueTime());
-}
-
 TEST(NotificationHold, holdsAChangeBackButNotForEver)
 {
     NotificationHold hold;
+    EXPECT_FALSE(hold.dueTime());
     hold.holdUntil(start + 250ms);
     hold.holdUntil(start);
     hold.changed(start);
@@ -119,4 +97,6 @@ TEST(NotificationHold, holdsAChangeBackButNotForEver)
     EXPECT_EQ(hold.dueTime(), start + 450ms);
     hold.holdUntil(start + 700ms);
     EXPECT_EQ(hold.dueTime(), start + 500ms) << "half a second after the oldest change";
+    hold.notified();
+    EXPECT_FALSE(hold.dueTime());
 }

@@ -25,7 +25,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -54,24 +53,7 @@ struct Interface
     std::vector<Fields> devices; // Since the last update.
     std::map<std::string, std::size_t> places; // Index of each device, by ID.
     bool isUpdated = false;
-    std::atomic<bool> isUpdating{false};
-};
-
-/// Ends the process if two updates of one interface run at once.
-class UpdateGuard
-{
-public:
-    explicit UpdateGuard(Interface &interface) : m_interface(interface)
-    {
-        if (m_interface.isUpdating.exchange(true))
-            std::abort();
-    }
-    ~UpdateGuard() { m_interface.isUpdating = false; }
-    UpdateGuard(const UpdateGuard &) = delete;
-    UpdateGuard &operator=(const UpdateGuard &) = delete;
-
-private:
-    Interface &m_interface;
+    std::mutex updating;
 };
 
 struct Script
@@ -409,7 +391,9 @@ GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTimeout)
 {
     auto *interface = static_cast<Interface *>(hIface);
-    const UpdateGuard guard(*interface);
+    const std::unique_lock updating(interface->updating, std::try_to_lock);
+    if (!updating)
+        std::abort(); // Two updates of one interface must not run at once.
     readScript();
     const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
     int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Reads a text by the two-call protocol; an error gives "<error N>".
+/// Reads a string by the two-call protocol. Returns "<error N>" if that fails.
 template <typename Read>
 std::string textOf(const Read &read)
 {
@@ -18,29 +18,14 @@ std::string textOf(const Read &read)
     return text.substr(0, text.find('\0'));
 }
 
-inline std::string plainId(const CvxCPP::Camera &camera)
+inline std::string idOf(const CvxCPP::Camera &camera, bool isExtended)
 {
-    return textOf([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); });
+    return textOf([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, isExtended); });
 }
 
 inline std::string extendedId(const CvxCPP::Camera &camera)
 {
-    return textOf([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, true); });
-}
-
-inline std::string modelOf(const CvxCPP::Camera &camera)
-{
-    return textOf([&](char *buffer, unsigned &size) { return camera.GetModel(buffer, size); });
-}
-
-inline std::string nameOf(const CvxCPP::Camera &camera)
-{
-    return textOf([&](char *buffer, unsigned &size) { return camera.GetName(buffer, size); });
-}
-
-inline std::string serialOf(const CvxCPP::Camera &camera)
-{
-    return textOf([&](char *buffer, unsigned &size) { return camera.GetSerialNumber(buffer, size); });
+    return idOf(camera, true);
 }
 
 inline std::string valueOf(const CvxCPP::Feature &feature)

@@ -96,12 +96,3 @@ bool ClientProcess::waitFor(const std::string &text) const
 {
     return waitUntil([&] { return count(text) > 0; });
 }
-
-std::vector<double> ClientProcess::numbersAfter(const std::string &text) const
-{
-    const std::string all = output();
-    std::vector<double> numbers;
-    for (auto at = all.find(text); at != std::string::npos; at = all.find(text, at + 1))
-        numbers.push_back(std::atof(all.c_str() + at + text.size()));
-    return numbers;
-}

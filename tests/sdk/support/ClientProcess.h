@@ -5,8 +5,8 @@
 #include <sys/types.h>
 #include <vector>
 
-/// A program that the test runs: its output and errors are gathered in one file, its input stays open until
-/// the test closes it. It is killed at the latest with the object.
+/// A program that the test runs. Its output and errors go into one file; its input stays open until the test
+/// closes it. The destructor kills the program.
 class ClientProcess
 {
 public:
@@ -18,15 +18,12 @@ public:
     void closeInput();
     void kill(int signal);
 
-    /// Waits for its end; -1 when it takes too long, 1000 and the signal when it was ended by one.
+    /// Waits for the end. Returns -1 if it does not come, and 1000 plus the signal that ended the program.
     int exitStatus();
 
     std::string output() const;
     std::size_t count(const std::string &text) const;
     bool waitFor(const std::string &text) const;
-
-    /// The numbers that follow a text.
-    std::vector<double> numbersAfter(const std::string &text) const;
 
 private:
     pid_t m_process = -1;

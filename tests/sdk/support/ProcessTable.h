@@ -5,17 +5,17 @@
 #include <sys/types.h>
 #include <vector>
 
-/// The processes that have this parent, zombies included.
+/// Returns the processes that have this parent, zombies included.
 std::vector<pid_t> childrenOf(pid_t parent);
 
-/// All processes with this text in their command line.
+/// Returns all processes with this text in their command line.
 std::vector<pid_t> processesWith(const std::string &argument);
 
-/// Ends what a failed test has left of its own.
+/// Kills what a failed test has left behind.
 void killAll(const std::vector<pid_t> &processes);
 
-/// The open descriptors of this process.
+/// Returns the number of open descriptors of this process.
 std::size_t openDescriptors();
 
-/// Threads of this process.
+/// Returns the number of threads of this process.
 std::size_t threadCount();

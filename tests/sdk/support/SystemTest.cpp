@@ -32,15 +32,10 @@ SystemTest::~SystemTest()
 {
     system.reset();
     std::vector<pid_t> left;
-    // What a driver has forked is killed with its host, but may be there for a moment more.
-    const auto noneIsLeft = [&] {
-        left = processesWith(directory.path().string());
-        return left.empty();
-    };
-    EXPECT_TRUE(waitUntil(noneIsLeft, 2s)) << left.size() << " processes are left";
+    // Children of a producer are killed with its host, but end a moment later.
+    EXPECT_TRUE(waitUntil([&] { return (left = processesWith(directory.path().string())).empty(); }));
     killAll(left);
-    EXPECT_TRUE(childrenOf(getpid()).empty())
-        << "one that has ended has no command line, and is a child still";
+    EXPECT_TRUE(childrenOf(getpid()).empty()) << "a zombie has no command line";
     EXPECT_EQ(openDescriptors(), m_descriptors);
 }
 
@@ -71,11 +66,10 @@ std::size_t SystemTest::countCalls(const std::string &name, const std::string &c
         [&](const std::string &line) { return line.substr(0, line.find(' ')) == call; }));
 }
 
-CvxSystem &SystemTest::start()
+void SystemTest::start()
 {
     system = std::make_unique<CameraSystem>(options);
     EXPECT_EQ(system->Startup(), CvxErrorSuccess);
-    return *system;
 }
 
 void SystemTest::stop()

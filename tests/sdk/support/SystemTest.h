@@ -13,36 +13,34 @@
 #include <string>
 #include <vector>
 
-/// A camera system over producers of the test's own, in a directory of the test's own. Its times are short,
-/// but long enough that no healthy producer misses them on a loaded machine.
+/// A camera system over scripted producers, in a directory of the test. Its times are short, but long enough
+/// that no healthy producer misses a deadline on a loaded machine.
 class SystemTest : public testing::Test
 {
 protected:
     SystemTest();
-    ~SystemTest() override; ///< Ends the system, and fails the test when anything is left of it.
+    ~SystemTest() override; ///< Ends the system, and fails the test if anything is left of it.
 
     using Cameras = std::vector<std::shared_ptr<CvxCPP::Camera>>;
 
-    /// Adds a copy of the scriptable producer.
     void addProducer(const std::string &name, const std::string &script);
     void setScript(const std::string &name, const std::string &script);
     std::filesystem::path ctiPath(const std::string &file) const { return directory.path() / "cti" / file; }
 
-    /// The calls that a producer has got so far, in order, without their process.
+    /// Returns the calls that a producer has received so far.
     std::vector<std::string> callsOf(const std::string &name) const;
     std::size_t countCalls(const std::string &name, const std::string &call) const;
 
-    CvxCPP::CvxSystem &start(); ///< With the options as they are now.
+    void start(); ///< With the options as they are now.
     void stop();
 
     Cameras list();
-    std::vector<std::string> listIds(); ///< Extended IDs.
+    std::vector<std::string> listIds(); ///< Returns the extended IDs.
     std::shared_ptr<CvxCPP::Interface> interfaceOf(const Cameras &cameras, std::size_t index);
     std::shared_ptr<CvxCPP::Feature> feature(CvxCPP::FeatureContainer &interface, const char *name);
-
     std::shared_ptr<CameraRecorder> recordCameras();
 
-    std::vector<std::string> reports() const;
+    std::vector<std::string> reports() const; ///< Returns the lines about failing producers.
     std::size_t countReports(const std::string &text) const;
 
     TemporaryDirectory directory;
@@ -55,5 +53,5 @@ private:
     std::vector<std::string> m_reports;
 };
 
-/// A script with cameras "A1", "A2", … on one GigE interface "net0".
+/// Returns a script with cameras "A1", "A2", … on one GigE Vision interface "net0".
 std::string cameras(int count);

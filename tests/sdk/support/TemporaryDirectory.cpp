@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <ios>
 #include <iterator>
 #include <stdexcept>
 #include <system_error>
@@ -28,7 +29,9 @@ void writeFile(const std::filesystem::path &path, const std::string &content)
 }
 
 std::string readFile(const std::filesystem::path &path)
-{
+try {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), {});
+} catch (const std::ios_base::failure &) {
+    return {}; // A process that ends while its file in /proc is read.
 }

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-/// A directory of the test's own, which is removed with everything in it.
+/// A directory of the test, which is removed with everything in it.
 class TemporaryDirectory
 {
 public:
@@ -18,6 +18,8 @@ private:
     std::filesystem::path m_path;
 };
 
-/// Writes a file in one go: readers see the old content or the new.
+/// Writes a file in one step: readers see the old content or the new one.
 void writeFile(const std::filesystem::path &path, const std::string &content);
+
+/// Returns the content of a file; empty if it cannot be read.
 std::string readFile(const std::filesystem::path &path);
