@@ -28,7 +28,7 @@ using CvxCPP::CvxSystem;
 
 namespace {
 
-/// The list of cameras; empty, with a warning in the log, when the SDK throws.
+/// Returns the list of cameras. Logs a warning and returns an empty list if the SDK throws.
 QVector<CameraInfo> scan(const CorvixCameraProvider *provider)
 {
     try {
@@ -41,7 +41,7 @@ QVector<CameraInfo> scan(const CorvixCameraProvider *provider)
     return {};
 }
 
-/// Starts the program in its own directory; true only when there is a process.
+/// Starts the program in its own directory. Returns true only if a process was created.
 bool startTool(const QString &path)
 {
     const QFileInfo file(path);
@@ -64,19 +64,16 @@ ApplicationController::ApplicationController(QObject *parent)
     installRoot = InstallRootResolver::resolve();
     connect(window.get(), &MainWindow::requestRefreshCameras, this, &ApplicationController::refreshCameras);
     connect(window.get(), &MainWindow::requestLaunchTool, this, &ApplicationController::launchTool);
-    connect(&watcher, &QFutureWatcherBase::finished, this, [this] {
-        if (!watcher.isCanceled()) // A cancelled future has no result to ask for.
-            onCameraListReady(watcher.result());
-    });
+    connect(&watcher, &QFutureWatcherBase::finished, this, [this] { onCameraListReady(watcher.result()); });
     setupTray();
 }
 
 ApplicationController::~ApplicationController()
 {
-    // QtConcurrent::run() cannot be cancelled; it is the wait that keeps the scan off a closed SDK.
+    // QtConcurrent::run() cannot be cancelled, so wait: the scan must not use an SDK that is shut down.
     watcher.cancel();
     watcher.waitForFinished();
-    CvxSystem::GetInstance().Shutdown(); // Drops the observers; nothing to do about an error here.
+    CvxSystem::GetInstance().Shutdown(); // Also drops the observers. An error changes nothing for us.
 }
 
 bool ApplicationController::init()
@@ -94,7 +91,7 @@ bool ApplicationController::init()
             QStringLiteral("Unable to register camera list observer"), QMessageBox::Ok);
     }
 
-    // Intended: nothing listens to this one. Only changes of the camera list cause a refresh.
+    // Intended: its signal is connected to nothing. Only camera-list changes cause a refresh.
     interfaceObserver = std::make_shared<InterfaceObserver>(&observerMutex);
     if (system.RegisterInterfaceListObserver(interfaceObserver) != CvxErrorSuccess) {
         QMessageBox::critical(nullptr, QStringLiteral("Error"),
@@ -116,17 +113,17 @@ int ApplicationController::run()
 void ApplicationController::refreshCameras()
 {
     if (scanning)
-        return; // Dropped on purpose: a request during a scan causes no second scan afterwards.
+        return; // Intended: a request during a scan is dropped. It causes no second scan afterwards.
     if (!cameraProvider)
-        return; // A camera is announced while a box of init() stands open. The first scan will list it.
+        return; // The SDK reports a camera while init() shows a message box; the first scan will list it.
     scanning = true;
     window->setRefreshEnabled(false);
 
     CameraInfo placeholder;
     placeholder.vendorName = tr("Scanning...");
     window->setCameras({placeholder});
-    window->setSelectedCamera(
-        CameraInfo()); // Redraws; the placeholder's empty fields make it the selected row.
+    // Redraws the table. The placeholder has no ID either, so its row is drawn as the selected one.
+    window->setSelectedCamera(CameraInfo());
 
     watcher.setFuture(QtConcurrent::run(QThreadPool::globalInstance(), scan, cameraProvider.get()));
 }

@@ -18,7 +18,7 @@ class MainWindow;
 class QMenu;
 class QSystemTrayIcon;
 
-/// Owns everything: the camera SDK's start and end, the window, the tray, the running camera scan.
+/// Starts and shuts down the camera SDK, and owns the window, the tray icon and the running camera scan.
 class ApplicationController : public QObject
 {
     Q_OBJECT
@@ -26,22 +26,28 @@ class ApplicationController : public QObject
 public:
     explicit ApplicationController(QObject *parent = nullptr);
 
-    /// Waits for a running scan, then shuts the SDK down, also when it never started.
+    /// Waits for a running scan, then shuts the SDK down, even if it never started.
     ~ApplicationController() override;
 
-    /// Starts the SDK and wires everything up; false only when the SDK does not start.
+    /// Starts the SDK, registers the observers and loads the configuration.
+    /// Returns false only if the SDK does not start.
     bool init();
 
     /// Starts the first scan, shows the window and runs the event loop; returns the loop's exit code.
     int run();
 
 public slots:
-    /// Starts a scan in the background. A request during a scan is dropped, not remembered.
+    /// Starts a scan on a pool thread. A request during a scan is dropped, not queued.
     void refreshCameras();
+
+    /// Ends the scan: shows its cameras and clears the selection.
     void onCameraListReady(const QVector<CameraInfo> &list);
 
-    /// Starts the tool detached, in its own directory; a relative path counts from the install root.
+    /// Starts the tool as a detached process in its own directory. A relative path is resolved against the
+    /// install root. Shows a warning if the tool does not start.
     void launchTool(const QString &toolPath);
+
+    /// Hides the window if there is a visible tray icon; otherwise minimises it.
     void minimizeToTray();
     void closeApp();
     void showFromTray();
@@ -49,12 +55,12 @@ public slots:
 private:
     void setupTray();
 
-    // Destroyed from the bottom up: the watcher goes before the window that its handler talks to.
+    // Members are destroyed from the bottom up: the watcher before the window that its handler uses.
     QString installRoot;
     QVector<CameraInfo> cameras;
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<CorvixCameraProvider> cameraProvider;
-    QSystemTrayIcon *trayIcon = nullptr; // Null on a desktop without a tray.
+    QSystemTrayIcon *trayIcon = nullptr; // Null if the desktop has no tray.
     QMenu *trayMenu = nullptr;
     QMutex observerMutex; // Serialises the two observers' callbacks against each other.
     std::shared_ptr<CameraObserver> cameraObserver;

@@ -1,6 +1,6 @@
 #include "app/CameraObserver.h"
 
-#include "camera/SdkText.h"
+#include "camera/SdkRead.h"
 
 #include <QMutex>
 #include <QMutexLocker>
@@ -13,9 +13,8 @@ void CameraObserver::CameraListChanged(
     const QMutexLocker locker(mutex);
     if (!camera)
         return;
-    QString id;
     const auto extendedId
         = [&camera](char *buffer, unsigned &size) { return camera->GetID(buffer, size, true); };
-    if (SdkText::read(extendedId, id))
-        emit updateDeviceList(id, reason);
+    if (const std::optional<QString> id = SdkRead::decoded(SdkRead::bytes(extendedId)))
+        emit updateDeviceList(*id, reason);
 }

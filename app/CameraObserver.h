@@ -6,20 +6,20 @@
 
 class QMutex;
 
-/// Brings the SDK's camera-list notifications into Qt's world. Called on the SDK's thread.
+/// Turns the SDK's camera-list notifications into a Qt signal, which it emits on the SDK's thread.
 class CameraObserver : public QObject, public CvxCPP::ICameraListObserver
 {
     Q_OBJECT
 
 public:
-    /// `sharedMutex` (may be null) serialises this observer against others; it has to outlive us.
+    /// The observer holds `sharedMutex` during a notification. It may be null; otherwise it must outlive us.
     explicit CameraObserver(QMutex *sharedMutex);
 
-    /// Announces the camera by its extended ID; announces nothing when that cannot be read.
+    /// Emits updateDeviceList() with the extended ID; emits nothing if that ID cannot be read.
     void CameraListChanged(std::shared_ptr<CvxCPP::Camera> camera, CvxCPP::UpdateTriggerType reason) override;
 
 signals:
-    /// `reason` is the SDK's trigger value, passed on unchanged.
+    /// `reason` is the SDK's trigger value, unchanged.
     void updateDeviceList(QString cameraId, unsigned int reason);
 
 private:

@@ -6,13 +6,13 @@
 
 class QMutex;
 
-/// Brings the SDK's interface-list notifications into Qt's world. Called on the SDK's thread.
+/// Turns the SDK's interface-list notifications into a Qt signal, which it emits on the SDK's thread.
 class InterfaceObserver : public QObject, public CvxCPP::IInterfaceListObserver
 {
     Q_OBJECT
 
 public:
-    /// `sharedMutex` (may be null) serialises this observer against others; it has to outlive us.
+    /// The observer holds `sharedMutex` during a notification. It may be null; otherwise it must outlive us.
     explicit InterfaceObserver(QMutex *sharedMutex);
 
     void InterfaceListChanged(

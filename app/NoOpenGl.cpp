@@ -10,16 +10,16 @@ constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
 
 } // namespace
 
-NoOpenGl::NoOpenGl() : m_isOurs(!qEnvironmentVariableIsSet(variable))
+NoOpenGl::NoOpenGl() : m_isSetByUs(!qEnvironmentVariableIsSet(variable))
 {
-    if (m_isOurs)
+    if (m_isSetByUs)
         qputenv(variable, "none");
 }
 
 NoOpenGl::~NoOpenGl()
 {
-    if (QGuiApplication::platformName() == QLatin1String("xcb")) // Elsewhere the question would load it.
-        QOpenGLContext::supportsThreadedOpenGL(); // Asked for the decision only.
-    if (m_isOurs)
-        qunsetenv(variable); // Or the tools would do without as well.
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) // On other platforms the call loads OpenGL.
+        QOpenGLContext::supportsThreadedOpenGL(); // Called only because it makes Qt read the variable.
+    if (m_isSetByUs)
+        qunsetenv(variable); // The tools that we start would inherit it.
 }

@@ -1,19 +1,19 @@
 #pragma once
 
-/// Keeps Qt from loading OpenGL, with which nothing here is drawn: on X11 that takes a third of a start.
-/// Has to live while the application is made.
+/// Keeps Qt on X11 from loading OpenGL, which nothing in this program draws with; loading it takes a third of
+/// the start-up time. Create it before the QApplication and destroy it right afterwards.
 class NoOpenGl
 {
 public:
-    /// Tells Qt by its own variable, where the user has not set it.
+    /// Sets the environment variable that disables OpenGL in Qt, unless the user has set it.
     NoOpenGl();
 
-    /// Has Qt decide, which it does once, and takes the variable back.
+    /// Makes Qt read the variable, which it does only once, and removes it from the environment.
     ~NoOpenGl();
 
     NoOpenGl(const NoOpenGl &) = delete;
     NoOpenGl &operator=(const NoOpenGl &) = delete;
 
 private:
-    const bool m_isOurs;
+    const bool m_isSetByUs;
 };

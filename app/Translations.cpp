@@ -9,10 +9,10 @@
 
 namespace {
 
-const QLatin1String catalogueDirectory(":/translations");
-const QLatin1String cataloguePrefix("corvix_");
+constexpr QLatin1String catalogueDirectory(":/translations");
+constexpr QLatin1String cataloguePrefix("corvix_");
 
-/// The catalogues that are compiled in, by what follows the prefix: "de", "zh_CN".
+/// Returns the locale names of the catalogues that are compiled in, such as "de" and "zh_CN".
 QStringList catalogues()
 {
     QStringList names;
@@ -22,8 +22,8 @@ QStringList catalogues()
     return names;
 }
 
-/// The catalogue for a language, whatever the country; empty when there is none. The script has to agree,
-/// too: simplified Chinese is for Singapore and not for Taiwan.
+/// Returns the catalogue whose language and script match; empty if there is none. The country does not
+/// matter, but the script does: the simplified Chinese catalogue serves Singapore and not Taiwan.
 QString catalogueFor(const QLocale &wanted)
 {
     const QStringList names = catalogues();
@@ -35,17 +35,17 @@ QString catalogueFor(const QLocale &wanted)
     return {};
 }
 
-/// The catalogue of the first language that the user wants and we have; empty for English.
-QString catalogueOfTheUser()
+/// Returns the catalogue for the first of the user's languages that has one; empty for English.
+QString userCatalogue()
 {
     const QLocale system = QLocale::system();
     if (system.language() == QLocale::C)
-        return {}; // As elsewhere, LANGUAGE says nothing in the C locale.
+        return {}; // The C locale overrides the variable LANGUAGE, as in gettext.
     const QStringList languages = system.uiLanguages();
     for (const QString &language : languages) {
         const QLocale wanted(language);
         if (wanted.language() == QLocale::English)
-            return {}; // What the sources speak: a language that comes after it is not asked for.
+            return {}; // The sources are in English, so the languages after it do not count.
         QString name = catalogueFor(wanted);
         if (!name.isEmpty())
             return name;
@@ -57,12 +57,12 @@ QString catalogueOfTheUser()
 
 Translations::Translations()
 {
-    const QString name = catalogueOfTheUser();
+    const QString name = userCatalogue();
     if (name.isEmpty())
-        return; // Qt's texts stay English as well: a window in two languages helps nobody.
+        return; // Qt's texts stay English too, or the window would mix two languages.
     if (m_qt.load(QLatin1String("qtbase_") + name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);
-    // The one installed last is asked first.
+    // Qt searches the translator that was installed last first.
     if (m_launcher.load(cataloguePrefix + name, catalogueDirectory))
         QCoreApplication::installTranslator(&m_launcher);
 }

@@ -2,12 +2,12 @@
 
 #include <QTranslator>
 
-/// Shows texts in the user's language while it lives: the launcher's, and Qt's own where its catalogues are
-/// installed. They stay English for a user whose language we do not speak.
+/// Translates the launcher's texts into the user's language while it lives, and Qt's texts if Qt's catalogue
+/// is installed. All texts stay English if the launcher has no catalogue for the user's language.
 class Translations
 {
 public:
-    /// Reads what the environment says of the language, once; needs the application.
+    /// Chooses the language from the locale environment variables. Needs the application object.
     Translations();
 
 private:

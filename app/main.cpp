@@ -12,10 +12,9 @@
 
 int main(int argc, char *argv[])
 {
-    // By this a desktop finds the entry that belongs to our windows, be it X11 (the class) or Wayland.
-    const QString applicationId = QStringLiteral("example.orvelle.CorvixLauncher");
-    QApplication::setApplicationName(applicationId);
-    QApplication::setDesktopFileName(applicationId);
+    // A Wayland desktop finds our desktop entry by this name; an X11 desktop finds it by the window class,
+    // which is the program's file name.
+    QApplication::setDesktopFileName(QStringLiteral("example.orvelle.CorvixLauncher"));
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
@@ -26,14 +25,14 @@ int main(int argc, char *argv[])
 
     QFile styleSheet(QStringLiteral(":/styles/style.qss"));
     if (styleSheet.open(QIODevice::ReadOnly)) {
-        // The constData() on purpose: the text ends at its first NUL.
+        // Intended: constData() ends the style sheet at its first NUL byte.
         application.setStyleSheet(QString::fromUtf8(styleSheet.readAll().constData()));
         styleSheet.close();
     } else {
         qWarning("Failed to load stylesheet");
     }
 
-    const Translations translations; // Before the window asks for its first text.
+    const Translations translations; // Needed before the window is created.
     ApplicationController controller;
     if (controller.init())
         return controller.run();

@@ -1,4 +1,4 @@
-"""Measures the built release and prints one table. script/bench prepares what this needs.
+"""Measures the release build and prints one table. script/bench prepares everything that this program needs.
 
 usage: bench.py BUILD PLACE RESULT PAIRS [GROUP…]
 """
@@ -20,27 +20,27 @@ import plugging
 import querying
 import size
 import starting
-from frames import Screen
+from frames import BOUND, Screen
 
 GROUPS = {"starting": starting, "listing": listing, "clicking": clicking, "querying": querying, "plugging": plugging,
           "idling": idling, "size": size}
 
 
 class Bench:
-    """What all measurements share."""
+    """The data that all measurements share."""
 
     def __init__(self, build, place, count, screen):
         self.build, self.place, self.pairs, self.screen = build, place, count, screen
         self.stage = f"{place}/stage"
         self.launcher = f"{self.stage}/bin/CorvixLauncher"
         self.test_producer = f"{build}/tests/sdk/sdk_test_producer.cti"
-        self.curves = {}  # For the chart: measured values by size, by name.
+        self.curves = {}  # Measured values by size, for each curve of the chart.
 
     def program(self, name):
         return f"{self.build}/bench/bench_{name}"
 
     def rounds(self, full):
-        """Of what is not measured in pairs: all of them, or fewer where fewer pairs were asked for."""
+        """Returns the number of rounds of a measurement without pairs: fewer if fewer pairs are requested."""
         return min(full, 2 * self.pairs)
 
 
@@ -50,7 +50,7 @@ def machine():
     with open("/etc/os-release", encoding="utf-8") as file:
         system = dict(line.strip().split("=", 1) for line in file if "=" in line)["PRETTY_NAME"].strip('"')
     commit = subprocess.run(["git", "rev-parse", "--short", "HEAD"], cwd=os.path.dirname(os.path.abspath(__file__)),
-                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout.strip()
+                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False, timeout=BOUND).stdout.strip()
     return {"date": datetime.date.today().isoformat(), "commit": commit, "processor": model, "cores": os.cpu_count(),
             "system": system, "kernel": platform.release(), "load before": round(os.getloadavg()[0], 2)}
 

@@ -1,4 +1,4 @@
-"""Draws cost against size, both on logarithmic scales, as SVG."""
+"""Draws cost over size as SVG, both on logarithmic scales."""
 
 import math
 import statistics
@@ -24,26 +24,26 @@ text {{ fill: #e8edf2; }}
 
 
 class Scale:
-    """From the least value to the most, with a little room."""
+    """A logarithmic scale that covers all values, with a margin of 3 %."""
 
     def __init__(self, values, start, end):
-        least, most = math.log10(min(values)), math.log10(max(values))
-        room = 0.03 * (most - least)
-        self.least, self.most = least - room, most + room
+        minimum, maximum = math.log10(min(values)), math.log10(max(values))
+        margin = 0.03 * (maximum - minimum)
+        self.minimum, self.maximum = minimum - margin, maximum + margin
         self.start, self.end = start, end
 
     def place(self, value):
-        return self.start + (self.end - self.start) * (math.log10(value) - self.least) / (self.most - self.least)
+        return self.start + (self.end - self.start) * (math.log10(value) - self.minimum) / (self.maximum - self.minimum)
 
     def marks(self):
-        """1, 2 and 5 of every decade."""
-        values = [digit * 10.0 ** power for power in range(math.floor(self.least), math.ceil(self.most))
+        """Returns 1, 2 and 5 times each power of ten on the scale."""
+        values = [digit * 10.0 ** power for power in range(math.floor(self.minimum), math.ceil(self.maximum))
                   for digit in (1, 2, 5)]
-        return [value for value in values if self.least <= math.log10(value) <= self.most]
+        return [value for value in values if self.minimum <= math.log10(value) <= self.maximum]
 
 
 def draw(curves):
-    """Of curves by name, each of which has measured values by size."""
+    """Returns the chart of curves by name; each curve maps a size to its measured values."""
     medians = {name: {size: statistics.median(values) for size, values in curve.items()}
                for name, curve in curves.items()}
     across = Scale([size for curve in medians.values() for size in curve], LEFT, WIDTH - RIGHT)
@@ -70,5 +70,5 @@ def line(x1, y1, x2, y2):
     return f'<line class="grid" x1="{x1:.1f}" y1="{y1:.1f}" x2="{x2:.1f}" y2="{y2:.1f}"/>'
 
 
-def text(x, y, words, anchor="start"):
-    return f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="{anchor}">{words}</text>'
+def text(x, y, content, anchor="start"):
+    return f'<text x="{x:.1f}" y="{y:.1f}" text-anchor="{anchor}">{content}</text>'

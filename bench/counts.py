@@ -1,6 +1,6 @@
-"""Counts the instructions of the four pure paths, or compares them with bench/baseline.json.
+"""Counts the instructions of four functions, and compares them with bench/baseline.json or updates that file.
 
-usage: counts.py [--check | --update] PROGRAM
+usage: counts.py --check | --update PROGRAM
 """
 
 import json
@@ -12,32 +12,31 @@ import tempfile
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 BASELINE = f"{HERE}/baseline.json"
-MOST_GROWTH = 0.05
+MAX_GROWTH = 0.05
 PATHS = "list_parsing", "group_matching", "configuration_load", "tooltip_building"
 SKIPPED = 77
 
-# What differs between machines, and between runs, is kept out: the processor's newer instructions, which the C library
-# and Qt choose at run time, the order of Qt's hashes, symbols that are looked up at their first call, the language, and
-# all else that an environment may hold.
-WITHOUT = ("AVX", "AVX2", "AVX512BW", "AVX512F", "AVX512VL", "AVX_Fast_Unaligned_Load", "BMI1", "BMI2", "ERMS", "FSRM",
-           "LZCNT", "MOVBE", "POPCNT", "RTM", "SSE3", "SSE4_1", "SSE4_2", "SSSE3", "XSAVE", "XSAVEC")
+# The environment removes differences between machines and between runs: newer processor instructions, which the C
+# library and Qt select at run time, the order of Qt's hashes, lazy binding of symbols, and the language.
+DISABLED = ("AVX", "AVX2", "AVX512BW", "AVX512F", "AVX512VL", "AVX_Fast_Unaligned_Load", "BMI1", "BMI2", "ERMS", "FSRM",
+            "LZCNT", "MOVBE", "POPCNT", "RTM", "SSE3", "SSE4_1", "SSE4_2", "SSSE3", "XSAVE", "XSAVEC")
 ENVIRONMENT = {
     "PATH": os.environ["PATH"],
     "LC_ALL": "C.UTF-8",
     "LD_BIND_NOW": "1",
-    "GLIBC_TUNABLES": "glibc.cpu.hwcaps=" + ",".join(f"-{name}" for name in WITHOUT),
+    "GLIBC_TUNABLES": "glibc.cpu.hwcaps=" + ",".join(f"-{name}" for name in DISABLED),
     "QT_NO_CPU_FEATURE": "sse3 ssse3 sse4.1 sse4.2 avx avx2 avx512f",
     "QT_HASH_SEED": "0",
 }
 
 
 def first_line(*command):
-    printed = subprocess.run(command, stdout=subprocess.PIPE, check=True, text=True).stdout
+    printed = subprocess.run(command, stdout=subprocess.PIPE, check=True, text=True, timeout=30).stdout
     return printed.splitlines()[0] if printed else ""
 
 
 def toolchain():
-    """What a count depends on beside the sources: it says nothing about another one."""
+    """Returns everything but the sources that a count depends on. Counts of different toolchains do not compare."""
     return {
         "machine": os.uname().machine,
         "compiler": first_line("c++", "-dumpfullversion"),
@@ -47,32 +46,33 @@ def toolchain():
 
 
 def count(program, path):
-    """Instructions of the path's function and of all that it calls."""
+    """Returns the number of instructions of the function and of everything that it calls."""
     with tempfile.NamedTemporaryFile("r", encoding="utf-8") as result:
         run = subprocess.run(
             ["valgrind", "--tool=callgrind", f"--callgrind-out-file={result.name}", "--collect-atstart=no",
              f"--toggle-collect=count_{path}", program],
-            env=ENVIRONMENT, cwd="/", stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
+            env=ENVIRONMENT, cwd="/", stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False,
+            timeout=300)
         assert run.returncode == 0, f"{program} failed:\n{run.stdout}"
         return int(re.search(r"^totals: (\d+)$", result.read(), re.MULTILINE)[1])
 
 
 def check(counts):
-    """Prints what each path takes, and gives the exit status."""
+    """Prints the growth of each count; returns the exit status."""
     with open(BASELINE, encoding="utf-8") as file:
         baseline = json.load(file)
     if baseline["toolchain"] != toolchain():
-        print(f"SKIPPED: bench/baseline.json is of {baseline['toolchain']}, and this is {toolchain()}.")
+        print(f"SKIPPED: bench/baseline.json was made with {baseline['toolchain']}, this is {toolchain()}.")
         return SKIPPED
     status = 0
     for path, now in counts.items():
-        then = baseline["instructions"][path]
-        growth = now / then - 1
-        grown = growth > MOST_GROWTH or not now  # None at all: the function has another name.
-        print(f"{path:20} {then:>10} -> {now:>10}  {growth:+7.2%}{'  more than 5 %' if grown else ''}")
+        before = baseline["instructions"][path]
+        growth = now / before - 1
+        grown = growth > MAX_GROWTH or not now  # 0: there is no function of this name.
+        print(f"{path:20} {before:>10} -> {now:>10}  {growth:+7.2%}{'  more than 5 %' if grown else ''}")
         status = status or int(grown)
     if status:
-        print("Where it is wanted: script/bench --update, and a word on it in the commit.")
+        print("To accept the growth, run script/bench --update and give the reason in the commit.")
     return status
 
 

@@ -1,4 +1,4 @@
-"""What the X server draws, and when: the programs that are measured are left as they are, with no plugin in them."""
+"""Observes through the X server what a program draws, and when. The measured programs run unchanged, without a plugin."""
 
 import contextlib
 import ctypes
@@ -9,8 +9,8 @@ import subprocess
 import tempfile
 import time
 
-BOUND = 30.0  # seconds, for everything that is waited for
-WITHOUT_OPENGL = {"QT_XCB_GL_INTEGRATION": "none"}  # An environment for Qt.
+BOUND = 30.0  # seconds for every wait
+WITHOUT_OPENGL = {"QT_XCB_GL_INTEGRATION": "none"}  # Environment of a Qt program.
 xlib, xdamage, xtest = (ctypes.CDLL(f"lib{name}") for name in ("X11.so.6", "Xdamage.so.1", "Xtst.so.6"))
 ulong, pointer = ctypes.c_ulong, ctypes.c_void_p
 xlib.XOpenDisplay.restype = pointer
@@ -21,7 +21,7 @@ RAW_RECTANGLES, ALL_PLANES, Z_PIXMAP = 0, ulong(-1), 2
 
 class Image(ctypes.Structure):
     _fields_ = [("width", ctypes.c_int), ("height", ctypes.c_int), ("xoffset", ctypes.c_int),
-                ("format", ctypes.c_int), ("data", pointer)]  # And more, which we need not know.
+                ("format", ctypes.c_int), ("data", pointer)]  # The rest of the structure is not used.
 
 
 class CreateEvent(ctypes.Structure):
@@ -43,11 +43,11 @@ class Event(ctypes.Union):
 
 
 xlib.XGetImage.restype = ctypes.POINTER(Image)
-error_handler = ctypes.CFUNCTYPE(ctypes.c_int, pointer, pointer)(lambda *_: 0)  # Windows go as they please.
+error_handler = ctypes.CFUNCTYPE(ctypes.c_int, pointer, pointer)(lambda *_: 0)  # A window may close at any time.
 
 
 class Screen:
-    """Follows the windows of the size that is measured; to be used in a with statement."""
+    """Follows the newest window that has the size of the launcher's. Use it in a with statement."""
 
     def __enter__(self):
         xlib.XSetErrorHandler(error_handler)
@@ -66,7 +66,7 @@ class Screen:
         xlib.XCloseDisplay(self.display)
 
     def drawn(self, bound=BOUND):
-        """The next box that is drawn in the window, in its coordinates; none when nothing is in that time."""
+        """Returns the next rectangle that is drawn, in coordinates of the window; None after `bound` seconds."""
         end = time.monotonic() + bound
         while True:
             while xlib.XPending(self.display):
@@ -82,13 +82,13 @@ class Screen:
 
     def note_window(self, event):
         if event.width < 500 or event.height < 500 or event.override_redirect:
-            return  # A helper of Qt's, or a frame.
+            return  # A helper window of Qt, or a frame.
         self.window, self.size = event.window, (event.width, event.height)
         xdamage.XDamageCreate(self.display, ulong(self.window), RAW_RECTANGLES)
         xlib.XFlush(self.display)
 
     def await_window(self):
-        """Until all of a new window has been drawn; gives the time."""
+        """Waits until a new window is drawn completely; returns the time."""
         self.window = None
         left, top, right, bottom = 1 << 15, 1 << 15, 0, 0
         while True:
@@ -100,31 +100,30 @@ class Screen:
                 return time.monotonic()
 
     def await_texts(self, boxes, wanted=True):
-        """Until there is a text in each of the boxes of the window, or in none; gives the time."""
+        """Waits until every rectangle of the window contains text, or until none does; returns the time."""
         end = time.monotonic() + BOUND
         while not all(self.has_text(box) == wanted for box in boxes):
-            assert time.monotonic() < end and self.drawn(), "what was awaited is not drawn"
+            assert time.monotonic() < end and self.drawn(), "the expected text is not drawn"
         return time.monotonic()
 
     def await_quiet(self, seconds=0.3):
-        """Until nothing has been drawn for so long."""
+        """Waits until nothing has been drawn for so long."""
         end = time.monotonic() + BOUND
         while self.drawn(seconds):
-            assert time.monotonic() < end, "drawing does not end"
+            assert time.monotonic() < end, "the window is drawn again and again"
 
     def has_text(self, box):
-        """Text has many shades, whatever its colours; an empty place has next to none."""
+        """Returns whether a rectangle contains text: text has many shades, an empty rectangle has few."""
         image = xlib.XGetImage(self.display, ulong(self.window), *box, ALL_PLANES, Z_PIXMAP)
         if not image:
-            return False  # Not on the screen yet.
+            return False  # The window is not on the screen yet.
         pixels = ctypes.string_at(image.contents.data, 4 * box[2] * box[3])
         xlib.XFree(pointer(image.contents.data))
         xlib.XFree(image)
         return len({pixels[start:start + 4] for start in range(0, len(pixels), 4)}) > 8
 
     def press(self, place):
-        """Presses the left button at a place in the window, where the pointer has rested; gives the time just
-        before."""
+        """Moves the pointer, waits until drawing ends and clicks; returns the time just before the click."""
         xlib.XWarpPointer(self.display, ulong(0), ulong(self.window), 0, 0, 0, 0, *place)
         xlib.XSync(self.display, 0)
         self.await_quiet()
@@ -137,7 +136,7 @@ class Screen:
 
 @contextlib.contextmanager
 def running(*command, environment=None):
-    """A program on the screen: gives the process and when its start began. It is killed in the end."""
+    """Runs a program; yields the process and the time just before its start. Kills it at the end."""
     with tempfile.TemporaryFile() as errors:
         started = time.monotonic()
         process = subprocess.Popen(command, cwd="/", env={**os.environ, "LC_ALL": "C.UTF-8", **(environment or {})},
@@ -149,4 +148,4 @@ def running(*command, environment=None):
             raise AssertionError(f"{failure}; {command} printed: {errors.read().decode()}") from None
         finally:
             process.send_signal(signal.SIGKILL)
-            process.wait()
+            process.wait(BOUND)

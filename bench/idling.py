@@ -1,4 +1,4 @@
-"""What the launcher takes of the machine while nobody looks."""
+"""Measures what the launcher uses while it is idle."""
 
 import contextlib
 import os
@@ -7,12 +7,12 @@ import time
 
 import footprint
 from frames import WITHOUT_OPENGL, running
-from pairs import TOLD_ONLY, Figure, at_most_on_average, at_most_times, in_pairs
+from pairs import WITHOUT_TARGET, Figure, at_most_on_average, at_most_times, in_pairs
 from places import LISTED
 
-SETTLED = 2.0  # seconds, until what a start leaves behind has gone.
-POOL_SETTLED = 32.0  # seconds: threads of Qt's pool end after 30.
-SLICES, SLICE = 15, 4.0  # seconds: 60 in all.
+SETTLED = 2.0  # seconds until the work of the start is done.
+POOL_SETTLED = 32.0  # seconds: idle threads of Qt's pool end after 30.
+SLICES, SLICE = 15, 4.0  # seconds: 60 altogether.
 
 
 @contextlib.contextmanager
@@ -25,7 +25,7 @@ def idle_launcher(bench, settled):
 
 
 def memory(processes):
-    """MiB, of which shared pages count in parts."""
+    """Returns the memory in MiB; shared pages count proportionally (PSS)."""
     return sum(footprint.Footprint(process).memory["PSS"] for process in processes) / 1024
 
 
@@ -46,7 +46,7 @@ def floor(bench, environment=None):
 
 
 class Activity:
-    """Seconds of processor time, and how often it was woken, of all threads of a process so far."""
+    """Processor time in seconds and number of wake-ups of all threads of a process so far."""
 
     def __init__(self, process):
         self.seconds, self.wakes = 0.0, 0
@@ -57,10 +57,10 @@ class Activity:
 
 
 def activity(bench):
-    """Slice by slice: the processor time of all in percent, and the wake-ups a second of launcher and host."""
+    """Returns for each slice: processor time of both processes in percent, wake-ups per second of launcher and host."""
     with idle_launcher(bench, POOL_SETTLED) as launcher:
         processes = [launcher, *footprint.hosts(launcher).values()]
-        assert len(processes) == 2, "there is one producer, and so one host"
+        assert len(processes) == 2, "there is exactly one producer host"
         before, slices = [Activity(process) for process in processes], []
         for _ in range(bench.rounds(SLICES)):
             time.sleep(SLICE)
@@ -75,7 +75,7 @@ def figures(bench):
     name = "memory (PSS) of launcher and host, idle"
     yield Figure(name, "MiB", *in_pairs(lambda: ours(bench), lambda: floor(bench), bench.pairs), *at_most_times(1.3))
     yield Figure(f"{name}, floor without OpenGL", "MiB",
-                 *in_pairs(lambda: ours(bench), lambda: floor(bench, WITHOUT_OPENGL), bench.pairs), *TOLD_ONLY)
+                 *in_pairs(lambda: ours(bench), lambda: floor(bench, WITHOUT_OPENGL), bench.pairs), *WITHOUT_TARGET)
     processor, launcher, host = activity(bench)
     yield Figure("processor use, idle, one producer", "%", processor, [0], *at_most_on_average(0.3, "% of a core"))
     yield Figure("wake-ups of the launcher, idle", "/s", launcher, [0], *at_most_on_average(5, "/s"))

@@ -1,5 +1,6 @@
-"""Lists of the SDK, as records of the launcher, from its start on: hosts are started, and load their producers."""
+"""Measures how long the SDK takes to list cameras, from its start: hosts start and load their producers."""
 
+import glob
 import json
 import math
 import os
@@ -7,23 +8,24 @@ import shutil
 import statistics
 import subprocess
 
+from frames import BOUND
 from pairs import Figure, at_most, at_most_times, in_pairs
 from scripted import ScriptedProducer
 
-DELAY = 500.0  # ms, that a slow producer takes.
+DELAY = 500.0  # ms that a slow producer takes to answer.
 SIZES = 10, 30, 100, 300, 1000
-MOST_LATE, MOST_LATE_EACH = 60, 15  # ms, and more for each where there are several producers.
+MAX_EXTRA, MAX_EXTRA_EACH = 60, 15  # ms above the floor, and for each of several producers.
 
 
 class Installation:
-    """What a list needs of an installation, with producers of its own."""
+    """The part of an installation that listing cameras needs, with other producers."""
 
     def __init__(self, bench, name):
         self.root, self.bench = f"{bench.place}/{name}", bench
         os.makedirs(f"{self.root}/bin")
         os.mkdir(f"{self.root}/cti")
-        for file in ("libCvxCPP.so", "CvxProducerHost", "CvxC.xml"):
-            os.link(f"{bench.stage}/bin/{file}", f"{self.root}/bin/{file}")
+        for file in (*glob.glob("libCvxCPP.so*", root_dir=f"{bench.stage}/bin"), "CvxProducerHost", "CvxC.xml"):
+            shutil.copy(f"{bench.stage}/bin/{file}", f"{self.root}/bin", follow_symlinks=False)
         shutil.copy(bench.program("list_cameras"), f"{self.root}/bin")
         self.producers = []
 
@@ -46,7 +48,7 @@ class Installation:
         self.producers.append(f"{self.root}/cti/CorvixCameraSimulator.cti")
 
     def measure(self, cameras, cameras_of_first):
-        """Milliseconds, pair by pair: to the SDK's list, to the launcher's records of it, and directly in C."""
+        """Returns milliseconds for each pair: to the SDK's list, to the launcher's records, and directly in C."""
         ours, floor = in_pairs(lambda: listed(cameras, f"{self.root}/bin/bench_list_cameras"),
                                lambda: listed(cameras_of_first, self.bench.program("list_directly"), self.producers[0]),
                                self.bench.pairs)
@@ -55,33 +57,33 @@ class Installation:
 
 
 def listed(expected, *command):
-    """The milliseconds that the program prints, after the number of cameras."""
+    """Runs a program that prints the number of cameras and milliseconds; returns the milliseconds."""
     environment = {name: value for name, value in os.environ.items() if name != "GENICAM_GENTL64_PATH"}
-    printed = subprocess.run(command, env=environment, stdout=subprocess.PIPE, check=True, text=True).stdout
+    printed = subprocess.run(command, env=environment, stdout=subprocess.PIPE, check=True, text=True, timeout=BOUND).stdout
     count, *milliseconds = printed.split()
     assert int(count) == expected, f"{command} lists {count} cameras and not {expected}"
     return tuple(map(float, milliseconds))
 
 
 def exponent(times):
-    """Of the power that times grow with, by size: the slope of the line through their logarithms."""
+    """Returns the exponent with which times grow over size: the slope of the line through their logarithms."""
     points = [(math.log(size), math.log(statistics.median(values))) for size, values in times.items()]
     return statistics.linear_regression(*zip(*points)).slope
 
 
-def slow_figure(bench, what, producers, cameras, most_late):
+def slow_figure(bench, what, producers, cameras, max_extra):
     installation = Installation(bench, f"slow-{what}")
     installation.add_slow(producers, cameras)
     _, records, floor = installation.measure(producers * cameras, cameras)
-    return Figure(f"list, {DELAY:.0f} ms to answer, {what}", "ms", records, floor, f"≤ floor + {most_late} ms",
-                  lambda figure: figure.median() <= statistics.median(figure.floor) + most_late)
+    return Figure(f"list, {DELAY:.0f} ms to answer, {what}", "ms", records, floor, f"≤ floor + {max_extra} ms",
+                  lambda figure: figure.median() <= statistics.median(figure.floor) + max_extra)
 
 
 def slow_figures(bench):
     for cameras in 1, 8, 64:
-        yield slow_figure(bench, f"cameras on it: {cameras}", 1, cameras, MOST_LATE)
+        yield slow_figure(bench, f"cameras on it: {cameras}", 1, cameras, MAX_EXTRA)
     for producers in 1, 4, 16:
-        yield slow_figure(bench, f"such producers: {producers}", producers, 1, MOST_LATE + MOST_LATE_EACH * producers)
+        yield slow_figure(bench, f"such producers: {producers}", producers, 1, MAX_EXTRA + MAX_EXTRA_EACH * producers)
 
 
 def large_figures(bench):
@@ -91,10 +93,10 @@ def large_figures(bench):
         installation.add_simulator(size)
         lists[size], records[size], floor[size] = installation.measure(size, size)
     bench.curves.update({"list as records": records, "list of the SDK": lists, "list in C": floor})
-    least, most = min(SIZES), max(SIZES)
+    smallest, largest = min(SIZES), max(SIZES)
     for what, ours in ("of the SDK", lists), ("as the launcher's records", records):
-        yield Figure(f"list, {most:,} cameras on one interface, {what}", "ms", ours[most], floor[most], *at_most_times(3))
-        yield Figure(f"its growth, {least} to {most:,} cameras, as an exponent", "", [exponent(ours)], [], *at_most(1.1, ""))
+        yield Figure(f"list, {largest:,} cameras on one interface, {what}", "ms", ours[largest], floor[largest], *at_most_times(3))
+        yield Figure(f"its growth, {smallest} to {largest:,} cameras, as an exponent", "", [exponent(ours)], [], *at_most(1.1, ""))
 
 
 def figures(bench):

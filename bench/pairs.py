@@ -1,4 +1,4 @@
-"""Figures: what was measured, pair by pair, and what it is held against."""
+"""Figures: measured values, pair by pair, with their floor and their target."""
 
 import dataclasses
 import statistics
@@ -6,8 +6,8 @@ import typing
 
 
 def in_pairs(ours, floor, count):
-    """Measures both in turn, so often, and each goes first every other time. The first pair is not counted: it fills
-    the caches."""
+    """Measures both `count` times, in alternating order; returns the list of each. An additional first pair fills the
+    caches and is left out."""
     pairs = []
     for index in range(count + 1):
         if index % 2:
@@ -20,7 +20,7 @@ def in_pairs(ours, floor, count):
 
 
 def spread(values):
-    """Median and quartiles."""
+    """Returns median, lower and upper quartile."""
     low, middle, high = statistics.quantiles(values, n=4, method="inclusive") if len(values) > 1 else values * 3
     return middle, low, high
 
@@ -30,12 +30,12 @@ class Figure:
     name: str
     unit: str
     ours: list
-    floor: list  # One for each of ours; or one for all, where it is a number and not measured.
-    target: str  # In words.
-    limit: typing.Callable  # Of the figure, whether it is met.
+    floor: list  # One value per pair, or one constant.
+    target: str  # Text for the table.
+    limit: typing.Callable  # Returns whether the figure meets its target.
 
     def ratios(self):
-        """Pair by pair; none against nothing."""
+        """Returns the ratio of each pair whose floor is not 0."""
         floors = self.floor if len(self.floor) > 1 else self.floor * len(self.ours)
         return [ours / floor for ours, floor in zip(self.ours, floors) if floor]
 
@@ -72,24 +72,25 @@ def number(value):
     return f"{value:.0f}" if value >= 100 else f"{value:.3g}"
 
 
-def at_most_times(most):
-    """A target for a ratio, as the last two fields of a figure."""
-    return f"≤ {most} ×", lambda figure: figure.ratio() <= most
+# The functions below return a target: the last two fields of a figure.
+
+def at_most_times(limit):
+    return f"≤ {limit} ×", lambda figure: figure.ratio() <= limit
 
 
-TOLD_ONLY = "", lambda figure: True
+WITHOUT_TARGET = "", lambda figure: True
 
 
-def at_most(most, unit):
-    return f"≤ {most} {unit}".rstrip(), lambda figure: figure.median() <= most
+def at_most(limit, unit):
+    return f"≤ {limit} {unit}".rstrip(), lambda figure: figure.median() <= limit
 
 
-def at_most_on_average(most, unit):
-    """For what comes now and then: a median would leave it out."""
-    return f"≤ {most} {unit}", lambda figure: statistics.mean(figure.ours) <= most
+def at_most_on_average(limit, unit):
+    """For events that are rare: a median would ignore them."""
+    return f"≤ {limit} {unit}", lambda figure: statistics.mean(figure.ours) <= limit
 
 
 def table(figures):
-    """In Markdown."""
+    """Returns a Markdown table."""
     rows = [["figure", "ours", "floor", "ratio", "target", "met"], ["---"] * 6] + [figure.cells() for figure in figures]
     return "\n".join("| " + " | ".join(row) + " |" for row in rows)

@@ -1,18 +1,18 @@
-"""Where things are in the launcher's window, in pixels."""
+"""Positions in the launcher's window, in pixels."""
 
 FIRST_ROW, ROW_HEIGHT, ROWS_IN_VIEW = 185, 31, 5
-IMAGE_VIEWER = (110, 410)  # Its tile.
+IMAGE_VIEWER = (110, 410)  # The tile of this tool.
 
 
 def row(index):
-    """A place to click at."""
+    """Returns a point in a row of the camera table."""
     return 90, FIRST_ROW + ROW_HEIGHT * index
 
 
 def vendor(index):
-    """The box that a row's vendor is written in."""
+    """Returns the rectangle that contains the vendor of a row."""
     return 15, FIRST_ROW + ROW_HEIGHT * index - 9, 120, 18
 
 
-# While a scan runs there is one row. A list is drawn in one go.
+# During a scan the table has one row. All rows of a list are drawn at once.
 LISTED = [vendor(index) for index in range(1, ROWS_IN_VIEW)]

@@ -1,7 +1,7 @@
-"""From the start of a process to what is on the screen, and to the first list."""
+"""Measures the time from the start of a process to its first frame, and to the first list of cameras."""
 
 from frames import WITHOUT_OPENGL, running
-from pairs import TOLD_ONLY, Figure, at_most_times, in_pairs
+from pairs import WITHOUT_TARGET, Figure, at_most_times, in_pairs
 from places import LISTED
 
 
@@ -22,11 +22,11 @@ def first_list(screen):
 def figures(bench):
     launcher, empty = [bench.launcher], [bench.program("empty_window")]
     listing = [*empty, f"{bench.stage}/cti/CorvixCameraSimulator.cti"]
-    for name, is_drawn, floor, most in (("start to first frame", first_frame, empty, 1.35),
+    for name, is_drawn, floor, limit in (("start to first frame", first_frame, empty, 1.35),
                                         ("start to first complete list, 8 cameras", first_list, listing, 1.5)):
-        for words, environment, target in (("", None, at_most_times(most)),
-                                           (", floor without OpenGL", WITHOUT_OPENGL, TOLD_ONLY)):
+        for suffix, environment, target in (("", None, at_most_times(limit)),
+                                           (", floor without OpenGL", WITHOUT_OPENGL, WITHOUT_TARGET)):
             measured = in_pairs(
                 lambda: milliseconds(launcher, bench.screen, is_drawn),  # pylint: disable=W0640
                 lambda: milliseconds(floor, bench.screen, first_frame, environment), bench.pairs)  # pylint: disable=W0640
-            yield Figure(name + words, "ms", *measured, *target)
+            yield Figure(name + suffix, "ms", *measured, *target)

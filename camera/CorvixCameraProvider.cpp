@@ -1,16 +1,13 @@
 #include "camera/CorvixCameraProvider.h"
 
 #include "CvxCPP/CvxCPP.h"
-#include "camera/SdkText.h"
+#include "camera/SdkRead.h"
 
-#include <QByteArray>
 #include <QStringList>
 
 #include <limits>
 #include <memory>
-#include <new>
 #include <string>
-#include <string_view>
 #include <vector>
 
 using namespace CvxCPP;
@@ -19,43 +16,37 @@ namespace {
 
 using CameraHandles = std::vector<std::shared_ptr<Camera>>;
 
-/// The SDK's cameras; empty when a list call fails or memory runs out.
+/// Returns the SDK's cameras; empty if one of the two list calls fails.
 CameraHandles cameraHandles(CvxSystem &system)
 {
     unsigned count = 0;
     if (system.GetCameras(nullptr, count) != CvxErrorSuccess || count == 0)
         return {};
-    try {
-        CameraHandles handles(count);
-        if (system.GetCameras(handles.data(), count) != CvxErrorSuccess)
-            return {};
-        if (count < handles.size())
-            handles.resize(count);
-        return handles;
-    } catch (const std::bad_alloc &) {
+    CameraHandles handles(count);
+    if (system.GetCameras(handles.data(), count) != CvxErrorSuccess)
         return {};
-    }
+    if (count < handles.size())
+        handles.resize(count); // Cameras can disappear between the two calls.
+    return handles;
 }
 
-/// The camera's plain ID, as bytes or for showing; empty when it cannot be read.
-template <class Text>
-Text plainId(const Camera &camera)
+std::optional<std::string> plainId(const Camera &camera)
 {
-    Text id;
-    SdkText::read([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); }, id);
-    return id;
+    return SdkRead::bytes([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); });
 }
 
-using TextGetter = CvxError (Camera::*)(char *, unsigned &) const;
-
-QString text(const Camera &camera, TextGetter getter)
+/// Returns the decoded string, or an empty one if it could not be read.
+QString field(const std::optional<std::string> &bytes)
 {
-    QString value;
-    SdkText::read([&](char *buffer, unsigned &size) { return (camera.*getter)(buffer, size); }, value);
-    return value;
+    return SdkRead::decoded(bytes).value_or(QString());
 }
 
-/// Any type that the table does not name, and one that cannot be read, is "Other".
+QString field(const Camera &camera, CvxError (Camera::*getter)(char *, unsigned &) const)
+{
+    return field(
+        SdkRead::bytes([&](char *buffer, unsigned &size) { return (camera.*getter)(buffer, size); }));
+}
+
 QString transportName(const Camera &camera)
 {
     static const QStringList names{
@@ -76,7 +67,7 @@ QString transportName(const Camera &camera)
     return names.at(int(type));
 }
 
-/// The feature, or null when the interface has none of that name.
+/// Returns the feature, or null if the interface has none of that name.
 std::shared_ptr<Feature> feature(Interface &iface, const char *name)
 {
     std::shared_ptr<Feature> found;
@@ -85,91 +76,61 @@ std::shared_ptr<Feature> feature(Interface &iface, const char *name)
     return found;
 }
 
-/// Reads a text feature, up to its first NUL; false when that fails or memory runs out.
-bool readText(const Feature &textFeature, std::string &value)
-{
-    try {
-        return textFeature.GetValue(value) == CvxErrorSuccess;
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
-}
-
-/// The same for a text to be shown.
-bool readText(const Feature &textFeature, QString &value)
-{
-    try {
-        std::string bytes;
-        if (!readText(textFeature, bytes))
-            return false;
-        value = QString::fromUtf8(bytes.c_str());
-        return true;
-    } catch (const std::bad_alloc &) {
-        return false;
-    }
-}
-
-/// Walks the interface's device list for the camera and reads its vendor there; the first match decides.
-bool readVendorFromList(Interface &iface, std::string_view cameraId, QString &vendor)
+/// Searches the interface's device list for the camera and returns the vendor that its first entry reports.
+/// Returns nothing if the list cannot be read, has no such entry, or the entry's vendor cannot be read.
+std::optional<QString> vendorFromDeviceList(Interface &iface, const std::string &cameraId)
 {
     const std::shared_ptr<Feature> update = feature(iface, "DeviceUpdateList");
     const std::shared_ptr<Feature> selector = feature(iface, "DeviceSelector");
     const std::shared_ptr<Feature> deviceId = feature(iface, "DeviceID");
     const std::shared_ptr<Feature> deviceVendor = feature(iface, "DeviceVendorName");
     if (!update || !selector || !deviceId || !deviceVendor || update->RunCommand() != CvxErrorSuccess)
-        return false;
+        return std::nullopt;
 
     long min = 0;
     long max = -1;
     if (selector->GetRange(min, max) != CvxErrorSuccess)
-        return false;
+        return std::nullopt;
     for (long index = min; index <= max; ++index) {
-        std::string id; // Not Qt's: with a thousand cameras, half a million of them are read and compared.
-        if (selector->SetValue(index) == CvxErrorSuccess && readText(*deviceId, id) && id == cameraId)
-            return readText(*deviceVendor, vendor);
+        // Compared as bytes: with a thousand cameras, decoding half a million IDs would be slow.
+        if (selector->SetValue(index) == CvxErrorSuccess && SdkRead::bytes(*deviceId) == cameraId)
+            return SdkRead::decoded(SdkRead::bytes(*deviceVendor));
         if (index == std::numeric_limits<long>::max())
             break; // The increment would overflow.
     }
-    return false;
+    return std::nullopt;
 }
 
-/// The camera object does not carry its vendor, its interface does.
+/// Returns the camera's vendor, which only its interface knows.
 QString vendorName(const Camera &camera)
 {
     std::shared_ptr<Interface> iface;
     if (camera.GetInterface(iface) != CvxErrorSuccess || !iface)
         return {};
-    const auto cameraId = plainId<QByteArray>(camera);
-    if (cameraId.isEmpty())
+    const std::string cameraId = plainId(camera).value_or(std::string());
+    if (cameraId.empty())
         return {};
-    QString vendor;
-    if (readVendorFromList(*iface, {cameraId.constData(), std::size_t(cameraId.size())}, vendor))
-        return vendor;
+    if (const std::optional<QString> vendor = vendorFromDeviceList(*iface, cameraId))
+        return *vendor;
 
-    // Intended: whatever device is selected now answers, even if it is another one on the same interface.
+    // Intended: returns the vendor of the selected device, even if that is another device of the interface.
     const std::shared_ptr<Feature> deviceVendor = feature(*iface, "DeviceVendorName");
-    if (deviceVendor && readText(*deviceVendor, vendor))
-        return vendor;
-    return {};
+    return deviceVendor ? field(SdkRead::bytes(*deviceVendor)) : QString();
 }
 
-CameraInfo toCameraInfo(const Camera &camera)
-{
-    CameraInfo info;
-    info.cameraId = plainId<QString>(camera);
-    info.modelName = text(camera, &Camera::GetModel);
-    info.cameraName = text(camera, &Camera::GetName);
-    info.serialNumber = text(camera, &Camera::GetSerialNumber);
-    info.vendorName = vendorName(camera);
-    info.interfaceType = transportName(camera);
-    return info;
-}
-
-/// A handle that the SDK left null is a camera of which nothing can be read.
-CameraInfo unreadableCamera()
+/// Returns the camera's record. `camera` is null if the SDK left the handle empty; it is listed all the same.
+CameraInfo toCameraInfo(const Camera *camera)
 {
     CameraInfo info;
     info.interfaceType = QStringLiteral("Other");
+    if (!camera)
+        return info;
+    info.cameraId = field(plainId(*camera));
+    info.modelName = field(*camera, &Camera::GetModel);
+    info.cameraName = field(*camera, &Camera::GetName);
+    info.serialNumber = field(*camera, &Camera::GetSerialNumber);
+    info.vendorName = vendorName(*camera);
+    info.interfaceType = transportName(*camera);
     return info;
 }
 
@@ -180,7 +141,7 @@ CorvixCameraProvider::CorvixCameraProvider() : m_system(CvxSystem::GetInstance()
 QVector<CameraInfo> CorvixCameraProvider::listCameras() const
 {
     QVector<CameraInfo> list;
-    for (const std::shared_ptr<Camera> &camera : cameraHandles(m_system))
-        list.append(camera ? toCameraInfo(*camera) : unreadableCamera());
+    for (const auto &camera : SdkRead::orEmpty([this] { return cameraHandles(m_system); }))
+        list.append(toCameraInfo(camera.get()));
     return list;
 }

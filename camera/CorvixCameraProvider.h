@@ -9,14 +9,14 @@ class CvxSystem;
 }
 
 /// Turns what the camera SDK reports into CameraInfo records.
-/// Listing never fails: an SDK error leaves a field, or the list, empty.
+/// Enumeration never fails: an SDK error leaves a field, or the whole list, empty.
 class CorvixCameraProvider
 {
 public:
     CorvixCameraProvider();
 
-    /// Asks the SDK for its cameras, in the SDK's order. Blocks until every producer
-    /// has answered or run out of time; call it off the GUI thread.
+    /// Returns the SDK's cameras in the SDK's order. Blocks until every producer has answered or its
+    /// timeout has passed, so call it off the GUI thread.
     QVector<CameraInfo> listCameras() const;
 
 private:

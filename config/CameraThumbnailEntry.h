@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// One reference camera model: its group and its picture.
+/// One reference camera model with its group and its picture.
 struct CameraThumbnailEntry
 {
     QString model; ///< Model name or family prefix as written in the file, for example "Kx200 Pro".
-    QString type; ///< Group type word as written.
+    QString type; ///< Group type as written, for example "areascan".
     QString thumbnail; ///< Resource path of the picture, below ":/images/".
 };

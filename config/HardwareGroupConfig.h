@@ -7,8 +7,8 @@
 /// One hardware group with its tools. An empty type means "no group".
 struct HardwareGroupConfig
 {
-    QString type; ///< Group type word, for example "areascan".
-    QString name; ///< Shown in the hint above the tiles.
+    QString type; ///< Group type, for example "areascan".
+    QString name; ///< Display name, shown in the hint above the tiles.
     QString brand;
     QString description;
     QVector<ToolConfig> tools; ///< In file order.

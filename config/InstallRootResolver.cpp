@@ -7,7 +7,7 @@ QString InstallRootResolver::resolve()
 {
     QDir dir(QCoreApplication::applicationDirPath());
     if (!hasCorvixStructure(dir))
-        dir.cdUp(); // One level only; whether the parent has the structure does not matter.
+        dir.cdUp(); // Intended: one level only, and the parent may lack the structure.
     return dir.absolutePath();
 }
 

@@ -4,13 +4,14 @@
 
 class QDir;
 
-/// Finds the root directory of the SDK installation from the place of the running program.
+/// Finds the root directory of the SDK installation from the location of the running program.
 class InstallRootResolver
 {
 public:
-    /// Absolute path without a trailing separator; never empty, never fails.
+    /// Returns an absolute path without a trailing separator. Never empty.
     static QString resolve();
 
 private:
+    /// Returns whether the directory contains "api", "cti" or "bin", as a file or a directory.
     static bool hasCorvixStructure(const QDir &dir);
 };

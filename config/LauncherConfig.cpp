@@ -16,7 +16,7 @@ namespace {
 const QLatin1String placeholderPicture(":/images/cameras/camera-placeholder.png");
 const QLatin1String logoPicture(":/images/orvelle-logo.png");
 
-/// The document's root object; empty when the resource is missing, malformed or not an object.
+/// Returns the document's root object; empty if the resource is missing, malformed or not an object.
 QJsonObject loadJsonFile(const QString &path)
 {
     QFile file(path);
@@ -29,7 +29,7 @@ QJsonObject loadJsonFile(const QString &path)
     return document.object();
 }
 
-/// The document, or in place of an unusable one an empty document of version 1.0 with the given list.
+/// Returns the document's root object. An unusable document is replaced by version "1.0" with an empty list.
 QJsonObject loadOrEmpty(const QString &path, const QString &listKey)
 {
     QJsonObject object = loadJsonFile(path);
@@ -38,12 +38,12 @@ QJsonObject loadOrEmpty(const QString &path, const QString &listKey)
     return {{QStringLiteral("version"), QStringLiteral("1.0")}, {listKey, QJsonArray()}};
 }
 
-QString text(const QJsonObject &object, const char *key)
+QString stringField(const QJsonObject &object, const char *key)
 {
     return object.value(QLatin1String(key)).toString();
 }
 
-QStringList texts(const QJsonArray &array)
+QStringList strings(const QJsonArray &array)
 {
     QStringList result;
     for (const QJsonValue &value : array)
@@ -54,30 +54,30 @@ QStringList texts(const QJsonArray &array)
 ToolConfig parseTool(const QJsonObject &object)
 {
     ToolConfig tool;
-    tool.id = text(object, "id");
-    tool.name = text(object, "name");
-    tool.executable = text(object, "executable");
-    tool.description = text(object, "description");
-    tool.platforms = texts(object.value(QLatin1String("platforms")).toArray());
-    tool.transports = texts(object.value(QLatin1String("transports")).toArray());
+    tool.id = stringField(object, "id");
+    tool.name = stringField(object, "name");
+    tool.executable = stringField(object, "executable");
+    tool.description = stringField(object, "description");
+    tool.platforms = strings(object.value(QLatin1String("platforms")).toArray());
+    tool.transports = strings(object.value(QLatin1String("transports")).toArray());
     return tool;
 }
 
 HardwareGroupConfig parseGroup(const QJsonObject &object)
 {
     HardwareGroupConfig group;
-    group.type = text(object, "type");
-    group.name = text(object, "name");
-    group.brand = text(object, "brand");
-    group.description = text(object, "description");
+    group.type = stringField(object, "type");
+    group.name = stringField(object, "name");
+    group.brand = stringField(object, "brand");
+    group.description = stringField(object, "description");
     const QJsonArray tools = object.value(QLatin1String("tools")).toArray();
     for (const QJsonValue &tool : tools)
         group.tools.append(parseTool(tool.toObject()));
     return group;
 }
 
-/// An empty list admits everything; otherwise the value has to be in it, in any letter case.
-bool admits(const QStringList &list, const QString &value)
+/// Returns whether the list is empty or contains the value in any letter case. An empty value is in no list.
+bool isEmptyOrContains(const QStringList &list, const QString &value)
 {
     return list.isEmpty() || (!value.isEmpty() && list.contains(value, Qt::CaseInsensitive));
 }
@@ -93,9 +93,9 @@ void LauncherConfig::load()
     const QJsonObject compatibility
         = loadOrEmpty(QStringLiteral(":/config/halvex_tool_compatibility.json"), QStringLiteral("cameras"));
 
-    // The compatibility document's version takes no part, on purpose.
-    if (text(launcherConfig, "version") != text(camerasReference, "version")) {
-        //: For the log, which is in English throughout: to be left as it is.
+    // Intended: the compatibility document's version is not compared.
+    if (stringField(launcherConfig, "version") != stringField(camerasReference, "version")) {
+        //: A log message. All log messages are in English, so do not translate it.
         qCritical().noquote() << QCoreApplication::translate(
             "LauncherConfig", "Configuration files version mismatch!");
         return;
@@ -120,19 +120,19 @@ void LauncherConfig::buildThumbnailLookup(const QJsonObject &camerasReference)
     const QJsonArray rows = camerasReference.value(QLatin1String("cameras")).toArray();
     for (const QJsonValue &value : rows) {
         const QJsonObject row = value.toObject();
-        const QString model = text(row, "model");
-        const QString thumbnail = text(row, "thumbnail");
-        const QString type = text(row, "type");
+        const QString model = stringField(row, "model");
+        const QString thumbnail = stringField(row, "thumbnail");
+        const QString type = stringField(row, "type");
         if (model.isEmpty() || thumbnail.isEmpty() || type.isEmpty()) {
             qWarning().noquote() << QStringLiteral(
                 "Invalid entry in cameras_reference.json file (model: %1, type: %2, thumbnail: %3)")
                                         .arg(model, type, thumbnail);
             continue;
         }
-        // The first seven characters go whatever they are: the prefix "assets/" is not tested, on purpose.
+        // Intended: the first seven characters are dropped without testing that they are "assets/".
         thumbnails.append({model, type, QStringLiteral(":/images/") + thumbnail.mid(7)});
     }
-    // Every walk takes the first hit, so the most specific text has to come first.
+    // Every lookup takes the first match, so the most specific model has to come first.
     std::sort(thumbnails.begin(), thumbnails.end(),
         [](const CameraThumbnailEntry &left, const CameraThumbnailEntry &right) {
             return left.model.size() > right.model.size();
@@ -143,7 +143,7 @@ void LauncherConfig::loadHalvexCompatibility(const QJsonObject &root)
 {
     const QJsonObject cameras = root.value(QLatin1String("cameras")).toObject();
     for (auto entry = cameras.begin(); entry != cameras.end(); ++entry) {
-        const QStringList tools = texts(entry.value().toObject().value(QLatin1String("tools")).toArray());
+        const QStringList tools = strings(entry.value().toObject().value(QLatin1String("tools")).toArray());
         halvexCompatibility.insert(entry.key(), QSet<QString>(tools.begin(), tools.end()));
     }
 }
@@ -153,9 +153,9 @@ HardwareGroupConfig LauncherConfig::findGroupForCamera(const CameraInfo &camera)
     const QString vendor = camera.vendorName.toLower();
     const QString model = camera.modelName.toLower();
 
-    // The order of the tests decides. A vendor that owns a group outranks the reference rows; the rows
-    // outrank the maker's own default. A chosen group that is not configured gives the empty group, not the
-    // next test.
+    // The order of the tests matters. The vendor of a whole group comes before the reference rows, and the
+    // rows come before the default group of the vendor "orvelle". If the chosen group is not configured, the
+    // result is the empty group; the remaining tests are not tried.
     if (vendor.contains(QLatin1String("orvelle")) && model.contains(QLatin1String("simulator")))
         return groups.value(QStringLiteral("simulator"));
     if (vendor.contains(QLatin1String("kordane")))
@@ -182,7 +182,7 @@ QString LauncherConfig::findThumbnailForCamera(const CameraInfo &camera) const
     const QString model = camera.modelName.toLower();
     const QString searchText = model + QLatin1Char(' ') + camera.cameraName.toLower();
     for (const CameraThumbnailEntry &row : thumbnails) {
-        // Both ways, on purpose: a fragment of a reference text is enough, and so is the display name.
+        // Intended: a model that is a part of the row's model matches too, and so does the display name.
         const QString rowModel = row.model.toLower();
         if (searchText.contains(rowModel) || rowModel.contains(model))
             return row.thumbnail;
@@ -199,7 +199,7 @@ QVector<ToolConfig> LauncherConfig::allTools(const QString &platform) const
             const QString key = tool.executable.isEmpty() ? tool.id : tool.executable;
             if (seen.contains(key))
                 continue;
-            // The key is claimed before the platform test: a tool hidden here stays hidden in later groups.
+            // Intended: a tool that its platforms hide here also hides the same executable in later groups.
             seen.insert(key);
             if (tool.platforms.isEmpty() || tool.platforms.contains(platform))
                 result.append(tool);
@@ -211,14 +211,15 @@ QVector<ToolConfig> LauncherConfig::allTools(const QString &platform) const
 QSet<QString> LauncherConfig::recommendedToolsIdsForCamera(
     const HardwareGroupConfig &group, const CameraInfo &camera, const QString &platform) const
 {
-    const bool limitedByModel = group.type == QLatin1String("highres");
-    const QSet<QString> *fitting = limitedByModel ? halvexTools(camera.modelName) : nullptr;
+    const bool isHighRes = group.type == QLatin1String("highres");
+    const QSet<QString> *compatible = isHighRes ? halvexTools(camera.modelName) : nullptr;
     QSet<QString> ids;
     for (const ToolConfig &tool : group.tools) {
-        // Letter case does not matter here, though it does in allTools(); the asymmetry is intended.
-        if (!admits(tool.transports, camera.interfaceType) || !admits(tool.platforms, platform))
+        // Intended: the platform's letter case does not matter here, but it does in allTools().
+        if (!isEmptyOrContains(tool.transports, camera.interfaceType)
+            || !isEmptyOrContains(tool.platforms, platform))
             continue;
-        if (!fitting || fitting->contains(tool.id))
+        if (!compatible || compatible->contains(tool.id))
             ids.insert(tool.id);
     }
     return ids;

@@ -6,10 +6,10 @@
 /// One launchable tool.
 struct ToolConfig
 {
-    QString id; ///< What recommendation sets and the compatibility table hold.
+    QString id; ///< Recommendations and the compatibility table contain this id.
     QString name; ///< Shown on the tile.
     QString executable; ///< Path relative to the install root, for example "bin/ImageViewer".
     QString description; ///< Shown on the tile, below the name.
     QStringList platforms; ///< Platforms on which the tool exists; empty means every platform.
-    QStringList transports; ///< Transport names for which it is recommended; empty means every transport.
+    QStringList transports; ///< Transports for which it is recommended; empty means every transport.
 };

@@ -34,7 +34,7 @@ QString ApplicationLauncher::GetName() const
 
 void ApplicationLauncher::mousePressEvent(QMouseEvent *event)
 {
-    // The base class is never called: it would let go of the press, and the window drags on presses it gets.
+    // The base class is not called: it would ignore the press, and the window would receive it.
     if (event->button() == Qt::LeftButton) {
         emit clicked();
         event->accept();
@@ -43,7 +43,7 @@ void ApplicationLauncher::mousePressEvent(QMouseEvent *event)
 
 void ApplicationLauncher::paintEvent(QPaintEvent *)
 {
-    // A plain widget shows no style-sheet frame by itself; the push button's bevel brings all of its rules.
+    // A plain widget does not draw its style-sheet frame; drawing a push-button bevel applies those rules.
     QStyleOptionButton option;
     option.init(this);
     QPainter painter(this);

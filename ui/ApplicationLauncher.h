@@ -7,8 +7,8 @@
 class QGraphicsOpacityEffect;
 class Ui_ApplicationLauncher;
 
-/// A tile that stands for one tool: its name, its description, and a click that asks for a start.
-/// A disabled tile is faded and does not react.
+/// A clickable tile that shows the name and the description of one tool.
+/// A disabled tile is faded and does not react to the mouse.
 class ApplicationLauncher : public QWidget
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
     ApplicationLauncher(const QString &name, const QString &description, QWidget *parent);
     ~ApplicationLauncher() override;
 
-    /// The name shown on the tile.
+    /// Returns the tool's name, which the tile shows.
     QString GetName() const;
 
 signals:
-    /// The left button went down on the tile.
+    /// Emitted when the left button is pressed on the tile, before it is released.
     void clicked();
 
 protected:

@@ -7,10 +7,10 @@
 class GroupMatchDelegate : public QStyledItemDelegate
 {
 public:
-    /// Item data of the first column: bool, the row gets the bar.
+    /// Item data role of the first column: bool, whether the row has the bar.
     static constexpr int GroupMatchRole = Qt::UserRole + 1;
 
-    /// `hoveredRow` (may be null) is read at every paint and has to outlive the delegate.
+    /// `hoveredRow` may be null; it is read by every paint() and has to outlive the delegate.
     GroupMatchDelegate(const int *hoveredRow, QObject *parent);
 
     void paint(

@@ -29,8 +29,8 @@ QColor backgroundColor()
     return QColor(QStringLiteral("#0f1419"));
 }
 
-/// Under Wayland a client neither knows nor sets the place of its window.
-bool desktopAlonePlacesWindows()
+/// Returns whether only the desktop can move windows: a Wayland client neither knows nor sets its position.
+bool onlyDesktopMovesWindows()
 {
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
@@ -64,7 +64,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), ui(std::make_uniq
         if (QTableWidgetItem *header = ui->cameraTable->horizontalHeaderItem(column))
             header->setData(Qt::TextAlignmentRole, int(Qt::AlignLeft | Qt::AlignVCenter));
     }
-    // The viewport has its width only once the window is laid out.
+    // The viewport has its final width only once the window is laid out.
     QTimer::singleShot(0, this, &MainWindow::resizeCameraTableColumns);
 }
 
@@ -77,7 +77,7 @@ void MainWindow::setRefreshEnabled(bool enabled)
 
 void MainWindow::paintEvent(QPaintEvent *)
 {
-    // The window is translucent: its background, with the rounded corners, is ours to paint.
+    // The window is translucent, so Qt does not paint its background.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -88,8 +88,8 @@ void MainWindow::paintEvent(QPaintEvent *)
 void MainWindow::mousePressEvent(QMouseEvent *event)
 {
     const bool onHeader = ui->widget->frameGeometry().contains(event->localPos().toPoint());
-    if (onHeader && event->button() == Qt::LeftButton && desktopAlonePlacesWindows()) {
-        windowHandle()->startSystemMove(); // Until the button is released, which we are not told.
+    if (onHeader && event->button() == Qt::LeftButton && onlyDesktopMovesWindows()) {
+        windowHandle()->startSystemMove(); // The desktop ends the move; we get no release event.
     } else if (onHeader && event->button() == Qt::LeftButton) {
         m_dragging = true;
         m_dragPosition = event->screenPos().toPoint() - frameGeometry().topLeft();
@@ -99,7 +99,7 @@ void MainWindow::mousePressEvent(QMouseEvent *event)
 
 void MainWindow::mouseMoveEvent(QMouseEvent *event)
 {
-    // Intended: the flag alone decides, never the buttons held.
+    // Intended: only the flag decides; the pressed buttons do not matter.
     if (m_dragging)
         move(event->screenPos().toPoint() - m_dragPosition);
 }

@@ -1,4 +1,4 @@
-// The window's camera table: its rows with their tooltips, the selection, and the menu of a camera.
+// The camera table of the window: rows and their tooltips, the selection, and the context menu.
 
 #include "ui/MainWindow.h"
 
@@ -19,9 +19,9 @@ namespace {
 constexpr int tooltipWidth = 270; // pixels
 constexpr int imageCellWidth = 90; // pixels
 constexpr int imageCellPadding = 6; // pixels
-constexpr int imageWidth = 78; // pixels, on a fine screen as well: every tooltip carries its picture as text
+constexpr int imageWidth = 78; // pixels on every screen: each tooltip contains its picture as text
 
-/// What the camera is attached by, for the choice of its transport-layer file.
+/// Returns the name of the camera's interface by which its producer file is chosen.
 QString cameraInterfaceLabel(const CameraInfo &camera)
 {
     if (camera.vendorName.contains(QLatin1String("orvelle"), Qt::CaseInsensitive)
@@ -30,10 +30,10 @@ QString cameraInterfaceLabel(const CameraInfo &camera)
     return camera.interfaceType.isEmpty() ? QStringLiteral("Other") : camera.interfaceType;
 }
 
-/// The image cells of one rebuild, by picture: a thousand cameras share a handful of them.
+/// Image cells by picture path, kept during one rebuild: many cameras share a few pictures.
 using ImageCells = QHash<QString, QString>;
 
-/// The picture as a table cell with the image inlined; empty when it cannot be loaded.
+/// Returns a table cell with the picture inlined; empty if the picture cannot be loaded.
 QString imageCell(const QString &picturePath)
 {
     const QPixmap picture(picturePath);
@@ -48,7 +48,7 @@ QString imageCell(const QString &picturePath)
             QString::fromLatin1(png.toBase64()), QString::number(imageWidth));
 }
 
-/// One fact as a table row; nothing when there is nothing to say.
+/// Returns one field as a table row; empty if the value is empty.
 QString row(const QString &label, const QString &value)
 {
     if (value.isEmpty())
@@ -58,12 +58,12 @@ QString row(const QString &label, const QString &value)
         .arg(label.toHtmlEscaped(), value.toHtmlEscaped());
 }
 
-/// The tooltip's HTML. `ctiPath` and `thumbnailPath` may be empty.
+/// Returns the tooltip's HTML. `ctiPath` and `thumbnailPath` may be empty.
 QString buildCameraTooltip(
     const CameraInfo &camera, const QString &ctiPath, const QString &thumbnailPath, ImageCells &imageCells)
 {
     const QString ctiFileName = ctiPath.isEmpty() ? QStringLiteral("-") : QFileInfo(ctiPath).fileName();
-    // The placeholder stands in for a missing path only, never for a picture that does not load.
+    // The placeholder replaces an empty path only, never a picture that cannot be loaded.
     const QString picture
         = thumbnailPath.isEmpty() ? QStringLiteral(":/images/cameras/camera-placeholder.png") : thumbnailPath;
     if (!imageCells.contains(picture))
@@ -112,7 +112,7 @@ void MainWindow::renderCameraTable()
 {
     QTableWidget *table = ui->cameraTable;
     ImageCells imageCells;
-    const QSignalBlocker blocker(table); // Or selectRow() below would re-enter the selection handler.
+    const QSignalBlocker blocker(table); // Otherwise selectRow() below would re-enter the selection handler.
     table->clearContents();
     table->setRowCount(m_cameras.size());
     for (int r = 0; r < m_cameras.size(); ++r) {
@@ -131,7 +131,7 @@ void MainWindow::renderCameraTable()
 
         table->setItem(r, 2, new QTableWidgetItem(camera.serialNumber));
 
-        // Intended: two empty pairs are equal as well, so an empty selection selects the "Scanning..." row.
+        // Intended: empty fields are equal too, so an empty selection selects the "Scanning..." row.
         if (camera.cameraId == m_selectedCamera.cameraId
             && camera.serialNumber == m_selectedCamera.serialNumber)
             table->selectRow(r);
@@ -142,7 +142,7 @@ void MainWindow::resizeCameraTableColumns()
 {
     const int width = ui->cameraTable->viewport()->width();
     ui->cameraTable->setColumnWidth(0, width / 4);
-    ui->cameraTable->setColumnWidth(1, width / 2); // The last section stretches over the rest.
+    ui->cameraTable->setColumnWidth(1, width / 2); // The last section takes the rest.
 }
 
 void MainWindow::selectCurrentCamera()
@@ -163,7 +163,7 @@ void MainWindow::showCameraMenu(const QPoint &position)
     const int r = ui->cameraTable->row(item);
     if (r < 0 || r >= m_cameras.size())
         return;
-    // Only what the table's rebuild has found: the menu never searches by itself.
+    // The menu uses what the last rebuild found and never searches itself.
     const QString path = m_ctiPathCache.value(cameraInterfaceLabel(m_cameras.at(r)));
     if (path.isEmpty())
         return;

@@ -1,29 +1,89 @@
-// The window's configuration: the loading of it, and the transport-layer files that it leads to.
+// Loads the window's configuration, reads the search directories from bin/CvxC.xml, and chooses a GenTL
+// producer file for each interface.
 
 #include "ui/MainWindow.h"
 
-#include "ui/CtiSearchDirectories.h"
-
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <limits>
 
 namespace {
 
+/// Returns whether the reader is at an element of that name, whatever its letter case and namespace prefix.
+bool isNamed(const QXmlStreamReader &xml, QLatin1String name)
+{
+    return xml.name().compare(name, Qt::CaseInsensitive) == 0; // name() is the name without the prefix.
+}
+
+/// Returns the texts of the Path elements inside CtiPaths, up to the first error of the document.
+QStringList readCtiPaths(QIODevice &document)
+{
+    QXmlStreamReader xml(&document);
+    QStringList paths;
+    bool inside = false;
+    while (!xml.hasError() && xml.readNext() != QXmlStreamReader::EndDocument) {
+        if ((xml.isStartElement() || xml.isEndElement()) && isNamed(xml, QLatin1String("CtiPaths"))) {
+            // Intended: the depth is not counted, so an inner end tag also ends the outer element.
+            inside = xml.isStartElement();
+        } else if (inside && xml.isStartElement() && isNamed(xml, QLatin1String("Path"))) {
+            // The text before an error still counts, for example before a child element.
+            paths.append(xml.readElementText().trimmed());
+        }
+    }
+    paths.removeAll(QString());
+    return paths;
+}
+
+/// Returns the directory that the text of a Path element names; empty if it is relative and does not exist.
+QString searchDirectory(const QString &path, const QDir &installRoot, const QDir &xmlDirectory)
+{
+    if (QDir::isAbsolutePath(path))
+        return path; // Not checked: a missing directory is skipped when it is searched.
+    for (const QDir &base : {installRoot, xmlDirectory}) {
+        const QString candidate = base.filePath(path);
+        if (QFileInfo(candidate).isDir())
+            return candidate;
+    }
+    return {};
+}
+
+/// Returns the directories that bin/CvxC.xml names, without duplicates; "cti" if it names none.
+QStringList ctiSearchDirsFromCvxCXml(const QString &installRoot)
+{
+    const QDir root(installRoot);
+    const QString defaultDirectory = root.filePath(QStringLiteral("cti"));
+    QFile document(root.filePath(QStringLiteral("bin/CvxC.xml")));
+    if (!document.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {defaultDirectory};
+
+    const QDir xmlDirectory = QFileInfo(document).absoluteDir();
+    QStringList directories;
+    const QStringList paths = readCtiPaths(document);
+    for (const QString &path : paths) {
+        const QString directory = searchDirectory(path, root, xmlDirectory);
+        if (!directory.isEmpty())
+            directories.append(directory);
+    }
+    directories.removeDuplicates();
+    return directories.isEmpty() ? QStringList{defaultDirectory} : directories;
+}
+
 struct KeywordRow
 {
-    QStringList labels; // The row serves an interface label that contains one of these.
+    QStringList labels; // The row applies if the interface label contains one of these.
     QStringList keywords;
 };
 
-/// What the name of a transport-layer file for the interface is likely to contain; empty for most labels.
+/// Returns what the name of a producer file for the interface is likely to contain; empty for most labels.
 QStringList ctiKeywordsForInterface(const QString &interfaceLabel)
 {
-    const auto l = [](const char *words) { return QString::fromLatin1(words).split(QLatin1Char(' ')); };
-    // The order decides: "cameralinkhs" contains "cameralink" as well. "usbt" stands twice and "usbtL" keeps
-    // its capital on purpose: a file name with "usbt" has to outweigh one that only says "usb".
+    const auto l = [](const char *list) { return QString::fromLatin1(list).split(QLatin1Char(' ')); };
+    // The order matters: "cameralinkhs" also contains "cameralink". Intended: "usbt" is listed twice and
+    // "usbtL" has a capital, so a file name with "usbt" outweighs one with only "usb".
     static const KeywordRow rows[] = {
         {l("simulator"), l("simulator camerasimulator")},
         {l("gige gig"), l("gige gig gev gevt gigeetl gigetl")},
@@ -42,6 +102,7 @@ QStringList ctiKeywordsForInterface(const QString &interfaceLabel)
     return {};
 }
 
+/// Returns 100 for each keyword in the file name, and 5 more for "corvix".
 int ctiScore(const QString &fileName, const QStringList &keywords)
 {
     const QString name = fileName.toLower();
@@ -53,7 +114,7 @@ int ctiScore(const QString &fileName, const QStringList &keywords)
     return score;
 }
 
-/// All transport-layer files of the directories, directory by directory, sorted by name in each.
+/// Returns the producer files of all directories, directory by directory, each sorted by name.
 QFileInfoList ctiFiles(const QStringList &directories)
 {
     QFileInfoList files;
@@ -62,7 +123,8 @@ QFileInfoList ctiFiles(const QStringList &directories)
     return files;
 }
 
-/// The file that suits the keywords best; some file whenever there is one.
+/// Returns the path of the file with the highest score; the first name wins among equal scores. Empty only
+/// without files.
 QString bestCtiFile(const QFileInfoList &files, const QStringList &keywords)
 {
     QString bestPath;
@@ -79,7 +141,7 @@ QString bestCtiFile(const QFileInfoList &files, const QStringList &keywords)
     return bestPath;
 }
 
-/// Where no keyword speaks for a file, the path that sorts first.
+/// Returns the path that sorts first; empty only without files.
 QString firstCtiFile(const QFileInfoList &files)
 {
     QStringList paths;
@@ -104,7 +166,7 @@ void MainWindow::loadConfig(const QString &installRoot)
 
 QString MainWindow::resolveCtiPath(const QString &interfaceLabel)
 {
-    // Kept until the next loadConfig(), on purpose: a refresh does not look for new files.
+    // Intended: the cache lives until the next loadConfig(), so a refresh does not find new files.
     const auto cached = m_ctiPathCache.constFind(interfaceLabel);
     if (cached != m_ctiPathCache.constEnd())
         return *cached;

@@ -1,4 +1,4 @@
-// The window's tool tiles.
+// The tool tiles of the window.
 
 #include "ui/MainWindow.h"
 
@@ -55,7 +55,7 @@ void MainWindow::renderTools()
         m_launchers.at(index)->setEnabled(recommended.contains(m_tools.at(index).id));
 
     ui->toolsContainer->updateGeometry();
-    // The size hint is right only after the layout has settled.
+    // The size hint is valid only once the layout has been activated.
     QTimer::singleShot(
         0, this, [this] { ui->toolsScroll->setMinimumHeight(ui->toolsContainer->sizeHint().height()); });
 }

@@ -3,13 +3,13 @@
 #include <cstdlib>
 #include <new>
 
-// The C library's own, which it exports for those who replace the plain names.
+// The functions of the C library behind malloc() and realloc(), which are replaced below.
 extern "C" void *__libc_malloc(std::size_t size); // NOLINT(bugprone-reserved-identifier)
 extern "C" void *__libc_realloc(void *memory, std::size_t size); // NOLINT(bugprone-reserved-identifier)
 
 namespace {
 
-std::size_t count = 0; // One thread is measured.
+std::size_t count = 0; // Not atomic: only one thread is measured.
 
 } // namespace
 
@@ -32,7 +32,7 @@ extern "C" void *realloc(void *memory, std::size_t size)
 
 void *operator new(std::size_t size)
 {
-    if (void *memory = std::malloc(size)) // Counted there.
+    if (void *memory = std::malloc(size)) // Counts it.
         return memory;
     throw std::bad_alloc();
 }

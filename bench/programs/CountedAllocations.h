@@ -2,6 +2,6 @@
 
 #include <cstddef>
 
-/// How often this program has allocated so far, by operator new or by malloc(), which Qt's strings and lists
-/// use.
+/// Returns how many times this program has allocated memory so far, with operator new or with malloc(), which
+/// Qt's containers use.
 std::size_t countedAllocations();

@@ -1,5 +1,5 @@
-// The floor of a start: a window of the launcher's size in its style, with one label. With a producer as
-// argument the label says how many cameras it has, listed before the window is shown.
+// The floor of a start: a window of the launcher's size and style, with one label. With a producer as
+// argument, the program lists its cameras before it shows the window, and the label contains their number.
 
 #include "bench/programs/directListing.h"
 

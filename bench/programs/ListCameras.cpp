@@ -1,5 +1,5 @@
-// Prints how many cameras the installation around this program lists, and the milliseconds from the start of
-// the SDK to its list, and to the launcher's records of it.
+// Prints the number of cameras that the installation around this program lists, and the milliseconds from the
+// start of the SDK to its list and to the launcher's records.
 
 #include "camera/CorvixCameraProvider.h"
 
@@ -29,7 +29,7 @@ int main()
         || system.GetCameras(nullptr, count) != CvxCPP::CvxErrorSuccess)
         return EXIT_FAILURE;
     const double list = millisecondsSince(start);
-    const QVector<CameraInfo> cameras = CorvixCameraProvider().listCameras(); // Of the same search.
+    const QVector<CameraInfo> cameras = CorvixCameraProvider().listCameras(); // Uses the same search.
     std::printf("%d %.3f %.3f\n", cameras.size(), list, millisecondsSince(start));
     system.Shutdown();
 }

@@ -1,5 +1,5 @@
-// A tool that tells when its main() is reached, in nanoseconds of the monotonic clock, and does nothing else.
-// It is linked as the stand-in for the tools is, whose loading is part of every start.
+// A tool that writes the time when it reaches main() to a pipe, in nanoseconds of the monotonic clock. It
+// links the same libraries as the placeholder tools, because loading them is part of every start.
 
 #include <cstdio>
 #include <cstdlib>
@@ -9,9 +9,9 @@ int main()
 {
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
-    std::FILE *note = std::fopen(std::getenv("BENCH_NOTE"), "w");
-    if (!note)
+    std::FILE *pipe = std::fopen(std::getenv("BENCH_START_PIPE"), "w");
+    if (!pipe)
         return EXIT_FAILURE;
-    std::fprintf(note, "%lld\n", now.tv_sec * 1'000'000'000LL + now.tv_nsec);
-    return std::fclose(note);
+    std::fprintf(pipe, "%lld\n", now.tv_sec * 1'000'000'000LL + now.tv_nsec);
+    return std::fclose(pipe);
 }

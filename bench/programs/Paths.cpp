@@ -1,39 +1,43 @@
-// The four paths whose instructions are counted: from data to data, with neither clock, disk nor screen. Each
-// runs once unmeasured, for what is made at a first call, and then once in a function of its own, at which
-// callgrind counts.
+// The four functions whose instructions are counted. They need neither clock, disk nor screen. Each runs
+// twice: first to initialise data, then inside a function whose name tells callgrind to count.
 
 #include "bench/programs/ReferenceCameras.h"
 #include "config/LauncherConfig.h"
-#include "sdk/cvxcpp/ProducerAnswer.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/Message.h"
 
-// What builds a tooltip is private to this file. Its class is not used.
+// The function that builds a tooltip is private to this file.
 #include "ui/MainWindowCameraTable.cpp" // NOLINT(bugprone-suspicious-include)
 
 #include <cstdlib>
+#include <optional>
 #include <string>
 
 namespace {
 
 constexpr int cameraCount = 64;
 
-/// What a host answers for so many cameras on one interface.
-std::string answer()
+/// Returns the reply of a host with so many cameras on one interface, as a line without its line feed.
+std::string cameraListLine()
 {
-    std::string devices;
+    InterfaceRecord interface {
+        1, "Sim0-GigE", "Simulated GigE network", "GEV", { }
+    };
     for (int index = 0; index < cameraCount; ++index) {
         const std::string serial = std::to_string(24000000 + index);
-        devices += index > 0 ? "," : "";
-        devices += R"({"id":"SIM-GEV-)" + serial + R"(","model":"Kx200 Pro 5MP-C","name":"Orvelle Kx200 Pro )"
-            + serial + R"(","serial":")" + serial + R"(","type":"GEV","vendor":"Orvelle"})";
+        interface.devices.push_back({"SIM-GEV-" + serial, "Orvelle", "Kx200 Pro 5MP-C", serial,
+            "Orvelle Kx200 Pro " + serial, "GEV"});
     }
-    return R"({"interfaces":[{"devices":[)" + devices
-        + R"(],"id":"Sim0-GigE","name":"Simulated GigE network","number":1,"type":"GEV"}],"problems":[]})";
+    std::string line = Message(1, CameraListReply{{interface}, {}}).toLine();
+    line.pop_back();
+    return line;
 }
 
 std::size_t parsed(const std::string &line)
 {
-    ProducerAnswer result;
-    return parseAnswer(line, result) ? result.interfaces.front().devices.size() : 0;
+    const std::optional<Message> message = Message::fromLine(line);
+    const auto reply = message ? message->content<CameraListReply>() : std::nullopt;
+    return reply ? reply->interfaces.front().devices.size() : 0;
 }
 
 std::size_t matched(const LauncherConfig &config, const QVector<CameraInfo> &cameras)
@@ -65,7 +69,7 @@ std::size_t described(const QVector<CameraInfo> &cameras, ImageCells &imageCells
 
 } // namespace
 
-// Callgrind finds them by their names.
+// Callgrind finds these functions by their names.
 extern "C" {
 __attribute__((noinline)) std::size_t count_list_parsing(const std::string &line)
 {
@@ -92,11 +96,11 @@ __attribute__((noinline)) std::size_t count_tooltip_building(
 
 int main()
 {
-    const std::string line = answer();
+    const std::string line = cameraListLine();
     const QVector<CameraInfo> cameras = referenceCameras(cameraCount);
     LauncherConfig config;
     config.load();
-    // A picture that is there already: making one is the work of Qt and libpng, and would hide all of ours.
+    // The picture is encoded already: the work of Qt and libpng would hide the cost of our own code.
     ImageCells imageCells{{QStringLiteral("picture"), QString(4000, QLatin1Char('x'))}};
 
     const bool isSame = count_list_parsing(line) == parsed(line) && parsed(line) == cameraCount

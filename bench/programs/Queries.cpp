@@ -1,5 +1,5 @@
-// Prints a line for each query of the configuration, with the shipped data: its name, the allocations of one
-// call, and the microseconds of one call, batch after batch.
+// Measures the queries of the configuration with the shipped data. Prints a line for each query: its name,
+// the allocations per call, and the microseconds per call of each batch.
 
 #include "bench/programs/CountedAllocations.h"
 #include "bench/programs/ReferenceCameras.h"
@@ -11,26 +11,25 @@
 
 namespace {
 
-constexpr int Rounds = 50; // Of all cameras, in a batch.
+constexpr int roundsPerBatch = 50; // A round calls the query once for each camera.
 
-/// Calls `query` for each camera, over and over.
 template <typename Query>
 void measure(const char *name, const QVector<CameraInfo> &cameras, int batches, const Query &query)
 {
     for (const CameraInfo &camera : cameras)
-        query(camera); // Once unmeasured: what is made at the first call.
+        query(camera); // Not measured: the first call initialises data.
     const std::size_t before = countedAllocations();
     for (const CameraInfo &camera : cameras)
         query(camera);
     std::printf("%s %.2f", name, double(countedAllocations() - before) / cameras.size());
     for (int batch = 0; batch < batches; ++batch) {
         const auto start = std::chrono::steady_clock::now();
-        for (int round = 0; round < Rounds; ++round) {
+        for (int round = 0; round < roundsPerBatch; ++round) {
             for (const CameraInfo &camera : cameras)
                 query(camera);
         }
         const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
-        std::printf(" %.4f", time.count() / Rounds / cameras.size());
+        std::printf(" %.4f", time.count() / roundsPerBatch / cameras.size());
     }
     std::printf("\n");
 }
@@ -43,8 +42,7 @@ int main(int argc, char *argv[])
     LauncherConfig config;
     config.load();
     QVector<CameraInfo> cameras = referenceCameras(64);
-    for (int index = 0; index < cameras.size();
-         index += 4) // A table row decides for these, the last one's the latest.
+    for (int index = 0; index < cameras.size(); index += 4) // These cameras match no row of the reference.
         cameras[index].modelName = QStringLiteral("Unknown to the reference");
     QVector<CameraInfo> large = cameras;
     for (CameraInfo &camera : large) {

@@ -9,7 +9,7 @@ QVector<CameraInfo> referenceCameras(int count)
 {
     QFile file(QStringLiteral(":/config/cameras_reference.json"));
     if (!file.open(QIODevice::ReadOnly))
-        qFatal("The reference is not compiled in.");
+        qFatal("The camera reference is not compiled in.");
     const QJsonArray rows
         = QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String("cameras")).toArray();
     QVector<CameraInfo> cameras;

@@ -4,5 +4,5 @@
 
 #include <QVector>
 
-/// So many cameras of the models that the shipped reference names, in its order and round again.
+/// Returns `count` cameras. Their models are those of the shipped reference, repeated in order.
 QVector<CameraInfo> referenceCameras(int count);

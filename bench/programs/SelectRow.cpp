@@ -1,5 +1,5 @@
-// Prints a line for each pair: the milliseconds from a click on a row until table and tiles are drawn again,
-// and those of loading, scaling and encoding each picture of that table once.
+// Prints a line for each pair: the milliseconds from a click on a row until table and tiles are redrawn, and
+// the milliseconds to load, scale and encode each picture of the table once.
 //
 // usage: bench_select_row INSTALLATION CAMERAS PAIRS
 
@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr int shownWidth = 78; // Pixels, as in a tooltip.
+constexpr int pictureWidth = 78; // Pixels, as in a tooltip.
 
 void settle()
 {
@@ -52,7 +52,7 @@ double encode(const QSet<QString> &pictures)
         QByteArray png;
         QBuffer buffer(&png);
         buffer.open(QIODevice::WriteOnly);
-        QPixmap(path).scaledToWidth(shownWidth, Qt::SmoothTransformation).save(&buffer, "PNG");
+        QPixmap(path).scaledToWidth(pictureWidth, Qt::SmoothTransformation).save(&buffer, "PNG");
         if (png.toBase64().isEmpty())
             qFatal("No picture: %s", qPrintable(path));
     }
@@ -87,7 +87,8 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     settle();
 
-    for (int pair = -1; pair < QString::fromLocal8Bit(argv[3]).toInt(); ++pair) { // The first is not counted.
+    for (int pair = -1; pair < QString::fromLocal8Bit(argv[3]).toInt();
+         ++pair) { // The first pair is not counted.
         const int row = pair & 1;
         const double ours = select(*table, row);
         if (table->currentRow() != row || !table->item(row, 0)->isSelected())

@@ -9,20 +9,15 @@
 
 enum
 {
-    Timeout = 500,
-    /* Milliseconds. */ LongestText = 1024
+    searchTimeout = 500, /* Milliseconds. */
+    maxTextSize = 1024, /* Bytes. */
+    interfaceDisplayName = 1, /* INTERFACE_INFO_CMD. */
+    interfaceType = 2,
+    deviceFieldCount = 5
 };
-enum
-{
-    DisplayName = 1,
-    TransportLayerType = 2
-}; /* Of an interface. */
 
-static const int32_t deviceFacts[] = {1, 2, 3, 4, 7}; /* Vendor, model, type, display name, serial number. */
-enum
-{
-    DeviceFacts = sizeof deviceFacts / sizeof *deviceFacts
-};
+/* DEVICE_INFO_CMD of vendor, model, type, display name and serial number. */
+static const int32_t deviceFields[deviceFieldCount] = {1, 2, 3, 4, 7};
 
 struct Producer
 {
@@ -42,10 +37,10 @@ struct Producer
 struct Camera
 {
     char *id;
-    char *facts[DeviceFacts];
+    char *fields[deviceFieldCount];
 };
 
-static struct Camera *cameras; /* Kept, as a list is; never freed. */
+static struct Camera *cameras; /* Never freed, like the list of a running program. */
 static size_t cameraCount;
 
 static int resolve(void *library, const char *name, void *function)
@@ -73,24 +68,24 @@ static int load(const char *path, struct Producer *producer)
 
 static int readDevice(const struct Producer *producer, void *interface, uint32_t index, struct Camera *camera)
 {
-    char text[LongestText];
+    char text[maxTextSize];
     size_t size = sizeof text;
     if (producer->deviceId(interface, index, text, &size) != 0)
         return 0;
     camera->id = strdup(text);
-    for (int fact = 0; fact < DeviceFacts; ++fact) {
+    for (int field = 0; field < deviceFieldCount; ++field) {
         int32_t type = 0;
         size = sizeof text;
-        if (producer->deviceInfo(interface, camera->id, deviceFacts[fact], &type, text, &size) != 0)
+        if (producer->deviceInfo(interface, camera->id, deviceFields[field], &type, text, &size) != 0)
             return 0;
-        camera->facts[fact] = strdup(text);
+        camera->fields[field] = strdup(text);
     }
     return 1;
 }
 
 static int readInterface(const struct Producer *producer, void *system, uint32_t index)
 {
-    char id[LongestText], text[LongestText];
+    char id[maxTextSize], text[maxTextSize];
     size_t size = sizeof id;
     int32_t type = 0;
     void *interface = NULL;
@@ -98,12 +93,12 @@ static int readInterface(const struct Producer *producer, void *system, uint32_t
     uint32_t count = 0;
     if (producer->interfaceId(system, index, id, &size) != 0
         || producer->openInterface(system, id, &interface) != 0
-        || producer->updateDevices(interface, &changed, Timeout) != 0
+        || producer->updateDevices(interface, &changed, searchTimeout) != 0
         || producer->countDevices(interface, &count) != 0)
         return 0;
-    for (int32_t fact = DisplayName; fact <= TransportLayerType; ++fact) {
+    for (int32_t field = interfaceDisplayName; field <= interfaceType; ++field) {
         size = sizeof text;
-        producer->interfaceInfo(system, id, fact, &type, text, &size); /* A list does without. */
+        producer->interfaceInfo(system, id, field, &type, text, &size); /* May fail: the text is optional. */
     }
     cameras = realloc(cameras, (cameraCount + count) * sizeof *cameras);
     for (uint32_t device = 0; device < count; ++device) {
@@ -121,7 +116,7 @@ int listDirectly(const char *path)
     uint8_t changed = 0;
     uint32_t interfaces = 0;
     if (!load(path, &producer) || producer.initLib() != 0 || producer.openSystem(&system) != 0
-        || producer.updateInterfaces(system, &changed, Timeout) != 0
+        || producer.updateInterfaces(system, &changed, searchTimeout) != 0
         || producer.countInterfaces(system, &interfaces) != 0)
         return -1;
     for (uint32_t index = 0; index < interfaces; ++index) {

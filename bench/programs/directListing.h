@@ -4,9 +4,9 @@
 extern "C" {
 #endif
 
-/* Loads a GenTL producer into this process and reads what a list of cameras needs, each text once and with
-   one call. Gives the number of cameras, -1 when a call fails. Nothing is closed: a list is there before
-   that. */
+/* Loads a GenTL producer into this process and reads everything that a list of cameras contains, each text
+   with one call. Returns the number of cameras; -1 if a call fails. Closes nothing, because closing is not
+   part of listing. */
 int listDirectly(const char *producer);
 
 #ifdef __cplusplus

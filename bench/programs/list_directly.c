@@ -1,4 +1,4 @@
-/* Prints how many cameras a producer lists, and the milliseconds that takes. */
+/* Prints the number of cameras that a producer lists, and the milliseconds that this takes. */
 #define _POSIX_C_SOURCE 200809L
 #include "bench/programs/directListing.h"
 

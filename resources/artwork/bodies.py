@@ -6,7 +6,7 @@ from solids import inset, rectangle
 
 
 def housing(drawing, model, back, front):
-    """A milled block; a band in the maker's colour runs behind its front plate."""
+    """A milled block; a band in the vendor's colour runs behind its front plate."""
     width, height = model.size[:2]
     profile = rectangle(width, height, model.corner, 1 if model.cut else 4)
     band = max(2, min(width, height) * .055)

@@ -2,7 +2,7 @@
 
 from dataclasses import dataclass, field
 
-ORVELLE, LINTARO, KORDANE = 'azure', 'teal', 'amber'  # One accent per maker.
+ORVELLE, LINTARO, KORDANE = 'azure', 'teal', 'amber'  # One accent per vendor.
 
 
 @dataclass
@@ -36,7 +36,7 @@ LINE, BLACK = {'accent': LINTARO, 'kind': 'line'}, {'body': 'black', 'accent': K
 MODELS = {
     'camera-placeholder': Model((34, 34, 40), C_MOUNT, (11, 8), body='pale', accent='silver', ring='pale', tint='pale'),
 
-    # Orvelle's cubes: the larger the number, the larger the sensor and what carries its heat away.
+    # Orvelle's cubes: the larger the number, the larger the sensor and its heat sink.
     'kx': Model((29, 29, 30), C_MOUNT, (8, 6), ['rj45'], name='KX'),
     'kx200': Model((29, 29, 46), C_MOUNT, (10, 7.5), ['rj45', 'power'], name='KX200'),
     'kx200-pro': Model((36, 36, 50), C_MOUNT, (11, 8.5), ['rj45', 'power'], ribs=6, flanks=6),

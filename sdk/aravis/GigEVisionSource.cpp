@@ -1,24 +1,20 @@
 #include "sdk/aravis/GigEVisionSource.h"
 
-#include "sdk/aravis/NetworkCards.h"
-
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr char elsewhereId[] = "elsewhere";
 
-/// Its card may have gone with a device that a search misses.
-bool hasLostCard(const FoundDevice &device)
-{
-    if (!device.isMissed || device.interfaceId == elsewhereId)
-        return false;
-    const std::vector<CardAddress> cards = cardAddresses();
-    return std::none_of(cards.begin(), cards.end(),
-        [&](const CardAddress &card) { return card.address == device.interfaceId; });
-}
-
 } // namespace
+
+GigEVisionSource::GigEVisionSource(
+    SharedSearch::Search findDevices, ListAddresses listAddresses, std::chrono::milliseconds maxAge)
+    : m_findDevices(std::move(findDevices)),
+      m_listAddresses(std::move(listAddresses)),
+      m_search([this] { return search(); }, SharedSearch::Transport::Lossy, maxAge)
+{ }
 
 ProducerIdentity GigEVisionSource::identity() const
 {
@@ -28,11 +24,11 @@ ProducerIdentity GigEVisionSource::identity() const
 
 std::vector<InterfaceRecord> GigEVisionSource::updateInterfaces()
 {
-    // Also those without a device: a consumer looks for new interfaces less often than for new devices.
+    // Interfaces without a device too: a consumer polls for interfaces less often than for devices.
     std::vector<InterfaceRecord> interfaces;
-    for (const CardAddress &card : cardAddresses())
-        interfaces.push_back(
-            {card.address, "Network card " + card.card + " (" + card.address + ")", GenTL::TLTypeGEVName});
+    for (const InterfaceAddress &address : m_listAddresses())
+        interfaces.push_back({address.address,
+            "Network card " + address.interfaceName + " (" + address.address + ")", GenTL::TLTypeGEVName});
     interfaces.push_back(
         {elsewhereId, "Addresses outside the network cards' networks", GenTL::TLTypeGEVName});
     return interfaces;
@@ -42,20 +38,35 @@ std::vector<DeviceRecord> GigEVisionSource::updateDevices(const std::string &int
 {
     std::vector<DeviceRecord> devices;
     for (const FoundDevice &device : m_search.devices()) {
-        if (device.interfaceId == interfaceId && !hasLostCard(device))
+        if (device.interfaceId == interfaceId && !hasLostInterface(device))
             devices.push_back(toRecord(device, GenTL::TLTypeGEVName));
     }
     return devices;
 }
 
-std::string GigEVisionSource::interfaceIdOf(const FoundDevice &device)
+std::vector<FoundDevice> GigEVisionSource::search() const
 {
-    const std::vector<CardAddress> cards = cardAddresses();
-    const CardAddress *const card = cardOf(cards, device.address);
-    return card ? card->address : elsewhereId;
+    std::vector<FoundDevice> devices = m_findDevices();
+    const std::vector<InterfaceAddress> addresses = m_listAddresses();
+    for (FoundDevice &device : devices) {
+        const InterfaceAddress *const address = findAddressFor(addresses, device.address);
+        device.interfaceId = address ? address->address : elsewhereId;
+    }
+    return devices;
+}
+
+bool GigEVisionSource::hasLostInterface(const FoundDevice &device) const
+{
+    // The addresses are needed only for a device that the last search missed, which is rare.
+    if (!device.isMissed || device.interfaceId == elsewhereId)
+        return false;
+    const std::vector<InterfaceAddress> addresses = m_listAddresses();
+    return std::none_of(addresses.begin(), addresses.end(),
+        [&](const InterfaceAddress &address) { return address.address == device.interfaceId; });
 }
 
 std::unique_ptr<DeviceSource> createDeviceSource(const std::filesystem::path &)
 {
-    return std::make_unique<GigEVisionSource>();
+    return std::make_unique<GigEVisionSource>(
+        [] { return findDevices(arv_gv_interface_get_instance); }, interfaceAddresses);
 }

@@ -30,9 +30,9 @@ std::vector<DeviceRecord> Usb3VisionSource::updateDevices(const std::string &int
     return devices;
 }
 
-std::string Usb3VisionSource::interfaceIdOf(const FoundDevice &)
+std::vector<FoundDevice> Usb3VisionSource::search()
 {
-    return hostId;
+    return findDevices(arv_uv_interface_get_instance);
 }
 
 bool Usb3VisionSource::isUsbReady()
@@ -40,7 +40,7 @@ bool Usb3VisionSource::isUsbReady()
     const std::lock_guard lock(m_mutex);
     if (m_isReady)
         return true;
-    // Tried before Aravis does so: it tries once in the life of the process, and says nothing of a failure.
+    // Aravis initialises libusb only once per process and reports no failure, so try it first.
     libusb_context *context = nullptr;
     const int result = libusb_init(&context);
     m_isReady = result == LIBUSB_SUCCESS;

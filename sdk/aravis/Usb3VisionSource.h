@@ -1,12 +1,12 @@
 #pragma once
 
-#include "sdk/aravis/AravisSearch.h"
+#include "sdk/aravis/SharedSearch.h"
 #include "sdk/producer/DeviceSource.h"
 
 #include <mutex>
 
-/// USB3 Vision cameras of any maker, on one interface, the USB host.
-/// While USB cannot be searched there are none, which is reported on standard error once.
+/// USB3 Vision cameras of any vendor, on one interface, the USB host.
+/// While USB cannot be searched there are none, and one line on standard error reports that once.
 class Usb3VisionSource final : public DeviceSource
 {
 public:
@@ -16,9 +16,9 @@ public:
 
 private:
     bool isUsbReady();
-    static std::string interfaceIdOf(const FoundDevice &device);
+    static std::vector<FoundDevice> search();
 
-    AravisSearch m_search{arv_uv_interface_get_instance, interfaceIdOf, AravisSearch::Answers::AreCertain};
+    SharedSearch m_search{search, SharedSearch::Transport::Reliable};
 
     std::mutex m_mutex; // Guards what follows.
     bool m_isReady = false;

@@ -1,5 +1,5 @@
-# Gives the target CvxCPP::CvxCPP: the camera SDK's interface and its library.
-# A link in the system's own CMake directory may lead here, but the rest lies where this file really is.
+# Defines the target CvxCPP::CvxCPP: the camera SDK's interface and its library.
+# This file may be found through a link in the system's CMake directory. The targets lie beside the real file.
 get_filename_component(_CvxCPP_config "${CMAKE_CURRENT_LIST_FILE}" REALPATH)
 get_filename_component(_CvxCPP_directory "${_CvxCPP_config}" DIRECTORY)
 include("${_CvxCPP_directory}/CvxCPPTargets.cmake")

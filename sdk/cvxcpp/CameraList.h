@@ -2,41 +2,28 @@
 
 #include "sdk/cvxcpp/CameraObject.h"
 #include "sdk/cvxcpp/InterfaceObject.h"
+#include "sdk/protocol/CameraRecords.h"
 
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
 
-/// The interfaces and cameras of one producer at one time, sorted by interface ID, then by device.
-/// Never changed once it is made: two lists that are the same object hold the same.
+/// The interfaces and cameras of one producer at one time, as API objects, sorted by interface ID and then by
+/// device. Never changes once it is made.
 struct CameraList
 {
     using Pointer = std::shared_ptr<const CameraList>;
 
-    /// Of one producer; nobody has as many, and more would be a burden to every program that shows them.
-    static constexpr std::size_t MostCameras = 1000;
+    static constexpr std::size_t maxCameras = 1000; ///< Per producer; no user has as many.
 
     std::vector<std::shared_ptr<InterfaceObject>> interfaces;
     std::vector<std::shared_ptr<CameraObject>> cameras;
 
-    /// Makes the objects for records that are sorted by ID; of the cameras, the first MostCameras.
+    /// Makes the objects for sorted records; for the first `maxCameras` cameras only.
     static Pointer create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
         const std::shared_ptr<const std::string> &producerName,
-        const std::vector<std::shared_ptr<const ListedInterface>> &records);
+        const std::vector<std::shared_ptr<const InterfaceRecord>> &records);
 
     static Pointer empty();
-};
-
-/// What came and what went: interfaces by their ID, cameras by all that is listed of them.
-struct CameraListChange
-{
-    std::vector<std::shared_ptr<InterfaceObject>> newInterfaces, goneInterfaces;
-    std::vector<std::shared_ptr<CameraObject>> newCameras, goneCameras;
-
-    /// Of two lists of one producer.
-    static CameraListChange between(const CameraList &before, const CameraList &after);
-
-    /// Takes the changes of another producer in.
-    void add(const CameraListChange &other);
 };

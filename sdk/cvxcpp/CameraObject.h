@@ -7,11 +7,11 @@
 #include <memory>
 #include <string>
 
-/// A camera as the SDK shows it: one device of the record it was listed in, which it shares.
+/// One camera, as the program sees it. Shares the record of its interface, of which it is one device.
 class CameraObject final : public CvxCPP::Camera
 {
 public:
-    CameraObject(std::shared_ptr<InterfaceObject> interface, std::shared_ptr<const ListedInterface> record,
+    CameraObject(std::shared_ptr<InterfaceObject> interface, std::shared_ptr<const InterfaceRecord> record,
         std::size_t device);
 
     CvxCPP::CvxError GetID(char *buffer, unsigned &size, bool extended) const override;
@@ -23,12 +23,12 @@ public:
 
     const std::string &id() const { return device().id; }
     const std::string &interfaceId() const { return m_record->id; }
-    const ListedDevice &device() const { return m_record->devices[m_device]; }
+    const DeviceRecord &device() const { return m_record->devices[m_device]; }
 
 private:
-    CvxCPP::CvxError readText(const std::string &text, char *buffer, unsigned &size) const;
+    CvxCPP::CvxError readString(const std::string &value, char *buffer, unsigned &size) const;
 
     const std::shared_ptr<InterfaceObject> m_interface;
-    const std::shared_ptr<const ListedInterface> m_record;
+    const std::shared_ptr<const InterfaceRecord> m_record;
     const std::size_t m_device;
 };

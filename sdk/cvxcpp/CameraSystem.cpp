@@ -1,10 +1,10 @@
 #include "sdk/cvxcpp/CameraSystem.h"
 
+#include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/CtiSearchPath.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <exception>
 #include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -40,37 +40,36 @@ CameraSystem::~CameraSystem()
 
 CvxError CameraSystem::Startup()
 {
-    if (Announcer::isCallingObservers())
-        return CvxErrorAlreadyStarted; // Or just ending, which waits for this callback.
+    if (ObserverNotifier::isCallingObservers())
+        return CvxErrorAlreadyStarted; // Waiting for a running Shutdown() would be a deadlock: it waits for
+                                       // us.
     const std::lock_guard lifeLock(m_lifeMutex);
     if (session())
         return CvxErrorAlreadyStarted;
     if (!isExecutableFile(m_options.hostProgram))
         return CvxErrorHostMissing;
-    try {
-        return startSession();
-    } catch (const std::exception &) { // No memory, no thread or no descriptor left.
-        return CvxErrorFailed;
-    }
+    return guarded([this] {
+        startSession();
+        return CvxErrorSuccess;
+    });
 }
 
-CvxError CameraSystem::startSession()
+void CameraSystem::startSession()
 {
     auto session = std::make_shared<DiscoverySession>(m_options, ctiDirectories(m_options));
     session->start();
     const std::lock_guard lock(m_mutex);
     m_session = std::move(session);
     m_found = nullptr;
-    return CvxErrorSuccess;
 }
 
 CvxError CameraSystem::Shutdown()
 {
-    if (Announcer::isCallingObservers())
-        return CvxErrorFailed; // It would wait for itself.
+    if (ObserverNotifier::isCallingObservers())
+        return CvxErrorFailed; // Shutdown() would wait for its own caller.
     const std::lock_guard lifeLock(m_lifeMutex);
     std::shared_ptr<DiscoverySession> ending;
-    std::shared_ptr<const DiscoverySession::Cameras> found;
+    std::shared_ptr<const DiscoverySession::Cameras> found; // Destroyed after the lock is released.
     {
         const std::lock_guard lock(m_mutex);
         ending.swap(m_session);
@@ -95,12 +94,10 @@ CvxError CameraSystem::registerObserver(const std::shared_ptr<Observer> &observe
     const auto running = session();
     if (!running)
         return CvxErrorNotStarted;
-    try {
-        running->announcer().addObserver(observer);
-    } catch (const std::exception &) { // Out of memory.
-        return CvxErrorFailed;
-    }
-    return CvxErrorSuccess;
+    return guarded([&] {
+        running->notifier().addObserver(observer);
+        return CvxErrorSuccess;
+    });
 }
 
 CvxError CameraSystem::RegisterCameraListObserver(const std::shared_ptr<ICameraListObserver> &observer)
@@ -115,35 +112,32 @@ CvxError CameraSystem::RegisterInterfaceListObserver(const std::shared_ptr<IInte
 
 CvxError CameraSystem::GetCameras(std::shared_ptr<Camera> *cameras, unsigned &count)
 {
-    try {
+    return guarded([&] {
         std::shared_ptr<const DiscoverySession::Cameras> found;
         if (cameras) {
             const std::lock_guard lock(m_mutex);
             found = m_found;
         }
-        if (!found) {
-            const CvxError error = searchCameras(found);
-            if (error != CvxErrorSuccess)
-                return error;
-        }
-        const std::size_t most = cameras ? count : std::numeric_limits<unsigned>::max();
-        const std::size_t number = std::min(found->size(), most);
+        if (!found)
+            found = searchCameras();
+        if (!found)
+            return CvxErrorNotStarted;
+        const std::size_t maxCount = cameras ? count : std::numeric_limits<unsigned>::max();
+        const std::size_t number = std::min(found->size(), maxCount);
         if (cameras)
             std::copy_n(found->begin(), number, cameras);
         count = static_cast<unsigned>(number);
         return CvxErrorSuccess;
-    } catch (const std::exception &) { // Out of memory.
-        return CvxErrorFailed;
-    }
+    });
 }
 
-CvxError CameraSystem::searchCameras(std::shared_ptr<const DiscoverySession::Cameras> &cameras)
+/// Returns null if the system does not run, or ends meanwhile.
+std::shared_ptr<const DiscoverySession::Cameras> CameraSystem::searchCameras()
 {
     const auto running = session();
-    if (!running || !running->searchCameras(cameras))
-        return CvxErrorNotStarted;
+    auto cameras = running ? running->searchCameras() : nullptr;
     const std::lock_guard lock(m_mutex);
-    if (running == m_session)
+    if (cameras && running == m_session)
         m_found = cameras;
-    return CvxErrorSuccess;
+    return cameras;
 }

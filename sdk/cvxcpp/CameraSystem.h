@@ -7,7 +7,7 @@
 #include <memory>
 #include <mutex>
 
-/// The camera system: starts and ends sessions and hands the callers' requests on to the one that runs.
+/// The camera system of the process: starts and ends sessions, and passes requests on to the one that runs.
 class CameraSystem final : public CvxCPP::CvxSystem
 {
 public:
@@ -25,14 +25,15 @@ public:
 private:
     template <typename Observer>
     CvxCPP::CvxError registerObserver(const std::shared_ptr<Observer> &observer);
-    CvxCPP::CvxError startSession();
-    CvxCPP::CvxError searchCameras(std::shared_ptr<const DiscoverySession::Cameras> &cameras);
+    void startSession();
+    std::shared_ptr<const DiscoverySession::Cameras> searchCameras();
     std::shared_ptr<DiscoverySession> session() const;
 
     const SystemOptions m_options;
-    std::mutex m_lifeMutex; // Start and end, one at a time; held for as long as they take.
+    std::mutex m_lifeMutex; // Held by Startup() and Shutdown() for as long as they take.
 
-    mutable std::mutex m_mutex;
+    mutable std::mutex m_mutex; // Guards the members below.
     std::shared_ptr<DiscoverySession> m_session; // Null while the system does not run.
-    std::shared_ptr<const DiscoverySession::Cameras> m_found; // By the last search; null before.
+    std::shared_ptr<const DiscoverySession::Cameras>
+        m_found; // Cameras of the last search; null before the first.
 };

@@ -3,6 +3,10 @@
 #include <string>
 #include <vector>
 
-/// The texts of the Path elements inside CtiPaths, trimmed, in order, up to the end or the first fault of the
-/// XML document. Nothing outside the document is ever fetched, and what its entities expand to is bounded.
-std::vector<std::string> readCtiPaths(std::string document);
+/// Returns the text of every Path element inside a CtiPaths element of an XML document, in order.
+///
+/// Element names are compared without their namespace prefix and without regard to case. White space around a
+/// path is removed, and empty paths are left out. Expat parses the document: UTF-8, UTF-16, ISO-8859-1 or
+/// US-ASCII. A document with an error contributes the paths that are complete before the error. External
+/// entities are not loaded.
+std::vector<std::string> readCtiPaths(const std::string &document);

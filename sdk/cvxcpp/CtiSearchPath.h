@@ -3,13 +3,13 @@
 #include <string>
 #include <vector>
 
-/// The directories that CvxC.xml names in its CtiPaths/Path elements, in order, each once. A relative one
-/// counts from the install root, or else from the folder of the file, and must exist. Names are compared
-/// without regard to case or namespace prefix. What stands before a fault in the file counts, and of a large
-/// file the first 256 KiB. Without any, it is the directory "cti" of the install root.
+/// Returns the producer directories that CvxC.xml names (see CtiPathsDocument.h), in order and without
+/// duplicates. An absolute path is taken as it is. A relative path means a directory below the install root
+/// or, if there is none, beside the file; it is left out if neither exists. If no directory remains, the
+/// result is the directory "cti" of the install root.
 std::vector<std::string> configuredCtiDirectories(
     const std::string &installRoot, const std::string &configurationFile);
 
-/// The directories of a search path such as GENICAM_GENTL64_PATH, which are separated by colons; null for
-/// none.
+/// Returns the directories of a search path such as GENICAM_GENTL64_PATH, which separates them by colons.
+/// A null pointer is an empty search path.
 std::vector<std::string> searchPathDirectories(const char *searchPath);

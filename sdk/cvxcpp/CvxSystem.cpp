@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The directory this library was loaded from, links resolved.
+/// Returns the directory of the library file, with symbolic links resolved.
 std::string libraryDirectory()
 {
     static const char marker = 0;
@@ -20,18 +20,19 @@ std::string libraryDirectory()
     return error ? std::string() : file.parent_path().string();
 }
 
-/// Ends the system with the process. A forked child must not: it has the object, but none of its threads.
-class EndAtExit
+/// Shuts the system down when the process exits. A forked child must not do so: it has no copy of the
+/// system's threads.
+class ShutdownAtExit
 {
 public:
-    explicit EndAtExit(CameraSystem &system) : m_system(system) { }
-    ~EndAtExit()
+    explicit ShutdownAtExit(CameraSystem &system) : m_system(system) { }
+    ~ShutdownAtExit()
     {
         if (getpid() == m_process)
             m_system.Shutdown();
     }
-    EndAtExit(const EndAtExit &) = delete;
-    EndAtExit &operator=(const EndAtExit &) = delete;
+    ShutdownAtExit(const ShutdownAtExit &) = delete;
+    ShutdownAtExit &operator=(const ShutdownAtExit &) = delete;
 
 private:
     CameraSystem &m_system;
@@ -42,8 +43,8 @@ private:
 
 CvxCPP::CvxSystem &CvxCPP::CvxSystem::GetInstance()
 {
-    // Never destroyed, since other threads may still call it while the process exits.
+    // Never destroyed: other threads may still call it while the process exits.
     static auto *const system = new CameraSystem(SystemOptions::forLibraryDirectory(libraryDirectory()));
-    static const EndAtExit end(*system);
+    static const ShutdownAtExit shutdownAtExit(*system);
     return *system;
 }

@@ -1,6 +1,6 @@
 #include "sdk/cvxcpp/ExitReason.h"
 
-#include "sdk/producerhost/ExitStatus.h"
+#include "sdk/protocol/HostContract.h"
 
 #include <cstddef>
 #include <cstring>
@@ -9,8 +9,8 @@
 
 namespace {
 
-/// The names of -1001, -1002 and so on, in that order.
-constexpr std::string_view CodeNames[] = {"GC_ERR_ERROR", "GC_ERR_NOT_INITIALIZED", "GC_ERR_NOT_IMPLEMENTED",
+/// Names of the GenTL error codes -1001, -1002, ….
+constexpr std::string_view codeNames[] = {"GC_ERR_ERROR", "GC_ERR_NOT_INITIALIZED", "GC_ERR_NOT_IMPLEMENTED",
     "GC_ERR_RESOURCE_IN_USE", "GC_ERR_ACCESS_DENIED", "GC_ERR_INVALID_HANDLE", "GC_ERR_INVALID_ID",
     "GC_ERR_NO_DATA", "GC_ERR_INVALID_PARAMETER", "GC_ERR_IO", "GC_ERR_TIMEOUT", "GC_ERR_ABORT",
     "GC_ERR_INVALID_BUFFER", "GC_ERR_NOT_AVAILABLE", "GC_ERR_INVALID_ADDRESS", "GC_ERR_BUFFER_TOO_SMALL",
@@ -19,26 +19,26 @@ constexpr std::string_view CodeNames[] = {"GC_ERR_ERROR", "GC_ERR_NOT_INITIALIZE
 
 std::string codeName(std::int32_t code)
 {
-    constexpr std::int32_t FirstCode = -1001;
-    constexpr std::int32_t CustomCode = -10000;
-    if (code <= CustomCode)
-        return "the producer's own";
-    const std::int64_t index = std::int64_t(FirstCode) - code;
-    if (index >= 0 && index < std::int64_t(std::size(CodeNames)))
-        return std::string(CodeNames[static_cast<std::size_t>(index)]);
-    return "no GenTL code";
+    constexpr std::int32_t firstCode = -1001;
+    constexpr std::int32_t firstCustomCode = -10000;
+    if (code <= firstCustomCode)
+        return "specific to the producer";
+    const std::int64_t index = std::int64_t(firstCode) - code;
+    if (index >= 0 && index < std::int64_t(std::size(codeNames)))
+        return std::string(codeNames[static_cast<std::size_t>(index)]);
+    return "not a GenTL code";
 }
 
 } // namespace
 
 std::string exitReason(int status)
 {
-    if (WIFEXITED(status) && WEXITSTATUS(status) == ConnectionLostStatus)
+    if (WIFEXITED(status) && WEXITSTATUS(status) == connectionLostStatus)
         return "closed its host's connection";
     if (WIFEXITED(status))
         return "exited with code " + std::to_string(WEXITSTATUS(status));
     if (!WIFSIGNALED(status))
-        return "ended"; // How is not known.
+        return "ended";
     const int signal = WTERMSIG(status);
     const char *name = sigabbrev_np(signal);
     const char *description = sigdescr_np(signal);

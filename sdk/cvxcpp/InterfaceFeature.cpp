@@ -22,8 +22,8 @@ CvxCPP::CvxError InterfaceFeature::SetValue(long value)
 CvxCPP::CvxError InterfaceFeature::GetValue(char *buffer, unsigned &size) const
 {
     if (m_kind == Kind::DeviceID)
-        return m_owner.selectedText(&ListedDevice::id, buffer, size);
+        return m_owner.selectedField(&DeviceRecord::id, buffer, size);
     if (m_kind == Kind::DeviceVendorName)
-        return m_owner.selectedText(&ListedDevice::vendor, buffer, size);
+        return m_owner.selectedField(&DeviceRecord::vendor, buffer, size);
     return CvxCPP::CvxErrorWrongType;
 }

@@ -4,7 +4,7 @@
 
 class InterfaceObject;
 
-/// One of the four features of an interface; a part of its interface object.
+/// One of the four features of an interface. Lives in its interface object.
 class InterfaceFeature final : public CvxCPP::Feature
 {
 public:

@@ -1,16 +1,16 @@
 #include "sdk/cvxcpp/InterfaceObject.h"
 
+#include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/TextValue.h"
 
 #include <algorithm>
-#include <exception>
 #include <string_view>
 #include <utility>
 
 using namespace CvxCPP;
 
 InterfaceObject::InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
-    std::shared_ptr<const std::string> producerName, std::shared_ptr<const ListedInterface> record)
+    std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record)
     : m_source(std::move(source)),
       m_isRunning(m_source.lock()->runningFlag()),
       m_producer(producer),
@@ -33,8 +33,8 @@ CvxError InterfaceObject::GetFeatureByName(const char *name, std::shared_ptr<Fea
     const auto found = std::find(std::begin(names), std::end(names), name);
     if (found == std::end(names))
         return CvxErrorNotFound;
-    auto &found_feature = m_features[static_cast<std::size_t>(found - std::begin(names))];
-    feature = std::shared_ptr<Feature>(shared_from_this(), &found_feature); // Keeps the whole interface.
+    auto &foundFeature = m_features[static_cast<std::size_t>(found - std::begin(names))];
+    feature = std::shared_ptr<Feature>(shared_from_this(), &foundFeature); // Keeps the whole interface.
     return CvxErrorSuccess;
 }
 
@@ -43,19 +43,16 @@ CvxError InterfaceObject::updateDeviceList()
     const auto source = m_source.lock();
     if (!source)
         return CvxErrorNotStarted;
-    std::shared_ptr<const ListedInterface> record;
-    try {
-        const CvxError error = source->searchInterface(m_producer, m_id, record);
+    return guarded([&] {
+        auto [error, record] = source->searchInterface(m_producer, m_id);
         if (error != CvxErrorSuccess)
             return error;
-    } catch (const std::exception &) { // Out of memory.
-        return CvxErrorFailed;
-    }
-    const std::lock_guard lock(m_mutex);
-    m_record = std::move(record);
-    if (m_selected >= m_record->devices.size())
-        m_selected = m_record->devices.empty() ? 0 : m_record->devices.size() - 1;
-    return CvxErrorSuccess;
+        const std::lock_guard lock(m_mutex);
+        m_record = std::move(record);
+        if (m_selected >= m_record->devices.size())
+            m_selected = m_record->devices.empty() ? 0 : m_record->devices.size() - 1;
+        return error;
+    });
 }
 
 CvxError InterfaceObject::selectorRange(long &min, long &max) const
@@ -83,7 +80,7 @@ CvxError InterfaceObject::select(long index)
     return CvxErrorSuccess;
 }
 
-CvxError InterfaceObject::selectedText(std::string ListedDevice::*field, char *buffer, unsigned &size) const
+CvxError InterfaceObject::selectedField(std::string DeviceRecord::*field, char *buffer, unsigned &size) const
 {
     if (!isRunning())
         return CvxErrorNotStarted;

@@ -10,14 +10,14 @@
 #include <mutex>
 #include <string>
 
-/// An interface as the SDK shows it. Its devices are a snapshot, like those of a GenTL interface: they change
-/// with "DeviceUpdateList" and with nothing else, so that an index means the same device until then.
+/// One interface, as the program sees it. Its devices are a snapshot, as those of a GenTL interface are: only
+/// "DeviceUpdateList" changes them, so that an index means the same device until then.
 class InterfaceObject final : public CvxCPP::Interface, public std::enable_shared_from_this<InterfaceObject>
 {
 public:
-    /// `source` must still be there.
+    /// `source` must still exist.
     InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
-        std::shared_ptr<const std::string> producerName, std::shared_ptr<const ListedInterface> record);
+        std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record);
 
     CvxCPP::CvxError GetFeatureByName(const char *name, std::shared_ptr<CvxCPP::Feature> &feature) override;
 
@@ -25,11 +25,11 @@ public:
     const std::string &producerName() const { return *m_producerName; }
     bool isRunning() const { return *m_isRunning; }
 
-    // What the features do.
+    // The actions of the features.
     CvxCPP::CvxError updateDeviceList();
     CvxCPP::CvxError selectorRange(long &min, long &max) const;
     CvxCPP::CvxError select(long index);
-    CvxCPP::CvxError selectedText(std::string ListedDevice::*field, char *buffer, unsigned &size) const;
+    CvxCPP::CvxError selectedField(std::string DeviceRecord::*field, char *buffer, unsigned &size) const;
 
 private:
     const std::weak_ptr<InterfaceSource> m_source;
@@ -40,6 +40,6 @@ private:
     std::array<InterfaceFeature, 4> m_features;
 
     mutable std::mutex m_mutex;
-    std::shared_ptr<const ListedInterface> m_record; // Never null.
+    std::shared_ptr<const InterfaceRecord> m_record; // Never null.
     std::size_t m_selected = 0; // Meaningless while there is no device.
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CvxCPP/CvxCPP.h"
-#include "sdk/cvxcpp/ProducerAnswer.h"
+#include "sdk/protocol/CameraRecords.h"
 
 #include <atomic>
 #include <cstddef>
@@ -14,15 +14,19 @@ class InterfaceSource
 public:
     virtual ~InterfaceSource() = default;
 
-    /// True until the source ends; shared, so that its objects can ask when it is gone.
+    /// True until the source ends. Shared, so that the API objects can read it when the source is gone.
     using RunningFlag = std::shared_ptr<const std::atomic<bool>>;
     virtual RunningFlag runningFlag() const = 0;
 
-    /// Searches one interface of a producer, unless it was just searched, and gives what is on it now; while
-    /// the producer is late, what was on it at the last search.
-    virtual CvxCPP::CvxError searchInterface(
-        std::size_t producer, const std::string &interfaceId, std::shared_ptr<const ListedInterface> &record)
-        = 0;
+    struct SearchResult
+    {
+        CvxCPP::CvxError error;
+        std::shared_ptr<const InterfaceRecord> record; ///< Null on failure.
+    };
+
+    /// Searches one interface of a producer, unless it was just searched. If the producer does not reply in
+    /// time, returns what its last search found.
+    virtual SearchResult searchInterface(std::size_t producer, const std::string &interfaceId) = 0;
 
 protected:
     InterfaceSource() = default;

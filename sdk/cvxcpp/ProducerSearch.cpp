@@ -25,20 +25,21 @@ bool isCtiName(std::string_view name)
 using Report = std::function<void(const std::string &)>;
 using FileIds = std::set<std::pair<dev_t, ino_t>>;
 
-void tell(const Report &report, const std::string &path, const std::string &fault)
+void reportProblem(const Report &report, const std::string &path, const std::string &problem)
 {
     if (report)
-        report(std::string(path).append(": ").append(fault));
+        report(path + ": " + problem);
 }
 
-/// None of a directory that is known already, by another path.
+/// Returns the sorted names of the "*.cti" files in a directory; none if the directory was searched before
+/// under another path.
 std::vector<std::string> ctiNames(const std::string &directory, FileIds &known, const Report &report)
 {
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR *)> stream(opendir(directory.c_str()), closedir);
     if (!stream) {
         if (errno != ENOENT && errno != ENOTDIR)
-            tell(report, directory, std::string("cannot be searched: ") + strerrordesc_np(errno));
+            reportProblem(report, directory, std::string("cannot be searched: ") + strerrordesc_np(errno));
         return names;
     }
     struct stat file
@@ -53,21 +54,21 @@ std::vector<std::string> ctiNames(const std::string &directory, FileIds &known, 
     return names;
 }
 
-/// The absolute path without links; empty when there is no such file.
+/// Returns the absolute path without symbolic links; an empty string if there is no such file.
 std::string resolved(const std::string &path)
 {
     const std::unique_ptr<char, void (*)(void *)> real(realpath(path.c_str(), nullptr), std::free);
     return real ? std::string(real.get()) : std::string();
 }
 
-/// Why this cannot be a producer, in words; empty for a regular file, whatever is in it.
-std::string findFault(const std::string &path, struct stat &file)
+/// Returns why the file cannot be a producer; an empty string if it is a regular file. Stores its status.
+std::string findProblem(const std::string &path, struct stat &file)
 {
     if (stat(path.c_str(), &file) != 0)
         return std::string("cannot be found: ") + strerrordesc_np(errno);
     if (S_ISDIR(file.st_mode))
         return "is a directory";
-    return S_ISREG(file.st_mode) ? "" : "is no regular file";
+    return S_ISREG(file.st_mode) ? "" : "is not a regular file";
 }
 
 } // namespace
@@ -82,11 +83,13 @@ std::vector<ProducerFile> findProducers(const std::vector<std::string> &director
             const std::string path = std::filesystem::path(directory) / name;
             struct stat file
             { };
-            const std::string fault = findFault(path, file);
-            if (!fault.empty())
-                tell(report, path, fault);
+            const std::string problem = findProblem(path, file);
+            if (!problem.empty()) {
+                reportProblem(report, path, problem);
+                continue;
+            }
             const std::string realPath = resolved(path);
-            if (fault.empty() && !realPath.empty() && known.emplace(file.st_dev, file.st_ino).second)
+            if (!realPath.empty() && known.emplace(file.st_dev, file.st_ino).second)
                 producers.push_back({realPath, i});
         }
     }

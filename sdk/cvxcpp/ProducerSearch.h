@@ -8,13 +8,13 @@
 /// A producer that was found.
 struct ProducerFile
 {
-    std::string path;
-    std::size_t directory; ///< The place of the directory it was found in, in the search order.
+    std::string path; ///< Absolute, without symbolic links.
+    std::size_t directory; ///< Index of the directory in the search order.
 };
 
-/// The producers in the directories: every regular file "*.cti" in any letter case, directory by directory,
-/// each in the order of the file names. Links are resolved, and a file reached by several ways is there once.
-/// Whatever else has such a name is passed over, and told to `report`: its path and the reason. So is a
-/// directory that cannot be searched, unless it is not there.
+/// Returns the producers in the directories: every regular file "*.cti", in any letter case. The order is
+/// that of the directories, then of the file names. Links are resolved, and a file that is found several
+/// times is returned once. Calls `report` with the path and the reason for every other file of such a name,
+/// and for every directory that exists but cannot be searched.
 std::vector<ProducerFile> findProducers(
     const std::vector<std::string> &directories, const std::function<void(const std::string &)> &report = {});

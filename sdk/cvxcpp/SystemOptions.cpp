@@ -8,15 +8,16 @@
 
 namespace {
 
-/// Written in one go, so that lines of several processes do not mix. A standard error that nobody reads costs
-/// the line, and not the program: it is waited for once, and then no more until it is read again.
-void reportOnStandardError(const std::string &text)
+/// Writes the line with one call, so that lines of several processes do not mix. If nobody reads standard
+/// error, waits for the reader once, and then drops lines without waiting until standard error is read again.
+void reportOnStandardError(const std::string &message)
 {
     static std::atomic<bool> isRead{true};
-    constexpr int LongestWait = 100; // Milliseconds.
-    const std::string line = ("libCvxCPP: " + text).substr(0, PIPE_BUF - 1) + '\n'; // More could block.
+    constexpr int maxWait = 100; // Milliseconds.
+    const std::string line
+        = ("libCvxCPP: " + message).substr(0, PIPE_BUF - 1) + '\n'; // A longer write could block.
     pollfd output{STDERR_FILENO, POLLOUT, 0};
-    isRead = poll(&output, 1, isRead ? LongestWait : 0) > 0;
+    isRead = poll(&output, 1, isRead ? maxWait : 0) > 0;
     if (!isRead)
         return;
     [[maybe_unused]] const auto written = write(STDERR_FILENO, line.data(), line.size());

@@ -1,32 +1,30 @@
 #pragma once
 
-#include <chrono>
+#include "sdk/cvxcpp/Timing.h"
+
 #include <functional>
 #include <string>
 
-/// Where a camera system finds what it needs, and its times.
+/// The files and the times of a camera system.
 struct SystemOptions
 {
-    using Milliseconds = std::chrono::milliseconds;
-
     std::string hostProgram; ///< The CvxProducerHost to start.
-    std::string installRoot; ///< Relative producer directories start here.
+    std::string installRoot; ///< Relative producer directories are relative to this directory.
     std::string configurationFile; ///< CvxC.xml; need not exist.
 
-    Milliseconds lookInterval{2000}; ///< From one look for cameras to the next.
-    Milliseconds interfaceInterval{10000}; ///< From one look for interfaces to the next.
-    Milliseconds reuseTime{1000}; ///< A search that ended less than this ago counts as a new one.
-    Milliseconds answerWait{3000}; ///< The longest a list waits for a producer.
-    Milliseconds answerLimit{10000}; ///< A host that has not answered for so long is killed.
-    Milliseconds firstRestart{1000}; ///< Doubled with every further failure …
-    Milliseconds longestRestart{
-        60000}; ///< … up to this; a host that lived for so long starts from the first again.
-    Milliseconds endWait{1500}; ///< Given to a host that was asked to end.
-    Milliseconds announceDelay{250}; ///< Kept after a list was handed out, see Announcer.
+    Milliseconds pollInterval{2000}; ///< Time between two polls for cameras.
+    Milliseconds interfaceUpdateInterval{10000}; ///< Time between two updates of the list of interfaces.
+    Milliseconds reuseTime{1000}; ///< A search that ended less than this ago is not repeated.
+    Milliseconds searchTimeout{3000}; ///< The longest time that a caller waits for producers.
+    Milliseconds replyTimeout{10000}; ///< A host that has not replied for so long is killed.
+    Milliseconds firstRestartDelay{1000}; ///< Doubled with every further failure.
+    Milliseconds maxRestartDelay{60000}; ///< A host that ran for so long has the first delay again.
+    Milliseconds closeTimeout{1500}; ///< Time that a host has to close its producer and exit.
+    Milliseconds notificationHold{250}; ///< Pause after a camera list was returned; see NotificationHold.
 
-    /// Takes one line of text about a failing producer; called on a thread of the system.
+    /// Takes one line about a failing producer. Called on a thread of the system.
     std::function<void(const std::string &)> report;
 
-    /// The options of an installation, whose library lies in `libraryDirectory`.
+    /// Returns the options of an installation whose library is in `libraryDirectory`.
     static SystemOptions forLibraryDirectory(const std::string &libraryDirectory);
 };

@@ -5,10 +5,10 @@
 #include <cstring>
 #include <string>
 
-/// Hands a text out by the two-call protocol of CvxCPP.h.
+/// Returns a string to a caller by the two-call protocol of CvxCPP.h.
 inline CvxCPP::CvxError copyText(const std::string &text, char *buffer, unsigned &size)
 {
-    // With the closing NUL. It came in an answer of 64 MiB at the most, so its length fits.
+    // With the terminating NUL. The text is part of a message of limited size, so its length fits.
     const auto needed = static_cast<unsigned>(text.size() + 1);
     if (buffer && size < needed)
         return CvxCPP::CvxErrorBufferTooSmall;

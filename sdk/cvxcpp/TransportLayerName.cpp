@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Lower-case letters and digits only, so that "GigE Vision", "GigE-Vision" and "gigevision" are one.
+/// Returns the letters, in lower case, and digits: "GigE Vision" and "GigE-Vision" become "gigevision".
 std::string plainName(std::string_view name)
 {
     std::string plain;

@@ -4,6 +4,6 @@
 
 #include <string_view>
 
-/// The technology behind a GenTL transport layer type such as "GEV". Long forms ("GigE Vision") count too,
-/// without regard to case; anything else is unknown.
+/// Returns the technology of a GenTL transport layer type such as "GEV". Accepts long forms ("GigE Vision")
+/// and any letter case; returns CvxTransportLayerUnknown for everything else.
 CvxCPP::CvxTransportLayerType transportLayerType(std::string_view name);

@@ -4,17 +4,18 @@
 
 namespace {
 
-constexpr std::string_view Replacement = "\xEF\xBF\xBD";
+constexpr std::string_view replacement = "\xEF\xBF\xBD";
 
 unsigned byteAt(std::string_view bytes, std::size_t index)
 {
     return static_cast<unsigned char>(bytes[index]);
 }
 
-/// The length of the well-formed sequence at the start of `bytes`; 0 when there is none.
+/// Returns the length of the well-formed sequence at the start of `bytes`; 0 if the bytes there are
+/// malformed.
 std::size_t sequenceLength(std::string_view bytes)
 {
-    // First byte, length, and the range of the second byte, which keeps out overlong forms and surrogates.
+    // The range of the second byte excludes overlong forms and surrogates.
     struct Form
     {
         unsigned first, last;
@@ -57,7 +58,7 @@ std::string toValidUtf8(std::string_view bytes)
     text.reserve(bytes.size());
     while (!bytes.empty()) {
         const std::size_t length = sequenceLength(bytes);
-        text += length > 0 ? bytes.substr(0, length) : Replacement;
+        text += length > 0 ? bytes.substr(0, length) : replacement;
         bytes.remove_prefix(length > 0 ? length : 1);
     }
     return text;
@@ -69,12 +70,12 @@ std::string toLine(std::string_view bytes)
     std::string line;
     const std::string text = toValidUtf8(bytes);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        // U+0080 to U+009F, which some terminals obey, are 0xC2 and a byte of that number.
-        const bool isUpper = byteAt(text, i) == 0xC2 && byteAt(text, i + 1) < 0xA0;
-        const unsigned code = byteAt(text, isUpper ? ++i : i);
+        // Some terminals obey U+0080 to U+009F, which are encoded as 0xC2 and a byte of the same value.
+        const bool isC1 = byteAt(text, i) == 0xC2 && byteAt(text, i + 1) < 0xA0;
+        const unsigned code = byteAt(text, isC1 ? ++i : i);
         if (code == '\n') {
             line += "\\n";
-        } else if (code < 0x20 || code == 0x7F || isUpper) {
+        } else if (code < 0x20 || code == 0x7F || isC1) {
             line += "\\x";
             line += digits[code >> 4];
             line += digits[code & 0xF];

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// The text with every malformed byte sequence replaced by U+FFFD.
+/// Returns the bytes with every malformed UTF-8 sequence replaced by U+FFFD.
 std::string toValidUtf8(std::string_view bytes);
 
-/// The text on one line: control characters become escapes such as "\n" or "\x1b", the rest is valid UTF-8.
+/// Returns the bytes as valid UTF-8 on one line: control characters become escapes such as "\n" or "\x1b".
 std::string toLine(std::string_view bytes);

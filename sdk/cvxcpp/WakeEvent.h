@@ -1,10 +1,10 @@
 #pragma once
 
-/// Wakes a thread that sleeps in poll().
+/// Wakes a thread that waits in poll().
 class WakeEvent
 {
 public:
-    WakeEvent(); ///< Throws std::system_error when the process has no descriptor left.
+    WakeEvent(); ///< Throws std::system_error if the process has no descriptor left.
     ~WakeEvent();
     WakeEvent(const WakeEvent &) = delete;
     WakeEvent &operator=(const WakeEvent &) = delete;

@@ -3,14 +3,14 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The part of the GenICam GenTL C interface that listing interfaces and devices needs.
+/// The part of the GenICam GenTL C interface that the enumeration of interfaces and devices needs.
 ///
-/// Written from the public GenICam GenTL Standard: function names, argument lists and numbers are those of
-/// its chapter "Software Interface". The section titles of that chapter stand above each block here, and
-/// "since" names the version of the standard that introduced an entry; without it, version 1.0.
+/// Function names, argument lists and numbers are those of the chapter "Software Interface" in the public
+/// GenICam GenTL Standard. Each block below is headed by the title of its section in that chapter. "since"
+/// names the version of the standard that introduced an entry; an entry without it exists since version 1.0.
 ///
-/// Everything lives in namespace GenTL, but the functions have C linkage and so their plain names in a
-/// producer. A consumer never links against them: it fetches each with dlsym() through its P… pointer type.
+/// Everything is in namespace GenTL, but the functions have C linkage, so a producer exports their plain
+/// names. A consumer does not link against them: it casts the result of dlsym() to the P… pointer type.
 namespace GenTL {
 
 // ---- Used Data Types ---------------------------------------------------------------------------------
@@ -19,8 +19,8 @@ using GC_ERROR = std::int32_t;
 using TL_HANDLE = void *;
 using IF_HANDLE = void *;
 
-/// One byte; 0 is false and anything else true. Not bool: a producer may write a byte that is neither 0
-/// nor 1.
+/// One byte: 0 is false, every other value is true. It is not bool, because a producer may write a byte that
+/// is neither 0 nor 1.
 using bool8_t = std::uint8_t;
 
 // Enumerations cross the interface as 32-bit integers, and custom values are allowed in all of them.
@@ -62,13 +62,13 @@ constexpr GC_ERROR GC_ERR_RESOURCE_EXHAUSTED = -1020; // since 1.4
 constexpr GC_ERROR GC_ERR_OUT_OF_MEMORY = -1021; // since 1.4
 constexpr GC_ERROR GC_ERR_BUSY = -1022; // since 1.5
 constexpr GC_ERROR GC_ERR_AMBIGUOUS = -1023; // since 1.6
-constexpr GC_ERROR GC_ERR_CUSTOM_ID = -10000; // This and every lower number belong to the producer.
+constexpr GC_ERROR GC_ERR_CUSTOM_ID = -10000; // Producers may define this and all lower numbers.
 
 // ---- Library and System Enumerations -----------------------------------------------------------------
 
 constexpr INFO_DATATYPE INFO_DATATYPE_UNKNOWN = 0;
-constexpr INFO_DATATYPE INFO_DATATYPE_STRING = 1; // Closed by a NUL, which the size counts.
-constexpr INFO_DATATYPE INFO_DATATYPE_STRINGLIST = 2; // Strings one after another, closed by one extra NUL.
+constexpr INFO_DATATYPE INFO_DATATYPE_STRING = 1; // NUL-terminated; the size includes the NUL.
+constexpr INFO_DATATYPE INFO_DATATYPE_STRINGLIST = 2; // NUL-terminated strings in a row, then one extra NUL.
 constexpr INFO_DATATYPE INFO_DATATYPE_INT16 = 3;
 constexpr INFO_DATATYPE INFO_DATATYPE_UINT16 = 4;
 constexpr INFO_DATATYPE INFO_DATATYPE_INT32 = 5;
@@ -100,7 +100,7 @@ constexpr TL_INFO_CMD TL_INFO_CUSTOM_ID = 1000;
 constexpr TL_CHAR_ENCODING TL_CHAR_ENCODING_ASCII = 0; // since 1.4
 constexpr TL_CHAR_ENCODING TL_CHAR_ENCODING_UTF8 = 1; // since 1.4
 
-// Transport layer types: text, compared as written.
+// Transport layer types: strings, compared case-sensitively.
 constexpr const char *TLTypeGEVName = "GEV"; // GigE Vision
 constexpr const char *TLTypeU3VName = "U3V"; // USB3 Vision; since 1.4
 constexpr const char *TLTypeCLName = "CL"; // Camera Link
@@ -110,8 +110,7 @@ constexpr const char *TLTypeIIDCName = "IIDC"; // Cameras on IEEE 1394
 constexpr const char *TLTypeUVCName = "UVC"; // USB video class
 constexpr const char *TLTypeETHERNETName = "Ethernet"; // Ethernet without GigE Vision; since 1.3
 constexpr const char *TLTypePCIName = "PCI"; // since 1.3
-constexpr const char *TLTypeMixedName
-    = "Mixed"; // A system with several of them; never an interface or device.
+constexpr const char *TLTypeMixedName = "Mixed"; // Several technologies; for a system module only.
 constexpr const char *TLTypeCustomName = "Custom"; // Anything else.
 
 // ---- Interface Enumerations --------------------------------------------------------------------------
@@ -124,7 +123,7 @@ constexpr INTERFACE_INFO_CMD INTERFACE_INFO_CUSTOM_ID = 1000;
 
 // ---- Device Enumerations -----------------------------------------------------------------------------
 
-// IFGetDeviceInfo and DevGetInfo. The ones since 1.4 may be unknown until the device is opened.
+// IFGetDeviceInfo and DevGetInfo. Those since 1.4 may be unknown until the device is opened.
 constexpr DEVICE_INFO_CMD DEVICE_INFO_ID = 0; // STRING
 constexpr DEVICE_INFO_CMD DEVICE_INFO_VENDOR = 1; // STRING
 constexpr DEVICE_INFO_CMD DEVICE_INFO_MODEL = 2; // STRING
@@ -148,7 +147,7 @@ constexpr DEVICE_ACCESS_STATUS DEVICE_ACCESS_STATUS_CUSTOM_ID = 1000;
 
 // ---- Function Declarations ---------------------------------------------------------------------------
 
-// Visible also in a producer that is built with hidden visibility.
+// Exported even if the producer is built with hidden visibility.
 #define GENTL_FUNCTION __attribute__((visibility("default"))) GenTL::GC_ERROR
 
 extern "C" {
@@ -184,7 +183,7 @@ GENTL_FUNCTION IFGetParentTL(IF_HANDLE hIface, TL_HANDLE *phSystem); // since 1.
 
 } // extern "C"
 
-// What a consumer casts the result of dlsym() to.
+// The pointer types for the results of dlsym().
 using PGCInitLib = decltype(&GCInitLib);
 using PGCCloseLib = decltype(&GCCloseLib);
 using PGCGetInfo = decltype(&GCGetInfo);

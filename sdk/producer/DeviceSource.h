@@ -7,21 +7,20 @@
 #include <string>
 #include <vector>
 
-// All texts of these records are UTF-8; what follows a NUL in them is lost on the way through the C
-// interface.
+// All strings of these records are UTF-8. The C interface ends a string at its first NUL.
 
-/// What a producer says about itself.
+/// What a producer reports about itself.
 struct ProducerIdentity
 {
     std::string id; ///< Unique among the producers of a machine.
-    std::string vendor; ///< Who made the producer.
-    std::string model; ///< The producer's product name.
+    std::string vendor; ///< The vendor of the producer, not of its cameras.
+    std::string model; ///< The product name of the producer.
     std::string version;
-    std::string tlType; ///< GenTL::TLType…Name; "Mixed" for several technologies.
+    std::string tlType; ///< One of GenTL::TLType…Name; "Mixed" for several technologies.
     std::string displayName;
 };
 
-/// One interface, for example a network card. Its ID is unique in the producer and never empty.
+/// One interface, for example a network interface. Its ID is unique in the producer and never empty.
 struct InterfaceRecord
 {
     std::string id;
@@ -29,7 +28,7 @@ struct InterfaceRecord
     std::string tlType; ///< Never "Mixed".
 };
 
-/// One device. Its ID is unique in its interface and never empty; any other text may be empty.
+/// One device. Its ID is unique in its interface and never empty; any other string may be empty.
 struct DeviceRecord
 {
     std::string id;
@@ -45,10 +44,10 @@ struct DeviceRecord
 bool operator==(const InterfaceRecord &left, const InterfaceRecord &right);
 bool operator==(const DeviceRecord &left, const DeviceRecord &right);
 
-/// Where a producer's interfaces and devices come from: the one part that each producer writes itself.
-/// Lives from GCInitLib to GCCloseLib. Both updates may be called from several threads at once, though never
-/// twice at a time for the same interface. They may throw: the list then stays as it was, and the caller
-/// gets the exception's text as an error.
+/// Finds a producer's interfaces and devices: the one part that each producer implements itself.
+/// Lives from GCInitLib to GCCloseLib, or longer if a call is still running then. Several threads may call
+/// any of its functions at the same time, but never the same update twice at once. An update may throw: the
+/// list then stays unchanged, and the consumer gets GC_ERR_ERROR with the message of the exception.
 class DeviceSource
 {
 public:
@@ -56,12 +55,14 @@ public:
 
     virtual ProducerIdentity identity() const = 0;
 
-    /// Looks for interfaces now.
+    /// Returns the interfaces that exist now. Blocks until the search has ended.
     virtual std::vector<InterfaceRecord> updateInterfaces() = 0;
 
-    /// Looks for the devices of one interface now. Empty for an interface that is gone.
+    /// Returns the devices that one interface has now; none if the interface is gone. Blocks until the search
+    /// has ended.
     virtual std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) = 0;
 };
 
-/// Defined by each producer. producerFile is the full path of its .cti.
+/// Returns the source of a producer; each producer defines this function. May throw: GCInitLib then fails.
+/// @param producerFile The full path of the producer's .cti file.
 std::unique_ptr<DeviceSource> createDeviceSource(const std::filesystem::path &producerFile);

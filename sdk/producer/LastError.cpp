@@ -2,38 +2,66 @@
 
 #include <cstdio>
 
+using namespace GenTL;
+
 namespace {
 
-/// Plain data: recording a failure can then not fail itself, and a thread's end has nothing to destroy
-/// in a library that may have been unloaded by then.
+/// Plain data: recording an error cannot fail itself, and nothing has to be destroyed when a thread ends,
+/// which may be after this library was unloaded.
 struct LastError
 {
-    GenTL::GC_ERROR code = GenTL::GC_ERR_SUCCESS;
-    char text[512] = "No error.";
+    GC_ERROR code = GC_ERR_SUCCESS;
+    char message[512] = "No error.";
 };
 
 thread_local LastError lastError;
 
 } // namespace
 
-GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const char *text) noexcept
+GC_ERROR fail(GC_ERROR code, const char *message) noexcept
 {
     lastError.code = code;
-    std::snprintf(lastError.text, sizeof lastError.text, "%s", text);
+    std::snprintf(lastError.message, sizeof lastError.message, "%s", message);
     return code;
 }
 
-GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const std::string &text) noexcept
+GC_ERROR fail(GC_ERROR code, const std::string &message) noexcept
 {
-    return fail(code, text.c_str());
+    return fail(code, message.c_str());
 }
 
-GenTL::GC_ERROR lastErrorCode() noexcept
+GC_ERROR failMissingArgument()
+{
+    return fail(GC_ERR_INVALID_PARAMETER, "A required argument is NULL.");
+}
+
+GC_ERROR failUnknownCommand(std::int32_t command)
+{
+    return fail(GC_ERR_NOT_IMPLEMENTED, "There is no info command " + std::to_string(command) + ".");
+}
+
+GC_ERROR failNeverUpdated()
+{
+    return fail(GC_ERR_NOT_AVAILABLE, "The list was never updated.");
+}
+
+GC_ERROR failIndex(std::uint32_t index, std::uint32_t count)
+{
+    return fail(GC_ERR_INVALID_INDEX,
+        "Index " + std::to_string(index) + " is past the end of a list of " + std::to_string(count) + ".");
+}
+
+GC_ERROR failUnknownId(const std::string &id)
+{
+    return fail(GC_ERR_INVALID_ID, "There is no \"" + id + "\" in the list.");
+}
+
+GC_ERROR lastErrorCode() noexcept
 {
     return lastError.code;
 }
 
-const char *lastErrorText() noexcept
+const char *lastErrorMessage() noexcept
 {
-    return lastError.text;
+    return lastError.message;
 }

@@ -4,11 +4,18 @@
 
 #include <string>
 
-/// Records a failure as the calling thread's last error, for GCGetLastError, and returns the code.
-/// Texts over 511 bytes are cut.
-GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const char *text) noexcept;
-GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const std::string &text) noexcept;
+/// Sets the calling thread's last error, which GCGetLastError returns, and returns its code.
+/// Only the first 511 bytes of the message are kept.
+GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const char *message) noexcept;
+GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const std::string &message) noexcept;
 
-/// The calling thread's last failure; success while there was none.
+// Failures that several functions share. Each returns the code in its comment.
+GenTL::GC_ERROR failMissingArgument(); ///< GC_ERR_INVALID_PARAMETER
+GenTL::GC_ERROR failUnknownCommand(std::int32_t command); ///< GC_ERR_NOT_IMPLEMENTED
+GenTL::GC_ERROR failNeverUpdated(); ///< GC_ERR_NOT_AVAILABLE
+GenTL::GC_ERROR failIndex(std::uint32_t index, std::uint32_t count); ///< GC_ERR_INVALID_INDEX
+GenTL::GC_ERROR failUnknownId(const std::string &id); ///< GC_ERR_INVALID_ID
+
+/// Return the calling thread's last error; GC_ERR_SUCCESS and "No error." if there was none.
 GenTL::GC_ERROR lastErrorCode() noexcept;
-const char *lastErrorText() noexcept;
+const char *lastErrorMessage() noexcept;

@@ -1,64 +1,25 @@
 #include "sdk/producer/Producer.h"
 
+#include "sdk/producer/InfoCommands.h"
 #include "sdk/producer/LastError.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <dlfcn.h>
 #include <new>
-#include <stdexcept>
-#include <system_error>
-#include <utility>
 
 using namespace GenTL;
 
 namespace {
 
-constexpr std::uint32_t genTlMajor = 1;
-constexpr std::uint32_t genTlMinor = 5;
-
 std::filesystem::path ownFile()
 {
-    // A variable of our own rather than an exported function: another producer may have been loaded before
-    // us into the global scope, and its function of the same name would then be the one found.
+    // The address of a variable rather than of an exported function: another producer may have been loaded
+    // into the global scope before us, and the function of the same name would then be its own.
     static const char landmark = 0;
     Dl_info library{};
-    if (!dladdr(&landmark, &library) || !library.dli_fname)
-        throw std::runtime_error("The producer cannot find its own file.");
-    std::error_code error;
-    const std::filesystem::path resolved = std::filesystem::canonical(library.dli_fname, error);
-    return error ? std::filesystem::absolute(library.dli_fname) : resolved;
-}
-
-GC_ERROR answerSystemInfo(const ProducerIdentity &identity, const std::filesystem::path &file,
-    TL_INFO_CMD command, const Answer &answer)
-{
-    switch (command) {
-    case TL_INFO_ID:
-        return answer.text(identity.id);
-    case TL_INFO_VENDOR:
-        return answer.text(identity.vendor);
-    case TL_INFO_MODEL:
-        return answer.text(identity.model);
-    case TL_INFO_VERSION:
-        return answer.text(identity.version);
-    case TL_INFO_TLTYPE:
-        return answer.text(identity.tlType);
-    case TL_INFO_NAME:
-        return answer.text(file.filename().string());
-    case TL_INFO_PATHNAME:
-        return answer.text(file.string());
-    case TL_INFO_DISPLAYNAME:
-        return answer.text(identity.displayName);
-    case TL_INFO_CHAR_ENCODING:
-        return answer.int32(TL_CHAR_ENCODING_UTF8);
-    case TL_INFO_GENTL_VER_MAJOR:
-        return answer.uint32(genTlMajor);
-    case TL_INFO_GENTL_VER_MINOR:
-        return answer.uint32(genTlMinor);
-    default:
-        return failUnknownCommand(command);
-    }
+    dladdr(&landmark, &library); // Cannot fail for an address in a loaded library.
+    return std::filesystem::canonical(library.dli_fname);
 }
 
 GC_ERROR failNotInitialised()
@@ -70,8 +31,8 @@ GC_ERROR failNotInitialised()
 
 Producer &Producer::instance()
 {
-    // Never destroyed: a consumer may leave the process while a thread of its own is still in a call.
-    // Once closed it owns no memory, so unloading loses none.
+    // Never destroyed: the process may end while a thread of the consumer is still in a call.
+    // A closed producer owns no memory, so unloading it leaks none.
     alignas(Producer) static std::byte storage[sizeof(Producer)];
     static Producer *const producer = new (storage) Producer;
     return *producer;
@@ -80,47 +41,50 @@ Producer &Producer::instance()
 GC_ERROR Producer::initialise()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_session)
+    if (m_source)
         return fail(GC_ERR_RESOURCE_IN_USE, "The producer is initialised already.");
-    const std::filesystem::path file = ownFile();
-    m_session = Session{file, createDeviceSource(file)};
+    m_file = ownFile();
+    m_source = createDeviceSource(m_file);
     return GC_ERR_SUCCESS;
 }
 
 GC_ERROR Producer::close()
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_session)
+    if (!m_source)
         return failNotInitialised();
-    closeEverything();
-    m_session.reset();
+    closeModules();
+    m_source.reset();
+    m_file = std::filesystem::path();
     return GC_ERR_SUCCESS;
 }
 
 GC_ERROR Producer::requireInitialised() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_session ? GC_ERR_SUCCESS : failNotInitialised();
+    return m_source ? GC_ERR_SUCCESS : failNotInitialised();
 }
 
-GC_ERROR Producer::info(TL_INFO_CMD command, const Answer &answer) const
+GC_ERROR Producer::info(TL_INFO_CMD command, const InfoOutput &output) const
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_session)
+    if (!m_source)
         return failNotInitialised();
-    if (!answer.isComplete())
-        return failArgumentMissing();
-    return answerSystemInfo(m_session->source->identity(), m_session->file, command, answer);
+    if (!output.isComplete())
+        return failMissingArgument();
+    return writeProducerInfo(m_source->identity(), m_file, command, output);
 }
 
 GC_ERROR Producer::openSystem(TL_HANDLE *handle)
 {
-    if (!handle)
-        return failArgumentMissing();
     const std::lock_guard lock(m_mutex);
+    if (!m_source)
+        return failNotInitialised();
+    if (!handle)
+        return failMissingArgument();
     if (m_system)
         return fail(GC_ERR_RESOURCE_IN_USE, "The system module is open already.");
-    m_system = std::make_shared<SystemModule>(m_session->source);
+    m_system = std::make_shared<SystemModule>(m_source);
     m_systemHandle = newHandle();
     *handle = m_systemHandle;
     return GC_ERR_SUCCESS;
@@ -129,26 +93,28 @@ GC_ERROR Producer::openSystem(TL_HANDLE *handle)
 GC_ERROR Producer::closeSystem(TL_HANDLE handle)
 {
     const std::lock_guard lock(m_mutex);
+    if (!m_source)
+        return failNotInitialised();
     if (!m_system || handle != m_systemHandle)
-        return fail(GC_ERR_INVALID_HANDLE, "This is no open system module.");
-    closeEverything();
+        return fail(GC_ERR_INVALID_HANDLE, "This is not the handle of the open system module.");
+    closeModules();
     return GC_ERR_SUCCESS;
 }
 
-GC_ERROR Producer::openInterface(const SystemModule &systemModule, const std::string &id, IF_HANDLE *handle)
+GC_ERROR Producer::openInterface(
+    const std::string &id, const std::optional<InterfaceRecord> &record, IF_HANDLE *handle)
 {
-    if (!handle)
-        return failArgumentMissing();
-    // Asked before our own lock is taken: the system module may be in the middle of a search.
-    const std::optional<InterfaceRecord> record = systemModule.findInterface(id);
-
     const std::lock_guard lock(m_mutex);
+    if (!m_source)
+        return failNotInitialised();
+    if (!handle)
+        return failMissingArgument();
     if (isOpen(id))
         return fail(GC_ERR_RESOURCE_IN_USE, "The interface \"" + id + "\" is open already.");
     if (!record)
         return failUnknownId(id);
     const IF_HANDLE opened = newHandle();
-    m_interfaces.emplace(opened, std::make_shared<InterfaceModule>(m_session->source, *record));
+    m_interfaces.emplace(opened, std::make_shared<InterfaceModule>(m_source, *record));
     *handle = opened;
     return GC_ERR_SUCCESS;
 }
@@ -156,21 +122,23 @@ GC_ERROR Producer::openInterface(const SystemModule &systemModule, const std::st
 GC_ERROR Producer::closeInterface(IF_HANDLE handle)
 {
     const std::lock_guard lock(m_mutex);
+    if (!m_source)
+        return failNotInitialised();
     if (m_interfaces.erase(handle) == 0)
-        return fail(GC_ERR_INVALID_HANDLE, "This is no open interface.");
+        return fail(GC_ERR_INVALID_HANDLE, "This is not the handle of an open interface.");
     return GC_ERR_SUCCESS;
+}
+
+std::shared_ptr<SystemModule> Producer::openedSystem() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_system;
 }
 
 TL_HANDLE Producer::systemHandle() const
 {
     const std::lock_guard lock(m_mutex);
     return m_systemHandle;
-}
-
-std::shared_ptr<SystemModule> Producer::system() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_system;
 }
 
 std::shared_ptr<SystemModule> Producer::system(TL_HANDLE handle) const
@@ -189,16 +157,16 @@ std::shared_ptr<InterfaceModule> Producer::interface(IF_HANDLE handle) const
 bool Producer::isOpen(const std::string &interfaceId) const
 {
     return std::any_of(m_interfaces.begin(), m_interfaces.end(),
-        [&](const auto &entry) { return entry.second->record().id == interfaceId; });
+        [&](const auto &entry) { return entry.second->openedAs.id == interfaceId; });
 }
 
 void *Producer::newHandle()
 {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): never dereferenced, the type only has to be a handle's.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): never dereferenced; it only needs the type of a handle.
     return reinterpret_cast<void *>(++m_lastHandle);
 }
 
-void Producer::closeEverything()
+void Producer::closeModules()
 {
     m_interfaces.clear();
     m_system.reset();

@@ -1,5 +1,6 @@
-// Everything of GenTL 1.6 beyond discovery: exported because some consumers insist on the complete set, and
-// refused. On our platforms a C function may ignore arguments it does not declare, so none declares any.
+// The functions of GenTL 1.6 that discovery does not need. They are exported because some consumers refuse a
+// producer without the complete set, and all return GC_ERR_NOT_IMPLEMENTED. On our platforms a C function may
+// be called with arguments that it does not declare, so none declares any.
 
 #include "sdk/producer/LastError.h"
 
@@ -8,7 +9,7 @@ using namespace GenTL;
 #define REFUSE(name)                                                                                         \
     GENTL_FUNCTION name()                                                                                    \
     {                                                                                                        \
-        return fail(GC_ERR_NOT_IMPLEMENTED, "This producer lists devices only: there is no " #name ".");     \
+        return fail(GC_ERR_NOT_IMPLEMENTED, "This producer only enumerates devices; it has no " #name ".");  \
     }
 
 extern "C" {

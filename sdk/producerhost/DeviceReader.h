@@ -1,47 +1,35 @@
 #pragma once
 
+#include "sdk/producerhost/ProblemList.h"
 #include "sdk/producerhost/ProducerLibrary.h"
+#include "sdk/producerhost/StringReader.h"
+#include "sdk/protocol/CameraRecords.h"
 
+#include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
-/// One device as its producer describes it; texts are raw bytes and may be empty, except the ID.
-struct DeviceDescription
-{
-    std::string id;
-    std::string vendor;
-    std::string model;
-    std::string serial;
-    std::string name;
-    std::string type;
-};
-
-/// Reads the texts of a producer by the two-call protocol and puts devices together from them.
+/// Reads the device list of one interface, as it is after an update of that list.
 class DeviceReader
 {
 public:
-    /// Problems are added to `problems`; an optional text that fails is no problem.
-    DeviceReader(const ProducerLibrary &library, std::vector<Problem> &problems);
+    /// Adds the failed calls to `problems`.
+    DeviceReader(const ProducerLibrary &library, GenTL::IF_HANDLE interface, ProblemList &problems);
 
-    std::optional<Problem> readInterfaceId(
-        GenTL::TL_HANDLE system, std::uint32_t index, std::string &id) const;
-    std::string readInterfaceInfo(
-        GenTL::TL_HANDLE system, const std::string &interfaceId, GenTL::INTERFACE_INFO_CMD command);
-
-    /// Reads the devices of an interface's current list, sorted by ID; false when some or all could not be
-    /// read.
-    bool readDevices(GenTL::IF_HANDLE interface, std::vector<DeviceDescription> &devices);
+    /// Stores the devices, sorted by ID. Returns false if some or all of them could not be read.
+    bool readDevices(std::vector<DeviceRecord> &devices);
 
 private:
-    /// Nothing when the device has gone meanwhile.
-    std::optional<DeviceDescription> readDevice(GenTL::IF_HANDLE interface, std::string id);
-    std::optional<Problem> readDeviceInfo(GenTL::IF_HANDLE interface, const std::string &id,
-        GenTL::DEVICE_INFO_CMD command, std::string &text) const;
+    std::optional<std::uint32_t> readCount();
+    bool readIds(std::uint32_t count, std::set<std::string> &ids);
 
-    template <typename Query>
-    std::optional<Problem> readText(const char *call, const Query &query, std::string &text) const;
+    /// Returns nothing if the device has gone meanwhile.
+    std::optional<DeviceRecord> readDevice(std::string id);
 
     const ProducerLibrary &m_library;
-    std::vector<Problem> &m_problems;
+    const StringReader m_strings;
+    const GenTL::IF_HANDLE m_interface;
+    ProblemList &m_problems;
 };

@@ -1,52 +1,84 @@
 #include "sdk/producerhost/HostServer.h"
 
-#include "sdk/producerhost/ExitStatus.h"
-#include "sdk/producerhost/ProducerAnswerWriter.h"
+#include "sdk/protocol/HostContract.h"
 
-#include <cstdint>
 #include <cstdlib>
-#include <nlohmann/json.hpp>
 
-HostServer::HostServer(int descriptor) : m_socket(descriptor) { }
+HostServer::HostServer(int socket) : m_channel(socket) { }
 
 int HostServer::run(const char *producerPath)
 {
-    if (const auto problem = m_producer.open(producerPath)) {
-        answerError(*problem);
-    } else {
-        std::string request;
-        while (m_socket.readLine(request) && serve(request)) { }
-    }
-    m_socket.write(endAnswer(m_producer.close()));
-    return m_socket.isLost() ? ConnectionLostStatus : EXIT_SUCCESS;
+    if (const auto problem = m_producer.open(producerPath))
+        fail(*problem);
+    std::string line;
+    while (!m_isFinished && (m_connection = m_channel.waitForLine(line)) == LineChannel::Status::Line)
+        serve(line);
+    m_producer.close();
+    return m_connection == LineChannel::Status::Lost ? connectionLostStatus : EXIT_SUCCESS;
 }
 
-bool HostServer::serve(const std::string &request)
+void HostServer::serve(const std::string &line)
 {
-    const auto json = nlohmann::json::parse(request, nullptr, false);
-    if (!json.is_object())
+    const auto message = Message::fromLine(line);
+    const bool isServed = message
+        && (tryServe<ListCamerasRequest>(*message) || tryServe<ListInterfaceRequest>(*message)
+            || tryServe<CloseProducerRequest>(*message));
+    if (!isServed) // Does not happen: library and host are installed together.
+        m_isFinished = true;
+}
+
+template <typename Request>
+bool HostServer::tryServe(const Message &message)
+{
+    const auto request = message.content<Request>();
+    if (!request)
         return false;
-    const std::string kind = json.value("request", std::string());
-    if (kind == "list")
-        return serveList(json.value("interfaces", false));
-    if (kind == "interface")
-        return m_socket.write(
-            interfaceAnswer(m_producer.updateDevices(json.value("number", std::uint64_t(0)))));
-    return false; // "end", or something from another version.
+    m_request = message.id();
+    handle(*request);
+    return true;
 }
 
-bool HostServer::serveList(bool withInterfaces)
+void HostServer::handle(const ListCamerasRequest &request)
 {
-    if (withInterfaces || !m_producer.isListed()) {
+    if (request.updatesInterfaces || m_producer.needsInterfaceUpdate()) {
         if (const auto problem = m_producer.updateInterfaces())
-            return answerError(*problem);
+            return fail(*problem);
     }
-    m_producer.updateDevices();
-    return m_socket.write(listAnswer(m_producer.interfaces(), m_producer.problems()));
+    m_producer.searchAll();
+    CameraListReply cameras;
+    ProblemList problems = m_producer.problems();
+    for (const auto &interface : m_producer.interfaces()) {
+        cameras.interfaces.push_back(interface->record());
+        problems.add(interface->problems());
+    }
+    cameras.problems = problems.all();
+    reply(cameras);
 }
 
-bool HostServer::answerError(const Problem &problem)
+void HostServer::handle(const ListInterfaceRequest &request)
 {
-    m_socket.write(errorAnswer(problem));
-    return false;
+    CameraListReply cameras;
+    if (const OpenInterface *interface = m_producer.searchInterface(request.number)) {
+        cameras.interfaces.push_back(interface->record());
+        cameras.problems = interface->problems().all();
+    }
+    reply(cameras);
+}
+
+void HostServer::handle(const CloseProducerRequest &)
+{
+    m_isFinished = true;
+    reply(ProducerClosedReply{m_producer.close()});
+}
+
+template <typename Content>
+void HostServer::reply(const Content &content)
+{
+    m_connection = m_channel.send(Message(m_request, content).toLine());
+}
+
+void HostServer::fail(const Problem &problem)
+{
+    m_isFinished = true;
+    reply(ProducerFailedReply{problem});
 }

@@ -1,26 +1,43 @@
 #pragma once
 
-#include "sdk/producerhost/LineSocket.h"
-#include "sdk/producerhost/ProducerModule.h"
+#include "sdk/producerhost/LoadedProducer.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/LineChannel.h"
+#include "sdk/protocol/Message.h"
 
 #include <string>
 
-/// Serves the requests for one producer until it is told to end, the other end is closed, or the producer
-/// turns out to be of no use. One request at a time.
+/// Serves the library's requests for one producer, one at a time, until the library closes the producer or
+/// the connection, or the producer cannot be used.
 class HostServer
 {
 public:
-    explicit HostServer(int descriptor);
+    /// Takes over the descriptor of the socket to the library.
+    explicit HostServer(int socket);
 
-    /// Gives the status to exit with.
+    /// Returns the status to exit with.
     int run(const char *producerPath);
 
 private:
-    /// False ends the service.
-    bool serve(const std::string &request);
-    bool serveList(bool withInterfaces);
-    bool answerError(const Problem &problem);
+    /// Calls the handler of the request in this line. Ends the service if there is none.
+    void serve(const std::string &line);
 
-    LineSocket m_socket;
-    ProducerModule m_producer;
+    /// Calls the handler if the message is this kind of request.
+    template <typename Request>
+    bool tryServe(const Message &message);
+
+    // One handler for each request; it sends the reply.
+    void handle(const ListCamerasRequest &request);
+    void handle(const ListInterfaceRequest &request);
+    void handle(const CloseProducerRequest &request);
+
+    template <typename Content>
+    void reply(const Content &content);
+    void fail(const Problem &problem);
+
+    LineChannel m_channel;
+    LineChannel::Status m_connection = LineChannel::Status::Line; // Result of the last read or write.
+    LoadedProducer m_producer;
+    Message::Id m_request = Message::noRequest; // The request that is being handled.
+    bool m_isFinished = false; // No request is served any more.
 };

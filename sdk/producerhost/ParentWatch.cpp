@@ -7,12 +7,12 @@
 
 bool dieWithParent(int socket)
 {
+    // The order matters: a parent that ended before prctl() sends no signal. The socket still knows its
+    // process ID, which then differs from getppid().
     ucred parent{};
     socklen_t size = sizeof(parent);
-    // In this order: gone before the first call, the parent sends no signal any more; the socket remembers
-    // who it was.
     if (prctl(PR_SET_PDEATHSIG, SIGKILL) != 0
         || getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &parent, &size) != 0)
         return false;
-    return parent.pid == 0 || parent.pid == getppid(); // 0: a process that our PID namespace does not show.
+    return parent.pid == 0 || parent.pid == getppid(); // 0: the parent is in another PID namespace.
 }

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Ties the life of this process to the one at the other end of the socket: the kernel ends us with it,
-/// even while we hang in a driver. False when that process is gone already.
+/// Makes the kernel kill this process when the process at the other end of the socket ends, even while a
+/// producer hangs. Returns false if that process has ended already.
 bool dieWithParent(int socket);

@@ -17,7 +17,7 @@ bool resolve(void *library, const char *name, Function &function)
     return function != nullptr;
 }
 
-using ElfIdentity = std::array<char, 20>; // From the magic number to the machine.
+using ElfIdentity = std::array<char, 20>; // The ELF header from the magic number to the machine.
 
 ElfIdentity elfIdentity(const char *path)
 {
@@ -26,11 +26,11 @@ ElfIdentity elfIdentity(const char *path)
     return identity;
 }
 
-/// The loader's own words for it are that there is no such file.
+/// The loader's own message in this case is misleading: it reports that the file does not exist.
 bool isForAnotherMachine(const char *path)
 {
     const auto identity = elfIdentity(path), own = elfIdentity("/proc/self/exe");
-    const auto differs = [&](std::size_t place) { return identity[place] != own[place]; };
+    const auto differs = [&](std::size_t index) { return identity[index] != own[index]; };
     const bool isElf = std::equal(own.begin(), own.begin() + SELFMAG, identity.begin());
     return isElf
         && (differs(EI_CLASS) || differs(EI_DATA) || differs(offsetof(Elf64_Ehdr, e_machine))
@@ -41,12 +41,13 @@ bool isForAnotherMachine(const char *path)
 
 std::optional<Problem> ProducerLibrary::load(const char *path)
 {
-    // All producers export the same names. What a constructor throws gets no further than dlopen().
+    // RTLD_LOCAL because all producers export the same names. An exception in a constructor does not pass
+    // through dlopen(); the handler for uncaught exceptions reports it.
     if (void *const library = dlopen(path, RTLD_NOW | RTLD_LOCAL))
         return resolveFunctions(library);
     const std::string error = dlerror();
     if (isForAnotherMachine(path))
-        return Problem{"dlopen", 0, "the library is for another kind of machine"};
+        return Problem{"dlopen", 0, "the library is for another processor architecture"};
     return Problem{"dlopen", 0, error};
 }
 
@@ -82,7 +83,7 @@ std::string ProducerLibrary::lastErrorText() const
 {
     if (!GCGetLastError)
         return {};
-    std::array<char, 1024> text{}; // Longer texts are refused by the producer and left out: it is only a log.
+    std::array<char, 1024> text{}; // The producer refuses longer texts; they are left out.
     std::size_t size = text.size() - 1;
     GenTL::GC_ERROR code = 0;
     try {

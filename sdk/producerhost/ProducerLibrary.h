@@ -1,21 +1,38 @@
 #pragma once
 
 #include "sdk/gentl/GenTL.h"
-#include "sdk/producerhost/Problem.h"
+#include "sdk/protocol/Problem.h"
 
+#include <cstdint>
 #include <exception>
+#include <limits>
 #include <optional>
 #include <string>
 
-/// The functions of one loaded GenTL producer, and the one way to call them: every failure, an exception
-/// included, comes back as a Problem. The library is never unloaded, since some producers do not survive it.
+/// Returns true if the call was given too little time.
+inline bool isTimeout(const Problem &problem)
+{
+    return problem.code == GenTL::GC_ERR_TIMEOUT;
+}
+
+/// Returns true if the call was about an interface or device that has gone since it was listed.
+inline bool isGone(const Problem &problem)
+{
+    return problem.code == GenTL::GC_ERR_INVALID_ID || problem.code == GenTL::GC_ERR_INVALID_INDEX;
+}
+
+/// The functions of one loaded GenTL producer. call() turns every failure, also an exception, into a Problem.
+/// The library is never unloaded, because some producers do not survive it.
 class ProducerLibrary
 {
 public:
-    /// Loads the file and looks its functions up. Only what listing needs must be there.
+    /// Initial value for a count that the producer has to write: no producer returns it.
+    static constexpr std::uint32_t unwrittenCount = std::numeric_limits<std::uint32_t>::max();
+
+    /// Loads the file and looks up its functions. Fails if a function is missing that enumeration needs.
     std::optional<Problem> load(const char *path);
 
-    /// Calls a function. Every return value but 0 is a failure, positive ones too.
+    /// Calls a function. Every return value except 0 is a failure, positive values too.
     template <typename Function, typename... Arguments>
     std::optional<Problem> call(const char *name, Function function, Arguments... arguments) const
     {
@@ -46,7 +63,7 @@ public:
     GenTL::PIFGetDeviceID IFGetDeviceID = nullptr;
     GenTL::PIFGetDeviceInfo IFGetDeviceInfo = nullptr;
 
-    // These two only add to an answer; null when the producer lacks them.
+    // Optional functions; null if the producer lacks them.
     GenTL::PTLGetInterfaceInfo TLGetInterfaceInfo = nullptr;
     GenTL::PGCGetLastError GCGetLastError = nullptr;
 

@@ -1,47 +1,56 @@
 #include "sdk/producerhost/UncaughtException.h"
 
-#include "sdk/producerhost/ExitStatus.h"
-#include "sdk/producerhost/Leave.h"
-#include "sdk/producerhost/LineSocket.h"
-#include "sdk/producerhost/ProducerAnswerWriter.h"
+#include "sdk/producerhost/ProcessExit.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/HostContract.h"
+#include "sdk/protocol/LineChannel.h"
+#include "sdk/protocol/Message.h"
 
 #include <cstdlib>
 #include <exception>
 #include <string>
+#include <unistd.h>
 
 namespace {
 
-int answerSocket = -1;
+int replySocket = -1;
 
-/// What was thrown, as far as it tells.
 std::string describeException()
 {
-    const auto thrown = std::current_exception();
-    if (!thrown) // As when a thread is destroyed that still runs.
+    const auto exception = std::current_exception();
+    if (!exception) // For example, a running std::thread was destroyed.
         return "called std::terminate";
-    std::string text = "threw an exception that nobody caught";
+    const std::string text = "threw an uncaught exception";
     try {
-        std::rethrow_exception(thrown);
-    } catch (const std::exception &exception) {
-        text += std::string(": ") + exception.what();
+        std::rethrow_exception(exception);
+    } catch (const std::exception &thrown) {
+        return text + ": " + thrown.what();
     } catch (...) {
-        // It is of no kind that could tell more.
+        return text;
     }
-    return text;
 }
 
-[[noreturn]] void answerAndLeave()
+[[noreturn]] void waitForExit()
 {
-    std::set_terminate(std::abort); // What is left to fail here is a lack of memory.
-    LineSocket socket(answerSocket);
-    socket.write(errorAnswer({"the driver", 0, describeException()}));
-    leave(socket.isLost() ? ConnectionLostStatus : EXIT_SUCCESS);
+    for (;;)
+        pause();
+}
+
+[[noreturn]] void reportAndExit()
+{
+    // Threads that fail at the same time must not end the process before the first one has sent its report.
+    if (std::set_terminate(waitForExit) == waitForExit)
+        waitForExit();
+    LineChannel channel(replySocket);
+    const ProducerFailedReply reply{{"the producer", 0, describeException()}};
+    const auto status = channel.send(Message(Message::noRequest, reply).toLine());
+    exitWithoutDestructors(status == LineChannel::Status::Lost ? connectionLostStatus : EXIT_SUCCESS);
 }
 
 } // namespace
 
-void answerUncaughtExceptions(int socket)
+void reportUncaughtExceptions(int socket)
 {
-    answerSocket = socket;
-    std::set_terminate(answerAndLeave);
+    replySocket = socket;
+    std::set_terminate(reportAndExit);
 }

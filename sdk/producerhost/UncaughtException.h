@@ -1,5 +1,5 @@
 #pragma once
 
-/// From here on an exception that nobody catches, as in a constructor or a thread of the driver, ends the
-/// process with an answer that tells what it was.
-void answerUncaughtExceptions(int socket);
+/// Installs a handler for exceptions that nobody catches, for example in a thread or a constructor of the
+/// producer. The handler sends the exception's text as a ProducerFailedReply and ends the process.
+void reportUncaughtExceptions(int socket);

@@ -2,20 +2,21 @@
 
 #include <algorithm>
 
-UpdateTimeout::Clock::time_point UpdateTimeout::bound()
+UpdateTimeout::Clock::time_point UpdateTimeout::deadline()
 {
-    return Clock::now() + std::chrono::milliseconds(Longest);
+    return Clock::now() + std::chrono::milliseconds(maxTimeout);
 }
 
-std::uint64_t UpdateTimeout::until(Clock::time_point bound) const
+std::uint64_t UpdateTimeout::until(Clock::time_point deadline) const
 {
-    const auto left = std::chrono::round<std::chrono::milliseconds>(bound - Clock::now()).count();
-    return std::clamp<std::uint64_t>(left > 0 ? std::uint64_t(left) : 0, First, m_milliseconds);
+    const auto remaining = std::chrono::round<std::chrono::milliseconds>(deadline - Clock::now()).count();
+    return std::clamp<std::uint64_t>(
+        remaining > 0 ? std::uint64_t(remaining) : 0, minTimeout, m_milliseconds);
 }
 
 bool UpdateTimeout::grow()
 {
-    const bool canGrow = m_milliseconds < Longest;
-    m_milliseconds = canGrow ? 2 * m_milliseconds : First;
+    const bool canGrow = m_milliseconds < maxTimeout;
+    m_milliseconds = canGrow ? 2 * m_milliseconds : minTimeout;
     return canGrow;
 }

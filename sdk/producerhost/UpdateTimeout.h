@@ -3,27 +3,27 @@
 #include <chrono>
 #include <cstdint>
 
-/// The time that a producer is given for a search. A search that needs more gets it next time, and not at
-/// once: the whole answer waits for it.
+/// Timeout for the update calls of one interface, or of the interface list. A call that runs out of time
+/// gets more time in the next search; repeating it at once would delay the whole reply.
 class UpdateTimeout
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// The bound of searches that start now, one after the other: those that are left then get the first
-    /// timeout.
-    static Clock::time_point bound();
+    /// Returns the deadline for all update calls of a search that starts now. Calls that start after the
+    /// deadline still get the shortest timeout.
+    static Clock::time_point deadline();
 
-    /// Milliseconds for a search that starts now.
-    std::uint64_t until(Clock::time_point bound) const;
+    /// Returns the timeout in milliseconds for a call that starts now.
+    std::uint64_t until(Clock::time_point deadline) const;
 
-    /// Doubles it. False when it was the longest already; then it starts from the first again, so that what
-    /// never answers does not hold up the rest every time.
+    /// Doubles the timeout. Returns false if it was the longest already; it then becomes the shortest again,
+    /// so that an interface that never answers does not delay every search.
     bool grow();
 
 private:
-    std::uint64_t m_milliseconds = First;
+    std::uint64_t m_milliseconds = minTimeout;
 
-    static constexpr std::uint64_t First = 500; // Never infinite: some producers then return at once, empty.
-    static constexpr std::uint64_t Longest = 4000; // Interfaces and devices: less than a host has to answer.
+    static constexpr std::uint64_t minTimeout = 500; // Some producers return at once if it is infinite.
+    static constexpr std::uint64_t maxTimeout = 4000; // Twice this is less than the library waits for a host.
 };

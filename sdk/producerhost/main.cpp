@@ -1,7 +1,8 @@
 #include "sdk/producerhost/HostServer.h"
-#include "sdk/producerhost/Leave.h"
 #include "sdk/producerhost/ParentWatch.h"
+#include "sdk/producerhost/ProcessExit.h"
 #include "sdk/producerhost/UncaughtException.h"
+#include "sdk/protocol/HostContract.h"
 
 #include <csignal>
 #include <cstdio>
@@ -13,32 +14,31 @@
 
 namespace {
 
-constexpr int SocketDescriptor = 3; // The parent puts it there.
-constexpr int UsageError = 64;
+constexpr int usageErrorStatus = 64;
 
-/// A driver that allocates without end must not take the machine with it. Counted in address space, which
-/// also stops one that only reserves; no driver for a list of cameras needs as much.
+/// Limits the address space, so that a producer that allocates without end does not exhaust the machine's
+/// memory. The limit also stops a producer that only reserves memory.
 void limitMemory()
 {
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // They map terabytes.
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // Sanitizers map terabytes.
     rlimit limit{};
-    constexpr rlim_t MostBytes = rlim_t(8) << 30;
-    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur > MostBytes) {
-        limit.rlim_cur = MostBytes;
+    constexpr rlim_t maxBytes = rlim_t(8) << 30;
+    if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur > maxBytes) {
+        limit.rlim_cur = maxBytes;
         setrlimit(RLIMIT_AS, &limit);
     }
 #endif
 }
 
-/// Interfaces are searched on threads that come and go. With a heap for each, every one of them is cut to
-/// pieces in time: after 10,000 changes a host of 500 KiB takes 370 KiB more, and with one heap 90.
+/// Makes all threads share one heap. The threads that search interfaces are short-lived, and a heap for each
+/// fragments: after 10,000 camera changes a host of 500 KiB grows by 370 KiB instead of 90 KiB.
 void shareOneHeap()
 {
     mallopt(M_ARENA_MAX, 1);
 }
 
-/// A program that was started without them hands down none; then what is printed would go into a file of the
-/// driver's.
+/// Opens the standard descriptors if the program was started without them. Otherwise a file of the producer
+/// would get such a number, and printed text would end up in it.
 void openStandardDescriptors()
 {
     int descriptor = 0;
@@ -46,25 +46,35 @@ void openStandardDescriptors()
     close(descriptor);
 }
 
+void ignoreSignals()
+{
+    std::signal(SIGPIPE, SIG_IGN); // Producers print, and nobody may read it any more.
+    // On a terminal the host is in the background. One that is stopped would seem to hang.
+    std::signal(SIGTTOU, SIG_IGN);
+    std::signal(SIGTTIN, SIG_IGN);
+}
+
+void cleanEnvironment()
+{
+    unsetenv("GENICAM_GENTL64_PATH"); // A producer could load the producers that it finds through it.
+    unsetenv("G_DEBUG"); // With it GLib, which many producers use, ends the process at a mere warning.
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    if (argc != 2 || fcntl(SocketDescriptor, F_SETFD, FD_CLOEXEC) != 0) {
+    if (argc != 2 || fcntl(hostSocketDescriptor, F_SETFD, FD_CLOEXEC) != 0) {
         std::fputs("CvxProducerHost is started by libCvxCPP.so and by nothing else.\n", stderr);
-        return UsageError;
+        return usageErrorStatus;
     }
-    if (!dieWithParent(SocketDescriptor))
+    if (!dieWithParent(hostSocketDescriptor))
         return EXIT_FAILURE;
-    std::signal(SIGPIPE, SIG_IGN); // Drivers print, and nobody may be left to read it.
-    std::signal(SIGTTOU, SIG_IGN); // On a terminal they are in the background,
-    std::signal(SIGTTIN, SIG_IGN); // and one that is stopped would be taken for hanging.
+    ignoreSignals();
     openStandardDescriptors();
     limitMemory();
     shareOneHeap();
-    unsetenv("GENICAM_GENTL64_PATH"); // A producer may load other producers that it finds through it.
-    unsetenv(
-        "G_DEBUG"); // It makes GLib, which many a producer is built on, end the process at a mere warning.
-    answerUncaughtExceptions(SocketDescriptor);
-    leave(HostServer(SocketDescriptor).run(argv[1]));
+    cleanEnvironment();
+    reportUncaughtExceptions(hostSocketDescriptor);
+    exitWithoutDestructors(HostServer(hostSocketDescriptor).run(argv[1]));
 }

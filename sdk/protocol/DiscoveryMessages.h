@@ -47,7 +47,7 @@ struct CameraListReply
 NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(CameraListReply, interfaces, problems)
 
 /// The producer cannot be used; the host exits after this message. A failure in a thread of the producer is
-/// sent without a request.
+/// sent without a request; so is a failure to load or open the producer.
 struct ProducerFailedReply
 {
     static constexpr const char *kind = "producerFailed";

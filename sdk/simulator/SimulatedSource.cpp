@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-SimulatedSource::SimulatedSource(std::filesystem::path sceneFile) : m_file(std::move(sceneFile)) { }
+SimulatedSource::SimulatedSource(std::filesystem::path configurationFile)
+    : m_file(std::move(configurationFile))
+{ }
 
 ProducerIdentity SimulatedSource::identity() const
 {
@@ -13,19 +15,19 @@ ProducerIdentity SimulatedSource::identity() const
 
 std::vector<InterfaceRecord> SimulatedSource::updateInterfaces()
 {
-    const std::shared_ptr<const Scene> scene = m_file.current();
+    const auto configuration = m_file.current();
     std::vector<InterfaceRecord> interfaces;
-    for (const SceneInterface &element : *scene)
-        interfaces.push_back(element.record);
+    for (const SimulatedInterface &interface : *configuration)
+        interfaces.push_back(interface.record);
     return interfaces;
 }
 
 std::vector<DeviceRecord> SimulatedSource::updateDevices(const std::string &interfaceId)
 {
-    const std::shared_ptr<const Scene> scene = m_file.current();
-    const auto element = std::find_if(scene->begin(), scene->end(),
-        [&](const SceneInterface &candidate) { return candidate.record.id == interfaceId; });
-    return element != scene->end() ? element->devices : std::vector<DeviceRecord>{};
+    const auto configuration = m_file.current();
+    const auto found = std::find_if(configuration->begin(), configuration->end(),
+        [&](const SimulatedInterface &interface) { return interface.record.id == interfaceId; });
+    return found != configuration->end() ? found->devices : std::vector<DeviceRecord>{};
 }
 
 std::unique_ptr<DeviceSource> createDeviceSource(const std::filesystem::path &producerFile)

@@ -1,18 +1,18 @@
 #pragma once
 
 #include "sdk/producer/DeviceSource.h"
-#include "sdk/simulator/SceneFile.h"
+#include "sdk/simulator/ConfigurationFile.h"
 
-/// The interfaces and devices of the scene file. Every update looks at the file anew.
+/// The interfaces and devices of the configuration file, which every update reads again if it has changed.
 class SimulatedSource final : public DeviceSource
 {
 public:
-    explicit SimulatedSource(std::filesystem::path sceneFile);
+    explicit SimulatedSource(std::filesystem::path configurationFile);
 
     ProducerIdentity identity() const override;
     std::vector<InterfaceRecord> updateInterfaces() override;
     std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override;
 
 private:
-    SceneFile m_file;
+    ConfigurationFile m_file;
 };

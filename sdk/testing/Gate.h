@@ -6,33 +6,51 @@
 
 namespace CvxScripted {
 
-/// Holds an SDK call back until a test lets it go on: the slow answer without a sleep.
+/// Holds SDK calls back until a test lets them continue, so that a slow SDK needs no sleep.
 class Gate
 {
 public:
-    Gate() = default;
-    Gate(const Gate &) = delete;
-    Gate &operator=(const Gate &) = delete;
+    /// Opens the gate and waits until every held call has left it, so that a test may return early.
+    ~Gate()
+    {
+        open();
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_inside == 0; });
+    }
 
-    /// Opens, and waits until everybody has left: a test that fails early takes its gate with it.
-    ~Gate();
+    /// Blocks the caller until the gate is open, but at most for `bound`, so that a failed test ends.
+    void pass(std::chrono::milliseconds bound = std::chrono::seconds(30))
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_hasArrival = true;
+        ++m_inside;
+        m_changed.notify_all();
+        m_changed.wait_for(lock, bound, [this] { return m_isOpen; });
+        --m_inside;
+        m_changed.notify_all();
+    }
 
-    /// For the caller to be held: returns once the gate is open. After `bound` it goes on by itself, so that
-    /// a failed test ends.
-    void pass(std::chrono::milliseconds bound = std::chrono::seconds(30));
+    /// Returns true once a caller has reached the gate, or false after `bound`.
+    bool waitForArrival(std::chrono::milliseconds bound = std::chrono::seconds(10))
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, bound, [this] { return m_hasArrival; });
+    }
 
-    /// True when a caller stands before, or has passed, the gate within `bound`.
-    bool waitForArrival(std::chrono::milliseconds bound = std::chrono::seconds(10));
-
-    /// Lets everybody pass from now on.
-    void open();
+    /// Lets all present and future callers pass.
+    void open()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isOpen = true;
+        m_changed.notify_all();
+    }
 
 private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     int m_inside = 0;
-    bool m_arrived = false;
-    bool m_open = false;
+    bool m_hasArrival = false;
+    bool m_isOpen = false;
 };
 
 } // namespace CvxScripted

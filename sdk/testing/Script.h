@@ -2,7 +2,6 @@
 
 #include "CvxCPP/CvxCPP.h"
 
-#include <climits>
 #include <functional>
 #include <map>
 #include <memory>
@@ -12,55 +11,49 @@
 #include <thread>
 #include <vector>
 
-/// What the scripted SDK answers: plain records that a test fills in. Defaults describe an SDK in which
-/// everything works and no camera is connected.
+/// The answers of the scripted SDK: plain records that a test fills in. By default every call succeeds and no
+/// camera is connected.
 namespace CvxScripted {
 
-/// One text and how its two reading calls go.
-struct Text
+/// A string that is read in two calls.
+struct StringField
 {
-    Text() = default;
-    Text(const char *text) : value(text) { }
-    Text(std::string text) : value(std::move(text)) { }
+    StringField() = default;
+    StringField(const char *text) : value(text) { }
+    StringField(std::string text) : value(std::move(text)) { }
 
-    std::string value; ///< May hold NULs.
-    CvxCPP::CvxError lengthError = CvxCPP::CvxErrorSuccess; ///< Answer to the call with a null buffer.
-    CvxCPP::CvxError textError = CvxCPP::CvxErrorSuccess; ///< Answer to the call with a buffer.
-    bool countsNul = true; ///< The length counts a closing NUL, and one is written.
-    std::optional<unsigned> length; ///< Told instead of the true length.
-    std::optional<unsigned> writtenSize; ///< Told by the second call instead of the number of bytes written.
+    std::string value; ///< May contain NULs.
+    bool countsNul = true; ///< The length includes a terminating NUL, which is also written.
 };
 
-/// What an interface tells while one value of "DeviceSelector" is set.
+/// What an interface reports while one value of "DeviceSelector" is set.
 struct DeviceRecord
 {
-    Text id;
-    Text vendor;
-    CvxCPP::CvxError selectError = CvxCPP::CvxErrorSuccess;
+    StringField id;
+    StringField vendor;
 };
 
 /// One transport-layer interface. Cameras that share the record share the interface.
 struct InterfaceRecord
 {
     std::map<long, DeviceRecord> devices; ///< By selector value.
-    std::optional<long> min; ///< Told instead of the smallest selector value.
-    std::optional<long> max; ///< Told instead of the largest selector value.
-    std::set<std::string> missingFeatures; ///< Names that give CvxErrorNotFound.
-    std::set<std::string> nullFeatures; ///< Names that give success and no feature.
-    long selected = 0; ///< What "DeviceSelector" is set to now; a value without a record has no texts.
+    std::optional<long> min; ///< Reported instead of the smallest selector value.
+    std::optional<long> max; ///< Reported instead of the largest selector value.
+    std::set<std::string> features{"DeviceUpdateList", "DeviceSelector", "DeviceID", "DeviceVendorName"};
+    long selected = 0; ///< The current value of "DeviceSelector".
 };
 
 /// One camera.
 struct CameraRecord
 {
-    Text id;
-    Text model;
-    Text name;
-    Text serialNumber;
-    Text extendedId;
-    std::uint32_t type = CvxCPP::CvxTransportLayerUnknown; ///< Also values the SDK does not name.
-    std::shared_ptr<InterfaceRecord> iface; ///< Null: the call succeeds and gives none.
-    bool nullHandle = false; ///< The list holds a null pointer in this place.
+    StringField id;
+    StringField model;
+    StringField name;
+    StringField serialNumber;
+    StringField extendedId{};
+    std::uint32_t type = CvxCPP::CvxTransportLayerUnknown; ///< May be a value that the SDK does not define.
+    std::shared_ptr<InterfaceRecord> iface{}; ///< If null, GetInterface() succeeds and returns null.
+    bool nullHandle = false; ///< GetCameras() writes a null pointer for this camera.
 };
 
 /// The functions of the SDK.
@@ -90,23 +83,27 @@ enum class Function
 struct Call
 {
     Function function;
-    std::string subject{}; ///< The feature's name, or the ID of the camera asked.
-    bool asksLength = false; ///< Text calls: the buffer was null.
-    long value = 0; ///< SetValue: the value.
+    std::string subject{}; ///< Name of the feature, or ID of the camera.
+    bool asksLength = false; ///< String getters: the buffer was null.
+    long value = 0; ///< Argument of SetValue.
     std::thread::id thread{};
 };
 
-/// Everything the SDK answers.
+/// All answers of the SDK.
 struct Script
 {
     std::vector<CameraRecord> cameras;
-    std::map<Function, CvxCPP::CvxError> errors; ///< Functions that fail, whoever is asked.
-    std::optional<unsigned> countedCameras; ///< Told by CountCameras instead of the true count.
-    std::optional<unsigned> filledCameras; ///< At most so many are filled in; told as the number written.
+    std::map<Function, CvxCPP::CvxError> errors; ///< Functions that fail on every object.
+    std::optional<unsigned> countedCameras; ///< Reported by CountCameras instead of the true count.
+    std::optional<unsigned> filledCameras; ///< Upper limit of the handles written; also the count reported.
 
-    /// Sees every call before it is answered, on the calling thread and with no lock held. It may block,
-    /// throw, or give an error to answer with; 0 lets the script answer.
+    /// Called before every call is answered, on the calling thread and with no lock held. It may block,
+    /// throw, or return the error to answer with. If it returns 0, the records answer the call.
     std::function<CvxCPP::CvxError(const Call &)> intercept;
 };
+
+/// Records the call and returns the error that the script has for its function, or 0. Every scripted SDK
+/// function calls this first.
+CvxCPP::CvxError answer(Call call);
 
 } // namespace CvxScripted

@@ -1,4 +1,3 @@
-#include "sdk/testing/Answer.h"
 #include "sdk/testing/ScriptedCvxCPP.h"
 
 #include <algorithm>
@@ -9,34 +8,18 @@ using namespace CvxCPP;
 
 namespace {
 
-CvxError tellLength(const Text &text, unsigned &size)
+CvxError readString(
+    Function function, const std::string &subject, const StringField &field, char *buffer, unsigned &size)
 {
-    if (text.lengthError != CvxErrorSuccess)
-        return text.lengthError;
-    size = text.length.value_or(static_cast<unsigned>(text.value.size()) + (text.countsNul ? 1 : 0));
-    return CvxErrorSuccess;
-}
-
-CvxError tellText(const Text &text, char *buffer, unsigned &size)
-{
-    if (text.textError != CvxErrorSuccess)
-        return text.textError;
-    const std::size_t needed = text.value.size() + (text.countsNul ? 1 : 0);
-    if (size < needed)
-        return CvxErrorBufferTooSmall;
-    std::copy_n(text.value.c_str(), needed, buffer); // With the NUL of c_str() where it counts.
-    size = text.writtenSize.value_or(static_cast<unsigned>(needed));
-    return CvxErrorSuccess;
-}
-
-CvxError readText(
-    Function function, const std::string &subject, const Text &text, char *buffer, unsigned &size)
-{
-    Call call{function, subject};
-    call.asksLength = buffer == nullptr;
-    if (const CvxError error = answer(call))
+    if (const CvxError error = answer({function, subject, buffer == nullptr}))
         return error;
-    return buffer ? tellText(text, buffer, size) : tellLength(text, size);
+    const std::size_t needed = field.value.size() + (field.countsNul ? 1 : 0);
+    if (buffer && size < needed)
+        return CvxErrorBufferTooSmall;
+    if (buffer)
+        std::copy_n(field.value.c_str(), needed, buffer); // c_str() also provides the terminating NUL.
+    size = static_cast<unsigned>(needed);
+    return CvxErrorSuccess;
 }
 
 class ScriptedFeature : public Feature
@@ -53,41 +36,30 @@ public:
         const auto &devices = m_record->devices;
         min = m_record->min.value_or(devices.empty() ? 0 : devices.begin()->first);
         max = m_record->max.value_or(devices.empty() ? -1 : devices.rbegin()->first);
-        return answer({Function::GetRange, m_name}); // A failed call may have written all the same.
+        return answer({Function::GetRange, m_name}); // A call that fails may still write its results.
     }
 
     CvxError SetValue(long value) override
     {
-        Call call{Function::SetValue, m_name};
-        call.value = value;
-        if (const CvxError error = answer(call))
+        if (const CvxError error = answer({Function::SetValue, m_name, false, value}))
             return error;
-        const auto device = m_record->devices.find(value);
-        if (device == m_record->devices.end())
+        if (m_record->devices.count(value) == 0)
             return CvxErrorInvalidParameter;
-        if (device->second.selectError != CvxErrorSuccess)
-            return device->second.selectError;
         m_record->selected = value;
         return CvxErrorSuccess;
     }
 
     CvxError GetValue(char *buffer, unsigned &size) const override
     {
-        static const DeviceRecord none = nothingSelected();
         const auto device = m_record->devices.find(m_record->selected);
-        const DeviceRecord &record = device == m_record->devices.end() ? none : device->second;
-        const Text &text = m_name == "DeviceVendorName" ? record.vendor : record.id;
-        return readText(Function::GetValue, m_name, text, buffer, size);
+        if (device == m_record->devices.end())
+            return CvxErrorNotAvailable;
+        const DeviceRecord &record = device->second;
+        const StringField &field = m_name == "DeviceVendorName" ? record.vendor : record.id;
+        return readString(Function::GetValue, m_name, field, buffer, size);
     }
 
 private:
-    static DeviceRecord nothingSelected()
-    {
-        DeviceRecord record;
-        record.id.lengthError = record.vendor.lengthError = CvxErrorNotAvailable;
-        return record;
-    }
-
     std::string m_name;
     std::shared_ptr<InterfaceRecord> m_record;
 };
@@ -101,14 +73,9 @@ public:
     {
         if (const CvxError error = answer({Function::GetFeatureByName, name}))
             return error;
-        static const std::set<std::string> names{
-            "DeviceUpdateList", "DeviceSelector", "DeviceID", "DeviceVendorName"};
-        if (names.count(name) == 0 || m_record->missingFeatures.count(name) != 0)
+        if (m_record->features.count(name) == 0)
             return CvxErrorNotFound;
-        if (m_record->nullFeatures.count(name) != 0)
-            feature.reset();
-        else
-            feature = std::make_shared<ScriptedFeature>(name, m_record);
+        feature = std::make_shared<ScriptedFeature>(name, m_record);
         return CvxErrorSuccess;
     }
 
@@ -123,23 +90,14 @@ public:
 
     CvxError GetID(char *buffer, unsigned &size, bool extended) const override
     {
-        return extended ? read(Function::GetExtendedId, m_record.extendedId, buffer, size)
-                        : read(Function::GetId, m_record.id, buffer, size);
+        return read(extended ? Function::GetExtendedId : Function::GetId, buffer, size);
     }
 
-    CvxError GetModel(char *buffer, unsigned &size) const override
-    {
-        return read(Function::GetModel, m_record.model, buffer, size);
-    }
-
-    CvxError GetName(char *buffer, unsigned &size) const override
-    {
-        return read(Function::GetName, m_record.name, buffer, size);
-    }
-
+    CvxError GetModel(char *b, unsigned &size) const override { return read(Function::GetModel, b, size); }
+    CvxError GetName(char *b, unsigned &size) const override { return read(Function::GetName, b, size); }
     CvxError GetSerialNumber(char *buffer, unsigned &size) const override
     {
-        return read(Function::GetSerialNumber, m_record.serialNumber, buffer, size);
+        return read(Function::GetSerialNumber, buffer, size);
     }
 
     CvxError GetInterfaceType(CvxTransportLayerType &type) const override
@@ -159,9 +117,13 @@ public:
     }
 
 private:
-    CvxError read(Function function, const Text &text, char *buffer, unsigned &size) const
+    CvxError read(Function function, char *buffer, unsigned &size) const
     {
-        return readText(function, m_record.id.value, text, buffer, size);
+        static const std::map<Function, StringField CameraRecord::*> fields{
+            {Function::GetId, &CameraRecord::id}, {Function::GetExtendedId, &CameraRecord::extendedId},
+            {Function::GetModel, &CameraRecord::model}, {Function::GetName, &CameraRecord::name},
+            {Function::GetSerialNumber, &CameraRecord::serialNumber}};
+        return readString(function, m_record.id.value, m_record.*fields.at(function), buffer, size);
     }
 
     CameraRecord m_record;

@@ -1,8 +1,6 @@
 #include "sdk/testing/ScriptedCvxCPP.h"
-#include "sdk/testing/Answer.h"
 
 #include <algorithm>
-#include <condition_variable>
 #include <mutex>
 
 namespace CvxScripted {
@@ -11,15 +9,17 @@ using namespace CvxCPP;
 
 namespace {
 
-/// What happened, behind one lock: calls come from the GUI thread and from scans.
+template <typename Observer>
+using Observers = std::vector<std::shared_ptr<Observer>>;
+
+/// The script and everything that happened. Calls arrive on the GUI thread and on pool threads.
 struct State
 {
-    Script script; // Not under the lock: see script().
-    std::mutex mutex;
-    std::condition_variable called;
+    Script script; // Not protected by the mutex: see script().
+    std::mutex mutex; // Protects the members below.
     std::vector<Call> calls;
-    std::vector<std::shared_ptr<ICameraListObserver>> cameraObservers;
-    std::vector<std::shared_ptr<IInterfaceListObserver>> interfaceObservers;
+    Observers<ICameraListObserver> cameraObservers;
+    Observers<IInterfaceListObserver> interfaceObservers;
 };
 
 State &state()
@@ -27,33 +27,6 @@ State &state()
     static State instance;
     return instance;
 }
-
-std::size_t countCalls(const std::vector<Call> &calls, Function function)
-{
-    return static_cast<std::size_t>(std::count_if(
-        calls.begin(), calls.end(), [function](const Call &call) { return call.function == function; }));
-}
-
-} // namespace
-
-CvxError answer(Call call)
-{
-    call.thread = std::this_thread::get_id();
-    {
-        const std::lock_guard<std::mutex> lock(state().mutex);
-        state().calls.push_back(call);
-        state().called.notify_all();
-    }
-    const Script &script = state().script;
-    if (script.intercept) {
-        if (const CvxError error = script.intercept(call))
-            return error;
-    }
-    const auto error = script.errors.find(call.function);
-    return error == script.errors.end() ? CvxErrorSuccess : error->second;
-}
-
-namespace {
 
 class ScriptedSystem : public CvxSystem
 {
@@ -81,13 +54,13 @@ public:
 
     CvxError GetCameras(std::shared_ptr<Camera> *cameras, unsigned &count) override
     {
-        return cameras ? fill(cameras, count) : tellCount(count);
+        return cameras ? fillCameras(cameras, count) : countCameras(count);
     }
 
 private:
     template <typename Observer>
-    static CvxError add(Function function, std::vector<std::shared_ptr<Observer>> &observers,
-        const std::shared_ptr<Observer> &observer)
+    static CvxError add(
+        Function function, Observers<Observer> &observers, const std::shared_ptr<Observer> &observer)
     {
         if (const CvxError error = answer({function}))
             return error;
@@ -96,7 +69,7 @@ private:
         return CvxErrorSuccess;
     }
 
-    static CvxError tellCount(unsigned &count)
+    static CvxError countCameras(unsigned &count)
     {
         if (const CvxError error = answer({Function::CountCameras}))
             return error;
@@ -105,7 +78,7 @@ private:
         return CvxErrorSuccess;
     }
 
-    static CvxError fill(std::shared_ptr<Camera> *cameras, unsigned &count)
+    static CvxError fillCameras(std::shared_ptr<Camera> *cameras, unsigned &count)
     {
         if (const CvxError error = answer({Function::FillCameras}))
             return error;
@@ -119,20 +92,33 @@ private:
     }
 };
 
-/// Calls `notify` with each observer on a thread of its own, as the SDK does: never on the caller's.
+/// Calls `notify` for each observer on a new thread, because the SDK never notifies on a caller's thread.
 template <typename Observer, typename Notify>
-void announce(const std::vector<std::shared_ptr<Observer>> &observers, const Notify &notify)
+void announce(const Observers<Observer> &observers, const Notify &notify)
 {
-    std::vector<std::shared_ptr<Observer>> current;
-    {
+    const auto current = [&] {
         const std::lock_guard<std::mutex> lock(state().mutex);
-        current = observers;
-    }
+        return observers;
+    }();
     for (const std::shared_ptr<Observer> &observer : current)
         std::thread([&] { notify(*observer); }).join();
 }
 
 } // namespace
+
+CvxError answer(Call call)
+{
+    call.thread = std::this_thread::get_id();
+    {
+        const std::lock_guard<std::mutex> lock(state().mutex);
+        state().calls.push_back(call);
+    }
+    const Script &script = state().script;
+    if (const CvxError error = script.intercept ? script.intercept(call) : CvxErrorSuccess)
+        return error;
+    const auto error = script.errors.find(call.function);
+    return error == script.errors.end() ? CvxErrorSuccess : error->second;
+}
 
 Script &script()
 {
@@ -156,33 +142,21 @@ std::vector<Call> calls()
 
 std::size_t callCount(Function function)
 {
-    const std::lock_guard<std::mutex> lock(state().mutex);
-    return countCalls(state().calls, function);
-}
-
-bool waitForCalls(Function function, std::size_t count, std::chrono::milliseconds bound)
-{
-    std::unique_lock<std::mutex> lock(state().mutex);
-    return state().called.wait_for(lock, bound, [&] { return countCalls(state().calls, function) >= count; });
+    const std::vector<Call> seen = calls();
+    return static_cast<std::size_t>(std::count_if(
+        seen.begin(), seen.end(), [function](const Call &call) { return call.function == function; }));
 }
 
 void announceCamera(const CameraRecord &record, UpdateTriggerType reason)
 {
     announce(state().cameraObservers,
-        [&](ICameraListObserver &observer) { observer.CameraListChanged(makeCamera(record), reason); });
+        [&](auto &observer) { observer.CameraListChanged(makeCamera(record), reason); });
 }
 
 void announceInterface(const std::shared_ptr<InterfaceRecord> &record, UpdateTriggerType reason)
 {
-    announce(state().interfaceObservers, [&](IInterfaceListObserver &observer) {
-        observer.InterfaceListChanged(makeInterface(record), reason);
-    });
-}
-
-std::size_t observerCount()
-{
-    const std::lock_guard<std::mutex> lock(state().mutex);
-    return state().cameraObservers.size() + state().interfaceObservers.size();
+    announce(state().interfaceObservers,
+        [&](auto &observer) { observer.InterfaceListChanged(makeInterface(record), reason); });
 }
 
 } // namespace CvxScripted

@@ -2,43 +2,35 @@
 
 #include "sdk/testing/Script.h"
 
-#include <chrono>
 #include <cstddef>
 #include <vector>
 
-/// A stand-in for libCvxCPP.so, chosen at link time, that answers as a test says and remembers what it was
-/// asked. It answers in whatever state it is: a list needs no Startup().
+/// A double of libCvxCPP.so that tests link in its place. It answers by the test's script and records every
+/// call. It keeps no state of its own: GetCameras() works without Startup().
 namespace CvxScripted {
 
-/// What is answered. To be changed only while no call is under way.
+/// Returns the script. Change it only while no SDK call is running.
 Script &script();
 
-/// Forgets script, record and observers. To be called before every test.
+/// Clears the script, the recorded calls and the observers. Call it before every test.
 void reset();
 
-/// All calls since the last reset, in order.
+/// Returns all calls since the last reset, in order.
 std::vector<Call> calls();
 
-/// How many of them went to `function`.
+/// Returns the number of calls of `function` since the last reset.
 std::size_t callCount(Function function);
 
-/// True when `function` was called at least `count` times within `bound`.
-bool waitForCalls(
-    Function function, std::size_t count, std::chrono::milliseconds bound = std::chrono::seconds(10));
-
-/// A camera as the SDK would hand it out.
+/// Creates a camera object as GetCameras() does.
 std::shared_ptr<CvxCPP::Camera> makeCamera(const CameraRecord &record);
 
-/// An interface as the SDK would hand it out.
+/// Creates an interface object as Camera::GetInterface() does.
 std::shared_ptr<CvxCPP::Interface> makeInterface(const std::shared_ptr<InterfaceRecord> &record);
 
-/// Calls all camera-list observers, each time on a new thread, and returns when they have returned.
+/// Notifies all camera-list observers, each on a new thread, and returns when they have returned.
 void announceCamera(const CameraRecord &record, CvxCPP::UpdateTriggerType reason);
 
-/// As above, for interfaces.
+/// Notifies all interface-list observers in the same way.
 void announceInterface(const std::shared_ptr<InterfaceRecord> &record, CvxCPP::UpdateTriggerType reason);
-
-/// How many observers, of both kinds, are registered.
-std::size_t observerCount();
 
 } // namespace CvxScripted

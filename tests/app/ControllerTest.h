@@ -4,6 +4,8 @@
 #include "sdk/testing/Gate.h"
 #include "sdk/testing/ScriptedCvxCPP.h"
 #include "tests/support/ChildNamed.h"
+#include "tests/support/MarkingTranslator.h"
+#include "ui/ApplicationLauncher.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>
@@ -11,10 +13,22 @@
 #include <QTableWidget>
 #include <QtTest>
 
-/// What the tests of the controller share.
+/// Helpers that the tests of the controller share. The tests install a MarkingTranslator, so that each
+/// comparison of a text also shows whether the text is translated.
 namespace ControllerTest {
 
-/// The window that the living controller has made; null without one.
+using CvxCPP::CvxErrorFailed;
+using CvxCPP::CvxErrorSuccess;
+using CvxScripted::callCount;
+using CvxScripted::Function;
+using CvxScripted::script;
+
+inline QString operator""_s(const char *text, std::size_t size)
+{
+    return QString::fromUtf8(text, int(size));
+}
+
+/// Returns the window of the existing controller, or null if there is none.
 inline MainWindow *mainWindow()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -34,77 +48,60 @@ inline QPushButton *refreshButton()
     return childNamed<QPushButton>(*mainWindow(), "refreshBtn");
 }
 
-/// The texts of the camera table, row by row.
-inline QList<QStringList> rows()
+inline QList<ApplicationLauncher *> tiles()
 {
-    QList<QStringList> texts;
+    return mainWindow()->findChildren<ApplicationLauncher *>();
+}
+
+/// Returns the texts of the camera table: vendor, model and serial number of each row, with "|" between them.
+inline QStringList rows()
+{
+    QStringList texts;
     const QTableWidget *table = cameraTable();
     for (int row = 0; row < table->rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < table->columnCount(); ++column)
             cells.append(table->item(row, column)->text());
-        texts.append(cells);
+        texts.append(cells.join(QLatin1Char('|')));
     }
     return texts;
 }
 
-inline QList<int> selectedRows()
-{
-    QList<int> selected;
-    for (const QModelIndex &index : cameraTable()->selectionModel()->selectedRows())
-        selected.append(index.row());
-    return selected;
-}
+/// The rows during a scan.
+inline const QStringList scanningRows{QStringLiteral("[ApplicationController] Scanning...||")};
 
-/// What the table shows during a scan.
-inline QList<QStringList> scanningRows()
-{
-    return {{QStringLiteral("Scanning..."), QString(), QString()}};
-}
-
-/// A camera without a vendor; rowOf() is its row.
+/// Returns a camera whose row is "|model|ID".
 inline CvxScripted::CameraRecord cameraRecord(const std::string &id)
 {
-    CvxScripted::CameraRecord record;
-    record.id = id;
-    record.extendedId = "producer/" + id;
-    record.model = "model " + id;
-    record.serialNumber = "serial " + id;
-    record.type = CvxCPP::CvxTransportLayerGigE;
-    return record;
+    return {id, "model", "name", id, "extended " + id};
 }
 
-inline QStringList rowOf(const QString &id)
+/// Holds every scan at its first call until the gate is open.
+inline void holdScansAt(CvxScripted::Gate &gate)
 {
-    return {QString(), QStringLiteral("model ") + id, QStringLiteral("serial ") + id};
+    script().intercept = [&gate](const CvxScripted::Call &call) {
+        if (call.function == Function::CountCameras)
+            gate.pass();
+        return CvxErrorSuccess;
+    };
 }
 
-/// How many scans have been started.
+/// Returns the number of scans that have started.
 inline int scans()
 {
-    return int(CvxScripted::callCount(CvxScripted::Function::CountCameras));
+    return int(callCount(Function::CountCameras));
 }
 
-/// The functions called so far, in order.
-inline QVector<int> calledFunctions()
+inline void reportCamera(const std::string &id)
 {
-    QVector<int> functions;
-    for (const CvxScripted::Call &seen : CvxScripted::calls())
-        functions.append(int(seen.function));
-    return functions;
+    CvxScripted::announceCamera(cameraRecord(id), CvxCPP::UpdateTriggerPluggedIn);
 }
 
-/// Lets everything that is queued for the GUI thread happen.
+/// Processes all queued events, including those that are queued by the events themselves.
 inline void processQueuedEvents()
 {
-    for (int round = 0; round < 3; ++round) // What an event queues in its turn happens in the next round.
+    for (int round = 0; round < 3; ++round)
         QCoreApplication::processEvents();
-}
-
-/// Calls a slot by its name, as a caller through the meta-object system does.
-inline bool call(QObject &object, const char *slot)
-{
-    return QMetaObject::invokeMethod(&object, slot, Qt::DirectConnection);
 }
 
 } // namespace ControllerTest

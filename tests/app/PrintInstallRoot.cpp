@@ -1,4 +1,4 @@
-// Prints where the installation is that this program is part of; copied around by TestInstallRoot.
+// Prints the install root of the installation that contains this program. TestInstallRoot copies it around.
 
 #include "config/InstallRootResolver.h"
 

@@ -6,58 +6,83 @@
 
 #include <QtTest>
 
-/// What the tests of the camera list share.
+#include <climits>
+#include <new>
+
+/// Helpers that the tests of the camera list share.
 namespace ProviderTest {
 
-/// An interface with these devices, selected by 0, 1, 2 …
-inline std::shared_ptr<CvxScripted::InterfaceRecord> makeInterface(
-    const std::vector<CvxScripted::DeviceRecord> &devices)
+using namespace CvxScripted;
+using CvxCPP::CvxError;
+using CvxCPP::CvxErrorFailed;
+using CvxCPP::CvxErrorSuccess;
+
+/// Returns an interface with these devices, whose selector values are 0, 1, 2 and so on.
+inline std::shared_ptr<InterfaceRecord> makeInterface(const std::vector<DeviceRecord> &devices)
 {
-    auto record = std::make_shared<CvxScripted::InterfaceRecord>();
-    for (const CvxScripted::DeviceRecord &device : devices)
+    auto record = std::make_shared<InterfaceRecord>();
+    for (const DeviceRecord &device : devices)
         record->devices[long(record->devices.size())] = device;
     return record;
 }
 
-/// A camera with every text set, on an interface of its own that knows its vendor.
-inline CvxScripted::CameraRecord completeCamera(const std::string &id)
+/// Returns a camera with all strings set, on an interface of its own that knows its vendor.
+inline CameraRecord completeCamera(const std::string &id)
 {
-    CvxScripted::CameraRecord record;
-    record.id = id;
-    record.extendedId = "extended " + id;
-    record.model = "model " + id;
-    record.name = "name " + id;
-    record.serialNumber = "serial " + id;
-    record.type = CvxCPP::CvxTransportLayerUSB;
-    record.iface = makeInterface({{id, "vendor " + id, CvxCPP::CvxErrorSuccess}});
-    return record;
+    return {id, "model " + id, "name " + id, "serial " + id, "extended " + id, CvxCPP::CvxTransportLayerUSB,
+        makeInterface({{id, "vendor " + id}})};
 }
 
-/// What the list holds for completeCamera().
+/// Returns the record that is expected for completeCamera(). The addresses are never filled.
 inline CameraInfo completeInfo(const QString &id)
 {
-    CameraInfo info;
-    info.cameraId = id;
-    info.vendorName = QStringLiteral("vendor ") + id;
-    info.modelName = QStringLiteral("model ") + id;
-    info.cameraName = QStringLiteral("name ") + id;
-    info.serialNumber = QStringLiteral("serial ") + id;
-    info.interfaceType = QStringLiteral("USB");
-    return info;
+    return {id, QStringLiteral("vendor ") + id, QStringLiteral("model ") + id, QStringLiteral("name ") + id,
+        QStringLiteral("serial ") + id, {}, {}, QStringLiteral("USB")};
 }
 
-/// Lists the scripted cameras.
 inline QVector<CameraInfo> list()
 {
     return CorvixCameraProvider().listCameras();
 }
 
-/// Lists the one camera.
-inline CameraInfo listOne(const CvxScripted::CameraRecord &record)
+/// Returns the record that is listed if this is the only camera.
+inline CameraInfo listOne(const CameraRecord &record)
 {
-    CvxScripted::script().cameras = {record};
-    const QVector<CameraInfo> cameras = list();
-    return cameras.size() == 1 ? cameras.first() : CameraInfo();
+    script().cameras = {record};
+    return list().value(0);
+}
+
+/// The ways in which reading a string can fail.
+enum class Failure
+{
+    AtLength,
+    AtRead,
+    OutOfMemory
+};
+
+inline void addFailures()
+{
+    QTest::addColumn<Failure>("failure");
+    QTest::newRow("length") << Failure::AtLength;
+    QTest::newRow("read") << Failure::AtRead;
+    QTest::newRow("out of memory") << Failure::OutOfMemory;
+}
+
+/// Makes reads of a string fail: the first to the last one, counted from 1, of those with this subject.
+inline void failReads(
+    Function function, const std::string &subject, Failure failure, int first = 1, int last = INT_MAX)
+{
+    script().intercept = [=, seen = 0](const Call &call) mutable {
+        const bool matches = call.function == function && call.subject == subject
+            && call.asksLength == (failure == Failure::AtLength);
+        if (!matches || ++seen < first || seen > last)
+            return CvxErrorSuccess;
+        if (failure == Failure::OutOfMemory)
+            throw std::bad_alloc();
+        return CvxErrorFailed;
+    };
 }
 
 } // namespace ProviderTest
+
+Q_DECLARE_METATYPE(ProviderTest::Failure)

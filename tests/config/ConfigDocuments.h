@@ -8,47 +8,43 @@
 
 #include <initializer_list>
 
-/// Short ways to write the three configuration documents in tests.
+/// Builders for the three configuration documents.
 namespace ConfigDocuments {
 
-inline QString latin1(const char *text)
+inline QString operator""_s(const char *string, std::size_t size)
 {
-    return QString::fromLatin1(text);
+    return QString::fromUtf8(string, int(size));
 }
 
-/// An array of texts; nothing at all for an empty list.
-inline QJsonValue list(const QStringList &texts)
+inline QString latin1(const char *string)
 {
-    return texts.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonArray::fromStringList(texts);
+    return QString::fromLatin1(string);
 }
 
 inline QJsonObject tool(const char *id, const char *executable = "", const QStringList &platforms = {},
     const QStringList &transports = {})
 {
-    return {{latin1("id"), latin1(id)}, {latin1("name"), latin1(id).toUpper()},
-        {latin1("executable"), latin1(executable)}, {latin1("description"), latin1("About ") + latin1(id)},
-        {latin1("platforms"), list(platforms)}, {latin1("transports"), list(transports)}};
+    QJsonObject object{{"id"_s, latin1(id)}, {"name"_s, latin1(id).toUpper()},
+        {"executable"_s, latin1(executable)}, {"description"_s, "About "_s + latin1(id)}};
+    if (!platforms.isEmpty())
+        object.insert("platforms"_s, QJsonArray::fromStringList(platforms));
+    if (!transports.isEmpty())
+        object.insert("transports"_s, QJsonArray::fromStringList(transports));
+    return object;
 }
 
-inline QJsonObject group(const char *type, std::initializer_list<QJsonObject> tools = {})
+inline QJsonObject group(const char *type, std::initializer_list<QJsonValue> tools = {})
 {
-    QJsonArray array;
-    for (const QJsonObject &object : tools)
-        array.append(object);
-    return {
-        {latin1("type"), latin1(type)}, {latin1("name"), latin1(type).toUpper()}, {latin1("tools"), array}};
+    return {{"type"_s, latin1(type)}, {"name"_s, latin1(type).toUpper()}, {"tools"_s, QJsonArray(tools)}};
 }
 
-/// The launcher document.
-inline QJsonObject groups(std::initializer_list<QJsonObject> objects)
+/// Returns the launcher configuration.
+inline QJsonObject groups(std::initializer_list<QJsonValue> objects)
 {
-    QJsonArray array;
-    for (const QJsonObject &object : objects)
-        array.append(object);
-    return {{latin1("version"), latin1("1.0")}, {latin1("hardwareGroups"), array}};
+    return {{"version"_s, "1.0"_s}, {"hardwareGroups"_s, QJsonArray(objects)}};
 }
 
-/// All five groups, without tools.
+/// Returns a launcher configuration with all five groups, without tools.
 inline QJsonObject allGroups()
 {
     return groups(
@@ -62,31 +58,22 @@ struct Row
     const char *thumbnail = "assets/cameras/some.png";
 };
 
-/// The cameras reference document.
+/// Returns the cameras reference.
 inline QJsonObject references(std::initializer_list<Row> rows)
 {
-    QJsonArray array;
-    for (const Row &row : rows)
-        array.append(QJsonObject{{latin1("model"), latin1(row.model)}, {latin1("type"), latin1(row.type)},
-            {latin1("thumbnail"), latin1(row.thumbnail)}});
-    return {{latin1("version"), latin1("1.0")}, {latin1("cameras"), array}};
+    QJsonArray cameras;
+    for (const Row &row : rows) {
+        cameras.append(QJsonObject{{"model"_s, latin1(row.model)}, {"type"_s, latin1(row.type)},
+            {"thumbnail"_s, latin1(row.thumbnail)}});
+    }
+    return {{"version"_s, "1.0"_s}, {"cameras"_s, cameras}};
 }
 
-struct Code
+/// Returns the compatibility table with one model.
+inline QJsonObject compatibility(const char *model, const QStringList &tools)
 {
-    const char *model;
-    QStringList tools;
-};
-
-/// The compatibility document.
-inline QJsonObject compatibility(std::initializer_list<Code> codes)
-{
-    QJsonObject cameras;
-    for (const Code &code : codes)
-        cameras.insert(latin1(code.model),
-            QJsonObject{{latin1("tools"), QJsonArray::fromStringList(code.tools)},
-                {latin1("notes"), latin1("Ignored.")}});
-    return {{latin1("version"), latin1("1.0")}, {latin1("cameras"), cameras}};
+    const QJsonObject entry{{"tools"_s, QJsonArray::fromStringList(tools)}, {"notes"_s, "Ignored."_s}};
+    return {{"version"_s, "1.0"_s}, {"cameras"_s, QJsonObject{{latin1(model), entry}}}};
 }
 
 inline QByteArray json(const QJsonObject &object)

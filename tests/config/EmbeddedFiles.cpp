@@ -22,10 +22,10 @@ EmbeddedFiles::EmbeddedFiles(const QMap<QString, QByteArray> &files)
         {QStringLiteral("--binary"), QStringLiteral("--output"), m_bundle, collection});
     if (result != 0 || !QResource::registerResource(m_bundle))
         qFatal("Cannot embed %s", qUtf8Printable(collection));
-    QPixmapCache::clear(); // It knows pictures by path and time stamp, which two bundles may share.
+    QPixmapCache::clear(); // Its key is the path and the time stamp, which two bundles may share.
 }
 
 EmbeddedFiles::~EmbeddedFiles()
 {
-    QResource::unregisterResource(m_bundle); // Does nothing when there was none.
+    QResource::unregisterResource(m_bundle); // Does nothing if there were no files.
 }

@@ -5,12 +5,12 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// Puts files of the test's own below ":/" while it lives, in place of the shipped ones, which a test that
-/// uses it does not link.
+/// Embeds files below ":/" during its lifetime. They replace the shipped ones, so the test must not link
+/// those.
 class EmbeddedFiles
 {
 public:
-    /// Contents by path, for example "config/launcher_config.json"; none at all is the quickest.
+    /// Contents by path, for example "config/launcher_config.json".
     explicit EmbeddedFiles(const QMap<QString, QByteArray> &files);
     ~EmbeddedFiles();
 

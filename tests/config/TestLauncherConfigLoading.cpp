@@ -2,9 +2,9 @@
 #include "tests/config/ConfigDocuments.h"
 #include "tests/config/EmbeddedFiles.h"
 #include "tests/support/CameraBuilder.h"
+#include "tests/support/MarkingTranslator.h"
 #include "tests/support/MessageLog.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 using namespace ConfigDocuments;
@@ -14,216 +14,129 @@ class TestLauncherConfigLoading : public QObject
     Q_OBJECT
 
 private slots:
-    void threeDocumentsAreRead();
-    void differentVersionsLeaveEverythingEmptyAndLogOnce();
-    void versionsAreComparedExactly_data();
-    void versionsAreComparedExactly();
-    void mismatchTextIsTranslated();
-    void compatibilityVersionTakesNoPart();
+    void versionsOfTheFirstTwoDocumentsMustBeEqual_data();
+    void versionsOfTheFirstTwoDocumentsMustBeEqual();
+    void mismatchMessageIsTranslated();
     void unusableDocumentIsReplaced_data();
     void unusableDocumentIsReplaced();
-    void replacementHasVersionOne_data();
-    void replacementHasVersionOne();
-    void nothingEmbeddedIsAnEmptyConfigurationWithoutAMessage();
-    void fieldOfAnotherTypeReadsEmpty_data();
-    void fieldOfAnotherTypeReadsEmpty();
-    void groupFieldOfAnotherTypeReadsEmpty_data();
-    void groupFieldOfAnotherTypeReadsEmpty();
-    void groupWhoseTypeIsNoTextHasTheEmptyKey_data();
-    void groupWhoseTypeIsNoTextHasTheEmptyKey();
-    void listOfAnotherTypeReadsEmpty_data();
-    void listOfAnotherTypeReadsEmpty();
-    void toolIsReadWhole();
-    void missingListsAreEmpty();
-    void listElementsThatAreNoTextBecomeEmptyTexts();
-    void groupsThatDifferInLetterCaseLeaveTheLater();
-    void nothingIsValidated();
-    void parsingAddsToWhatIsThere();
-    void textsAreReadAsUtf8();
+    void everyFieldIsRead();
+    void valueOfAnotherTypeReadsEmpty_data();
+    void valueOfAnotherTypeReadsEmpty();
+    void groupsThatDifferInLetterCaseReplaceEachOther();
+    void groupsAndToolsAreNotValidated();
+    void parsingKeepsEarlierContents();
 };
 
 namespace {
 
-const QString groupsPath = QStringLiteral("config/launcher_config.json");
-const QString referencePath = QStringLiteral("config/cameras_reference.json");
-const QString compatibilityPath = QStringLiteral("config/halvex_tool_compatibility.json");
-const QString mismatch = QStringLiteral("Configuration files version mismatch!");
+const QString groupsPath = "config/launcher_config.json"_s;
+const QString referencePath = "config/cameras_reference.json"_s;
+const QString compatibilityPath = "config/halvex_tool_compatibility.json"_s;
+const QString mismatch = "Configuration files version mismatch!"_s;
+const QString everything = "groups references compatibility"_s;
 
-/// A whole, usable configuration; `knows()` tells which of its documents arrived.
 QMap<QString, QByteArray> usableDocuments()
 {
     return {{groupsPath, json(groups({group("areascan", {tool("viewer", "bin/Viewer")}), group("other")}))},
         {referencePath, json(references({{"Kx200", "areascan"}}))},
-        {compatibilityPath, json(compatibility({{"HX-1", {latin1("viewer")}}}))}};
+        {compatibilityPath, json(compatibility("HX-1", {"viewer"_s}))}};
 }
 
-QMap<QString, QByteArray> usableDocumentsWith(const QString &path, const QByteArray &content)
-{
-    QMap<QString, QByteArray> files = usableDocuments();
-    files.insert(path, content);
-    return files;
-}
-
-QByteArray withVersion(const QByteArray &document, const QJsonValue &version)
+/// Sets the version; null makes the document unusable instead.
+void setVersion(QByteArray &document, const QJsonValue &version)
 {
     QJsonObject object = QJsonDocument::fromJson(document).object();
-    object.insert(latin1("version"), version);
-    return json(object);
+    object.insert("version"_s, version);
+    document = version.isNull() ? QByteArray("{") : json(object);
 }
 
-LauncherConfig loaded()
+/// Loads the documents and returns the names of those whose contents are then in the configuration.
+QString loadedDocuments(const QMap<QString, QByteArray> &documents)
 {
+    const EmbeddedFiles files(documents);
     LauncherConfig config;
     config.load();
-    return config;
+    QStringList names;
+    if (!config.allTools("linux"_s).isEmpty())
+        names.append("groups"_s);
+    if (config.findGroupForCamera(camera({}, "Kx200"_s)).type == "areascan"_s)
+        names.append("references"_s);
+    if (!config.isHalvexToolCompatibleWithCamera("HX-1"_s, "another tool"_s))
+        names.append("compatibility"_s);
+    return names.join(QLatin1Char(' '));
 }
 
-/// Which documents the configuration has read, as texts that a failed comparison shows.
-QStringList knows(const LauncherConfig &config)
-{
-    QStringList known;
-    if (!config.allTools(latin1("linux")).isEmpty())
-        known.append(latin1("groups"));
-    if (config.findGroupForCamera(camera({}, latin1("Kx200"))).type == latin1("areascan"))
-        known.append(latin1("references"));
-    if (!config.isHalvexToolCompatibleWithCamera(latin1("HX-1"), latin1("another tool")))
-        known.append(latin1("compatibility"));
-    return known;
-}
-
-const QStringList everything{latin1("groups"), latin1("references"), latin1("compatibility")};
-
-/// The one tool of a document with one group and one tool.
-ToolConfig onlyTool(const QJsonObject &toolObject)
+/// Returns the group "other" of the document.
+HardwareGroupConfig parsedGroup(const QJsonObject &group)
 {
     LauncherConfig config;
-    config.parseConfig(groups({group("other", {toolObject})}), {}, {});
-    return config.findGroupForCamera({}).tools.value(0);
-}
-
-/// A name for a row of test data.
-const char *typeName(const QJsonValue &value)
-{
-    static const char *const names[] = {"null", "truth value", "number", "text", "array", "object"};
-    return value.isUndefined() ? "missing" : names[value.type()];
-}
-
-/// What may stand in the place of a text.
-QVector<QJsonValue> noTexts()
-{
-    return {QJsonValue::Undefined, QJsonValue::Null, true, 12, QJsonArray{latin1("x")},
-        QJsonObject{{latin1("x"), latin1("x")}}};
-}
-
-/// What may stand in the place of a list; the object is one that the list could hold.
-QVector<QJsonValue> noLists(const QJsonObject &element)
-{
-    return {QJsonValue::Undefined, QJsonValue::Null, true, 12, latin1("x"), element};
+    config.parseConfig(groups({group}), {}, {});
+    return config.findGroupForCamera({});
 }
 
 } // namespace
 
-void TestLauncherConfigLoading::threeDocumentsAreRead()
-{
-    const EmbeddedFiles files(usableDocuments());
-    MessageLog log;
-    QCOMPARE(knows(loaded()), everything);
-    QCOMPARE(log.entries().size(), 0);
-}
-
-void TestLauncherConfigLoading::differentVersionsLeaveEverythingEmptyAndLogOnce()
-{
-    const EmbeddedFiles files(
-        usableDocumentsWith(groupsPath, withVersion(usableDocuments().value(groupsPath), latin1("1.1"))));
-    MessageLog log;
-    const LauncherConfig config = loaded();
-    QCOMPARE(knows(config), QStringList());
-    QCOMPARE(config.findGroupForCamera(camera(latin1("Orvelle"), {})).type, QString());
-    QCOMPARE(log.texts(QtCriticalMsg), QStringList{mismatch});
-    QCOMPARE(log.entries().size(), 1);
-}
-
-void TestLauncherConfigLoading::versionsAreComparedExactly_data()
+void TestLauncherConfigLoading::versionsOfTheFirstTwoDocumentsMustBeEqual_data()
 {
     QTest::addColumn<QJsonValue>("groupsVersion");
     QTest::addColumn<QJsonValue>("referenceVersion");
-    QTest::addColumn<bool>("agree");
-    const auto add = [](const char *name, const QJsonValue &left, const QJsonValue &right, bool agree) {
-        QTest::newRow(name) << left << right << agree;
+    QTest::addColumn<bool>("equal");
+    const auto add = [](const char *name, const QJsonValue &left, const QJsonValue &right, bool equal) {
+        QTest::newRow(name) << left << right << equal;
     };
-    add("equal", latin1("2.7b"), latin1("2.7b"), true);
-    add("letter case", latin1("2.7b"), latin1("2.7B"), false);
-    add("blank", latin1("1.0"), latin1("1.0 "), false);
-    add("same number in other words", latin1("1.0"), latin1("1"), false);
+    add("equal", "2.7b"_s, "2.7b"_s, true);
+    add("different", "1.1"_s, "1.0"_s, false);
+    add("other letter case", "2.7b"_s, "2.7B"_s, false);
+    add("trailing blank", "1.0"_s, "1.0 "_s, false);
+    add("equal numbers", "1.0"_s, "1"_s, false);
     add("both missing", QJsonValue::Undefined, QJsonValue::Undefined, true);
-    add("one missing", latin1("1.0"), QJsonValue::Undefined, false);
-    add("a number reads as nothing", 1.0, QJsonValue::Undefined, true);
-    add("a number is no text", 1.0, latin1("1.0"), false);
+    add("one missing", "1.0"_s, QJsonValue::Undefined, false);
+    add("number and missing", 1.0, QJsonValue::Undefined, true);
+    add("number and string", 1.0, "1.0"_s, false);
+    add("unusable groups have version 1.0", QJsonValue::Null, "1.1"_s, false);
+    add("unusable references have version 1.0", "1.1"_s, QJsonValue::Null, false);
 }
 
-void TestLauncherConfigLoading::versionsAreComparedExactly()
+void TestLauncherConfigLoading::versionsOfTheFirstTwoDocumentsMustBeEqual()
 {
     QFETCH(QJsonValue, groupsVersion);
     QFETCH(QJsonValue, referenceVersion);
-    QFETCH(bool, agree);
+    QFETCH(bool, equal);
     QMap<QString, QByteArray> documents = usableDocuments();
-    documents[groupsPath] = withVersion(documents.value(groupsPath), groupsVersion);
-    documents[referencePath] = withVersion(documents.value(referencePath), referenceVersion);
-    const EmbeddedFiles files(documents);
-    MessageLog log;
-    QCOMPARE(knows(loaded()), agree ? everything : QStringList());
-    QCOMPARE(log.texts(QtCriticalMsg), agree ? QStringList() : QStringList{mismatch});
+    setVersion(documents[groupsPath], groupsVersion);
+    setVersion(documents[referencePath], referenceVersion);
+    setVersion(documents[compatibilityPath], "7.3"_s); // Intended: not compared.
+    const MessageLog log;
+    QCOMPARE(loadedDocuments(documents), equal ? everything : QString());
+    QCOMPARE(log.texts(QtCriticalMsg), equal ? QStringList() : QStringList{mismatch});
+    QCOMPARE(log.entries().size(), equal ? 0 : 1);
 }
 
-void TestLauncherConfigLoading::mismatchTextIsTranslated()
+void TestLauncherConfigLoading::mismatchMessageIsTranslated()
 {
-    class Dutch : public QTranslator
-    {
-    public:
-        QString translate(const char *context, const char *text, const char *, int) const override
-        {
-            const bool ours = qstrcmp(context, "LauncherConfig") == 0
-                && qstrcmp(text, "Configuration files version mismatch!") == 0;
-            return ours ? latin1("Versies verschillen!") : QString();
-        }
-        bool isEmpty() const override { return false; }
-    };
-    Dutch dutch;
-    QVERIFY(QCoreApplication::installTranslator(&dutch));
-    const EmbeddedFiles files({{groupsPath, "{\"version\": \"2\"}"}});
-    MessageLog log;
-    loaded();
-    QCOMPARE(log.texts(QtCriticalMsg), QStringList{latin1("Versies verschillen!")});
-}
-
-// Intended: only the two documents that belong together are compared.
-void TestLauncherConfigLoading::compatibilityVersionTakesNoPart()
-{
-    const EmbeddedFiles files(usableDocumentsWith(
-        compatibilityPath, withVersion(usableDocuments().value(compatibilityPath), latin1("7.3"))));
-    MessageLog log;
-    QCOMPARE(knows(loaded()), everything);
-    QCOMPARE(log.entries().size(), 0);
+    MarkingTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const MessageLog log;
+    QCOMPARE(loadedDocuments({{groupsPath, "{\"version\": \"2\"}"}}), QString());
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList{"[LauncherConfig] "_s + mismatch});
 }
 
 void TestLauncherConfigLoading::unusableDocumentIsReplaced_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QStringList>("known");
-    const QByteArray missing = "MISSING";
-    const QMap<QString, QStringList> left{
-        {groupsPath, {latin1("compatibility")}}, // Rows are read, but their groups are missing.
-        {referencePath, {latin1("groups"), latin1("compatibility")}},
-        {compatibilityPath, {latin1("groups"), latin1("references")}}};
-    const QVector<QPair<const char *, QByteArray>> contents{{"missing", missing}, {"empty", ""},
-        {"broken", "{\"version\": \"9\", \"cameras\": ["}, {"trailing rubbish", "{} x"},
-        {"array", "[{\"version\": \"9\"}]"}, {"empty object", "{}"}, {"null", "null"},
-        {"text", "\"version\""}, {"not JSON", "<xml/>"}};
+    QTest::addColumn<QString>("loaded");
+    const QMap<QString, QString> loaded{{groupsPath, "compatibility"_s}, // The rows have no group.
+        {referencePath, "groups compatibility"_s}, {compatibilityPath, "groups references"_s}};
+    const QMap<QByteArray, QByteArray> contents{{"missing", "MISSING"}, {"empty", ""},
+        {"cut off", "{\"version\": \"9\", \"cameras\": ["}, {"text behind it", "{} x"},
+        {"array", "[{\"version\": \"9\"}]"}, {"null", "null"}, {"other root keys", "{\"version\": \"1.0\"}"},
+        {"list of another type", "{\"version\": \"1.0\", \"hardwareGroups\": 7, \"cameras\": \"x\"}"}};
     for (const QString &path : {groupsPath, referencePath, compatibilityPath}) {
-        for (const auto &[name, content] : contents)
-            QTest::addRow("%s %s", qPrintable(path.section(QLatin1Char('/'), 1)), name)
-                << path << content << left.value(path);
+        for (auto content = contents.begin(); content != contents.end(); ++content) {
+            QTest::addRow("%s: %s", qPrintable(path), content.key().constData())
+                << path << content.value() << loaded.value(path);
+        }
     }
 }
 
@@ -231,223 +144,98 @@ void TestLauncherConfigLoading::unusableDocumentIsReplaced()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, content);
-    QMap<QString, QByteArray> documents = usableDocumentsWith(path, content);
+    QMap<QString, QByteArray> documents = usableDocuments();
+    documents.insert(path, content);
     if (content == "MISSING")
         documents.remove(path);
-    const EmbeddedFiles files(documents);
-    MessageLog log;
-    QTEST(knows(loaded()), "known");
+    const MessageLog log;
+    QTEST(loadedDocuments(documents), "loaded");
     QCOMPARE(log.entries().size(), 0);
 }
 
-void TestLauncherConfigLoading::replacementHasVersionOne_data()
+void TestLauncherConfigLoading::everyFieldIsRead()
 {
-    QTest::addColumn<QString>("unusable");
-    QTest::addColumn<QString>("other");
-    QTest::newRow("groups unusable") << groupsPath << referencePath;
-    QTest::newRow("references unusable") << referencePath << groupsPath;
+    QJsonObject setupObject = tool("setup", "bin/Setup", {}, {"USB"_s, "GigE"_s});
+    setupObject.insert("platforms"_s, QJsonArray{"win32"_s, 7, "linux"_s}); // The number reads as empty.
+    QJsonObject groupObject = group("other", {setupObject, tool("viewer")});
+    groupObject.insert("brand"_s, "Brand"_s);
+    groupObject.insert("description"_s, "Ä €"_s); // Encoded as UTF-8 in the document.
+    const EmbeddedFiles files({{groupsPath, json(groups({groupObject}))}});
+    LauncherConfig config;
+    config.load();
+    const HardwareGroupConfig group = config.findGroupForCamera({});
+    QCOMPARE(QStringList({group.type, group.name, group.brand, group.description}),
+        QStringList({"other"_s, "OTHER"_s, "Brand"_s, "Ä €"_s}));
+    QCOMPARE(group.tools.size(), 2);
+    const ToolConfig setup = group.tools.at(0);
+    QCOMPARE(QStringList({setup.id, setup.name, setup.executable, setup.description}),
+        QStringList({"setup"_s, "SETUP"_s, "bin/Setup"_s, "About setup"_s}));
+    QCOMPARE(setup.platforms, QStringList({"win32"_s, QString(), "linux"_s}));
+    QCOMPARE(setup.transports, QStringList({"USB"_s, "GigE"_s}));
+    QCOMPARE(group.tools.at(1).id, "viewer"_s);
+    QCOMPARE(group.tools.at(1).platforms + group.tools.at(1).transports, QStringList());
 }
 
-void TestLauncherConfigLoading::replacementHasVersionOne()
+void TestLauncherConfigLoading::valueOfAnotherTypeReadsEmpty_data()
 {
-    QFETCH(QString, unusable);
-    QFETCH(QString, other);
-    QMap<QString, QByteArray> documents = usableDocumentsWith(unusable, "{");
-    documents[other] = withVersion(documents.value(other), latin1("1.1"));
-    const EmbeddedFiles files(documents);
-    MessageLog log;
-    QCOMPARE(knows(loaded()), QStringList());
-    QCOMPARE(log.texts(QtCriticalMsg), QStringList{mismatch});
-}
-
-void TestLauncherConfigLoading::nothingEmbeddedIsAnEmptyConfigurationWithoutAMessage()
-{
-    MessageLog log;
-    QCOMPARE(knows(loaded()), QStringList());
-    QCOMPARE(log.entries().size(), 0);
-}
-
-void TestLauncherConfigLoading::fieldOfAnotherTypeReadsEmpty_data()
-{
-    QTest::addColumn<QString>("key");
     QTest::addColumn<QJsonValue>("value");
-    for (const char *key : {"id", "name", "executable", "description"}) {
-        for (const QJsonValue &value : noTexts())
-            QTest::addRow("%s %s", key, typeName(value)) << latin1(key) << value;
-    }
-    for (const char *key : {"platforms", "transports"}) {
-        for (const QJsonValue &value : noLists({{latin1("a"), 1}}))
-            QTest::addRow("%s %s", key, typeName(value)) << latin1(key) << value;
-    }
+    QTest::newRow("missing") << QJsonValue(QJsonValue::Undefined);
+    QTest::newRow("null") << QJsonValue();
+    QTest::newRow("boolean") << QJsonValue(true);
+    QTest::newRow("number") << QJsonValue(12);
+    QTest::newRow("object") << QJsonValue(QJsonObject{{"x"_s, "x"_s}});
 }
 
-void TestLauncherConfigLoading::fieldOfAnotherTypeReadsEmpty()
+// Every field of the tool and of the group has the value, except for the group's tools.
+void TestLauncherConfigLoading::valueOfAnotherTypeReadsEmpty()
 {
-    QFETCH(QString, key);
     QFETCH(QJsonValue, value);
-    QJsonObject object = tool("id", "bin/Tool", {latin1("linux")}, {latin1("USB")});
-    object.insert(key, value);
-    const ToolConfig read = onlyTool(object);
-    const QMap<QString, bool> empty{{latin1("id"), read.id.isEmpty()}, {latin1("name"), read.name.isEmpty()},
-        {latin1("executable"), read.executable.isEmpty()},
-        {latin1("description"), read.description.isEmpty()}, {latin1("platforms"), read.platforms.isEmpty()},
-        {latin1("transports"), read.transports.isEmpty()}};
-    QCOMPARE(empty.keys(true), QStringList{key}); // The others are read all the same.
+    QJsonObject toolObject;
+    for (const QString &key : tool("id", "x", {"x"_s}, {"x"_s}).keys())
+        toolObject.insert(key, value);
+    const QJsonObject groupObject{{"type"_s, "other"_s}, {"name"_s, value}, {"brand"_s, value},
+        {"description"_s, value}, {"tools"_s, QJsonArray{toolObject}}};
+    const HardwareGroupConfig group = parsedGroup(groupObject);
+    QCOMPARE(group.name + group.brand + group.description, QString());
+    QCOMPARE(group.tools.size(), 1);
+    const ToolConfig read = group.tools.at(0);
+    QCOMPARE(read.id + read.name + read.executable + read.description, QString());
+    QCOMPARE(read.platforms + read.transports, QStringList());
+    QCOMPARE(parsedGroup({{"type"_s, "other"_s}, {"tools"_s, value}}).tools.size(), 0);
 }
 
-void TestLauncherConfigLoading::groupFieldOfAnotherTypeReadsEmpty_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QJsonValue>("value");
-    for (const char *key : {"name", "brand", "description"}) {
-        for (const QJsonValue &value : noTexts())
-            QTest::addRow("%s %s", key, typeName(value)) << latin1(key) << value;
-    }
-    for (const QJsonValue &value : noLists(tool("a", "bin/A")))
-        QTest::addRow("tools %s", typeName(value)) << latin1("tools") << value;
-}
-
-void TestLauncherConfigLoading::groupFieldOfAnotherTypeReadsEmpty()
-{
-    QFETCH(QString, key);
-    QFETCH(QJsonValue, value);
-    QJsonObject object = group("other", {tool("a", "bin/A")});
-    object.insert(latin1("brand"), latin1("Brand"));
-    object.insert(latin1("description"), latin1("Description"));
-    object.insert(key, value);
-    LauncherConfig config;
-    config.parseConfig(groups({object}), {}, {});
-    const HardwareGroupConfig read = config.findGroupForCamera({});
-    const QMap<QString, bool> empty{{latin1("type"), read.type.isEmpty()},
-        {latin1("name"), read.name.isEmpty()}, {latin1("brand"), read.brand.isEmpty()},
-        {latin1("description"), read.description.isEmpty()}, {latin1("tools"), read.tools.isEmpty()}};
-    QCOMPARE(empty.keys(true), QStringList{key}); // The others are read all the same.
-}
-
-void TestLauncherConfigLoading::groupWhoseTypeIsNoTextHasTheEmptyKey_data()
-{
-    QTest::addColumn<QJsonValue>("type");
-    for (const QJsonValue &type : noTexts())
-        QTest::newRow(typeName(type)) << type;
-}
-
-void TestLauncherConfigLoading::groupWhoseTypeIsNoTextHasTheEmptyKey()
-{
-    QFETCH(QJsonValue, type);
-    QJsonObject earlier = group("", {tool("earlier", "bin/Earlier")});
-    earlier.insert(latin1("type"), type);
-    LauncherConfig config;
-    config.parseConfig(groups({earlier}), {}, {});
-    QCOMPARE(config.allTools({}).value(0).id, latin1("earlier"));
-    // No query gets at the empty key; but what is stored under it as well takes the group's place.
-    config.parseConfig(groups({group("", {tool("later", "bin/Later")})}), {}, {});
-    QCOMPARE(config.allTools({}).size(), 1);
-    QCOMPARE(config.allTools({}).value(0).id, latin1("later"));
-}
-
-void TestLauncherConfigLoading::listOfAnotherTypeReadsEmpty_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QJsonValue>("value");
-    QTest::addColumn<QStringList>("known");
-    const auto add = [](const QString &path, const char *key, const QStringList &known) {
-        const QJsonArray list
-            = QJsonDocument::fromJson(usableDocuments().value(path)).object().value(latin1(key)).toArray();
-        for (const QJsonValue &value : noLists(list.at(0).toObject()))
-            QTest::addRow("%s %s", key, typeName(value)) << path << latin1(key) << value << known;
-    };
-    add(groupsPath, "hardwareGroups", {latin1("compatibility")}); // Without groups no row shows.
-    add(referencePath, "cameras", {latin1("groups"), latin1("compatibility")});
-}
-
-void TestLauncherConfigLoading::listOfAnotherTypeReadsEmpty()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, key);
-    QFETCH(QJsonValue, value);
-    QJsonObject document = QJsonDocument::fromJson(usableDocuments().value(path)).object();
-    document.insert(key, value);
-    const EmbeddedFiles files(usableDocumentsWith(path, json(document)));
-    MessageLog log;
-    QTEST(knows(loaded()), "known");
-    QCOMPARE(log.entries().size(), 0);
-}
-
-void TestLauncherConfigLoading::toolIsReadWhole()
-{
-    const ToolConfig read = onlyTool(tool(
-        "setup", "bin/Setup", {latin1("win32"), latin1("linux_x86_64")}, {latin1("USB"), latin1("GigE")}));
-    QCOMPARE(read.id, latin1("setup"));
-    QCOMPARE(read.name, latin1("SETUP"));
-    QCOMPARE(read.executable, latin1("bin/Setup"));
-    QCOMPARE(read.description, latin1("About setup"));
-    QCOMPARE(read.platforms, QStringList({latin1("win32"), latin1("linux_x86_64")}));
-    QCOMPARE(read.transports, QStringList({latin1("USB"), latin1("GigE")}));
-}
-
-void TestLauncherConfigLoading::missingListsAreEmpty()
-{
-    const ToolConfig read = onlyTool(tool("setup", "bin/Setup"));
-    QCOMPARE(read.platforms, QStringList());
-    QCOMPARE(read.transports, QStringList());
-}
-
-void TestLauncherConfigLoading::listElementsThatAreNoTextBecomeEmptyTexts()
-{
-    QJsonObject object = tool("setup", "bin/Setup");
-    object.insert(latin1("platforms"), QJsonArray{latin1("a"), 7, latin1("b"), QJsonValue()});
-    QCOMPARE(onlyTool(object).platforms, QStringList({latin1("a"), QString(), latin1("b"), QString()}));
-}
-
-void TestLauncherConfigLoading::groupsThatDifferInLetterCaseLeaveTheLater()
-{
-    LauncherConfig config;
-    config.parseConfig(groups({group("AreaScan", {tool("earlier", "bin/Earlier")}),
-                           group("AREASCAN", {tool("later", "bin/Later")})}),
-        {}, {});
-    const HardwareGroupConfig found = config.findGroupForCamera(camera(latin1("Orvelle"), {}));
-    QCOMPARE(found.type, latin1("AREASCAN")); // Only the key is in lower case.
-    QCOMPARE(found.tools.value(0).id, latin1("later"));
-    QCOMPARE(config.allTools({}).size(), 1);
-}
-
-void TestLauncherConfigLoading::nothingIsValidated()
-{
-    LauncherConfig config;
-    QJsonObject document = groups({group("", {tool("", "")}), group("areascan", {tool("a", "bin/A")})});
-    QJsonArray array = document.value(latin1("hardwareGroups")).toArray();
-    array.append(17); // Reads as a group without anything: it takes the place of the group without a type.
-    config.parseConfig(groups({group("", {tool("", "")})}), {}, {});
-    QCOMPARE(config.allTools({}).size(), 1);
-    document.insert(latin1("hardwareGroups"), array);
-    config.parseConfig(document, {}, {});
-    QCOMPARE(config.allTools({}).size(), 1);
-    QCOMPARE(config.allTools({}).value(0).id, latin1("a"));
-}
-
-void TestLauncherConfigLoading::parsingAddsToWhatIsThere()
+void TestLauncherConfigLoading::groupsThatDifferInLetterCaseReplaceEachOther()
 {
     LauncherConfig config;
     config.parseConfig(
-        groups({group("areascan", {tool("a", "bin/A")}), group("other", {tool("o", "bin/O")})}),
-        references({{"Kx", "areascan"}}), compatibility({{"HX-1", {latin1("a")}}, {"HX-2", {latin1("a")}}}));
-    config.parseConfig(groups({group("areascan", {tool("b", "bin/B")})}), references({{"Zz", "areascan"}}),
-        compatibility({{"HX-1", {latin1("b")}}}));
-    QCOMPARE(config.allTools({}).size(), 2);
-    QCOMPARE(config.findGroupForCamera(camera({}, latin1("Kx"))).tools.value(0).id, latin1("b"));
-    QCOMPARE(config.findGroupForCamera(camera({}, latin1("Zz"))).tools.value(0).id, latin1("b"));
-    QVERIFY(config.isHalvexToolCompatibleWithCamera(latin1("HX-1"), latin1("b")));
-    QVERIFY(!config.isHalvexToolCompatibleWithCamera(latin1("HX-1"), latin1("a")));
-    QVERIFY(config.isHalvexToolCompatibleWithCamera(latin1("HX-2"), latin1("a")));
+        groups({group("AreaScan", {tool("earlier")}), group("AREASCAN", {tool("later")})}), {}, {});
+    const HardwareGroupConfig group = config.findGroupForCamera(camera("Orvelle"_s, {}));
+    QCOMPARE(group.type, "AREASCAN"_s); // Only the key is in lower case.
+    QCOMPARE(group.tools.value(0).id, "later"_s);
+    QCOMPARE(config.allTools({}).size(), 1);
 }
 
-void TestLauncherConfigLoading::textsAreReadAsUtf8()
+void TestLauncherConfigLoading::groupsAndToolsAreNotValidated()
 {
-    const EmbeddedFiles files({{groupsPath,
-        "{\"version\": \"1.0\", \"hardwareGroups\": [{\"type\": \"other\", \"name\": "
-        "\"\xc3\x84\xe2\x82\xac\"}]}"}});
-    QCOMPARE(loaded().findGroupForCamera({}).name, QString::fromUtf8("\xc3\x84\xe2\x82\xac"));
+    LauncherConfig config;
+    config.parseConfig(groups({group("", {tool("")})}), {}, {});
+    QCOMPARE(config.allTools({}).size(), 1);
+    config.parseConfig(groups({17}), {}, {}); // Replaces the group, whose type is empty as well.
+    QCOMPARE(config.allTools({}).size(), 0);
+}
+
+void TestLauncherConfigLoading::parsingKeepsEarlierContents()
+{
+    LauncherConfig config;
+    config.parseConfig(groups({group("areascan", {tool("a")}), group("other", {tool("o")})}),
+        references({{"Kx", "areascan"}}), compatibility("HX-1", {"a"_s}));
+    config.parseConfig(groups({group("areascan", {tool("b")})}), references({{"Zz", "areascan"}}),
+        compatibility("HX-2", {"b"_s}));
+    QCOMPARE(config.allTools({}).size(), 2);
+    QCOMPARE(config.findGroupForCamera(camera({}, "Kx"_s)).tools.value(0).id, "b"_s);
+    QCOMPARE(config.findGroupForCamera(camera({}, "Zz"_s)).tools.value(0).id, "b"_s);
+    QVERIFY(!config.isHalvexToolCompatibleWithCamera("HX-1"_s, "b"_s));
+    QVERIFY(!config.isHalvexToolCompatibleWithCamera("HX-2"_s, "a"_s));
 }
 
 QTEST_GUILESS_MAIN(TestLauncherConfigLoading)

@@ -11,276 +11,180 @@ class TestToolRecommendation : public QObject
     Q_OBJECT
 
 private slots:
-    void toolsComeInGroupKeyOrderThenFileOrder();
-    void sameExecutableUnderAnotherIdIsListedOnce();
-    void toolWithoutExecutableIsKnownByItsId();
-    void toolHiddenByItsPlatformHidesItsExecutableEverywhere();
-    void platformOfAToolIsComparedWithLetterCase();
-    void emptyPlatformStringShowsOnlyToolsForEveryPlatform();
-    void emptyConfigurationHasNoTools();
-    void transport_data();
-    void transport();
-    void platform_data();
-    void platform();
-    void letterCaseOfThePlatformMattersOnlyForTheList();
-    void idsCollapse();
-    void recommendationNeedsNoTile();
-    void compatibility_data();
-    void compatibility();
-    void compatibilityCountsOnlyInTheHighResolutionGroup_data();
-    void compatibilityCountsOnlyInTheHighResolutionGroup();
-    void emptyCompatibilityTableFitsEverything();
-    void entryWithoutToolsOffersNothing();
-    void camerasAsAnArrayGiveNoEntries();
+    void listedTools_data();
+    void listedTools();
+    void toolFitsTransportAndPlatform_data();
+    void toolFitsTransportAndPlatform();
+    void idsAreRecommendedOnceAndWithoutATile();
+    void toolFitsTheModel_data();
+    void toolFitsTheModel();
+    void everyToolFitsWithoutACompatibilityTable();
 };
 
 namespace {
 
-const QString linux64 = QStringLiteral("linux_x86_64");
-
-QStringList ids(const QVector<ToolConfig> &tools)
-{
-    QStringList result;
-    for (const ToolConfig &one : tools)
-        result.append(one.id);
-    return result;
-}
-
-QStringList listedTools(const QJsonObject &document, const QString &platform)
-{
-    LauncherConfig config;
-    config.parseConfig(document, {}, {});
-    return ids(config.allTools(platform));
-}
-
-/// The recommendation of a group that holds this one tool, as "recommended or not".
-bool recommends(const QJsonObject &only, const QString &interfaceType, const QString &platform)
-{
-    LauncherConfig config;
-    config.parseConfig(groups({group("other", {only})}), {}, {});
-    const CameraInfo one = camera({}, {}, {}, {}, interfaceType);
-    return config.recommendedToolsIdsForCamera(config.findGroupForCamera(one), one, platform)
-        == QSet<QString>{only.value(latin1("id")).toString()};
-}
-
-LauncherConfig withCompatibility(const QJsonObject &table)
-{
-    LauncherConfig config;
-    config.parseConfig({}, {}, table);
-    return config;
-}
-
-QJsonObject halvexTable()
-{
-    return ConfigDocuments::compatibility({{"HX-2040M", {latin1("image-viewer"), latin1("pixel-repair")}}});
-}
+const QString linux64 = "linux_x86_64"_s;
 
 } // namespace
 
-void TestToolRecommendation::toolsComeInGroupKeyOrderThenFileOrder()
+void TestToolRecommendation::listedTools_data()
 {
-    const QJsonObject document = groups({group("simulator", {tool("s", "bin/S")}),
-        group("Linescan", {tool("l2", "bin/L2"), tool("l1", "bin/L1")}),
-        group("areascan", {tool("a", "bin/A")}), group("other", {tool("o", "bin/O")}),
-        group("highres", {tool("h", "bin/H"), tool("a", "bin/A")})});
-    QCOMPARE(listedTools(document, linux64),
-        QStringList({latin1("a"), latin1("h"), latin1("l2"), latin1("l1"), latin1("o"), latin1("s")}));
-}
-
-void TestToolRecommendation::sameExecutableUnderAnotherIdIsListedOnce()
-{
-    const QJsonObject document = groups({group("linescan", {tool("later", "bin/Viewer")}),
-        group("areascan", {tool("first", "bin/Viewer"), tool("again", "bin/Viewer")})});
-    QCOMPARE(listedTools(document, linux64), QStringList{latin1("first")});
-}
-
-void TestToolRecommendation::toolWithoutExecutableIsKnownByItsId()
-{
-    const QJsonObject document
-        = groups({group("areascan", {tool("x"), tool("y"), tool("x")}), group("other", {tool("y")}),
-            // One tool's executable is another one's id: they share their key.
-            group("simulator", {tool("z", "x")})});
-    QCOMPARE(listedTools(document, linux64), QStringList({latin1("x"), latin1("y")}));
-}
-
-// Intended: the first occurrence claims the executable even though its platform list hides it.
-void TestToolRecommendation::toolHiddenByItsPlatformHidesItsExecutableEverywhere()
-{
-    const QJsonObject document = groups({group("areascan", {tool("update", "bin/Update", {latin1("win32")})}),
+    QTest::addColumn<QJsonObject>("document");
+    QTest::addColumn<QString>("platform");
+    QTest::addColumn<QString>("ids");
+    const auto add = [](const char *name, const QJsonObject &document, const QString &platform,
+                         const char *ids) { QTest::newRow(name) << document << platform << latin1(ids); };
+    add("group keys in order, then file order",
+        groups({group("simulator", {tool("s", "bin/S")}),
+            group("Linescan", {tool("l2", "bin/L2"), tool("l1", "bin/L1")}),
+            group("areascan", {tool("a", "bin/A")}), group("other", {tool("o", "bin/O")}),
+            group("highres", {tool("h", "bin/H"), tool("a", "bin/A")})}),
+        linux64, "a h l2 l1 o s");
+    add("same executable, other id",
+        groups({group("linescan", {tool("later", "bin/Viewer")}),
+            group("areascan", {tool("first", "bin/Viewer"), tool("again", "bin/Viewer")})}),
+        linux64, "first");
+    add("id replaces an empty executable", // The last tool's executable equals the first tool's id.
+        groups({group("areascan", {tool("x"), tool("y"), tool("x")}), group("other", {tool("y")}),
+            group("simulator", {tool("z", "x")})}),
+        linux64, "x y");
+    const QJsonObject hiding = groups({group("areascan", {tool("update", "bin/Update", {"win32"_s})}),
         group("linescan", {tool("update", "bin/Update"), tool("tuner", "bin/Tuner")})});
-    QCOMPARE(listedTools(document, linux64), QStringList{latin1("tuner")});
-    QCOMPARE(listedTools(document, latin1("win32")), QStringList({latin1("update"), latin1("tuner")}));
+    add("tool of another platform hides its executable in later groups", hiding, linux64,
+        "tuner"); // Intended.
+    add("same tools on that platform", hiding, "win32"_s, "update tuner");
+    const QJsonObject limited
+        = groups({group("other", {tool("a", "bin/A", {"win32"_s, linux64}), tool("b", "bin/B")})});
+    add("platform in the list", limited, linux64, "a b");
+    add("platform in another letter case", limited, "Linux_x86_64"_s, "b"); // Intended.
+    add("part of the platform", limited, "linux_x86"_s, "b");
+    add("empty platform", limited, {}, "b");
+    add("empty configuration", {}, linux64, "");
 }
 
-void TestToolRecommendation::platformOfAToolIsComparedWithLetterCase()
+void TestToolRecommendation::listedTools()
 {
-    const QJsonObject document
-        = groups({group("areascan", {tool("a", "bin/A", {latin1("win32"), latin1("linux_x86_64")})})});
-    QCOMPARE(listedTools(document, linux64), QStringList{latin1("a")});
-    QCOMPARE(listedTools(document, latin1("Linux_x86_64")), QStringList());
-    QCOMPARE(listedTools(document, latin1("linux_x86")), QStringList());
+    QFETCH(QJsonObject, document);
+    QFETCH(QString, platform);
+    LauncherConfig config;
+    config.parseConfig(document, {}, {});
+    QStringList ids;
+    for (const ToolConfig &tool : config.allTools(platform))
+        ids.append(tool.id);
+    QTEST(ids.join(QLatin1Char(' ')), "ids");
 }
 
-void TestToolRecommendation::emptyPlatformStringShowsOnlyToolsForEveryPlatform()
-{
-    const QJsonObject document
-        = groups({group("areascan", {tool("a", "bin/A", {latin1("win32")}), tool("b", "bin/B")})});
-    QCOMPARE(listedTools(document, QString()), QStringList{latin1("b")});
-}
-
-void TestToolRecommendation::emptyConfigurationHasNoTools()
-{
-    const LauncherConfig config;
-    QCOMPARE(config.allTools(linux64).size(), 0);
-    QCOMPARE(config.recommendedToolsIdsForCamera({}, {}, linux64), QSet<QString>());
-}
-
-void TestToolRecommendation::transport_data()
+void TestToolRecommendation::toolFitsTransportAndPlatform_data()
 {
     QTest::addColumn<QStringList>("transports");
     QTest::addColumn<QString>("interfaceType");
-    QTest::addColumn<bool>("recommended");
-    const QStringList usbAndGigE{latin1("USB"), latin1("GigE")};
-    QTest::newRow("no list") << QStringList() << latin1("PCI") << true;
-    QTest::newRow("no list, no interface") << QStringList() << QString() << true;
-    QTest::newRow("in the list") << usbAndGigE << latin1("GigE") << true;
-    QTest::newRow("in another letter case") << usbAndGigE << latin1("usb") << true;
-    QTest::newRow("not in the list") << usbAndGigE << latin1("CoaXPress") << false;
-    QTest::newRow("part of a name in the list") << usbAndGigE << latin1("Gig") << false;
-    QTest::newRow("no interface") << usbAndGigE << QString() << false;
-    QTest::newRow("no interface, empty name in the list") << QStringList{QString()} << QString() << false;
-}
-
-void TestToolRecommendation::transport()
-{
-    QFETCH(QStringList, transports);
-    QFETCH(QString, interfaceType);
-    QTEST(recommends(tool("t", "bin/T", {}, transports), interfaceType, linux64), "recommended");
-}
-
-void TestToolRecommendation::platform_data()
-{
     QTest::addColumn<QStringList>("platforms");
     QTest::addColumn<QString>("platform");
     QTest::addColumn<bool>("recommended");
-    const QStringList both{latin1("win32"), linux64};
-    QTest::newRow("no list") << QStringList() << linux64 << true;
-    QTest::newRow("no list, no platform") << QStringList() << QString() << true;
-    QTest::newRow("in the list") << both << linux64 << true;
-    QTest::newRow("in another letter case") << both << latin1("LINUX_X86_64") << true;
-    QTest::newRow("not in the list") << both << latin1("linux_arm64") << false;
-    QTest::newRow("no platform") << both << QString() << false;
-    QTest::newRow("no platform, empty name in the list") << QStringList{QString()} << QString() << false;
+    const auto transport = [](const char *name, const QStringList &list, const QString &value, bool fits) {
+        QTest::addRow("transport %s", name) << list << value << QStringList() << linux64 << fits;
+    };
+    const auto platform = [](const char *name, const QStringList &list, const QString &value, bool fits) {
+        QTest::addRow("platform %s", name) << QStringList() << "USB"_s << list << value << fits;
+    };
+    const QStringList usbAndGigE{"USB"_s, "GigE"_s};
+    transport("with an empty list", {}, "PCI"_s, true);
+    transport("empty, with an empty list", {}, {}, true);
+    transport("in the list", usbAndGigE, "GigE"_s, true);
+    transport("in another letter case", usbAndGigE, "usb"_s, true);
+    transport("not in the list", usbAndGigE, "CoaXPress"_s, false);
+    transport("that is a part of a listed one", usbAndGigE, "Gig"_s, false);
+    transport("empty", usbAndGigE, {}, false);
+    transport("empty, in the list", {QString()}, {}, false);
+    const QStringList both{"win32"_s, linux64};
+    platform("empty, with an empty list", {}, {}, true);
+    platform("in the list", both, linux64, true);
+    platform("in another letter case", both, "LINUX_X86_64"_s, true); // Intended, unlike the listed tools.
+    platform("not in the list", both, "linux_arm64"_s, false);
+    platform("empty", both, {}, false);
+    platform("empty, in the list", {QString()}, {}, false);
 }
 
-void TestToolRecommendation::platform()
+void TestToolRecommendation::toolFitsTransportAndPlatform()
 {
+    QFETCH(QStringList, transports);
+    QFETCH(QString, interfaceType);
     QFETCH(QStringList, platforms);
     QFETCH(QString, platform);
-    QTEST(recommends(tool("t", "bin/T", platforms), latin1("USB"), platform), "recommended");
+    LauncherConfig config;
+    config.parseConfig(groups({group("other", {tool("t", "bin/T", platforms, transports)})}), {}, {});
+    const CameraInfo info = camera({}, {}, {}, {}, interfaceType);
+    const HardwareGroupConfig group = config.findGroupForCamera(info);
+    QTEST(config.recommendedToolsIdsForCamera(group, info, platform).contains("t"_s), "recommended");
 }
 
-// Intended: the list of tiles asks for the exact platform, the recommendation does not.
-void TestToolRecommendation::letterCaseOfThePlatformMattersOnlyForTheList()
-{
-    const QJsonObject only = tool("t", "bin/T", {linux64});
-    QCOMPARE(listedTools(groups({group("other", {only})}), latin1("Linux_x86_64")), QStringList());
-    QVERIFY(recommends(only, {}, latin1("Linux_x86_64")));
-}
-
-void TestToolRecommendation::idsCollapse()
+void TestToolRecommendation::idsAreRecommendedOnceAndWithoutATile()
 {
     LauncherConfig config;
-    config.parseConfig(
-        groups({group("other", {tool("t", "bin/T"), tool("t", "bin/U"), tool("v", "bin/V")})}), {}, {});
-    QCOMPARE(config.recommendedToolsIdsForCamera(config.findGroupForCamera({}), {}, linux64),
-        QSet<QString>({latin1("t"), latin1("v")}));
-}
-
-void TestToolRecommendation::recommendationNeedsNoTile()
-{
-    LauncherConfig config;
-    config.parseConfig(groups({group("areascan", {tool("first", "bin/Same")}),
-                           group("other", {tool("second", "bin/Same")})}),
+    config.parseConfig(groups({group("areascan", {tool("hiding", "bin/Same")}),
+                           group("other", {tool("t", "bin/Same"), tool("t", "bin/U"), tool("v", "bin/V")})}),
         {}, {});
-    QCOMPARE(ids(config.allTools(linux64)), QStringList{latin1("first")});
     QCOMPARE(config.recommendedToolsIdsForCamera(config.findGroupForCamera({}), {}, linux64),
-        QSet<QString>{latin1("second")});
+        QSet<QString>({"t"_s, "v"_s}));
 }
 
-void TestToolRecommendation::compatibility_data()
+void TestToolRecommendation::toolFitsTheModel_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QString>("toolId");
     QTest::addColumn<bool>("compatible");
-    QTest::newRow("listed") << latin1("HX-2040M") << latin1("pixel-repair") << true;
-    QTest::newRow("listed, model in small letters") << latin1("hx-2040m") << latin1("pixel-repair") << true;
-    QTest::newRow("not listed") << latin1("HX-2040M") << latin1("flat-field") << false;
-    QTest::newRow("not listed, small letters") << latin1("hx-2040m") << latin1("flat-field") << false;
-    QTest::newRow("tool id in another letter case") << latin1("HX-2040M") << latin1("Pixel-Repair") << false;
-    QTest::newRow("model is longer than the code") << latin1("HX-2040M-X") << latin1("flat-field") << true;
-    QTest::newRow("model is part of the code") << latin1("HX-2040") << latin1("flat-field") << true;
-    QTest::newRow("no model") << QString() << latin1("flat-field") << true;
+    QTest::addColumn<QString>("groupType");
+    const auto add = [](const char *name, const char *model, const char *toolId, bool compatible,
+                         const char *groupType = "highres") {
+        QTest::newRow(name) << latin1(model) << latin1(toolId) << compatible << latin1(groupType);
+    };
+    add("listed", "HX-2040M", "pixel-repair", true);
+    add("listed, model in small letters", "hx-2040m", "pixel-repair", true);
+    add("not listed", "HX-2040M", "flat-field", false);
+    add("not listed, model in small letters", "hx-2040m", "flat-field", false);
+    add("tool id in another letter case", "HX-2040M", "Pixel-Repair", false);
+    add("model is longer than the code", "HX-2040M-X", "flat-field", true);
+    add("model is a part of the code", "HX-2040", "flat-field", true);
+    add("no model", "", "flat-field", true);
+    add("model with an empty list", "HX-1", "pixel-repair", false);
+    add("model without a list", "HX-2", "pixel-repair", false);
+    add("model without an object", "HX-3", "pixel-repair", false);
+    add("not listed, other group", "HX-2040M", "flat-field", true, "areascan");
+    add("not listed, group type in another letter case", "HX-2040M", "flat-field", true, "HighRes");
 }
 
-void TestToolRecommendation::compatibility()
+void TestToolRecommendation::toolFitsTheModel()
 {
     QFETCH(QString, model);
     QFETCH(QString, toolId);
-    QTEST(withCompatibility(halvexTable()).isHalvexToolCompatibleWithCamera(model, toolId), "compatible");
+    QFETCH(bool, compatible);
+    QFETCH(QString, groupType);
+    QJsonObject table = compatibility("HX-2040M", {"image-viewer"_s, "pixel-repair"_s});
+    QJsonObject cameras = table.value("cameras"_s).toObject();
+    cameras.insert("HX-1"_s, QJsonObject{{"tools"_s, QJsonArray()}});
+    cameras.insert("HX-2"_s, QJsonObject{{"notes"_s, "No tools."_s}});
+    cameras.insert("HX-3"_s, "no object"_s);
+    table.insert("cameras"_s, cameras);
+    LauncherConfig config;
+    config.parseConfig({}, {}, table);
+    HardwareGroupConfig group;
+    group.type = groupType;
+    ToolConfig tool;
+    tool.id = toolId;
+    group.tools.append(tool);
+    const QSet<QString> ids = config.recommendedToolsIdsForCamera(group, camera({}, model), linux64);
+    QCOMPARE(ids.contains(toolId), compatible);
+    if (groupType == "highres"_s)
+        QCOMPARE(config.isHalvexToolCompatibleWithCamera(model, toolId), compatible);
 }
 
-void TestToolRecommendation::compatibilityCountsOnlyInTheHighResolutionGroup_data()
+void TestToolRecommendation::everyToolFitsWithoutACompatibilityTable()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<QStringList>("expected");
-    const QStringList all{latin1("flat-field"), latin1("image-viewer"), latin1("pixel-repair")};
-    const QStringList some{latin1("image-viewer"), latin1("pixel-repair")};
-    QTest::newRow("high resolution, known model") << latin1("highres") << latin1("hx-2040m") << some;
-    QTest::newRow("high resolution, unknown model") << latin1("highres") << latin1("HX-2040M-X") << all;
-    QTest::newRow("area scan, known model") << latin1("areascan") << latin1("HX-2040M") << all;
-    QTest::newRow("type in another letter case") << latin1("HighRes") << latin1("HX-2040M") << all;
-}
-
-void TestToolRecommendation::compatibilityCountsOnlyInTheHighResolutionGroup()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, model);
-    HardwareGroupConfig chosen;
-    chosen.type = type;
-    for (const char *id : {"image-viewer", "pixel-repair", "flat-field"}) {
-        ToolConfig one;
-        one.id = latin1(id);
-        chosen.tools.append(one);
-    }
-    QStringList recommended = withCompatibility(halvexTable())
-                                  .recommendedToolsIdsForCamera(chosen, camera({}, model), linux64)
-                                  .values();
-    recommended.sort();
-    QTEST(recommended, "expected");
-}
-
-void TestToolRecommendation::emptyCompatibilityTableFitsEverything()
-{
-    QVERIFY(LauncherConfig().isHalvexToolCompatibleWithCamera(latin1("HX-2040M"), latin1("flat-field")));
-}
-
-void TestToolRecommendation::entryWithoutToolsOffersNothing()
-{
-    const QJsonObject cameras{{latin1("HX-1"), QJsonObject{{latin1("tools"), QJsonArray()}}},
-        {latin1("HX-2"), QJsonObject{{latin1("notes"), latin1("Nothing else.")}}},
-        {latin1("HX-3"), latin1("no object")}};
-    const LauncherConfig config = withCompatibility({{latin1("cameras"), cameras}});
-    for (const char *model : {"HX-1", "HX-2", "HX-3"})
-        QVERIFY2(!config.isHalvexToolCompatibleWithCamera(latin1(model), latin1("image-viewer")), model);
-}
-
-void TestToolRecommendation::camerasAsAnArrayGiveNoEntries()
-{
-    const LauncherConfig config
-        = withCompatibility({{latin1("cameras"), QJsonArray{QJsonObject{{latin1("HX-1"), QJsonObject()}}}}});
-    QVERIFY(config.isHalvexToolCompatibleWithCamera(latin1("HX-1"), latin1("image-viewer")));
+    const QJsonArray array{compatibility("HX-1", {}).value("cameras"_s)};
+    LauncherConfig withArray;
+    withArray.parseConfig({}, {}, {{"cameras"_s, array}});
+    QVERIFY(withArray.isHalvexToolCompatibleWithCamera("HX-1"_s, "flat-field"_s));
+    QVERIFY(LauncherConfig().isHalvexToolCompatibleWithCamera("HX-1"_s, "flat-field"_s));
 }
 
 QTEST_GUILESS_MAIN(TestToolRecommendation)

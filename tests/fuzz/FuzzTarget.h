@@ -4,16 +4,12 @@
 #include <cstdint>
 #include <string>
 
-/// Takes one input; each target defines it. The fuzzer calls it with what it makes up, an ordinary test with
-/// the kept cases. Returns 0.
+/// Processes one input; each fuzz target defines it. A fuzzer calls it with generated inputs, an ordinary
+/// test with the seeds. Returns 0.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/// Ends the program, as a finding, when a promise is broken.
-void require(bool kept, const char *promise);
-
-/// Tells the fuzzer that the input did something, in code that is not instrumented, such as a library's
-/// parser.
-void noteFeature(std::size_t feature);
+/// Aborts the program if a property does not hold; the fuzzer then reports the input.
+void require(bool holds, const char *property);
 
 inline std::string textOf(const std::uint8_t *data, std::size_t size)
 {

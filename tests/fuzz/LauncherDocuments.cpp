@@ -1,4 +1,5 @@
-// The launcher's configuration from arbitrary JSON: one object that holds the three documents and a camera.
+// Parses the launcher's configuration. The input is one JSON object that contains the three documents and a
+// camera.
 
 #include "camera/CameraInfo.h"
 #include "config/LauncherConfig.h"
@@ -10,7 +11,7 @@
 
 #include <sanitizer/lsan_interface.h>
 
-// Null where there is no leak detector.
+// Both are null without a leak detector.
 #pragma weak __lsan_disable
 #pragma weak __lsan_enable
 
@@ -18,7 +19,7 @@ namespace {
 
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
-/// Qt 5.15 leaks memory when an object has the same key twice, so this call is not watched.
+/// Qt 5.15 leaks memory if an object has the same key twice, so leaks of this call are ignored.
 QJsonObject parse(const QByteArray &text)
 {
     if (__lsan_disable)
@@ -52,25 +53,26 @@ void requireTools(const LauncherConfig &config, const QString &platform)
 {
     QSet<QString> executables;
     for (const ToolConfig &tool : config.allTools(platform)) {
-        require(tool.platforms.isEmpty() || tool.platforms.contains(platform), "a tool fits its platform");
+        require(
+            tool.platforms.isEmpty() || tool.platforms.contains(platform), "a tool supports the platform");
         if (tool.executable.isEmpty())
             continue;
-        require(!executables.contains(tool.executable), "each executable is there once");
+        require(!executables.contains(tool.executable), "no executable appears twice");
         executables.insert(tool.executable);
     }
 }
 
-void requireAnswers(const LauncherConfig &config, const CameraInfo &camera)
+void requireConsistent(const LauncherConfig &config, const CameraInfo &camera)
 {
     const QString platform = QStringLiteral("linux_x86_64");
     requireTools(config, platform);
     const HardwareGroupConfig group = config.findGroupForCamera(camera);
     require(!config.findThumbnailForCamera(camera).isEmpty(), "every camera has a picture");
     for (const QString &id : config.recommendedToolsIdsForCamera(group, camera, platform)) {
-        require(toolIds(group.tools).contains(id), "what is recommended is of the group");
+        require(toolIds(group.tools).contains(id), "a recommended tool belongs to the group");
         require(group.type != QLatin1String("highres")
                 || config.isHalvexToolCompatibleWithCamera(camera.modelName, id),
-            "what is recommended fits the model");
+            "a recommended tool is compatible with the model");
     }
 }
 
@@ -84,8 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const auto document = [&input](const char *key) { return input.value(QLatin1String(key)).toObject(); };
 
     LauncherConfig config;
-    requireAnswers(config, cameraOf(document("camera")));
+    requireConsistent(config, cameraOf(document("camera")));
     config.parseConfig(document("launcher"), document("reference"), document("compatibility"));
-    requireAnswers(config, cameraOf(document("camera")));
+    requireConsistent(config, cameraOf(document("camera")));
     return 0;
 }

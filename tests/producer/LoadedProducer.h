@@ -2,59 +2,49 @@
 
 #include "sdk/gentl/GenTL.h"
 
+#include <dlfcn.h>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
-#include <vector>
 
-/// A producer loaded as any consumer would: by its path, each function fetched by name.
+/// Calls X(name) for each function that discovery needs.
+// clang-format off
+#define CORVIX_DISCOVERY_FUNCTIONS(X) \
+    X(GCInitLib) X(GCCloseLib) X(GCGetInfo) X(GCGetLastError) X(TLOpen) X(TLClose) X(TLGetInfo) \
+    X(TLUpdateInterfaceList) X(TLGetNumInterfaces) X(TLGetInterfaceID) X(TLGetInterfaceInfo) X(TLOpenInterface) \
+    X(IFClose) X(IFGetInfo) X(IFUpdateDeviceList) X(IFGetNumDevices) X(IFGetDeviceID) X(IFGetDeviceInfo) \
+    X(IFGetParentTL)
+// clang-format on
+
+/// A producer that is loaded like any consumer loads it: by its path, each function by its name.
 /// The functions are public members under their own names. Throws if the file cannot be loaded.
 class LoadedProducer
 {
 public:
-    explicit LoadedProducer(const std::filesystem::path &file);
-    ~LoadedProducer();
+    /// Without a file, takes the producer that is linked into this program.
+    explicit LoadedProducer(const std::filesystem::path &file = {})
+        : m_file(file.empty() ? file : std::filesystem::canonical(file)),
+          m_library(dlopen(file.empty() ? nullptr : m_file.c_str(), RTLD_NOW | RTLD_LOCAL))
+    { }
+    ~LoadedProducer() { dlclose(m_library); }
     LoadedProducer(const LoadedProducer &) = delete;
     LoadedProducer &operator=(const LoadedProducer &) = delete;
 
     const std::filesystem::path &file() const { return m_file; }
 
-    /// Null if there is none of this name.
-    void *symbol(const std::string &name) const;
+    /// Throws if the producer does not export this function.
+    void *symbol(const std::string &name) const
+    {
+        void *const found = m_library ? dlsym(m_library, name.c_str()) : nullptr;
+        return found ? found : throw std::runtime_error(dlerror());
+    }
 
 private:
-    const std::filesystem::path m_file; // Before the functions: they are fetched from the library.
-    void *const m_library;
+    const std::filesystem::path m_file;
+    void *const m_library; // Before the functions, which are initialised from it.
 
 public:
-#define CORVIX_FUNCTION(name)                                                                                \
-    const GenTL::P##name name = reinterpret_cast<GenTL::P##name>(requiredSymbol(#name))
-    CORVIX_FUNCTION(GCInitLib);
-    CORVIX_FUNCTION(GCCloseLib);
-    CORVIX_FUNCTION(GCGetInfo);
-    CORVIX_FUNCTION(GCGetLastError);
-    CORVIX_FUNCTION(TLOpen);
-    CORVIX_FUNCTION(TLClose);
-    CORVIX_FUNCTION(TLGetInfo);
-    CORVIX_FUNCTION(TLUpdateInterfaceList);
-    CORVIX_FUNCTION(TLGetNumInterfaces);
-    CORVIX_FUNCTION(TLGetInterfaceID);
-    CORVIX_FUNCTION(TLGetInterfaceInfo);
-    CORVIX_FUNCTION(TLOpenInterface);
-    CORVIX_FUNCTION(IFClose);
-    CORVIX_FUNCTION(IFGetInfo);
-    CORVIX_FUNCTION(IFUpdateDeviceList);
-    CORVIX_FUNCTION(IFGetNumDevices);
-    CORVIX_FUNCTION(IFGetDeviceID);
-    CORVIX_FUNCTION(IFGetDeviceInfo);
-    CORVIX_FUNCTION(IFGetParentTL);
-#undef CORVIX_FUNCTION
-
-private:
-    void *requiredSymbol(const std::string &name) const;
+#define CORVIX_MEMBER(name) const GenTL::P##name name = reinterpret_cast<GenTL::P##name>(symbol(#name));
+    CORVIX_DISCOVERY_FUNCTIONS(CORVIX_MEMBER)
+#undef CORVIX_MEMBER
 };
-
-/// The functions of GenTL 1.6 that a producer for discovery alone refuses.
-const std::vector<std::string> &functionsBeyondDiscovery();
-
-/// The functions that discovery uses.
-const std::vector<std::string> &discoveryFunctions();

@@ -3,42 +3,105 @@
 #include "tests/producer/LoadedProducer.h"
 #include "tests/producer/StrictRead.h"
 
-/// A producer's info functions as calls for the strict reads.
-InfoCall libraryInfo(const LoadedProducer &producer, GenTL::TL_INFO_CMD command);
-InfoCall systemInfo(const LoadedProducer &producer, GenTL::TL_HANDLE system, GenTL::TL_INFO_CMD command);
-InfoCall interfaceId(const LoadedProducer &producer, GenTL::TL_HANDLE system, std::uint32_t index);
-InfoCall listedInterfaceInfo(const LoadedProducer &producer, GenTL::TL_HANDLE system, const std::string &id,
-    GenTL::INTERFACE_INFO_CMD command);
-InfoCall openInterfaceInfo(
-    const LoadedProducer &producer, GenTL::IF_HANDLE handle, GenTL::INTERFACE_INFO_CMD command);
-InfoCall deviceId(const LoadedProducer &producer, GenTL::IF_HANDLE handle, std::uint32_t index);
-InfoCall deviceInfo(const LoadedProducer &producer, GenTL::IF_HANDLE handle, const std::string &id,
-    GenTL::DEVICE_INFO_CMD command);
+#include <gtest/gtest.h>
+#include <utility>
+#include <vector>
 
-/// From GCInitLib and TLOpen to GCCloseLib. What goes wrong on the way is a test failure.
+/// A producer from GCInitLib and TLOpen to GCCloseLib. Every failure on the way is a test failure.
 class ProducerSession
 {
 public:
-    explicit ProducerSession(const std::filesystem::path &file);
-    ~ProducerSession();
+    /// Without a file, takes the producer that is linked into this program.
+    explicit ProducerSession(const std::filesystem::path &file = {}) : m_producer(file)
+    {
+        EXPECT_EQ(m_producer.GCInitLib(), GenTL::GC_ERR_SUCCESS);
+        EXPECT_EQ(m_producer.TLOpen(&m_system), GenTL::GC_ERR_SUCCESS);
+        EXPECT_NE(m_system, GenTL::GENTL_INVALID_HANDLE);
+    }
+
+    /// No TLClose: some tests have closed the system already, and closing the library closes everything.
+    ~ProducerSession() { EXPECT_EQ(m_producer.GCCloseLib(), GenTL::GC_ERR_SUCCESS); }
 
     const LoadedProducer &producer() const { return m_producer; }
     GenTL::TL_HANDLE system() const { return m_system; }
 
-    /// Each updates the list; true if the producer says that it changed.
-    bool updateInterfaces() const;
-    bool updateDevices(GenTL::IF_HANDLE handle) const;
+    /// Update a list and return whether the producer reports a change.
+    bool updateInterfaces() const { return update(m_producer.TLUpdateInterfaceList, m_system); }
+    bool updateDevices(GenTL::IF_HANDLE handle) const
+    {
+        return update(m_producer.IFUpdateDeviceList, handle);
+    }
 
-    /// The lists as of the last update.
-    std::vector<std::string> interfaceIds() const;
-    std::vector<std::string> deviceIds(GenTL::IF_HANDLE handle) const;
+    /// Return the lists as of the last update.
+    std::vector<std::string> interfaceIds() const
+    {
+        return readIds(m_producer.TLGetNumInterfaces, m_producer.TLGetInterfaceID, m_system);
+    }
+    std::vector<std::string> deviceIds(GenTL::IF_HANDLE handle) const
+    {
+        return readIds(m_producer.IFGetNumDevices, m_producer.IFGetDeviceID, handle);
+    }
 
-    GenTL::IF_HANDLE open(const std::string &interfaceId) const;
-    std::string interfaceText(const std::string &id, GenTL::INTERFACE_INFO_CMD command) const;
-    std::string deviceText(
-        GenTL::IF_HANDLE handle, const std::string &id, GenTL::DEVICE_INFO_CMD command) const;
+    GenTL::IF_HANDLE open(const std::string &interfaceId) const
+    {
+        GenTL::IF_HANDLE handle = nullptr;
+        EXPECT_EQ(m_producer.TLOpenInterface(m_system, interfaceId.c_str(), &handle), GenTL::GC_ERR_SUCCESS);
+        EXPECT_NE(handle, GenTL::GENTL_INVALID_HANDLE);
+        return handle;
+    }
+
+    std::vector<GenTL::IF_HANDLE> openAll() const
+    {
+        std::vector<GenTL::IF_HANDLE> handles;
+        for (const std::string &id : interfaceIds())
+            handles.push_back(open(id));
+        return handles;
+    }
+
+    std::string interfaceString(const std::string &id, GenTL::INTERFACE_INFO_CMD command) const
+    {
+        return readString(infoCall(m_producer.TLGetInterfaceInfo, m_system, id.c_str(), command));
+    }
+    std::string openInterfaceString(GenTL::IF_HANDLE handle, GenTL::INTERFACE_INFO_CMD command) const
+    {
+        return readString(infoCall(m_producer.IFGetInfo, handle, command));
+    }
+    std::string deviceString(
+        GenTL::IF_HANDLE handle, const std::string &id, GenTL::DEVICE_INFO_CMD command) const
+    {
+        return readString(infoCall(m_producer.IFGetDeviceInfo, handle, id.c_str(), command));
+    }
+
+    /// Returns code and message of this thread's last error.
+    std::pair<GenTL::GC_ERROR, std::string> lastError() const
+    {
+        GenTL::GC_ERROR code = GenTL::GC_ERR_SUCCESS;
+        const std::string message = readId(idCall(m_producer.GCGetLastError, &code));
+        return {code, message};
+    }
 
 private:
+    template <typename Function>
+    static bool update(Function function, void *handle)
+    {
+        constexpr GenTL::bool8_t neverWritten = 0xA5;
+        GenTL::bool8_t isChanged = neverWritten;
+        EXPECT_EQ(function(handle, &isChanged, 500), GenTL::GC_ERR_SUCCESS);
+        EXPECT_NE(isChanged, neverWritten);
+        return isChanged != 0;
+    }
+
+    template <typename Count, typename Id>
+    static std::vector<std::string> readIds(Count count, Id id, void *handle)
+    {
+        std::uint32_t size = 0;
+        EXPECT_EQ(count(handle, &size), GenTL::GC_ERR_SUCCESS);
+        std::vector<std::string> ids;
+        for (std::uint32_t index = 0; index < size; ++index)
+            ids.push_back(readId(idCall(id, handle, index)));
+        return ids;
+    }
+
     LoadedProducer m_producer;
     GenTL::TL_HANDLE m_system = nullptr;
 };

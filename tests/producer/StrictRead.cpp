@@ -3,127 +3,89 @@
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
-#include <vector>
 
 using namespace GenTL;
 
 namespace {
 
-constexpr unsigned char untouched = 0xA5;
 constexpr std::size_t guardSize = 32;
+constexpr char guard = '\xA5';
 
-/// A buffer of some capacity with a guarded zone behind it.
-struct GuardedBuffer
+/// What a call writes into a buffer of some capacity.
+struct Reply
 {
-    explicit GuardedBuffer(std::size_t capacityInBytes)
-        : capacity(capacityInBytes), bytes(capacityInBytes + guardSize, untouched)
-    { }
-
-    bool guardIsIntact() const
-    {
-        return std::all_of(bytes.begin() + static_cast<std::ptrdiff_t>(capacity), bytes.end(),
-            [](unsigned char byte) { return byte == untouched; });
-    }
-
-    std::size_t capacity;
-    std::vector<unsigned char> bytes;
+    GC_ERROR code;
+    INFO_DATATYPE type;
+    std::string bytes;
 };
 
-/// The value, if a buffer of this capacity is long enough for all of it.
-std::string readInto(const InfoCall &call, std::size_t capacity, std::size_t expectedSize)
+/// Calls with a buffer that has a guarded zone behind its end.
+Reply callWithBuffer(const InfoCall &call, std::size_t capacity)
 {
-    GuardedBuffer buffer(capacity);
+    std::string buffer(capacity + guardSize, guard);
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
     std::size_t size = capacity;
-    EXPECT_EQ(call(&type, buffer.bytes.data(), &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(size, expectedSize);
-    EXPECT_TRUE(buffer.guardIsIntact());
-    return {buffer.bytes.begin(), buffer.bytes.begin() + static_cast<std::ptrdiff_t>(expectedSize)};
+    const GC_ERROR code = call(&type, buffer.data(), &size);
+    EXPECT_EQ(buffer.substr(capacity), std::string(guardSize, guard)) << "written past the end";
+    EXPECT_LE(size, capacity);
+    return {code, type, buffer.substr(0, size)};
 }
 
-void expectTooSmall(const InfoCall &call, std::size_t capacity)
-{
-    GuardedBuffer buffer(capacity);
-    INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
-    std::size_t size = capacity;
-    EXPECT_EQ(call(&type, buffer.bytes.data(), &size), GC_ERR_BUFFER_TOO_SMALL) << capacity << " bytes";
-    EXPECT_TRUE(buffer.guardIsIntact());
-}
-
-std::string readBytes(const InfoCall &call)
+/// Reads the bytes of a value. An "ID" function leaves the type INFO_DATATYPE_UNKNOWN.
+std::string readBytes(const InfoCall &call, INFO_DATATYPE expectedType)
 {
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
     std::size_t size = 0;
     const GC_ERROR code = call(&type, nullptr, &size);
     EXPECT_EQ(code, GC_ERR_SUCCESS);
+    EXPECT_EQ(type, expectedType);
     EXPECT_GT(size, 0U);
     if (code != GC_ERR_SUCCESS || size == 0)
         return {};
 
-    std::string value = readInto(call, size, size);
-    EXPECT_EQ(readInto(call, size + 10, size), value);
-    expectTooSmall(call, size - 1);
-    expectTooSmall(call, 0);
+    const Reply exact = callWithBuffer(call, size);
+    const Reply longer = callWithBuffer(call, size + 10);
+    EXPECT_EQ(exact.code, GC_ERR_SUCCESS);
+    EXPECT_EQ(exact.type, expectedType);
+    EXPECT_EQ(exact.bytes.size(), size);
+    EXPECT_EQ(longer.code, GC_ERR_SUCCESS);
+    EXPECT_EQ(longer.bytes, exact.bytes);
+    EXPECT_EQ(callWithBuffer(call, size - 1).code, GC_ERR_BUFFER_TOO_SMALL);
+    EXPECT_EQ(callWithBuffer(call, 0).code, GC_ERR_BUFFER_TOO_SMALL);
 
+    std::string buffer(size, '\0');
     EXPECT_EQ(call(&type, nullptr, nullptr), GC_ERR_INVALID_PARAMETER);
-    std::vector<unsigned char> buffer(size);
     EXPECT_EQ(call(&type, buffer.data(), nullptr), GC_ERR_INVALID_PARAMETER);
-    return value;
+    const bool needsType = expectedType != INFO_DATATYPE_UNKNOWN;
+    EXPECT_EQ(call(nullptr, nullptr, &size), needsType ? GC_ERR_INVALID_PARAMETER : GC_ERR_SUCCESS);
+    return exact.bytes;
 }
 
 std::string withoutNul(const std::string &bytes)
 {
-    EXPECT_EQ(bytes.find('\0'), bytes.size() - 1) << "one NUL, and that at the end";
+    EXPECT_EQ(bytes.find('\0') + 1, bytes.size()) << "one NUL, at the end";
     return bytes.substr(0, bytes.find('\0'));
-}
-
-void expectType(const InfoCall &call, INFO_DATATYPE expected)
-{
-    INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
-    std::size_t size = 0;
-    EXPECT_EQ(call(&type, nullptr, &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(type, expected) << "asked for the size";
-
-    type = INFO_DATATYPE_UNKNOWN;
-    std::vector<unsigned char> buffer(size);
-    EXPECT_EQ(call(&type, buffer.data(), &size), GC_ERR_SUCCESS);
-    EXPECT_EQ(type, expected) << "asked for the value";
-
-    EXPECT_EQ(call(nullptr, nullptr, &size), GC_ERR_INVALID_PARAMETER);
-}
-
-template <typename Number>
-Number readNumber(const InfoCall &call, INFO_DATATYPE type)
-{
-    expectType(call, type);
-    const std::string bytes = readBytes(call);
-    Number number{};
-    EXPECT_EQ(bytes.size(), sizeof number);
-    std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof number));
-    return number;
 }
 
 } // namespace
 
 std::string readId(const InfoCall &call)
 {
-    return withoutNul(readBytes(call));
+    return withoutNul(readBytes(call, INFO_DATATYPE_UNKNOWN));
 }
 
-std::string readText(const InfoCall &call)
+std::string readString(const InfoCall &call)
 {
-    expectType(call, INFO_DATATYPE_STRING);
-    return withoutNul(readBytes(call));
+    return withoutNul(readBytes(call, INFO_DATATYPE_STRING));
 }
 
-std::int32_t readInt32(const InfoCall &call)
+std::int32_t readNumber(const InfoCall &call, INFO_DATATYPE type)
 {
-    return readNumber<std::int32_t>(call, INFO_DATATYPE_INT32);
-}
-
-std::uint32_t readUint32(const InfoCall &call)
-{
-    return readNumber<std::uint32_t>(call, INFO_DATATYPE_UINT32);
+    const std::string bytes = readBytes(call, type);
+    std::int32_t number = 0;
+    EXPECT_EQ(bytes.size(), sizeof number);
+    std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof number));
+    return number;
 }
 
 GC_ERROR codeOf(const InfoCall &call)

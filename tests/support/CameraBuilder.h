@@ -2,11 +2,9 @@
 
 #include "camera/CameraInfo.h"
 
-#include <QStringList>
-
 #include <tuple>
 
-/// Camera records and their comparison, for tests.
+/// Builds a camera record.
 inline CameraInfo camera(const QString &vendor, const QString &model, const QString &serial = {},
     const QString &id = {}, const QString &interfaceType = {})
 {
@@ -19,22 +17,11 @@ inline CameraInfo camera(const QString &vendor, const QString &model, const QStr
     return info;
 }
 
-/// All eight fields, for comparison and for messages.
-inline auto fields(const CameraInfo &c)
-{
-    return std::tie(c.cameraId, c.vendorName, c.modelName, c.cameraName, c.serialNumber, c.ipAddress,
-        c.macAddress, c.interfaceType);
-}
-
 inline bool operator==(const CameraInfo &left, const CameraInfo &right)
 {
+    const auto fields = [](const CameraInfo &info) {
+        return std::tie(info.cameraId, info.vendorName, info.modelName, info.cameraName, info.serialNumber,
+            info.ipAddress, info.macAddress, info.interfaceType);
+    };
     return fields(left) == fields(right);
-}
-
-/// For QCOMPARE's message.
-inline char *toString(const CameraInfo &c)
-{
-    const QStringList values{c.cameraId, c.vendorName, c.modelName, c.cameraName, c.serialNumber, c.ipAddress,
-        c.macAddress, c.interfaceType};
-    return qstrdup(qUtf8Printable(QStringLiteral("CameraInfo(%1)").arg(values.join(QStringLiteral(" | ")))));
 }

@@ -2,7 +2,7 @@
 
 #include <QtTest>
 
-/// The child of that object name and class; fails the test (and gives null) when there is none.
+/// Returns the child with this class and object name. Fails the test and returns null if there is none.
 template <typename Child>
 Child *childNamed(const QObject &parent, const char *objectName)
 {

@@ -2,8 +2,7 @@
 
 #include <QTranslator>
 
-/// Translates every text into "[context] text", so that a test sees what is translated, and where.
-/// To be installed on the application.
+/// Translates every text into "[context] text". Install it on the application.
 class MarkingTranslator : public QTranslator
 {
 public:

@@ -1,31 +1,45 @@
 #pragma once
 
 #include <QMutex>
-#include <QString>
+#include <QPair>
+#include <QStringList>
 #include <QVector>
 
-/// Catches Qt's message log while it lives, from every thread. One at a time.
+/// Records Qt's log messages from every thread while it lives. Only one may exist at a time.
 class MessageLog
 {
 public:
-    struct Entry
+    using Entry = QPair<QtMsgType, QString>;
+
+    MessageLog() { s_current = this; }
+    ~MessageLog() { qInstallMessageHandler(m_previous); }
+
+    QVector<Entry> entries() const
     {
-        QtMsgType type;
-        QString text;
-    };
+        const QMutexLocker lock(&m_mutex);
+        return m_entries;
+    }
 
-    MessageLog();
-    ~MessageLog();
-
-    QVector<Entry> entries() const;
-
-    /// The texts logged at this level.
-    QStringList texts(QtMsgType type) const;
+    /// Returns the messages that were logged at this level.
+    QStringList texts(QtMsgType type) const
+    {
+        QStringList found;
+        for (const auto &[level, text] : entries()) {
+            if (level == type)
+                found.append(text);
+        }
+        return found;
+    }
 
 private:
-    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text);
+    static void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
+    {
+        const QMutexLocker lock(&s_current->m_mutex);
+        s_current->m_entries.append({type, text});
+    }
 
+    static inline MessageLog *s_current = nullptr; // Qt's message handler is a plain function.
     mutable QMutex m_mutex;
     QVector<Entry> m_entries;
-    QtMessageHandler m_previous;
+    const QtMessageHandler m_previous = qInstallMessageHandler(handle);
 };

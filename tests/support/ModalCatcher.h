@@ -1,27 +1,21 @@
 #pragma once
 
-#include <QList>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMenu>
 #include <QMessageBox>
-#include <QObject>
-#include <QPointer>
-#include <QStringList>
-#include <QTimer>
+#include <QtTest>
 
 #include <functional>
 
-class QMenu;
-
-/// Answers every message box and menu that opens while it lives, and remembers what they said.
-/// A modal loop blocks its caller, so it looks around on a timer inside that loop.
-class ModalCatcher : public QObject
+/// Records every message box and menu that opens while it lives. Clicks the first button of a box.
+/// A modal dialog blocks its caller in an event loop of its own, so a timer in that loop finds the dialog.
+class ModalCatcher
 {
-    Q_OBJECT
-
 public:
     struct Box
     {
-        QString title;
-        QString text;
+        QString title, text;
         QMessageBox::Icon icon;
         QMessageBox::StandardButtons buttons;
         QPointer<QWidget> parent;
@@ -29,34 +23,63 @@ public:
 
     struct Menu
     {
-        QStringList actions; ///< Texts; a separator has an empty one.
-        QPoint position; ///< Top left, global.
+        QStringList actions; ///< The texts; empty for a separator.
+        QPoint position; ///< Top left corner on the screen.
         QPointer<QWidget> parent;
     };
 
-    ModalCatcher();
+    ModalCatcher()
+    {
+        m_timer.callOnTimeout([this] { answerOpenDialog(); });
+        m_timer.start(5);
+    }
 
-    /// Menus: the text of the action to choose; null closes the menu with Escape. Boxes are always closed by
-    /// their first button.
+    /// The text of the menu action to choose. If it is null, Escape closes the menu.
     QString choose;
 
-    /// Called before a box is answered, while it is open.
-    std::function<void(QMessageBox &)> onBox;
+    /// Called while a box is open, before it is answered.
+    std::function<void(QMessageBox &)> onBox = [](QMessageBox &) {};
 
     const QList<Box> &boxes() const { return m_boxes; }
     const QList<Menu> &menus() const { return m_menus; }
 
-    /// Modal dialogs other than message boxes, by class name. They are rejected.
-    const QStringList &otherDialogs() const { return m_otherDialogs; }
-
 private:
-    void look();
-    void answerBox(QMessageBox *box);
-    void answerMenu(QMenu *menu);
+    void answerOpenDialog()
+    {
+        QWidget *popup = QApplication::activePopupWidget();
+        QWidget *open = popup ? popup : QApplication::activeModalWidget();
+        if (open == m_answered)
+            return;
+        m_answered = open; // Null once nothing is open, because the same menu may open again.
+        if (auto *menu = qobject_cast<QMenu *>(open))
+            answerMenu(menu);
+        else if (auto *box = qobject_cast<QMessageBox *>(open))
+            answerBox(box);
+    }
+
+    void answerMenu(QMenu *menu)
+    {
+        m_menus.append({{}, menu->pos(), menu->parentWidget()});
+        QAction *chosen = nullptr;
+        for (QAction *action : menu->actions()) {
+            m_menus.last().actions.append(action->text());
+            if (!choose.isNull() && action->text() == choose)
+                chosen = action;
+        }
+        menu->setActiveAction(chosen);
+        QTest::keyClick(menu, chosen ? Qt::Key_Return : Qt::Key_Escape);
+    }
+
+    void answerBox(QMessageBox *box)
+    {
+        m_boxes.append(
+            {box->windowTitle(), box->text(), box->icon(), box->standardButtons(), box->parentWidget()});
+        onBox(*box);
+        box->buttons().first()->click();
+    }
 
     QTimer m_timer;
     QList<Box> m_boxes;
     QList<Menu> m_menus;
-    QStringList m_otherDialogs;
-    QPointer<QWidget> m_answered; // One answer each, also while it closes.
+    QPointer<QWidget> m_answered; // A dialog that is closing must not be answered again.
 };

@@ -1,17 +1,35 @@
 #pragma once
 
-#include <QString>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
-/// Files made by tests, mostly in a QTemporaryDir. Missing directories are made.
+/// Reads and writes small files, usually in a QTemporaryDir.
 namespace ScriptFile {
 
-/// Writes an executable shell script (the body follows "#!/bin/sh") and returns its path.
-QString writeExecutable(const QString &path, const QByteArray &body);
+/// Writes a file, creates missing directories and returns the path.
+inline QString write(const QString &path, const QByteArray &content)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+        qFatal("Cannot write %s", qUtf8Printable(path));
+    return path;
+}
 
-/// Writes a plain file and returns its path.
-QString write(const QString &path, const QByteArray &content);
+/// Writes an executable shell script, whose first line is "#!/bin/sh", and returns its path.
+inline QString writeExecutable(const QString &path, const QByteArray &body)
+{
+    write(path, "#!/bin/sh\n" + body);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
+}
 
-/// The content of a file; empty while there is none.
-QByteArray read(const QString &path);
+/// Returns the content of the file; empty if there is none.
+inline QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 } // namespace ScriptFile

@@ -1,6 +1,5 @@
 #include "tests/ui/ConfiguredWindow.h"
 
-#include "tests/config/ConfigDocuments.h"
 #include "tests/support/ScriptFile.h"
 #include "ui/ApplicationLauncher.h"
 
@@ -15,25 +14,19 @@ using namespace ConfigDocuments;
 
 namespace {
 
-QJsonObject nameless(QJsonObject group)
-{
-    group.insert(latin1("name"), QString());
-    return group;
-}
-
 QJsonObject standardGroups()
 {
     const QJsonObject viewer = tool("viewer", "bin/Viewer");
-    return groups({group("areascan", {viewer, tool("setup", "bin/Setup", {}, {latin1("GigE")})}),
+    QJsonObject other = group("other", {viewer, tool("extra", "bin/Extra")});
+    other.remove("name"_s);
+    return groups({group("areascan", {viewer, tool("setup", "bin/Setup", {}, {"GigE"_s})}),
         group("linescan", {viewer, tool("tuner", "bin/Tuner")}),
-        group("highres", {viewer, tool("repair", "bin/Repair"), tool("flat", "bin/Flat")}),
-        nameless(group("other", {viewer, tool("extra", "bin/Extra")})),
-        group("simulator", {viewer, tool("scene", "bin/Scene")})});
+        group("highres", {viewer, tool("repair", "bin/Repair"), tool("flat", "bin/Flat")}), other,
+        group("simulator", {viewer, tool("configurator", "bin/Configurator")})});
 }
 
-} // namespace
-
-QByteArray ConfiguredWindow::picture(const QSize &size, const QColor &color)
+/// Returns a PNG file of one colour.
+QByteArray picture(const QSize &size, const QColor &color)
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
@@ -44,66 +37,78 @@ QByteArray ConfiguredWindow::picture(const QSize &size, const QColor &color)
     return png;
 }
 
+} // namespace
+
 QMap<QString, QByteArray> ConfiguredWindow::standardFiles()
 {
-    return {{latin1("config/launcher_config.json"), json(standardGroups())},
-        {latin1("config/cameras_reference.json"),
-            json(references({{"Kx200", "areascan", "assets/cameras/kx200.png"},
-                {"Lost", "areascan", "assets/cameras/lost.png"}}))},
-        {latin1("config/halvex_tool_compatibility.json"),
-            json(compatibility({{"HX-1", {latin1("viewer"), latin1("repair")}}}))},
-        {latin1("images/cameras/kx200.png"), picture({156, 100}, Qt::red)},
-        {latin1("images/cameras/camera-placeholder.png"), picture({100, 100}, Qt::green)},
-        {latin1("images/orvelle-logo.png"), picture({39, 78}, Qt::blue)}};
+    const QJsonObject rows = references(
+        {{"Kx200", "areascan", "assets/cameras/kx200.png"}, {"Lost", "areascan", "assets/cameras/lost.png"}});
+    return {{"config/launcher_config.json"_s, json(standardGroups())},
+        {"config/cameras_reference.json"_s, json(rows)},
+        {"config/halvex_tool_compatibility.json"_s, json(compatibility("HX-1", {"viewer"_s, "repair"_s}))},
+        {"images/cameras/kx200.png"_s, picture({156, 100}, Qt::red)},
+        {"images/cameras/camera-placeholder.png"_s, picture({100, 100}, Qt::green)},
+        {"images/orvelle-logo.png"_s, picture({39, 78}, Qt::blue)}};
+}
+
+QMap<QString, QByteArray> ConfiguredWindow::filesWith(const QJsonObject &launcherConfig)
+{
+    QMap<QString, QByteArray> files = standardFiles();
+    files.insert("config/launcher_config.json"_s, json(launcherConfig));
+    return files;
 }
 
 void ConfiguredWindow::useShippedStyle()
 {
     const QByteArray rules = ScriptFile::read(QStringLiteral(CORVIX_STYLE_SHEET));
     QVERIFY(!rules.isEmpty());
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle("fusion"_s);
     qApp->setStyleSheet(QString::fromUtf8(rules));
 }
 
 ConfiguredWindow::ConfiguredWindow(const QMap<QString, QByteArray> &files) : m_files(files) { }
 
-void ConfiguredWindow::touch(const QString &relative)
+void ConfiguredWindow::createFile(const QString &relative)
 {
-    ScriptFile::write(m_root.filePath(relative), {});
+    ScriptFile::write(path(relative), {});
 }
 
-void ConfiguredWindow::loadConfigAgain()
+void ConfiguredWindow::writeXml(const QByteArray &content)
 {
-    delete window.findChild<QGridLayout *>();
-    loadConfig();
+    ScriptFile::write(path("bin/CvxC.xml"_s), content);
 }
 
-void ConfiguredWindow::show()
+void ConfiguredWindow::writeCtiPaths(const QStringList &directories)
 {
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    writeXml("<CtiPaths><Path>" + directories.join("</Path><Path>"_s).toUtf8() + "</Path></CtiPaths>");
 }
 
-void ConfiguredWindow::list(const QVector<CameraInfo> &cameras)
+void ConfiguredWindow::setCameras(const QVector<CameraInfo> &cameras)
 {
     window.setCameras(cameras);
     window.setSelectedCamera({});
 }
 
+void ConfiguredWindow::open(const QVector<CameraInfo> &cameras)
+{
+    loadConfig();
+    setCameras(cameras);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window, hangTimeout));
+}
+
 QList<ApplicationLauncher *> ConfiguredWindow::tiles() const
 {
     QList<ApplicationLauncher *> result;
-    const auto *container = window.findChild<QWidget *>(QStringLiteral("toolsContainer"));
-    const auto *grid = container ? qobject_cast<QGridLayout *>(container->layout()) : nullptr;
-    for (int index = 0; grid && index < grid->count(); ++index)
+    const QLayout *grid = childNamed<QWidget>(window, "toolsContainer")->layout();
+    for (int index = 0; index < grid->count(); ++index)
         result.append(qobject_cast<ApplicationLauncher *>(grid->itemAt(index)->widget()));
     return result;
 }
 
 QString ConfiguredWindow::ctiFile(int row) const
 {
-    static const QRegularExpression cell(
-        QStringLiteral(">CTI file</td><td style='color:#e8edf2;'>([^<]*)</td>"));
+    static const QRegularExpression cell(">CTI file</td><td style='color:#e8edf2;'>([^<]*)</td>"_s);
     return cell.match(toolTip(row)).captured(1);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "tests/config/ConfigDocuments.h"
 #include "tests/config/EmbeddedFiles.h"
 #include "tests/support/CameraBuilder.h"
+#include "tests/support/ChildNamed.h"
 #include "ui/MainWindow.h"
 
 #include <QTableWidget>
@@ -10,47 +12,54 @@
 
 class ApplicationLauncher;
 
-/// The window in an installation directory of the test's own, with documents and pictures of the test's own.
-/// The standard documents: seven tools in five groups, of which "other" has no name, and the row "Kx200".
+constexpr int hangTimeout = 30'000; // Milliseconds. Only a hang takes longer.
+
+Q_DECLARE_METATYPE(CameraInfo)
+
+/// A window in an empty installation directory, with its own configuration documents and pictures.
+/// The standard documents contain seven tools in five groups, of which "other" has no name, and the reference
+/// rows "Kx200" and "Lost", whose picture is missing.
 class ConfiguredWindow
 {
 public:
     static QMap<QString, QByteArray> standardFiles();
 
-    /// A picture of one colour as a PNG file.
-    static QByteArray picture(const QSize &size, const QColor &color);
+    /// Returns the standard files with another launcher configuration.
+    static QMap<QString, QByteArray> filesWith(const QJsonObject &launcherConfig);
 
-    /// Gives the application the shipped style sheet.
+    /// Applies the shipped style sheet to the application.
     static void useShippedStyle();
 
     explicit ConfiguredWindow(const QMap<QString, QByteArray> &files = standardFiles());
 
-    QString root() const { return m_root.path(); }
-    QString path(const char *relative) const { return m_root.filePath(QString::fromLatin1(relative)); }
+    /// Returns a path below the installation directory.
+    QString path(const QString &relative) const { return m_root.filePath(relative); }
 
-    /// Makes an empty file in the installation directory.
-    void touch(const QString &relative);
+    /// Creates an empty file below the installation directory.
+    void createFile(const QString &relative);
 
-    void loadConfig() { window.loadConfig(root()); }
+    /// Writes the installation's bin/CvxC.xml, with these search directories in the second function.
+    void writeXml(const QByteArray &content);
+    void writeCtiPaths(const QStringList &directories);
 
-    /// Loads once more. The window lays out its tiles once, so it has to find their grid gone.
-    void loadConfigAgain();
+    void loadConfig() { window.loadConfig(m_root.path()); }
 
-    void show();
+    /// Sets the cameras as after a completed scan: none is selected.
+    void setCameras(const QVector<CameraInfo> &cameras);
 
-    /// Shows the cameras as after a completed scan: none of them selected.
-    void list(const QVector<CameraInfo> &cameras);
+    /// Loads the configuration, sets the cameras and shows the window.
+    void open(const QVector<CameraInfo> &cameras = {});
 
     QTableWidget *table() const { return window.findChild<QTableWidget *>(); }
     QString toolTip(int row) const { return table()->item(row, 1)->toolTip(); }
     QList<ApplicationLauncher *> tiles() const;
 
-    /// The name of the transport-layer file in the row's tooltip.
+    /// Returns the name of the producer file in the row's tooltip.
     QString ctiFile(int row) const;
 
     QList<int> selectedRows() const;
 
-    /// The middle of a cell in coordinates of the window; the window has to be shown.
+    /// Returns the centre of a cell in the window's coordinates. The window has to be shown.
     QPoint cellCenter(int row, int column) const;
     void click(const QPoint &position, Qt::MouseButton button = Qt::LeftButton);
 

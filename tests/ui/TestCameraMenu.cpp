@@ -1,15 +1,12 @@
-#include "tests/config/ConfigDocuments.h"
 #include "tests/support/ModalCatcher.h"
 #include "tests/support/ScriptFile.h"
 #include "tests/ui/ConfiguredWindow.h"
-#include "tests/ui/OpenedDirectories.h"
 
-#include <QDir>
 #include <QHeaderView>
 #include <QMenu>
 #include <QtTest>
 
-using ConfigDocuments::latin1;
+using namespace ConfigDocuments;
 
 class TestCameraMenu : public QObject
 {
@@ -17,195 +14,120 @@ class TestCameraMenu : public QObject
 
 private slots:
     void initTestCase();
-    void rightClickOffersTheLocation();
-    void choosingItOpensTheDirectory();
-    void directoryIsOneArgumentWhateverItsName();
-    void dismissingItOpensNothing();
-    void menuFollowsTheCamerasInterface();
-    void cameraWithoutAFileHasNoMenu();
-    void menuNeverSearchesByItself();
-    void emptySpaceHasNoMenu();
-    void rowThatTheListLostHasNoMenu();
-    void missingOpenerIsIgnored();
+    void init();
+    void rightClickOffersTheCtiLocation();
+    void chosenEntryOpensTheDirectoryOfTheFile_data();
+    void chosenEntryOpensTheDirectoryOfTheFile();
+    void dismissedMenuOpensNothing();
+    void menuNeverSearchesForFiles();
+    void placesWithoutACameraHaveNoMenu();
+
+private:
+    void rightClick(int row) { m_window->click(m_window->cellCenter(row, 1), Qt::RightButton); }
+    QString opened() const { return QString::fromUtf8(ScriptFile::read(m_opener.filePath("calls"_s))); }
+
+    QTemporaryDir m_opener; // Contains the program "xdg-open", which appends its arguments to "calls".
+    std::unique_ptr<ConfiguredWindow> m_window;
+    std::unique_ptr<ModalCatcher> m_catcher;
 };
 
 namespace {
 
-CameraInfo gigE(const char *id = "a")
-{
-    return camera(latin1("Orvelle"), latin1("Kx200"), latin1(id), latin1(id), latin1("GigE"));
-}
-
-void rightClick(ConfiguredWindow &configured, int row)
-{
-    configured.click(configured.cellCenter(row, 1), Qt::RightButton);
-}
-
-/// A shown window with one camera, whose transport-layer file is in "cti".
-void prepare(ConfiguredWindow &configured)
-{
-    configured.touch(latin1("cti/a_gige.cti"));
-    configured.loadConfig();
-    configured.list({gigE()});
-    configured.show();
-}
-
-/// A shown window with two cameras, whose transport-layer files are in "one" and "two".
-void prepareTwo(ConfiguredWindow &configured)
-{
-    configured.touch(latin1("one/a_gige.cti"));
-    configured.touch(latin1("two/a_usb.cti"));
-    ScriptFile::write(
-        configured.path("bin/CvxC.xml"), "<c><CtiPaths><Path>one</Path><Path>two</Path></CtiPaths></c>");
-    configured.loadConfig();
-    CameraInfo usb = gigE("b");
-    usb.interfaceType = latin1("USB");
-    configured.list({gigE(), usb});
-    configured.show();
-}
+const CameraInfo gigE = camera("Orvelle"_s, "Kx200"_s, "1"_s, "a"_s, "GigE"_s);
+const CameraInfo usb = camera("Orvelle"_s, "Kx200"_s, "2"_s, "b"_s, "USB"_s);
 
 } // namespace
 
 void TestCameraMenu::initTestCase()
 {
     ConfiguredWindow::useShippedStyle();
+    ScriptFile::writeExecutable(m_opener.filePath("xdg-open"_s),
+        "printf '%s\\n' \"$@\" >> \"$(dirname \"$0\")/calls\"\n"); // One write per call.
+    qputenv("PATH", m_opener.path().toLocal8Bit() + ':' + qgetenv("PATH"));
 }
 
-void TestCameraMenu::rightClickOffersTheLocation()
+void TestCameraMenu::init()
 {
-    ConfiguredWindow configured;
-    prepare(configured);
-    ModalCatcher catcher;
-    const QPoint at = configured.cellCenter(0, 1);
-    rightClick(configured, 0);
-    QCOMPARE(catcher.menus().size(), 1);
-    QCOMPARE(catcher.menus().at(0).actions, QStringList{latin1("CTI location")});
-    QCOMPARE(catcher.menus().at(0).parent.data(), &configured.window);
-    QCOMPARE(catcher.menus().at(0).position, configured.window.mapToGlobal(at));
-    QCOMPARE(configured.window.findChildren<QMenu *>().size(), 0); // Gone again.
+    QFile::remove(m_opener.filePath("calls"_s));
+    m_window = std::make_unique<ConfiguredWindow>();
+    m_catcher = std::make_unique<ModalCatcher>();
+    m_catcher->choose = "CTI location"_s;
 }
 
-void TestCameraMenu::choosingItOpensTheDirectory()
+void TestCameraMenu::rightClickOffersTheCtiLocation()
 {
-    ConfiguredWindow configured;
-    prepare(configured);
-    const OpenedDirectories opened;
-    ModalCatcher catcher;
-    catcher.choose = latin1("CTI location");
-    rightClick(configured, 0);
-    QTRY_COMPARE(opened.arguments(), configured.path("cti\n"));
-    QCOMPARE(catcher.boxes().size(), 0);
+    m_window->createFile("cti/a_gige.cti"_s);
+    m_window->open({gigE});
+    m_catcher->choose.clear();
+    const QPoint position = m_window->cellCenter(0, 1);
+    rightClick(0);
+    QCOMPARE(m_catcher->menus().size(), 1);
+    QCOMPARE(m_catcher->menus().at(0).actions, QStringList{"CTI location"_s});
+    QCOMPARE(m_catcher->menus().at(0).parent.data(), &m_window->window);
+    QCOMPARE(m_catcher->menus().at(0).position, m_window->window.mapToGlobal(position));
+    QCOMPARE(m_window->window.findChildren<QMenu *>().size(), 0);
 }
 
-void TestCameraMenu::directoryIsOneArgumentWhateverItsName()
+void TestCameraMenu::chosenEntryOpensTheDirectoryOfTheFile_data()
 {
-    ConfiguredWindow configured;
-    const QString odd = latin1("odd & \"quoted\" $HOME; *");
-    configured.touch(odd + latin1("/a_gige.cti"));
-    ScriptFile::write(configured.path("bin/CvxC.xml"),
-        (latin1("<c><CtiPaths><Path>") + configured.root() + QLatin1Char('/') + odd.toHtmlEscaped()
-            + latin1("</Path></CtiPaths></c>"))
-            .toUtf8());
-    prepare(configured);
-    const OpenedDirectories opened;
-    ModalCatcher catcher;
-    catcher.choose = latin1("CTI location");
-    rightClick(configured, 0);
-    QTRY_COMPARE(opened.arguments(), configured.root() + QLatin1Char('/') + odd + QLatin1Char('\n'));
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("directory");
+    QTest::newRow("the camera's interface") << QStringList{"one/a_gige.cti"_s, "two/a_usb.cti"_s} << "two"_s;
+    // With equal scores and equal names the earlier directory wins, here "one".
+    QTest::newRow("equal names") << QStringList{"two/usb.cti"_s, "one/usb.cti"_s} << "one"_s;
+    QTest::newRow("one argument") << QStringList{"odd \"$HOME\"; */usb.cti"_s} << "odd \"$HOME\"; *"_s;
 }
 
-void TestCameraMenu::dismissingItOpensNothing()
+void TestCameraMenu::chosenEntryOpensTheDirectoryOfTheFile()
 {
-    ConfiguredWindow configured;
-    prepareTwo(configured);
-    const OpenedDirectories opened;
-    ModalCatcher catcher;
-    rightClick(configured, 0); // Closed with Escape.
-    QCOMPARE(catcher.menus().size(), 1);
-    catcher.choose = latin1("CTI location");
-    rightClick(configured, 1);
-    // Had the first menu started the opener, too, its call would stand before this one: it would have had
-    // the whole second menu's time to write.
-    QTRY_COMPARE(opened.arguments(), configured.path("two\n"));
-    QCOMPARE(catcher.menus().size(), 2);
+    QFETCH(QStringList, files);
+    QFETCH(QString, directory);
+    for (const QString &file : files)
+        m_window->createFile(file);
+    m_window->writeCtiPaths({"one"_s, "two"_s, directory});
+    m_window->open({gigE, usb});
+    rightClick(1);
+    QTRY_COMPARE_WITH_TIMEOUT(opened(), m_window->path(directory) + QLatin1Char('\n'), hangTimeout);
+    QCOMPARE(m_catcher->boxes().size(), 0);
 }
 
-void TestCameraMenu::menuFollowsTheCamerasInterface()
+void TestCameraMenu::dismissedMenuOpensNothing()
 {
-    ConfiguredWindow configured;
-    prepareTwo(configured);
-    const OpenedDirectories opened;
-    ModalCatcher catcher;
-    catcher.choose = latin1("CTI location");
-    rightClick(configured, 1);
-    QTRY_COMPARE(opened.arguments(), configured.path("two\n"));
+    m_window->createFile("one/a_gige.cti"_s);
+    m_window->createFile("two/a_usb.cti"_s);
+    m_window->writeCtiPaths({"one"_s, "two"_s});
+    m_window->open({gigE, usb});
+    m_catcher->choose.clear();
+    rightClick(0);
+    m_catcher->choose = "CTI location"_s;
+    rightClick(1);
+    // An opener started by the first menu would have written before this one.
+    QTRY_COMPARE_WITH_TIMEOUT(opened(), m_window->path("two\n"_s), hangTimeout);
+    QCOMPARE(m_catcher->menus().size(), 2);
 }
 
-void TestCameraMenu::cameraWithoutAFileHasNoMenu()
+void TestCameraMenu::menuNeverSearchesForFiles()
 {
-    ConfiguredWindow configured;
-    configured.loadConfig();
-    configured.list({gigE()});
-    configured.show();
-    ModalCatcher catcher;
-    rightClick(configured, 0);
-    QCOMPARE(catcher.menus().size(), 0);
+    m_window->open({gigE});
+    m_window->createFile("cti/a_gige.cti"_s); // After the table's rebuild, which found no file.
+    rightClick(0);
+    QCOMPARE(m_catcher->menus().size(), 0);
 }
 
-void TestCameraMenu::menuNeverSearchesByItself()
+void TestCameraMenu::placesWithoutACameraHaveNoMenu()
 {
-    ConfiguredWindow configured;
-    configured.loadConfig();
-    configured.list({gigE()});
-    configured.show();
-    configured.touch(latin1("cti/a_gige.cti")); // After the rebuild that would have found it.
-    ModalCatcher catcher;
-    rightClick(configured, 0);
-    QCOMPARE(catcher.menus().size(), 0);
-}
-
-void TestCameraMenu::emptySpaceHasNoMenu()
-{
-    ConfiguredWindow configured;
-    prepare(configured);
-    ModalCatcher catcher;
-    const QWidget *viewport = configured.table()->viewport();
-    const QPoint below(viewport->width() / 2, viewport->height() - 2);
-    QVERIFY(!configured.table()->itemAt(below));
-    configured.click(viewport->mapTo(&configured.window, below), Qt::RightButton);
-    const QWidget *header = configured.table()->horizontalHeader();
-    configured.click(header->mapTo(&configured.window, header->rect().center()), Qt::RightButton);
-    QCOMPARE(catcher.menus().size(), 0);
-}
-
-void TestCameraMenu::rowThatTheListLostHasNoMenu()
-{
-    ConfiguredWindow configured;
-    configured.touch(latin1("cti/a_gige.cti"));
-    configured.loadConfig();
-    configured.list({gigE("a"), gigE("b")});
-    configured.show();
-    configured.window.setCameras({gigE("a")}); // Not drawn yet.
-    ModalCatcher catcher;
-    rightClick(configured, 1);
-    QCOMPARE(catcher.menus().size(), 0);
-    rightClick(configured, 0);
-    QCOMPARE(catcher.menus().size(), 1);
-}
-
-void TestCameraMenu::missingOpenerIsIgnored()
-{
-    ConfiguredWindow configured;
-    prepare(configured);
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", configured.root().toLocal8Bit());
-    ModalCatcher catcher;
-    catcher.choose = latin1("CTI location");
-    rightClick(configured, 0);
-    qputenv("PATH", path);
-    QCOMPARE(catcher.menus().size(), 1);
-    QCOMPARE(catcher.boxes().size(), 0);
-    QVERIFY(configured.window.isVisible());
+    m_window->createFile("cti/a_gige.cti"_s);
+    m_window->open({gigE, usb, gigE});
+    for (const QWidget *place : {m_window->table()->viewport(), // Below the last row.
+             static_cast<QWidget *>(m_window->table()->horizontalHeader())}) {
+        const QPoint position = place->rect().bottomLeft() + QPoint(20, -2);
+        m_window->click(place->mapTo(&m_window->window, position), Qt::RightButton);
+    }
+    m_window->window.setCameras({gigE, usb}); // The table still shows three rows.
+    rightClick(2);
+    QCOMPARE(m_catcher->menus().size(), 0);
+    rightClick(1);
+    QCOMPARE(m_catcher->menus().size(), 1);
 }
 
 QTEST_MAIN(TestCameraMenu)

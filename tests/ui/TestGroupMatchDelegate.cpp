@@ -12,41 +12,40 @@ class TestGroupMatchDelegate : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void hoveredRowIsFilled_data();
-    void hoveredRowIsFilled();
-    void withoutAHoveredRowNothingIsFilled();
-    void barIsThreePixelsWideAndAsHighAsTheCell();
-    void barStandsOnlyInTheFirstColumn();
-    void barNeedsATrueValue_data();
-    void barNeedsATrueValue();
-    void barLiesOnTopOfTheHoverTint();
-    void painterIsLeftAsItWas();
+    void hoverTintAndGroupBar_data();
+    void hoverTintAndGroupBar();
+    void hoveredRowMayBeNull();
+    void painterIsRestored();
     void styleNeverSeesTheMouse();
-    void delegateHasNoMetaObjectOfItsOwn();
-
-private:
-    QImage painted(int row, int column, QStyle::State state = QStyle::State_Enabled);
-
-    QStandardItemModel m_model{3, 3};
-    int m_hoveredRow = -1;
 };
 
 namespace {
 
 const QRect cell(10, 20, 60, 30);
-const QRgb hoverFill = qRgb(0x24, 0x34, 0x47);
-const QRgb bar = qRgb(0x64, 0x74, 0x8b);
-const QRgb canvas = qRgb(255, 0, 255);
 
-/// The pixels of that colour, as one rectangle; null when there are none or when they are no full rectangle.
-QRect area(const QImage &image, QRgb color)
+/// Returns the cell painted on a magenta background.
+QImage painted(const int *hoveredRow, int row, int column, QStyle::State state, const QVariant &groupMatch)
+{
+    QStandardItemModel model(3, 3);
+    model.setData(model.index(row, column), groupMatch, GroupMatchDelegate::GroupMatchRole);
+    QImage image(90, 70, QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    QStyleOptionViewItem option;
+    option.rect = cell;
+    option.state = state;
+    QPainter painter(&image);
+    GroupMatchDelegate(hoveredRow, nullptr).paint(&painter, option, model.index(row, column));
+    return image;
+}
+
+/// Returns the rectangle that has exactly this colour; null if there is none.
+QRect area(const QImage &image, const char *color)
 {
     QRect bounds;
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != color)
+            if (image.pixelColor(x, y) != QColor(QLatin1String(color)))
                 continue;
             ++count;
             bounds |= QRect(x, y, 1, 1);
@@ -57,119 +56,60 @@ QRect area(const QImage &image, QRgb color)
 
 } // namespace
 
-void TestGroupMatchDelegate::init()
-{
-    m_model.clear();
-    m_model.setRowCount(3);
-    m_model.setColumnCount(3);
-    m_hoveredRow = -1;
-}
-
-QImage TestGroupMatchDelegate::painted(int row, int column, QStyle::State state)
-{
-    const GroupMatchDelegate delegate(&m_hoveredRow, nullptr);
-    QImage image(90, 70, QImage::Format_RGB32);
-    image.fill(canvas);
-    QStyleOptionViewItem option;
-    option.rect = cell;
-    option.state = state;
-    QPainter painter(&image);
-    delegate.paint(&painter, option, m_model.index(row, column));
-    return image;
-}
-
-void TestGroupMatchDelegate::hoveredRowIsFilled_data()
+void TestGroupMatchDelegate::hoverTintAndGroupBar_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("column");
     QTest::addColumn<QStyle::State>("state");
-    QTest::addColumn<bool>("filled");
+    QTest::addColumn<QVariant>("groupMatch");
+    QTest::addColumn<QRect>("tint");
+    QTest::addColumn<QRect>("bar");
     const QStyle::State plain = QStyle::State_Enabled;
-    QTest::newRow("first column") << 1 << 0 << plain << true;
-    QTest::newRow("second column") << 1 << 1 << plain << true;
-    QTest::newRow("third column") << 1 << 2 << plain << true;
-    QTest::newRow("under the mouse") << 1 << 0 << (plain | QStyle::State_MouseOver) << true;
-    QTest::newRow("another row") << 0 << 0 << plain << false;
-    QTest::newRow("another row under the mouse") << 2 << 0 << (plain | QStyle::State_MouseOver) << false;
-    QTest::newRow("selected") << 1 << 1 << (plain | QStyle::State_Selected) << false;
+    const QStyle::State underMouse = plain | QStyle::State_MouseOver;
+    const QStyle::State selected = plain | QStyle::State_Selected;
+    const QRect none;
+    const QRect bar(10, 20, 3, 30);
+    QTest::newRow("hovered, first column") << 1 << 0 << plain << QVariant() << cell << none;
+    QTest::newRow("hovered, second column") << 1 << 1 << plain << QVariant() << cell << none;
+    QTest::newRow("hovered, third column") << 1 << 2 << plain << QVariant() << cell << none;
+    QTest::newRow("hovered, under the mouse") << 1 << 0 << underMouse << QVariant() << cell << none;
+    QTest::newRow("hovered, selected") << 1 << 1 << selected << QVariant() << none << none;
+    QTest::newRow("other row") << 0 << 0 << plain << QVariant() << none << none;
+    QTest::newRow("other row, under the mouse") << 2 << 0 << underMouse << QVariant() << none << none;
+    QTest::newRow("match") << 0 << 0 << plain << QVariant(true) << none << bar;
+    QTest::newRow("match, second column") << 0 << 1 << plain << QVariant(true) << none << none;
+    QTest::newRow("match, third column") << 0 << 2 << plain << QVariant(true) << none << none;
+    QTest::newRow("no match") << 0 << 0 << plain << QVariant(false) << none << none;
+    QTest::newRow("converts to a match") << 0 << 0 << plain << QVariant(1) << none << bar;
+    QTest::newRow("match, hovered") << 1 << 0 << plain << QVariant(true) << QRect(13, 20, 57, 30) << bar;
 }
 
-void TestGroupMatchDelegate::hoveredRowIsFilled()
+void TestGroupMatchDelegate::hoverTintAndGroupBar()
 {
     QFETCH(int, row);
     QFETCH(int, column);
     QFETCH(QStyle::State, state);
-    QFETCH(bool, filled);
-    m_hoveredRow = 1;
-    QCOMPARE(area(painted(row, column, state), hoverFill), filled ? cell : QRect());
+    QFETCH(QVariant, groupMatch);
+    const int hoveredRow = 1;
+    const QImage image = painted(&hoveredRow, row, column, state, groupMatch);
+    QTEST(area(image, "#243447"), "tint");
+    QTEST(area(image, "#64748b"), "bar");
 }
 
-void TestGroupMatchDelegate::withoutAHoveredRowNothingIsFilled()
+void TestGroupMatchDelegate::hoveredRowMayBeNull()
 {
-    QCOMPARE(area(painted(0, 0), canvas).size(), QSize(90, 70));
-    const GroupMatchDelegate delegate(nullptr, nullptr); // Null is allowed.
+    QCOMPARE(area(painted(nullptr, 0, 0, QStyle::State_Enabled, {}), "#ff00ff"), QRect(0, 0, 90, 70));
+}
+
+void TestGroupMatchDelegate::painterIsRestored()
+{
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), true, GroupMatchDelegate::GroupMatchRole);
     QImage image(90, 70, QImage::Format_RGB32);
-    image.fill(canvas);
-    QStyleOptionViewItem option;
-    option.rect = cell;
-    QPainter painter(&image);
-    delegate.paint(&painter, option, m_model.index(0, 0));
-    QCOMPARE(area(image, canvas).size(), QSize(90, 70));
-}
-
-void TestGroupMatchDelegate::barIsThreePixelsWideAndAsHighAsTheCell()
-{
-    m_model.setData(m_model.index(1, 0), true, GroupMatchDelegate::GroupMatchRole);
-    QCOMPARE(area(painted(1, 0), bar), QRect(10, 20, 3, 30));
-    QCOMPARE(area(painted(0, 0), bar), QRect());
-}
-
-void TestGroupMatchDelegate::barStandsOnlyInTheFirstColumn()
-{
-    for (int column = 1; column < 3; ++column) {
-        m_model.setData(m_model.index(1, column), true, GroupMatchDelegate::GroupMatchRole);
-        QCOMPARE(area(painted(1, column), bar), QRect());
-    }
-}
-
-void TestGroupMatchDelegate::barNeedsATrueValue_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("drawn");
-    QTest::newRow("true") << QVariant(true) << true;
-    QTest::newRow("false") << QVariant(false) << false;
-    QTest::newRow("nothing") << QVariant() << false;
-    QTest::newRow("converts to true") << QVariant(1) << true;
-}
-
-void TestGroupMatchDelegate::barNeedsATrueValue()
-{
-    QFETCH(QVariant, value);
-    QFETCH(bool, drawn);
-    m_model.setData(m_model.index(0, 0), value, GroupMatchDelegate::GroupMatchRole);
-    QCOMPARE(!area(painted(0, 0), bar).isNull(), drawn);
-}
-
-void TestGroupMatchDelegate::barLiesOnTopOfTheHoverTint()
-{
-    m_hoveredRow = 0;
-    m_model.setData(m_model.index(0, 0), true, GroupMatchDelegate::GroupMatchRole);
-    const QImage image = painted(0, 0);
-    QCOMPARE(area(image, bar), QRect(10, 20, 3, 30));
-    QCOMPARE(area(image, hoverFill), QRect(13, 20, 57, 30));
-}
-
-void TestGroupMatchDelegate::painterIsLeftAsItWas()
-{
-    m_model.setData(m_model.index(0, 0), true, GroupMatchDelegate::GroupMatchRole);
-    const GroupMatchDelegate delegate(&m_hoveredRow, nullptr);
-    QImage image(90, 70, QImage::Format_RGB32);
-    QStyleOptionViewItem option;
-    option.rect = cell;
     QPainter painter(&image);
     painter.setPen(Qt::red);
     painter.setBrush(Qt::blue);
-    delegate.paint(&painter, option, m_model.index(0, 0));
+    GroupMatchDelegate(nullptr, nullptr).paint(&painter, {}, model.index(0, 0));
     QCOMPARE(painter.pen(), QPen(Qt::red));
     QCOMPARE(painter.brush(), QBrush(Qt::blue));
 }
@@ -188,16 +128,11 @@ void TestGroupMatchDelegate::styleNeverSeesTheMouse()
         }
         mutable QVector<State> states;
     };
-    auto *style = new RecordingStyle; // The application owns it.
+    auto *style = new RecordingStyle; // Owned by the application.
     QApplication::setStyle(style);
-    painted(0, 0, QStyle::State_Enabled | QStyle::State_MouseOver | QStyle::State_Selected);
-    QCOMPARE(style->states, QVector<QStyle::State>{QStyle::State_Enabled | QStyle::State_Selected});
-}
-
-void TestGroupMatchDelegate::delegateHasNoMetaObjectOfItsOwn()
-{
-    const GroupMatchDelegate delegate(nullptr, nullptr);
-    QCOMPARE(delegate.metaObject(), &QStyledItemDelegate::staticMetaObject);
+    const QStyle::State selected = QStyle::State_Enabled | QStyle::State_Selected;
+    painted(nullptr, 0, 0, selected | QStyle::State_MouseOver, {});
+    QCOMPARE(style->states, QVector<QStyle::State>{selected});
 }
 
 QTEST_MAIN(TestGroupMatchDelegate)

@@ -1,4 +1,4 @@
-// Prints one line for each camera that is connected: model, serial number and ID, with tabs between them.
+// Prints one line for each connected camera: model, serial number and ID, separated by tabs.
 
 #include <CvxCPP/CvxCPP.h>
 
@@ -12,31 +12,30 @@ using namespace CvxCPP;
 
 namespace {
 
-using TextFunction = CvxError (Camera::*)(char *, unsigned &) const;
-
-/// Reads a text with two calls, one for its length and one for the text; empty when the camera has none.
-std::string text(const Camera &camera, TextFunction function)
+/// Reads a string with two calls: the first one returns its size, the second one the string. Returns an empty
+/// string if a call fails.
+template <typename Read>
+std::string readString(const Read &read)
 {
     unsigned size = 0;
-    if ((camera.*function)(nullptr, size) != CvxErrorSuccess)
+    if (read(nullptr, size) != CvxErrorSuccess)
         return {};
     std::string buffer(size, '\0');
-    if ((camera.*function)(buffer.data(), size) != CvxErrorSuccess)
+    if (read(buffer.data(), size) != CvxErrorSuccess)
         return {};
-    buffer.resize(std::strlen(buffer.c_str())); // The length counts the closing NUL.
+    buffer.resize(std::strlen(buffer.c_str())); // The size includes the terminating NUL.
     return buffer;
 }
 
-std::string id(const Camera &camera)
+void print(const Camera &camera)
 {
-    unsigned size = 0;
-    if (camera.GetID(nullptr, size, false) != CvxErrorSuccess)
-        return {};
-    std::string buffer(size, '\0');
-    if (camera.GetID(buffer.data(), size, false) != CvxErrorSuccess)
-        return {};
-    buffer.resize(std::strlen(buffer.c_str()));
-    return buffer;
+    const std::string model
+        = readString([&](char *buffer, unsigned &size) { return camera.GetModel(buffer, size); });
+    const std::string serial
+        = readString([&](char *buffer, unsigned &size) { return camera.GetSerialNumber(buffer, size); });
+    const std::string id
+        = readString([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); });
+    std::printf("%s\t%s\t%s\n", model.c_str(), serial.c_str(), id.c_str());
 }
 
 } // namespace
@@ -45,23 +44,21 @@ int main()
 {
     CvxSystem &system = CvxSystem::GetInstance();
     if (const CvxError error = system.Startup(); error != CvxErrorSuccess) {
-        std::fprintf(stderr, "The camera system does not start: error %d\n", error);
+        std::fprintf(stderr, "The camera system cannot be started: error %d\n", error);
         return 1;
     }
 
     unsigned count = 0;
-    CvxError error = system.GetCameras(nullptr, count); // Searches, which takes a second or more.
+    CvxError error = system.GetCameras(nullptr, count); // Searches for cameras, for up to 3 s.
     std::vector<std::shared_ptr<Camera>> cameras(count);
     if (error == CvxErrorSuccess && count > 0)
         error = system.GetCameras(cameras.data(), count);
     if (error != CvxErrorSuccess)
         std::fprintf(stderr, "The cameras cannot be listed: error %d\n", error);
 
-    cameras.resize(error == CvxErrorSuccess ? count : 0); // One may have gone since the search.
-    for (const auto &camera : cameras) {
-        std::printf("%s\t%s\t%s\n", text(*camera, &Camera::GetModel).c_str(),
-            text(*camera, &Camera::GetSerialNumber).c_str(), id(*camera).c_str());
-    }
+    cameras.resize(error == CvxErrorSuccess ? count : 0); // The second call may return fewer cameras.
+    for (const auto &camera : cameras)
+        print(*camera);
 
     cameras.clear();
     system.Shutdown();

@@ -8,39 +8,56 @@
 
 /// The programming interface of the Corvix camera SDK.
 ///
-/// Everything here but one function is an abstract class: a program takes a single symbol from libCvxCPP.so,
-/// CvxSystem::GetInstance(), and reaches the rest through virtual calls.
+/// Every class is abstract. A program imports one symbol from the library, CvxSystem::GetInstance(), and
+/// calls everything else through virtual functions.
 ///
-/// Errors: every function returns a CvxError; only 0 is success. Nothing throws.
+/// Errors: every function returns a CvxError; only CvxErrorSuccess (0) is success. A function that fails does
+/// not change its output parameters, except for the content of a string buffer. No function throws, except
+/// that GetInstance() and Feature::GetValue(std::string &) may throw std::bad_alloc.
 ///
-/// Text (all functions that take `char *` and `unsigned &`): UTF-8, read with two calls. With a null buffer
-/// the function stores the needed length in `size`; with a buffer, `size` is its capacity in bytes and
-/// becomes the number of bytes written. The length counts the closing NUL, so an empty text has length 1. A
-/// buffer that is too small gives CvxErrorBufferTooSmall and leaves its content undefined.
+/// Strings (every function with `char *` and `unsigned &size`) are UTF-8 and are read with two calls. With a
+/// null buffer, the function stores the required size in `size`. With a buffer, `size` is its capacity; the
+/// function writes the string and stores the number of bytes written. Sizes are in bytes and include the
+/// terminating NUL, so an empty string has size 1. If the buffer is too small, the function returns
+/// CvxErrorBufferTooSmall and the content of the buffer is undefined.
 ///
-/// Threads: every function may be called from any thread at any time after Startup(). Objects obtained from
-/// the system stay valid for as long as they are held, but answer only while the system runs.
+/// Threads: every function may be called from any thread at any time, also from several threads at once.
+/// Functions return immediately unless their comment says how long they may block.
+///
+/// Lifetime: objects stay valid for as long as the program holds them. They return CvxErrorNotStarted once
+/// the system that created them has been shut down, also after a new Startup(). A process created by fork()
+/// must not use the system of its parent.
+
+/// The version of this header, as three numbers and as one that compares: 1.2.3 is 10203. The library's
+/// SONAME contains the major version: programs built against one major version cannot load another.
+#define CVXCPP_VERSION_MAJOR 1
+#define CVXCPP_VERSION_MINOR 0
+#define CVXCPP_VERSION_PATCH 0
+#define CVXCPP_VERSION (CVXCPP_VERSION_MAJOR * 10000 + CVXCPP_VERSION_MINOR * 100 + CVXCPP_VERSION_PATCH)
+
 #define CVXCPP_API __attribute__((visibility("default")))
 
 namespace CvxCPP {
 
-/// 0 is success, everything else a failure. The library's own codes are negative:
+/// The result of a call: 0 is success, the library's own error codes are negative.
 using CvxError = std::int32_t;
 
 constexpr CvxError CvxErrorSuccess = 0;
-constexpr CvxError CvxErrorFailed = -1; ///< Unspecified failure, for example out of memory.
-constexpr CvxError CvxErrorNotStarted = -2; ///< Startup() has not succeeded, or Shutdown() came since.
-constexpr CvxError CvxErrorAlreadyStarted = -3; ///< Startup() while the system runs.
-constexpr CvxError CvxErrorInvalidParameter = -4; ///< A null pointer or a value out of range.
-constexpr CvxError CvxErrorBufferTooSmall = -5; ///< A text does not fit the buffer given.
-constexpr CvxError CvxErrorNotFound = -6; ///< No such feature.
-constexpr CvxError CvxErrorNotAvailable
-    = -7; ///< The feature has no value now, for example no device is there.
-constexpr CvxError CvxErrorWrongType = -8; ///< The feature is of another type, or may not be written.
-constexpr CvxError CvxErrorTimeout = -9; ///< No answer in time.
-constexpr CvxError CvxErrorHostMissing = -10; ///< CvxProducerHost is missing or may not be executed.
+/// The call failed for lack of memory, threads or file descriptors, or Shutdown() was called by an observer.
+constexpr CvxError CvxErrorFailed = -1;
+/// Startup() has not succeeded, Shutdown() was called since, or the system has stopped for lack of memory. In
+/// the last case, call Shutdown() and then Startup().
+constexpr CvxError CvxErrorNotStarted = -2;
+constexpr CvxError CvxErrorAlreadyStarted = -3; ///< Startup() was called while the system runs.
+constexpr CvxError CvxErrorInvalidParameter = -4; ///< A pointer is null, or a value is out of range.
+constexpr CvxError CvxErrorBufferTooSmall = -5; ///< The string does not fit into the buffer.
+constexpr CvxError CvxErrorNotFound = -6; ///< There is no feature of this name.
+constexpr CvxError CvxErrorNotAvailable = -7; ///< There is no value now, for example because of no device.
+constexpr CvxError CvxErrorWrongType = -8; ///< The feature does not support this operation.
+constexpr CvxError CvxErrorTimeout = -9; ///< The producer has not answered yet.
+constexpr CvxError CvxErrorHostMissing = -10; ///< CvxProducerHost is missing or not executable.
 
-/// The technology a camera is attached by.
+/// The technology that connects a camera.
 enum CvxTransportLayerType : std::uint32_t
 {
     CvxTransportLayerUnknown = 0,
@@ -57,82 +74,115 @@ enum CvxTransportLayerType : std::uint32_t
     CvxTransportLayerMixed = 11
 };
 
-/// Why a list observer is called.
+/// Why an observer is called.
 enum UpdateTriggerType : std::uint32_t
 {
     UpdateTriggerPluggedIn = 0,
     UpdateTriggerPluggedOut = 1
 };
 
-/// One feature of a module: a command, an integer or a text. Calls that do not suit its type give
-/// CvxErrorWrongType.
+/// One feature of an interface: a command, an integer or a string. Every function returns CvxErrorWrongType
+/// if the feature is of another type, and otherwise CvxErrorNotStarted while the system does not run.
 class CVXCPP_API Feature
 {
 public:
     virtual ~Feature() = default;
 
-    /// Executes a command and returns when it is done, after 3 s, or at once while the producer has an answer
-    /// overdue. What the last search has found stays then; CvxErrorTimeout when there is nothing of it.
+    /// Executes a command. "DeviceUpdateList" searches the interface, unless a search of it ended less than
+    /// 1 s ago, and replaces the list of devices that the other features refer to.
+    ///
+    /// Blocks for at most 3 s; returns immediately if the producer already owes an answer for longer than
+    /// that. A producer that does not answer in time leaves the result of the previous search valid: the
+    /// command then succeeds with that result. Returns CvxErrorTimeout if there is no previous result,
+    /// CvxErrorNotAvailable if the interface no longer exists, or CvxErrorFailed for lack of memory. The list
+    /// of devices does not change if the command fails.
     virtual CvxError RunCommand() = 0;
 
-    /// Gives the smallest and the largest value of an integer, both inclusive.
+    /// Stores the smallest and the largest value of an integer, both inclusive. Returns CvxErrorNotAvailable
+    /// if the interface has no device.
     virtual CvxError GetRange(long &min, long &max) const = 0;
 
-    /// Sets an integer; CvxErrorInvalidParameter when it is out of range.
+    /// Sets an integer. Returns CvxErrorInvalidParameter if the value is out of range, or
+    /// CvxErrorNotAvailable if the interface has no device.
     virtual CvxError SetValue(long value) = 0;
 
-    /// Reads a text with two calls, as described at the top.
+    /// Reads a string with two calls, as described at the top. Returns CvxErrorNotAvailable if the interface
+    /// has no device, or CvxErrorBufferTooSmall. An integer cannot be read: CvxErrorWrongType.
     virtual CvxError GetValue(char *buffer, unsigned &size) const = 0;
 
-    /// Reads a text in one go; `value` stays as it was when the read fails. May throw std::bad_alloc.
+    /// Reads a string with one call. Returns the same errors as the function above; CvxErrorBufferTooSmall
+    /// then means that the value has grown during the call, because another thread has selected another
+    /// device. May throw std::bad_alloc.
     CvxError GetValue(std::string &value) const;
 };
 
-/// Something that has features by name.
+/// An object that has features.
 class CVXCPP_API FeatureContainer
 {
 public:
     virtual ~FeatureContainer() = default;
 
-    /// Finds a feature by its SFNC name; CvxErrorNotFound when the module has none of that name.
+    /// Stores the feature of this name (case-sensitive) in `feature`. The feature keeps its container alive.
+    /// Returns CvxErrorInvalidParameter if `name` is null, CvxErrorNotStarted while the system does not run,
+    /// or CvxErrorNotFound if there is no such feature.
     virtual CvxError GetFeatureByName(const char *name, std::shared_ptr<Feature> &feature) = 0;
 };
 
-/// A transport-layer interface, for example one network card or one USB host. Its features are those of the
-/// GenTL interface module's device enumeration: "DeviceUpdateList" (command), "DeviceSelector" (integer, the
-/// index of a device), "DeviceID" and "DeviceVendorName" (texts of the selected device).
+/// A GenTL interface, for example one network interface or one USB host controller. Its features are
+/// "DeviceUpdateList" (command), "DeviceSelector" (integer: index of the selected device), "DeviceID" and
+/// "DeviceVendorName" (strings: ID and vendor of the selected device).
+///
+/// The list of devices is a snapshot: only "DeviceUpdateList" changes it, so an index means the same device
+/// until then. If the list becomes shorter than the selected index, its last device is selected. The list and
+/// the selection belong to the object: threads that use them at the same time have to synchronise themselves.
 class CVXCPP_API Interface : public FeatureContainer
 { };
 
-/// One camera, as it was when it was listed.
+/// One camera as it was when it was found; an object never changes. Every function returns CvxErrorNotStarted
+/// while the system does not run; those that read a string may also return CvxErrorBufferTooSmall.
 class CVXCPP_API Camera
 {
 public:
     virtual ~Camera() = default;
 
-    /// Reads the camera's ID: the plain one is what its interface calls it; the extended one (the name of the
-    /// producer's file, interface ID and device ID joined by "/") is unique as long as no two files in
-    /// different directories have the same name.
+    /// Reads the camera's ID. The plain ID is the device ID that the producer reports; it is unique on its
+    /// interface. The extended ID consists of the name of the producer's file, the interface ID and the
+    /// device ID, joined by "/"; it is unique unless two producers in different directories have the same
+    /// file name. Reading the extended ID returns CvxErrorFailed if memory is exhausted.
     virtual CvxError GetID(char *buffer, unsigned &size, bool extended) const = 0;
 
-    /// Reads the model name; empty when the producer tells none.
+    /// Reads the model name; empty if the producer reports none.
     virtual CvxError GetModel(char *buffer, unsigned &size) const = 0;
 
-    /// Reads the name meant for people.
+    /// Reads the display name; empty if the producer reports none.
     virtual CvxError GetName(char *buffer, unsigned &size) const = 0;
 
-    /// Reads the serial number; empty when the producer tells none.
+    /// Reads the serial number; empty if the producer reports none.
     virtual CvxError GetSerialNumber(char *buffer, unsigned &size) const = 0;
 
-    /// Gives the technology the camera is attached by.
+    /// Stores the technology that connects the camera; CvxTransportLayerUnknown if the producer reports a
+    /// technology that is not in the list above. Returns CvxErrorFailed if memory is exhausted.
     virtual CvxError GetInterfaceType(CvxTransportLayerType &type) const = 0;
 
-    /// Gives the interface the camera is attached to.
+    /// Stores the interface that the camera is connected to.
     virtual CvxError GetInterface(std::shared_ptr<Interface> &iface) const = 0;
 };
 
-/// Told of every camera that comes or goes; one of which anything that Camera tells changes, goes and comes.
-/// Called on a thread of the system, which holds no lock meanwhile.
+/// Is called for every camera that appears or disappears.
+///
+/// What is reported: every camera that was not in the first result of GetCameras(), or every camera if the
+/// program has not called GetCameras() within 2 s of Startup(). A camera whose data changes is reported as
+/// plugged out, then as plugged in. A change is usually noticed within 2 s, the interval at which producers
+/// are polled. Calls are delayed by up to 0.5 s while the program calls GetCameras().
+///
+/// Threads: all observers are called on one thread of the library, one after the other, in the order of their
+/// registration. Cameras that disappear are reported first, then interfaces that disappear, new interfaces
+/// and new cameras. No lock is held during a call, so an observer may block; it then delays the later calls
+/// and Shutdown(). It must not wait for a thread that calls Shutdown().
+///
+/// An observer may call every function of this interface, with two exceptions: Startup() returns
+/// CvxErrorAlreadyStarted and Shutdown() returns CvxErrorFailed. An exception that an observer throws is
+/// caught and ignored: the other observers are called as usual.
 class CVXCPP_API ICameraListObserver
 {
 public:
@@ -140,8 +190,8 @@ public:
     virtual void CameraListChanged(std::shared_ptr<Camera> camera, UpdateTriggerType reason) = 0;
 };
 
-/// Told of every interface that comes or goes. Called on a thread of the system, which holds no lock
-/// meanwhile.
+/// Is called for every interface that appears or disappears, with or without cameras, under the same rules as
+/// ICameraListObserver. Producers are asked for new interfaces every 10 s.
 class CVXCPP_API IInterfaceListObserver
 {
 public:
@@ -153,30 +203,44 @@ public:
 class CVXCPP_API CvxSystem
 {
 public:
-    /// The one system object; it exists for as long as the process does.
+    /// Returns the only system object. It is never destroyed; the system is shut down when the process exits.
     static CvxSystem &GetInstance();
 
-    /// Brings the system up: loads the transport-layer producers and starts watching for cameras. Waits for
-    /// no producer. CvxErrorAlreadyStarted when the system runs, CvxErrorHostMissing when the program that
-    /// loads producers is missing. A system without producers starts all the same.
+    /// Starts the system: begins to load the GenTL producers and to search for cameras. Does not wait for any
+    /// producer; blocks only while another thread is in Startup() or Shutdown(). A system without producers
+    /// starts as well. Returns CvxErrorAlreadyStarted if the system runs or an observer makes the call,
+    /// CvxErrorHostMissing if the program that loads producers is missing or not executable, or
+    /// CvxErrorFailed for lack of memory, threads or file descriptors.
     virtual CvxError Startup() = 0;
 
-    /// Ends the system, drops all observers and returns when no callback runs any more, at the latest after
-    /// about 2 s. May be called at any time, also after a failed or without a start; but not from a callback.
+    /// Stops the system and releases all observers. Succeeds also if the system does not run. Returns
+    /// CvxErrorFailed, without any effect, if an observer makes the call. Blocks until no observer is being
+    /// called any more and every producer has been closed or, after about 2 s, killed. Calls that are blocked
+    /// in other threads return CvxErrorNotStarted.
     virtual CvxError Shutdown() = 0;
 
-    /// Adds an observer; it is called until Shutdown(). CvxErrorInvalidParameter for a null pointer,
-    /// CvxErrorNotStarted when the system does not run.
+    /// Registers an observer, which the system keeps until Shutdown(). An observer that is registered twice
+    /// is called twice. Returns CvxErrorInvalidParameter if `observer` is null, CvxErrorNotStarted if the
+    /// system does not run, or CvxErrorFailed for lack of memory.
     virtual CvxError RegisterCameraListObserver(const std::shared_ptr<ICameraListObserver> &observer) = 0;
 
-    /// As above, for interfaces.
+    /// Registers an observer for interfaces, in the same way.
     virtual CvxError RegisterInterfaceListObserver(const std::shared_ptr<IInterfaceListObserver> &observer)
         = 0;
 
-    /// Lists the cameras, with two calls. With a null array: searches, unless a search ended less than 1 s
-    /// ago, and stores the number of cameras in `count`; it waits for at most 3 s, and what a slower producer
-    /// finds is announced. With an array of `count` elements: fills it with the cameras that the search
-    /// found, at most `count` of them, and stores the number written.
+    /// Lists the cameras, with two calls.
+    ///
+    /// With a null array, searches for cameras and stores their number in `count`. A search that ended less
+    /// than 1 s ago is used again. Blocks for at most 3 s. A producer that has not answered by then
+    /// contributes the cameras of its previous answer; observers report what it finds later, and the next
+    /// calls do not wait for it until it answers in time again. A producer contributes at most 1,000 cameras.
+    ///
+    /// With an array of `count` elements, copies the cameras of the last search into it, as many as fit, and
+    /// stores the number copied. Does not search, unless there was no search since Startup(). `count` is 0 if
+    /// there is no camera. The search may be one of another thread: threads that list cameras at the same
+    /// time may get fewer cameras than their own search has counted.
+    ///
+    /// Returns CvxErrorNotStarted if the system does not run, or CvxErrorFailed for lack of memory.
     virtual CvxError GetCameras(std::shared_ptr<Camera> *cameras, unsigned &count) = 0;
 
 protected:
@@ -197,7 +261,7 @@ inline CvxError Feature::GetValue(std::string &value) const
         error = GetValue(buffer.data(), size);
     if (error != CvxErrorSuccess)
         return error;
-    buffer.resize(std::strlen(buffer.c_str())); // The length counts a NUL, the value does not.
+    buffer.resize(std::strlen(buffer.c_str())); // The size includes the NUL, the value does not.
     value = std::move(buffer);
     return CvxErrorSuccess;
 }

@@ -3,6 +3,7 @@
 #include "sdk/gentl/GenTL.h"
 
 #include <chrono>
+#include <condition_variable>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <new>
 #include <sstream>
 #include <stdexcept>
@@ -24,14 +26,14 @@ namespace {
         pause();
 }
 
-/// A child that keeps every descriptor.
+/// Starts a child that keeps every descriptor.
 void forkChild()
 {
     if (fork() == 0)
         hang();
 }
 
-/// A grandchild in a session of its own, as a daemon has it.
+/// Starts a grandchild in its own session, like a daemon.
 void forkDaemon()
 {
     if (fork() == 0) {
@@ -41,19 +43,19 @@ void forkDaemon()
     }
 }
 
-/// Reserves and never touches: what ends it is a limit, and not the memory of the machine.
+/// Reserves memory without touching it, so that a limit ends it and not the memory of the machine.
 void allocateWithoutEnd()
 {
-    constexpr std::size_t BlockSize = 64U << 20;
-    constexpr std::size_t EnoughBytes = std::size_t(10) << 30;
-    for (std::size_t bytes = 0; bytes < EnoughBytes; bytes += BlockSize) {
-        if (!std::malloc(BlockSize))
+    constexpr std::size_t blockSize = 64U << 20;
+    constexpr std::size_t maxBytes = std::size_t(10) << 30;
+    for (std::size_t bytes = 0; bytes < maxBytes; bytes += blockSize) {
+        if (!std::malloc(blockSize))
             throw std::bad_alloc();
     }
-    throw std::runtime_error("was given more memory than anybody needs");
+    throw std::runtime_error("there is no limit of memory");
 }
 
-/// Threads that nobody ends, and that are in the driver's code when it is closed.
+/// Starts threads that still run in the code of the producer when it is closed.
 void startThreads()
 {
     for (int i = 0; i < 4; ++i)
@@ -62,18 +64,10 @@ void startThreads()
 
 void throwInThread()
 {
-    std::thread([] { throw std::runtime_error("thrown in a thread of the driver"); }).join();
+    std::thread([] { throw std::runtime_error("thrown in a thread of the producer"); }).join();
 }
 
-void throwLater(int time)
-{
-    std::thread([time] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(time));
-        throw std::runtime_error("licence server lost");
-    }).detach();
-}
-
-/// Of every signal that can be handled, to something that a host would not want.
+/// Changes the handling of every signal, in a way that harms a host.
 void changeSignalHandlers()
 {
     for (int number = 1; number < NSIG; ++number)
@@ -86,14 +80,27 @@ void closeDescriptors()
         close(descriptor);
 }
 
-/// As a driver does that asks whoever sits there.
+/// Asks the user on the terminal, as some producers do.
 void readTerminal()
 {
     const int terminal = open("/dev/tty", O_RDONLY | O_CLOEXEC);
     char answer = 0;
     if (terminal < 0 || read(terminal, &answer, 1) >= 0)
-        throw std::runtime_error("there is no terminal, or it is ours");
+        throw std::runtime_error("there is no terminal, or it could be read");
     close(terminal);
+}
+
+/// Waits until so many calls are here at the same time. Returns an error if they do not come.
+int meet(int count)
+{
+    static std::mutex mutex;
+    static std::condition_variable changed;
+    static int arrived = 0;
+    std::unique_lock lock(mutex);
+    ++arrived;
+    changed.notify_all();
+    const bool isMet = changed.wait_for(lock, std::chrono::seconds(8), [&] { return arrived >= count; });
+    return isMet ? continueCall : int(GenTL::GC_ERR_ERROR);
 }
 
 void printMegabyte()
@@ -108,10 +115,9 @@ int perform(const std::string &action)
     static const std::map<std::string, std::function<void(int)>> verbs{
         {"crash", [](int) { raise(SIGSEGV); }},
         {"abort", [](int) { std::abort(); }},
-        {"throw", [](int) { throw std::runtime_error("thrown by the driver"); }},
+        {"throw", [](int) { throw std::runtime_error("thrown by the producer"); }},
         {"throw-number", [](int number) { throw number; }},
         {"throw-in-thread", [](int) { throwInThread(); }},
-        {"throw-later", throwLater},
         {"terminate", [](int) { std::terminate(); }},
         {"exit", [](int code) { std::exit(code); }},
         {"hang", [](int) { hang(); }},
@@ -126,25 +132,22 @@ int perform(const std::string &action)
         {"allocate", [](int) { allocateWithoutEnd(); }},
         {"threads", [](int) { startThreads(); }},
         {"signals", [](int) { changeSignalHandlers(); }},
-        {"ignore-and-hang",
-            [](int) {
-                changeSignalHandlers();
-                hang();
-            }},
         {"print", [](int) { printMegabyte(); }},
         {"ask", [](int) { readTerminal(); }},
         {"close", [](int) { closeDescriptors(); }},
     };
-    std::istringstream words(action);
+    std::istringstream fields(action);
     std::string verb;
     int argument = 0;
-    words >> verb >> argument;
+    fields >> verb >> argument;
     if (verb == "error")
         return argument;
+    if (verb == "meet")
+        return meet(argument);
     if (verb == "untouched")
         return GenTL::GC_ERR_SUCCESS;
     const auto found = verbs.find(verb);
     if (found != verbs.end())
         found->second(argument);
-    return Continue;
+    return continueCall;
 }

@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// What perform() returns when the call is to go on as usual; everything else it returns at once.
-constexpr int Continue = 1'000'000;
+/// Result of perform() if the call continues as usual. The caller returns every other result at once.
+constexpr int continueCall = 1'000'000;
 
-/// Does what a fault of a script says; see TestProducer.cpp for the actions.
+/// Performs the action of a script's fault; TestProducer.cpp lists the actions.
 int perform(const std::string &action);

@@ -1,22 +1,20 @@
-// A GenTL producer for tests, which does what a script beside it says: "name.script" for "name.cti".
-//
-// The script is read again at every update call and at every call that opens or closes. A line each:
+// A GenTL producer for tests, which follows the script "name.script" beside "name.cti". Every update call and
+// every call that opens or closes something reads the script again. One line each:
 //   interface ID|NAME|TYPE
-//   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   missing fields at the end are refused with -1003
-//   interfaces NUMBER, devices INTERFACE|NUMBER         so many of them, "net1" or "D1" and so on
-//   changing INTERFACE                                  a device whose ID is another one at every update
-//   quiet                                               no log, no second reading: many take long otherwise
-//   fault FUNCTION ACTION [ARGUMENT]                    "load" stands for the constructor of the library
-// Actions of any function: error CODE, crash, abort, throw, throw-number, throw-in-thread, throw-later
-// MILLISECONDS, terminate, exit CODE, hang, untouched, slow MILLISECONDS, fork, fork-and-die, daemon,
-// allocate, threads, signals, ignore-and-hang, print, ask (on the terminal), close.
-// Lies of those that give a text: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with the code
-// of the standard's version 1.3), late-error CODE (of the second call), number (in place of a text), size
-// BYTES ("size -1" says one less than there is and heeds no capacity).
-// Of the update functions: search MILLISECONDS, which runs out of time when it is given less; for the devices
-// of one interface as a fault of IFUpdateDeviceList:ID. TLGetInterfaceID:ID and IFGetDeviceID:ID are alike.
-// Of TLOpenInterface: in-use, which opens it all the same. Of those that count: more. In texts, \xHH stands
-// for a byte. The calls are written to "name.log", each with its process.
+//   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   Missing fields at the end fail with -1003.
+//   interfaces NUMBER, devices INTERFACE|NUMBER         So many of them: "net1" or "D1" and so on.
+//   quiet                                               No log, and the script is not read again: it is
+//   faster. fault FUNCTION ACTION [ARGUMENT]                    "load" is the constructor of the library.
+// Actions of every function: error CODE, crash, abort, throw, throw-number, throw-in-thread, terminate, exit
+// CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate, threads,
+// signals, print, ask (on the terminal), close. Faults of functions that return a string: no-nul, long BYTES,
+// grow (between the two calls), grow-1.3 (with the error code of GenTL 1.3), late-error CODE (of the second
+// call), number (instead of a string), size BYTES
+// ("size -1" reports one byte less than the string has, and ignores the capacity).
+// Faults of the update functions: search MILLISECONDS, which times out if it gets less time.
+// IFUpdateDeviceList:ID is the update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
+// TLOpenInterface: in-use, which opens the interface all the same. Functions that count: more. In strings,
+// \xHH is a byte. "name.log" receives every call with its process.
 
 #include "sdk/gentl/GenTL.h"
 #include "tests/sdk/producer/Misbehaviour.h"
@@ -37,44 +35,46 @@
 #include <string>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using namespace GenTL;
 
-struct Entry
-{
-    std::vector<std::string> fields;
-    const std::string &id() const { return fields.front(); }
-};
+using Fields = std::vector<std::string>; // The first one is the ID.
 
 struct Interface
 {
     std::string id;
-    std::vector<Entry> devices; // As of the last update.
-    std::map<std::string, std::size_t> places; // Of the devices, by ID.
+    std::vector<Fields> devices; // Since the last update.
+    std::map<std::string, std::size_t> places; // Index of each device, by ID.
     bool isUpdated = false;
     std::atomic<bool> isUpdating{false};
 };
 
 struct Script
 {
-    std::vector<Entry> interfaces;
-    std::multimap<std::string, Entry> devices; // By interface.
-    std::map<std::string, std::string> faults; // Function, action.
+    std::vector<Fields> interfaces;
+    std::multimap<std::string, Fields> devices; // By interface.
+    std::map<std::string, std::string> faults; // Actions by function.
     bool isQuiet = false;
 };
 
-std::mutex mutex; // Guards all of these.
+struct Fault // An action with its argument.
+{
+    std::string verb;
+    long long argument = 0;
+};
+
+std::mutex mutex; // Guards the variables below.
 Script script;
-std::vector<Entry> interfaces; // As of the last update.
-std::map<std::string, Interface *> opened; // Never deleted: tests look for uses after the close.
+std::vector<Fields> interfaces; // Since the last update.
+std::map<std::string, Interface *> opened; // Never deleted, to detect uses after the close.
 bool isInitialised = false;
 bool isOpen = false;
 thread_local int lastCode = 0;
-thread_local std::string lie; // Of the call that is being made.
-int updates = 0; // Of all interfaces.
+thread_local std::string currentFault; // Fault of the current call.
 int systemHandle = 0;
 
 const std::string &basePath()
@@ -99,55 +99,37 @@ std::string unescaped(const std::string &text)
     return result;
 }
 
-std::vector<std::string> split(const std::string &text)
+Fields split(const std::string &text)
 {
-    std::vector<std::string> fields;
-    std::size_t start = 0;
-    for (std::size_t end = text.find('|'); end != std::string::npos; end = text.find('|', start)) {
-        fields.push_back(unescaped(text.substr(start, end - start)));
-        start = end + 1;
-    }
-    fields.push_back(unescaped(text.substr(start)));
+    Fields fields;
+    std::istringstream stream(text);
+    for (std::string field; std::getline(stream, field, '|');)
+        fields.push_back(unescaped(field));
+    if (text.empty() || text.back() == '|')
+        fields.emplace_back(); // getline() does not return a last field that is empty.
     return fields;
-}
-
-void addDevice(const std::string &interface, std::vector<std::string> fields)
-{
-    script.devices.emplace(interface, Entry{std::move(fields)});
-}
-
-void addDevices(const std::string &interface, int count)
-{
-    for (int i = 1; i <= count; ++i) {
-        const std::string number = std::to_string(i);
-        addDevice(interface, {'D' + number, "Maker", "Model " + number, "SN" + number, "Name", "GEV"});
-    }
 }
 
 void readLine(const std::string &line)
 {
-    const std::string word = line.substr(0, line.find(' '));
-    const std::string rest = line.substr(std::min(word.size() + 1, line.size()));
-    auto fields = split(rest);
-    if (word == "interface") {
-        script.interfaces.push_back({fields});
-    } else if (word == "interfaces") {
-        for (int i = 1; i <= std::stoi(rest); ++i)
-            script.interfaces.push_back({{"net" + std::to_string(i)}});
-    } else if (word == "device") {
-        const std::string interface = fields.front();
-        fields.erase(fields.begin());
-        addDevice(interface, fields);
-    } else if (word == "devices") {
-        addDevices(fields.at(0), std::stoi(fields.at(1)));
-    } else if (word == "changing") {
-        addDevice(rest, {'D' + std::to_string(++updates), "Maker", "Model", "SN", "Name", "GEV"});
-    } else if (word == "quiet") {
-        script.isQuiet = true;
-    } else if (word == "fault") {
-        const std::size_t space = rest.find(' ');
-        script.faults[rest.substr(0, space)] = rest.substr(space + 1);
+    const std::string keyword = line.substr(0, line.find(' '));
+    const std::string rest = line.substr(std::min(keyword.size() + 1, line.size()));
+    const Fields fields = split(rest);
+    if (keyword == "interface")
+        script.interfaces.push_back(fields);
+    for (int i = 1; keyword == "interfaces" && i <= std::stoi(rest); ++i)
+        script.interfaces.push_back({"net" + std::to_string(i)});
+    if (keyword == "device")
+        script.devices.emplace(fields[0], Fields(fields.begin() + 1, fields.end()));
+    for (int i = 1; keyword == "devices" && i <= std::stoi(fields.at(1)); ++i) {
+        const std::string number = std::to_string(i);
+        script.devices.emplace(
+            fields[0], Fields{'D' + number, "Vendor", "Model " + number, "SN" + number, "Name", "GEV"});
     }
+    if (keyword == "quiet")
+        script.isQuiet = true;
+    if (keyword == "fault")
+        script.faults[rest.substr(0, rest.find(' '))] = rest.substr(rest.find(' ') + 1);
 }
 
 void readScript()
@@ -181,103 +163,110 @@ std::string actionFor(const std::string &function)
     return found == script.faults.end() ? std::string() : found->second;
 }
 
-/// Logs the call, then does what the script wants of it.
+Fault parsed(const std::string &action)
+{
+    Fault fault;
+    std::istringstream(action) >> fault.verb >> fault.argument;
+    return fault;
+}
+
+/// Logs the call, then performs the fault of the script.
 int enter(const std::string &function, const std::string &detail = {})
 {
     log(detail.empty() ? function : function + ' ' + detail);
-    lie = actionFor(function);
-    const int code = perform(lie);
-    lastCode = code == Continue ? 0 : code;
+    currentFault = actionFor(function);
+    const int code = perform(currentFault);
+    lastCode = code == continueCall ? 0 : code;
     return code;
 }
 
-/// The value, or the text that the script wants in its place.
-std::string stretched(
-    const std::string &value, const std::string &verb, long long argument, const void *buffer)
+/// Performs a call: logs it, and runs the body with the mutex held unless a fault ends the call.
+template <typename Body>
+int call(const std::string &function, const std::string &detail, const Body &body)
 {
-    if (verb == "long")
-        return std::string(static_cast<std::size_t>(argument), 'x');
-    if ((verb == "grow" || verb == "grow-1.3") && buffer)
-        return value + std::string(1000, 'x');
-    return value;
+    if (const int code = enter(function, detail); code != continueCall)
+        return code;
+    const std::lock_guard lock(mutex);
+    return body();
 }
 
-int give(const std::string &honest, void *buffer, std::size_t *size)
+int returnString(const std::string &original, void *buffer, std::size_t *size)
 {
-    std::istringstream words(lie);
-    std::string verb;
-    long long argument = 0;
-    words >> verb >> argument;
-    const std::string value = stretched(honest, verb, argument, buffer);
-    const std::size_t needed = value.size() + (verb == "no-nul" ? 0 : 1);
-    if (buffer && verb == "late-error")
-        return static_cast<int>(argument);
-    if (buffer && *size < needed && verb != "size")
-        return verb == "grow-1.3" ? GC_ERR_INVALID_PARAMETER : GC_ERR_BUFFER_TOO_SMALL;
+    const Fault fault = parsed(currentFault);
+    std::string value = original;
+    if (fault.verb == "long")
+        value = std::string(static_cast<std::size_t>(fault.argument), 'x');
+    if (fault.verb == "grow" && buffer)
+        value += std::string(1000, 'x');
+    const std::size_t needed = value.size() + (fault.verb == "no-nul" ? 0 : 1);
+    if (buffer && fault.verb == "late-error")
+        return static_cast<int>(fault.argument);
+    if (buffer && *size < needed && fault.verb != "size")
+        return GC_ERR_BUFFER_TOO_SMALL;
     if (buffer)
         std::memcpy(buffer, value.c_str(), needed);
-    *size = verb != "size" ? needed : argument < 0 ? needed - 1 : static_cast<std::size_t>(argument);
+    *size = needed;
+    if (fault.verb == "size")
+        *size = fault.argument < 0 ? needed - 1 : static_cast<std::size_t>(fault.argument);
     return GC_ERR_SUCCESS;
+}
+
+/// Returns a field of a record; GC_ERR_NOT_IMPLEMENTED if the script does not have it.
+int returnInfo(const Fields &fields, std::size_t place, INFO_DATATYPE *type, void *buffer, std::size_t *size)
+{
+    if (place >= fields.size())
+        return GC_ERR_NOT_IMPLEMENTED;
+    *type = currentFault == "number" ? INFO_DATATYPE_INT64 : INFO_DATATYPE_STRING;
+    return returnString(fields[place], buffer, size);
 }
 
 std::uint32_t counted(std::size_t number)
 {
-    return static_cast<std::uint32_t>(number + (lie == "more" ? 3 : 0));
+    return static_cast<std::uint32_t>(number + (currentFault == "more" ? 3 : 0));
 }
 
-/// As it was seen: a consumer must never probe.
+/// Crashes, as a known producer does: a consumer must never probe for the end of a list.
 GC_ERROR refuseIndex()
 {
-    if (actionFor("IFGetNumDevices") != "more" && actionFor("TLGetNumInterfaces") != "more")
-        raise(SIGSEGV);
-    return GC_ERR_INVALID_INDEX;
+    for (const char *function : {"IFGetNumDevices", "TLGetNumInterfaces"}) {
+        const auto fault = script.faults.find(function);
+        if (fault != script.faults.end() && fault->second == "more")
+            return GC_ERR_INVALID_INDEX;
+    }
+    std::abort();
 }
 
-int giveText(const std::string &value, INFO_DATATYPE *type, void *buffer, std::size_t *size)
+/// Returns the ID at an index of a list, unless the script has a fault for that ID.
+int returnId(
+    const char *function, const std::vector<Fields> &list, std::uint32_t index, char *id, std::size_t *size)
 {
-    *type = lie == "number" ? INFO_DATATYPE_INT64 : INFO_DATATYPE_STRING;
-    return give(value, buffer, size);
+    if (index >= list.size())
+        return refuseIndex();
+    const auto fault = script.faults.find(std::string(function) + ':' + list[index][0]);
+    const int code = fault == script.faults.end() ? continueCall : perform(fault->second);
+    return code != continueCall ? code : returnString(list[index][0], id, size);
 }
 
-/// What comes of a search that takes as long as the script says.
+/// Searches for as long as the script says. Returns GC_ERR_TIMEOUT if that takes too long.
 int search(const std::string &action, std::uint64_t timeout)
 {
-    std::istringstream words(action);
-    std::string verb;
-    std::uint64_t needed = 0;
-    words >> verb >> needed;
-    if (verb != "search")
-        return Continue;
+    const Fault fault = parsed(action);
+    if (fault.verb != "search")
+        return continueCall;
+    const auto needed = static_cast<std::uint64_t>(fault.argument);
     std::this_thread::sleep_for(std::chrono::milliseconds(std::min(needed, timeout)));
-    return needed > timeout ? int(GC_ERR_TIMEOUT) : Continue;
+    return needed > timeout ? int(GC_ERR_TIMEOUT) : continueCall;
 }
-
-/// Ends the process when two updates of one interface run at once.
-class Updating
-{
-public:
-    explicit Updating(Interface &interface) : m_interface(interface)
-    {
-        if (m_interface.isUpdating.exchange(true))
-            std::abort();
-    }
-    ~Updating() { m_interface.isUpdating = false; }
-    Updating(const Updating &) = delete;
-    Updating &operator=(const Updating &) = delete;
-
-private:
-    Interface &m_interface;
-};
 
 struct AtLoad
 {
     AtLoad()
     {
         readScript();
-        std::string seen; // Of the environment, what a producer must not see.
+        std::string visible; // Variables that a host must hide.
         for (const char *variable : {"GENICAM_GENTL64_PATH", "G_DEBUG"})
-            seen += std::getenv(variable) ? variable : "";
-        enter("load", seen);
+            visible += std::getenv(variable) ? variable : "";
+        enter("load", visible);
     }
 } const atLoad;
 
@@ -288,66 +277,56 @@ extern "C" {
 
 GENTL_FUNCTION GCInitLib()
 {
-    if (const int code = enter("GCInitLib"); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    if (isInitialised)
-        return GC_ERR_RESOURCE_IN_USE;
-    isInitialised = true;
-    return GC_ERR_SUCCESS;
+    return call("GCInitLib", "",
+        [] { return std::exchange(isInitialised, true) ? GC_ERR_RESOURCE_IN_USE : GC_ERR_SUCCESS; });
 }
 
 GENTL_FUNCTION GCCloseLib()
 {
     readScript();
-    if (const int code = enter("GCCloseLib"); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    if (!isInitialised || isOpen)
-        return GC_ERR_NOT_INITIALIZED;
-    isInitialised = false;
-    return GC_ERR_SUCCESS;
+    return call("GCCloseLib", "", [] {
+        const bool isClosable = isInitialised && !isOpen;
+        isInitialised = isInitialised && isOpen;
+        return isClosable ? GC_ERR_SUCCESS : GC_ERR_NOT_INITIALIZED;
+    });
 }
 
 #ifndef WITHOUT_OPTIONAL_FUNCTIONS
 GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
 {
     *piErrorCode = lastCode;
-    lie.clear();
-    const int given = give("the driver's own words", sErrText, piSize);
+    currentFault.clear();
+    const int result = returnString("the producer's own text", sErrText, piSize);
     const int code = perform(actionFor("GCGetLastError"));
-    return code == Continue ? given : code;
+    return code == continueCall ? result : code;
 }
 #endif
 
 GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 {
-    if (const int code = enter("TLOpen"); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    isOpen = true;
-    *phTL = &systemHandle;
-    return GC_ERR_SUCCESS;
+    return call("TLOpen", "", [&] {
+        isOpen = true;
+        *phTL = &systemHandle;
+        return GC_ERR_SUCCESS;
+    });
 }
 
 GENTL_FUNCTION TLClose(TL_HANDLE hTL)
 {
     readScript();
-    if (const int code = enter("TLClose"); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    if (hTL != &systemHandle || !isOpen)
-        return GC_ERR_INVALID_HANDLE;
-    isOpen = false;
-    return GC_ERR_SUCCESS;
+    return call("TLClose", "", [&] {
+        if (hTL != &systemHandle || !std::exchange(isOpen, false))
+            return GC_ERR_INVALID_HANDLE;
+        return GC_ERR_SUCCESS;
+    });
 }
 
 GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t iTimeout)
 {
     readScript();
-    if (const int code = enter("TLUpdateInterfaceList", std::to_string(iTimeout)); code != Continue)
+    if (const int code = enter("TLUpdateInterfaceList", std::to_string(iTimeout)); code != continueCall)
         return code;
-    if (const int code = search(lie, iTimeout); code != Continue)
+    if (const int code = search(currentFault, iTimeout); code != continueCall)
         return code;
     const std::lock_guard lock(mutex);
     interfaces = script.interfaces;
@@ -356,86 +335,75 @@ GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE, bool8_t *, std::uint64_t iTimeou
 
 GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE, std::uint32_t *piNumIfaces)
 {
-    if (const int code = enter("TLGetNumInterfaces"); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    *piNumIfaces = counted(interfaces.size());
-    return GC_ERR_SUCCESS;
+    return call("TLGetNumInterfaces", "", [&] {
+        *piNumIfaces = counted(interfaces.size());
+        return GC_ERR_SUCCESS;
+    });
 }
 
 GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE, std::uint32_t iIndex, char *sID, std::size_t *piSize)
 {
-    if (const int code = enter("TLGetInterfaceID"); code != Continue)
-        return code;
-    if (iIndex >= interfaces.size())
-        return refuseIndex();
-    if (const int code = perform(actionFor("TLGetInterfaceID:" + interfaces[iIndex].id())); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    return give(interfaces[iIndex].id(), sID, piSize);
+    return call("TLGetInterfaceID", "",
+        [&] { return returnId("TLGetInterfaceID", interfaces, iIndex, sID, piSize); });
 }
 
 #ifndef WITHOUT_OPTIONAL_FUNCTIONS
 GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    if (const int code = enter("TLGetInterfaceInfo", sIfaceID); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    const auto found = opened.find(sIfaceID);
-    if (found == opened.end() || !found->second->isUpdated || found->second->devices.empty())
-        raise(SIGSEGV); // As it was seen.
-    for (const Entry &interface : interfaces) {
-        const auto field = static_cast<std::size_t>(iInfoCmd);
-        if (interface.id() == sIfaceID && field < interface.fields.size())
-            return giveText(interface.fields[field], piType, pBuffer, piSize);
-    }
-    return GC_ERR_NOT_IMPLEMENTED;
+    return call("TLGetInterfaceInfo", sIfaceID, [&]() -> int {
+        const auto found = opened.find(sIfaceID);
+        if (found == opened.end() || !found->second->isUpdated || found->second->devices.empty())
+            raise(SIGSEGV); // As a known producer does.
+        for (const Fields &interface : interfaces) {
+            if (interface[0] == sIfaceID)
+                return returnInfo(interface, static_cast<std::size_t>(iInfoCmd), piType, pBuffer, piSize);
+        }
+        return GC_ERR_NOT_IMPLEMENTED;
+    });
 }
 #endif
 
 GENTL_FUNCTION TLOpenInterface(TL_HANDLE, const char *sIfaceID, IF_HANDLE *phIface)
 {
-    if (const int code = enter("TLOpenInterface", sIfaceID); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    if (opened.count(sIfaceID) > 0)
-        return GC_ERR_RESOURCE_IN_USE;
-    auto *interface = new Interface;
-    interface->id = sIfaceID;
-    opened[sIfaceID] = interface;
-    *phIface = interface;
-    return lie == "in-use" ? GC_ERR_RESOURCE_IN_USE : GC_ERR_SUCCESS;
+    return call("TLOpenInterface", sIfaceID, [&] {
+        if (opened.count(sIfaceID) > 0)
+            return GC_ERR_RESOURCE_IN_USE;
+        auto *interface = new Interface;
+        interface->id = sIfaceID;
+        opened[sIfaceID] = interface;
+        *phIface = interface;
+        return currentFault == "in-use" ? GC_ERR_RESOURCE_IN_USE : GC_ERR_SUCCESS;
+    });
 }
 
 GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 {
     readScript();
-    const auto *interface = static_cast<Interface *>(hIface);
-    if (const int code = enter("IFClose", interface->id); code != Continue)
-        return code;
-    const std::lock_guard lock(mutex);
-    return opened.erase(interface->id) == 1 ? GC_ERR_SUCCESS : GC_ERR_INVALID_HANDLE;
+    const std::string &id = static_cast<Interface *>(hIface)->id;
+    return call(
+        "IFClose", id, [&] { return opened.erase(id) == 1 ? GC_ERR_SUCCESS : GC_ERR_INVALID_HANDLE; });
 }
 
 GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTimeout)
 {
     auto *interface = static_cast<Interface *>(hIface);
-    const Updating updating(*interface);
+    if (interface->isUpdating.exchange(true))
+        std::abort(); // Two updates of one interface must not run at once.
     readScript();
-    const int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
     const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
-    const int ownCode = perform(ownAction);
-    if (code != Continue || ownCode != Continue)
-        return code != Continue ? code : ownCode;
-    if (const int searchCode = search(ownAction, iTimeout); searchCode != Continue)
-        return searchCode;
+    int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
+    if (code == continueCall)
+        code = search(ownAction, iTimeout);
+    interface->isUpdating = false;
+    if (code != continueCall)
+        return code;
     const std::lock_guard lock(mutex);
     interface->devices.clear();
-    const auto range = script.devices.equal_range(interface->id);
     interface->places.clear();
+    const auto range = script.devices.equal_range(interface->id);
     for (auto entry = range.first; entry != range.second; ++entry) {
-        interface->places.emplace(entry->second.id(), interface->devices.size());
+        interface->places.emplace(entry->second[0], interface->devices.size());
         interface->devices.push_back(entry->second);
     }
     interface->isUpdated = true;
@@ -444,45 +412,37 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
 
 GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
 {
-    if (const int code = enter("IFGetNumDevices"); code != Continue)
-        return code;
-    const auto *interface = static_cast<Interface *>(hIface);
-    if (!interface->isUpdated)
-        return GC_ERR_NOT_AVAILABLE;
-    *piNumDevices = counted(interface->devices.size());
-    return GC_ERR_SUCCESS;
+    return call("IFGetNumDevices", "", [&] {
+        const auto *interface = static_cast<Interface *>(hIface);
+        if (!interface->isUpdated)
+            return GC_ERR_NOT_AVAILABLE;
+        *piNumDevices = counted(interface->devices.size());
+        return GC_ERR_SUCCESS;
+    });
 }
 
 GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDeviceID, std::size_t *piSize)
 {
-    if (const int code = enter("IFGetDeviceID"); code != Continue)
-        return code;
-    const auto *interface = static_cast<Interface *>(hIface);
-    if (iIndex >= interface->devices.size())
-        return refuseIndex();
-    const std::string &id = interface->devices[iIndex].id();
-    if (const int code = perform(actionFor("IFGetDeviceID:" + id)); code != Continue)
-        return code;
-    return give(id, sIDeviceID, piSize);
+    return call("IFGetDeviceID", "", [&] {
+        return returnId(
+            "IFGetDeviceID", static_cast<Interface *>(hIface)->devices, iIndex, sIDeviceID, piSize);
+    });
 }
 
 #ifndef WITHOUT_IFGETDEVICEINFO
 GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    if (const int code = enter("IFGetDeviceInfo"); code != Continue)
-        return code;
-    // The fields of a device in a script, by command: ID, vendor, model, type, name; serial number.
-    static constexpr std::array<std::size_t, 8> places{0, 1, 2, 5, 4, 99, 99, 3};
-    const auto *interface = static_cast<Interface *>(hIface);
-    const auto found = interface->places.find(sDeviceID);
-    if (found == interface->places.end())
-        return GC_ERR_INVALID_ID;
-    const Entry &device = interface->devices[found->second];
-    const std::size_t place = places.at(static_cast<std::size_t>(iInfoCmd));
-    if (place >= device.fields.size())
-        return GC_ERR_NOT_IMPLEMENTED;
-    return giveText(device.fields[place], piType, pBuffer, piSize);
+    return call("IFGetDeviceInfo", "", [&]() -> int {
+        // The place of a field in the script, by command: ID, vendor, model, type, name; serial number.
+        static constexpr std::array<std::size_t, 8> places{0, 1, 2, 5, 4, 99, 99, 3};
+        const auto *interface = static_cast<Interface *>(hIface);
+        const auto found = interface->places.find(sDeviceID);
+        if (found == interface->places.end())
+            return GC_ERR_INVALID_ID;
+        const std::size_t place = places.at(static_cast<std::size_t>(iInfoCmd));
+        return returnInfo(interface->devices[found->second], place, piType, pBuffer, piSize);
+    });
 }
 #endif
 

@@ -2,11 +2,11 @@
 
 #include <sys/resource.h>
 
-/// While one lives, this process can open nothing but the descriptors below a number.
+/// Keeps this process from opening any descriptor while it lives.
 class OutOfDescriptors
 {
 public:
-    explicit OutOfDescriptors(rlim_t limit = 0);
+    OutOfDescriptors();
     ~OutOfDescriptors();
     OutOfDescriptors(const OutOfDescriptors &) = delete;
     OutOfDescriptors &operator=(const OutOfDescriptors &) = delete;

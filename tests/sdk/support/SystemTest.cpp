@@ -15,13 +15,13 @@ SystemTest::SystemTest()
     options.hostProgram = CVX_PRODUCER_HOST;
     options.installRoot = directory.path().string();
     options.configurationFile = (directory.path() / "bin" / "CvxC.xml").string();
-    options.lookInterval = 100ms;
-    options.interfaceInterval = 300ms;
+    options.pollInterval = 100ms;
+    options.interfaceUpdateInterval = 300ms;
     options.reuseTime = 0ms;
-    options.answerWait = 5s;
-    options.firstRestart = 50ms;
-    options.longestRestart = 60s;
-    options.announceDelay = 10ms;
+    options.searchTimeout = 5s;
+    options.firstRestartDelay = 50ms;
+    options.maxRestartDelay = 60s;
+    options.notificationHold = 10ms;
     options.report = [this](const std::string &line) {
         const std::lock_guard lock(m_mutex);
         m_reports.push_back(line);

@@ -1,0 +1,94 @@
+#include "sdk/cvxcpp/HostPool.h"
+
+#include "sdk/cvxcpp/StartOrder.h"
+
+#include <algorithm>
+#include <poll.h>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto closeStepInterval = 5ms;
+constexpr auto killTimeout = 300ms; // For killed hosts to be gone.
+
+/// Returns the timeout for poll(): rounded up, so that it does not end too early, and within the range of
+/// int.
+int pollTimeout(TimePoint until, TimePoint now)
+{
+    constexpr Milliseconds maxTimeout = 1min;
+    const auto left = std::clamp<SteadyClock::duration>(until - now, 0ms, maxTimeout);
+    return static_cast<int>(std::chrono::ceil<Milliseconds>(left).count());
+}
+
+} // namespace
+
+HostPool::HostPool(const SystemOptions &options, const std::vector<std::string> &producerPaths)
+    : m_options(options), m_isReadable(producerPaths.size(), false)
+{
+    for (const std::string &path : producerPaths)
+        m_hosts.emplace_back(options, path);
+}
+
+std::vector<TimePoint> HostPool::startTimes() const
+{
+    std::vector<TimePoint> times;
+    for (const ProducerSupervisor &host : m_hosts)
+        times.push_back(host.startTime());
+    return times;
+}
+
+void HostPool::step(const EventHandler &handle)
+{
+    const std::vector<std::size_t> starts = chooseStarts(startTimes(), SteadyClock::now());
+    for (std::size_t i = 0; i < m_hosts.size(); ++i) {
+        const TimePoint now = SteadyClock::now();
+        const bool isChosen = std::find(starts.begin(), starts.end(), i) != starts.end();
+        if (m_hosts[i].startTime() <= now && !isChosen)
+            continue;
+        if (auto event = m_hosts[i].step(now, m_isReadable[i]))
+            handle(i, *event);
+    }
+}
+
+void HostPool::wait(int wakeDescriptor, TimePoint until)
+{
+    const TimePoint now = SteadyClock::now();
+    std::vector<pollfd> descriptors{{wakeDescriptor, POLLIN, 0}};
+    for (const ProducerSupervisor &host : m_hosts) {
+        until = std::min(until, host.nextStep(now));
+        if (host.descriptor() >= 0) // poll() refuses more entries than the process may open descriptors.
+            descriptors.push_back({host.descriptor(), POLLIN, 0});
+    }
+    poll(descriptors.data(), descriptors.size(), pollTimeout(until, now)); // A signal may end it early.
+
+    auto descriptor = descriptors.begin() + 1;
+    for (std::size_t i = 0; i < m_hosts.size(); ++i)
+        m_isReadable[i] = m_hosts[i].descriptor() >= 0 && (descriptor++)->revents != 0;
+}
+
+void HostPool::close()
+{
+    for (ProducerSupervisor &host : m_hosts)
+        host.beginClose();
+    closeUntil(SteadyClock::now() + m_options.closeTimeout);
+    for (ProducerSupervisor &host : m_hosts)
+        host.killUnclosed(SteadyClock::now());
+    closeUntil(SteadyClock::now() + killTimeout);
+}
+
+bool HostPool::areAllGone() const
+{
+    return std::all_of(
+        m_hosts.begin(), m_hosts.end(), [](const ProducerSupervisor &host) { return host.isGone(); });
+}
+
+void HostPool::closeUntil(TimePoint deadline)
+{
+    while (!areAllGone() && SteadyClock::now() < deadline) {
+        std::this_thread::sleep_for(closeStepInterval);
+        for (ProducerSupervisor &host : m_hosts)
+            host.stepClose();
+    }
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "CvxCPP/CvxCPP.h"
+#include "sdk/cvxcpp/CameraListChange.h"
+#include "sdk/cvxcpp/NotificationHold.h"
+
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+/// Calls the observers on a thread of its own, so that they may be slow and may call the system.
+class ObserverNotifier
+{
+public:
+    /// Returns what changed since its last call. Called on the notifier's thread.
+    using TakeChange = std::function<CameraListChange()>;
+
+    explicit ObserverNotifier(TakeChange takeChange);
+    ~ObserverNotifier();
+    ObserverNotifier(const ObserverNotifier &) = delete;
+    ObserverNotifier &operator=(const ObserverNotifier &) = delete;
+
+    void start();
+
+    /// Blocks until no observer is being called any more, and drops all of them.
+    void stop();
+
+    void addObserver(const std::shared_ptr<CvxCPP::ICameraListObserver> &observer);
+    void addObserver(const std::shared_ptr<CvxCPP::IInterfaceListObserver> &observer);
+
+    /// Tells the notifier that there may be a change.
+    void notify();
+
+    /// Notifies nobody before that time; see NotificationHold.
+    void holdUntil(TimePoint time);
+
+    /// Returns true if the calling thread is one that calls observers.
+    static bool isCallingObservers();
+
+private:
+    void run();
+    bool waitForChange();
+    void notifyObservers(const CameraListChange &change);
+    void notifyEach(
+        const std::vector<std::shared_ptr<CameraObject>> &cameras, CvxCPP::UpdateTriggerType reason);
+    void notifyEach(
+        const std::vector<std::shared_ptr<InterfaceObject>> &interfaces, CvxCPP::UpdateTriggerType reason);
+
+    template <typename Observer, typename Call>
+    void callEach(const std::vector<std::shared_ptr<Observer>> &observers, const Call &call);
+
+    const TakeChange m_takeChange;
+    std::thread m_thread;
+
+    std::mutex m_mutex; // Guards all members below.
+    std::condition_variable m_wake;
+    std::vector<std::shared_ptr<CvxCPP::ICameraListObserver>> m_cameraObservers;
+    std::vector<std::shared_ptr<CvxCPP::IInterfaceListObserver>> m_interfaceObservers;
+    NotificationHold m_hold;
+    bool m_isStopping = false;
+};

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "sdk/cvxcpp/Timing.h"
+#include "sdk/protocol/LineChannel.h"
+#include "sdk/protocol/Message.h"
+#include "sdk/protocol/Problem.h"
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+/// Sends requests to one producer host, one at a time, checks its replies, and watches their deadlines.
+/// Knows the messages' frame but not what the requests are about.
+class ProducerClient
+{
+public:
+    /// A reply is late after `searchTimeout`; after `replyTimeout` the host is given up.
+    ProducerClient(Milliseconds searchTimeout, Milliseconds replyTimeout);
+
+    void connect(LineChannel channel);
+    void disconnect();
+
+    /// Returns the descriptor to poll for reading; -1 without a connection.
+    int descriptor() const { return m_channel.descriptor(); }
+
+    template <typename Request>
+    void send(const Request &request, TimePoint now)
+    {
+        sendMessage(Message(++m_lastId, request), now);
+    }
+
+    /// Sends the last request. An outstanding reply may still arrive before the last one.
+    template <typename Request>
+    void sendLast(const Request &request)
+    {
+        m_channel.trySend(Message(++m_lastId, request).toLine());
+    }
+
+    /// Returns true while the reply to a request is outstanding.
+    bool isWaiting() const { return m_awaitedId.has_value(); }
+
+    bool isLate(TimePoint now) const { return isWaiting() && waitingTime(now) >= m_searchTimeout; }
+    bool isExpired(TimePoint now) const { return isWaiting() && waitingTime(now) >= m_replyTimeout; }
+
+    /// Returns the next time at which isLate() or isExpired() changes.
+    TimePoint nextDeadline(TimePoint now) const;
+
+    /// Returns the time since the last request. Also valid right after its reply.
+    Milliseconds waitingTime(TimePoint now) const;
+
+    /// Returns true if the reply that arrives now is not late.
+    bool isInTime(TimePoint now) const { return waitingTime(now) < m_searchTimeout; }
+
+    struct Nothing
+    { };
+    struct Disconnected
+    { };
+    struct ProtocolError ///< The host does not follow the protocol.
+    {
+        std::string reason;
+    };
+    struct ProducerFailure ///< The producer cannot be used; the host exits by itself.
+    {
+        Problem problem;
+    };
+    using Received = std::variant<Nothing, Message, Disconnected, ProtocolError, ProducerFailure>;
+
+    /// Reads what has arrived, without blocking. Returns a Message only if it has the awaited ID.
+    Received receive();
+
+    /// Reads the last messages of a host that was asked to close, and appends their problems. Returns false
+    /// if no more will come.
+    bool receiveLast(std::vector<Problem> &problems);
+
+private:
+    void sendMessage(const Message &message, TimePoint now);
+    Received check(const std::string &line);
+
+    Milliseconds m_searchTimeout;
+    Milliseconds m_replyTimeout;
+    LineChannel m_channel;
+    Message::Id m_lastId = Message::noRequest;
+    std::optional<Message::Id> m_awaitedId;
+    TimePoint m_sentAt{};
+};

@@ -1,0 +1,210 @@
+#include "sdk/cvxcpp/ProducerSupervisor.h"
+
+#include "sdk/cvxcpp/ExitReason.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A producer that forked keeps the socket open when it dies, so a waiting client also looks at the process.
+constexpr auto checkInterval = 250ms;
+
+constexpr auto reapInterval = 5ms; // A host whose connection has ended is about to exit …
+constexpr auto reapTime = 1s; // … unless it is stuck in the kernel; then it is checked less often.
+constexpr auto exitGrace = 500ms; // From the end of the connection to the end of the process.
+
+std::string seconds(Milliseconds time)
+{
+    const auto tenths = time.count() / 100;
+    return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+}
+
+} // namespace
+
+ProducerSupervisor::ProducerSupervisor(const SystemOptions &options, const std::string &producerPath)
+    : m_options(options),
+      m_path(producerPath),
+      m_client(options.searchTimeout, options.replyTimeout),
+      m_restartPolicy(options.firstRestartDelay, options.maxRestartDelay),
+      m_interfaceUpdates(options.interfaceUpdateInterval, options.pollInterval),
+      m_reporter(producerPath, options.report)
+{ }
+
+TimePoint ProducerSupervisor::startTime() const
+{
+    return m_state == State::Waiting ? m_restartPolicy.nextStart() : TimePoint::max();
+}
+
+void ProducerSupervisor::requestCameras(TimePoint now)
+{
+    m_requestedInterface.reset();
+    m_client.send(ListCamerasRequest{m_interfaceUpdates.takeDueUpdate(now)}, now);
+}
+
+void ProducerSupervisor::requestInterface(const InterfaceRecord &interface, TimePoint now)
+{
+    m_requestedInterface = interface.id;
+    m_client.send(ListInterfaceRequest{interface.number}, now);
+}
+
+TimePoint ProducerSupervisor::nextStep(TimePoint now) const
+{
+    if (m_state == State::Waiting)
+        return startTime();
+    if (m_state != State::Running)
+        return now + (now - m_killAt < reapTime ? Milliseconds(reapInterval) : checkInterval);
+    if (!m_client.isWaiting())
+        return TimePoint::max();
+    return std::min(m_client.nextDeadline(now), now + checkInterval);
+}
+
+std::optional<ProducerSupervisor::Event> ProducerSupervisor::step(TimePoint now, bool isReadable)
+{
+    if (m_state == State::Waiting)
+        return now >= startTime() ? start(now) : std::nullopt;
+    if (m_state == State::Running)
+        return isReadable ? receive(now) : checkHost(now);
+    awaitExit(now);
+    return std::nullopt;
+}
+
+std::optional<ProducerSupervisor::Event> ProducerSupervisor::start(TimePoint now)
+{
+    m_restartPolicy.started(now);
+    m_interfaceUpdates.hostStarted();
+    m_reporter.hostStarted();
+    auto started = m_process.start(m_options.hostProgram, m_path);
+    if (!started.failure.empty())
+        return failWith(started.failure, 0ms, now);
+    m_client.connect(std::move(started.channel));
+    m_state = State::Running;
+    requestCameras(now); // The host reads the request once it has loaded the producer.
+    return std::nullopt;
+}
+
+std::optional<ProducerSupervisor::Event> ProducerSupervisor::receive(TimePoint now)
+{
+    const ProducerClient::Received received = m_client.receive();
+    if (const auto *message = std::get_if<Message>(&received))
+        return acceptReply(*message, now);
+    if (const auto *failure = std::get_if<ProducerClient::ProducerFailure>(&received))
+        return failWith(problemReason(failure->problem), m_options.closeTimeout, now);
+    if (const auto *error = std::get_if<ProducerClient::ProtocolError>(&received))
+        return failWith(error->reason, 0ms, now);
+    if (std::holds_alternative<ProducerClient::Disconnected>(received))
+        return fail(State::Disconnected, exitGrace, now);
+    return checkHost(now);
+}
+
+std::optional<ProducerSupervisor::Event> ProducerSupervisor::acceptReply(
+    const Message &message, TimePoint now)
+{
+    auto reply = message.content<CameraListReply>();
+    if (!reply)
+        return failWith("sent a reply that cannot be read", 0ms, now);
+    m_reporter.reportProblems(reply->problems);
+    const bool isInTime = m_client.isInTime(now);
+    if (m_requestedInterface)
+        return Event{
+            Event::Kind::InterfaceSearched, std::move(reply->interfaces), *m_requestedInterface, isInTime};
+    m_reporter.camerasListed();
+    return Event{Event::Kind::CamerasListed, std::move(reply->interfaces), {}, isInTime};
+}
+
+std::optional<ProducerSupervisor::Event> ProducerSupervisor::checkHost(TimePoint now)
+{
+    if (!m_client.isWaiting())
+        return std::nullopt;
+    if (m_client.isExpired(now))
+        return failWith(
+            "did not answer within " + seconds(m_options.replyTimeout) + " and was killed", 0ms, now);
+    if (m_client.waitingTime(now) < checkInterval)
+        return std::nullopt;
+    if (const auto status = m_process.tryReap())
+        return failWith(reasonForEnd(*status), 0ms, now);
+    return std::nullopt;
+}
+
+std::string ProducerSupervisor::reasonForEnd(int status)
+{
+    const ProducerClient::Received received = m_client.receive(); // The host may have sent its reason before.
+    const auto *failure = std::get_if<ProducerClient::ProducerFailure>(&received);
+    return failure ? problemReason(failure->problem) : exitReason(status);
+}
+
+ProducerSupervisor::Event ProducerSupervisor::failWith(
+    const std::string &reason, Milliseconds grace, TimePoint now)
+{
+    m_reporter.reportFailure(reason);
+    return fail(State::Failed, grace, now);
+}
+
+ProducerSupervisor::Event ProducerSupervisor::fail(State state, Milliseconds grace, TimePoint now)
+{
+    m_state = state;
+    m_killAt = now + grace;
+    m_restartPolicy.failed(now);
+    m_client.disconnect();
+    awaitExit(now);
+    return {Event::Kind::HostLost, {}, {}, false};
+}
+
+void ProducerSupervisor::awaitExit(TimePoint now)
+{
+    const auto status = m_process.isStarted() ? m_process.tryReap() : std::optional<int>(0);
+    if (!status && now < m_killAt)
+        return;
+    if (m_state == State::Disconnected)
+        m_reporter.reportFailure(status ? exitReason(*status) : "closed its connection and was killed");
+    m_state = status ? State::Waiting : State::Failed;
+    m_process.kill();
+}
+
+void ProducerSupervisor::reportUnusedCameras(std::size_t reported, std::size_t used)
+{
+    m_reporter.reportUnusedCameras(reported, used);
+}
+
+void ProducerSupervisor::beginClose()
+{
+    if (m_state != State::Running) {
+        m_process.kill();
+        return;
+    }
+    m_state = m_client.isWaiting() ? State::ClosingDuringRequest : State::Closing;
+    m_client.sendLast(CloseProducerRequest());
+}
+
+void ProducerSupervisor::stepClose()
+{
+    if (isGone())
+        return;
+    const auto status = m_process.tryReap(); // Before reading: everything the host has sent is there then.
+    std::vector<Problem> problems;
+    const bool mayReceiveMore = m_client.receiveLast(problems);
+    m_reporter.reportProblems(problems);
+    if (!mayReceiveMore)
+        m_client.disconnect();
+    if (!status || *status == 0 || *status == ProducerProcess::unknownStatus)
+        return;
+    if (m_state == State::Closing)
+        m_reporter.reportFailure(exitReason(*status) + " while it was closed");
+    else if (m_state == State::ClosingDuringRequest)
+        m_reporter.reportFailure(exitReason(*status));
+}
+
+void ProducerSupervisor::killUnclosed(TimePoint now)
+{
+    if (isGone())
+        return;
+    if (m_state == State::Closing || m_state == State::Disconnected)
+        m_reporter.reportFailure("did not end within " + seconds(m_options.closeTimeout) + " and was killed");
+    else if (m_state == State::ClosingDuringRequest && !m_reporter.hasReported())
+        m_reporter.reportFailure(
+            "had not answered for " + seconds(m_client.waitingTime(now)) + " and was killed");
+    m_state = State::Failed;
+    m_process.kill();
+}

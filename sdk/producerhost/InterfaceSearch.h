@@ -1,0 +1,10 @@
+#pragma once
+
+#include "sdk/producerhost/OpenInterface.h"
+
+#include <memory>
+#include <vector>
+
+/// Searches all interfaces for devices; slow ones in parallel, on a limited number of threads. Blocks until
+/// all searches have ended.
+void searchInterfaces(const std::vector<std::unique_ptr<OpenInterface>> &interfaces);

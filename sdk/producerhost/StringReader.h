@@ -1,0 +1,30 @@
+#pragma once
+
+#include "sdk/producerhost/ProducerLibrary.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+/// Reads strings from a producer. GenTL takes two calls for a string: the first returns its size, the second
+/// its bytes. Each function returns the problem if the string cannot be read; the output is unchanged then.
+class StringReader
+{
+public:
+    explicit StringReader(const ProducerLibrary &library) : m_library(library) { }
+
+    std::optional<Problem> readInterfaceId(
+        GenTL::TL_HANDLE system, std::uint32_t index, std::string &id) const;
+    std::optional<Problem> readInterfaceInfo(GenTL::TL_HANDLE system, const std::string &interfaceId,
+        GenTL::INTERFACE_INFO_CMD command, std::string &value) const;
+    std::optional<Problem> readDeviceId(
+        GenTL::IF_HANDLE interface, std::uint32_t index, std::string &id) const;
+    std::optional<Problem> readDeviceInfo(GenTL::IF_HANDLE interface, const std::string &deviceId,
+        GenTL::DEVICE_INFO_CMD command, std::string &value) const;
+
+private:
+    template <typename Query>
+    std::optional<Problem> read(const char *call, const Query &query, std::string &value) const;
+
+    const ProducerLibrary &m_library;
+};

@@ -1,0 +1,106 @@
+// Reads the replies of a producer host as the library does. The first byte of the input determines into how
+// many portions the rest is split.
+
+#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/LineChannel.h"
+#include "sdk/protocol/Message.h"
+#include "tests/fuzz/FuzzTarget.h"
+
+#include <algorithm>
+#include <array>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t maxLength = 4096; // Bytes of a line; inputs of a fuzzer do not reach the real limit.
+
+/// Moves every line that has arrived to `received`; returns false if no further line can arrive.
+bool collect(LineChannel &channel, std::vector<std::string> &received)
+{
+    std::string line;
+    for (;;) {
+        switch (channel.tryReadLine(line)) {
+        case LineChannel::Status::Line:
+            received.push_back(line);
+            break;
+        case LineChannel::Status::Pending:
+            return true;
+        case LineChannel::Status::TooLong:
+            require(channel.hasMore(), "a line is too long only if bytes have arrived");
+            return false;
+        case LineChannel::Status::Closed:
+        case LineChannel::Status::Lost:
+            return false;
+        }
+    }
+}
+
+/// Sends the text in portions of this size; returns the lines that the other end receives.
+std::vector<std::string> transmit(const std::string &text, std::size_t portion)
+{
+    std::array<int, 2> ends{};
+    require(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) == 0, "a socket can be created");
+    LineChannel host(ends[0]);
+    LineChannel library(ends[1], maxLength);
+    std::vector<std::string> received;
+    for (std::size_t at = 0; at < text.size(); at += portion) {
+        require(host.send(text.substr(at, portion)) == LineChannel::Status::Line, "the text is sent");
+        if (!collect(library, received))
+            return received;
+    }
+    host.close();
+    require(!collect(library, received), "the end of the connection is detected");
+    return received;
+}
+
+/// Returns the lines of a text without what follows its last line feed.
+std::vector<std::string> linesOf(const std::string &text)
+{
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    for (auto end = text.find('\n'); end != std::string::npos; end = text.find('\n', start)) {
+        lines.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    return lines;
+}
+
+/// If the message has this content, it survives being sent again.
+template <typename Content>
+void requireSameAfterRoundTrip(const Message &message)
+{
+    const std::optional<Content> content = message.content<Content>();
+    if (!content)
+        return;
+    const std::string line = Message(message.id(), *content).toLine();
+    require(line.find('\n') + 1 == line.size(), "a message is one line");
+    require(toValidUtf8(line) == line, "a message is valid UTF-8");
+    const std::optional<Message> copy = Message::fromLine(line.substr(0, line.size() - 1));
+    require(copy && copy->id() == message.id(), "a message keeps its ID");
+    const std::optional<Content> copied = copy->content<Content>();
+    require(copied && nlohmann::json(*copied) == nlohmann::json(*content), "a message keeps its content");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    if (size == 0)
+        return 0;
+    const std::string sent = textOf(data + 1, size - 1);
+    const std::vector<std::string> received = transmit(sent, sent.size() / (1U + data[0] % 8U) + 1);
+    const std::vector<std::string> lines = linesOf(sent);
+    require(received.size() <= lines.size() && std::equal(received.begin(), received.end(), lines.begin()),
+        "the received lines are those of the text, in order");
+    for (const std::string &line : received) {
+        if (const std::optional<Message> message = Message::fromLine(line)) {
+            requireSameAfterRoundTrip<CameraListReply>(*message);
+            requireSameAfterRoundTrip<ProducerFailedReply>(*message);
+            requireSameAfterRoundTrip<ProducerClosedReply>(*message);
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,114 @@
+#include "sdk/protocol/LineChannel.h"
+
+#include <array>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+using Status = LineChannel::Status;
+
+class LineChannelTest : public testing::Test
+{
+protected:
+    LineChannelTest()
+    {
+        std::array<int, 2> ends{};
+        socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data());
+        m_near = LineChannel(ends[0], maxLength);
+        m_far = LineChannel(ends[1]);
+    }
+
+    static constexpr std::size_t maxLength = 1000;
+    LineChannel m_near;
+    LineChannel m_far;
+    std::string m_line;
+};
+
+} // namespace
+
+TEST_F(LineChannelTest, splitsWhatArrivesIntoLines)
+{
+    EXPECT_EQ(m_far.send("one\n\nthree\nfo"), Status::Line);
+    for (const char *line : {"one", "", "three"}) {
+        EXPECT_EQ(m_near.tryReadLine(m_line), Status::Line);
+        EXPECT_EQ(m_line, line);
+        EXPECT_TRUE(m_near.hasMore());
+    }
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Pending);
+    m_far.trySend("ur\n");
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Line);
+    EXPECT_EQ(m_line, "four");
+    EXPECT_FALSE(m_near.hasMore());
+}
+
+TEST_F(LineChannelTest, waitsForTheRestOfALine)
+{
+    const std::string sent(5U << 20, 'x'); // More than the socket's buffer takes.
+    std::thread sender([&] { EXPECT_EQ(m_near.send(sent + "\n"), Status::Line); });
+    EXPECT_EQ(m_far.waitForLine(m_line), Status::Line);
+    sender.join();
+    EXPECT_EQ(m_line, sent);
+}
+
+TEST_F(LineChannelTest, acceptsALineOfTheLimit)
+{
+    m_far.send(std::string(maxLength, 'x'));
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Pending);
+    m_far.send("\n");
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Line);
+    EXPECT_EQ(m_line.size(), maxLength);
+}
+
+TEST_F(LineChannelTest, refusesALineOverTheLimit)
+{
+    m_far.send(std::string(maxLength + 1, 'x'));
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::TooLong);
+}
+
+TEST_F(LineChannelTest, returnsTheLastLineBeforeTheEnd)
+{
+    m_far.send("last\nrest");
+    m_far.close();
+    EXPECT_EQ(m_near.waitForLine(m_line), Status::Line);
+    EXPECT_EQ(m_near.waitForLine(m_line), Status::Closed);
+    EXPECT_EQ(m_near.send("x\n"), Status::Closed);
+    m_near.trySend("x\n"); // Raises no SIGPIPE either.
+}
+
+TEST_F(LineChannelTest, isEmptyAfterItWasClosed)
+{
+    m_far.send("one\ntwo\n");
+    m_near.tryReadLine(m_line);
+    m_near.close();
+    EXPECT_EQ(m_near.descriptor(), -1);
+    EXPECT_FALSE(m_near.hasMore());
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Closed);
+    EXPECT_EQ(m_far.waitForLine(m_line), Status::Closed);
+}
+
+TEST_F(LineChannelTest, keepsWhatArrivedWhenItIsMoved)
+{
+    m_far.send("one\ntwo\n");
+    m_near.tryReadLine(m_line);
+    LineChannel moved = std::move(m_near);
+    EXPECT_EQ(moved.tryReadLine(m_line), Status::Line);
+    EXPECT_EQ(m_line, "two");
+}
+
+TEST_F(LineChannelTest, noticesThatOtherCodeClosedItsDescriptor)
+{
+    const int descriptor = m_near.descriptor();
+    const int file = open("/dev/null", O_RDWR | O_CLOEXEC);
+    dup2(file, descriptor);
+    EXPECT_EQ(m_near.waitForLine(m_line), Status::Lost);
+    EXPECT_EQ(m_near.send("x\n"), Status::Lost);
+    close(descriptor);
+    EXPECT_EQ(m_near.waitForLine(m_line), Status::Lost);
+    EXPECT_EQ(m_near.send("x\n"), Status::Lost);
+    dup2(file, descriptor); // For the destructor.
+    close(file);
+}

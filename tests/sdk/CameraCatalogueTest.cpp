@@ -1,0 +1,238 @@
+#include "sdk/cvxcpp/CameraCatalogue.h"
+#include "tests/sdk/support/CameraText.h"
+#include "tests/sdk/support/FakeSource.h"
+
+#include <gtest/gtest.h>
+#include <utility>
+
+using Ids = std::vector<std::string>;
+using Interfaces = std::vector<InterfaceRecord>;
+
+namespace {
+
+DeviceRecord camera(
+    const std::string &id, const std::string &vendor, const std::string &model, const std::string &serial)
+{
+    return {id, vendor, model, serial, "Name", "GEV"};
+}
+
+InterfaceRecord network(
+    const std::string &id, const std::vector<DeviceRecord> &devices, std::uint64_t number = 1)
+{
+    return {number, id, "Network", "GEV", devices};
+}
+
+/// Returns one network with cameras that no other producer has.
+Interfaces cameras(const Ids &ids)
+{
+    InterfaceRecord record = network("net", {});
+    for (const std::string &id : ids)
+        record.devices.push_back(camera(id, "", "", ""));
+    return {record};
+}
+
+Ids idsOf(const CameraCatalogue::Cameras &cameras)
+{
+    Ids ids;
+    for (const auto &camera : cameras)
+        ids.push_back(extendedId(*camera));
+    return ids;
+}
+
+} // namespace
+
+class CameraCatalogueTest : public testing::Test
+{
+protected:
+    CameraCatalogueTest()
+    {
+        for (const char *path : {"/cti/a.cti", "/cti/b.cti", "/later/a.cti"})
+            catalogue.addProducer(source, path);
+    }
+
+    Ids handedOut() { return idsOf(catalogue.handOut()); }
+
+    /// Returns the change as the observers see it: "-ID" and "+ID", and interfaces in brackets.
+    Ids change()
+    {
+        const CameraListChange change = catalogue.takeChange();
+        Ids result;
+        for (const std::string &id : idsOf(change.removedCameras))
+            result.push_back('-' + id);
+        for (const auto &interface : change.removedInterfaces)
+            result.push_back("-[" + interface->id() + ']');
+        for (const auto &interface : change.addedInterfaces)
+            result.push_back("+[" + interface->id() + ']');
+        for (const std::string &id : idsOf(change.addedCameras))
+            result.push_back('+' + id);
+        return result;
+    }
+
+    std::shared_ptr<FakeSource> source = std::make_shared<FakeSource>();
+    CameraCatalogue catalogue;
+};
+
+TEST_F(CameraCatalogueTest, handsOutAllCamerasInTheSearchOrderSortedByInterfaceAndDevice)
+{
+    catalogue.replaceInterfaces(1, cameras({"2", "1"}));
+    catalogue.replaceInterfaces(0,
+        {network("z", {camera("2", "", "", ""), camera("1", "", "", "")}),
+            network("y", {camera("3", "", "", "")})});
+    EXPECT_EQ(handedOut(), (Ids{"a.cti/y/3", "a.cti/z/1", "a.cti/z/2", "b.cti/net/1", "b.cti/net/2"}));
+}
+
+TEST_F(CameraCatalogueTest, fileNameInAnExtendedIdIsValidUtf8)
+{
+    CameraCatalogue other;
+    other.addProducer(source, "/cti/m\xFF.cti");
+    other.replaceInterfaces(0, cameras({"1"}));
+    EXPECT_EQ(idsOf(other.handOut()), Ids{"m\xEF\xBF\xBD.cti/net/1"});
+}
+
+TEST_F(CameraCatalogueTest, equalListChangesNothing)
+{
+    EXPECT_TRUE(catalogue.replaceInterfaces(0, cameras({"1", "2"})));
+    const auto before = catalogue.handOut();
+    EXPECT_FALSE(catalogue.replaceInterfaces(0, cameras({"2", "1"})));
+    EXPECT_EQ(catalogue.handOut(), before) << "the same objects";
+    EXPECT_EQ(change(), Ids{});
+}
+
+TEST_F(CameraCatalogueTest, limitsTheCamerasOfAProducer)
+{
+    InterfaceRecord first = network("a", {}, 1), second = network("b", {}, 2);
+    for (int i = 0; i < 600; ++i) {
+        first.devices.push_back(camera(std::to_string(i), "", "", ""));
+        second.devices.push_back(first.devices.back());
+    }
+    catalogue.replaceInterfaces(0, {first, second});
+    EXPECT_EQ(catalogue.reportedCameras(0), 1200U);
+    EXPECT_EQ(catalogue.handOut().size(), 1000U);
+}
+
+TEST_F(CameraCatalogueTest, replacesOneInterfaceByItsNumber)
+{
+    catalogue.replaceInterfaces(0, {network("x", {camera("1", "", "", "")}, 7), network("y", {}, 8)});
+    handedOut();
+    EXPECT_FALSE(catalogue.replaceInterface(0, network("x", {camera("1", "", "", "")}, 7)));
+    EXPECT_FALSE(catalogue.replaceInterface(0, network("x", {}, 9)));
+    EXPECT_TRUE(
+        catalogue.replaceInterface(0, network("x", {camera("3", "", "", ""), camera("2", "", "", "")}, 7)));
+    EXPECT_EQ(handedOut(), (Ids{"a.cti/x/2", "a.cti/x/3"}));
+    ASSERT_TRUE(catalogue.findInterface(0, "x"));
+    EXPECT_EQ(catalogue.findInterface(0, "x")->number, 7U);
+    EXPECT_FALSE(catalogue.findInterface(0, "z"));
+    EXPECT_FALSE(catalogue.findInterface(1, "x"));
+}
+
+TEST_F(CameraCatalogueTest, firstListIsNotAnnouncedIfTheProgramAskedForIt)
+{
+    catalogue.replaceInterfaces(0, cameras({"1"}));
+    EXPECT_EQ(change(), Ids{}) << "the program has no list yet";
+    handedOut();
+    EXPECT_EQ(change(), Ids{});
+    EXPECT_FALSE(catalogue.announceFromNowOn(0));
+    EXPECT_EQ(change(), Ids{});
+    catalogue.replaceInterfaces(0, cameras({"1", "2"}));
+    handedOut();
+    EXPECT_EQ(change(), Ids{"+a.cti/net/2"}) << "a later change is announced even if it was handed out";
+}
+
+TEST_F(CameraCatalogueTest, firstListIsAnnouncedIfTheProgramDoesNotAskForIt)
+{
+    catalogue.replaceInterfaces(0, cameras({"1"}));
+    EXPECT_TRUE(catalogue.announceFromNowOn(0));
+    EXPECT_FALSE(catalogue.announceFromNowOn(0));
+    EXPECT_EQ(change(), (Ids{"+[net]", "+a.cti/net/1"}));
+    EXPECT_EQ(change(), Ids{});
+}
+
+TEST_F(CameraCatalogueTest, announcesWhatAppearsAndDisappears)
+{
+    const DeviceRecord one = camera("1", "", "", ""), two = camera("2", "", "", "");
+    const struct
+    {
+        const char *name;
+        Interfaces before, after;
+        Ids change;
+    } rows[] = {
+        {"camera", {network("x", {one})}, {network("x", {two})}, {"-a.cti/x/1", "+a.cti/x/2"}},
+        {"interface", {network("x", {})}, {network("y", {})}, {"-[x]", "+[y]"}},
+        {"one ID on two interfaces", {network("x", {one}), network("y", {one}, 2)},
+            {network("x", {one}), network("y", {}, 2)}, {"-a.cti/y/1"}},
+        {"moved camera", {network("x", {one}), network("y", {}, 2)},
+            {network("x", {}), network("y", {one}, 2)}, {"-a.cti/x/1", "+a.cti/y/1"}},
+        {"one of two equal ones", {network("x", {one, one})}, {network("x", {one})}, {"-a.cti/x/1"}},
+        {"number and name of the interface", {network("x", {one}, 1)}, {{2, "x", "Other", "GEV", {one}}}, {}},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        catalogue.replaceInterfaces(0, row.before);
+        handedOut();
+        change();
+        catalogue.replaceInterfaces(0, row.after);
+        EXPECT_EQ(change(), row.change);
+    }
+}
+
+TEST_F(CameraCatalogueTest, changedFieldMakesARemovedAndAnAddedCamera)
+{
+    DeviceRecord device{"D", "", "", "", "", ""};
+    catalogue.replaceInterfaces(0, {network("n", {device, camera("E", "", "", "")})});
+    handedOut();
+    for (std::string *field : {&device.vendor, &device.model, &device.serial, &device.name, &device.type}) {
+        *field = "changed";
+        catalogue.replaceInterfaces(0, {network("n", {device, camera("E", "", "", "")})});
+        EXPECT_EQ(change(), (Ids{"-a.cti/n/D", "+a.cti/n/D"}));
+    }
+}
+
+TEST_F(CameraCatalogueTest, sameCameraIsListedOnceForTheFirstProducer)
+{
+    const Interfaces same{
+        network("net", {camera("1", "Vendor", "Model", "42"), camera("2", "Vendor", "Model", "42")})};
+    catalogue.replaceInterfaces(2, same);
+    catalogue.replaceInterfaces(
+        1, {network("net", {camera("1", "Vendor", "Model", "42"), camera("3", "V", "M", "S")})});
+    EXPECT_EQ(handedOut(), (Ids{"b.cti/net/1", "b.cti/net/3"}));
+    catalogue.replaceInterfaces(0, same);
+    EXPECT_EQ(handedOut(), (Ids{"a.cti/net/1", "a.cti/net/2", "b.cti/net/3"}))
+        << "nothing is left out within one producer";
+    EXPECT_EQ(change(), (Ids{"-b.cti/net/1", "+[net]", "+a.cti/net/1", "+a.cti/net/2"}));
+    EXPECT_EQ(catalogue.findInterface(1, "net")->devices.size(), 2U) << "its interface still has it";
+    catalogue.replaceInterfaces(1, {});
+    EXPECT_EQ(change(), (Ids{"-b.cti/net/3", "-[net]"})) << "a hidden camera disappears silently";
+    catalogue.replaceInterfaces(0, {});
+    EXPECT_EQ(handedOut(), (Ids{"a.cti/net/1", "a.cti/net/2"})) << "those of the third producer";
+}
+
+TEST_F(CameraCatalogueTest, recognisesACameraByVendorModelAndSerialNumber)
+{
+    const struct
+    {
+        const char *name;
+        DeviceRecord one, other;
+        bool isSame;
+    } rows[] = {
+        {"all equal", camera("1", "V", "M", "S"), camera("2", "V", "M", "S"), true},
+        {"letter case", camera("1", "VENDOR", "model", "sN1"), camera("2", "Vendor", "Model", "Sn1"), true},
+        {"white space around", camera("1", " V\t", "M ", " S"), camera("2", "V", "  M", "S  "), true},
+        {"white space within", camera("1", "V V", "M", "S"), camera("2", "VV", "M", "S"), false},
+        {"other vendor", camera("1", "V", "M", "S"), camera("2", "W", "M", "S"), false},
+        {"other model", camera("1", "V", "M", "S"), camera("2", "V", "N", "S"), false},
+        {"other serial number", camera("1", "V", "M", "S"), camera("2", "V", "M", "T"), false},
+        {"moved text", camera("1", "VM", "M", "S"), camera("2", "V", "MM", "S"), false},
+        {"no vendor", camera("1", "", "M", "S"), camera("2", "", "M", "S"), false},
+        {"no model", camera("1", "V", "", "S"), camera("2", "V", "", "S"), false},
+        {"no serial number", camera("1", "V", "M", ""), camera("2", "V", "M", ""), false},
+        {"blank serial number", camera("1", "V", "M", " "), camera("2", "V", "M", " "), false},
+        {"letters outside ASCII", camera("1", "\xC3\x84", "M", "S"), camera("2", "\xC3\xA4", "M", "S"),
+            false},
+        {"same ID only", camera("1", "V", "M", "S"), camera("1", "V", "M", "T"), false},
+    };
+    for (const auto &row : rows) {
+        catalogue.replaceInterfaces(0, {network("net", {row.one})});
+        catalogue.replaceInterfaces(1, {network("net", {row.other})});
+        EXPECT_EQ(handedOut().size(), row.isSame ? 1U : 2U) << row.name;
+    }
+}

@@ -1,0 +1,182 @@
+// The camera system over producers and hosts that fail or are slow.
+
+#include "tests/sdk/support/SystemTest.h"
+
+#include <csignal>
+
+using namespace CvxCPP;
+using namespace std::chrono_literals;
+
+using Calls = std::vector<std::string>;
+using Ids = std::vector<std::string>;
+
+class FailureTest : public SystemTest
+{
+protected:
+    pid_t hostOf(const std::string &producer)
+    {
+        const auto hosts = processesWith(ctiPath(producer + ".cti").string());
+        return hosts.empty() ? -1 : hosts.front();
+    }
+
+    /// Replaces the host program by a shell script, in which descriptor 3 is the socket.
+    void useHost(const std::string &script)
+    {
+        options.hostProgram = (directory.path() / "host").string();
+        writeFile(options.hostProgram, "#!/bin/sh\n" + script + '\n');
+        std::filesystem::permissions(options.hostProgram, std::filesystem::perms::owner_all);
+    }
+};
+
+TEST_F(FailureTest, crashedHostLosesItsCamerasAndIsStartedAgain)
+{
+    options.pollInterval = 1h; // The crash is noticed without a poll.
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    for (std::size_t crashes = 1; crashes <= 2; ++crashes) { // The producer worked between the two.
+        ASSERT_TRUE(waitUntil([&] { return list().size() == 1; }));
+        ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
+        EXPECT_TRUE(waitUntil([&] { return recorder->calls().size() == 2 * crashes; }));
+        EXPECT_EQ(countReports("cti/a.cti: was ended by SIGKILL (Killed)"), crashes);
+    }
+    EXPECT_EQ(
+        recorder->calls(), (Calls{"-a.cti/net0/A1", "+a.cti/net0/A1", "-a.cti/net0/A1", "+a.cti/net0/A1"}));
+}
+
+TEST_F(FailureTest, cameraOfACrashedProducerIsListedForTheNextOne)
+{
+    options.firstRestartDelay = 1h;
+    options.maxRestartDelay = 1h;
+    addProducer("a", cameras(1));
+    addProducer("b", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    const auto update = feature(*interfaceOf(list(), 0), "DeviceUpdateList");
+    EXPECT_EQ(listIds(), Ids{"a.cti/net0/A1"});
+    ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
+    ASSERT_TRUE(waitUntil([&] { return recorder->calls().size() == 2; }));
+    EXPECT_EQ(recorder->calls(), (Calls{"-a.cti/net0/A1", "+b.cti/net0/A1"}));
+    EXPECT_EQ(listIds(), Ids{"b.cti/net0/A1"});
+    EXPECT_EQ(update->RunCommand(), CvxErrorTimeout) << "the producer of that interface is gone";
+}
+
+TEST_F(FailureTest, failureThatRepeatsIsReportedOnce)
+{
+    addProducer("a", "fault load exit 9\n");
+    start();
+    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 4; }));
+    setScript("a", cameras(1));
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 1; })) << "a repaired producer works again";
+    EXPECT_EQ(reports(), std::vector<std::string>{ctiPath("a.cti").string() + ": exited with code 9"});
+}
+
+TEST_F(FailureTest, hangingHostIsKilledAndReportedOnce)
+{
+    options.searchTimeout = 100ms;
+    options.replyTimeout = 300ms;
+    options.closeTimeout = 100ms;
+    addProducer("a", "fault load hang\n");
+    start();
+    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 3; }));
+    stop(); // The next host hangs already.
+    ASSERT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
+    EXPECT_EQ(countReports("cti/a.cti: did not answer within 0.3 s and was killed"), 1U);
+}
+
+TEST_F(FailureTest, brokenProtocolIsReportedAndEndsTheHost)
+{
+    options.pollInterval = 1h;
+    const std::string empty = R"({"body":{"interfaces":[],"problems":[]},"id":1,"kind":"cameraList"})";
+    const struct
+    {
+        const char *host, *reason;
+    } rows[] = {
+        {"read line <&3; echo 'no JSON' >&3; sleep 100", "sent a reply that cannot be read"},
+        {"read line <&3; echo '{\"id\":1,\"kind\":\"door\",\"body\":{}}' >&3; sleep 100",
+            "sent a reply that cannot be read"},
+        {"read line <&3; printf '{\"id\":' >&3; exit 3", "exited with code 3"},
+        {"exec 3>&-; sleep 100", "closed its connection and was killed"},
+        {"read line <&3; echo '%s' >&3; sleep 0.2; echo '%s' >&3; sleep 100",
+            "sent a reply that was not requested"},
+    };
+    options.maxRestartDelay = 1h;
+    options.firstRestartDelay = 1h;
+    writeFile(ctiPath("a.cti"), "");
+    std::size_t count = 0;
+    for (const auto &row : rows) {
+        std::string script = row.host;
+        for (auto at = script.find("%s"); at != std::string::npos; at = script.find("%s"))
+            script.replace(at, 2, empty);
+        useHost(script);
+        start();
+        EXPECT_TRUE(waitUntil([&] { return reports().size() == count + 1; }));
+        stop();
+        ASSERT_EQ(reports().size(), ++count) << testing::PrintToString(reports());
+        EXPECT_EQ(reports().back(), ctiPath("a.cti").string() + ": " + row.reason);
+    }
+}
+
+TEST_F(FailureTest, hostThatKeepsSendingDoesNotKeepTheSystemFromEnding)
+{
+    useHost(R"(read line <&3; echo '{"body":{"interfaces":[],"problems":[]},"id":1,"kind":"cameraList"}' >&3
+        read line <&3; exec yes >&3)");
+    options.pollInterval = 1h;
+    options.reuseTime = 1h;
+    writeFile(ctiPath("a.cti"), "");
+    start();
+    EXPECT_TRUE(list().empty());
+    stop();
+    EXPECT_EQ(countReports("while it was closed"), 1U) << testing::PrintToString(reports());
+}
+
+TEST_F(FailureTest, hostProgramThatCannotBeStartedIsTriedAgain)
+{
+    useHost("exit 0");
+    writeFile(options.hostProgram, "#!/nowhere/interpreter\n");
+    std::filesystem::permissions(options.hostProgram, std::filesystem::perms::owner_all);
+    for (int i = 0; i < 6; ++i) // More than are started at a time.
+        addProducer(std::to_string(i), "interface n\ndevice n|1\n");
+    start();
+    EXPECT_TRUE(waitUntil([&] { return countReports(": cannot start " + options.hostProgram) == 6; }));
+    std::filesystem::remove(options.hostProgram);
+    std::filesystem::copy_file(CVX_PRODUCER_HOST, options.hostProgram);
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 6; }));
+}
+
+TEST_F(FailureTest, slowProducerIsNotWaitedForTwiceAndItsLateReplyIsAnnounced)
+{
+    options.pollInterval = 1h;
+    options.searchTimeout = 2s;
+    addProducer("slow", "fault load slow 5000\n" + cameras(1));
+    addProducer("well", "interface n|N|GEV\ndevice n|1|V|M|S|N|GEV\n");
+    start();
+    const auto recorder = recordCameras();
+    EXPECT_EQ(listIds(), Ids{"well.cti/n/1"});
+    EXPECT_EQ(list().size(), 1U) << "the reply would arrive within a second wait";
+    EXPECT_EQ(list().size(), 1U);
+    ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
+    EXPECT_EQ(recorder->calls(), Calls{"+slow.cti/net0/A1"});
+    EXPECT_EQ(list().size(), 2U);
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(FailureTest, slowOrHangingProducerKeepsItsCameras)
+{
+    options.searchTimeout = 200ms;
+    options.closeTimeout = 100ms;
+    addProducer("a", "fault IFUpdateDeviceList slow 600\n" + cameras(2));
+    start();
+    ASSERT_TRUE(waitUntil([this] { return list().size() == 2; }));
+    const auto interface = interfaceOf(list(), 1);
+    const auto update = feature(*interface, "DeviceUpdateList");
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess) << "what the last search found";
+    ASSERT_EQ(feature(*interface, "DeviceSelector")->SetValue(1), CvxErrorSuccess);
+    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A2");
+
+    setScript("a", "fault IFUpdateDeviceList hang\n" + cameras(1));
+    const std::size_t before = countCalls("a", "IFUpdateDeviceList");
+    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") > before; }));
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
+    EXPECT_EQ(list().size(), 2U);
+}

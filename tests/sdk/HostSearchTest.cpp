@@ -1,0 +1,164 @@
+// What a host makes of a producer's answers, as the camera system sees it.
+
+#include "tests/sdk/support/SystemTest.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace CvxCPP;
+using namespace std::chrono_literals;
+
+using Calls = std::vector<std::string>;
+using Ids = std::vector<std::string>;
+
+class HostSearchTest : public SystemTest
+{
+protected:
+    /// Makes the system search only when the test asks for it.
+    void neverPoll() { options.pollInterval = 1h; }
+
+    /// Returns the timeouts that a producer got in the calls of an update function, for one interface if
+    /// given.
+    Calls timeoutsOf(const std::string &producer, const std::string &call) const
+    {
+        Calls timeouts;
+        for (const std::string &line : callsOf(producer)) {
+            if (line.rfind(call + ' ', 0) == 0)
+                timeouts.push_back(line.substr(call.size() + 1));
+        }
+        return timeouts;
+    }
+
+    /// Waits for so many calls, and returns the timeouts of the first ones.
+    Calls firstTimeouts(const std::string &producer, const std::string &call, std::size_t count)
+    {
+        EXPECT_TRUE(waitUntil([&] { return timeoutsOf(producer, call).size() >= count; }));
+        Calls timeouts = timeoutsOf(producer, call);
+        timeouts.resize(count);
+        return timeouts;
+    }
+};
+
+TEST_F(HostSearchTest, producerNeedsOptionalFunctionsAsLittleAsHarmfulVariables)
+{
+    setScript("minimal", "interface empty|E|GEV\n" + cameras(1)); // Info of "empty" would crash the producer.
+    std::filesystem::copy_file(MINIMAL_PRODUCER, ctiPath("minimal.cti"));
+    setenv("GENICAM_GENTL64_PATH", "/nowhere", 1);
+    setenv("G_DEBUG", "fatal-warnings", 1);
+    start();
+    EXPECT_EQ(listIds(), Ids{"minimal.cti/net0/A1"});
+    unsetenv("GENICAM_GENTL64_PATH");
+    unsetenv("G_DEBUG");
+    EXPECT_EQ(callsOf("minimal").front(), "load") << "without the names of the two variables";
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(HostSearchTest, failureIsReportedWithoutTheProducersTextIfThereIsNone)
+{
+    const std::string failure = "fault IFUpdateDeviceList error -1010\n" + cameras(1);
+    for (const char *fault : {"error", "throw"})
+        addProducer(fault, failure + "fault GCGetLastError " + fault + " -1001\n");
+    setScript("lacking", failure);
+    std::filesystem::copy_file(MINIMAL_PRODUCER, ctiPath("lacking.cti"));
+    start();
+    EXPECT_TRUE(waitUntil([this] { return reports().size() == 3; }));
+    for (const std::string &line : reports())
+        EXPECT_EQ(line.substr(line.find(": ")), ": IFUpdateDeviceList failed with -1010 (GC_ERR_IO)") << line;
+}
+
+TEST_F(HostSearchTest, interfacesAreSearchedAtTheSameTime)
+{
+    neverPoll();
+    std::string script = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls run at once.
+    for (char id = 'a'; id < 'a' + 8; ++id)
+        script += std::string("interface ") + id + "\ndevice " + id + "|1\n";
+    addProducer("p", script);
+    start();
+    EXPECT_EQ(list().size(), 8U);
+}
+
+TEST_F(HostSearchTest, searchThatNeverEndsIsReportedAndGetsLittleTimeAgain)
+{
+    addProducer("a", "interface net0\nfault IFUpdateDeviceList:net0 search 60000\n");
+    start();
+    EXPECT_EQ(
+        firstTimeouts("a", "IFUpdateDeviceList net0", 5), (Calls{"500", "1000", "2000", "4000", "500"}));
+    EXPECT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
+    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1011 (GC_ERR_TIMEOUT)"), 1U);
+}
+
+TEST_F(HostSearchTest, interfaceSurvivesOneFailedUpdate)
+{
+    neverPoll(); // One list, one search.
+    addProducer("a", cameras(1));
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault IFUpdateDeviceList error -1010\n" + cameras(1));
+    EXPECT_EQ(list().size(), 1U);
+    EXPECT_TRUE(list().empty()) << "two failures are too many";
+    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1010 (GC_ERR_IO)"), 1U);
+    setScript("a", cameras(1));
+    EXPECT_EQ(list().size(), 1U);
+    EXPECT_EQ(countCalls("a", "load"), 1U);
+}
+
+TEST_F(HostSearchTest, deviceIdThatCannotBeReadOnceIsKept)
+{
+    neverPoll();
+    addProducer("a", cameras(2));
+    start();
+    ASSERT_EQ(list().size(), 2U);
+    setScript("a", "fault IFGetDeviceID:A1 error -1010\n" + cameras(2));
+    EXPECT_EQ(list().size(), 2U);
+    setScript("a", cameras(2));
+    EXPECT_EQ(list().size(), 2U);
+    EXPECT_EQ(countReports("IFGetDeviceID failed with -1010 (GC_ERR_IO)"), 1U);
+    setScript("a", "fault IFGetDeviceID:A1 error -1007\n" + cameras(2));
+    EXPECT_EQ(listIds(), Ids{"a.cti/net0/A2"}) << "GC_ERR_INVALID_ID: the device is gone";
+}
+
+TEST_F(HostSearchTest, slowSearchGetsMoreTimeAndKeepsIt)
+{
+    addProducer("devices", "fault IFUpdateDeviceList:net0 search 1200\n" + cameras(1) + "interface net1\n");
+    addProducer("interfaces", "fault TLUpdateInterfaceList search 1200\ninterface n\n");
+    start();
+    const Calls growing{"500", "1000", "2000", "2000"};
+    EXPECT_EQ(firstTimeouts("devices", "IFUpdateDeviceList net0", 4), growing);
+    EXPECT_EQ(firstTimeouts("interfaces", "TLUpdateInterfaceList", 4), growing);
+    EXPECT_EQ(firstTimeouts("devices", "IFUpdateDeviceList net1", 2), (Calls{"500", "500"}));
+    EXPECT_EQ(listIds(), Ids{"devices.cti/net0/A1"});
+    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
+}
+
+TEST_F(HostSearchTest, failingInterfaceListKeepsTheOpenInterfaces)
+{
+    neverPoll();
+    options.interfaceUpdateInterval = 0ms;
+    const std::string both = cameras(1) + "interface net1|Network 1|GEV\n";
+    addProducer("a", both);
+    start();
+    ASSERT_EQ(list().size(), 1U);
+    for (const std::string call : {"TLUpdateInterfaceList", "TLGetInterfaceID"}) {
+        setScript("a", "fault " + call + " error -1010\n" + both);
+        EXPECT_EQ(list().size(), 1U);
+        EXPECT_EQ(countReports(call + " failed with -1010 (GC_ERR_IO)"), 1U);
+    }
+    setScript("a", "fault TLGetInterfaceID:net0 error -1007\n" + both);
+    EXPECT_TRUE(list().empty()) << "GC_ERR_INVALID_ID: the interface is gone";
+    EXPECT_EQ(countCalls("a", "IFClose"), 1U);
+}
+
+TEST_F(HostSearchTest, closesWhatWasOpenedInOrder)
+{
+    addProducer("a", "interface x|X|GEV\ninterface y|Y|GEV\n");
+    addProducer("b", "fault TLOpen error -1004\n");
+    start();
+    list();
+    stop();
+    const auto calls = callsOf("a");
+    ASSERT_GE(calls.size(), 4U);
+    EXPECT_EQ(
+        Calls(calls.end() - 4, calls.end()), (Calls{"IFClose x", "IFClose y", "TLClose", "GCCloseLib"}));
+    EXPECT_EQ(callsOf("b").back(), "GCCloseLib");
+    EXPECT_EQ(countCalls("b", "TLClose"), 0U);
+}

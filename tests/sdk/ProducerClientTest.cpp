@@ -1,0 +1,174 @@
+#include "sdk/cvxcpp/ProducerClient.h"
+#include "sdk/protocol/DiscoveryMessages.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr TimePoint start{100s};
+constexpr std::size_t maxLength = 500; // Bytes of a line.
+
+} // namespace
+
+/// The client with the test as the host at the other end of its socket.
+class ProducerClientTest : public testing::Test
+{
+protected:
+    ProducerClientTest()
+    {
+        std::array<int, 2> ends{};
+        EXPECT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+        client.connect(LineChannel(ends[0], maxLength));
+        host = LineChannel(ends[1]);
+    }
+
+    /// Returns the reason of a protocol error or of a producer's failure; otherwise what was received.
+    std::string received()
+    {
+        const auto result = client.receive();
+        if (const auto *error = std::get_if<ProducerClient::ProtocolError>(&result))
+            return error->reason;
+        if (const auto *failure = std::get_if<ProducerClient::ProducerFailure>(&result))
+            return failure->problem.call;
+        if (std::holds_alternative<ProducerClient::Disconnected>(result))
+            return "disconnected";
+        return std::holds_alternative<Message>(result) ? "reply" : "nothing";
+    }
+
+    static std::string replyTo(Message::Id id) { return Message(id, CameraListReply()).toLine(); }
+
+    ProducerClient client{3s, 10s};
+    LineChannel host;
+};
+
+TEST_F(ProducerClientTest, acceptsTheReplyToItsRequest)
+{
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_FALSE(client.isWaiting());
+        client.send(ListInterfaceRequest{7}, start);
+        EXPECT_TRUE(client.isWaiting());
+        EXPECT_EQ(received(), "nothing");
+        std::string line;
+        ASSERT_EQ(host.tryReadLine(line), LineChannel::Status::Line);
+        const auto request = Message::fromLine(line);
+        ASSERT_TRUE(request && request->content<ListInterfaceRequest>());
+        EXPECT_EQ(request->content<ListInterfaceRequest>()->number, 7U);
+        host.send(replyTo(request->id()));
+        EXPECT_EQ(received(), "reply");
+    }
+    EXPECT_FALSE(client.isWaiting());
+}
+
+TEST_F(ProducerClientTest, waitsForTheRestOfAReply)
+{
+    client.send(ListCamerasRequest(), start);
+    const std::string reply = replyTo(1);
+    host.send(reply.substr(0, 10));
+    EXPECT_EQ(received(), "nothing");
+    host.send(reply.substr(10));
+    EXPECT_EQ(received(), "reply");
+}
+
+TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
+{
+    const std::string failure = Message(Message::noRequest, ProducerFailedReply{{"TLOpen", -1, ""}}).toLine();
+    const struct
+    {
+        const char *name;
+        std::string sent, result;
+    } rows[] = {
+        {"garbage", "garbage\n", "sent a reply that cannot be read"},
+        {"bytes", "\xFF\xFE\n", "sent a reply that cannot be read"},
+        {"wrong ID", replyTo(2), "sent a reply that was not requested"},
+        {"two replies", replyTo(1) + replyTo(1), "sent a reply that was not requested"},
+        {"no line feed", std::string(maxLength + 1, ' '), "sent a reply that is too long"},
+        {"failure", failure, "TLOpen"},
+        {"failure after the reply", replyTo(1) + failure, "TLOpen"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        std::array<int, 2> ends{};
+        ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()), 0);
+        ProducerClient fresh(3s, 10s);
+        fresh.connect(LineChannel(ends[0], maxLength));
+        std::swap(client, fresh);
+        client.send(ListCamerasRequest(), start);
+        LineChannel(ends[1]).send(row.sent);
+        EXPECT_EQ(received(), row.result);
+    }
+}
+
+TEST_F(ProducerClientTest, acceptsNothingButAFailureWithoutARequest)
+{
+    host.send(replyTo(Message::noRequest));
+    EXPECT_EQ(received(), "sent a reply that was not requested");
+    host.send(Message(Message::noRequest, ProducerFailedReply{{"the producer", 0, ""}}).toLine());
+    EXPECT_EQ(received(), "the producer");
+}
+
+TEST_F(ProducerClientTest, returnsTheReplyBeforeTheEndOfTheConnection)
+{
+    client.send(ListCamerasRequest(), start);
+    host.send(replyTo(1));
+    host.close();
+    EXPECT_EQ(received(), "reply");
+    EXPECT_EQ(received(), "disconnected");
+    client.disconnect();
+    EXPECT_EQ(client.descriptor(), -1);
+    EXPECT_EQ(received(), "disconnected");
+}
+
+TEST_F(ProducerClientTest, watchesTheDeadlinesOfARequest)
+{
+    EXPECT_EQ(client.nextDeadline(start), TimePoint::max());
+    EXPECT_FALSE(client.isLate(start));
+    EXPECT_FALSE(client.isExpired(start));
+    client.send(ListCamerasRequest(), start);
+    const struct
+    {
+        Milliseconds time;
+        bool isLate, isExpired;
+        Milliseconds next;
+    } rows[] = {{0s, false, false, 3s}, {2999ms, false, false, 3s}, {3s, true, false, 10s},
+        {9999ms, true, false, 10s}, {10s, true, true, 10s}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.time.count());
+        EXPECT_EQ(client.isLate(start + row.time), row.isLate);
+        EXPECT_EQ(client.isInTime(start + row.time), !row.isLate);
+        EXPECT_EQ(client.isExpired(start + row.time), row.isExpired);
+        EXPECT_EQ(client.nextDeadline(start + row.time), start + row.next);
+    }
+    client.disconnect();
+    EXPECT_FALSE(client.isLate(start + 10s));
+    EXPECT_EQ(client.waitingTime(start + 10s), 10s);
+}
+
+TEST_F(ProducerClientTest, collectsTheProblemsOfTheLastMessages)
+{
+    client.send(ListCamerasRequest(), start);
+    client.sendLast(CloseProducerRequest());
+    EXPECT_TRUE(client.isWaiting());
+    host.send(Message(1, CameraListReply{{}, {{"IFGetDeviceID", 0, ""}}}).toLine() + "garbage\n"
+        + Message(2, ProducerClosedReply{{{"TLClose", 0, ""}}}).toLine());
+    std::vector<Problem> problems;
+    EXPECT_TRUE(client.receiveLast(problems));
+    host.send(Message(0, ProducerFailedReply{{"the producer", 0, ""}}).toLine());
+    host.close();
+    EXPECT_FALSE(client.receiveLast(problems));
+    ASSERT_EQ(problems.size(), 3U);
+    EXPECT_EQ(problems[0].call, "IFGetDeviceID");
+    EXPECT_EQ(problems[1].call, "TLClose");
+    EXPECT_EQ(problems[2].call, "the producer");
+}
+
+TEST_F(ProducerClientTest, aHostThatKeepsSendingIsNotReadForEver)
+{
+    for (int i = 0; i < 10; ++i)
+        host.send(replyTo(1));
+    std::vector<Problem> problems;
+    EXPECT_FALSE(client.receiveLast(problems));
+}

@@ -1,0 +1,114 @@
+#include "sdk/cvxcpp/ProducerProcess.h"
+#include "tests/sdk/support/OutOfDescriptors.h"
+#include "tests/sdk/support/TemporaryDirectory.h"
+#include "tests/sdk/support/Waiting.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+class ProducerProcessTest : public testing::Test
+{
+protected:
+    /// Starts a shell script in the place of the host.
+    std::string startScript(const std::string &script, ProducerProcess &process)
+    {
+        const fs::path program = directory.path() / "host";
+        writeFile(program, "#!/bin/sh\n" + script + '\n');
+        fs::permissions(program, fs::perms::owner_all);
+        auto result = process.start(program.string(), "a.cti");
+        channel = std::move(result.channel);
+        return result.failure;
+    }
+
+    std::string nextLine()
+    {
+        std::string line;
+        EXPECT_EQ(channel.waitForLine(line), LineChannel::Status::Line);
+        return line;
+    }
+
+    static std::optional<int> statusOf(ProducerProcess &process)
+    {
+        std::optional<int> status;
+        EXPECT_TRUE(waitUntil([&] { return (status = process.tryReap()).has_value(); }));
+        return status;
+    }
+
+    TemporaryDirectory directory;
+    LineChannel channel;
+};
+
+TEST_F(ProducerProcessTest, connectsTheHostAndPassesTheProducer)
+{
+    ProducerProcess process;
+    ASSERT_EQ(startScript("read line <&3; echo \"$line $1\" >&3; exit 7", process), "");
+    EXPECT_TRUE(process.isStarted());
+    EXPECT_EQ(process.tryReap(), std::nullopt);
+    channel.send("to\n");
+    EXPECT_EQ(nextLine(), "to a.cti");
+    const int status = *statusOf(process);
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 7);
+    EXPECT_FALSE(process.isStarted());
+}
+
+TEST_F(ProducerProcessTest, hostHasOnlyItsOwnDescriptorsAndDefaultSignalHandling)
+{
+    const int ours = open("/dev/null", O_RDONLY); // Without close-on-exec.
+    const auto before = std::signal(SIGUSR1, SIG_IGN);
+    ProducerProcess process;
+    ASSERT_EQ(startScript("ls -m /proc/self/fd >&3; kill -USR1 $$; exit 0", process), "");
+    std::signal(SIGUSR1, before);
+    close(ours);
+    EXPECT_EQ(nextLine(), "0, 1, 2, 3, 4") << "the last one is the directory that is listed";
+    EXPECT_EQ(statusOf(process), SIGUSR1);
+    EXPECT_NE(fcntl(channel.descriptor(), F_GETFD) & FD_CLOEXEC, 0) << "programs that we start get nothing";
+}
+
+TEST_F(ProducerProcessTest, killsTheHostAndItsChildren)
+{
+    {
+        ProducerProcess process;
+        ASSERT_EQ(startScript("sleep 1000 & echo >&3; sleep 1000", process), "");
+        nextLine();
+        process.kill();
+        EXPECT_EQ(statusOf(process), SIGKILL);
+        ASSERT_EQ(startScript("sleep 1000 & echo >&3; exit 0", process), "");
+        nextLine();
+        EXPECT_EQ(statusOf(process), 0);
+        ASSERT_EQ(startScript("sleep 1000 & echo >&3; sleep 1000", process), "");
+        nextLine(); // The destructor ends these two.
+    }
+    std::string line;
+    EXPECT_EQ(channel.waitForLine(line), LineChannel::Status::Closed) << "all ends of its socket are closed";
+    EXPECT_TRUE(waitUntil([] { return waitpid(-1, nullptr, WNOHANG) < 0; })) << "nothing is left to reap";
+}
+
+TEST_F(ProducerProcessTest, reportsWhyItCannotStart)
+{
+    ProducerProcess process;
+    EXPECT_EQ(process.start("/nowhere/host", "a.cti").failure,
+        "cannot start /nowhere/host: No such file or directory");
+    EXPECT_FALSE(process.isStarted());
+
+    const OutOfDescriptors outOfDescriptors;
+    const auto result = process.start(CVX_PRODUCER_HOST, "a.cti");
+    EXPECT_EQ(result.failure, "cannot create a socket for its host: Too many open files");
+    EXPECT_EQ(result.channel.descriptor(), -1);
+}
+
+TEST_F(ProducerProcessTest, noticesTheEndInAProgramThatIgnoresItsChildren)
+{
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    ProducerProcess process;
+    ASSERT_EQ(startScript("exit 0", process), "");
+    EXPECT_EQ(statusOf(process), ProducerProcess::unknownStatus);
+    std::signal(SIGCHLD, before);
+}

@@ -1,0 +1,122 @@
+#include "sdk/cvxcpp/InterfaceUpdateSchedule.h"
+#include "sdk/cvxcpp/NotificationHold.h"
+#include "sdk/cvxcpp/PollSchedule.h"
+#include "sdk/cvxcpp/RestartPolicy.h"
+#include "sdk/cvxcpp/StartOrder.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr TimePoint start{100s};
+
+/// Returns the delays after failures that follow each start at once.
+std::vector<Milliseconds> delaysOf(RestartPolicy &policy, int failures)
+{
+    std::vector<Milliseconds> delays;
+    for (int i = 0; i < failures; ++i) {
+        policy.started(start);
+        policy.failed(start);
+        delays.push_back(std::chrono::duration_cast<Milliseconds>(policy.nextStart() - start));
+    }
+    return delays;
+}
+
+} // namespace
+
+TEST(RestartPolicy, startsForTheFirstTimeAtOnce)
+{
+    EXPECT_LE(RestartPolicy(1s, 60s).nextStart(), start);
+}
+
+TEST(RestartPolicy, delayDoublesUpToTheLimit)
+{
+    RestartPolicy policy(1s, 10s);
+    EXPECT_EQ(delaysOf(policy, 6), (std::vector<Milliseconds>{1s, 2s, 4s, 8s, 10s, 10s}));
+}
+
+TEST(RestartPolicy, firstDelayStaysBelowTheLimitToo)
+{
+    RestartPolicy policy(20s, 10s);
+    EXPECT_EQ(delaysOf(policy, 2), (std::vector<Milliseconds>{10s, 10s}));
+}
+
+TEST(RestartPolicy, delayIsTheFirstAgainAfterALongRun)
+{
+    const struct
+    {
+        Milliseconds run, delay;
+    } rows[] = {{9999ms, 4s}, {10s, 1s}};
+    for (const auto &row : rows) {
+        RestartPolicy policy(1s, 10s);
+        delaysOf(policy, 2);
+        policy.started(start);
+        policy.failed(start + row.run);
+        EXPECT_EQ(policy.nextStart(), start + row.run + row.delay);
+    }
+}
+
+TEST(PollSchedule, pollsOnceInEveryInterval)
+{
+    PollSchedule schedule(2s, start);
+    EXPECT_EQ(schedule.nextPoll(), start + 2s);
+    EXPECT_FALSE(schedule.takeDuePoll(start + 1999ms));
+    EXPECT_TRUE(schedule.takeDuePoll(start + 2100ms));
+    EXPECT_EQ(schedule.nextPoll(), start + 4s) << "a late poll does not delay the next one";
+    EXPECT_FALSE(schedule.takeDuePoll(start + 3999ms));
+}
+
+TEST(PollSchedule, replacesPollsMissedDuringAStandstillByOne)
+{
+    PollSchedule schedule(2s, start);
+    EXPECT_TRUE(schedule.takeDuePoll(start + 100s));
+    EXPECT_EQ(schedule.nextPoll(), start + 100s);
+    EXPECT_TRUE(schedule.takeDuePoll(start + 100s));
+    EXPECT_EQ(schedule.nextPoll(), start + 102s);
+}
+
+TEST(InterfaceUpdateSchedule, updatesWithTheFirstListOfAHostAndThenNowAndThen)
+{
+    InterfaceUpdateSchedule schedule(10s, 2s);
+    EXPECT_TRUE(schedule.takeDueUpdate(start));
+    EXPECT_FALSE(schedule.takeDueUpdate(start + 8999ms));
+    EXPECT_TRUE(schedule.takeDueUpdate(start + 9s)) << "a poll that is a little early updates all the same";
+    EXPECT_FALSE(schedule.takeDueUpdate(start + 11s));
+    schedule.hostStarted();
+    EXPECT_TRUE(schedule.takeDueUpdate(start + 11s));
+}
+
+TEST(StartOrder, prefersThoseThatWaitLongest)
+{
+    const TimePoint first{}, running = TimePoint::max();
+    const std::vector<TimePoint> times{
+        start, start - 1s, running, first, start + 1ms, start - 2s, first, start - 1s};
+    EXPECT_EQ(chooseStarts(times, start), (std::vector<std::size_t>{3, 6, 5, 1}));
+    EXPECT_EQ(chooseStarts({start + 1ms, running}, start), std::vector<std::size_t>{});
+}
+
+TEST(NotificationHold, nothingIsDueWithoutAChange)
+{
+    NotificationHold hold;
+    EXPECT_FALSE(hold.dueTime());
+    hold.changed(start);
+    hold.notified();
+    EXPECT_FALSE(hold.dueTime());
+}
+
+TEST(NotificationHold, holdsAChangeBackButNotForEver)
+{
+    NotificationHold hold;
+    hold.holdUntil(start + 250ms);
+    hold.holdUntil(start);
+    hold.changed(start);
+    EXPECT_EQ(hold.dueTime(), start + 250ms);
+    hold.holdUntil(start + 450ms);
+    hold.changed(start + 400ms);
+    EXPECT_EQ(hold.dueTime(), start + 450ms);
+    hold.holdUntil(start + 700ms);
+    EXPECT_EQ(hold.dueTime(), start + 500ms) << "half a second after the oldest change";
+}

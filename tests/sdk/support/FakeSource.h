@@ -1,0 +1,19 @@
+#pragma once
+
+#include "sdk/cvxcpp/InterfaceSource.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <string>
+
+/// A session for API objects under test. Searches as the test says.
+class FakeSource final : public InterfaceSource
+{
+public:
+    RunningFlag runningFlag() const override { return isRunning; }
+    SearchResult searchInterface(std::size_t, const std::string &) override { return search(); }
+
+    std::shared_ptr<std::atomic<bool>> isRunning = std::make_shared<std::atomic<bool>>(true);
+    std::function<SearchResult()> search;
+};
