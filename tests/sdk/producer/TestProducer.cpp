@@ -11,9 +11,8 @@
 // CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate, threads,
 // signals, print, ask (on the terminal), close.
 // Faults of functions that return a string: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with
-// the error code of GenTL 1.3), late-error CODE (of the second call), number (instead of a string), size
-// BYTES
-// ("size -1" reports one byte less than the string has, and ignores the capacity).
+// the error code of GenTL 1.3), late-error CODE (of the second call), number (instead of a string),
+// size BYTES ("size -1" reports one byte less than the string has, and ignores the capacity).
 // Faults of the update functions: search MILLISECONDS, which times out if it gets less time.
 // TLOpenInterface: in-use, which opens the interface all the same. Functions that count: more.
 // IFUpdateDeviceList:ID is the update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
