@@ -118,8 +118,7 @@ TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
         "/usr/bin/script", // Runs the program in a terminal that stops background processes which use it.
         {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start list stop", "/dev/null"});
     EXPECT_EQ(process.exitStatus(), 0);
-    EXPECT_EQ(process.count("list 0 3"), 1U)
-        << "both report the same camera: " << process.output().substr(0, 1000);
+    EXPECT_EQ(process.count("list 0 4"), 1U) << process.output().substr(0, 1000);
     EXPECT_GT(process.count("xxxx"), 0U) << "the output of the producer appears";
 }
 
