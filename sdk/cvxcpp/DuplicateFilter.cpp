@@ -15,7 +15,7 @@ namespace {
 using Identity = std::array<std::string, 3>; // Vendor, model and serial number.
 using Identities = std::set<Identity>;
 
-std::string_view trimmed(std::string_view text)
+std::string_view trimmedView(std::string_view text)
 {
     constexpr std::string_view whiteSpace = " \t\n\v\f\r";
     const std::size_t first = text.find_first_not_of(whiteSpace);
@@ -33,7 +33,7 @@ char lowerCase(char character)
 std::string normalised(std::string_view text)
 {
     std::string result;
-    text = trimmed(text);
+    text = trimmedView(text);
     std::transform(text.begin(), text.end(), std::back_inserter(result), lowerCase);
     return result;
 }

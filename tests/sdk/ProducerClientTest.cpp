@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr TimePoint start{100s};
+constexpr TimePoint begin{100s};
 constexpr std::size_t maxLength = 500; // Bytes of a line.
 
 } // namespace
@@ -52,7 +52,7 @@ TEST_F(ProducerClientTest, acceptsTheReplyToItsRequest)
 {
     for (int round = 0; round < 2; ++round) {
         EXPECT_FALSE(client.isWaiting());
-        client.send(ListInterfaceRequest{7}, start);
+        client.send(ListInterfaceRequest{7}, begin);
         EXPECT_TRUE(client.isWaiting());
         EXPECT_EQ(received(), "nothing");
         std::string line;
@@ -84,7 +84,7 @@ TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
     };
     for (const auto &row : rows) {
         connect();
-        client.send(ListCamerasRequest(), start);
+        client.send(ListCamerasRequest(), begin);
         host.send(row.sent);
         EXPECT_EQ(received(), row.result) << row.name;
     }
@@ -95,7 +95,7 @@ TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
 
 TEST_F(ProducerClientTest, returnsTheReplyBeforeTheEndOfTheConnection)
 {
-    client.send(ListCamerasRequest(), start);
+    client.send(ListCamerasRequest(), begin);
     host.send(replyTo(1));
     host.close();
     EXPECT_EQ(received(), "reply");
@@ -107,10 +107,10 @@ TEST_F(ProducerClientTest, returnsTheReplyBeforeTheEndOfTheConnection)
 
 TEST_F(ProducerClientTest, watchesTheDeadlinesOfARequest)
 {
-    EXPECT_EQ(client.nextDeadline(start), TimePoint::max());
-    EXPECT_FALSE(client.isLate(start));
-    EXPECT_FALSE(client.isExpired(start));
-    client.send(ListCamerasRequest(), start);
+    EXPECT_EQ(client.nextDeadline(begin), TimePoint::max());
+    EXPECT_FALSE(client.isLate(begin));
+    EXPECT_FALSE(client.isExpired(begin));
+    client.send(ListCamerasRequest(), begin);
     const struct
     {
         Milliseconds time;
@@ -120,19 +120,19 @@ TEST_F(ProducerClientTest, watchesTheDeadlinesOfARequest)
         {9999ms, true, false, 10s}, {10s, true, true, 10s}};
     for (const auto &row : rows) {
         SCOPED_TRACE(row.time.count());
-        EXPECT_EQ(client.isLate(start + row.time), row.isLate);
-        EXPECT_EQ(client.isInTime(start + row.time), !row.isLate);
-        EXPECT_EQ(client.isExpired(start + row.time), row.isExpired);
-        EXPECT_EQ(client.nextDeadline(start + row.time), start + row.next);
+        EXPECT_EQ(client.isLate(begin + row.time), row.isLate);
+        EXPECT_EQ(client.isInTime(begin + row.time), !row.isLate);
+        EXPECT_EQ(client.isExpired(begin + row.time), row.isExpired);
+        EXPECT_EQ(client.nextDeadline(begin + row.time), begin + row.next);
     }
     client.disconnect();
-    EXPECT_FALSE(client.isLate(start + 10s));
-    EXPECT_EQ(client.waitingTime(start + 10s), 10s);
+    EXPECT_FALSE(client.isLate(begin + 10s));
+    EXPECT_EQ(client.waitingTime(begin + 10s), 10s);
 }
 
 TEST_F(ProducerClientTest, collectsTheProblemsOfTheLastMessages)
 {
-    client.send(ListCamerasRequest(), start);
+    client.send(ListCamerasRequest(), begin);
     client.sendLast(CloseProducerRequest());
     EXPECT_TRUE(client.isWaiting());
     host.send(Message(1, CameraListReply{{}, {{"IFGetDeviceID", 0, ""}}}).toLine() + "garbage\n"

@@ -6,7 +6,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr TimePoint start{100s};
+constexpr TimePoint searchTime{100s};
 
 } // namespace
 
@@ -21,32 +21,32 @@ TEST_F(SearchStateTest, startsResponsiveAndWithoutResults)
     EXPECT_TRUE(search.isResponsive());
     EXPECT_FALSE(search.takeListRequest());
     EXPECT_EQ(search.nextInterfaceRequest(), std::nullopt);
-    search.searchEnded(start);
-    EXPECT_FALSE(search.isFresh(start));
+    search.searchEnded(searchTime);
+    EXPECT_FALSE(search.isFresh(searchTime));
 }
 
 TEST_F(SearchStateTest, listIsFreshForTheReuseTimeAfterItsSearch)
 {
-    search.listReceived(start, true);
+    search.listReceived(searchTime, true);
     EXPECT_EQ(search.listCount(), 1U);
-    EXPECT_TRUE(search.isFresh(start + 999ms));
-    EXPECT_TRUE(search.isInterfaceFresh("net", start + 999ms));
-    EXPECT_FALSE(search.isFresh(start + 1s));
-    search.searchEnded(start + 1s);
-    EXPECT_TRUE(search.isFresh(start + 1999ms)) << "a slow neighbour does not make the list old";
+    EXPECT_TRUE(search.isFresh(searchTime + 999ms));
+    EXPECT_TRUE(search.isInterfaceFresh("net", searchTime + 999ms));
+    EXPECT_FALSE(search.isFresh(searchTime + 1s));
+    search.searchEnded(searchTime + 1s);
+    EXPECT_TRUE(search.isFresh(searchTime + 1999ms)) << "a slow neighbour does not make the list old";
     search.deadlineMissed();
-    search.searchEnded(start + 1900ms);
-    EXPECT_FALSE(search.isFresh(start + 2s)) << "this producer had no part in the second search";
+    search.searchEnded(searchTime + 1900ms);
+    EXPECT_FALSE(search.isFresh(searchTime + 2s)) << "this producer had no part in the second search";
 }
 
 TEST_F(SearchStateTest, interfaceIsFreshByItself)
 {
-    search.listReceived(start, true);
-    search.interfaceReceived("net", start + 1s, true);
-    EXPECT_TRUE(search.isInterfaceFresh("net", start + 1999ms));
-    EXPECT_FALSE(search.isInterfaceFresh("other", start + 1999ms));
-    EXPECT_FALSE(search.isInterfaceFresh("net", start + 2s));
-    EXPECT_FALSE(search.isFresh(start + 1s));
+    search.listReceived(searchTime, true);
+    search.interfaceReceived("net", searchTime + 1s, true);
+    EXPECT_TRUE(search.isInterfaceFresh("net", searchTime + 1999ms));
+    EXPECT_FALSE(search.isInterfaceFresh("other", searchTime + 1999ms));
+    EXPECT_FALSE(search.isInterfaceFresh("net", searchTime + 2s));
+    EXPECT_FALSE(search.isFresh(searchTime + 1s));
 }
 
 TEST_F(SearchStateTest, requestsStayPendingUntilTheyAreAnswered)
@@ -57,13 +57,13 @@ TEST_F(SearchStateTest, requestsStayPendingUntilTheyAreAnswered)
     for (const char *interface : {"c", "b", "a"})
         search.requestInterface(interface);
     EXPECT_EQ(search.nextInterfaceRequest(), "a");
-    search.interfaceReceived("a", start, true);
+    search.interfaceReceived("a", searchTime, true);
     EXPECT_FALSE(search.isInterfacePending("a"));
     EXPECT_EQ(search.nextInterfaceRequest(), "b");
     search.dropInterfaceRequest("b");
     EXPECT_TRUE(search.isInterfacePending("c"));
     search.requestList();
-    search.listReceived(start, true);
+    search.listReceived(searchTime, true);
     EXPECT_FALSE(search.isInterfacePending("c")) << "a list answers every earlier request";
     EXPECT_FALSE(search.takeListRequest());
 }
@@ -73,22 +73,22 @@ TEST_F(SearchStateTest, producerIsUnresponsiveUntilItsNextReplyInTime)
     search.deadlineMissed();
     EXPECT_FALSE(search.isResponsive());
     for (const bool isInTime : {false, true, false, true}) {
-        search.listReceived(start, isInTime);
+        search.listReceived(searchTime, isInTime);
         EXPECT_EQ(search.isResponsive(), isInTime);
-        search.interfaceReceived("net", start, !isInTime);
+        search.interfaceReceived("net", searchTime, !isInTime);
         EXPECT_EQ(search.isResponsive(), !isInTime);
     }
 }
 
 TEST_F(SearchStateTest, lostProducerHasNothingFreshAndNothingPendingButItsList)
 {
-    search.listReceived(start, true);
-    search.interfaceReceived("net", start, true);
+    search.listReceived(searchTime, true);
+    search.interfaceReceived("net", searchTime, true);
     search.requestInterface("net");
     search.requestList();
     search.producerLost();
     EXPECT_FALSE(search.isResponsive());
-    EXPECT_FALSE(search.isInterfaceFresh("net", start));
+    EXPECT_FALSE(search.isInterfaceFresh("net", searchTime));
     EXPECT_FALSE(search.isInterfacePending("net"));
     EXPECT_TRUE(search.takeListRequest());
 }
