@@ -1,8 +1,8 @@
-# Two interface targets: corvix_warnings for all of our code, launcher_warnings for the code that uses Qt.
+# Defines two interface targets: corvix_warnings for all of our code, and launcher_warnings for code that uses Qt.
 
 set(CORVIX_SANITIZE "" CACHE STRING "Sanitizers to build with, for example \"address,undefined\" or \"thread\"")
 option(CORVIX_COVERAGE "Instrument for gcov" OFF)
-option(CORVIX_FUZZ "Build the fuzzers in place of the tests that run their cases; needs clang" OFF)
+option(CORVIX_FUZZ "Build the fuzzers instead of the tests that run their kept inputs; needs clang" OFF)
 
 add_library(corvix_warnings INTERFACE)
 target_compile_options(corvix_warnings INTERFACE

@@ -1,4 +1,4 @@
-# CPack reads this once for each kind of package.
+# CPack reads this once per generator.
 
 if(CPACK_GENERATOR STREQUAL "DEB")
     set(CPACK_PACKAGING_INSTALL_PREFIX /opt/corvix-x)

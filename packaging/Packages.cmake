@@ -1,4 +1,4 @@
-# CPack: one Debian package per component, below /opt/corvix-x, and one archive of everything to unpack anywhere.
+# CPack builds one Debian package per component, which installs into /opt/corvix-x, and one archive of all components.
 
 set(CPACK_PACKAGE_NAME corvix-x)
 set(CPACK_PACKAGE_VENDOR "The Corvix X launcher authors")
@@ -27,7 +27,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(same_version "corvix-x-launcher (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 
-# corvix_deb_package(COMPONENT NAME DESCRIPTION LINE…): a component's package, described by one line and a paragraph.
+# corvix_deb_package(COMPONENT NAME SUMMARY LINE…): defines the package of a component, with a summary and a description.
 macro(corvix_deb_package component name)
     string(TOUPPER ${component} key)
     list(APPEND CPACK_COMPONENTS_ALL ${component})
@@ -42,29 +42,30 @@ endmacro()
 set(CPACK_COMPONENTS_ALL "")
 corvix_deb_package(launcher corvix-x-launcher
     "launcher for industrial cameras and their tools"
-    "Lists the cameras that GenICam GenTL producers report, and GigE Vision and"
-    "USB3 Vision cameras of any maker. Sorts them into hardware groups and starts"
-    "the tools of the Corvix X camera SDK that suit them.")
+    "The launcher lists the cameras that GenICam GenTL producers report, and the"
+    "GigE Vision and USB3 Vision cameras of any vendor. It sorts them into hardware"
+    "groups and starts the tools of the Corvix X camera SDK that suit them.")
 set(CPACK_DEBIAN_LAUNCHER_PACKAGE_RECOMMENDS "xdg-utils, qttranslations5-l10n, qtwayland5")
 set(CPACK_DEBIAN_LAUNCHER_PACKAGE_SUGGESTS "corvix-x-simulator, corvix-x-demo")
 
 corvix_deb_package(simulator corvix-x-simulator
     "simulated cameras for the Corvix X launcher"
-    "A GenTL producer that reports the cameras of a JSON file, the scene. A camera"
-    "that is added to the file is plugged in, one that is deleted is unplugged.")
+    "A GenTL producer that reports the cameras that its JSON configuration file"
+    "describes. Adding a camera to the file simulates that it is plugged in, and"
+    "deleting a camera that it is unplugged.")
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_DEPENDS ${same_version})
 
 corvix_deb_package(sdk-dev corvix-x-dev
-    "camera listing of the Corvix X SDK - development files"
-    "The C++ header, a CMake package (find_package(CvxCPP)) and an example of a"
-    "program that lists cameras.")
+    "camera enumeration of the Corvix X SDK - development files"
+    "The C++ header, a CMake package (find_package(CvxCPP)) and the source of an"
+    "example program that lists cameras.")
 set(CPACK_DEBIAN_SDK-DEV_PACKAGE_DEPENDS ${same_version})
 set(CPACK_DEBIAN_SDK-DEV_PACKAGE_SECTION libdevel)
 
 corvix_deb_package(demo corvix-x-demo
     "stand-ins for the tools of the Corvix X launcher"
-    "One small program under the names of the tools that the launcher starts, for"
-    "trying the launcher where the tools are not installed.")
+    "A small program with the names of the tools that the launcher starts. It shows"
+    "that a tool was started on a system where the tools are not installed.")
 set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS ${same_version})
 
 include(CPack)

@@ -1,11 +1,11 @@
-# Packs the archive anew: CPack takes its files in the order in which the file system lists them, which differs from
-# machine to machine.
+# Repacks the archive with sorted entries. CPack packs the files in the order of the file system, which differs between
+# machines.
 
 if(NOT CPACK_GENERATOR STREQUAL "TGZ")
     return()
 endif()
 
-string(TIMESTAMP now "%s" UTC) # Of SOURCE_DATE_EPOCH, where that is set.
+string(TIMESTAMP now "%s" UTC) # This is SOURCE_DATE_EPOCH if it is set.
 foreach(archive IN LISTS CPACK_PACKAGE_FILES)
     string(REGEX REPLACE "\\.gz$" "" tar ${archive})
     file(REMOVE ${archive})

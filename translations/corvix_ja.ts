@@ -34,7 +34,7 @@
     <name>LauncherConfig</name>
     <message>
         <source>Configuration files version mismatch!</source>
-        <extracomment>For the log, which is in English throughout: to be left as it is.</extracomment>
+        <extracomment>A log message. All log messages are in English, so do not translate it.</extracomment>
         <translation>Configuration files version mismatch!</translation>
     </message>
 </context>

@@ -1,23 +1,23 @@
-# Runs between staging and packing. What the rest of the system looks for leaves /opt/corvix-x for /usr, and each
-# package gets the files that every Debian package has.
+# CPack runs this between staging and packing. It moves the files that the system searches for from /opt/corvix-x to /usr,
+# and adds the files that every Debian package contains.
 
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
 
-# The day is that of SOURCE_DATE_EPOCH, or today. What is new stands in CHANGELOG.md, which is installed as well.
+# Writes a changelog that refers to CHANGELOG.md, dated SOURCE_DATE_EPOCH or today.
 function(write_changelog package file)
     string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
     file(WRITE ${file} "${package} (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) stable; urgency=medium
 
-  * What is new in ${CPACK_PACKAGE_VERSION} stands in /opt/corvix-x/doc/CHANGELOG.md.
+  * The changes of ${CPACK_PACKAGE_VERSION} are listed in /opt/corvix-x/doc/CHANGELOG.md.
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")
     execute_process(COMMAND gzip --best --no-name --force ${file} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# Moves a directory of the installation's root to its place in the system, if the component has it.
+# Moves a directory of the installation to its place in the system, if the component contains it.
 function(move_to_system root from to)
     if(NOT EXISTS ${root}/opt/corvix-x/${from})
         return()
@@ -27,7 +27,7 @@ function(move_to_system root from to)
     file(RENAME ${root}/opt/corvix-x/${from} ${root}/${to})
 endfunction()
 
-# In the system the programs' directory is known, and is not where a desktop looks for programs.
+# A desktop does not search /opt/corvix-x/bin, so the entry has to contain the whole path.
 function(complete_desktop_entries root)
     file(GLOB entries ${root}/usr/share/applications/*.desktop)
     foreach(entry IN LISTS entries)
@@ -44,7 +44,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
 
     move_to_system(${root} share usr/share)
     move_to_system(${root} lib/udev usr/lib/udev)
-    file(REMOVE_RECURSE ${root}/opt/corvix-x/lib) # Empty now.
+    file(REMOVE_RECURSE ${root}/opt/corvix-x/lib) # Nothing is left in it.
     complete_desktop_entries(${root})
 
     set(documents ${root}/usr/share/doc/${package})
@@ -54,7 +54,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
         ${root}/usr/share/lintian/overrides/${package} COPYONLY)
     write_changelog(${package} ${documents}/changelog.Debian)
 
-    if(component STREQUAL "sdk-dev") # So that find_package(CvxCPP) needs no hint.
+    if(component STREQUAL "sdk-dev") # With this link find_package(CvxCPP) needs no hint.
         file(MAKE_DIRECTORY ${root}/usr/share/cmake)
         file(CREATE_LINK /opt/corvix-x/api/lib/cmake/CvxCPP ${root}/usr/share/cmake/CvxCPP SYMBOLIC)
     endif()

@@ -4,14 +4,14 @@
 
 class QGridLayout;
 
-/// Says which tool was asked for and how it was started, so that a start can be seen without the real tool.
+/// Shows which tool was started and how.
 class ToolStandInWindow : public QWidget
 {
 public:
-    /// The program's path as it was started names the tool.
+    /// The file name of program, the path that was started, identifies the tool.
     explicit ToolStandInWindow(const QString &program, QWidget *parent = nullptr);
 
-    /// The configured name of the tool with this executable, or the executable's file name.
+    /// Returns the configured name of the tool with this executable, or the file name if no tool has it.
     static QString toolName(const QString &program);
 
 private:

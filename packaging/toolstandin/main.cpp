@@ -19,7 +19,7 @@ int main(int argc, char *argv[])
     QApplication::setPalette(palette);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/orvelle-logo.ico")));
 
-    // Not applicationFilePath(), which follows the link that bears the tool's name.
+    // applicationFilePath() would follow the link that has the name of the tool.
     ToolStandInWindow window(QApplication::arguments().constFirst());
     window.show();
     return QApplication::exec();

@@ -88,6 +88,8 @@ void TestCameraStrings::stringIsUtf8UpToItsFirstNul()
     const CameraRecord record{string, string, string, string};
     QCOMPARE(
         listOne(record), (CameraInfo{listed, {}, listed, listed, listed, {}, {}, QStringLiteral("Other")}));
+    const bool isLengthZero = bytes.isEmpty() && !countsNul; // Then there is nothing to read.
+    QCOMPARE(callCount(Function::GetModel), std::size_t(isLengthZero ? 1 : 2));
 }
 
 void TestCameraStrings::idThatBecomesUnreadableOnlyCostsTheVendor()

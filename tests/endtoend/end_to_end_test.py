@@ -41,7 +41,17 @@ def click_starts_the_tool_in_its_own_directory(launcher):
     directory = os.path.realpath(f"{STAGE}/bin")
     tool = wait_for("the tool runs", lambda: output_of("pgrep", "-fx", f"{directory}/ImageViewer").strip())
     assert os.readlink(f"/proc/{tool}/cwd") == directory
+    inherited = connections_of(tool) & connections_of(launcher.process.pid)
+    assert not inherited, f"the tool has inherited {inherited}"
     return int(tool)
+
+
+def connections_of(process):
+    """Returns the sockets and pipes of a process, without its standard descriptors."""
+    directory = f"/proc/{process}/fd"
+    links = (os.readlink(f"{directory}/{number}") for number in os.listdir(directory)
+             if int(number) > 2 and os.path.lexists(f"{directory}/{number}"))
+    return {link for link in links if link.startswith(("socket:", "pipe:"))}
 
 
 def plugged_camera_appears_and_unplugged_camera_disappears(launcher, simulator):

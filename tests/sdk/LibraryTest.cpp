@@ -113,13 +113,12 @@ TEST_F(LibraryTest, listsCamerasWhenNobodyReadsStandardError)
 TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
 {
     addProducer("asking", "fault load ask\n" + oneCamera);
-    addProducer("printing", "fault load print\n" + oneCamera);
+    addProducer("printing", "fault load print\ninterface net|Net|GEV\ndevice net|D2|V|M|S2|N|GEV\n");
     ClientProcess process(
         "/usr/bin/script", // Runs the program in a terminal that stops background processes which use it.
         {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start list stop", "/dev/null"});
     EXPECT_EQ(process.exitStatus(), 0);
-    EXPECT_EQ(process.count("list 0 3"), 1U)
-        << "both report the same camera: " << process.output().substr(0, 1000);
+    EXPECT_EQ(process.count("list 0 4"), 1U) << process.output().substr(0, 1000);
     EXPECT_GT(process.count("xxxx"), 0U) << "the output of the producer appears";
 }
 

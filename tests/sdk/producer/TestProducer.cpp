@@ -1,20 +1,23 @@
 // A GenTL producer for tests, which follows the script "name.script" beside "name.cti". Every update call and
-// every call that opens or closes something reads the script again. One line each:
-//   interface ID|NAME|TYPE
-//   device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE   Missing fields at the end fail with -1003.
-//   interfaces NUMBER, devices INTERFACE|NUMBER         So many of them: "net1" or "D1" and so on.
-//   quiet                                               No log, and the script is not read again: it is
-//   faster. fault FUNCTION ACTION [ARGUMENT]                    "load" is the constructor of the library.
+// every call that opens or closes something reads the script again. The lines of a script:
+//
+// interface ID|NAME|TYPE
+// device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE (missing fields at the end fail with -1003)
+// interfaces NUMBER, or devices INTERFACE|NUMBER: that many, with IDs such as "net1" or "D1"
+// quiet: there is no log, and the script is not read again, which is faster
+// fault FUNCTION ACTION [ARGUMENT]; the function "load" is the constructor of the library
+//
 // Actions of every function: error CODE, crash, abort, throw, throw-number, throw-in-thread, terminate, exit
 // CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate, threads,
-// signals, print, ask (on the terminal), close. Faults of functions that return a string: no-nul, long BYTES,
-// grow (between the two calls), grow-1.3 (with the error code of GenTL 1.3), late-error CODE (of the second
-// call), number (instead of a string), size BYTES
-// ("size -1" reports one byte less than the string has, and ignores the capacity).
+// signals, print, ask (on the terminal), close.
+// Faults of functions that return a string: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with
+// the error code of GenTL 1.3), late-error CODE (of the second call), number (instead of a string),
+// size BYTES ("size -1" reports one byte less than the string has, and ignores the capacity).
 // Faults of the update functions: search MILLISECONDS, which times out if it gets less time.
+// TLOpenInterface: in-use, which opens the interface all the same. Functions that count: more.
 // IFUpdateDeviceList:ID is the update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
-// TLOpenInterface: in-use, which opens the interface all the same. Functions that count: more. In strings,
-// \xHH is a byte. "name.log" receives every call with its process.
+//
+// In strings, \xHH is a byte. "name.log" receives every call with its process.
 
 #include "sdk/gentl/GenTL.h"
 #include "tests/sdk/producer/Misbehaviour.h"
