@@ -23,16 +23,20 @@ TEST_F(DiscoveryTest, findsProducersInTheConfiguredDirectoriesAndThoseOfTheEnvir
     writeFile(directory.path() / "producers/z.script", cameras(1));
     std::filesystem::copy_file(TEST_PRODUCER, directory.path() / "environment/a.cti");
     writeFile(directory.path() / "environment/a.script", "interface e|E|GEV\ndevice e|1\n");
+    std::filesystem::create_directory(ctiPath("folder.cti"));
     addProducer("b", cameras(2)); // Its first camera is that of "z", in an earlier directory.
     setenv("GENICAM_GENTL64_PATH", (":/nowhere:" + (directory.path() / "environment").string()).c_str(), 1);
     start();
     EXPECT_EQ(listIds(), (Ids{"z.cti/net0/A1", "b.cti/net0/A2", "a.cti/e/1"}));
     unsetenv("GENICAM_GENTL64_PATH");
+    EXPECT_EQ(countReports("cti/folder.cti: "), 1U);
 }
 
 TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)
 {
     options.pollInterval = 1h;
+    options.interfaceUpdateInterval = 0ms;
+    options.searchTimeout = 1h; // Every answer comes at once.
     addProducer("a", cameras(3));
     start();
     Cameras found(5);
@@ -47,12 +51,28 @@ TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)
     EXPECT_EQ(count, 3U) << "whatever appeared since";
     EXPECT_EQ(system->GetCameras(nullptr, count), CvxErrorSuccess);
     EXPECT_EQ(count, 4U);
+    setScript("a", "interface other|O|GEV\n");
+    EXPECT_TRUE(list().empty());
+    EXPECT_EQ(feature(*interfaceOf(found, 0), "DeviceUpdateList")->RunCommand(), CvxErrorNotAvailable);
+}
+
+TEST_F(DiscoveryTest, searchIsReusedBesideASlowProducerToo)
+{
+    options.pollInterval = 1h;
+    options.searchTimeout = 1h;
+    options.reuseTime = 4s;
+    addProducer("quick", "interface n|N|GEV\ndevice n|1\n");
+    addProducer("slow", "fault IFUpdateDeviceList slow 4200\n" + cameras(1));
+    start();
+    EXPECT_EQ(feature(*interfaceOf(list(), 0), "DeviceUpdateList")->RunCommand(), CvxErrorSuccess);
+    EXPECT_EQ(countCalls("quick", "IFUpdateDeviceList"), 1U);
 }
 
 TEST_F(DiscoveryTest, updateOfAnInterfaceSearchesItAloneAndOnlyIfThatWasNotJustDone)
 {
     options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
+    options.searchTimeout = 1h; // Every answer comes at once.
     options.reuseTime = 3s;
     const std::string both = "interface a|A|GEV\ninterface b|B|GEV\ndevice a|1\ndevice b|2\n";
     addProducer("p", both);

@@ -46,6 +46,7 @@ TEST_F(FailureTest, crashedHostLosesItsCamerasAndIsStartedAgain)
 
 TEST_F(FailureTest, cameraOfACrashedProducerIsListedForTheNextOne)
 {
+    options.searchTimeout = 1h; // Nobody waits for the crashed one.
     options.firstRestartDelay = 1h;
     options.maxRestartDelay = 1h;
     addProducer("a", cameras(1));
@@ -61,11 +62,13 @@ TEST_F(FailureTest, cameraOfACrashedProducerIsListedForTheNextOne)
     EXPECT_EQ(update->RunCommand(), CvxErrorTimeout) << "the producer of that interface is gone";
 }
 
-TEST_F(FailureTest, failureThatRepeatsIsReportedOnce)
+TEST_F(FailureTest, failureThatRepeatsIsReportedOnceAndDelaysTheRestarts)
 {
     addProducer("a", "fault load exit 9\n");
+    const TimePoint startedAt = SteadyClock::now();
     start();
-    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 4; }));
+    ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 5; }));
+    EXPECT_GE(SteadyClock::now() - startedAt, 750ms) << "50, 100, 200 and 400 ms";
     setScript("a", cameras(1));
     EXPECT_TRUE(waitUntil([&] { return list().size() == 1; })) << "a repaired producer works again";
     EXPECT_EQ(reports(), std::vector<std::string>{ctiPath("a.cti").string() + ": exited with code 9"});
