@@ -87,9 +87,9 @@ class Launcher:
         shutil.rmtree(self.directory)
 
     def printed(self):
-        """Returns the standard error so far."""
+        """Returns the standard error so far, without what Qt prints when a window disappears during a request."""
         with open(f"{self.directory}/stderr", encoding="utf-8", errors="replace") as errors:
-            return errors.read()
+            return "".join(line for line in errors if not line.startswith("qt.qpa.xcb: QXcbConnection: XCB error"))
 
     def hosts(self):
         """Returns the process numbers of the producer hosts."""
