@@ -1,5 +1,7 @@
 #include "sdk/protocol/CameraRecords.h"
 
+#include "sdk/protocol/JsonConversions.h"
+
 #include <tuple>
 
 namespace {
@@ -30,3 +32,6 @@ bool operator<(const DeviceRecord &a, const DeviceRecord &b)
 {
     return fieldsOf(a) < fieldsOf(b);
 }
+
+CORVIX_JSON_CONVERSIONS(DeviceRecord, id, vendor, model, serial, name, type)
+CORVIX_JSON_CONVERSIONS(InterfaceRecord, number, id, name, type, devices)

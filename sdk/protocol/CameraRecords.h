@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <vector>
 
@@ -33,5 +33,7 @@ bool operator==(const InterfaceRecord &a, const InterfaceRecord &b);
 /// Orders devices by ID, then by the other fields.
 bool operator<(const DeviceRecord &a, const DeviceRecord &b);
 
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(DeviceRecord, id, vendor, model, serial, name, type)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(InterfaceRecord, number, id, name, type, devices)
+void to_json(nlohmann::json &json, const DeviceRecord &value);
+void from_json(const nlohmann::json &json, DeviceRecord &value);
+void to_json(nlohmann::json &json, const InterfaceRecord &value);
+void from_json(const nlohmann::json &json, InterfaceRecord &value);

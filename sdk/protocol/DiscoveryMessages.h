@@ -4,7 +4,7 @@
 #include "sdk/protocol/Problem.h"
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <vector>
 
 // The messages between the library and a producer host. A new message is a struct with a `kind` and its
@@ -16,7 +16,8 @@ struct ListCamerasRequest
     static constexpr const char *kind = "listCameras";
     bool updatesInterfaces = false; ///< Also asks the producer for new and removed interfaces.
 };
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(ListCamerasRequest, updatesInterfaces)
+void to_json(nlohmann::json &json, const ListCamerasRequest &value);
+void from_json(const nlohmann::json &json, ListCamerasRequest &value);
 
 /// Searches one interface. Answered by a CameraListReply with that interface, or without any if it is gone.
 struct ListInterfaceRequest
@@ -24,18 +25,16 @@ struct ListInterfaceRequest
     static constexpr const char *kind = "listInterface";
     std::uint64_t number = 0; ///< InterfaceRecord::number.
 };
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(ListInterfaceRequest, number)
+void to_json(nlohmann::json &json, const ListInterfaceRequest &value);
+void from_json(const nlohmann::json &json, ListInterfaceRequest &value);
 
 /// Closes the producer and ends the host. Answered by ProducerClosedReply.
 struct CloseProducerRequest
 {
     static constexpr const char *kind = "closeProducer";
 };
-inline void to_json(nlohmann::json &json, const CloseProducerRequest &)
-{
-    json = nlohmann::json::object();
-}
-inline void from_json(const nlohmann::json &, CloseProducerRequest &) { }
+void to_json(nlohmann::json &json, const CloseProducerRequest &value);
+void from_json(const nlohmann::json &json, CloseProducerRequest &value);
 
 /// The interfaces with their devices, sorted by ID, and every call that failed during the search.
 struct CameraListReply
@@ -44,7 +43,8 @@ struct CameraListReply
     std::vector<InterfaceRecord> interfaces;
     std::vector<Problem> problems;
 };
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(CameraListReply, interfaces, problems)
+void to_json(nlohmann::json &json, const CameraListReply &value);
+void from_json(const nlohmann::json &json, CameraListReply &value);
 
 /// The producer cannot be used; the host exits after this message. A failure in a thread of the producer is
 /// sent without a request; so is a failure to load or open the producer.
@@ -53,7 +53,8 @@ struct ProducerFailedReply
     static constexpr const char *kind = "producerFailed";
     Problem problem;
 };
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(ProducerFailedReply, problem)
+void to_json(nlohmann::json &json, const ProducerFailedReply &value);
+void from_json(const nlohmann::json &json, ProducerFailedReply &value);
 
 /// The producer is closed; the host exits after this message.
 struct ProducerClosedReply
@@ -61,4 +62,5 @@ struct ProducerClosedReply
     static constexpr const char *kind = "producerClosed";
     std::vector<Problem> problems;
 };
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(ProducerClosedReply, problems)
+void to_json(nlohmann::json &json, const ProducerClosedReply &value);
+void from_json(const nlohmann::json &json, ProducerClosedReply &value);

@@ -1,19 +1,21 @@
 #include "sdk/protocol/Message.h"
 
+#include <nlohmann/json.hpp>
 #include <utility>
 
 using nlohmann::json;
 
-Message::Message(Id id, std::string kind, json body)
-    : m_id(id), m_kind(std::move(kind)), m_body(std::move(body))
+Message::Message(Id id, std::string kind)
+    : m_id(id), m_kind(std::move(kind)), m_body(std::make_shared<json>())
 { }
 
 std::optional<Message> Message::fromLine(std::string_view line)
 {
     try {
         json fields = json::parse(line);
-        return Message(
-            fields.at("id").get<Id>(), fields.at("kind").get<std::string>(), std::move(fields.at("body")));
+        Message message(fields.at("id").get<Id>(), fields.at("kind").get<std::string>());
+        *message.m_body = std::move(fields.at("body"));
+        return message;
     } catch (const json::exception &) {
         return std::nullopt;
     }
@@ -21,6 +23,6 @@ std::optional<Message> Message::fromLine(std::string_view line)
 
 std::string Message::toLine() const
 {
-    const json fields{{"id", m_id}, {"kind", m_kind}, {"body", m_body}};
+    const json fields{{"id", m_id}, {"kind", m_kind}, {"body", *m_body}};
     return fields.dump(-1, ' ', false, json::error_handler_t::replace) + '\n';
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
+#include <exception>
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,8 +21,10 @@ public:
 
     /// A reply has the ID of the request that it answers.
     template <typename Content>
-    Message(Id id, const Content &content) : m_id(id), m_kind(Content::kind), m_body(content)
-    { }
+    Message(Id id, const Content &content) : Message(id, std::string(Content::kind))
+    {
+        to_json(*m_body, content);
+    }
 
     /// Parses a line without its line feed. Returns nothing if the line is not a message.
     static std::optional<Message> fromLine(std::string_view line);
@@ -37,16 +41,18 @@ public:
         if (m_kind != Content::kind)
             return std::nullopt;
         try {
-            return m_body.get<Content>();
-        } catch (const nlohmann::json::exception &) {
+            Content content;
+            from_json(*m_body, content);
+            return content;
+        } catch (const std::exception &) { // A member is missing or has another type.
             return std::nullopt;
         }
     }
 
 private:
-    Message(Id id, std::string kind, nlohmann::json body);
+    Message(Id id, std::string kind);
 
     Id m_id;
     std::string m_kind;
-    nlohmann::json m_body;
+    std::shared_ptr<nlohmann::json> m_body; // Not changed after construction.
 };

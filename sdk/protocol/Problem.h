@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
 /// One failed call into a producer.
@@ -12,4 +12,5 @@ struct Problem
     std::string text; ///< The producer's error text or ours; may be empty.
 };
 
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Problem, call, code, text)
+void to_json(nlohmann::json &json, const Problem &value);
+void from_json(const nlohmann::json &json, Problem &value);

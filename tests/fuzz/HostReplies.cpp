@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <nlohmann/json.hpp>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <vector>
