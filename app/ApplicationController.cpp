@@ -41,7 +41,8 @@ QVector<CameraInfo> scan(const CorvixCameraProvider *provider)
     return {};
 }
 
-/// Starts the program in its own directory. Returns true only if a process was created.
+/// Starts the program with its own directory as the working directory. Returns true only if a process was
+/// created.
 bool startTool(const QString &path)
 {
     const QFileInfo file(path);
@@ -70,10 +71,12 @@ ApplicationController::ApplicationController(QObject *parent)
 
 ApplicationController::~ApplicationController()
 {
-    // QtConcurrent::run() cannot be cancelled, so wait: the scan must not use an SDK that is shut down.
+    // A scan in QtConcurrent::run() cannot be cancelled. The destructor waits for the scan, which must not
+    // use an SDK that is shut down.
     watcher.cancel();
     watcher.waitForFinished();
-    CvxSystem::GetInstance().Shutdown(); // Also drops the observers. An error changes nothing for us.
+    // Shutdown() also releases the observers. An error has no consequences.
+    CvxSystem::GetInstance().Shutdown();
 }
 
 bool ApplicationController::init()
@@ -91,7 +94,8 @@ bool ApplicationController::init()
             QStringLiteral("Unable to register camera list observer"), QMessageBox::Ok);
     }
 
-    // Intended: its signal is connected to nothing. Only camera-list changes cause a refresh.
+    // Intended: the signal of the interface observer is not connected. Only camera-list changes cause a
+    // refresh.
     interfaceObserver = std::make_shared<InterfaceObserver>(&observerMutex);
     if (system.RegisterInterfaceListObserver(interfaceObserver) != CvxErrorSuccess) {
         QMessageBox::critical(nullptr, QStringLiteral("Error"),
@@ -113,16 +117,18 @@ int ApplicationController::run()
 void ApplicationController::refreshCameras()
 {
     if (scanning)
-        return; // Intended: a request during a scan is dropped. It causes no second scan afterwards.
+        return; // Intended: a request during a scan is dropped and causes no second scan.
     if (!cameraProvider)
-        return; // The SDK reports a camera while init() shows a message box; the first scan will list it.
+        // The SDK can report a camera while init() shows a message box. The first scan will find this camera.
+        return;
     scanning = true;
     window->setRefreshEnabled(false);
 
     CameraInfo placeholder;
     placeholder.vendorName = tr("Scanning...");
     window->setCameras({placeholder});
-    // Redraws the table. The placeholder has no ID either, so its row is drawn as the selected one.
+    // This call redraws the table and selects the row of the placeholder, because both records have an empty
+    // ID.
     window->setSelectedCamera(CameraInfo());
 
     watcher.setFuture(QtConcurrent::run(QThreadPool::globalInstance(), scan, cameraProvider.get()));

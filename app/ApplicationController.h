@@ -26,7 +26,7 @@ class ApplicationController : public QObject
 public:
     explicit ApplicationController(QObject *parent = nullptr);
 
-    /// Waits for a running scan, then shuts the SDK down, even if it never started.
+    /// Waits for a running scan and then shuts the SDK down, even if the SDK never started.
     ~ApplicationController() override;
 
     /// Starts the SDK, registers the observers and loads the configuration.
@@ -40,14 +40,14 @@ public slots:
     /// Starts a scan on a pool thread. A request during a scan is dropped, not queued.
     void refreshCameras();
 
-    /// Ends the scan: shows its cameras and clears the selection.
+    /// Shows the cameras that the scan found, clears the selection and allows the next scan.
     void onCameraListReady(const QVector<CameraInfo> &list);
 
-    /// Starts the tool as a detached process in its own directory. A relative path is resolved against the
-    /// install root. Shows a warning if the tool does not start.
+    /// Starts the tool as a detached process. The working directory is the directory of the tool. A relative
+    /// path is resolved against the install root. Shows a warning if the tool does not start.
     void launchTool(const QString &toolPath);
 
-    /// Hides the window if there is a visible tray icon; otherwise minimises it.
+    /// Hides the window if there is a visible tray icon; otherwise minimises the window.
     void minimizeToTray();
     void closeApp();
     void showFromTray();
@@ -55,14 +55,15 @@ public slots:
 private:
     void setupTray();
 
-    // Members are destroyed from the bottom up: the watcher before the window that its handler uses.
+    // Members are destroyed from the last to the first. The watcher has to be destroyed before the window,
+    // which the handler of the watcher uses.
     QString installRoot;
     QVector<CameraInfo> cameras;
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<CorvixCameraProvider> cameraProvider;
     QSystemTrayIcon *trayIcon = nullptr; // Null if the desktop has no tray.
     QMenu *trayMenu = nullptr;
-    QMutex observerMutex; // Serialises the two observers' callbacks against each other.
+    QMutex observerMutex; // Prevents the callbacks of the two observers from running at the same time.
     std::shared_ptr<CameraObserver> cameraObserver;
     std::shared_ptr<InterfaceObserver> interfaceObserver;
     std::atomic<bool> scanning{false};

@@ -6,13 +6,14 @@
 
 class QMutex;
 
-/// Turns the SDK's interface-list notifications into a Qt signal, which it emits on the SDK's thread.
+/// Turns the SDK's interface-list notifications into a Qt signal. The signal is emitted on the SDK's thread.
 class InterfaceObserver : public QObject, public CvxCPP::IInterfaceListObserver
 {
     Q_OBJECT
 
 public:
-    /// The observer holds `sharedMutex` during a notification. It may be null; otherwise it must outlive us.
+    /// The observer locks `sharedMutex` during each notification. The mutex may be null; otherwise it has to
+    /// outlive the observer.
     explicit InterfaceObserver(QMutex *sharedMutex);
 
     void InterfaceListChanged(

@@ -18,8 +18,9 @@ NoOpenGl::NoOpenGl() : m_isSetByUs(!qEnvironmentVariableIsSet(variable))
 
 NoOpenGl::~NoOpenGl()
 {
-    if (QGuiApplication::platformName() == QLatin1String("xcb")) // On other platforms the call loads OpenGL.
-        QOpenGLContext::supportsThreadedOpenGL(); // Called only because it makes Qt read the variable.
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) // Other platforms would load OpenGL.
+        // The call makes Qt read the variable. Its result does not matter.
+        QOpenGLContext::supportsThreadedOpenGL();
     if (m_isSetByUs)
-        qunsetenv(variable); // The tools that we start would inherit it.
+        qunsetenv(variable); // Otherwise the tools that the launcher starts would inherit the variable.
 }

@@ -1,14 +1,16 @@
 #pragma once
 
-/// Keeps Qt on X11 from loading OpenGL, which nothing in this program draws with; loading it takes a third of
-/// the start-up time. Create it before the QApplication and destroy it right afterwards.
+/// Prevents Qt on X11 from loading OpenGL. The program does not use OpenGL, and loading it takes a third of
+/// the start-up time. Create this object before the QApplication, and destroy it as soon as the QApplication
+/// exists.
 class NoOpenGl
 {
 public:
     /// Sets the environment variable that disables OpenGL in Qt, unless the user has set it.
     NoOpenGl();
 
-    /// Makes Qt read the variable, which it does only once, and removes it from the environment.
+    /// Makes Qt read the variable, which Qt does only once. Removes the variable if the constructor has set
+    /// it.
     ~NoOpenGl();
 
     NoOpenGl(const NoOpenGl &) = delete;

@@ -22,8 +22,9 @@ QStringList catalogues()
     return names;
 }
 
-/// Returns the catalogue whose language and script match; empty if there is none. The country does not
-/// matter, but the script does: the simplified Chinese catalogue serves Singapore and not Taiwan.
+/// Returns the name of the catalogue whose language and script match; empty if there is no such catalogue.
+/// The country does not matter, but the script does: the simplified Chinese catalogue is used for Singapore,
+/// but not for Taiwan.
 QString catalogueFor(const QLocale &wanted)
 {
     const QStringList names = catalogues();
@@ -35,7 +36,8 @@ QString catalogueFor(const QLocale &wanted)
     return {};
 }
 
-/// Returns the catalogue for the first of the user's languages that has one; empty for English.
+/// Returns the name of the catalogue for the first of the user's languages that has a catalogue. The name is
+/// empty if no language has a catalogue or if English precedes these languages.
 QString userCatalogue()
 {
     const QLocale system = QLocale::system();
@@ -45,7 +47,7 @@ QString userCatalogue()
     for (const QString &language : languages) {
         const QLocale wanted(language);
         if (wanted.language() == QLocale::English)
-            return {}; // The sources are in English, so the languages after it do not count.
+            return {}; // The sources are in English, so the languages after English do not matter.
         QString name = catalogueFor(wanted);
         if (!name.isEmpty())
             return name;
@@ -59,10 +61,10 @@ Translations::Translations()
 {
     const QString name = userCatalogue();
     if (name.isEmpty())
-        return; // Qt's texts stay English too, or the window would mix two languages.
+        return; // Qt's strings stay English too. Otherwise the window would mix two languages.
     if (m_qt.load(QLatin1String("qtbase_") + name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);
-    // Qt searches the translator that was installed last first.
+    // Qt first searches the translator that was installed most recently.
     if (m_launcher.load(cataloguePrefix + name, catalogueDirectory))
         QCoreApplication::installTranslator(&m_launcher);
 }

@@ -12,8 +12,8 @@
 
 int main(int argc, char *argv[])
 {
-    // A Wayland desktop finds our desktop entry by this name; an X11 desktop finds it by the window class,
-    // which is the program's file name.
+    // A Wayland desktop finds the launcher's desktop entry by this name. An X11 desktop finds the entry by
+    // the window class, which is the file name of the program.
     QApplication::setDesktopFileName(QStringLiteral("example.orvelle.CorvixLauncher"));
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
@@ -25,14 +25,14 @@ int main(int argc, char *argv[])
 
     QFile styleSheet(QStringLiteral(":/styles/style.qss"));
     if (styleSheet.open(QIODevice::ReadOnly)) {
-        // Intended: constData() ends the style sheet at its first NUL byte.
+        // Intended: the conversion from constData() stops at the first NUL byte of the style sheet.
         application.setStyleSheet(QString::fromUtf8(styleSheet.readAll().constData()));
         styleSheet.close();
     } else {
         qWarning("Failed to load stylesheet");
     }
 
-    const Translations translations; // Needed before the window is created.
+    const Translations translations; // The translators have to be installed before the window exists.
     ApplicationController controller;
     if (controller.init())
         return controller.run();

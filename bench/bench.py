@@ -40,7 +40,7 @@ class Bench:
         return f"{self.build}/bench/bench_{name}"
 
     def rounds(self, full):
-        """Returns the number of rounds of a measurement without pairs: fewer if fewer pairs are requested."""
+        """Returns the number of rounds of a measurement without pairs. For few pairs, it is less than `full`."""
         return min(full, 2 * self.pairs)
 
 

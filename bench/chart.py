@@ -1,4 +1,4 @@
-"""Draws cost over size as SVG, both on logarithmic scales."""
+"""Draws a chart of cost over size as SVG, with logarithmic scales."""
 
 import math
 import statistics
@@ -36,14 +36,14 @@ class Scale:
         return self.start + (self.end - self.start) * (math.log10(value) - self.minimum) / (self.maximum - self.minimum)
 
     def marks(self):
-        """Returns 1, 2 and 5 times each power of ten on the scale."""
+        """Returns the values to mark on the scale: 1, 2 and 5 times each power of ten."""
         values = [digit * 10.0 ** power for power in range(math.floor(self.minimum), math.ceil(self.maximum))
                   for digit in (1, 2, 5)]
         return [value for value in values if self.minimum <= math.log10(value) <= self.maximum]
 
 
 def draw(curves):
-    """Returns the chart of curves by name; each curve maps a size to its measured values."""
+    """Returns the chart as SVG. `curves` maps the name of each curve to its measured values by size."""
     medians = {name: {size: statistics.median(values) for size, values in curve.items()}
                for name, curve in curves.items()}
     across = Scale([size for curve in medians.values() for size in curve], LEFT, WIDTH - RIGHT)

@@ -23,7 +23,7 @@ def selection(bench):
 
 
 class StartPipe:
-    """A pipe to which a tool writes the time when it reaches main()."""
+    """A pipe to which a tool writes the time at which its main() starts."""
 
     def __init__(self, bench):
         self.path = f"{bench.place}/start"
@@ -41,7 +41,7 @@ def tool_start(bench):
     stage = f"{bench.place}/with-tool"
     shutil.copytree(bench.stage, stage, symlinks=True)
     tool = f"{stage}/bin/ImageViewer"
-    os.remove(tool)  # A link to the placeholder tool.
+    os.remove(tool)  # The file is a link to the tool stand-in.
     shutil.copy(bench.program("marked_tool"), tool)
     pipe = StartPipe(bench)
 
@@ -58,7 +58,7 @@ def tool_start(bench):
 
     with running(f"{stage}/bin/CorvixLauncher", environment=pipe.environment):
         bench.screen.await_window()
-        bench.screen.await_texts(LISTED)
+        bench.screen.await_text(LISTED)
         bench.screen.press(row(0))
         measured = in_pairs(press, spawn, bench.pairs)
     yield Figure("tile pressed to the tool's main()", "ms", *measured, *at_most_times(1.5))

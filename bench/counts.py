@@ -16,8 +16,9 @@ MAX_GROWTH = 0.05
 PATHS = "list_parsing", "group_matching", "configuration_load", "tooltip_building"
 SKIPPED = 77
 
-# The environment removes differences between machines and between runs: newer processor instructions, which the C
-# library and Qt select at run time, the order of Qt's hashes, lazy binding of symbols, and the language.
+# This environment removes differences between machines and between runs. It disables newer processor instructions,
+# which the C library and Qt select at run time, and lazy binding of symbols. It fixes the order of Qt's hashes and the
+# language.
 DISABLED = ("AVX", "AVX2", "AVX512BW", "AVX512F", "AVX512VL", "AVX_Fast_Unaligned_Load", "BMI1", "BMI2", "ERMS", "FSRM",
             "LZCNT", "MOVBE", "POPCNT", "RTM", "SSE3", "SSE4_1", "SSE4_2", "SSSE3", "XSAVE", "XSAVEC")
 ENVIRONMENT = {
@@ -36,7 +37,7 @@ def first_line(*command):
 
 
 def toolchain():
-    """Returns everything but the sources that a count depends on. Counts of different toolchains do not compare."""
+    """Returns the versions that affect a count. Counts of different toolchains cannot be compared."""
     return {
         "machine": os.uname().machine,
         "compiler": first_line("c++", "-dumpfullversion"),
@@ -46,7 +47,7 @@ def toolchain():
 
 
 def count(program, path):
-    """Returns the number of instructions of the function and of everything that it calls."""
+    """Returns the number of instructions in the function count_PATH, including the functions that it calls."""
     with tempfile.NamedTemporaryFile("r", encoding="utf-8") as result:
         run = subprocess.run(
             ["valgrind", "--tool=callgrind", f"--callgrind-out-file={result.name}", "--collect-atstart=no",
@@ -58,7 +59,7 @@ def count(program, path):
 
 
 def check(counts):
-    """Prints the growth of each count; returns the exit status."""
+    """Prints the growth of each count, and returns the exit status."""
     with open(BASELINE, encoding="utf-8") as file:
         baseline = json.load(file)
     if baseline["toolchain"] != toolchain():
@@ -68,7 +69,7 @@ def check(counts):
     for path, now in counts.items():
         before = baseline["instructions"][path]
         growth = now / before - 1
-        grown = growth > MAX_GROWTH or not now  # 0: there is no function of this name.
+        grown = growth > MAX_GROWTH or not now  # A count of 0 means a wrong function name.
         print(f"{path:20} {before:>10} -> {now:>10}  {growth:+7.2%}{'  more than 5 %' if grown else ''}")
         status = status or int(grown)
     if status:

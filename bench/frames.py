@@ -9,8 +9,8 @@ import subprocess
 import tempfile
 import time
 
-BOUND = 30.0  # seconds for every wait
-WITHOUT_OPENGL = {"QT_XCB_GL_INTEGRATION": "none"}  # Environment of a Qt program.
+BOUND = 30.0  # Every wait ends after this many seconds.
+WITHOUT_OPENGL = {"QT_XCB_GL_INTEGRATION": "none"}  # With this environment, a Qt program does not load OpenGL.
 xlib, xdamage, xtest = (ctypes.CDLL(f"lib{name}") for name in ("X11.so.6", "Xdamage.so.1", "Xtst.so.6"))
 ulong, pointer = ctypes.c_ulong, ctypes.c_void_p
 xlib.XOpenDisplay.restype = pointer
@@ -43,11 +43,12 @@ class Event(ctypes.Union):
 
 
 xlib.XGetImage.restype = ctypes.POINTER(Image)
-error_handler = ctypes.CFUNCTYPE(ctypes.c_int, pointer, pointer)(lambda *_: 0)  # A window may close at any time.
+# Errors are ignored, because a window may close at any time.
+error_handler = ctypes.CFUNCTYPE(ctypes.c_int, pointer, pointer)(lambda *_: 0)
 
 
 class Screen:
-    """Follows the newest window that has the size of the launcher's. Use it in a with statement."""
+    """Observes the newest window that is about as large as the launcher's. Use this class in a with statement."""
 
     def __enter__(self):
         xlib.XSetErrorHandler(error_handler)
@@ -66,7 +67,7 @@ class Screen:
         xlib.XCloseDisplay(self.display)
 
     def drawn(self, bound=BOUND):
-        """Returns the next rectangle that is drawn, in coordinates of the window; None after `bound` seconds."""
+        """Returns the next rectangle that is drawn, in window coordinates, or None after `bound` seconds."""
         end = time.monotonic() + bound
         while True:
             while xlib.XPending(self.display):
@@ -82,13 +83,13 @@ class Screen:
 
     def note_window(self, event):
         if event.width < 500 or event.height < 500 or event.override_redirect:
-            return  # A helper window of Qt, or a frame.
+            return  # This window is a helper window of Qt or a frame of the window manager.
         self.window, self.size = event.window, (event.width, event.height)
         xdamage.XDamageCreate(self.display, ulong(self.window), RAW_RECTANGLES)
         xlib.XFlush(self.display)
 
     def await_window(self):
-        """Waits until a new window is drawn completely; returns the time."""
+        """Waits until a new window has been drawn completely, and returns the time."""
         self.window = None
         left, top, right, bottom = 1 << 15, 1 << 15, 0, 0
         while True:
@@ -99,15 +100,15 @@ class Screen:
             if (left, top) == (0, 0) and right >= self.size[0] and bottom >= self.size[1]:
                 return time.monotonic()
 
-    def await_texts(self, boxes, wanted=True):
-        """Waits until every rectangle of the window contains text, or until none does; returns the time."""
+    def await_text(self, boxes, wanted=True):
+        """Waits until every rectangle contains text or, if `wanted` is false, none does. Returns the time."""
         end = time.monotonic() + BOUND
         while not all(self.has_text(box) == wanted for box in boxes):
             assert time.monotonic() < end and self.drawn(), "the expected text is not drawn"
         return time.monotonic()
 
     def await_quiet(self, seconds=0.3):
-        """Waits until nothing has been drawn for so long."""
+        """Waits until nothing has been drawn for this many seconds."""
         end = time.monotonic() + BOUND
         while self.drawn(seconds):
             assert time.monotonic() < end, "the window is drawn again and again"
@@ -123,7 +124,7 @@ class Screen:
         return len({pixels[start:start + 4] for start in range(0, len(pixels), 4)}) > 8
 
     def press(self, place):
-        """Moves the pointer, waits until drawing ends and clicks; returns the time just before the click."""
+        """Moves the pointer, waits until drawing ends, and clicks. Returns the time just before the click."""
         xlib.XWarpPointer(self.display, ulong(0), ulong(self.window), 0, 0, 0, 0, *place)
         xlib.XSync(self.display, 0)
         self.await_quiet()
@@ -136,7 +137,7 @@ class Screen:
 
 @contextlib.contextmanager
 def running(*command, environment=None):
-    """Runs a program; yields the process and the time just before its start. Kills it at the end."""
+    """Runs a program, and yields the process and the time just before its start. Kills the process at the end."""
     with tempfile.TemporaryFile() as errors:
         started = time.monotonic()
         process = subprocess.Popen(command, cwd="/", env={**os.environ, "LC_ALL": "C.UTF-8", **(environment or {})},

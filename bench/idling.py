@@ -10,22 +10,22 @@ from frames import WITHOUT_OPENGL, running
 from pairs import WITHOUT_TARGET, Figure, at_most_on_average, at_most_times, in_pairs
 from places import LISTED
 
-SETTLED = 2.0  # seconds until the work of the start is done.
-POOL_SETTLED = 32.0  # seconds: idle threads of Qt's pool end after 30.
-SLICES, SLICE = 15, 4.0  # seconds: 60 altogether.
+SETTLED = 2.0  # The work of the start is done after this many seconds.
+POOL_SETTLED = 32.0  # Seconds. Idle threads of Qt's pool end after 30 seconds.
+SLICES, SLICE = 15, 4.0  # The number of slices, and the seconds in each slice.
 
 
 @contextlib.contextmanager
 def idle_launcher(bench, settled):
     with running(bench.launcher) as (process, _):
         bench.screen.await_window()
-        bench.screen.await_texts(LISTED)
+        bench.screen.await_text(LISTED)
         time.sleep(settled)
         yield process.pid
 
 
 def memory(processes):
-    """Returns the memory in MiB; shared pages count proportionally (PSS)."""
+    """Returns the memory of all processes in MiB. Shared pages count proportionally (PSS)."""
     return sum(footprint.Footprint(process).memory["PSS"] for process in processes) / 1024
 
 
@@ -46,7 +46,7 @@ def floor(bench, environment=None):
 
 
 class Activity:
-    """Processor time in seconds and number of wake-ups of all threads of a process so far."""
+    """Contains the processor time in seconds and the number of wake-ups of a process so far, for all its threads."""
 
     def __init__(self, process):
         self.seconds, self.wakes = 0.0, 0
@@ -57,7 +57,8 @@ class Activity:
 
 
 def activity(bench):
-    """Returns for each slice: processor time of both processes in percent, wake-ups per second of launcher and host."""
+    """Returns three lists with a value for each slice: the processor use of launcher and host together in percent, the
+    wake-ups per second of the launcher, and the wake-ups per second of the host."""
     with idle_launcher(bench, POOL_SETTLED) as launcher:
         processes = [launcher, *footprint.hosts(launcher).values()]
         assert len(processes) == 2, "there is exactly one producer host"

@@ -1,4 +1,4 @@
-"""Measures how long the SDK takes to list cameras, from its start: hosts start and load their producers."""
+"""Measures the time from the start of the SDK to the list of cameras. The start of the hosts is included."""
 
 import glob
 import json
@@ -12,13 +12,13 @@ from frames import BOUND
 from pairs import Figure, at_most, at_most_times, in_pairs
 from scripted import ScriptedProducer
 
-DELAY = 500.0  # ms that a slow producer takes to answer.
+DELAY = 500.0  # A slow producer searches for this many milliseconds.
 SIZES = 10, 30, 100, 300, 1000
-MAX_EXTRA, MAX_EXTRA_EACH = 60, 15  # ms above the floor, and for each of several producers.
+MAX_EXTRA, MAX_EXTRA_EACH = 60, 15  # Allowed milliseconds above the floor, and for each of several producers.
 
 
 class Installation:
-    """The part of an installation that listing cameras needs, with other producers."""
+    """An installation with other producers, and with only the files that the enumeration of cameras needs."""
 
     def __init__(self, bench, name):
         self.root, self.bench = f"{bench.place}/{name}", bench
@@ -48,7 +48,8 @@ class Installation:
         self.producers.append(f"{self.root}/cti/CorvixCameraSimulator.cti")
 
     def measure(self, cameras, cameras_of_first):
-        """Returns milliseconds for each pair: to the SDK's list, to the launcher's records, and directly in C."""
+        """Returns three lists with the milliseconds of each pair: until the SDK's list is complete, until the
+        launcher's records are complete, and for the direct enumeration in C."""
         ours, floor = in_pairs(lambda: listed(cameras, f"{self.root}/bin/bench_list_cameras"),
                                lambda: listed(cameras_of_first, self.bench.program("list_directly"), self.producers[0]),
                                self.bench.pairs)
@@ -57,7 +58,7 @@ class Installation:
 
 
 def listed(expected, *command):
-    """Runs a program that prints the number of cameras and milliseconds; returns the milliseconds."""
+    """Runs a program that prints the number of cameras and milliseconds, and returns the milliseconds."""
     environment = {name: value for name, value in os.environ.items() if name != "GENICAM_GENTL64_PATH"}
     printed = subprocess.run(command, env=environment, stdout=subprocess.PIPE, check=True, text=True, timeout=BOUND).stdout
     count, *milliseconds = printed.split()
@@ -66,7 +67,7 @@ def listed(expected, *command):
 
 
 def exponent(times):
-    """Returns the exponent with which times grow over size: the slope of the line through their logarithms."""
+    """Returns the exponent with which the times grow with the size: the slope of a line through the logarithms."""
     points = [(math.log(size), math.log(statistics.median(values))) for size, values in times.items()]
     return statistics.linear_regression(*zip(*points)).slope
 

@@ -1,4 +1,4 @@
-"""Figures: measured values, pair by pair, with their floor and their target."""
+"""Defines figures, which are measured values with a floor and a target."""
 
 import dataclasses
 import statistics
@@ -6,8 +6,8 @@ import typing
 
 
 def in_pairs(ours, floor, count):
-    """Measures both `count` times, in alternating order; returns the list of each. An additional first pair fills the
-    caches and is left out."""
+    """Calls ours() and floor() `count` times each, in alternating order, and returns both lists of results. An
+    additional first pair fills the caches and is not returned."""
     pairs = []
     for index in range(count + 1):
         if index % 2:
@@ -20,7 +20,7 @@ def in_pairs(ours, floor, count):
 
 
 def spread(values):
-    """Returns median, lower and upper quartile."""
+    """Returns the median, the lower quartile and the upper quartile."""
     low, middle, high = statistics.quantiles(values, n=4, method="inclusive") if len(values) > 1 else values * 3
     return middle, low, high
 
@@ -31,7 +31,7 @@ class Figure:
     unit: str
     ours: list
     floor: list  # One value per pair, or one constant.
-    target: str  # Text for the table.
+    target: str  # The target as the table shows it.
     limit: typing.Callable  # Returns whether the figure meets its target.
 
     def ratios(self):
@@ -72,7 +72,7 @@ def number(value):
     return f"{value:.0f}" if value >= 100 else f"{value:.3g}"
 
 
-# The functions below return a target: the last two fields of a figure.
+# Each of these functions, up to table(), returns a target: the last two fields of a figure.
 
 def at_most_times(limit):
     return f"≤ {limit} ×", lambda figure: figure.ratio() <= limit
@@ -86,11 +86,11 @@ def at_most(limit, unit):
 
 
 def at_most_on_average(limit, unit):
-    """For events that are rare: a median would ignore them."""
+    """Returns a target for rare events, which a median would ignore."""
     return f"≤ {limit} {unit}", lambda figure: statistics.mean(figure.ours) <= limit
 
 
 def table(figures):
-    """Returns a Markdown table."""
+    """Returns the figures as a Markdown table."""
     rows = [["figure", "ours", "floor", "ratio", "target", "met"], ["---"] * 6] + [figure.cells() for figure in figures]
     return "\n".join("| " + " | ".join(row) + " |" for row in rows)

@@ -1,7 +1,7 @@
-"""Positions in the launcher's window, in pixels."""
+"""Defines positions in the launcher's window, in pixels."""
 
 FIRST_ROW, ROW_HEIGHT, ROWS_IN_VIEW = 185, 31, 5
-IMAGE_VIEWER = (110, 410)  # The tile of this tool.
+IMAGE_VIEWER = (110, 410)  # A point in the tile of this tool.
 
 
 def row(index):
@@ -14,5 +14,5 @@ def vendor(index):
     return 15, FIRST_ROW + ROW_HEIGHT * index - 9, 120, 18
 
 
-# During a scan the table has one row. All rows of a list are drawn at once.
+# If these rectangles contain text, the table shows the cameras: during a scan, it has only one row.
 LISTED = [vendor(index) for index in range(1, ROWS_IN_VIEW)]

@@ -16,7 +16,7 @@ def first_frame(screen):
 
 def first_list(screen):
     screen.await_window()
-    return screen.await_texts(LISTED)
+    return screen.await_text(LISTED)
 
 
 def figures(bench):

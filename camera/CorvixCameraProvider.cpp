@@ -16,7 +16,7 @@ namespace {
 
 using CameraHandles = std::vector<std::shared_ptr<Camera>>;
 
-/// Returns the SDK's cameras; empty if one of the two list calls fails.
+/// Returns the SDK's cameras; empty if one of the two GetCameras() calls fails.
 CameraHandles cameraHandles(CvxSystem &system)
 {
     unsigned count = 0;
@@ -35,7 +35,7 @@ std::optional<std::string> plainId(const Camera &camera)
     return SdkRead::bytes([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, false); });
 }
 
-/// Returns the decoded string, or an empty one if it could not be read.
+/// Returns the decoded string, or an empty string if the bytes could not be read.
 QString field(const std::optional<std::string> &bytes)
 {
     return SdkRead::decoded(bytes).value_or(QString());
@@ -50,7 +50,7 @@ QString field(const Camera &camera, CvxError (Camera::*getter)(char *, unsigned 
 QString transportName(const Camera &camera)
 {
     static const QStringList names{
-        QStringLiteral("Other"), // 0: unknown
+        QStringLiteral("Other"), // The index is the type of the SDK; 0 means unknown.
         QStringLiteral("GigE"),
         QStringLiteral("CameraLink"),
         QStringLiteral("IIDC"),
@@ -67,7 +67,7 @@ QString transportName(const Camera &camera)
     return names.at(int(type));
 }
 
-/// Returns the feature, or null if the interface has none of that name.
+/// Returns the feature, or null if the interface has no feature with this name.
 std::shared_ptr<Feature> feature(Interface &iface, const char *name)
 {
     std::shared_ptr<Feature> found;
@@ -76,8 +76,9 @@ std::shared_ptr<Feature> feature(Interface &iface, const char *name)
     return found;
 }
 
-/// Searches the interface's device list for the camera and returns the vendor that its first entry reports.
-/// Returns nothing if the list cannot be read, has no such entry, or the entry's vendor cannot be read.
+/// Searches the interface's device list and returns the vendor of the first entry with this camera ID.
+/// Returns nothing if the list cannot be read, if no entry has this ID, or if the entry's vendor cannot be
+/// read.
 std::optional<QString> vendorFromDeviceList(Interface &iface, const std::string &cameraId)
 {
     const std::shared_ptr<Feature> update = feature(iface, "DeviceUpdateList");
@@ -92,7 +93,7 @@ std::optional<QString> vendorFromDeviceList(Interface &iface, const std::string 
     if (selector->GetRange(min, max) != CvxErrorSuccess)
         return std::nullopt;
     for (long index = min; index <= max; ++index) {
-        // Compared as bytes: with a thousand cameras, decoding half a million IDs would be slow.
+        // The IDs are compared as bytes: with a thousand cameras, decoding half a million IDs would be slow.
         if (selector->SetValue(index) == CvxErrorSuccess && SdkRead::bytes(*deviceId) == cameraId)
             return SdkRead::decoded(SdkRead::bytes(*deviceVendor));
         if (index == std::numeric_limits<long>::max())
@@ -101,7 +102,7 @@ std::optional<QString> vendorFromDeviceList(Interface &iface, const std::string 
     return std::nullopt;
 }
 
-/// Returns the camera's vendor, which only its interface knows.
+/// Returns the camera's vendor. Only the camera's interface reports the vendor.
 QString vendorName(const Camera &camera)
 {
     std::shared_ptr<Interface> iface;
@@ -113,12 +114,14 @@ QString vendorName(const Camera &camera)
     if (const std::optional<QString> vendor = vendorFromDeviceList(*iface, cameraId))
         return *vendor;
 
-    // Intended: returns the vendor of the selected device, even if that is another device of the interface.
+    // Intended: the vendor of the interface's selected device is returned, even if that device is another
+    // camera.
     const std::shared_ptr<Feature> deviceVendor = feature(*iface, "DeviceVendorName");
     return deviceVendor ? field(SdkRead::bytes(*deviceVendor)) : QString();
 }
 
-/// Returns the camera's record. `camera` is null if the SDK left the handle empty; it is listed all the same.
+/// Returns the camera's record. If the SDK returned an empty handle, `camera` is null and the record contains
+/// only the interface type.
 CameraInfo toCameraInfo(const Camera *camera)
 {
     CameraInfo info;

@@ -15,10 +15,10 @@ class CorvixCameraProvider
 public:
     CorvixCameraProvider();
 
-    /// Returns the SDK's cameras in the SDK's order. Blocks until every producer has answered or its
-    /// timeout has passed, so call it off the GUI thread.
+    /// Returns the SDK's cameras in the SDK's order. Blocks until every producer has replied or its timeout
+    /// has passed, so do not call this function on the GUI thread.
     QVector<CameraInfo> listCameras() const;
 
 private:
-    CvxCPP::CvxSystem &m_system; // The process-wide system; outlives us.
+    CvxCPP::CvxSystem &m_system; // The process-wide system, which outlives this object.
 };

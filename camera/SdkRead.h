@@ -23,17 +23,18 @@ auto orEmpty(const Read &read) -> decltype(read())
     }
 }
 
-/// A string getter of the SDK. It is called with a null buffer for the length, then with a buffer of that
-/// size.
+/// A StringGetter calls one string getter of the SDK. If the buffer is null, the getter sets `size` to the
+/// length of the string. Otherwise the getter fills the buffer, which contains `size` bytes.
 using StringGetter = std::function<CvxCPP::CvxError(char *buffer, unsigned &size)>;
 
-/// Returns the string up to its first NUL, or nothing if one of the two calls fails.
+/// Calls the getter for the length and again for the string. Returns the string up to its first NUL, or
+/// nothing if one of the two calls fails.
 std::optional<std::string> bytes(const StringGetter &getter);
 
-/// Returns the value of a string feature up to its first NUL, or nothing if it cannot be read.
+/// Returns the value of a string feature up to its first NUL, or nothing if the value cannot be read.
 std::optional<std::string> bytes(const CvxCPP::Feature &feature);
 
-/// Decodes UTF-8. Returns nothing for a string that could not be read.
+/// Decodes UTF-8. Returns nothing if the string could not be read or if memory runs out.
 std::optional<QString> decoded(const std::optional<std::string> &bytes);
 
 } // namespace SdkRead

@@ -1,7 +1,8 @@
-# Protections for all programs and libraries, and options that make a build reproducible.
+# Sets protections for all programs and libraries, and options that make a build reproducible.
 
 include(CheckPIESupported)
-check_pie_supported(LANGUAGES CXX) # Without this, the default of the compiler decides whether a program is position-independent.
+# Without this call, the default of the compiler decides whether a program is position-independent.
+check_pie_supported(LANGUAGES CXX)
 
 add_compile_options(-fstack-protector-strong)
 add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack LINKER:--enable-new-dtags)
@@ -9,7 +10,7 @@ add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack LINKER:--en
 # Fortified functions need optimisation. The sanitizers have their own checks.
 set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
 if(NOT CORVIX_SANITIZE AND NOT CORVIX_FUZZ)
-    # Some compilers define it themselves, with another value.
+    # Some compilers define the macro themselves, with another value.
     add_compile_options($<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=2>)
 endif()
 
@@ -17,5 +18,5 @@ endif()
 add_compile_options(
     $<${optimised}:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>
     $<${optimised}:-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
-# Since version 2, the format contains the modification times of the embedded files.
+# Later versions of the format contain the modification times of the embedded files.
 set(CMAKE_AUTORCC_OPTIONS --format-version 1)

@@ -1,8 +1,8 @@
 # Makes the test programs quick to build: script/test builds them three times.
 #
-# In a unity build the compiler gets all sources of a target as one, so it parses each header once. Names in anonymous
-# namespaces have to be unique within such a target. All presets but "dev" build the tests so; those with sanitizers build
-# the product so too.
+# In a unity build, the compiler receives all sources of a target as one file and parses each header once. Names in
+# anonymous namespaces have to be unique within such a target. The presets other than "dev" and "fuzz" build the tests
+# as unity builds. The presets with sanitizers also build the product as unity builds.
 
 option(CORVIX_QUICK_TESTS "Build the tests as unity builds with a precompiled header" OFF)
 find_program(CORVIX_FAST_LINKER ld.lld)
@@ -24,7 +24,7 @@ macro(corvix_build_quickly)
         file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/precompiled.cpp CONTENT "int main() {}\n")
         add_executable(precompiled_qt EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/precompiled.cpp)
         target_link_libraries(precompiled_qt PRIVATE Qt5::Widgets Qt5::Test launcher_warnings)
-        # Loading a precompiled header takes time too, so it contains only what most tests need.
+        # Loading a precompiled header takes time too, so this one contains only what most tests need.
         target_precompile_headers(precompiled_qt PRIVATE
             <QtTest> <QApplication> <QHeaderView> <QLabel> <QMenu> <QPushButton> <QScrollArea> <QScrollBar> <QTableWidget>)
     endif()
@@ -35,6 +35,7 @@ function(corvix_precompile_qt program)
     if(CORVIX_QUICK_TESTS)
         target_link_libraries(${program} PRIVATE Qt5::Widgets)
         target_precompile_headers(${program} REUSE_FROM precompiled_qt)
-        set_target_properties(${program} PROPERTIES PCH_WARN_INVALID OFF) # Other definitions make it slow, not wrong.
+        # If a program has other definitions, it cannot reuse the header, which is not an error.
+        set_target_properties(${program} PROPERTIES PCH_WARN_INVALID OFF)
     endif()
 endfunction()

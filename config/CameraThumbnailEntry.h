@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// One reference camera model with its group and its picture.
+/// Describes one reference camera model with its group and its picture.
 struct CameraThumbnailEntry
 {
     QString model; ///< Model name or family prefix as written in the file, for example "Kx200 Pro".
-    QString type; ///< Group type as written, for example "areascan".
+    QString type; ///< Group type as written in the file, for example "areascan".
     QString thumbnail; ///< Resource path of the picture, below ":/images/".
 };

@@ -4,12 +4,12 @@
 
 #include <QVector>
 
-/// One hardware group with its tools. An empty type means "no group".
+/// Describes one hardware group with its tools. An empty type means "no group".
 struct HardwareGroupConfig
 {
     QString type; ///< Group type, for example "areascan".
     QString name; ///< Display name, shown in the hint above the tiles.
     QString brand;
     QString description;
-    QVector<ToolConfig> tools; ///< In file order.
+    QVector<ToolConfig> tools; ///< The tools in the order of the file.
 };

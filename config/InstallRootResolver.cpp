@@ -7,7 +7,7 @@ QString InstallRootResolver::resolve()
 {
     QDir dir(QCoreApplication::applicationDirPath());
     if (!hasCorvixStructure(dir))
-        dir.cdUp(); // Intended: one level only, and the parent may lack the structure.
+        dir.cdUp(); // Intended: the parent is the root even if it lacks the structure.
     return dir.absolutePath();
 }
 

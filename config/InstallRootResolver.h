@@ -8,7 +8,7 @@ class QDir;
 class InstallRootResolver
 {
 public:
-    /// Returns an absolute path without a trailing separator. Never empty.
+    /// Returns the root as an absolute path without a trailing separator. The path is never empty.
     static QString resolve();
 
 private:

@@ -29,7 +29,8 @@ QJsonObject loadJsonFile(const QString &path)
     return document.object();
 }
 
-/// Returns the document's root object. An unusable document is replaced by version "1.0" with an empty list.
+/// Returns the document's root object. An unusable document is replaced by a document with version "1.0" and
+/// an empty list.
 QJsonObject loadOrEmpty(const QString &path, const QString &listKey)
 {
     QJsonObject object = loadJsonFile(path);
@@ -76,7 +77,8 @@ HardwareGroupConfig parseGroup(const QJsonObject &object)
     return group;
 }
 
-/// Returns whether the list is empty or contains the value in any letter case. An empty value is in no list.
+/// Returns true if the list is empty, or if it contains the value in any letter case. An empty value never
+/// equals an entry of the list.
 bool isEmptyOrContains(const QStringList &list, const QString &value)
 {
     return list.isEmpty() || (!value.isEmpty() && list.contains(value, Qt::CaseInsensitive));
@@ -129,7 +131,7 @@ void LauncherConfig::buildThumbnailLookup(const QJsonObject &camerasReference)
                                         .arg(model, type, thumbnail);
             continue;
         }
-        // Intended: the first seven characters are dropped without testing that they are "assets/".
+        // Intended: the first seven characters are removed even if they are not "assets/".
         thumbnails.append({model, type, QStringLiteral(":/images/") + thumbnail.mid(7)});
     }
     // Every lookup takes the first match, so the most specific model has to come first.
@@ -153,9 +155,9 @@ HardwareGroupConfig LauncherConfig::findGroupForCamera(const CameraInfo &camera)
     const QString vendor = camera.vendorName.toLower();
     const QString model = camera.modelName.toLower();
 
-    // The order of the tests matters. The vendor of a whole group comes before the reference rows, and the
-    // rows come before the default group of the vendor "orvelle". If the chosen group is not configured, the
-    // result is the empty group; the remaining tests are not tried.
+    // The order of these rules matters. Vendors with a fixed group come before the reference rows, and the
+    // rows come before the default group of the vendor "orvelle". If the group of the first matching rule is
+    // not configured, the result is an empty group, and the later rules are not tried.
     if (vendor.contains(QLatin1String("orvelle")) && model.contains(QLatin1String("simulator")))
         return groups.value(QStringLiteral("simulator"));
     if (vendor.contains(QLatin1String("kordane")))
@@ -182,7 +184,8 @@ QString LauncherConfig::findThumbnailForCamera(const CameraInfo &camera) const
     const QString model = camera.modelName.toLower();
     const QString searchText = model + QLatin1Char(' ') + camera.cameraName.toLower();
     for (const CameraThumbnailEntry &row : thumbnails) {
-        // Intended: a model that is a part of the row's model matches too, and so does the display name.
+        // Intended: a row also matches if it contains the camera's model, or if the camera's name contains
+        // the row.
         const QString rowModel = row.model.toLower();
         if (searchText.contains(rowModel) || rowModel.contains(model))
             return row.thumbnail;
@@ -199,7 +202,8 @@ QVector<ToolConfig> LauncherConfig::allTools(const QString &platform) const
             const QString key = tool.executable.isEmpty() ? tool.id : tool.executable;
             if (seen.contains(key))
                 continue;
-            // Intended: a tool that its platforms hide here also hides the same executable in later groups.
+            // Intended: a tool that is hidden on this platform also hides the same executable in later
+            // groups.
             seen.insert(key);
             if (tool.platforms.isEmpty() || tool.platforms.contains(platform))
                 result.append(tool);
@@ -215,7 +219,7 @@ QSet<QString> LauncherConfig::recommendedToolsIdsForCamera(
     const QSet<QString> *compatible = isHighRes ? halvexTools(camera.modelName) : nullptr;
     QSet<QString> ids;
     for (const ToolConfig &tool : group.tools) {
-        // Intended: the platform's letter case does not matter here, but it does in allTools().
+        // Intended: this function ignores the letter case of the platform, but allTools() does not.
         if (!isEmptyOrContains(tool.transports, camera.interfaceType)
             || !isEmptyOrContains(tool.platforms, platform))
             continue;

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// One launchable tool.
+/// Describes one tool that the launcher can start.
 struct ToolConfig
 {
     QString id; ///< Recommendations and the compatibility table contain this id.
@@ -11,5 +11,5 @@ struct ToolConfig
     QString executable; ///< Path relative to the install root, for example "bin/ImageViewer".
     QString description; ///< Shown on the tile, below the name.
     QStringList platforms; ///< Platforms on which the tool exists; empty means every platform.
-    QStringList transports; ///< Transports for which it is recommended; empty means every transport.
+    QStringList transports; ///< Transports for which the tool is recommended; empty means every transport.
 };

@@ -5,7 +5,7 @@ if(NOT CPACK_GENERATOR STREQUAL "TGZ")
     return()
 endif()
 
-string(TIMESTAMP now "%s" UTC) # This is SOURCE_DATE_EPOCH if it is set.
+string(TIMESTAMP now "%s" UTC) # The result is SOURCE_DATE_EPOCH if that variable is set.
 foreach(archive IN LISTS CPACK_PACKAGE_FILES)
     string(REGEX REPLACE "\\.gz$" "" tar ${archive})
     file(REMOVE ${archive})

@@ -8,7 +8,7 @@ import re
 import sys
 from xml.etree import ElementTree
 
-# A translation has to contain each of these exactly as often as its source.
+# A translation has to contain each of these patterns exactly as often as its source.
 COUNTED = {
     "placeholders": r"%(?:L?\d+|n)",
     "tags": r"<[^<>]*>",

@@ -18,10 +18,10 @@ ApplicationLauncher::ApplicationLauncher(const QString &name, const QString &des
     setAccessibleDescription(description);
 
     m_opacityEffect = new QGraphicsOpacityEffect(this);
-    m_opacityEffect->setOpacity(1.0); // Qt's own default is 0.7.
+    m_opacityEffect->setOpacity(1.0); // Qt's default opacity is 0.7.
     setGraphicsEffect(m_opacityEffect);
 
-    setAttribute(Qt::WA_Hover, true); // For the style sheet's :hover rule.
+    setAttribute(Qt::WA_Hover, true); // The style sheet's :hover rule needs this attribute.
     setCursor(Qt::PointingHandCursor);
 }
 
@@ -34,7 +34,7 @@ QString ApplicationLauncher::GetName() const
 
 void ApplicationLauncher::mousePressEvent(QMouseEvent *event)
 {
-    // The base class is not called: it would ignore the press, and the window would receive it.
+    // The base class is not called: it would ignore the event, and Qt would pass the event on to the window.
     if (event->button() == Qt::LeftButton) {
         emit clicked();
         event->accept();
@@ -43,7 +43,8 @@ void ApplicationLauncher::mousePressEvent(QMouseEvent *event)
 
 void ApplicationLauncher::paintEvent(QPaintEvent *)
 {
-    // A plain widget does not draw its style-sheet frame; drawing a push-button bevel applies those rules.
+    // A subclass of QWidget does not draw the frame of its style sheet. This frame is drawn with a
+    // push-button bevel.
     QStyleOptionButton option;
     option.init(this);
     QPainter painter(this);

@@ -17,7 +17,7 @@ void GroupMatchDelegate::paint(
     QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QStyleOptionViewItem cell = option;
-    cell.state &= ~QStyle::State_MouseOver; // The style would tint one cell; we tint the whole row.
+    cell.state &= ~QStyle::State_MouseOver; // The style would tint only one cell of the row.
     const bool selected = option.state & QStyle::State_Selected;
     if (m_hoveredRow && *m_hoveredRow == index.row() && !selected)
         painter->fillRect(option.rect, QColor(QStringLiteral("#243447")));

@@ -7,10 +7,11 @@
 class GroupMatchDelegate : public QStyledItemDelegate
 {
 public:
-    /// Item data role of the first column: bool, whether the row has the bar.
+    /// The item data with this role is a bool. It is true in the first column if the row has the bar.
     static constexpr int GroupMatchRole = Qt::UserRole + 1;
 
-    /// `hoveredRow` may be null; it is read by every paint() and has to outlive the delegate.
+    /// Every paint() reads `*hoveredRow`. The pointer may be null; otherwise its target has to outlive the
+    /// delegate.
     GroupMatchDelegate(const int *hoveredRow, QObject *parent);
 
     void paint(

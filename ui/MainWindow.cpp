@@ -22,14 +22,15 @@
 namespace {
 
 constexpr qreal cornerRadius = 12.0; // pixels
-constexpr int scrollBarWidth = 8; // pixels, as in the style sheet
+constexpr int scrollBarWidth = 8; // pixels; the style sheet contains the same width
 
 QColor backgroundColor()
 {
     return QColor(QStringLiteral("#0f1419"));
 }
 
-/// Returns whether only the desktop can move windows: a Wayland client neither knows nor sets its position.
+/// Returns true if only the desktop can move windows. A Wayland client cannot read or set the positions of
+/// its windows.
 bool onlyDesktopMovesWindows()
 {
     return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
@@ -64,7 +65,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), ui(std::make_uniq
         if (QTableWidgetItem *header = ui->cameraTable->horizontalHeaderItem(column))
             header->setData(Qt::TextAlignmentRole, int(Qt::AlignLeft | Qt::AlignVCenter));
     }
-    // The viewport has its final width only once the window is laid out.
+    // The viewport does not have its final width until the window has been laid out.
     QTimer::singleShot(0, this, &MainWindow::resizeCameraTableColumns);
 }
 
@@ -89,7 +90,8 @@ void MainWindow::mousePressEvent(QMouseEvent *event)
 {
     const bool onHeader = ui->widget->frameGeometry().contains(event->localPos().toPoint());
     if (onHeader && event->button() == Qt::LeftButton && onlyDesktopMovesWindows()) {
-        windowHandle()->startSystemMove(); // The desktop ends the move; we get no release event.
+        // The desktop ends the move, and the window receives no release event.
+        windowHandle()->startSystemMove();
     } else if (onHeader && event->button() == Qt::LeftButton) {
         m_dragging = true;
         m_dragPosition = event->screenPos().toPoint() - frameGeometry().topLeft();
@@ -99,7 +101,7 @@ void MainWindow::mousePressEvent(QMouseEvent *event)
 
 void MainWindow::mouseMoveEvent(QMouseEvent *event)
 {
-    // Intended: only the flag decides; the pressed buttons do not matter.
+    // Intended: only m_dragging decides whether the window moves. The pressed buttons do not matter.
     if (m_dragging)
         move(event->screenPos().toPoint() - m_dragPosition);
 }

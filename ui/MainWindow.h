@@ -15,8 +15,8 @@
 class ApplicationLauncher;
 class Ui_MainWindow;
 
-/// The launcher's window: the connected cameras above, the tools below. Shows the cameras that it is given
-/// and requests refreshes and tool starts by signals.
+/// Shows the connected cameras and, below them, the tools. Emits signals to request a refresh of the cameras
+/// or the start of a tool.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -25,21 +25,23 @@ public:
     explicit MainWindow(QWidget *parent);
     ~MainWindow() override;
 
-    /// Loads the configuration and builds the tiles. Call it once. `installRoot` may be empty.
+    /// Loads the configuration and creates the tiles. Call this function once. If `installRoot` is empty,
+    /// paths are relative to the current directory.
     void loadConfig(const QString &installRoot);
 
     void setRefreshEnabled(bool enabled);
 
-    /// Stores the cameras to show. Call setSelectedCamera() afterwards to draw them.
+    /// Stores the cameras to show. Call setSelectedCamera() afterwards to display them.
     void setCameras(const QVector<CameraInfo> &cameras);
 
-    /// Selects the camera and redraws the table, then the tiles. An empty record means no camera.
+    /// Selects the camera, redraws the table and updates the tiles. An empty record means that no camera is
+    /// selected.
     void setSelectedCamera(const CameraInfo &camera);
 
 signals:
     void requestRefreshCameras();
 
-    /// `toolPath` is relative to the install root, as the configuration contains it.
+    /// `toolPath` is the path in the configuration. It is usually relative to the install root.
     void requestLaunchTool(const QString &toolPath);
 
 protected:
@@ -50,16 +52,16 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    // In MainWindow.cpp.
+    // These functions are defined in MainWindow.cpp.
     void applyStyle();
     void showMenu();
     void openDocumentation();
 
-    // In MainWindowTools.cpp.
+    // These functions are defined in MainWindowTools.cpp.
     void initializeTools();
     void renderTools();
 
-    // In MainWindowCameraTable.cpp.
+    // These functions are defined in MainWindowCameraTable.cpp.
     void setUpCameraTable();
     void renderCameraTable();
     void resizeCameraTableColumns();
@@ -67,20 +69,21 @@ private:
     void showCameraMenu(const QPoint &position);
 
     /// Returns the path of the GenTL producer file for the interface; empty if there is no producer file.
-    QString resolveCtiPath(const QString &interfaceLabel); // In MainWindowConfig.cpp.
+    QString resolveCtiPath(const QString &interfaceLabel); // Defined in MainWindowConfig.cpp.
 
     std::unique_ptr<Ui_MainWindow> ui;
     LauncherConfig m_config;
     QString m_installRoot;
     QStringList m_ctiSearchDirs; // Directories that are searched for producer files, in this order.
-    QVector<CameraInfo> m_cameras; // One per table row.
+    QVector<CameraInfo> m_cameras; // The cameras to show, one per table row.
     CameraInfo m_selectedCamera;
     HardwareGroupConfig m_selectedGroup; // Empty while no camera with an ID is selected.
     QList<ApplicationLauncher *> m_launchers;
-    QList<ToolConfig> m_tools; // The tool of each tile, same index as m_launchers.
+    QList<ToolConfig> m_tools; // The tool of each tile, with the same index as in m_launchers.
     QPoint m_dragPosition; // Cursor position relative to the window when the drag began.
     bool m_dragging = false;
     int m_hoveredRow = -1; // Row of the camera table under the mouse; -1 for none.
-    QHash<QString, QString> m_ctiPathCache; // Interface label to file path; empty if no file was found.
-    QString m_platform; // "linux_" and the processor architecture.
+    // Maps interface labels to file paths; a path is empty if no file was found.
+    QHash<QString, QString> m_ctiPathCache;
+    QString m_platform; // "linux_", followed by the processor architecture.
 };

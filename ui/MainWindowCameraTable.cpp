@@ -1,4 +1,4 @@
-// The camera table of the window: rows and their tooltips, the selection, and the context menu.
+// This file implements the camera table of the window: its rows, tooltips, selection and context menu.
 
 #include "ui/MainWindow.h"
 
@@ -19,9 +19,9 @@ namespace {
 constexpr int tooltipWidth = 270; // pixels
 constexpr int imageCellWidth = 90; // pixels
 constexpr int imageCellPadding = 6; // pixels
-constexpr int imageWidth = 78; // pixels on every screen: each tooltip contains its picture as text
+constexpr int imageWidth = 78; // pixels on every screen: each tooltip contains the scaled picture
 
-/// Returns the name of the camera's interface by which its producer file is chosen.
+/// Returns the interface name by which the camera's producer file is chosen.
 QString cameraInterfaceLabel(const CameraInfo &camera)
 {
     if (camera.vendorName.contains(QLatin1String("orvelle"), Qt::CaseInsensitive)
@@ -30,10 +30,11 @@ QString cameraInterfaceLabel(const CameraInfo &camera)
     return camera.interfaceType.isEmpty() ? QStringLiteral("Other") : camera.interfaceType;
 }
 
-/// Image cells by picture path, kept during one rebuild: many cameras share a few pictures.
+/// Maps picture paths to image cells during one rebuild of the table, because many cameras share a few
+/// pictures.
 using ImageCells = QHash<QString, QString>;
 
-/// Returns a table cell with the picture inlined; empty if the picture cannot be loaded.
+/// Returns a table cell that contains the picture as data; empty if the picture cannot be loaded.
 QString imageCell(const QString &picturePath)
 {
     const QPixmap picture(picturePath);
@@ -58,12 +59,13 @@ QString row(const QString &label, const QString &value)
         .arg(label.toHtmlEscaped(), value.toHtmlEscaped());
 }
 
-/// Returns the tooltip's HTML. `ctiPath` and `thumbnailPath` may be empty.
+/// Returns the tooltip's HTML and adds a missing image cell to `imageCells`. `ctiPath` and `thumbnailPath`
+/// may be empty.
 QString buildCameraTooltip(
     const CameraInfo &camera, const QString &ctiPath, const QString &thumbnailPath, ImageCells &imageCells)
 {
     const QString ctiFileName = ctiPath.isEmpty() ? QStringLiteral("-") : QFileInfo(ctiPath).fileName();
-    // The placeholder replaces an empty path only, never a picture that cannot be loaded.
+    // The placeholder replaces only an empty path. A picture that cannot be loaded is not replaced.
     const QString picture
         = thumbnailPath.isEmpty() ? QStringLiteral(":/images/cameras/camera-placeholder.png") : thumbnailPath;
     if (!imageCells.contains(picture))
@@ -142,7 +144,7 @@ void MainWindow::resizeCameraTableColumns()
 {
     const int width = ui->cameraTable->viewport()->width();
     ui->cameraTable->setColumnWidth(0, width / 4);
-    ui->cameraTable->setColumnWidth(1, width / 2); // The last section takes the rest.
+    ui->cameraTable->setColumnWidth(1, width / 2); // The last column fills the remaining width.
 }
 
 void MainWindow::selectCurrentCamera()
@@ -163,7 +165,7 @@ void MainWindow::showCameraMenu(const QPoint &position)
     const int r = ui->cameraTable->row(item);
     if (r < 0 || r >= m_cameras.size())
         return;
-    // The menu uses what the last rebuild found and never searches itself.
+    // The menu uses the file that the last rebuild of the table found, and never searches for files.
     const QString path = m_ctiPathCache.value(cameraInterfaceLabel(m_cameras.at(r)));
     if (path.isEmpty())
         return;

@@ -1,5 +1,5 @@
-// Loads the window's configuration, reads the search directories from bin/CvxC.xml, and chooses a GenTL
-// producer file for each interface.
+// The functions in this file load the window's configuration, read the search directories from bin/CvxC.xml,
+// and choose a GenTL producer file for each interface.
 
 #include "ui/MainWindow.h"
 
@@ -13,13 +13,14 @@
 
 namespace {
 
-/// Returns whether the reader is at an element of that name, whatever its letter case and namespace prefix.
+/// Returns true if the reader's current element has this name. Letter case and namespace prefix do not
+/// matter.
 bool isNamed(const QXmlStreamReader &xml, QLatin1String name)
 {
-    return xml.name().compare(name, Qt::CaseInsensitive) == 0; // name() is the name without the prefix.
+    return xml.name().compare(name, Qt::CaseInsensitive) == 0; // name() does not contain the prefix.
 }
 
-/// Returns the texts of the Path elements inside CtiPaths, up to the first error of the document.
+/// Returns the contents of the Path elements inside CtiPaths, up to the first error in the document.
 QStringList readCtiPaths(QIODevice &document)
 {
     QXmlStreamReader xml(&document);
@@ -27,10 +28,10 @@ QStringList readCtiPaths(QIODevice &document)
     bool inside = false;
     while (!xml.hasError() && xml.readNext() != QXmlStreamReader::EndDocument) {
         if ((xml.isStartElement() || xml.isEndElement()) && isNamed(xml, QLatin1String("CtiPaths"))) {
-            // Intended: the depth is not counted, so an inner end tag also ends the outer element.
+            // Intended: the end tag of a nested CtiPaths element also ends the outer CtiPaths element.
             inside = xml.isStartElement();
         } else if (inside && xml.isStartElement() && isNamed(xml, QLatin1String("Path"))) {
-            // The text before an error still counts, for example before a child element.
+            // A child element is an error, but the text before the error still counts.
             paths.append(xml.readElementText().trimmed());
         }
     }
@@ -38,11 +39,12 @@ QStringList readCtiPaths(QIODevice &document)
     return paths;
 }
 
-/// Returns the directory that the text of a Path element names; empty if it is relative and does not exist.
+/// Returns the directory for the content of a Path element; empty if the path is relative and no such
+/// directory exists.
 QString searchDirectory(const QString &path, const QDir &installRoot, const QDir &xmlDirectory)
 {
     if (QDir::isAbsolutePath(path))
-        return path; // Not checked: a missing directory is skipped when it is searched.
+        return path; // An absolute path is not checked: a search of a missing directory finds no files.
     for (const QDir &base : {installRoot, xmlDirectory}) {
         const QString candidate = base.filePath(path);
         if (QFileInfo(candidate).isDir())
@@ -51,7 +53,7 @@ QString searchDirectory(const QString &path, const QDir &installRoot, const QDir
     return {};
 }
 
-/// Returns the directories that bin/CvxC.xml names, without duplicates; "cti" if it names none.
+/// Returns the directories in bin/CvxC.xml without duplicates, or "cti" if the file contains no directory.
 QStringList ctiSearchDirsFromCvxCXml(const QString &installRoot)
 {
     const QDir root(installRoot);
@@ -74,16 +76,18 @@ QStringList ctiSearchDirsFromCvxCXml(const QString &installRoot)
 
 struct KeywordRow
 {
-    QStringList labels; // The row applies if the interface label contains one of these.
+    QStringList labels; // The row applies if the interface label contains one of these strings.
     QStringList keywords;
 };
 
-/// Returns what the name of a producer file for the interface is likely to contain; empty for most labels.
+/// Returns the keywords that the name of a producer file for this interface is likely to contain; empty if
+/// the label matches no row.
 QStringList ctiKeywordsForInterface(const QString &interfaceLabel)
 {
     const auto l = [](const char *list) { return QString::fromLatin1(list).split(QLatin1Char(' ')); };
-    // The order matters: "cameralinkhs" also contains "cameralink". Intended: "usbt" is listed twice and
-    // "usbtL" has a capital, so a file name with "usbt" outweighs one with only "usb".
+    // The order matters: "cameralinkhs" also contains "cameralink". Intended: "usbt" appears twice, and
+    // "usbtL" equals "usbtl" in lower case. A file name with "usbt" therefore scores higher than a name with
+    // only "usb".
     static const KeywordRow rows[] = {
         {l("simulator"), l("simulator camerasimulator")},
         {l("gige gig"), l("gige gig gev gevt gigeetl gigetl")},
@@ -102,7 +106,7 @@ QStringList ctiKeywordsForInterface(const QString &interfaceLabel)
     return {};
 }
 
-/// Returns 100 for each keyword in the file name, and 5 more for "corvix".
+/// Returns 100 points for each keyword in the file name, plus 5 points if the name contains "corvix".
 int ctiScore(const QString &fileName, const QStringList &keywords)
 {
     const QString name = fileName.toLower();
@@ -114,7 +118,8 @@ int ctiScore(const QString &fileName, const QStringList &keywords)
     return score;
 }
 
-/// Returns the producer files of all directories, directory by directory, each sorted by name.
+/// Returns the producer files in the order of the directories. The files of each directory are sorted by
+/// name.
 QFileInfoList ctiFiles(const QStringList &directories)
 {
     QFileInfoList files;
@@ -123,8 +128,8 @@ QFileInfoList ctiFiles(const QStringList &directories)
     return files;
 }
 
-/// Returns the path of the file with the highest score; the first name wins among equal scores. Empty only
-/// without files.
+/// Returns the path of the file with the highest score. Among files with equal scores, the first name in the
+/// sort order is chosen. The path is empty only if there are no files.
 QString bestCtiFile(const QFileInfoList &files, const QStringList &keywords)
 {
     QString bestPath;
@@ -141,7 +146,7 @@ QString bestCtiFile(const QFileInfoList &files, const QStringList &keywords)
     return bestPath;
 }
 
-/// Returns the path that sorts first; empty only without files.
+/// Returns the first path in the sort order; empty only if there are no files.
 QString firstCtiFile(const QFileInfoList &files)
 {
     QStringList paths;
@@ -166,7 +171,7 @@ void MainWindow::loadConfig(const QString &installRoot)
 
 QString MainWindow::resolveCtiPath(const QString &interfaceLabel)
 {
-    // Intended: the cache lives until the next loadConfig(), so a refresh does not find new files.
+    // Intended: the cache is kept until the next loadConfig(), so a refresh does not find new files.
     const auto cached = m_ctiPathCache.constFind(interfaceLabel);
     if (cached != m_ctiPathCache.constEnd())
         return *cached;

@@ -1,4 +1,4 @@
-// The tool tiles of the window.
+// This file implements the tool tiles of the window.
 
 #include "ui/MainWindow.h"
 

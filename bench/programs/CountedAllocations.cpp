@@ -3,13 +3,13 @@
 #include <cstdlib>
 #include <new>
 
-// The functions of the C library behind malloc() and realloc(), which are replaced below.
+// The C library's own malloc() and realloc(), which the functions in this file replace.
 extern "C" void *__libc_malloc(std::size_t size); // NOLINT(bugprone-reserved-identifier)
 extern "C" void *__libc_realloc(void *memory, std::size_t size); // NOLINT(bugprone-reserved-identifier)
 
 namespace {
 
-std::size_t count = 0; // Not atomic: only one thread is measured.
+std::size_t count = 0; // This counter is not atomic, because only one thread is measured.
 
 } // namespace
 
@@ -32,7 +32,7 @@ extern "C" void *realloc(void *memory, std::size_t size)
 
 void *operator new(std::size_t size)
 {
-    if (void *memory = std::malloc(size)) // Counts it.
+    if (void *memory = std::malloc(size)) // malloc() counts the allocation.
         return memory;
     throw std::bad_alloc();
 }

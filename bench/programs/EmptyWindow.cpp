@@ -1,5 +1,6 @@
-// The floor of a start: a window of the launcher's size and style, with one label. With a producer as
-// argument, the program lists its cameras before it shows the window, and the label contains their number.
+// Shows a window of the launcher's size and style with one label, as the floor for the launcher's start. If
+// the argument is a producer, the program first enumerates the producer's cameras, and the label shows their
+// number.
 
 #include "bench/programs/directListing.h"
 

@@ -1,5 +1,5 @@
-// Prints the number of cameras that the installation around this program lists, and the milliseconds from the
-// start of the SDK to its list and to the launcher's records.
+// Prints the number of cameras that the SDK of this program's installation finds, and the milliseconds from
+// the start of the SDK until its camera list is complete and until the launcher's records are complete.
 
 #include "camera/CorvixCameraProvider.h"
 
@@ -29,7 +29,8 @@ int main()
         || system.GetCameras(nullptr, count) != CvxCPP::CvxErrorSuccess)
         return EXIT_FAILURE;
     const double list = millisecondsSince(start);
-    const QVector<CameraInfo> cameras = CorvixCameraProvider().listCameras(); // Uses the same search.
+    const QVector<CameraInfo> cameras
+        = CorvixCameraProvider().listCameras(); // Does not start another search.
     std::printf("%d %.3f %.3f\n", cameras.size(), list, millisecondsSince(start));
     system.Shutdown();
 }

@@ -1,5 +1,5 @@
-// A tool that writes the time when it reaches main() to a pipe, in nanoseconds of the monotonic clock. It
-// links the same libraries as the placeholder tools, because loading them is part of every start.
+// A tool that writes the time at which main() starts to a pipe, in nanoseconds of the monotonic clock. The
+// tool links the same libraries as the tool stand-ins, because loading them is part of every start.
 
 #include <cstdio>
 #include <cstdlib>

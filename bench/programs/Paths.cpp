@@ -1,12 +1,13 @@
-// The four functions whose instructions are counted. They need neither clock, disk nor screen. Each runs
-// twice: first to initialise data, then inside a function whose name tells callgrind to count.
+// Calls the four functions whose instructions are counted. The functions need neither clock, disk nor screen.
+// Callgrind counts the calls that are made inside the functions named count_…; the other calls initialise
+// data.
 
 #include "bench/programs/ReferenceCameras.h"
 #include "config/LauncherConfig.h"
 #include "sdk/protocol/DiscoveryMessages.h"
 #include "sdk/protocol/Message.h"
 
-// The function that builds a tooltip is private to this file.
+// The included file contains the private function that builds a tooltip.
 #include "ui/MainWindowCameraTable.cpp" // NOLINT(bugprone-suspicious-include)
 
 #include <cstdlib>
@@ -17,7 +18,7 @@ namespace {
 
 constexpr int cameraCount = 64;
 
-/// Returns the reply of a host with so many cameras on one interface, as a line without its line feed.
+/// Returns the reply of a host with `cameraCount` cameras on one interface, as a line without its line feed.
 std::string cameraListLine()
 {
     InterfaceRecord interface {
@@ -100,7 +101,7 @@ int main()
     const QVector<CameraInfo> cameras = referenceCameras(cameraCount);
     LauncherConfig config;
     config.load();
-    // The picture is encoded already: the work of Qt and libpng would hide the cost of our own code.
+    // The picture is already encoded, because the work of Qt and libpng would hide the cost of our own code.
     ImageCells imageCells{{QStringLiteral("picture"), QString(4000, QLatin1Char('x'))}};
 
     const bool isSame = count_list_parsing(line) == parsed(line) && parsed(line) == cameraCount

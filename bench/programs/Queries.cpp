@@ -1,5 +1,5 @@
 // Measures the queries of the configuration with the shipped data. Prints a line for each query: its name,
-// the allocations per call, and the microseconds per call of each batch.
+// the allocations per call, and the microseconds per call for each batch.
 
 #include "bench/programs/CountedAllocations.h"
 #include "bench/programs/ReferenceCameras.h"
@@ -17,7 +17,7 @@ template <typename Query>
 void measure(const char *name, const QVector<CameraInfo> &cameras, int batches, const Query &query)
 {
     for (const CameraInfo &camera : cameras)
-        query(camera); // Not measured: the first call initialises data.
+        query(camera); // The first call is not measured, because it initialises data.
     const std::size_t before = countedAllocations();
     for (const CameraInfo &camera : cameras)
         query(camera);

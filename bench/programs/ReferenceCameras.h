@@ -4,5 +4,5 @@
 
 #include <QVector>
 
-/// Returns `count` cameras. Their models are those of the shipped reference, repeated in order.
+/// Returns `count` cameras. Their models come from the shipped camera reference and repeat in its order.
 QVector<CameraInfo> referenceCameras(int count);

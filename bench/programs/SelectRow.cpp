@@ -1,5 +1,5 @@
-// Prints a line for each pair: the milliseconds from a click on a row until table and tiles are redrawn, and
-// the milliseconds to load, scale and encode each picture of the table once.
+// Prints a line for each pair of measurements: the milliseconds from a click on a row until the table and the
+// tiles are redrawn, and the milliseconds to load, scale and encode each picture of the table once.
 //
 // usage: bench_select_row INSTALLATION CAMERAS PAIRS
 
@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr int pictureWidth = 78; // Pixels, as in a tooltip.
+constexpr int pictureWidth = 78; // Pictures in a tooltip have this width in pixels.
 
 void settle()
 {
@@ -87,8 +87,8 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     settle();
 
-    for (int pair = -1; pair < QString::fromLocal8Bit(argv[3]).toInt();
-         ++pair) { // The first pair is not counted.
+    // The first pair, number -1, is not printed.
+    for (int pair = -1; pair < QString::fromLocal8Bit(argv[3]).toInt(); ++pair) {
         const int row = pair & 1;
         const double ours = select(*table, row);
         if (table->currentRow() != row || !table->item(row, 0)->isSelected())

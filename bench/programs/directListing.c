@@ -9,14 +9,14 @@
 
 enum
 {
-    searchTimeout = 500, /* Milliseconds. */
-    maxTextSize = 1024, /* Bytes. */
-    interfaceDisplayName = 1, /* INTERFACE_INFO_CMD. */
+    searchTimeout = 500, /* In milliseconds. */
+    maxTextSize = 1024, /* In bytes. */
+    interfaceDisplayName = 1, /* This value and the next one are INTERFACE_INFO_CMDs. */
     interfaceType = 2,
     deviceFieldCount = 5
 };
 
-/* DEVICE_INFO_CMD of vendor, model, type, display name and serial number. */
+/* The DEVICE_INFO_CMD values for vendor, model, type, display name and serial number. */
 static const int32_t deviceFields[deviceFieldCount] = {1, 2, 3, 4, 7};
 
 struct Producer
@@ -40,7 +40,7 @@ struct Camera
     char *fields[deviceFieldCount];
 };
 
-static struct Camera *cameras; /* Never freed, like the list of a running program. */
+static struct Camera *cameras; /* Never freed, because a running program keeps its list. */
 static size_t cameraCount;
 
 static int resolve(void *library, const char *name, void *function)
@@ -98,7 +98,8 @@ static int readInterface(const struct Producer *producer, void *system, uint32_t
         return 0;
     for (int32_t field = interfaceDisplayName; field <= interfaceType; ++field) {
         size = sizeof text;
-        producer->interfaceInfo(system, id, field, &type, text, &size); /* May fail: the text is optional. */
+        producer->interfaceInfo(
+            system, id, field, &type, text, &size); /* May fail, because the string is optional. */
     }
     cameras = realloc(cameras, (cameraCount + count) * sizeof *cameras);
     for (uint32_t device = 0; device < count; ++device) {

@@ -1,4 +1,4 @@
-/* Prints the number of cameras that a producer lists, and the milliseconds that this takes. */
+/* Prints the number of cameras of a producer, and the milliseconds that the enumeration takes. */
 #define _POSIX_C_SOURCE 200809L
 #include "bench/programs/directListing.h"
 

@@ -1,11 +1,11 @@
-# CPack runs this between staging and packing. It moves the files that the system searches for from /opt/corvix-x to /usr,
-# and adds the files that every Debian package contains.
+# CPack runs this script between staging and packing. It moves the files that the system expects in standard directories
+# out of /opt/corvix-x into /usr, and adds the files that every Debian package contains.
 
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
 
-# Writes a changelog that refers to CHANGELOG.md, dated SOURCE_DATE_EPOCH or today.
+# Writes a changelog that refers to CHANGELOG.md. Its date is SOURCE_DATE_EPOCH if that is set, or today.
 function(write_changelog package file)
     string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
     file(WRITE ${file} "${package} (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) stable; urgency=medium
@@ -17,7 +17,7 @@ function(write_changelog package file)
     execute_process(COMMAND gzip --best --no-name --force ${file} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# Moves a directory of the installation to its place in the system, if the component contains it.
+# Moves a directory of the installation into the system's directories, if the component contains this directory.
 function(move_to_system root from to)
     if(NOT EXISTS ${root}/opt/corvix-x/${from})
         return()
@@ -44,7 +44,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
 
     move_to_system(${root} share usr/share)
     move_to_system(${root} lib/udev usr/lib/udev)
-    file(REMOVE_RECURSE ${root}/opt/corvix-x/lib) # Nothing is left in it.
+    file(REMOVE_RECURSE ${root}/opt/corvix-x/lib) # This directory is empty now.
     complete_desktop_entries(${root})
 
     set(documents ${root}/usr/share/doc/${package})

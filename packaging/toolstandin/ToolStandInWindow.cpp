@@ -18,7 +18,7 @@ ToolStandInWindow::ToolStandInWindow(const QString &program, QWidget *parent) : 
     setMinimumWidth(440);
 
     auto *title = new QLabel(name, this);
-    title->setObjectName(QStringLiteral("titleLabel")); // The style sheet makes it large and white.
+    title->setObjectName(QStringLiteral("titleLabel")); // The style sheet makes this label large and white.
     auto *notice = new QLabel(tr("This window stands in for the SDK's tool. It shows that the tool was "
                                  "started, and does nothing else."),
         this);

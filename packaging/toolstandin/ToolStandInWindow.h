@@ -8,10 +8,11 @@ class QGridLayout;
 class ToolStandInWindow : public QWidget
 {
 public:
-    /// The file name of program, the path that was started, identifies the tool.
+    /// `program` is the path by which the program was started. Its file name identifies the tool.
     explicit ToolStandInWindow(const QString &program, QWidget *parent = nullptr);
 
-    /// Returns the configured name of the tool with this executable, or the file name if no tool has it.
+    /// Returns the configured name of the tool with this executable, or the file name if there is no such
+    /// tool.
     static QString toolName(const QString &program);
 
 private:

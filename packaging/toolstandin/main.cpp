@@ -19,7 +19,8 @@ int main(int argc, char *argv[])
     QApplication::setPalette(palette);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/orvelle-logo.ico")));
 
-    // applicationFilePath() would follow the link that has the name of the tool.
+    // The first argument contains the tool's name. applicationFilePath() would resolve the link and lose the
+    // name.
     ToolStandInWindow window(QApplication::arguments().constFirst());
     window.show();
     return QApplication::exec();

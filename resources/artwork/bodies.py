@@ -1,4 +1,4 @@
-"""Housings and what cools them."""
+"""Draws the housings of cameras and their cooling."""
 
 from connectors import ribbon
 from lettering import lettering
@@ -6,7 +6,7 @@ from solids import inset, rectangle
 
 
 def housing(drawing, model, back, front):
-    """A milled block; a band in the vendor's colour runs behind its front plate."""
+    """Draws a milled block. A band in the accent colour separates the front plate from the rest of the block."""
     width, height = model.size[:2]
     profile = rectangle(width, height, model.corner, 1 if model.cut else 4)
     band = max(2, min(width, height) * .055)
@@ -27,7 +27,7 @@ def housing(drawing, model, back, front):
 
 
 def cooling_plates(drawing, model, profile, back, front):
-    """Plates all around, across the optical axis."""
+    """Draws cooling plates across the optical axis, on all sides of the housing."""
     pitch = (front - back) / model.plates
     core = inset(profile, min(model.size[:2]) * .08)
     for index in range(model.plates):
@@ -37,7 +37,8 @@ def cooling_plates(drawing, model, profile, back, front):
 
 
 def ribbed(drawing, model, back, front):
-    """Cooling ribs along the optical axis, on the top and maybe on the right side, level with the front plate."""
+    """Draws cooling ribs along the optical axis, level with the front plate: on the top and, if the model has flanks,
+    on the right side."""
     width, height, _ = model.size
     rise = min(width, height) * .09
     length, z = front - back, (front + back) / 2
@@ -55,16 +56,16 @@ def ribbed(drawing, model, back, front):
 
 
 def name_plate(drawing, model, back, front):
-    """The name of the series on a smooth side."""
+    """Writes the name of the series on the right side."""
     room = (front - back) * .7, model.size[1] * .26
     text = lettering(model.name, room, '#2b3138' if model.body == 'silver' else '#c0c6cc')
-    # Seen from the right, the optical axis runs from right to left.
+    # The text is mirrored, because the optical axis runs from right to left if seen from the right.
     drawing.flat('side', (model.size[0] / 2, model.size[1] * .06, (back + front) / 2),
                  f'<g transform="scale(-1 1)">{text}</g>')
 
 
 def fan(drawing, model, back, front):
-    """On the right side, in a frame of its own. It is drawn for a radius of 1."""
+    """Draws a fan in a frame on the right side. The coordinates are relative to the radius of the fan."""
     width, height, _ = model.size
     radius = min(height * .38, (front - back) * .46)
     blades = ''.join('<path d="M.2 0C.45 .1 .8 .05 .84 .42C.7 .48 .3 .42 .1 .2Z" fill="#7d8793" '
@@ -77,7 +78,7 @@ def fan(drawing, model, back, front):
 
 
 def screws(drawing, model, z):
-    """In the four corners; where those are cut off, beside the cut."""
+    """Draws a screw in each of the four corners. If the corners are cut off, the screws are beside the cuts."""
     width, height = model.size[:2]
     edge = max(2.4, min(width, height) * .095)
     x, y = width / 2 - (model.corner if model.cut else edge), height / 2 - edge
@@ -87,7 +88,7 @@ def screws(drawing, model, z):
 
 
 def boards(drawing, model, back, front):
-    """Two boards without a housing, held by spacers; the rear one has the cable."""
+    """Draws two boards without a housing, connected by spacers. The rear board has the cable."""
     width, height, _ = model.size
     corners = [(x * width * .41, y * height * .41) for x in (-1, 1) for y in (-1, 1)]
     ribbon(drawing, width / 2 - 4, -height * .12, back)

@@ -1,4 +1,4 @@
-"""Plugs and cables in the back of a camera, each drawn from its base on the rear face away from the viewer."""
+"""Draws plugs and cables at the back of a camera. Each plug extends from the rear face away from the viewer."""
 
 
 def rj45(drawing, x, y, z):
@@ -34,12 +34,12 @@ def power(drawing, x, y, z):
 
 
 def coax(drawing, x, y, z):
-    """One of the lines of CoaXPress."""
+    """Draws the plug of one CoaXPress line."""
     round_plug(drawing, x, y, z, 5.6, 25, 2.6)
 
 
 def sfp(drawing, x, y, z):
-    """A metal cage, its module and two fibres."""
+    """Draws a metal cage with its module and two fibres."""
     for side in (-1, 1):
         drawing.cable((x + side * 3.6, y, z - 28), 1.7, 'aqua')
         drawing.box((x + side * 3.6, y, z - 25), (5.4, 6, 8), 'aqua', .6)
@@ -56,7 +56,7 @@ def camera_link(drawing, x, y, z):
 
 
 def ribbon(drawing, x, y, z):
-    """A flat flexible cable that leaves a board to the right."""
+    """Draws a flat flexible cable that runs from a board to the right."""
     drawing.face([(x, y - 9, z), (x + 15, y - 9, z), (x + 15, y + 9, z), (x, y + 9, z)], (0, .1, 1), 'amber')
     tracks = ''.join(f'<path d="M0 {i}h15" stroke="#ffd98a" stroke-width=".6" opacity=".8"/>' for i in range(-7, 8, 2))
     drawing.flat('front', (x, y, z), tracks)
@@ -64,13 +64,13 @@ def ribbon(drawing, x, y, z):
     drawing.face(bent, (1, .1, .2), 'amber')
 
 
-# How they are drawn, half their width, and the room that they need from one to the next.
+# For each connector: the function that draws it, half its width, and the height that it needs in the column.
 CONNECTORS = {'rj45': (rj45, 8, 15), 'usb': (usb, 10, 11), 'm12': (m12, 8, 18), 'power': (power, 5.5, 12),
               'coax': (coax, 6, 14), 'sfp': (sfp, 8, 14), 'camera link': (camera_link, 18, 16)}
 
 
 def rear_connectors(drawing, kinds, width, z):
-    """One below the other at the right edge of the rear face, where they are seen."""
+    """Draws the connectors in a column at the right edge of the rear face, where they are visible."""
     room = [CONNECTORS[kind][2] for kind in kinds]
     y = -sum(room) / 2
     for kind, height in zip(reversed(kinds), reversed(room)):

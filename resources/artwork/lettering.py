@@ -1,6 +1,6 @@
-"""The few capitals and figures that housings carry, as strokes: no picture depends on a font."""
+"""Draws the capital letters and digits on housings as strokes, so that no picture depends on a font."""
 
-# On a grid 4 wide and 6 high, y up.
+# The strokes use a grid that is 4 wide and 6 high, with y up.
 STROKES = {
     'A': 'M0 0L2 6L4 0M.8 2H3.2', 'B': 'M0 0V6H2.6C4 6 4 3.2 2.6 3.2H0M2.6 3.2C4.4 3.2 4.4 0 2.6 0H0',
     'C': 'M4 5C3 6.4 0 6.4 0 3S3 -.4 4 1',
@@ -16,7 +16,7 @@ ADVANCE = 5.6
 
 
 def lettering(text, room, colour):
-    """Around the origin, as large as fits into a width and a height."""
+    """Returns a text around the origin, as large as fits into a width and a height."""
     width = ADVANCE * len(text) - 1.6
     scale = min(room[0] / width, room[1] / 6)
     letters = ''.join(f'<path d="{STROKES[letter]}" transform="translate({i * ADVANCE - width / 2:.2f} -3)"/>'

@@ -1,4 +1,4 @@
-"""One lamp for all pictures: above, left and in front of the camera. A face's colour follows from its direction."""
+"""Computes the colours of faces. In all pictures, one lamp stands above, left and in front of the camera."""
 
 from math import sqrt
 
@@ -10,7 +10,7 @@ def unit(vector):
 
 LAMP = unit((-.5, .8, .62))
 
-# Colour in full light, and how much of the lamp is mirrored.
+# For each material: the colour in full light, and the share of the lamp's light that is mirrored.
 MATERIALS = {
     'graphite': ('#63707f', .10), 'black': ('#4a505a', .14), 'silver': ('#eaeff3', .25),
     'steel': ('#bcc6d0', .50), 'chrome': ('#d9dfe5', .75), 'rubber': ('#343a42', .06), 'pale': ('#f4f7fa', .12),
@@ -22,13 +22,13 @@ MATERIALS = {
 
 
 def mix(first, second, share):
-    """Between two #rrggbb colours; share 0 gives the first."""
+    """Returns a mixture of two #rrggbb colours, of which `share` is the second colour."""
     channels = zip(bytes.fromhex(first[1:]), bytes.fromhex(second[1:]))
     return '#' + ''.join(f'{round(a + (b - a) * share):02x}' for a, b in channels)
 
 
 def shade(material, normal, brighter=0):
-    """The colour of a face that looks into the direction of its normal."""
+    """Returns the colour of a face with this normal."""
     colour, mirrored = MATERIALS[material]
     lit = max(0, sum(a * b for a, b in zip(unit(normal), LAMP)))
     light = .45 + .7 * lit + brighter

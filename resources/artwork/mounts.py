@@ -1,10 +1,10 @@
-"""What is in the front of a camera: the lens mount and, at the bottom of its opening, the sensor."""
+"""Draws the front of a camera: the lens mount and, at the bottom of its opening, the sensor."""
 
 from math import cos, pi, sin
 
 from light import shade
 
-# Glass over the sensor, from the lower left to the upper right.
+# The colours of the glass over the sensor, at the lower left and at the upper right.
 TINTS = {
     'standard': ('#2a3f8f', '#7fa4f0'), 'large': ('#26307c', '#7d93ea'), 'uv': ('#4a1f9a', '#c39bff'),
     'swir': ('#6d2418', '#eb9a63'), 'polar': ('#17635d', '#6fd8c8'), 'cooled': ('#3a7ea0', '#c9f1ff'),
@@ -24,7 +24,7 @@ def sensor(drawing, at, size, tint, kind):
     parts = [bar(0, 0, width + 2 * border, height + 2 * border, frame)]
     if kind == 'area':
         parts.append(bar(0, 0, width, height, glass))
-    elif kind == 'polar':  # Four directions of polarisation, side by side.
+    elif kind == 'polar':  # Neighbouring pixels measure four directions of polarisation.
         tones = '#2fd0b8', '#7a5cf0', '#ffb03a', '#3a8cf0'
         across, down = width / 4, height / 3
         parts += [bar((i - 1.5) * across, (j - 1) * down, across, down, tones[(2 * j + i + j // 2) % 4])
@@ -32,7 +32,7 @@ def sensor(drawing, at, size, tint, kind):
     elif kind == 'line':
         parts = [bar(0, 0, width + 6, height + 7, '#aeb8c2'), bar(0, 0, width + 2, height + 3, '#1b2340'),
                  bar(0, 0, width, height, '#8fb0ff')]
-    elif kind == 'tdi':  # Many lines that add up.
+    elif kind == 'tdi':  # A TDI sensor adds up many lines.
         parts = [bar(0, 0, width + 6, height + 5, '#aeb8c2'), bar(0, 0, width + 2, height + 2, '#1b2340')]
         parts += [bar(0, (i - 1) * height * .36, width, height * .2, tone)
                   for i, tone in enumerate(('#6fd8c8', '#8fb0ff', '#6fd8c8'))]
@@ -43,7 +43,7 @@ def sensor(drawing, at, size, tint, kind):
 
 
 def opening(drawing, rim, radius, depth, model, threads=0):
-    """A dark bore, lit on the side away from the lamp, with the sensor at its bottom."""
+    """Draws a dark bore with the sensor at its bottom. The side away from the lamp is lit."""
     x, y, z = rim
     dark, middle, bright = '#07090b', '#14181d', '#59636e'
     if model.tint == 'pale':
@@ -63,7 +63,7 @@ def opening(drawing, rim, radius, depth, model, threads=0):
 
 
 def threaded(drawing, z, model, radius, length):
-    """C, CS, M42 and larger: a ring with a thread inside."""
+    """Draws a C, CS or M mount: a ring with a thread inside."""
     collar = drawing.cylinder((0, 0, z), radius * 1.08, length * .3, model.ring)
     drawing.ring(collar, radius * 1.08, radius * .99, model.ring)
     rim = drawing.cylinder(collar, radius * .97, length * .7, model.ring)
@@ -73,7 +73,7 @@ def threaded(drawing, z, model, radius, length):
 
 
 def bayonet(drawing, z, model, radius, length):
-    """F: a polished ring with screws, three claws inside and a red dot."""
+    """Draws an F mount: a polished ring with screws, three claws inside and a red dot."""
     rim = drawing.cylinder((0, 0, z), radius, length, 'chrome')
     drawing.ring(rim, radius, radius * .93, 'chrome')
     screws = ''.join(f'<circle cx="{radius * .84 * cos(a):.2f}" cy="{radius * .84 * sin(a):.2f}" '
@@ -90,7 +90,7 @@ def bayonet(drawing, z, model, radius, length):
 
 
 def board_lens(drawing, z, model, radius, length):
-    """S: a small lens, screwed into its holder."""
+    """Draws an S mount: a small lens that is screwed into its holder."""
     holder = drawing.cylinder((0, 0, z), radius * 1.25, length * .35, 'black', far_radius=radius * 1.45)
     neck = drawing.cylinder(holder, radius * .9, length * .2, 'black')
     front = drawing.cylinder(neck, radius * 1.08, length * .45, 'black')
@@ -101,7 +101,7 @@ def board_lens(drawing, z, model, radius, length):
 
 
 def lens(drawing, at, radius):
-    """Coated glass that mirrors the lamp."""
+    """Draws coated glass that mirrors the lamp."""
     glass = drawing.gradient([(0, '#0a1430'), (.5, '#27408f'), (1, '#7a55c8')], (-radius, radius), (radius, -radius))
     drawing.disc(at, radius, glass)
     drawing.flat('front', at, f'<ellipse cx="{-radius * .32:.2f}" cy="{radius * .36:.2f}" rx="{radius * .36:.2f}" '
@@ -111,7 +111,7 @@ def lens(drawing, at, radius):
 
 
 def lens_tube(drawing, z, model, radius, length):
-    """A sealed tube that protects the lens, with a window in front."""
+    """Draws a sealed tube that protects the lens, with a window in front."""
     collar = drawing.cylinder((0, 0, z), radius * 1.12, length * .16, 'steel')
     drawing.ring(collar, radius * 1.12, radius, 'steel')
     seal = drawing.cylinder(collar, radius * .97, length * .06, model.accent)
@@ -125,7 +125,7 @@ def lens_tube(drawing, z, model, radius, length):
 
 
 def groove(drawing, at, radius, along):
-    """A turned groove around a cylinder, as far as it is seen."""
+    """Returns the visible part of a groove around a cylinder."""
     matrix = drawing.matrix('front', (at[0], at[1], at[2] + along))
     start, end = (radius * cos(-1.02), radius * sin(-1.02)), (radius * cos(pi - 1.02), radius * sin(pi - 1.02))
     return (f'<path transform="{matrix}" d="M{start[0]:.2f} {start[1]:.2f}A{radius} {radius} 0 0 1 '

@@ -1,7 +1,7 @@
-"""Prisms and cylinders in one fixed three-quarter view, drawn as SVG.
+"""Draws prisms and cylinders in one fixed three-quarter view, as SVG.
 
-Lengths are millimetres: x to the right along the front of the camera, y up, z along the optical axis
-towards the viewer. Solids are painted in call order, so the farthest one comes first.
+Lengths are in millimetres. The x axis runs to the right along the front of the camera, the y axis up, and the z axis
+along the optical axis towards the viewer. Solids are painted in call order, so the farthest solid comes first.
 """
 
 from math import atan2, cos, dist, hypot, pi, radians, sin
@@ -9,7 +9,7 @@ from math import atan2, cos, dist, hypot, pi, radians, sin
 from light import LAMP, shade
 
 YAW, PITCH = radians(-36), radians(20)
-X = (cos(YAW), -sin(YAW) * sin(PITCH))  # The three axes on the page, where y points down.
+X = (cos(YAW), -sin(YAW) * sin(PITCH))  # X, Y and Z are the three axes on the page, where y points down.
 Y = (0.0, -cos(PITCH))
 Z = (sin(YAW), cos(YAW) * sin(PITCH))
 VIEWER = (-sin(YAW) * cos(PITCH), sin(PITCH), cos(YAW) * cos(PITCH))
@@ -22,7 +22,8 @@ def project(x, y, z):
 
 
 def rectangle(width, height, corner=0, steps=4):
-    """A profile around the optical axis, counterclockwise; one step a corner cuts it off, more steps round it."""
+    """Returns a rectangular profile around the optical axis, counterclockwise. With one step, the corners are cut off;
+    with more steps, they are rounded."""
     x, y = width / 2 - corner, height / 2 - corner
     if not corner:
         return [(x, y), (-x, y), (-x, -y), (x, -y)]
@@ -32,7 +33,7 @@ def rectangle(width, height, corner=0, steps=4):
 
 
 def inset(profile, by):
-    """The profile with every side moved inwards."""
+    """Returns the profile with every side moved inwards."""
     result = []
     for i, (x, y) in enumerate(profile):
         before, after = outward(profile[i - 1], (x, y)), outward((x, y), profile[(i + 1) % len(profile)])
@@ -59,7 +60,7 @@ class Drawing:
             self.high = [max(a, b) for a, b in zip(self.high, point)]
 
     def gradient(self, stops, start, end):
-        """Stops are pairs of place, from 0 to 1, and colour."""
+        """Returns a reference to a new gradient. Each stop consists of a position, from 0 to 1, and a colour."""
         name = f'g{len(self.defs)}'
         colours = ''.join(f'<stop offset="{place:.2f}" stop-color="{colour}"/>' for place, colour in stops)
         self.defs.append(f'<linearGradient id="{name}" gradientUnits="userSpaceOnUse" x1="{start[0]:.2f}" '
@@ -69,11 +70,11 @@ class Drawing:
     def polygon(self, points, fill):
         self.cover(points)
         path = ' '.join(f'{x:.2f},{y:.2f}' for x, y in points)
-        # The stroke closes the seam to the neighbour.
+        # The stroke closes the gap to the neighbouring polygon.
         self.body.append(f'<polygon points="{path}" fill="{fill}" stroke="{fill}"/>')
 
     def face(self, corners, normal, material):
-        """A flat face; where it is wide enough to be seen, a little brighter where it is nearer to the lamp."""
+        """Draws a flat face. A wide face is a little brighter towards the lamp."""
         points = [project(*corner) for corner in corners]
         if min(dist(corners[0], corners[1]), dist(corners[1], corners[2])) < 5:
             self.polygon(points, shade(material, normal))
@@ -85,7 +86,7 @@ class Drawing:
                                            dark, bright))
 
     def prism(self, profile, back, front, material, bevel=0):
-        """A profile drawn out along the optical axis, its front edge bevelled."""
+        """Draws a profile that is extruded along the optical axis, with a bevelled front edge."""
         edge, lid = front - bevel, inset(profile, bevel) if bevel else profile
         for i, (start, end) in enumerate(zip(profile, profile[1:] + profile[:1])):
             normal = outward(start, end)
@@ -102,9 +103,9 @@ class Drawing:
         self.prism(profile, z - depth / 2, z + depth / 2, material, bevel)
 
     def cylinder(self, at, radius, length, material, far_radius=None):
-        """Lies along the optical axis and reaches from its base towards the viewer; gives the middle of its front."""
+        """Draws a cylinder along the optical axis, from its base towards the viewer. Returns its front centre."""
         far_radius = far_radius or radius
-        first = atan2(VIEWER[1], VIEWER[0]) - pi / 2  # Half of it is seen.
+        first = atan2(VIEWER[1], VIEWER[0]) - pi / 2  # Only half of the surface is visible.
         turns = [first + pi * i / 16 for i in range(17)]
         far = [project(at[0] + far_radius * cos(t), at[1] + far_radius * sin(t), at[2]) for t in turns]
         front = at[0], at[1], at[2] + length
@@ -124,7 +125,7 @@ class Drawing:
         self.flat('front', at, f'<circle r="{radius:.2f}" fill="{fill}"/>')
 
     def ring(self, at, outer, inner, material, hollow=False):
-        """A conical ring around the optical axis, rising towards its middle, or falling into it."""
+        """Draws a conical ring around the optical axis. The ring rises towards its middle or, if hollow, sinks."""
         way = -1 if hollow else 1
         reach = (outer + inner) / 2
         lit, unlit = ((-.6 * way, .6 * way, .6), (.6 * way, -.6 * way, .6))
@@ -134,7 +135,7 @@ class Drawing:
                   f'stroke-width="{outer - inner:.2f}"/>')
 
     def matrix(self, plane, at):
-        """Transform that puts flat artwork, y up, onto a plane through the point."""
+        """Returns the transform that puts flat artwork, with y up, onto a plane through the point."""
         a, b = PLANES[plane]
         x, y = project(*at)
         return f'matrix({a[0]:.4f} {a[1]:.4f} {b[0]:.4f} {b[1]:.4f} {x:.2f} {y:.2f})'
@@ -143,14 +144,14 @@ class Drawing:
         self.body.append(f'<g transform="{self.matrix(plane, at)}">{content}</g>')
 
     def hole(self, at, radius):
-        """Gives the attribute that hides what does not show through a round opening in the front plane."""
+        """Returns the attribute that hides everything outside a round opening in the front plane."""
         name = f'c{len(self.defs)}'
         circle = f'<circle r="{radius:.2f}" transform="{self.matrix("front", at)}"/>'
         self.defs.append(f'<clipPath id="{name}">{circle}</clipPath>')
         return f'clip-path="url(#{name})"'
 
     def cable(self, at, radius, material):
-        """Leaves to the back, bends down and fades."""
+        """Draws a cable that runs backwards, bends down and fades out."""
         x, y = project(*at)
         bx, by = -Z[0] * radius * 3, -Z[1] * radius * 3
         end = x + bx * 1.4, y + by * .6 + radius * 6
@@ -166,7 +167,7 @@ class Drawing:
                              f'fill="none" stroke="url(#{name})" stroke-width="{width * radius:.2f}"/>')
 
     def shadow(self, y, size):
-        """On the floor at y, under something of that width and depth."""
+        """Draws a shadow on the floor at height y, under a body of this width and depth."""
         width, depth = size
         floor = [project(a * width / 2, y, b * depth / 2) for a, b in ((-1, -1), (1, -1), (1, 1), (-1, 1))]
         blur = min(width, depth) * .07
@@ -177,7 +178,7 @@ class Drawing:
         self.body.append(f'<polygon points="{path}" fill="#0f1419" opacity=".5" filter="url(#soft)"/>')
 
     def svg(self, page, share):
-        """On a page of that size, in whose middle it takes that share of the room."""
+        """Returns the drawing as SVG, in the middle of a page of this size and filling this share of the page."""
         width, height = (high - low for low, high in zip(self.low, self.high))
         unit = max(width / page[0], height / page[1]) / share
         area = page[0] * unit, page[1] * unit
@@ -189,6 +190,6 @@ class Drawing:
 
 
 def unit_across(direction):
-    """At right angles to a direction on the page."""
+    """Returns the unit vector at right angles to a direction on the page."""
     length = hypot(*direction)
     return -direction[1] / length, direction[0] / length

@@ -6,21 +6,21 @@
 
 namespace {
 
-/// Returns valid UTF-8; devices send strings in any encoding.
+/// Returns the text as valid UTF-8, because devices send strings in any encoding.
 std::string toUtf8(const char *text)
 {
     const std::unique_ptr<char, void (*)(void *)> valid(g_utf8_make_valid(text ? text : "", -1), g_free);
     return valid.get();
 }
 
-/// Returns false for an ID of zeros: a device that is only software may have no hardware address.
+/// Returns false if the ID consists of zeros, because a simulated device may have no hardware address.
 bool identifiesDevice(const std::string &physicalId)
 {
     return physicalId.find_first_not_of("0:") != std::string::npos;
 }
 
-/// Keeps libaravis in the process when the producer is unloaded: GLib has pointers into it, and libusb below
-/// it has a thread, until the process ends.
+/// Keeps libaravis loaded after the producer was unloaded. GLib keeps pointers into libaravis, and libusb,
+/// which libaravis uses, keeps a thread until the process ends.
 void keepAravisLoaded()
 {
     Dl_info library{};
@@ -32,8 +32,9 @@ FoundDevice readDevice(ArvInterface *interface, unsigned index)
 {
     FoundDevice device;
     device.id = toUtf8(arv_interface_get_device_physical_id(interface, index));
+    // Without a physical ID, Aravis composes the ID of vendor, model and serial number.
     if (!identifiesDevice(device.id))
-        device.id = toUtf8(arv_interface_get_device_id(interface, index)); // Vendor, model and serial number.
+        device.id = toUtf8(arv_interface_get_device_id(interface, index));
     device.vendor = toUtf8(arv_interface_get_device_vendor(interface, index));
     device.model = toUtf8(arv_interface_get_device_model(interface, index));
     device.serial = toUtf8(arv_interface_get_device_serial_nbr(interface, index));
@@ -56,14 +57,14 @@ std::string displayName(const FoundDevice &device)
 
 std::vector<FoundDevice> findDevices(ArvInterface *(*interfaceInstance)())
 {
-    // Static, because Aravis has one object per protocol and process, which two device sources can share: one
-    // that was closed may still be in a search when the next one starts.
+    // The mutex is static, because Aravis has one object per protocol and process, and two device sources can
+    // use this object: a closed source may still be searching when the next source starts.
     static std::mutex interfaceMutex;
     const std::lock_guard lock(interfaceMutex);
     static std::once_flag once;
     std::call_once(once, keepAravisLoaded);
-    // Not arv_update_device_list(): that list belongs to the whole process, in which a producer for another
-    // protocol may be loaded too.
+    // arv_update_device_list() is not used, because its list belongs to the whole process, which may also
+    // contain a producer for another protocol.
     ArvInterface *const interface = interfaceInstance();
     arv_interface_update_device_list(interface);
     std::vector<FoundDevice> found;
@@ -75,7 +76,7 @@ std::vector<FoundDevice> findDevices(ArvInterface *(*interfaceInstance)())
 
 DeviceRecord toRecord(const FoundDevice &device, const std::string &tlType)
 {
-    DeviceRecord record; // The access status stays unknown: Aravis would have to open the device.
+    DeviceRecord record; // The access status stays unknown, because only an open device reports it.
     record.id = device.id;
     record.vendor = device.vendor;
     record.model = device.model;

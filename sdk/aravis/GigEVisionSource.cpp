@@ -24,7 +24,7 @@ ProducerIdentity GigEVisionSource::identity() const
 
 std::vector<InterfaceRecord> GigEVisionSource::updateInterfaces()
 {
-    // Interfaces without a device too: a consumer polls for interfaces less often than for devices.
+    // Reports interfaces without a device too, because a consumer updates interfaces less often than devices.
     std::vector<InterfaceRecord> interfaces;
     for (const InterfaceAddress &address : m_listAddresses())
         interfaces.push_back({address.address,
@@ -57,7 +57,7 @@ std::vector<FoundDevice> GigEVisionSource::search() const
 
 bool GigEVisionSource::hasLostInterface(const FoundDevice &device) const
 {
-    // The addresses are needed only for a device that the last search missed, which is rare.
+    // The addresses are needed only if the last search did not find the device, which is rare.
     if (!device.isMissed || device.interfaceId == elsewhereId)
         return false;
     const std::vector<InterfaceAddress> addresses = m_listAddresses();

@@ -6,14 +6,14 @@
 
 #include <functional>
 
-/// GigE Vision cameras of any vendor. Each address of a network interface is an interface, which lists the
-/// devices of its network. One more interface lists devices whose address is in none of these networks.
+/// Finds GigE Vision cameras of any vendor. Each address of a network interface is one GenTL interface, which
+/// reports the devices of its network. One more GenTL interface reports the devices of all other networks.
 class GigEVisionSource final : public DeviceSource
 {
 public:
     using ListAddresses = std::function<std::vector<InterfaceAddress>()>;
 
-    /// @param findDevices Searches for devices; their interface is filled in here.
+    /// @param findDevices Searches for devices. The source itself sets the interface of each device.
     /// @param maxAge See SharedSearch.
     GigEVisionSource(SharedSearch::Search findDevices, ListAddresses listAddresses,
         std::chrono::milliseconds maxAge = SharedSearch::defaultMaxAge);

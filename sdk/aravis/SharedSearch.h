@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Shares one search for devices among all interfaces of a producer. A consumer updates the interfaces at the
-/// same time or one right after another, and each search covers them all.
+/// same time or in quick succession, and each search finds the devices of all interfaces.
 class SharedSearch
 {
 public:
@@ -17,16 +17,16 @@ public:
     enum class Transport
     {
         Reliable,
-        Lossy ///< Replies can get lost, so a device that one search misses is still returned.
+        Lossy ///< Replies can get lost, so a device is kept if one search does not find it.
     };
 
-    static constexpr std::chrono::milliseconds defaultMaxAge{500}; ///< Far less than a poll interval.
+    static constexpr std::chrono::milliseconds defaultMaxAge{500}; ///< Much shorter than a poll interval.
 
-    /// A result is shared until it is as old as maxAge.
+    /// Creates a search whose result is shared until the result is as old as `maxAge`.
     SharedSearch(Search search, Transport transport, std::chrono::milliseconds maxAge = defaultMaxAge);
 
-    /// Returns the devices of a new search, or of the last one if that has just ended. Blocks until the
-    /// search has ended. Any thread may call it.
+    /// Returns the result of the last search if the result is not too old. Otherwise, runs a new search and
+    /// blocks until the search has ended. Any thread may call devices().
     std::vector<FoundDevice> devices();
 
 private:
@@ -38,8 +38,9 @@ private:
     const Transport m_transport;
     const std::chrono::milliseconds m_maxAge;
 
-    std::mutex
-        m_mutex; // Guards what follows. Held during a search, because every caller waits for its result.
+    // Guards the members below. The mutex is locked during a search, because every caller waits for the
+    // result.
+    std::mutex m_mutex;
     bool m_hasSearched = false;
     Clock::time_point m_endedAt;
     std::vector<FoundDevice> m_devices;

@@ -40,7 +40,7 @@ bool Usb3VisionSource::isUsbReady()
     const std::lock_guard lock(m_mutex);
     if (m_isReady)
         return true;
-    // Aravis initialises libusb only once per process and reports no failure, so try it first.
+    // Aravis initialises libusb only once per process and reports no failure, so libusb is tested first.
     libusb_context *context = nullptr;
     const int result = libusb_init(&context);
     m_isReady = result == LIBUSB_SUCCESS;

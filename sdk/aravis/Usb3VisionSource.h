@@ -5,8 +5,8 @@
 
 #include <mutex>
 
-/// USB3 Vision cameras of any vendor, on one interface, the USB host.
-/// While USB cannot be searched there are none, and one line on standard error reports that once.
+/// Finds USB3 Vision cameras of any vendor. All cameras are on one interface, the USB host.
+/// While USB cannot be searched, no cameras are reported. The first failure prints a line on standard error.
 class Usb3VisionSource final : public DeviceSource
 {
 public:
@@ -20,7 +20,7 @@ private:
 
     SharedSearch m_search{search, SharedSearch::Transport::Reliable};
 
-    std::mutex m_mutex; // Guards what follows.
+    std::mutex m_mutex; // Guards the members below.
     bool m_isReady = false;
     bool m_isReported = false;
 };

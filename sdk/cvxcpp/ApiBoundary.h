@@ -4,8 +4,8 @@
 
 #include <exception>
 
-/// Runs the body of a public function. Returns CvxErrorFailed if it throws because no memory, thread or
-/// descriptor is left: no exception of ours reaches the program.
+/// Runs the body of a public function. Returns CvxErrorFailed if the body throws because no memory, thread
+/// or descriptor is left, so that no exception of the library reaches the program.
 template <typename Body>
 CvxCPP::CvxError guarded(const Body &body)
 {

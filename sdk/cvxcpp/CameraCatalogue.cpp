@@ -12,7 +12,8 @@ namespace {
 
 using Record = std::shared_ptr<const InterfaceRecord>;
 
-/// The host sorts by raw bytes; replacing malformed ones by U+FFFD may have changed the order since.
+/// Sorts the interfaces and their devices. The host has sorted them by raw bytes, but replacing malformed
+/// bytes by U+FFFD may have changed the order.
 void sortRecords(std::vector<InterfaceRecord> &interfaces)
 {
     for (InterfaceRecord &interface : interfaces)
@@ -40,7 +41,7 @@ bool CameraCatalogue::replaceInterfaces(std::size_t producer, std::vector<Interf
     sortRecords(interfaces);
     Records &records = m_producers.at(producer).records;
     if (std::equal(records.begin(), records.end(), interfaces.begin(), interfaces.end(), isSameInterface))
-        return false; // The program keeps seeing the same objects.
+        return false; // The program keeps getting the same objects.
     records.clear();
     for (InterfaceRecord &interface : interfaces)
         records.push_back(std::make_shared<const InterfaceRecord>(std::move(interface)));
@@ -113,7 +114,9 @@ bool CameraCatalogue::announceFromNowOn(std::size_t producer)
 
 CameraListChange CameraCatalogue::takeChange()
 {
-    CameraListChange change; // One for all producers: a camera is removed from one before another adds it.
+    // All producers share one change, so that observers are notified of all removed cameras before the
+    // added cameras.
+    CameraListChange change;
     for (Producer &producer : m_producers) {
         if (producer.announced && producer.announced != producer.visible)
             change.addDifference(*std::exchange(producer.announced, producer.visible), *producer.visible);

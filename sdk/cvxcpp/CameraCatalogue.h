@@ -10,38 +10,42 @@
 #include <string>
 #include <vector>
 
-/// What is known of the cameras of all producers: their records, the API objects made of them, the objects
-/// that are visible to the program after de-duplication, and what the observers know of them. Not
-/// thread-safe.
+/// Stores the cameras of all producers: the records from the hosts, the API objects for the records, the
+/// objects that the program gets after de-duplication, and the objects that observers have been notified
+/// of. Not thread-safe.
 class CameraCatalogue
 {
 public:
     using Cameras = std::vector<std::shared_ptr<CameraObject>>;
 
-    /// Adds an empty producer. Producers are added in the search order. `source` is handed to the interfaces.
+    /// Adds a producer that has no interfaces yet. Call this function in the search order of the producers.
+    /// The interface objects of the producer keep `source`.
     void addProducer(const std::weak_ptr<InterfaceSource> &source, const std::string &path);
 
-    // Replacing returns true if anything is different afterwards.
+    /// Replaces all interfaces of the producer. Returns true if this changes the catalogue.
     bool replaceInterfaces(std::size_t producer, std::vector<InterfaceRecord> interfaces);
-    bool replaceInterface(
-        std::size_t producer, InterfaceRecord interface); ///< The one of that number, if any.
+
+    /// Replaces the interface with the same number, if the producer has such an interface. Returns true if
+    /// this changes the catalogue.
+    bool replaceInterface(std::size_t producer, InterfaceRecord interface);
 
     /// Returns null if the producer has no such interface.
     std::shared_ptr<const InterfaceRecord> findInterface(
         std::size_t producer, const std::string &interfaceId) const;
 
-    /// Returns the number of cameras that the producer reports, which may be more than are used.
+    /// Returns the number of cameras that the producer reports, which may be larger than
+    /// CameraList::maxCameras.
     std::size_t reportedCameras(std::size_t producer) const;
 
-    /// Returns all visible cameras in the search order. They are known to the program then: observers learn
-    /// only of later changes.
+    /// Returns all visible cameras in the search order of the producers. takeChange() does not report the
+    /// cameras that the program got from the first call, only later changes.
     Cameras handOut();
 
-    /// Makes observers learn of all cameras of a producer, unless its cameras were handed out before. Returns
-    /// true if that was not so already.
+    /// Makes takeChange() report all cameras of the producer as added. Has no effect and returns false if
+    /// this function or handOut() was called for the producer before.
     bool announceFromNowOn(std::size_t producer);
 
-    /// Returns what observers have not been notified of, and counts it as notified.
+    /// Returns the changes since the previous call. The caller has to notify the observers of them.
     CameraListChange takeChange();
 
 private:
@@ -50,11 +54,14 @@ private:
     struct Producer
     {
         std::weak_ptr<InterfaceSource> source;
-        std::shared_ptr<const std::string> name; // The file name, for extended camera IDs.
+        std::shared_ptr<const std::string> name; // The file name, which is a part of extended camera IDs.
         Records records; // Sorted by ID.
-        CameraList::Pointer reported; // The objects made of the records.
-        CameraList::Pointer visible; // Without the cameras that an earlier producer reports too.
-        CameraList::Pointer announced; // What observers know; null before the first list of the program.
+        CameraList::Pointer reported; // The objects for the records.
+        // The reported list without the cameras that an earlier producer also reports.
+        CameraList::Pointer visible;
+        // The list that observers have been notified of; null until handOut() or announceFromNowOn() is
+        // called.
+        CameraList::Pointer announced;
     };
 
     void rebuild(std::size_t producer);

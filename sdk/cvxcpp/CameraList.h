@@ -9,18 +9,18 @@
 #include <string>
 #include <vector>
 
-/// The interfaces and cameras of one producer at one time, as API objects, sorted by interface ID and then by
-/// device. Never changes once it is made.
+/// The API objects for the interfaces and cameras of one producer at one time, sorted by interface ID and
+/// then by device. A list never changes after it was created.
 struct CameraList
 {
     using Pointer = std::shared_ptr<const CameraList>;
 
-    static constexpr std::size_t maxCameras = 1000; ///< Per producer; no user has as many.
+    static constexpr std::size_t maxCameras = 1000; ///< Maximum per producer; no user has as many.
 
     std::vector<std::shared_ptr<InterfaceObject>> interfaces;
     std::vector<std::shared_ptr<CameraObject>> cameras;
 
-    /// Makes the objects for sorted records; for the first `maxCameras` cameras only.
+    /// Creates the objects for sorted records. Cameras after the first `maxCameras` are left out.
     static Pointer create(const std::weak_ptr<InterfaceSource> &source, std::size_t producer,
         const std::shared_ptr<const std::string> &producerName,
         const std::vector<std::shared_ptr<const InterfaceRecord>> &records);

@@ -16,7 +16,8 @@ bool lessByFields(const std::shared_ptr<CameraObject> &a, const std::shared_ptr<
     return order != 0 ? order < 0 : a->device() < b->device();
 }
 
-/// Appends the objects of `left` that `right` lacks. Objects that compare equal are counted.
+/// Appends the objects of `left` that `right` lacks. If `left` contains more equal objects than `right`,
+/// the surplus objects are appended.
 template <typename Objects, typename Less>
 void appendMissing(Objects &missing, const Objects &left, const Objects &right, Less less)
 {

@@ -5,8 +5,9 @@
 #include <memory>
 #include <vector>
 
-/// The interfaces and cameras that appeared and disappeared. Interfaces are compared by ID, cameras by all of
-/// their fields: a camera with a changed field is a removed camera and an added one.
+/// The interfaces and cameras that appeared and disappeared. Interfaces are compared by their ID, and
+/// cameras by all of their fields: a camera with a changed field counts as a removed camera and an added
+/// camera.
 struct CameraListChange
 {
     std::vector<std::shared_ptr<InterfaceObject>> addedInterfaces, removedInterfaces;

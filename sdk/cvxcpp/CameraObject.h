@@ -7,7 +7,8 @@
 #include <memory>
 #include <string>
 
-/// One camera, as the program sees it. Shares the record of its interface, of which it is one device.
+/// The API object for one camera. The cameras of an interface share the record of the interface, and each
+/// camera stores the index of its device.
 class CameraObject final : public CvxCPP::Camera
 {
 public:

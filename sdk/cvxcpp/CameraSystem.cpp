@@ -40,9 +40,9 @@ CameraSystem::~CameraSystem()
 
 CvxError CameraSystem::Startup()
 {
+    // An observer must not wait for a running Shutdown(), because Shutdown() waits for the observer.
     if (ObserverNotifier::isCallingObservers())
-        return CvxErrorAlreadyStarted; // Waiting for a running Shutdown() would be a deadlock: it waits for
-                                       // us.
+        return CvxErrorAlreadyStarted;
     const std::lock_guard lifeLock(m_lifeMutex);
     if (session())
         return CvxErrorAlreadyStarted;
@@ -69,7 +69,8 @@ CvxError CameraSystem::Shutdown()
         return CvxErrorFailed; // Shutdown() would wait for its own caller.
     const std::lock_guard lifeLock(m_lifeMutex);
     std::shared_ptr<DiscoverySession> ending;
-    std::shared_ptr<const DiscoverySession::Cameras> found; // Destroyed after the lock is released.
+    // The objects are destroyed after the lock is released.
+    std::shared_ptr<const DiscoverySession::Cameras> found;
     {
         const std::lock_guard lock(m_mutex);
         ending.swap(m_session);
@@ -131,7 +132,8 @@ CvxError CameraSystem::GetCameras(std::shared_ptr<Camera> *cameras, unsigned &co
     });
 }
 
-/// Returns null if the system does not run, or ends meanwhile.
+/// Searches for cameras and keeps the result. Returns null if the system does not run or is shut down
+/// during the search.
 std::shared_ptr<const DiscoverySession::Cameras> CameraSystem::searchCameras()
 {
     const auto running = session();

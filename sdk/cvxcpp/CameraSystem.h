@@ -7,7 +7,8 @@
 #include <memory>
 #include <mutex>
 
-/// The camera system of the process: starts and ends sessions, and passes requests on to the one that runs.
+/// The camera system of the process: starts and ends sessions, and passes requests on to the running
+/// session.
 class CameraSystem final : public CvxCPP::CvxSystem
 {
 public:
@@ -30,10 +31,9 @@ private:
     std::shared_ptr<DiscoverySession> session() const;
 
     const SystemOptions m_options;
-    std::mutex m_lifeMutex; // Held by Startup() and Shutdown() for as long as they take.
+    std::mutex m_lifeMutex; // Startup() and Shutdown() hold this mutex while they run.
 
     mutable std::mutex m_mutex; // Guards the members below.
     std::shared_ptr<DiscoverySession> m_session; // Null while the system does not run.
-    std::shared_ptr<const DiscoverySession::Cameras>
-        m_found; // Cameras of the last search; null before the first.
+    std::shared_ptr<const DiscoverySession::Cameras> m_found; // Result of the last search; null before it.
 };

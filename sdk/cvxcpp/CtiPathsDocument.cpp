@@ -21,11 +21,11 @@ std::string trimmed(std::string_view text)
 
 bool isNamed(std::string_view element, const char *name)
 {
-    element.remove_prefix(element.rfind(':') + 1); // Without a prefix, npos + 1 is 0.
+    element.remove_prefix(element.rfind(':') + 1); // If there is no prefix, npos + 1 is 0.
     return strcasecmp(std::string(element).c_str(), name) == 0;
 }
 
-/// What the callbacks collect while Expat reads the document.
+/// The state of the callbacks while Expat reads the document.
 struct Reading
 {
     std::vector<std::string> paths;
@@ -76,7 +76,7 @@ std::vector<std::string> readCtiPaths(const std::string &document)
     XML_SetUserData(parser.get(), &reading);
     XML_SetElementHandler(parser.get(), startElement, endElement);
     XML_SetCharacterDataHandler(parser.get(), addText);
-    // An error ends the parsing; the paths before it are valid.
+    // An error ends the parsing; the paths before the error are valid.
     XML_Parse(parser.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
     return reading.paths;
 }

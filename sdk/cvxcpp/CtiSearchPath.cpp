@@ -24,12 +24,13 @@ void appendOnce(std::vector<std::string> &directories, const std::string &direct
         directories.push_back(directory);
 }
 
-/// Returns the directory that a path of the configuration file means; an empty string if there is none.
+/// Returns the directory that a path of the configuration file refers to, or an empty string if there is no
+/// such directory.
 std::string directoryOf(
     const std::string &path, const std::string &installRoot, const std::string &configurationFile)
 {
     if (path.front() == '/')
-        return path; // Need not exist yet.
+        return path; // The directory need not exist yet.
     for (const std::filesystem::path &base :
         {std::filesystem::path(installRoot), std::filesystem::path(configurationFile).parent_path()}) {
         std::error_code ignored;

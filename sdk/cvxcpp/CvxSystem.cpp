@@ -20,7 +20,7 @@ std::string libraryDirectory()
     return error ? std::string() : file.parent_path().string();
 }
 
-/// Shuts the system down when the process exits. A forked child must not do so: it has no copy of the
+/// Shuts the system down when the process exits, but not in a forked child, which has no copy of the
 /// system's threads.
 class ShutdownAtExit
 {
@@ -43,7 +43,7 @@ private:
 
 CvxCPP::CvxSystem &CvxCPP::CvxSystem::GetInstance()
 {
-    // Never destroyed: other threads may still call it while the process exits.
+    // The system is never destroyed, because other threads may still call it while the process exits.
     static auto *const system = new CameraSystem(SystemOptions::forLibraryDirectory(libraryDirectory()));
     static const ShutdownAtExit shutdownAtExit(*system);
     return *system;

@@ -12,7 +12,8 @@ using namespace CvxCPP;
 
 namespace {
 
-/// Keeps a closed standard error, to which failures are reported, from ending the program.
+/// Blocks SIGPIPE on this thread. Otherwise the program would end when a failure is reported and nobody
+/// reads standard error.
 void blockBrokenPipeSignal()
 {
     sigset_t signals;
@@ -77,7 +78,8 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::searchCameras
     if (!*m_isRunning)
         return nullptr;
     endSearch(awaited);
-    // The hold starts while the lock is held, so that no later change is announced before it.
+    // The hold starts while the lock is held, so that observers are not notified of a later change before
+    // the hold starts.
     m_notifier.holdUntil(SteadyClock::now() + m_options.notificationHold);
     return std::make_shared<const Cameras>(m_catalogue.handOut());
 }
@@ -144,7 +146,7 @@ void DiscoverySession::run()
 {
     try {
         discover();
-    } catch (const std::exception &exception) { // Out of memory or threads.
+    } catch (const std::exception &exception) { // No memory or no thread is left.
         markEnded();
         if (m_options.report)
             m_options.report(std::string("discovery ended: ") + exception.what());
@@ -217,7 +219,8 @@ bool DiscoverySession::updateCatalogue(std::size_t producer, ProducerSupervisor:
         return m_catalogue.replaceInterfaces(producer, std::move(event.interfaces));
     case ProducerSupervisor::Event::Kind::InterfaceSearched:
         search.interfaceReceived(event.searchedInterface, SteadyClock::now(), event.isInTime);
-        // An interface that is gone meanwhile is left to the next list.
+        // If the interface no longer exists, the reply is empty, and the next camera list removes the
+        // interface.
         return !event.interfaces.empty()
             && m_catalogue.replaceInterface(producer, std::move(event.interfaces.front()));
     case ProducerSupervisor::Event::Kind::HostLost:
@@ -275,7 +278,8 @@ void DiscoverySession::sendRequests(HostPool &pool, bool isPollDue)
         m_changed.notify_all();
 }
 
-/// Returns false if a request was dropped, because the producer has no such interface.
+/// Sends the next pending request, if there is one. Returns false if a request was dropped because the
+/// producer has no such interface.
 bool DiscoverySession::sendPendingRequest(ProducerSupervisor &host, std::size_t producer, TimePoint now)
 {
     SearchState &search = m_searches[producer];

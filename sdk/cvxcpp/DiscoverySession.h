@@ -18,8 +18,9 @@
 #include <utility>
 #include <vector>
 
-/// The camera system between one start and its end. One thread runs the producer hosts and polls them for
-/// cameras; callers on other threads leave requests for it and wait for the replies.
+/// The camera system between one Startup() and the next Shutdown(). One thread runs the producer hosts and
+/// polls them for cameras. The callers on other threads leave requests for this thread and wait for the
+/// replies.
 class DiscoverySession final : public InterfaceSource, public std::enable_shared_from_this<DiscoverySession>
 {
 public:
@@ -31,8 +32,8 @@ public:
     void start(); ///< Throws std::system_error if no thread can be started.
     void stop(); ///< Wakes all callers, ends the hosts, and blocks until no observer is being called.
 
-    /// Searches for cameras, unless that was just done, and returns all that are known. Blocks for at most
-    /// SystemOptions::searchTimeout. Returns null if the session ends.
+    /// Searches for cameras, unless the last search has ended very recently, and returns all known cameras.
+    /// Blocks for at most SystemOptions::searchTimeout. Returns null if the session ends.
     std::shared_ptr<const Cameras> searchCameras();
 
     RunningFlag runningFlag() const override { return m_isRunning; }
@@ -41,10 +42,11 @@ public:
     ObserverNotifier &notifier() { return m_notifier; }
 
 private:
-    /// A producer that a caller waits for, and the number of its lists at the start of the wait.
+    /// The index of a producer that a caller waits for, and the number of camera lists that had arrived
+    /// from this producer when the wait started.
     using AwaitedList = std::pair<std::size_t, unsigned>;
 
-    // On the session's thread.
+    // These functions run on the session's thread; stop() calls markEnded() too.
     void run();
     void discover();
     std::vector<std::string> findProducerPaths();
@@ -56,21 +58,21 @@ private:
     bool sendPendingRequest(ProducerSupervisor &host, std::size_t producer, TimePoint now);
     void markEnded();
 
-    // On the callers' threads, with the mutex held.
+    // These functions run on the callers' threads while the mutex is held.
     std::vector<AwaitedList> requestLists();
     bool hasArrived(const AwaitedList &list) const;
     void endSearch(const std::vector<AwaitedList> &awaited);
 
     const SystemOptions m_options;
     const std::vector<std::string> m_ctiDirectories;
-    const WakeEvent m_wakeEvent; // Wakes the session's thread for a request.
+    const WakeEvent m_wakeEvent; // Wakes the session's thread when there is a request or the session ends.
     std::thread m_thread;
     ObserverNotifier m_notifier;
     const std::shared_ptr<std::atomic<bool>> m_isRunning = std::make_shared<std::atomic<bool>>(true);
 
     std::mutex m_mutex; // Guards all members below, and changes of m_isRunning.
-    std::condition_variable m_changed; // Wakes the callers for a reply.
+    std::condition_variable m_changed; // Wakes the waiting callers when a reply arrives.
     CameraCatalogue m_catalogue;
-    std::vector<SearchState> m_searches; // One for each producer.
+    std::vector<SearchState> m_searches; // Contains one element for each producer.
     bool m_areProducersKnown = false;
 };

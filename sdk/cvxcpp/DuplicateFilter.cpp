@@ -24,7 +24,7 @@ std::string_view trimmedView(std::string_view text)
     return text.substr(first, text.find_last_not_of(whiteSpace) - first + 1);
 }
 
-/// Independent of the locale; letters outside ASCII are left as they are.
+/// Converts an ASCII letter to lower case, independently of the locale. Other characters are not changed.
 char lowerCase(char character)
 {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
@@ -38,7 +38,7 @@ std::string normalised(std::string_view text)
     return result;
 }
 
-/// Returns nothing for a camera that lacks one of the three fields.
+/// Returns nothing if the device lacks one of the three fields.
 std::optional<Identity> identityOf(const DeviceRecord &device)
 {
     Identity identity{normalised(device.vendor), normalised(device.model), normalised(device.serial)};
@@ -66,7 +66,7 @@ CameraList::Pointer without(const CameraList::Pointer &list, const Identities &k
 std::vector<CameraList::Pointer> withoutDuplicates(const std::vector<CameraList::Pointer> &lists)
 {
     std::vector<CameraList::Pointer> result;
-    Identities known; // Of the producers before.
+    Identities known; // The identities that the previous producers have reported.
     for (const CameraList::Pointer &list : lists) {
         result.push_back(without(list, known));
         for (const auto &camera : list->cameras) {

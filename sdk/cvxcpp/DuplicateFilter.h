@@ -4,8 +4,9 @@
 
 #include <vector>
 
-/// Returns the camera lists, given one per producer in the search order, without the cameras that an earlier
-/// producer reports too. Two cameras are the same if their vendors, models and serial numbers are equal,
-/// without regard to ASCII letter case and surrounding white space; a camera that lacks one of the three
-/// equals no other. Nothing is left out within one producer. A list that loses nothing is returned as it is.
+/// Takes one camera list for each producer, in the search order, and returns the lists without the cameras
+/// that an earlier producer also reports. Two cameras are the same if their vendors, models and serial
+/// numbers are equal; ASCII letter case and surrounding white space are ignored. A camera that lacks one of
+/// the three fields is never a duplicate. Duplicates within one producer are kept. A list without
+/// duplicates is returned unchanged.
 std::vector<CameraList::Pointer> withoutDuplicates(const std::vector<CameraList::Pointer> &lists);

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Names of the GenTL error codes -1001, -1002, ….
+/// The names of the GenTL error codes -1001, -1002 and so on.
 constexpr std::string_view codeNames[] = {"GC_ERR_ERROR", "GC_ERR_NOT_INITIALIZED", "GC_ERR_NOT_IMPLEMENTED",
     "GC_ERR_RESOURCE_IN_USE", "GC_ERR_ACCESS_DENIED", "GC_ERR_INVALID_HANDLE", "GC_ERR_INVALID_ID",
     "GC_ERR_NO_DATA", "GC_ERR_INVALID_PARAMETER", "GC_ERR_IO", "GC_ERR_TIMEOUT", "GC_ERR_ABORT",

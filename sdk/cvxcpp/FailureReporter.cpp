@@ -6,8 +6,9 @@
 namespace {
 
 constexpr std::size_t maxReasonLength = 500; // Bytes.
-constexpr std::size_t maxCallLength = 64; // Bytes; every function of GenTL has a shorter name.
-constexpr std::size_t maxProblems = 64; // Per host: some producers fail with a new code every time.
+constexpr std::size_t maxCallLength = 64; // Bytes; the names of all GenTL functions are shorter.
+// Limit per host, because some producers fail with a new code every time.
+constexpr std::size_t maxProblems = 64;
 
 } // namespace
 

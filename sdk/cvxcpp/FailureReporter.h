@@ -10,14 +10,15 @@
 #include <utility>
 #include <vector>
 
-/// Reports what goes wrong with one producer, one line per message. A failure that repeats is reported once,
-/// until the producer has worked again; a failed call is reported once in the life of a host.
+/// Reports the failures of one producer, each on one line. A failure that repeats is reported only once
+/// until the producer returns a camera list again. A failed call is reported only once while the same host
+/// runs.
 class FailureReporter
 {
 public:
     using Sink = std::function<void(const std::string &line)>;
 
-    /// `sink` may be empty; then nothing is reported.
+    /// If `sink` is empty, nothing is reported.
     FailureReporter(std::string producerPath, Sink sink);
 
     void hostStarted() { m_reportedProblems.clear(); }
@@ -27,11 +28,11 @@ public:
     void reportProblems(const std::vector<Problem> &problems);
     void reportUnusedCameras(std::size_t reportedCameras, std::size_t usedCameras);
 
-    /// Returns true if something was reported since the producer last listed its cameras.
+    /// Returns true if a failure was reported since the producer last returned a camera list.
     bool hasReported() const { return !m_lastReason.empty(); }
 
 private:
-    using ProblemKey = std::pair<std::string, std::int32_t>; // The call and its code.
+    using ProblemKey = std::pair<std::string, std::int32_t>; // The function and its error code.
 
     bool isNew(const ProblemKey &key);
 

@@ -11,10 +11,10 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto closeStepInterval = 5ms;
-constexpr auto killTimeout = 300ms; // For killed hosts to be gone.
+constexpr auto killTimeout = 300ms; // Maximum time to wait for the exit of killed hosts.
 
-/// Returns the timeout for poll(): rounded up, so that it does not end too early, and within the range of
-/// int.
+/// Returns the timeout for poll(), limited to one minute and rounded up, so that poll() does not return too
+/// early.
 int pollTimeout(TimePoint until, TimePoint now)
 {
     constexpr Milliseconds maxTimeout = 1min;
@@ -58,10 +58,11 @@ void HostPool::wait(int wakeDescriptor, TimePoint until)
     std::vector<pollfd> descriptors{{wakeDescriptor, POLLIN, 0}};
     for (const ProducerSupervisor &host : m_hosts) {
         until = std::min(until, host.nextStep(now));
-        if (host.descriptor() >= 0) // poll() refuses more entries than the process may open descriptors.
+        // poll() fails if it gets more entries than the process may open descriptors.
+        if (host.descriptor() >= 0)
             descriptors.push_back({host.descriptor(), POLLIN, 0});
     }
-    poll(descriptors.data(), descriptors.size(), pollTimeout(until, now)); // A signal may end it early.
+    poll(descriptors.data(), descriptors.size(), pollTimeout(until, now)); // A signal may end the wait early.
 
     auto descriptor = descriptors.begin() + 1;
     for (std::size_t i = 0; i < m_hosts.size(); ++i)

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-/// The hosts of all producers of a session. Runs them on the calling thread: waits for their input and for
-/// the next deadline, starts a few at a time, and closes all of them at the end.
+/// Manages the hosts of all producers of a session on the calling thread: starts a few hosts at a time,
+/// waits for their messages and for the next deadline, and closes all hosts at the end.
 class HostPool
 {
 public:
@@ -21,17 +21,19 @@ public:
     ProducerSupervisor &host(std::size_t producer) { return m_hosts[producer]; }
     const ProducerSupervisor &host(std::size_t producer) const { return m_hosts[producer]; }
 
-    /// Called with the producer to which the event happened.
+    /// A handler is called with an event and the producer to which the event happened.
     using EventHandler = std::function<void(std::size_t producer, ProducerSupervisor::Event &event)>;
 
-    /// Gives every host its turn.
+    /// Lets every host do what is due, starts at most `maxStarts` hosts, and calls `handle` for every
+    /// event.
     void step(const EventHandler &handle);
 
-    /// Blocks until a host has something to do, `wakeDescriptor` becomes readable, or the time has come.
+    /// Blocks until a host has something to do, `wakeDescriptor` becomes readable, or the time `until` is
+    /// reached.
     void wait(int wakeDescriptor, TimePoint until);
 
-    /// Closes the producers and ends their hosts. Blocks for at most SystemOptions::closeTimeout and a
-    /// little.
+    /// Closes the producers and ends their hosts. Blocks for at most SystemOptions::closeTimeout, plus
+    /// 300 ms if hosts have to be killed.
     void close();
 
 private:
@@ -40,6 +42,6 @@ private:
     void closeUntil(TimePoint deadline);
 
     const SystemOptions &m_options;
-    std::deque<ProducerSupervisor> m_hosts; // Hosts cannot be moved.
-    std::vector<bool> m_isReadable; // For each host, as of the last wait.
+    std::deque<ProducerSupervisor> m_hosts; // A deque, because hosts cannot be moved.
+    std::vector<bool> m_isReadable; // Whether the last wait() found each host readable.
 };

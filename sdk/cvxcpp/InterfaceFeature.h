@@ -4,7 +4,7 @@
 
 class InterfaceObject;
 
-/// One of the four features of an interface. Lives in its interface object.
+/// One of the four features of an interface. The feature is a member of its interface object.
 class InterfaceFeature final : public CvxCPP::Feature
 {
 public:

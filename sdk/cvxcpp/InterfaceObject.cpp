@@ -25,7 +25,7 @@ InterfaceObject::InterfaceObject(std::weak_ptr<InterfaceSource> source, std::siz
 CvxError InterfaceObject::GetFeatureByName(const char *name, std::shared_ptr<Feature> &feature)
 {
     static constexpr std::string_view names[]
-        = {"DeviceUpdateList", "DeviceSelector", "DeviceID", "DeviceVendorName"}; // As in m_features.
+        = {"DeviceUpdateList", "DeviceSelector", "DeviceID", "DeviceVendorName"}; // Same order as m_features.
     if (!name)
         return CvxErrorInvalidParameter;
     if (!isRunning())
@@ -34,7 +34,8 @@ CvxError InterfaceObject::GetFeatureByName(const char *name, std::shared_ptr<Fea
     if (found == std::end(names))
         return CvxErrorNotFound;
     auto &foundFeature = m_features[static_cast<std::size_t>(found - std::begin(names))];
-    feature = std::shared_ptr<Feature>(shared_from_this(), &foundFeature); // Keeps the whole interface.
+    // The aliasing pointer keeps the whole interface object alive.
+    feature = std::shared_ptr<Feature>(shared_from_this(), &foundFeature);
     return CvxErrorSuccess;
 }
 

@@ -10,12 +10,13 @@
 #include <mutex>
 #include <string>
 
-/// One interface, as the program sees it. Its devices are a snapshot, as those of a GenTL interface are: only
-/// "DeviceUpdateList" changes them, so that an index means the same device until then.
+/// The API object for one interface. The devices are a snapshot, like the device list of a GenTL interface:
+/// only "DeviceUpdateList" replaces them, so an index refers to the same device until the next
+/// "DeviceUpdateList".
 class InterfaceObject final : public CvxCPP::Interface, public std::enable_shared_from_this<InterfaceObject>
 {
 public:
-    /// `source` must still exist.
+    /// The object that `source` points to must still exist.
     InterfaceObject(std::weak_ptr<InterfaceSource> source, std::size_t producer,
         std::shared_ptr<const std::string> producerName, std::shared_ptr<const InterfaceRecord> record);
 
@@ -25,7 +26,7 @@ public:
     const std::string &producerName() const { return *m_producerName; }
     bool isRunning() const { return *m_isRunning; }
 
-    // The actions of the features.
+    // These functions implement the features.
     CvxCPP::CvxError updateDeviceList();
     CvxCPP::CvxError selectorRange(long &min, long &max) const;
     CvxCPP::CvxError select(long index);
@@ -39,7 +40,7 @@ private:
     const std::string m_id;
     std::array<InterfaceFeature, 4> m_features;
 
-    mutable std::mutex m_mutex;
+    mutable std::mutex m_mutex; // Guards the members below.
     std::shared_ptr<const InterfaceRecord> m_record; // Never null.
-    std::size_t m_selected = 0; // Meaningless while there is no device.
+    std::size_t m_selected = 0; // Has no meaning while there is no device.
 };

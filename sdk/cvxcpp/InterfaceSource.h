@@ -8,13 +8,14 @@
 #include <memory>
 #include <string>
 
-/// Where an interface object gets its devices from.
+/// Provides interface objects with their devices.
 class InterfaceSource
 {
 public:
     virtual ~InterfaceSource() = default;
 
-    /// True until the source ends. Shared, so that the API objects can read it when the source is gone.
+    /// The flag is true until the source ends. API objects share the flag, so that they can read it after
+    /// the source was destroyed.
     using RunningFlag = std::shared_ptr<const std::atomic<bool>>;
     virtual RunningFlag runningFlag() const = 0;
 
@@ -24,8 +25,8 @@ public:
         std::shared_ptr<const InterfaceRecord> record; ///< Null on failure.
     };
 
-    /// Searches one interface of a producer, unless it was just searched. If the producer does not reply in
-    /// time, returns what its last search found.
+    /// Searches one interface of a producer, unless a search of this interface has ended very recently. If
+    /// the producer does not reply in time, returns the result of the previous search.
     virtual SearchResult searchInterface(std::size_t producer, const std::string &interfaceId) = 0;
 
 protected:

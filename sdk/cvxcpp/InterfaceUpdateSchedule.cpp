@@ -1,7 +1,8 @@
 #include "sdk/cvxcpp/InterfaceUpdateSchedule.h"
 
-// Lists are requested at multiples of the poll interval, a little earlier or later. Half an interval of
-// tolerance keeps an update that is a little early from being put off by a whole poll.
+// Camera lists are requested once per poll interval, sometimes a little earlier or later. Without the
+// tolerance of half a poll interval, an update that becomes due just after a request would have to wait for
+// the next request.
 InterfaceUpdateSchedule::InterfaceUpdateSchedule(Milliseconds updateInterval, Milliseconds pollInterval)
     : m_minDistance(updateInterval - pollInterval / 2)
 { }

@@ -4,17 +4,17 @@
 
 #include <optional>
 
-/// Decides which camera lists of one host also update the list of interfaces. Not all of them do, since that
-/// update gets slower from call to call in some producers.
+/// Decides which camera list requests to one host also update the list of interfaces. Not every request
+/// does so, because some producers become slower with every update of the interfaces.
 class InterfaceUpdateSchedule
 {
 public:
     InterfaceUpdateSchedule(Milliseconds updateInterval, Milliseconds pollInterval);
 
-    /// The first list of a host always updates the interfaces.
+    /// Makes the next request update the interfaces too, because it is the first request to a new host.
     void hostStarted() { m_updatedAt.reset(); }
 
-    /// Returns true if the list that is requested now has to update the interfaces.
+    /// Returns true if the request that is sent now has to update the interfaces.
     bool takeDueUpdate(TimePoint now);
 
 private:

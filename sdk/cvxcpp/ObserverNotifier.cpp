@@ -35,7 +35,7 @@ void ObserverNotifier::stop()
 
     decltype(m_cameraObservers) cameraObservers;
     decltype(m_interfaceObservers) interfaceObservers;
-    const std::lock_guard lock(m_mutex); // Released before the destructors of the observers run.
+    const std::lock_guard lock(m_mutex); // The lock is released before the destructors of the observers run.
     cameraObservers.swap(m_cameraObservers);
     interfaceObservers.swap(m_interfaceObservers);
 }
@@ -66,7 +66,7 @@ void ObserverNotifier::notify()
 void ObserverNotifier::holdUntil(TimePoint time)
 {
     const std::lock_guard lock(m_mutex);
-    m_hold.holdUntil(time); // The thread need not wake: it checks the time again before it notifies.
+    m_hold.holdUntil(time); // The thread need not wake, because it checks the time again before it notifies.
 }
 
 bool ObserverNotifier::isCallingObservers()
@@ -80,7 +80,7 @@ void ObserverNotifier::run()
     while (waitForChange()) {
         try {
             notifyObservers(m_takeChange());
-        } catch (const std::exception &) { // Out of memory; observers miss this change.
+        } catch (const std::exception &) { // No memory is left; observers are not notified of this change.
         }
     }
 }
@@ -132,11 +132,11 @@ void ObserverNotifier::callEach(const std::vector<std::shared_ptr<Observer>> &ob
 {
     std::unique_lock lock(m_mutex);
     for (std::size_t i = 0; i < observers.size() && !m_isStopping; ++i) {
-        const auto observer = observers[i]; // A copy, since an observer may be added meanwhile.
+        const auto observer = observers[i]; // A copy, because an observer may be added during the call.
         lock.unlock();
         try {
             call(*observer);
-        } catch (...) { // One observer's exception must not keep the next from its call.
+        } catch (...) { // An exception of one observer must not prevent the calls of the other observers.
         }
         lock.lock();
     }

@@ -11,11 +11,11 @@
 #include <thread>
 #include <vector>
 
-/// Calls the observers on a thread of its own, so that they may be slow and may call the system.
+/// Calls the observers on a separate thread, so that they may block and may call the system.
 class ObserverNotifier
 {
 public:
-    /// Returns what changed since its last call. Called on the notifier's thread.
+    /// Returns the changes since the previous call. The notifier calls this function on its own thread.
     using TakeChange = std::function<CameraListChange()>;
 
     explicit ObserverNotifier(TakeChange takeChange);
@@ -25,19 +25,20 @@ public:
 
     void start();
 
-    /// Blocks until no observer is being called any more, and drops all of them.
+    /// Blocks until no observer is being called any more, and releases all observers.
     void stop();
 
     void addObserver(const std::shared_ptr<CvxCPP::ICameraListObserver> &observer);
     void addObserver(const std::shared_ptr<CvxCPP::IInterfaceListObserver> &observer);
 
-    /// Schedules a notification. Call it whenever there may be a change.
+    /// Schedules a notification. Call this function whenever there may be a change.
     void notify();
 
-    /// Notifies nobody before that time; see NotificationHold.
+    /// Delays notifications until this time, or for the maximum delay of NotificationHold if that is
+    /// shorter.
     void holdUntil(TimePoint time);
 
-    /// Returns true if the calling thread is one that calls observers.
+    /// Returns true if the calling thread is a thread that calls observers.
     static bool isCallingObservers();
 
 private:

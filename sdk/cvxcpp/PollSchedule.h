@@ -6,14 +6,14 @@
 class PollSchedule
 {
 public:
-    /// The first poll is due one interval after `now`, because every host is asked for its cameras as it
+    /// The first poll is due one interval after `now`, because every host is asked for its cameras when it
     /// starts.
     PollSchedule(Milliseconds interval, TimePoint now) : m_interval(interval), m_nextPoll(now + interval) { }
 
     TimePoint nextPoll() const { return m_nextPoll; }
 
-    /// Returns true if a poll is due and schedules the next one. Polls missed while the process stood still
-    /// are replaced by a single one.
+    /// Returns true if a poll is due, and schedules the next poll. Polls that were missed while the process
+    /// was suspended are replaced by a single poll.
     bool takeDuePoll(TimePoint now);
 
 private:

@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int maxLastMessages = 4; // Allows for one reply still in the pipe, plus the final one.
+constexpr int maxLastMessages = 4; // Allows for an outstanding reply, failure messages and the final reply.
 
-/// Returns the problems that a message of any kind reports.
+/// Returns the problems that the message reports, whatever its kind is.
 std::vector<Problem> problemsOf(const Message &message)
 {
     if (const auto cameras = message.content<CameraListReply>())
@@ -43,7 +43,8 @@ void ProducerClient::sendMessage(const Message &message, TimePoint now)
 {
     m_awaitedId = message.id();
     m_sentAt = now;
-    m_channel.trySend(message.toLine()); // Requests are short, and there is one at a time.
+    // The socket can take the request, because requests are short and are sent one at a time.
+    m_channel.trySend(message.toLine());
 }
 
 TimePoint ProducerClient::nextDeadline(TimePoint now) const
@@ -72,7 +73,7 @@ ProducerClient::Received ProducerClient::receive()
         case LineChannel::Status::TooLong:
             return ProtocolError{"sent a reply that is too long"};
         case LineChannel::Status::Closed:
-        case LineChannel::Status::Lost: // A reply before the end counts; the next call reports the end.
+        case LineChannel::Status::Lost: // A reply before the end is valid; the next call reports the end.
             return std::holds_alternative<Message>(received) ? received : Disconnected();
         }
         received = check(line);
@@ -86,7 +87,7 @@ ProducerClient::Received ProducerClient::check(const std::string &line)
     auto message = Message::fromLine(line);
     if (!message)
         return ProtocolError{"sent a reply that cannot be read"};
-    // A thread of the producer may fail at any time, so this message needs no request.
+    // A thread of the producer may fail at any time, so a failure message may arrive without a request.
     if (auto failed = message->content<ProducerFailedReply>())
         return ProducerFailure{std::move(failed->problem)};
     if (message->id() != m_awaitedId)

@@ -10,18 +10,18 @@
 #include <variant>
 #include <vector>
 
-/// Sends requests to one producer host, one at a time, checks its replies, and watches their deadlines.
-/// Knows the messages' frame but not what the requests are about.
+/// Sends requests to one producer host, one at a time, checks the replies, and monitors their deadlines.
+/// Does not depend on the content of the requests.
 class ProducerClient
 {
 public:
-    /// A reply is late after `searchTimeout`; after `replyTimeout` the host is given up.
+    /// A reply is late after `searchTimeout` and expired after `replyTimeout`.
     ProducerClient(Milliseconds searchTimeout, Milliseconds replyTimeout);
 
     void connect(LineChannel channel);
     void disconnect();
 
-    /// Returns the descriptor to poll for reading; -1 without a connection.
+    /// Returns the descriptor to poll for reading, or -1 if there is no connection.
     int descriptor() const { return m_channel.descriptor(); }
 
     template <typename Request>
@@ -30,7 +30,7 @@ public:
         sendMessage(Message(++m_lastId, request), now);
     }
 
-    /// Sends the last request. An outstanding reply may still arrive before the last one.
+    /// Sends the final request. The reply to an earlier request may still arrive before the final reply.
     template <typename Request>
     void sendLast(const Request &request)
     {
@@ -43,13 +43,15 @@ public:
     bool isLate(TimePoint now) const { return isWaiting() && waitingTime(now) >= m_searchTimeout; }
     bool isExpired(TimePoint now) const { return isWaiting() && waitingTime(now) >= m_replyTimeout; }
 
-    /// Returns the next time at which isLate() or isExpired() changes.
+    /// Returns the next time at which isLate() or isExpired() changes, or TimePoint::max() if no reply is
+    /// outstanding.
     TimePoint nextDeadline(TimePoint now) const;
 
-    /// Returns the time since the last request. Also valid right after its reply.
+    /// Returns the time since the last request was sent. The result is also valid right after the reply has
+    /// arrived.
     Milliseconds waitingTime(TimePoint now) const;
 
-    /// Returns true if the reply that arrives now is not late.
+    /// Returns true if a reply that arrives now is not late.
     bool isInTime(TimePoint now) const { return waitingTime(now) < m_searchTimeout; }
 
     struct Nothing
@@ -66,11 +68,12 @@ public:
     };
     using Received = std::variant<Nothing, Message, Disconnected, ProtocolError, ProducerFailure>;
 
-    /// Reads what has arrived, without blocking. Returns a Message only if it has the awaited ID.
+    /// Reads the received messages without blocking. Returns a Message only if it is the reply to the
+    /// outstanding request.
     Received receive();
 
     /// Reads the last messages of a host that was asked to close, and appends their problems. Returns false
-    /// if no more will come.
+    /// if no further message is expected.
     bool receiveLast(std::vector<Problem> &problems);
 
 private:

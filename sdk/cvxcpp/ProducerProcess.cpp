@@ -16,14 +16,15 @@
 
 namespace {
 
-/// The descriptors of the host: its socket, no standard input, our standard output and error, nothing else.
+/// Sets the descriptors of the host: its socket, an empty standard input, and our standard output and
+/// error. All other descriptors are closed.
 class FileActions
 {
 public:
     explicit FileActions(int socket)
     {
         posix_spawn_file_actions_init(&m_actions);
-        // First, since the next actions may replace the descriptor of the socket.
+        // This action is the first one, because the next actions may replace the descriptor of the socket.
         posix_spawn_file_actions_adddup2(&m_actions, socket, hostSocketDescriptor);
         posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_addclosefrom_np(&m_actions, hostSocketDescriptor + 1);
@@ -38,8 +39,8 @@ private:
     posix_spawn_file_actions_t m_actions;
 };
 
-/// Default signal handling, whatever the program has set, and a process group of its own: Ctrl-C goes to the
-/// program alone, which then ends its hosts itself.
+/// Starts the host with default signal handling, whatever the program has set, and in a separate process
+/// group: Ctrl-C reaches only the program, which ends its hosts itself.
 class Attributes
 {
 public:
@@ -72,7 +73,8 @@ ProducerProcess::~ProducerProcess()
     if (!isStarted())
         return;
     kill();
-    waitpid(m_process, nullptr, WNOHANG); // Without blocking: the host may be stuck in the kernel.
+    // The call must not block, because the host may be stuck in the kernel.
+    waitpid(m_process, nullptr, WNOHANG);
 }
 
 ProducerProcess::StartResult ProducerProcess::start(
@@ -100,7 +102,7 @@ void ProducerProcess::kill() const
     if (!isStarted())
         return;
     ::kill(-m_process, SIGKILL);
-    ::kill(m_process, SIGKILL); // The host may have left its group.
+    ::kill(m_process, SIGKILL); // The host may have left its process group.
 }
 
 std::optional<int> ProducerProcess::tryReap()
@@ -112,7 +114,7 @@ std::optional<int> ProducerProcess::tryReap()
     }
     if (info.si_pid == 0)
         return std::nullopt;
-    ::kill(-m_process, SIGKILL); // Before reaping, while the number of the group cannot be reused.
+    ::kill(-m_process, SIGKILL); // The kernel may reuse the number of the group after the host is reaped.
     int status = 0;
     waitpid(m_process, &status, 0);
     m_process = -1;

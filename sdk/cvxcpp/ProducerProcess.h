@@ -6,8 +6,8 @@
 #include <string>
 #include <sys/types.h>
 
-/// Starts, kills and reaps one CvxProducerHost. Start and reap it on the same thread, which must outlive it:
-/// the kernel ends the host together with the thread that started it.
+/// Starts, kills and reaps one CvxProducerHost. Start and reap the host on the same thread, which must
+/// outlive the host: the kernel kills the host when the thread that started it ends.
 class ProducerProcess
 {
 public:
@@ -25,19 +25,20 @@ public:
     /// Starts the host program for one producer.
     StartResult start(const std::string &hostProgram, const std::string &producerPath);
 
-    /// Returns true while there is a process, running or not yet reaped.
+    /// Returns true while the host runs or has not been reaped yet.
     bool isStarted() const { return m_process > 0; }
 
-    /// Kills the host and whatever its producer has started.
+    /// Kills the host and the processes that its producer has started in the same process group.
     void kill() const;
 
-    /// Replaces an exit status that the program has taken from us, by ignoring SIGCHLD or waiting for all
-    /// children.
+    /// tryReap() returns this value if the exit status is lost because the program ignores SIGCHLD or waits
+    /// for all children.
     static constexpr int unknownStatus = -1;
 
-    /// Returns the exit status if the host has ended, and forgets the process then. Does not block.
+    /// If the host has exited, returns its exit status and releases the process; otherwise returns nothing.
+    /// Does not block.
     std::optional<int> tryReap();
 
 private:
-    pid_t m_process = -1; // Also the number of its process group.
+    pid_t m_process = -1; // The process ID is also the number of the process group.
 };

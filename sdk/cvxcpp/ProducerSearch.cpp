@@ -31,8 +31,8 @@ void reportProblem(const Report &report, const std::string &path, const std::str
         report(path + ": " + problem);
 }
 
-/// Returns the sorted names of the "*.cti" files in a directory; none if the directory was searched before
-/// under another path.
+/// Returns the sorted names of the "*.cti" files in a directory, or no names if the directory was already
+/// searched, possibly under another path.
 std::vector<std::string> ctiNames(const std::string &directory, FileIds &known, const Report &report)
 {
     std::vector<std::string> names;
@@ -54,14 +54,15 @@ std::vector<std::string> ctiNames(const std::string &directory, FileIds &known, 
     return names;
 }
 
-/// Returns the absolute path without symbolic links; an empty string if there is no such file.
+/// Returns the absolute path without symbolic links, or an empty string if the file does not exist.
 std::string resolved(const std::string &path)
 {
     const std::unique_ptr<char, void (*)(void *)> real(realpath(path.c_str(), nullptr), std::free);
     return real ? std::string(real.get()) : std::string();
 }
 
-/// Returns why the file cannot be a producer; an empty string if it is a regular file. Stores its status.
+/// Returns the reason why the file cannot be a producer, or an empty string if it is a regular file. Stores
+/// the status of the file in `file`.
 std::string findProblem(const std::string &path, struct stat &file)
 {
     if (stat(path.c_str(), &file) != 0)

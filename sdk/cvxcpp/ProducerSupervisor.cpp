@@ -9,13 +9,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A producer that forked keeps the socket open when it dies, so the process is checked too while a reply is
-// awaited.
+// If a producer has forked, its child process keeps the socket open after the host has died. The host
+// process is therefore also checked while a reply is outstanding.
 constexpr auto checkInterval = 250ms;
 
-constexpr auto reapInterval = 5ms; // A host whose connection has ended is about to exit …
-constexpr auto reapTime = 1s; // … unless it is stuck in the kernel; then it is checked less often.
-constexpr auto exitGrace = 500ms; // From the end of the connection to the end of the process.
+constexpr auto reapInterval = 5ms; // Interval at which an exiting host is checked.
+// A host that does not exit for so long may be stuck in the kernel and is checked less often.
+constexpr auto reapTime = 1s;
+constexpr auto exitGrace = 500ms; // Time that a host has to exit after its connection has ended.
 
 std::string seconds(Milliseconds time)
 {
@@ -131,7 +132,8 @@ std::optional<ProducerSupervisor::Event> ProducerSupervisor::checkHost(TimePoint
 
 std::string ProducerSupervisor::reasonForEnd(int status)
 {
-    const ProducerClient::Received received = m_client.receive(); // The host may have sent its reason before.
+    // The host may have sent the reason before it exited.
+    const ProducerClient::Received received = m_client.receive();
     const auto *failure = std::get_if<ProducerClient::ProducerFailure>(&received);
     return failure ? problemReason(failure->problem) : exitReason(status);
 }
@@ -183,7 +185,8 @@ void ProducerSupervisor::stepClose()
 {
     if (isGone())
         return;
-    const auto status = m_process.tryReap(); // Before reading: everything the host has sent is there then.
+    // Must precede receiveLast(): once the host has exited, everything that it sent can be read.
+    const auto status = m_process.tryReap();
     std::vector<Problem> problems;
     const bool mayReceiveMore = m_client.receiveLast(problems);
     m_reporter.reportProblems(problems);

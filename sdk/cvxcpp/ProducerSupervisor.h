@@ -15,9 +15,9 @@
 #include <string>
 #include <vector>
 
-/// Keeps the host of one producer running: starts it, sends it requests, notices every way in which it can
-/// fail, and starts it again. Lives on one thread, which calls step() when there is something to read or a
-/// time has come.
+/// Keeps the host of one producer running: starts the host, sends requests to it, detects all its failures,
+/// and starts it again. Use a supervisor on one thread only. The thread calls step() when there is
+/// something to read or when the time of the next step is reached.
 class ProducerSupervisor
 {
 public:
@@ -31,14 +31,16 @@ public:
         };
 
         Kind kind;
-        std::vector<InterfaceRecord> interfaces; ///< All; after a search of one interface that one, or none.
-        std::string searchedInterface; ///< ID; only for InterfaceSearched.
-        bool isInTime = true; ///< The reply was not late.
+        /// All interfaces; for InterfaceSearched, only the searched interface or none.
+        std::vector<InterfaceRecord> interfaces;
+        std::string searchedInterface; ///< ID of the interface; empty unless the kind is InterfaceSearched.
+        bool isInTime = true; ///< True if the reply was not late.
     };
 
     ProducerSupervisor(const SystemOptions &options, const std::string &producerPath);
 
-    /// Returns the time from which the next step starts the host; TimePoint::max() while there is one.
+    /// Returns the time after which the next step starts the host, or TimePoint::max() if the host is
+    /// already started.
     TimePoint startTime() const;
 
     /// Returns true if a request can be sent now.
@@ -48,16 +50,17 @@ public:
     void requestCameras(TimePoint now);
     void requestInterface(const InterfaceRecord &interface, TimePoint now);
 
-    /// Returns the descriptor to poll for reading; -1 for none.
+    /// Returns the descriptor to poll for reading, or -1 if there is no connection.
     int descriptor() const { return m_client.descriptor(); }
 
-    /// Returns the latest time of the next step.
+    /// Returns the time at which step() has to be called at the latest.
     TimePoint nextStep(TimePoint now) const;
     std::optional<Event> step(TimePoint now, bool isReadable);
 
     void reportUnusedCameras(std::size_t reported, std::size_t used);
 
-    // The end of the session: beginClose(), then stepClose() until the host is gone or its time is over.
+    // At the end of the session, call beginClose(), then stepClose() until the host is gone or its time is
+    // over, and killUnclosed() if the host still exists.
     void beginClose();
     void stepClose();
     void killUnclosed(TimePoint now);
@@ -91,6 +94,7 @@ private:
     RestartPolicy m_restartPolicy;
     InterfaceUpdateSchedule m_interfaceUpdates;
     FailureReporter m_reporter;
-    std::optional<std::string> m_requestedInterface; // ID; nothing if the last request was for all cameras.
-    TimePoint m_killAt{}; // While Disconnected or Failed.
+    // ID of the interface; nothing if the last request was for all cameras.
+    std::optional<std::string> m_requestedInterface;
+    TimePoint m_killAt{}; // Time at which a Disconnected or Failed host is killed.
 };

@@ -3,7 +3,8 @@
 #include "sdk/cvxcpp/Timing.h"
 
 /// Decides when a failed producer host is started again. The delay doubles with every failure up to a
-/// maximum; after a host has run for as long as that maximum, it begins with the first delay again.
+/// maximum. If a host ran for at least the maximum delay before it failed, the delay starts at its first
+/// value again.
 class RestartPolicy
 {
 public:
@@ -12,13 +13,14 @@ public:
     void started(TimePoint now) { m_startedAt = now; }
     void failed(TimePoint now);
 
-    /// Returns the earliest time of the next start. The first start precedes every restart of another host.
+    /// Returns the earliest time of the next start. Before the first start, this time is earlier than every
+    /// restart of another host.
     TimePoint nextStart() const { return m_nextStart; }
 
 private:
     Milliseconds m_firstDelay;
     Milliseconds m_maxDelay;
-    Milliseconds m_delay; // The next failure is followed by this delay.
+    Milliseconds m_delay; // The delay after the next failure.
     TimePoint m_startedAt{};
     TimePoint m_nextStart{};
 };

@@ -40,7 +40,8 @@ void SearchState::listReceived(TimePoint now, bool isInTime)
     ++m_listCount;
     m_listedAt = now;
     m_interfaceListedAt.clear();
-    m_isListPending = false; // The list answers every request that was made before it came.
+    // The list is also the result of every request that was made before the list arrived.
+    m_isListPending = false;
     m_pendingInterfaces.clear();
     m_isResponsive = isInTime;
 }

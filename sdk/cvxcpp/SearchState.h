@@ -7,8 +7,8 @@
 #include <set>
 #include <string>
 
-/// What the callers of a session know and want of one producer's searches: how fresh the results are, whether
-/// the producer replies in time, and which requests are still to be sent to its host.
+/// The state of one producer's searches: how fresh the results are, whether the producer replies in time,
+/// and which requests still have to be sent to its host.
 class SearchState
 {
 public:
@@ -18,31 +18,34 @@ public:
     bool isFresh(TimePoint now) const;
     bool isInterfaceFresh(const std::string &interfaceId, TimePoint now) const;
 
-    /// Returns false from a missed deadline or a failure until the next reply in time. Callers do not wait
-    /// for a producer that is not responsive.
+    /// Returns false after a missed deadline or a failure until a reply arrives in time. Callers do not
+    /// wait for a producer that is not responsive.
     bool isResponsive() const { return m_isResponsive; }
 
-    /// Returns the number of camera lists that have arrived; a waiting caller sees by it that one came.
+    /// Returns the number of camera lists that have arrived. A change of this number shows a waiting caller
+    /// that a list has arrived.
     unsigned listCount() const { return m_listCount; }
 
-    // Requests, which stay pending until the host is idle.
+    // The requests stay pending until the host is idle.
     void requestList() { m_isListPending = true; }
     bool takeListRequest();
     void requestInterface(const std::string &interfaceId) { m_pendingInterfaces.insert(interfaceId); }
     void dropInterfaceRequest(const std::string &interfaceId) { m_pendingInterfaces.erase(interfaceId); }
     bool isInterfacePending(const std::string &interfaceId) const;
 
-    /// Returns the interface to search next; it stays pending until its reply arrives.
+    /// Returns the ID of the interface to search next, or nothing. The request stays pending until the
+    /// reply arrives.
     std::optional<std::string> nextInterfaceRequest() const;
 
-    // What happens to the producer. A reply that is not in time leaves it unresponsive.
+    // These functions record events of the producer. The producer is not responsive after a late reply.
     void listReceived(TimePoint now, bool isInTime);
     void interfaceReceived(const std::string &interfaceId, TimePoint now, bool isInTime);
     void deadlineMissed() { m_isResponsive = false; }
     void producerLost();
 
-    /// Counts the age of a responsive producer's list from now on, when the search of all producers ends: a
-    /// caller that goes through the cameras afterwards must not search again because of a slow neighbour.
+    /// Records that a search of all producers has ended. If the producer is responsive, the age of its list
+    /// is counted from now on. Otherwise, if another producer is slow, the list would be too old for a
+    /// caller that searches the interfaces of its cameras afterwards.
     void searchEnded(TimePoint now);
 
 private:
@@ -50,8 +53,10 @@ private:
 
     Milliseconds m_reuseTime;
     unsigned m_listCount = 0;
-    std::optional<TimePoint> m_listedAt; // Or when the search that brought the list ended.
-    std::map<std::string, TimePoint> m_interfaceListedAt; // Searches of one interface after that list.
+    // Time at which the list arrived or its search of all producers ended.
+    std::optional<TimePoint> m_listedAt;
+    // Times of the searches of single interfaces since the last list.
+    std::map<std::string, TimePoint> m_interfaceListedAt;
     bool m_isResponsive = true;
     bool m_isListPending = false;
     std::set<std::string> m_pendingInterfaces;

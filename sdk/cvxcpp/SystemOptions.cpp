@@ -8,14 +8,15 @@
 
 namespace {
 
-/// Writes the line with one call, so that lines of several processes do not mix. If nobody reads standard
-/// error, waits for the reader once, and then drops lines without waiting until standard error is read again.
+/// Writes the line with one call, so that lines of several processes do not mix. If standard error is
+/// blocked, waits once for at most 100 ms. If it stays blocked, drops lines without waiting until it can be
+/// written to again.
 void reportOnStandardError(const std::string &message)
 {
     static std::atomic<bool> isRead{true};
     constexpr int maxWait = 100; // Milliseconds.
-    const std::string line
-        = ("libCvxCPP: " + message).substr(0, PIPE_BUF - 1) + '\n'; // A longer write could block.
+    // A longer line could block the write.
+    const std::string line = ("libCvxCPP: " + message).substr(0, PIPE_BUF - 1) + '\n';
     pollfd output{STDERR_FILENO, POLLOUT, 0};
     isRead = poll(&output, 1, isRead ? maxWait : 0) > 0;
     if (!isRead)

@@ -8,7 +8,8 @@
 /// Returns a string to a caller by the two-call protocol of CvxCPP.h.
 inline CvxCPP::CvxError copyText(const std::string &text, char *buffer, unsigned &size)
 {
-    // With the terminating NUL. The text is part of a message of limited size, so its length fits.
+    // The size includes the terminating NUL. The size fits into `unsigned`, because the text is part of a
+    // message of limited length.
     const auto needed = static_cast<unsigned>(text.size() + 1);
     if (buffer && size < needed)
         return CvxCPP::CvxErrorBufferTooSmall;

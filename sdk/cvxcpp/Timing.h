@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-/// The clock of every rule about time in the library.
+/// The clock that all intervals and timeouts of the library use.
 using SteadyClock = std::chrono::steady_clock;
 using TimePoint = SteadyClock::time_point;
 using Milliseconds = std::chrono::milliseconds;

@@ -4,7 +4,8 @@
 
 namespace {
 
-/// Returns the letters, in lower case, and digits: "GigE Vision" and "GigE-Vision" become "gigevision".
+/// Returns only the ASCII letters and digits of the name, in lower case: both "GigE Vision" and
+/// "GigE-Vision" become "gigevision".
 std::string plainName(std::string_view name)
 {
     std::string plain;

@@ -11,8 +11,8 @@ unsigned byteAt(std::string_view bytes, std::size_t index)
     return static_cast<unsigned char>(bytes[index]);
 }
 
-/// Returns the length of the well-formed sequence at the start of `bytes`; 0 if the bytes there are
-/// malformed.
+/// Returns the length of the well-formed sequence at the start of `bytes`, or 0 if there is no such
+/// sequence.
 std::size_t sequenceLength(std::string_view bytes)
 {
     // The range of the second byte excludes overlong forms and surrogates.
@@ -70,7 +70,8 @@ std::string toLine(std::string_view bytes)
     std::string line;
     const std::string text = toValidUtf8(bytes);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        // Some terminals obey U+0080 to U+009F, which are encoded as 0xC2 and a byte of the same value.
+        // Some terminals execute the control characters U+0080 to U+009F. UTF-8 encodes each of them as
+        // 0xC2 and a byte of the same value.
         const bool isC1 = byteAt(text, i) == 0xC2 && byteAt(text, i + 1) < 0xA0;
         const unsigned code = byteAt(text, isC1 ? ++i : i);
         if (code == '\n') {

@@ -5,12 +5,14 @@
 
 /// The part of the GenICam GenTL C interface that the enumeration of interfaces and devices needs.
 ///
-/// Function names, argument lists and numbers are those of the chapter "Software Interface" in the public
-/// GenICam GenTL Standard. Each block below is headed by the title of its section in that chapter. "since"
-/// names the version of the standard that introduced an entry; an entry without it exists since version 1.0.
+/// Function names, argument lists and numbers are taken from the chapter "Software Interface" of the public
+/// GenICam GenTL Standard. The heading of each block below is the title of its section in this chapter.
+/// "since" names the version of the standard that introduced an entry; all other entries exist since
+/// version 1.0.
 ///
 /// Everything is in namespace GenTL, but the functions have C linkage, so a producer exports their plain
-/// names. A consumer does not link against them: it casts the result of dlsym() to the P… pointer type.
+/// names. A consumer does not link against the functions, but casts the result of dlsym() to a P… pointer
+/// type.
 namespace GenTL {
 
 // ---- Used Data Types ---------------------------------------------------------------------------------
@@ -19,11 +21,11 @@ using GC_ERROR = std::int32_t;
 using TL_HANDLE = void *;
 using IF_HANDLE = void *;
 
-/// One byte: 0 is false, every other value is true. It is not bool, because a producer may write a byte that
-/// is neither 0 nor 1.
+/// A truth value in one byte: 0 is false, every other value is true. The type is not bool, because a producer
+/// may write a byte that is neither 0 nor 1.
 using bool8_t = std::uint8_t;
 
-// Enumerations cross the interface as 32-bit integers, and custom values are allowed in all of them.
+// The C interface passes every enumeration as a 32-bit integer. A producer may define additional values.
 using INFO_DATATYPE = std::int32_t;
 using TL_INFO_CMD = std::int32_t;
 using INTERFACE_INFO_CMD = std::int32_t;
@@ -52,7 +54,7 @@ constexpr GC_ERROR GC_ERR_IO = -1010;
 constexpr GC_ERROR GC_ERR_TIMEOUT = -1011;
 constexpr GC_ERROR GC_ERR_ABORT = -1012; // since 1.1
 constexpr GC_ERROR GC_ERR_INVALID_BUFFER = -1013; // since 1.1
-constexpr GC_ERROR GC_ERR_NOT_AVAILABLE = -1014; // Not now, for example before the first update; since 1.2
+constexpr GC_ERROR GC_ERR_NOT_AVAILABLE = -1014; // No value yet, for example before an update; since 1.2
 constexpr GC_ERROR GC_ERR_INVALID_ADDRESS = -1015; // since 1.3
 constexpr GC_ERROR GC_ERR_BUFFER_TOO_SMALL = -1016; // since 1.4
 constexpr GC_ERROR GC_ERR_INVALID_INDEX = -1017; // since 1.4
@@ -111,7 +113,7 @@ constexpr const char *TLTypeUVCName = "UVC"; // USB video class
 constexpr const char *TLTypeETHERNETName = "Ethernet"; // Ethernet without GigE Vision; since 1.3
 constexpr const char *TLTypePCIName = "PCI"; // since 1.3
 constexpr const char *TLTypeMixedName = "Mixed"; // Several technologies; for a system module only.
-constexpr const char *TLTypeCustomName = "Custom"; // Anything else.
+constexpr const char *TLTypeCustomName = "Custom"; // Any other technology.
 
 // ---- Interface Enumerations --------------------------------------------------------------------------
 
@@ -123,7 +125,8 @@ constexpr INTERFACE_INFO_CMD INTERFACE_INFO_CUSTOM_ID = 1000;
 
 // ---- Device Enumerations -----------------------------------------------------------------------------
 
-// IFGetDeviceInfo and DevGetInfo. Those since 1.4 may be unknown until the device is opened.
+// The commands of IFGetDeviceInfo and DevGetInfo. The values since 1.4 may be unknown until the device is
+// opened.
 constexpr DEVICE_INFO_CMD DEVICE_INFO_ID = 0; // STRING
 constexpr DEVICE_INFO_CMD DEVICE_INFO_VENDOR = 1; // STRING
 constexpr DEVICE_INFO_CMD DEVICE_INFO_MODEL = 2; // STRING
@@ -147,7 +150,7 @@ constexpr DEVICE_ACCESS_STATUS DEVICE_ACCESS_STATUS_CUSTOM_ID = 1000;
 
 // ---- Function Declarations ---------------------------------------------------------------------------
 
-// Exported even if the producer is built with hidden visibility.
+// This macro exports a function even if the producer is built with hidden visibility.
 #define GENTL_FUNCTION __attribute__((visibility("default"))) GenTL::GC_ERROR
 
 extern "C" {

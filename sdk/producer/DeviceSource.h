@@ -20,7 +20,7 @@ struct ProducerIdentity
     std::string displayName;
 };
 
-/// One interface, for example a network interface. Its ID is unique in the producer and never empty.
+/// One interface, for example a network interface. The ID is unique in the producer and never empty.
 struct InterfaceRecord
 {
     std::string id;
@@ -28,7 +28,8 @@ struct InterfaceRecord
     std::string tlType; ///< Never "Mixed".
 };
 
-/// One device. Its ID is unique in its interface and never empty; any other string may be empty.
+/// One device. The ID is unique among the devices of its interface and never empty; any other string may be
+/// empty.
 struct DeviceRecord
 {
     std::string id;
@@ -44,10 +45,10 @@ struct DeviceRecord
 bool operator==(const InterfaceRecord &left, const InterfaceRecord &right);
 bool operator==(const DeviceRecord &left, const DeviceRecord &right);
 
-/// Finds a producer's interfaces and devices: the one part that each producer implements itself.
-/// Lives from GCInitLib to GCCloseLib, or longer if a call is still running then. Several threads may call
-/// any of its functions at the same time, but never the same update twice at once. An update may throw: the
-/// list then stays unchanged, and the consumer gets GC_ERR_ERROR with the message of the exception.
+/// Finds the interfaces and devices of a producer. Each producer implements its own device source.
+/// The source exists from GCInitLib to GCCloseLib, or until the last call that is running at GCCloseLib has
+/// ended. Several threads may call the functions of a source at the same time. If an update throws, the list
+/// stays unchanged, and the consumer receives GC_ERR_ERROR with the message of the exception.
 class DeviceSource
 {
 public:
@@ -58,11 +59,12 @@ public:
     /// Returns the interfaces that exist now. Blocks until the search has ended.
     virtual std::vector<InterfaceRecord> updateInterfaces() = 0;
 
-    /// Returns the devices that one interface has now; none if the interface is gone. Blocks until the search
-    /// has ended.
+    /// Returns the devices that one interface has now, or none if the interface has disappeared. Blocks until
+    /// the search has ended.
     virtual std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) = 0;
 };
 
-/// Returns the source of a producer; each producer defines this function. May throw: GCInitLib then fails.
+/// Returns the source of a producer. Each producer defines this function. If the function throws, GCInitLib
+/// fails.
 /// @param producerFile The full path of the producer's .cti file.
 std::unique_ptr<DeviceSource> createDeviceSource(const std::filesystem::path &producerFile);

@@ -1,6 +1,6 @@
-// The exported C functions that discovery needs. Each finds the module behind its handle and calls that
-// module's list, or the Producer where handles are opened and closed. GenTL.h refers to the standard, which
-// defines what each function returns.
+// This file defines the exported C functions that discovery needs. Each function finds the module that its
+// handle identifies and calls the list of this module. The functions that open or close a module call the
+// Producer. GenTL.h names the standard that defines what each function returns.
 
 #include "sdk/producer/InfoCommands.h"
 #include "sdk/producer/LastError.h"
@@ -13,7 +13,8 @@ using namespace GenTL;
 
 namespace {
 
-/// Runs the body of an exported function. No exception leaves it, because the consumer may be written in C.
+/// Runs the body of an exported function. Converts every exception to an error code, because the consumer may
+/// be written in C.
 template <typename Body>
 GC_ERROR guarded(Body &&body) noexcept
 {
@@ -28,7 +29,7 @@ GC_ERROR guarded(Body &&body) noexcept
     }
 }
 
-/// Runs the body with the system module behind a handle.
+/// Runs the body with the system module that the handle identifies.
 template <typename Body>
 GC_ERROR withSystem(TL_HANDLE handle, Body &&body) noexcept
 {
@@ -41,7 +42,7 @@ GC_ERROR withSystem(TL_HANDLE handle, Body &&body) noexcept
     });
 }
 
-/// Runs the body with the interface module behind a handle.
+/// Runs the body with the interface module that the handle identifies.
 template <typename Body>
 GC_ERROR withInterface(IF_HANDLE handle, Body &&body) noexcept
 {
@@ -54,7 +55,8 @@ GC_ERROR withInterface(IF_HANDLE handle, Body &&body) noexcept
     });
 }
 
-/// Returns the interface as the system's list contains it now; if it is no longer there, as it was opened.
+/// Returns the interface's current entry in the system's list. If the list no longer contains the interface,
+/// returns the entry with which the interface was opened.
 InterfaceRecord currentRecord(const InterfaceModule &module)
 {
     const std::shared_ptr<SystemModule> system = Producer::instance().openedSystem();
@@ -100,7 +102,7 @@ GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t
         const std::string message = lastErrorMessage();
         const GC_ERROR error = writeLastError(code, message, piErrorCode, InfoOutput(sErrText, piSize));
         if (error)
-            fail(code, message); // The consumer may ask again with a longer buffer.
+            fail(code, message); // The consumer may call again with a longer buffer.
         return error;
     });
 }
@@ -123,7 +125,7 @@ GENTL_FUNCTION TLGetInfo(
     });
 }
 
-// Both update functions ignore the timeout: no source could end its search early.
+// Both update functions ignore the timeout, because no source can end its search early.
 GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE hTL, bool8_t *pbChanged, std::uint64_t)
 {
     return withSystem(hTL, [&](SystemModule &system) {

@@ -6,7 +6,7 @@ using namespace GenTL;
 
 namespace {
 
-// The version of the GenTL standard that we report.
+// The version of the GenTL standard that each of our producers reports.
 constexpr std::uint32_t genTlMajor = 1;
 constexpr std::uint32_t genTlMinor = 5;
 

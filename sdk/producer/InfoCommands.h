@@ -3,9 +3,10 @@
 #include "sdk/producer/DeviceSource.h"
 #include "sdk/producer/InfoOutput.h"
 
-// The info commands of each kind of module. Each function writes the value of one command to a complete
-// output. It returns GC_ERR_SUCCESS, GC_ERR_BUFFER_TOO_SMALL, or GC_ERR_NOT_IMPLEMENTED for an unknown
-// command; writeDeviceInfo() returns GC_ERR_NOT_AVAILABLE for what only an open device can report.
+// These functions implement the info commands of each kind of module. Each function writes the value of one
+// command to a complete output. It returns GC_ERR_SUCCESS, GC_ERR_BUFFER_TOO_SMALL, or GC_ERR_NOT_IMPLEMENTED
+// for an unknown command. writeDeviceInfo() returns GC_ERR_NOT_AVAILABLE for a value that only an open device
+// can report.
 
 GenTL::GC_ERROR writeProducerInfo(const ProducerIdentity &identity, const std::filesystem::path &producerFile,
     GenTL::TL_INFO_CMD command, const InfoOutput &output);

@@ -21,7 +21,7 @@ bool InfoOutput::isComplete() const
 
 GC_ERROR InfoOutput::writeString(const std::string &value) const
 {
-    // A consumer cannot see what follows a NUL, so the size must not include it.
+    // A consumer reads only the part before the first NUL, so the size must not include the rest.
     const char *const characters = value.c_str();
     return write(INFO_DATATYPE_STRING, characters, std::strlen(characters) + 1);
 }

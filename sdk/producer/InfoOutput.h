@@ -4,20 +4,22 @@
 
 #include <string>
 
-/// The output arguments of an "ID" or "Info" function, and the two-call protocol of GenTL: without a buffer
-/// the caller gets the size of the value, with a buffer the value itself. The size of a string includes its
-/// terminating NUL.
+/// The output arguments of an "ID" or "Info" function. The class implements the two-call protocol of GenTL: a
+/// call without a buffer returns the size of the value, a call with a buffer returns the value itself. The
+/// size of a string includes the terminating NUL.
 class InfoOutput
 {
 public:
-    /// For the "ID" functions, which report no data type.
+    /// Creates the output of an "ID" function, which reports no data type.
     InfoOutput(char *buffer, std::size_t *size);
+    /// Creates the output of an "Info" function.
     InfoOutput(GenTL::INFO_DATATYPE *type, void *buffer, std::size_t *size);
 
-    /// Returns false if a required output argument is NULL. Check this before writing.
+    /// Returns false if a required output argument is null. Call isComplete() before any write function.
     bool isComplete() const;
 
-    // Each returns GC_ERR_SUCCESS, or GC_ERR_BUFFER_TOO_SMALL without writing anything.
+    // Each write function returns GC_ERR_SUCCESS. If the buffer is too small, the function writes nothing and
+    // returns GC_ERR_BUFFER_TOO_SMALL.
 
     /// Writes the string up to its first NUL.
     GenTL::GC_ERROR writeString(const std::string &value) const;

@@ -6,8 +6,8 @@ using namespace GenTL;
 
 namespace {
 
-/// Plain data: recording an error cannot fail itself, and nothing has to be destroyed when a thread ends,
-/// which may be after this library was unloaded.
+/// The last error of one thread. The record is plain data, so setting it cannot fail. No destructor has to
+/// run when the thread ends, which may happen after this library was unloaded.
 struct LastError
 {
     GC_ERROR code = GC_ERR_SUCCESS;

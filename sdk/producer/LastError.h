@@ -9,13 +9,16 @@
 GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const char *message) noexcept;
 GenTL::GC_ERROR fail(GenTL::GC_ERROR code, const std::string &message) noexcept;
 
-// Failures that several functions share. Each returns the code in its comment.
+// These functions report failures that several functions share. Each one sets the thread's last error and
+// returns the code in its comment.
 GenTL::GC_ERROR failMissingArgument(); ///< GC_ERR_INVALID_PARAMETER
 GenTL::GC_ERROR failUnknownCommand(std::int32_t command); ///< GC_ERR_NOT_IMPLEMENTED
 GenTL::GC_ERROR failNeverUpdated(); ///< GC_ERR_NOT_AVAILABLE
 GenTL::GC_ERROR failIndex(std::uint32_t index, std::uint32_t count); ///< GC_ERR_INVALID_INDEX
 GenTL::GC_ERROR failUnknownId(const std::string &id); ///< GC_ERR_INVALID_ID
 
-/// Return the calling thread's last error; GC_ERR_SUCCESS and "No error." if there was none.
+/// Returns the code of the calling thread's last error, or GC_ERR_SUCCESS if there was none.
 GenTL::GC_ERROR lastErrorCode() noexcept;
+
+/// Returns the message of the calling thread's last error, or "No error." if there was none.
 const char *lastErrorMessage() noexcept;

@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-/// The open system module, which a TL_HANDLE stands for.
+/// The open system module, which a TL_HANDLE identifies.
 struct SystemModule
 {
     explicit SystemModule(std::shared_ptr<DeviceSource> deviceSource) : source(std::move(deviceSource)) { }
@@ -15,8 +15,8 @@ struct SystemModule
     UpdatedList<InterfaceRecord> interfaces;
 };
 
-/// An open interface module, which an IF_HANDLE stands for. Each interface has a list with a lock of its own,
-/// so several interfaces can be searched at the same time.
+/// An open interface module, which an IF_HANDLE identifies. Each interface has its own list with its own
+/// lock, so several interfaces can be searched at the same time.
 struct InterfaceModule
 {
     InterfaceModule(std::shared_ptr<DeviceSource> deviceSource, InterfaceRecord record)
@@ -24,6 +24,6 @@ struct InterfaceModule
     { }
 
     const std::shared_ptr<DeviceSource> source;
-    const InterfaceRecord openedAs; ///< The entry of the system's list when the interface was opened.
+    const InterfaceRecord openedAs; ///< The interface's entry in the system's list when it was opened.
     UpdatedList<DeviceRecord> devices;
 };

@@ -14,11 +14,11 @@ namespace {
 
 std::filesystem::path ownFile()
 {
-    // The address of a variable rather than of an exported function: another producer may have been loaded
-    // into the global scope before us, and the function of the same name would then be its own.
+    // Uses the address of a static variable. The name of an exported function could resolve to another
+    // producer that was loaded into the global scope before this one.
     static const char landmark = 0;
     Dl_info library{};
-    dladdr(&landmark, &library); // Cannot fail for an address in a loaded library.
+    dladdr(&landmark, &library); // dladdr() cannot fail for an address in a loaded library.
     return std::filesystem::canonical(library.dli_fname);
 }
 
@@ -31,8 +31,8 @@ GC_ERROR failNotInitialised()
 
 Producer &Producer::instance()
 {
-    // Never destroyed: the process may end while a thread of the consumer is still in a call.
-    // A closed producer owns no memory, so unloading it leaks none.
+    // The object is never destroyed, because the process may end while another thread is still in a call.
+    // A closed producer owns no memory, so unloading the library leaks none.
     alignas(Producer) static std::byte storage[sizeof(Producer)];
     static Producer *const producer = new (storage) Producer;
     return *producer;
@@ -162,7 +162,7 @@ bool Producer::isOpen(const std::string &interfaceId) const
 
 void *Producer::newHandle()
 {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): never dereferenced; it only needs the type of a handle.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the handle is never dereferenced.
     return reinterpret_cast<void *>(++m_lastHandle);
 }
 

@@ -10,9 +10,9 @@
 #include <mutex>
 #include <optional>
 
-/// The state of the loaded producer: whether it is initialised, and which modules are open under which
-/// handles. A handle is a number that is never reused, so a closed or foreign handle is always recognised.
-/// Any thread may call any function. None of them waits for a search.
+/// The state of the loaded producer: whether the producer is initialised, and which modules are open with
+/// which handles. The number of a handle is never reused, so a closed or foreign handle is always detected.
+/// Any thread may call any function. No function waits for a search.
 ///
 /// Every function that returns a code returns GC_ERR_NOT_INITIALIZED before initialise() and after close(),
 /// and GC_ERR_INVALID_PARAMETER if a required output is null.
@@ -21,38 +21,42 @@ class Producer
 public:
     static Producer &instance();
 
-    /// Creates the device source. Returns GC_ERR_RESOURCE_IN_USE if that was done already. Throws what
-    /// createDeviceSource() throws, and then stays uninitialised.
+    /// Creates the device source. Returns GC_ERR_RESOURCE_IN_USE if the producer is already initialised. If
+    /// createDeviceSource() throws, the producer stays uninitialised and the exception reaches the caller.
     GenTL::GC_ERROR initialise();
 
-    /// Closes all modules and the device source.
+    /// Closes all modules and releases the device source.
     GenTL::GC_ERROR close();
 
     GenTL::GC_ERROR requireInitialised() const;
 
-    /// Writes what the producer reports about itself; see writeProducerInfo() for more codes.
+    /// Writes the value of an info command of the producer. Returns the codes of writeProducerInfo() too.
     GenTL::GC_ERROR info(GenTL::TL_INFO_CMD command, const InfoOutput &output) const;
 
-    /// Returns GC_ERR_RESOURCE_IN_USE if the system module is open.
+    /// Opens the system module. Returns GC_ERR_RESOURCE_IN_USE if the system module is already open.
     GenTL::GC_ERROR openSystem(GenTL::TL_HANDLE *handle);
 
-    /// Closes the system module and all interfaces. Returns GC_ERR_INVALID_HANDLE for any other handle.
+    /// Closes the system module and all interfaces. Returns GC_ERR_INVALID_HANDLE if the handle is not the
+    /// one of the open system module.
     GenTL::GC_ERROR closeSystem(GenTL::TL_HANDLE handle);
 
-    /// Opens an interface with the record from the system's list; nothing stands for an ID that is not in
-    /// that list. Returns GC_ERR_RESOURCE_IN_USE if the interface is open, even if it is no longer in the
-    /// list, and GC_ERR_INVALID_ID if there is no record.
+    /// Opens an interface. `record` is the interface's entry in the system's list, or empty if the list does
+    /// not contain the ID. Returns GC_ERR_RESOURCE_IN_USE if the interface is already open, even if the list
+    /// no longer contains it. Otherwise, returns GC_ERR_INVALID_ID if `record` is empty.
     GenTL::GC_ERROR openInterface(
         const std::string &id, const std::optional<InterfaceRecord> &record, GenTL::IF_HANDLE *handle);
 
-    /// Returns GC_ERR_INVALID_HANDLE for a handle that is not open.
+    /// Closes an interface. Returns GC_ERR_INVALID_HANDLE if the handle is not the one of an open interface.
     GenTL::GC_ERROR closeInterface(GenTL::IF_HANDLE handle);
 
-    /// Return null while the system module is not open.
+    /// Returns the open system module, or null if it is not open.
     std::shared_ptr<SystemModule> openedSystem() const;
+
+    /// Returns the handle of the open system module, or GENTL_INVALID_HANDLE if it is not open.
     GenTL::TL_HANDLE systemHandle() const;
 
-    /// Return null for a handle that is not open. The module outlives its closing while the caller holds it.
+    // Both functions return null if the handle does not identify an open module. A closed module exists as
+    // long as the caller holds the returned pointer.
     std::shared_ptr<SystemModule> system(GenTL::TL_HANDLE handle) const;
     std::shared_ptr<InterfaceModule> interface(GenTL::IF_HANDLE handle) const;
 
@@ -62,9 +66,9 @@ private:
     void *newHandle();
     void closeModules();
 
-    mutable std::mutex m_mutex; // Guards what follows.
+    mutable std::mutex m_mutex; // Guards the members below.
     std::uintptr_t m_lastHandle = 0;
-    std::filesystem::path m_file; // The .cti file itself.
+    std::filesystem::path m_file; // The path of the .cti file.
     std::shared_ptr<DeviceSource> m_source; // Null while the producer is not initialised.
     GenTL::TL_HANDLE m_systemHandle = GenTL::GENTL_INVALID_HANDLE;
     std::shared_ptr<SystemModule> m_system;

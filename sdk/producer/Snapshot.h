@@ -7,15 +7,15 @@
 #include <utility>
 #include <vector>
 
-/// The entries that one enumeration returned, found by index and by ID.
+/// The entries that one enumeration returned. An entry can be found by its index and by its ID.
 template <typename Record>
 class Snapshot
 {
 public:
     Snapshot() = default;
 
-    /// Keeps the order. Leaves out an entry without an ID or with the ID of an earlier entry, because a
-    /// consumer could not ask for it.
+    /// Keeps the order of the records. Omits a record without an ID and a record with the ID of an earlier
+    /// record, because a consumer could not request them.
     explicit Snapshot(std::vector<Record> records)
     {
         m_records.reserve(records.size());
@@ -29,13 +29,14 @@ public:
 
     std::uint32_t count() const { return static_cast<std::uint32_t>(m_records.size()); }
 
-    /// Returns null if there is no such entry; otherwise the pointer is valid as long as the snapshot.
+    /// Returns null if there is no entry with this index. The pointer is valid as long as the snapshot
+    /// exists.
     const Record *at(std::uint32_t index) const
     {
         return index < m_records.size() ? &m_records[index] : nullptr;
     }
 
-    /// Returns null if there is no such entry; otherwise the pointer is valid as long as the snapshot.
+    /// Returns null if there is no entry with this ID. The pointer is valid as long as the snapshot exists.
     const Record *find(const std::string &id) const
     {
         const auto entry = m_indexById.find(id);
@@ -45,7 +46,7 @@ public:
     bool operator!=(const Snapshot &other) const { return !(m_records == other.m_records); }
 
 private:
-    // A consumer gets an ID up to its first NUL only, and asks for the entry with that part.
+    // A consumer receives only the part of an ID before the first NUL, and requests the entry with this part.
     static void cutAtNul(std::string &text) { text.resize(std::min(text.find('\0'), text.size())); }
 
     std::vector<Record> m_records;

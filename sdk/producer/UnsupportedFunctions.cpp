@@ -1,6 +1,7 @@
-// The functions of GenTL 1.6 that discovery does not need. They are exported because some consumers refuse a
-// producer without the complete set, and all return GC_ERR_NOT_IMPLEMENTED. On our platforms a C function may
-// be called with arguments that it does not declare, so none declares any.
+// This file defines the functions of GenTL 1.6 that discovery does not need. They are exported because some
+// consumers refuse a producer that lacks any function. All of them return GC_ERR_NOT_IMPLEMENTED. On our
+// platforms, a C function may be called with arguments that it does not declare, so these functions declare
+// no arguments.
 
 #include "sdk/producer/LastError.h"
 
@@ -60,7 +61,7 @@ REFUSE(DSGetParentDev)
 REFUSE(DSGetNumBufferParts)
 REFUSE(DSGetBufferPartInfo)
 
-// Added in 1.6
+// Functions that GenTL 1.6 added
 REFUSE(DSAnnounceCompositeBuffer)
 REFUSE(DSGetBufferInfoStacked)
 REFUSE(DSGetBufferPartInfoStacked)

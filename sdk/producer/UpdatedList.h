@@ -9,15 +9,16 @@
 #include <string>
 #include <utility>
 
-/// One list of the C interface: its entries as of the last update. Any thread may call any function; a call
-/// during an update blocks until the update has ended. The functions return the error codes of GenTL and set
-/// the thread's last error.
+/// A list of interfaces or devices. It contains the entries that the last update found. Any thread may call
+/// any function; a call during an update blocks until the update has ended. A function that fails returns an
+/// error code of GenTL and sets the thread's last error.
 template <typename Record>
 class UpdatedList
 {
 public:
-    /// Replaces the entries by those that enumerate() returns, and sets `changed`, which may be null. If
-    /// enumerate() throws, the list stays unchanged and the exception reaches the caller.
+    /// Replaces the entries by the result of enumerate(). If `changed` is not null, sets it to whether the
+    /// new entries differ from the old ones. If enumerate() throws, the list stays unchanged and the
+    /// exception reaches the caller.
     template <typename Enumerate>
     GenTL::GC_ERROR update(Enumerate &&enumerate, GenTL::bool8_t *changed)
     {
@@ -30,7 +31,8 @@ public:
         return GenTL::GC_ERR_SUCCESS;
     }
 
-    /// Returns GC_ERR_INVALID_PARAMETER for null and GC_ERR_NOT_AVAILABLE before the first update.
+    /// Writes the number of entries. Returns GC_ERR_INVALID_PARAMETER if `output` is null and
+    /// GC_ERR_NOT_AVAILABLE before the first update.
     GenTL::GC_ERROR count(std::uint32_t *output) const
     {
         if (!output)
@@ -42,8 +44,9 @@ public:
         return GenTL::GC_ERR_SUCCESS;
     }
 
-    /// Returns GC_ERR_INVALID_PARAMETER for an incomplete output, GC_ERR_NOT_AVAILABLE before the first
-    /// update and GC_ERR_INVALID_INDEX past the end.
+    /// Writes the ID of an entry. Returns GC_ERR_INVALID_PARAMETER if the output is incomplete,
+    /// GC_ERR_NOT_AVAILABLE before the first update and GC_ERR_INVALID_INDEX if there is no entry with this
+    /// index.
     GenTL::GC_ERROR id(std::uint32_t index, const InfoOutput &output) const
     {
         if (!output.isComplete())
@@ -55,8 +58,9 @@ public:
         return record ? output.writeString(record->id) : failIndex(index, m_records.count());
     }
 
-    /// Returns what writeInfo(record, command, output) returns; GC_ERR_INVALID_PARAMETER for a null ID or an
-    /// incomplete output and GC_ERR_INVALID_ID for an unknown ID.
+    /// Calls writeInfo(record, command, output) for the entry with this ID and returns its result. Returns
+    /// GC_ERR_INVALID_PARAMETER if the ID is null or the output is incomplete, and GC_ERR_INVALID_ID if there
+    /// is no entry with this ID.
     template <typename WriteInfo>
     GenTL::GC_ERROR info(
         const char *id, std::int32_t command, const InfoOutput &output, WriteInfo &&writeInfo) const
@@ -68,7 +72,7 @@ public:
         return record ? writeInfo(*record, command, output) : failUnknownId(id);
     }
 
-    /// Returns a copy of the entry, or nothing for an unknown ID.
+    /// Returns a copy of the entry with this ID, or nothing if there is no such entry.
     std::optional<Record> find(const std::string &id) const
     {
         const std::lock_guard lock(m_mutex);
@@ -77,7 +81,7 @@ public:
     }
 
 private:
-    mutable std::mutex m_mutex; // Guards what follows.
+    mutable std::mutex m_mutex; // Guards the members below.
     bool m_isUpdated = false;
     Snapshot<Record> m_records;
 };

@@ -4,8 +4,9 @@
 
 namespace {
 
-constexpr std::uint32_t maxCredibleDevices = 1U << 20; // A larger number is garbage.
-constexpr std::uint32_t maxDevices = 1000; // Per interface; the library shows no more cameras in total.
+constexpr std::uint32_t maxCredibleDevices = 1U << 20; // A larger number is certainly wrong.
+// Limit per interface; the library uses no more cameras per producer.
+constexpr std::uint32_t maxDevices = 1000;
 
 } // namespace
 
@@ -18,7 +19,8 @@ bool DeviceReader::readDevices(std::vector<DeviceRecord> &devices)
     const auto count = readCount();
     if (!count)
         return false;
-    std::set<std::string> ids; // Producers list devices in any order, and some list a device twice.
+    // A sorted set, because producers report devices in any order, and some report a device twice.
+    std::set<std::string> ids;
     const bool isComplete = readIds(*count, ids);
     devices.clear();
     devices.reserve(ids.size());
@@ -80,7 +82,7 @@ std::optional<DeviceRecord> DeviceReader::readDevice(std::string id)
         if (isGone(*problem))
             return std::nullopt;
     }
-    // Many producers do not know the serial number, so its absence is not a problem.
+    // A missing serial number is not a problem, because many producers do not report one.
     m_strings.readDeviceInfo(m_interface, device.id, GenTL::DEVICE_INFO_SERIAL_NUMBER, device.serial);
     return device;
 }

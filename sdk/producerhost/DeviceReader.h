@@ -11,21 +11,22 @@
 #include <string>
 #include <vector>
 
-/// Reads the device list of one interface, as it is after an update of that list.
+/// Reads the devices of one interface after the device list of the interface was updated.
 class DeviceReader
 {
 public:
-    /// Adds the failed calls to `problems`.
+    /// The reader adds the failed calls to `problems`.
     DeviceReader(const ProducerLibrary &library, GenTL::IF_HANDLE interface, ProblemList &problems);
 
-    /// Stores the devices, sorted by ID. Returns false if some or all of them could not be read.
+    /// Reads the devices and stores them sorted by ID. Returns false if some or all devices could not be
+    /// read.
     bool readDevices(std::vector<DeviceRecord> &devices);
 
 private:
     std::optional<std::uint32_t> readCount();
     bool readIds(std::uint32_t count, std::set<std::string> &ids);
 
-    /// Returns nothing if the device has gone meanwhile.
+    /// Returns nothing if the device has disappeared in the meantime.
     std::optional<DeviceRecord> readDevice(std::string id);
 
     const ProducerLibrary &m_library;

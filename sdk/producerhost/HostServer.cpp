@@ -23,7 +23,7 @@ void HostServer::serve(const std::string &line)
     const bool isServed = message
         && (tryServe<ListCamerasRequest>(*message) || tryServe<ListInterfaceRequest>(*message)
             || tryServe<CloseProducerRequest>(*message));
-    if (!isServed) // Does not happen: library and host are installed together.
+    if (!isServed) // This does not happen, because library and host are installed together.
         m_isFinished = true;
 }
 

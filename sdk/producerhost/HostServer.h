@@ -15,18 +15,18 @@ public:
     /// Takes over the descriptor of the socket to the library.
     explicit HostServer(int socket);
 
-    /// Returns the status to exit with.
+    /// Opens the producer and serves requests. Returns the exit status of the process.
     int run(const char *producerPath);
 
 private:
-    /// Calls the handler of the request in this line. Ends the service if there is none.
+    /// Calls the handler of the request in this line. Ends the service if the line is not a valid request.
     void serve(const std::string &line);
 
-    /// Calls the handler if the message is this kind of request.
+    /// Calls the handler and returns true if the message is a `Request`.
     template <typename Request>
     bool tryServe(const Message &message);
 
-    // One handler for each request; it sends the reply.
+    // Each of these functions handles one kind of request and sends the reply.
     void handle(const ListCamerasRequest &request);
     void handle(const ListInterfaceRequest &request);
     void handle(const CloseProducerRequest &request);
@@ -36,8 +36,8 @@ private:
     void fail(const Problem &problem);
 
     LineChannel m_channel;
-    LineChannel::Status m_connection = LineChannel::Status::Line; // Result of the last read or write.
+    LineChannel::Status m_connection = LineChannel::Status::Line; // Status of the last read or write.
     LoadedProducer m_producer;
-    Message::Id m_request = Message::noRequest; // The request that is being handled.
-    bool m_isFinished = false; // No request is served any more.
+    Message::Id m_request = Message::noRequest; // ID of the request that is being handled.
+    bool m_isFinished = false; // If true, no further request is served.
 };

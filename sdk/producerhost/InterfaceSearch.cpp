@@ -11,7 +11,7 @@ using Clock = OpenInterface::Clock;
 using Interfaces = std::vector<std::unique_ptr<OpenInterface>>;
 
 constexpr std::size_t maxThreads = 8;
-constexpr auto maxSerialTime = std::chrono::milliseconds(20); // Below it, threads cost more than they gain.
+constexpr auto maxSerialTime = std::chrono::milliseconds(20); // Threads would make a shorter search slower.
 
 bool isExpectedQuick(const Interfaces &interfaces)
 {
@@ -38,7 +38,8 @@ void searchInterfaces(const Interfaces &interfaces)
             interfaces[index]->search(deadline);
         }
     };
-    // Interfaces that were quick so far are searched without threads, to save wake-ups of an idle machine.
+    // If the previous searches were quick, no threads are started, so that an idle machine wakes up less
+    // often.
     if (isExpectedQuick(interfaces))
         work(Clock::now() + maxSerialTime);
 
@@ -48,7 +49,7 @@ void searchInterfaces(const Interfaces &interfaces)
         while (threads.size() + 1 < std::min(remaining, maxThreads))
             threads.emplace_back(work, Clock::time_point::max());
     } catch (const std::system_error &) {
-        // The system allows no more threads; this one searches the remaining interfaces.
+        // The system allows no more threads. The existing threads search the remaining interfaces.
     }
     work(Clock::time_point::max());
     for (std::thread &thread : threads)

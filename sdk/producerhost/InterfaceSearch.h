@@ -5,6 +5,6 @@
 #include <memory>
 #include <vector>
 
-/// Searches all interfaces for devices; slow ones in parallel, on a limited number of threads. Blocks until
-/// all searches have ended.
+/// Searches all interfaces for devices. Slow searches run in parallel on a limited number of threads.
+/// Blocks until all searches have ended.
 void searchInterfaces(const std::vector<std::unique_ptr<OpenInterface>> &interfaces);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::uint32_t maxCredibleInterfaces = 1U << 16; // A larger number is garbage.
+constexpr std::uint32_t maxCredibleInterfaces = 1U << 16; // A larger number is certainly wrong.
 
 } // namespace
 
@@ -22,7 +22,7 @@ std::optional<Problem> LoadedProducer::open(const char *path)
 
     GenTL::TL_HANDLE system = GenTL::GENTL_INVALID_HANDLE;
     if (auto problem = m_library.call("TLOpen", m_library.TLOpen, &system))
-        return problem; // The handle is not ours then, even if the producer has written one.
+        return problem; // After a failure, a handle that the producer may have written must not be used.
     if (system == GenTL::GENTL_INVALID_HANDLE)
         return Problem{"TLOpen", 0, "returned no handle"};
     m_system = system;
@@ -32,7 +32,7 @@ std::optional<Problem> LoadedProducer::open(const char *path)
 std::optional<Problem> LoadedProducer::updateInterfaces()
 {
     m_problems.clear();
-    GenTL::bool8_t changed = 0; // Ignored: not every producer writes it.
+    GenTL::bool8_t changed = 0; // The value is ignored, because not every producer writes it.
     auto problem = m_library.call("TLUpdateInterfaceList", m_library.TLUpdateInterfaceList, m_system,
         &changed, m_timeout.until(UpdateTimeout::deadline()));
     const bool getsMoreTime = problem && isTimeout(*problem) && m_timeout.grow();
@@ -45,7 +45,7 @@ std::optional<Problem> LoadedProducer::updateInterfaces()
         problem = readInterfaceIds(ids);
     if (problem && m_interfaces.empty())
         return problem;
-    if (problem) { // The open interfaces still work.
+    if (problem) { // The update failed, but the open interfaces still work.
         m_problems.add(std::move(*problem));
         return std::nullopt;
     }
@@ -112,7 +112,7 @@ void LoadedProducer::openInterface(const std::string &id)
         = m_library.call("TLOpenInterface", m_library.TLOpenInterface, m_system, id.c_str(), &handle);
     if (!problem && handle == GenTL::GENTL_INVALID_HANDLE)
         problem = Problem{"TLOpenInterface", 0, "returned no handle"};
-    if (problem) // The next update of the interfaces tries again.
+    if (problem) // The next update of the interface list tries to open the interface again.
         m_problems.add(std::move(*problem));
     else
         m_interfaces.push_back(std::make_unique<OpenInterface>(m_library, handle, m_nextNumber++, id));

@@ -11,21 +11,23 @@
 #include <string>
 #include <vector>
 
-/// One producer from GCInitLib to GCCloseLib, with its open interfaces.
+/// Loads one producer, initialises it, manages its interfaces and closes it.
 class LoadedProducer
 {
 public:
     using Interfaces = std::vector<std::unique_ptr<OpenInterface>>;
 
-    /// Loads and opens the producer. After a failure only close() may be called.
+    /// Loads and opens the producer. Returns the problem if this fails; only close() may be called
+    /// afterwards.
     std::optional<Problem> open(const char *path);
 
-    /// Updates the list of interfaces: opens new interfaces and closes removed ones. Not meant for every
-    /// search, because it gets slower from call to call in some producers. Returns the problem if the
-    /// producer cannot list its interfaces and none is open.
+    /// Updates the list of interfaces: opens new interfaces and closes removed interfaces. Do not call this
+    /// function for every search, because some producers become slower with every call. Returns the problem
+    /// if the producer cannot enumerate its interfaces and no interface is open.
     std::optional<Problem> updateInterfaces();
 
-    /// Returns true if the interfaces have never been listed, or the last attempt ran out of time.
+    /// Returns true if the interface list was never updated, or if the last update timed out and the next
+    /// update gets more time.
     bool needsInterfaceUpdate() const { return !m_hasInterfaceList; }
 
     /// Searches all interfaces for devices.
@@ -35,10 +37,11 @@ public:
     const OpenInterface *searchInterface(std::uint64_t number);
 
     const Interfaces &interfaces() const { return m_interfaces; } ///< Sorted by ID.
-    const ProblemList &problems() const { return m_problems; } ///< Of the last update of the interfaces.
+    const ProblemList &problems() const { return m_problems; } ///< Problems of the last interface update.
 
-    /// Closes all modules, children first: some producers survive no other order. Returns the first problem,
-    /// because a module that cannot be closed makes the following calls fail as well.
+    /// Closes all interfaces, then the producer itself, because some producers crash if the order is
+    /// different. Returns only the first problem, because after a failure to close an interface the
+    /// following calls fail as well.
     std::vector<Problem> close();
 
 private:
@@ -52,7 +55,7 @@ private:
     Interfaces m_interfaces;
     ProblemList m_problems;
     std::uint64_t m_nextNumber = 1;
-    UpdateTimeout m_timeout; // For the list of interfaces.
+    UpdateTimeout m_timeout; // Timeout for updates of the interface list.
     bool m_isInitialised = false;
     bool m_hasInterfaceList = false;
 };

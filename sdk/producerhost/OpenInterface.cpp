@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int maxToleratedFailures = 1; // Keeps the devices listed through one failed search.
+constexpr int maxToleratedFailures = 1; // A single failed search does not remove the devices.
 
 } // namespace
 
@@ -17,7 +17,7 @@ OpenInterface::OpenInterface(
     : m_library(library), m_handle(handle)
 {
     m_record.number = number;
-    m_record.name = id; // Until describe() finds a better one.
+    m_record.name = id; // Used until describe() has read the name.
     m_record.id = std::move(id);
 }
 
@@ -36,7 +36,7 @@ void OpenInterface::search(Clock::time_point deadline)
 
 bool OpenInterface::updateDeviceList(Clock::time_point deadline)
 {
-    GenTL::bool8_t changed = 0; // Ignored: not every producer writes it.
+    GenTL::bool8_t changed = 0; // The value is ignored, because not every producer writes it.
     auto problem = m_library.call(
         "IFUpdateDeviceList", m_library.IFUpdateDeviceList, m_handle, &changed, m_timeout.until(deadline));
     if (!problem)
@@ -49,10 +49,11 @@ bool OpenInterface::updateDeviceList(Clock::time_point deadline)
 
 void OpenInterface::describe(GenTL::TL_HANDLE system)
 {
-    // Some producers crash in this call if the interface has no devices.
+    // Some producers crash in TLGetInterfaceInfo if the interface has no devices.
     if (!m_library.TLGetInterfaceInfo || m_record.devices.empty() || std::exchange(m_isDescribed, true))
         return;
-    // Failures are ignored: the ID replaces the name, and the devices' types replace the interface's.
+    // Failures are ignored: the ID is used if there is no name, and the interface's type is only needed for
+    // a device whose own type is unknown.
     const StringReader strings(m_library);
     std::string name;
     strings.readInterfaceInfo(system, m_record.id, GenTL::INTERFACE_INFO_DISPLAYNAME, name);

@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-/// One open interface of the producer, with the devices that its last search found.
+/// One open interface of a producer, with the devices that the last search found.
 class OpenInterface
 {
 public:
@@ -21,10 +21,12 @@ public:
         const ProducerLibrary &library, GenTL::IF_HANDLE handle, std::uint64_t number, std::string id);
 
     /// Searches for devices and stores the problems of this search. Keeps the previous devices if a single
-    /// search fails. For one thread at a time: producers do not survive two updates of one interface at once.
+    /// search fails. Only one thread at a time may call this function, because producers crash if one
+    /// interface is updated twice at the same time.
     void search(Clock::time_point deadline);
 
-    /// Reads the interface's name and type, once, as soon as it has devices.
+    /// Reads the interface's name and type at the first call after devices were found; later calls do
+    /// nothing.
     void describe(GenTL::TL_HANDLE system);
 
     std::optional<Problem> close();
@@ -32,7 +34,7 @@ public:
     const InterfaceRecord &record() const { return m_record; }
     const ProblemList &problems() const { return m_problems; }
 
-    /// Returns how long the last search took; nothing if there was none.
+    /// Returns the duration of the last search, or nothing if there was no search.
     std::optional<Clock::duration> searchTime() const { return m_searchTime; }
 
 private:
@@ -44,6 +46,6 @@ private:
     ProblemList m_problems;
     UpdateTimeout m_timeout;
     std::optional<Clock::duration> m_searchTime;
-    int m_failedSearches = 0; // Since the last complete one.
+    int m_failedSearches = 0; // Number of failures since the last complete search.
     bool m_isDescribed = false;
 };

@@ -7,12 +7,13 @@
 
 bool dieWithParent(int socket)
 {
-    // The order matters: a parent that ended before prctl() sends no signal. The socket still knows its
-    // process ID, which then differs from getppid().
+    // The order of the calls matters. If the parent ended before prctl(), the kernel sends no signal. In
+    // this case, the process ID that the socket has stored differs from getppid().
     ucred parent{};
     socklen_t size = sizeof(parent);
     if (prctl(PR_SET_PDEATHSIG, SIGKILL) != 0
         || getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &parent, &size) != 0)
         return false;
-    return parent.pid == 0 || parent.pid == getppid(); // 0: the parent is in another PID namespace.
+    // The ID is 0 if the parent is in another PID namespace.
+    return parent.pid == 0 || parent.pid == getppid();
 }

@@ -1,5 +1,5 @@
 #pragma once
 
 /// Makes the kernel kill this process when the process at the other end of the socket ends, even while a
-/// producer hangs. Returns false if that process has ended already.
+/// producer hangs. Returns false if the other process has already ended or a system call fails.
 bool dieWithParent(int socket);

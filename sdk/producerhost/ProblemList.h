@@ -4,8 +4,8 @@
 
 #include <vector>
 
-/// The problems of one search. Holds one problem per call and error code, because a thousand devices may fail
-/// in the same way.
+/// The problems of one search. The list contains only one problem for each function and error code, because
+/// a thousand devices may fail in the same way.
 class ProblemList
 {
 public:

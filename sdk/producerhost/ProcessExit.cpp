@@ -9,7 +9,7 @@ extern "C" void __gcov_dump(void);
 
 void exitWithoutDestructors(int status)
 {
-    std::fflush(stdout); // Output of the producer.
+    std::fflush(stdout); // The producer may have printed text.
 #if defined(CORVIX_COVERAGE)
     __gcov_dump();
 #endif

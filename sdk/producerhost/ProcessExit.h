@@ -1,5 +1,5 @@
 #pragma once
 
-/// Ends the process without running destructors of static objects. The producer is closed already, and the
-/// destructors of its static objects can only crash or hang.
+/// Ends the process without running the destructors of static objects, because the destructors of a
+/// producer's static objects may crash or hang.
 [[noreturn]] void exitWithoutDestructors(int status);

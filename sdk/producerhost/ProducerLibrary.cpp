@@ -17,7 +17,7 @@ bool resolve(void *library, const char *name, Function &function)
     return function != nullptr;
 }
 
-using ElfIdentity = std::array<char, 20>; // The ELF header from the magic number to the machine.
+using ElfIdentity = std::array<char, 20>; // The start of the ELF header, up to the machine field.
 
 ElfIdentity elfIdentity(const char *path)
 {
@@ -26,7 +26,8 @@ ElfIdentity elfIdentity(const char *path)
     return identity;
 }
 
-/// The loader's own message in this case is misleading: it reports that the file does not exist.
+/// Returns true if the file is an ELF file for another processor architecture. In this case, the text of
+/// dlerror() is misleading: it says that the file does not exist.
 bool isForAnotherMachine(const char *path)
 {
     const auto identity = elfIdentity(path), own = elfIdentity("/proc/self/exe");
@@ -41,8 +42,9 @@ bool isForAnotherMachine(const char *path)
 
 std::optional<Problem> ProducerLibrary::load(const char *path)
 {
-    // RTLD_LOCAL because all producers export the same names. An exception in a constructor does not pass
-    // through dlopen(); the handler for uncaught exceptions reports it.
+    // RTLD_LOCAL is needed because all producers export the same function names. If a constructor of the
+    // producer throws an exception, dlopen() does not return; the handler for uncaught exceptions reports
+    // the exception.
     if (void *const library = dlopen(path, RTLD_NOW | RTLD_LOCAL))
         return resolveFunctions(library);
     const std::string error = dlerror();
@@ -83,7 +85,7 @@ std::string ProducerLibrary::lastErrorText() const
 {
     if (!GCGetLastError)
         return {};
-    std::array<char, 1024> text{}; // The producer refuses longer texts; they are left out.
+    std::array<char, 1024> text{}; // If the text is longer, the call fails and the text is ignored.
     std::size_t size = text.size() - 1;
     GenTL::GC_ERROR code = 0;
     try {

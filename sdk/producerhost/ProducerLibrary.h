@@ -9,30 +9,32 @@
 #include <optional>
 #include <string>
 
-/// Returns true if the call was given too little time.
+/// Returns true if the call timed out.
 inline bool isTimeout(const Problem &problem)
 {
     return problem.code == GenTL::GC_ERR_TIMEOUT;
 }
 
-/// Returns true if the call was about an interface or device that has gone since it was listed.
+/// Returns true if the call failed because the interface or the device no longer exists.
 inline bool isGone(const Problem &problem)
 {
     return problem.code == GenTL::GC_ERR_INVALID_ID || problem.code == GenTL::GC_ERR_INVALID_INDEX;
 }
 
-/// The functions of one loaded GenTL producer. call() turns every failure, also an exception, into a Problem.
-/// The library is never unloaded, because some producers do not survive it.
+/// The functions of one loaded GenTL producer. call() converts every failure, including an exception, to a
+/// Problem. The library is never unloaded, because some producers crash when they are unloaded.
 class ProducerLibrary
 {
 public:
-    /// Initial value for a count that the producer has to write: no producer returns it.
+    /// Initial value of a count that the producer has to write. No producer returns this value.
     static constexpr std::uint32_t unwrittenCount = std::numeric_limits<std::uint32_t>::max();
 
-    /// Loads the file and looks up its functions. Fails if a function is missing that enumeration needs.
+    /// Loads the file and looks up its functions. Returns a problem if the file cannot be loaded or lacks a
+    /// function that is needed for enumeration.
     std::optional<Problem> load(const char *path);
 
-    /// Calls a function. Every return value except 0 is a failure, positive values too.
+    /// Calls a function of the producer and returns the problem if the call fails. Every return value
+    /// except 0 is a failure, including positive values.
     template <typename Function, typename... Arguments>
     std::optional<Problem> call(const char *name, Function function, Arguments... arguments) const
     {
@@ -63,7 +65,7 @@ public:
     GenTL::PIFGetDeviceID IFGetDeviceID = nullptr;
     GenTL::PIFGetDeviceInfo IFGetDeviceInfo = nullptr;
 
-    // Optional functions; null if the producer lacks them.
+    // These functions are optional; the pointer is null if the producer lacks the function.
     GenTL::PTLGetInterfaceInfo TLGetInterfaceInfo = nullptr;
     GenTL::PGCGetLastError GCGetLastError = nullptr;
 

@@ -5,15 +5,16 @@
 
 namespace {
 
-// Bytes, without the closing NUL. No real ID or name is nearly as long, and a thousand cameras with longer
-// ones would delay every list.
+// Size limit in bytes. No real ID or name is nearly as long, and a thousand cameras with longer strings
+// would delay every reply.
 constexpr std::size_t maxStringSize = 1U << 10;
-constexpr std::size_t spareBytes = 256; // For producers that write past the size they reported.
-constexpr int maxAttempts = 4; // The string may grow between the two calls.
+constexpr std::size_t spareBytes = 256; // Some producers write more bytes than they reported.
+constexpr int maxAttempts = 4; // The string may grow between the two calls of an attempt.
 
 bool isTooSmall(const Problem &problem)
 {
-    // GenTL has a code of its own for this since version 1.4.
+    // GenTL has a specific error code for this case since version 1.4. Older producers return
+    // GC_ERR_INVALID_PARAMETER.
     return problem.code == GenTL::GC_ERR_BUFFER_TOO_SMALL || problem.code == GenTL::GC_ERR_INVALID_PARAMETER;
 }
 
@@ -31,7 +32,7 @@ std::optional<Problem> StringReader::read(const char *call, const Query &query, 
     std::optional<Problem> problem;
     for (int attempt = 0; attempt < maxAttempts; ++attempt) {
         std::size_t size = 0;
-        GenTL::INFO_DATATYPE type = GenTL::INFO_DATATYPE_STRING; // Some producers never write it.
+        GenTL::INFO_DATATYPE type = GenTL::INFO_DATATYPE_STRING; // Some producers never write the type.
         problem = m_library.call(call, query, static_cast<char *>(nullptr), &size, &type);
         if (problem)
             return problem;

@@ -6,8 +6,9 @@
 #include <optional>
 #include <string>
 
-/// Reads strings from a producer. GenTL takes two calls for a string: the first returns its size, the second
-/// its bytes. Each function returns the problem if the string cannot be read; the output is unchanged then.
+/// Reads strings from a producer. GenTL needs two calls for a string: the first call returns the size, and
+/// the second call returns the bytes. If the string cannot be read, each function returns the problem and
+/// does not change the output.
 class StringReader
 {
 public:

@@ -18,7 +18,7 @@ int replySocket = -1;
 std::string describeException()
 {
     const auto exception = std::current_exception();
-    if (!exception) // For example, a running std::thread was destroyed.
+    if (!exception) // One possible cause is the destruction of a running std::thread.
         return "called std::terminate";
     const std::string text = "threw an uncaught exception";
     try {
@@ -38,7 +38,8 @@ std::string describeException()
 
 [[noreturn]] void reportAndExit()
 {
-    // Threads that fail at the same time must not end the process before the first one has sent its report.
+    // If several threads fail at the same time, none of them may end the process before the first thread
+    // has sent its report.
     if (std::set_terminate(waitForExit) == waitForExit)
         waitForExit();
     LineChannel channel(replySocket);

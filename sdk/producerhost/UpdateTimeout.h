@@ -3,8 +3,8 @@
 #include <chrono>
 #include <cstdint>
 
-/// Timeout for the update calls of one interface, or of the interface list. A call that runs out of time
-/// gets more time in the next search; repeating it at once would delay the whole reply.
+/// Timeout for the calls that update one device list or the interface list. A call that times out gets more
+/// time in the next search. Repeating the call at once would delay the whole reply.
 class UpdateTimeout
 {
 public:
@@ -14,16 +14,18 @@ public:
     /// deadline still get the shortest timeout.
     static Clock::time_point deadline();
 
-    /// Returns the timeout in milliseconds for a call that starts now.
+    /// Returns the timeout in milliseconds for a call that starts now and should end before the deadline.
     std::uint64_t until(Clock::time_point deadline) const;
 
-    /// Doubles the timeout. Returns false if it was the longest already; it then becomes the shortest again,
-    /// so that an interface that never answers does not delay every search.
+    /// Doubles the timeout and returns true. If the timeout was already the longest, makes it the shortest
+    /// again and returns false, so that an interface that never answers does not delay every search.
     bool grow();
 
 private:
     std::uint64_t m_milliseconds = minTimeout;
 
-    static constexpr std::uint64_t minTimeout = 500; // Some producers return at once if it is infinite.
-    static constexpr std::uint64_t maxTimeout = 4000; // Twice this is less than the library waits for a host.
+    // Milliseconds. Some producers return at once if the timeout is infinite.
+    static constexpr std::uint64_t minTimeout = 500;
+    // Milliseconds. Twice this value is less than the reply timeout of the library.
+    static constexpr std::uint64_t maxTimeout = 4000;
 };

@@ -17,10 +17,10 @@ namespace {
 constexpr int usageErrorStatus = 64;
 
 /// Limits the address space, so that a producer that allocates without end does not exhaust the machine's
-/// memory. The limit also stops a producer that only reserves memory.
+/// memory. The limit also applies to memory that a producer reserves but does not use.
 void limitMemory()
 {
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // Sanitizers map terabytes.
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // Sanitizers reserve terabytes.
     rlimit limit{};
     constexpr rlim_t maxBytes = rlim_t(8) << 30;
     if (getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur > maxBytes) {
@@ -30,15 +30,17 @@ void limitMemory()
 #endif
 }
 
-/// Makes all threads share one heap. The threads that search interfaces are short-lived, and a heap for each
-/// fragments: after 10,000 camera changes a host of 500 KiB grows by 370 KiB instead of 90 KiB.
+/// Makes all threads share one heap. The threads that search interfaces are short-lived, and separate heaps
+/// would become fragmented: after 10,000 camera changes, a host of 500 KiB would grow by 370 KiB instead of
+/// 90 KiB.
 void shareOneHeap()
 {
     mallopt(M_ARENA_MAX, 1);
 }
 
-/// Opens the standard descriptors if the program was started without them. Otherwise a file of the producer
-/// would get such a number, and printed text would end up in it.
+/// Opens the standard descriptors if the program was started without them. Otherwise a file that the
+/// producer opens could get one of these numbers, and text that the producer prints would be written to
+/// this file.
 void openStandardDescriptors()
 {
     int descriptor = 0;
@@ -48,16 +50,19 @@ void openStandardDescriptors()
 
 void ignoreSignals()
 {
-    std::signal(SIGPIPE, SIG_IGN); // Producers print, and nobody may read it any more.
-    // On a terminal the host is in the background. One that is stopped would seem to hang.
+    std::signal(SIGPIPE, SIG_IGN); // The reader of the text that a producer prints may have exited.
+    // On a terminal, the host is a background process, which the kernel stops when it uses the terminal. A
+    // stopped host would look like a hanging one.
     std::signal(SIGTTOU, SIG_IGN);
     std::signal(SIGTTIN, SIG_IGN);
 }
 
 void cleanEnvironment()
 {
-    unsetenv("GENICAM_GENTL64_PATH"); // A producer could load the producers that it finds through it.
-    unsetenv("G_DEBUG"); // With it GLib, which many producers use, ends the process at a mere warning.
+    // Otherwise a producer could load other producers from these directories.
+    unsetenv("GENICAM_GENTL64_PATH");
+    // This variable can make GLib, which many producers use, end the process at a mere warning.
+    unsetenv("G_DEBUG");
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-/// One device as its producer describes it. Every string but the ID may be empty. The strings are raw bytes
-/// in the host and valid UTF-8 in the library: sending a message replaces malformed bytes by U+FFFD.
+/// One device as its producer reports it. Every string except the ID may be empty. The strings are raw
+/// bytes in the host and valid UTF-8 in the library: sending a message replaces malformed bytes by U+FFFD.
 struct DeviceRecord
 {
     std::string id;
@@ -17,14 +17,14 @@ struct DeviceRecord
     std::string type; ///< GenTL transport layer type, for example "GEV".
 };
 
-/// One interface of a producer with the devices on it.
+/// One interface of a producer, with its devices.
 struct InterfaceRecord
 {
-    std::uint64_t number = 0; ///< The host's number for it; never reused while the host runs.
+    std::uint64_t number = 0; ///< Number that identifies the interface; a host never reuses a number.
     std::string id;
     std::string name;
-    std::string type; ///< GenTL transport layer type.
-    std::vector<DeviceRecord> devices; ///< Sorted.
+    std::string type; ///< GenTL transport layer type, for example "GEV".
+    std::vector<DeviceRecord> devices; ///< Sorted by operator<.
 };
 
 bool operator==(const DeviceRecord &a, const DeviceRecord &b);

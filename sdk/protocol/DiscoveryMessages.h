@@ -7,19 +7,20 @@
 #include <nlohmann/json_fwd.hpp>
 #include <vector>
 
-// The messages between the library and a producer host. A new message is a struct with a `kind` and its
-// conversions, here, plus one handler on each side.
+// This file defines the messages between the library and a producer host. To add a message, define a struct
+// with a `kind` and its JSON conversions in this file, and write one handler on each side.
 
-/// Searches all interfaces. Answered by CameraListReply.
+/// Asks the host to search all interfaces. The host replies with a CameraListReply.
 struct ListCamerasRequest
 {
     static constexpr const char *kind = "listCameras";
-    bool updatesInterfaces = false; ///< Also asks the producer for new and removed interfaces.
+    bool updatesInterfaces = false; ///< If true, the host first updates the list of interfaces.
 };
 void to_json(nlohmann::json &json, const ListCamerasRequest &value);
 void from_json(const nlohmann::json &json, ListCamerasRequest &value);
 
-/// Searches one interface. Answered by a CameraListReply with that interface, or without any if it is gone.
+/// Asks the host to search one interface. The host replies with a CameraListReply that contains only this
+/// interface, or no interface if it no longer exists.
 struct ListInterfaceRequest
 {
     static constexpr const char *kind = "listInterface";
@@ -28,7 +29,7 @@ struct ListInterfaceRequest
 void to_json(nlohmann::json &json, const ListInterfaceRequest &value);
 void from_json(const nlohmann::json &json, ListInterfaceRequest &value);
 
-/// Closes the producer and ends the host. Answered by ProducerClosedReply.
+/// Asks the host to close the producer and to exit. The host replies with a ProducerClosedReply.
 struct CloseProducerRequest
 {
     static constexpr const char *kind = "closeProducer";
@@ -36,7 +37,7 @@ struct CloseProducerRequest
 void to_json(nlohmann::json &json, const CloseProducerRequest &value);
 void from_json(const nlohmann::json &json, CloseProducerRequest &value);
 
-/// The interfaces with their devices, sorted by ID, and every call that failed during the search.
+/// Contains the interfaces, sorted by ID, with their devices, and the calls that failed during the search.
 struct CameraListReply
 {
     static constexpr const char *kind = "cameraList";
@@ -46,8 +47,8 @@ struct CameraListReply
 void to_json(nlohmann::json &json, const CameraListReply &value);
 void from_json(const nlohmann::json &json, CameraListReply &value);
 
-/// The producer cannot be used; the host exits after this message. A failure in a thread of the producer is
-/// sent without a request; so is a failure to load or open the producer.
+/// Reports that the producer cannot be used; the host exits after this message. The host sends this message
+/// without a request if the producer cannot be loaded or opened, or if a thread of the producer fails.
 struct ProducerFailedReply
 {
     static constexpr const char *kind = "producerFailed";
@@ -56,7 +57,7 @@ struct ProducerFailedReply
 void to_json(nlohmann::json &json, const ProducerFailedReply &value);
 void from_json(const nlohmann::json &json, ProducerFailedReply &value);
 
-/// The producer is closed; the host exits after this message.
+/// Reports that the producer is closed; the host exits after this message.
 struct ProducerClosedReply
 {
     static constexpr const char *kind = "producerClosed";

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Descriptor at which a host process finds its end of the socket to the library.
+/// Number of the descriptor that is the host's end of the socket to the library.
 constexpr int hostSocketDescriptor = 3;
 
-/// Exit status of a host whose connection was closed by its own producer instead of by the library.
-/// The value is not used by sysexits.h.
+/// Exit status of a host if its own producer, and not the library, closed the connection. The header
+/// sysexits.h does not use this value.
 constexpr int connectionLostStatus = 113;

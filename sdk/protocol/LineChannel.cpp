@@ -51,7 +51,7 @@ LineChannel::Status LineChannel::readLine(std::string &line, bool waits)
             line.assign(m_pending, 0, end);
             m_pending.erase(0, end + 1);
             if (m_pending.empty())
-                m_pending.shrink_to_fit(); // An idle connection holds no buffer.
+                m_pending.shrink_to_fit(); // This frees the memory of an idle connection.
             m_searched = 0;
             return Status::Line;
         }

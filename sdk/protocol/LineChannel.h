@@ -3,12 +3,12 @@
 #include <cstddef>
 #include <string>
 
-/// One end of the stream socket between library and host. Splits what arrives into lines and limits their
-/// length. Owns the descriptor. For one thread.
+/// One end of the stream socket between the library and a host. Splits the received bytes into lines and
+/// limits the length of a line. Owns the descriptor. Use each object on one thread only.
 class LineChannel
 {
 public:
-    /// Longest line that is accepted, in bytes. A list of 1,000 cameras takes about 200 KiB.
+    /// Default for the maximum length of a line in bytes. A reply with 1,000 cameras takes about 200 KiB.
     static constexpr std::size_t defaultMaxLength = std::size_t(16) << 20;
 
     enum class Status
@@ -16,36 +16,38 @@ public:
         Line, ///< A whole line was read.
         Pending, ///< The rest of the line has not arrived yet.
         Closed, ///< The other end has closed the connection, or this end is closed.
-        Lost, ///< The descriptor is not a socket any more: other code in this process closed it.
+        Lost, ///< The descriptor is no longer a socket, because other code in this process closed it.
         TooLong ///< The line exceeds the limit.
     };
 
-    /// Takes the descriptor over; a negative one makes a closed channel.
+    /// Takes over the descriptor. If the descriptor is negative, the channel is closed.
     explicit LineChannel(int descriptor = -1, std::size_t maxLength = defaultMaxLength);
     ~LineChannel();
     LineChannel(LineChannel &&other) noexcept;
     LineChannel &operator=(LineChannel &&other) noexcept;
 
-    /// Returns the descriptor to poll for reading; -1 if the channel is closed.
+    /// Returns the descriptor to poll for reading, or -1 if the channel is closed.
     int descriptor() const { return m_descriptor; }
 
-    /// Reads up to the end of the next line, without blocking. Stores the line without its line feed.
+    /// Reads the next line without blocking and stores it without its line feed.
     Status tryReadLine(std::string &line) { return readLine(line, false); }
 
-    /// Blocks until the next line is complete or the connection ends.
+    /// Blocks until the next line is complete or the connection ends. Stores the line without its line
+    /// feed.
     Status waitForLine(std::string &line) { return readLine(line, true); }
 
-    /// Returns true if bytes have arrived after the last line that was read.
+    /// Returns true if bytes were received after the last line that was read.
     bool hasMore() const { return !m_pending.empty(); }
 
-    /// Sends all of the text; blocks until the socket has taken it. Returns Line, Closed or Lost.
+    /// Sends the whole text and blocks until the socket has accepted it. Returns Line on success, otherwise
+    /// Closed or Lost.
     Status send(const std::string &text);
 
-    /// Sends a text that fits into the socket's buffer, without blocking. A failure shows as the end of the
-    /// replies.
+    /// Sends the text without blocking. The text must fit into the socket's buffer. A failure is not
+    /// reported, because a later read detects that the connection has ended.
     void trySend(const std::string &text);
 
-    /// Closes the descriptor and drops what was received.
+    /// Closes the descriptor and discards the received bytes.
     void close();
 
 private:
@@ -53,6 +55,6 @@ private:
 
     int m_descriptor;
     std::size_t m_maxLength;
-    std::string m_pending; // Received, but not returned yet.
+    std::string m_pending; // Bytes that were received but not yet returned.
     std::size_t m_searched = 0; // m_pending has no line feed before this position.
 };

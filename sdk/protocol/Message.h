@@ -8,18 +8,18 @@
 #include <string>
 #include <string_view>
 
-/// One message between library and host. On the wire it is a line of JSON: {"body": {…}, "id": 7, "kind":
-/// "listCameras"}. A content type has a static member `kind` and the nlohmann conversions to_json() and
-/// from_json().
+/// One message between the library and a host. A message is sent as one line of JSON, for example {"body":
+/// {…}, "id": 7, "kind": "listCameras"}. A content type has a static member `kind` and the nlohmann
+/// conversions to_json() and from_json().
 class Message
 {
 public:
     using Id = std::uint32_t;
 
-    /// ID of a message that answers no request.
+    /// ID of a message that is not a reply to a request.
     static constexpr Id noRequest = 0;
 
-    /// A reply has the ID of the request that it answers.
+    /// Makes a message with this content. A reply has the ID of its request.
     template <typename Content>
     Message(Id id, const Content &content) : Message(id, std::string(Content::kind))
     {
@@ -34,7 +34,7 @@ public:
 
     Id id() const { return m_id; }
 
-    /// Returns the content; nothing if the message is of another kind or its body is malformed.
+    /// Returns the content, or nothing if the message is of another kind or its body is malformed.
     template <typename Content>
     std::optional<Content> content() const
     {

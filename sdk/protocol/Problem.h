@@ -4,12 +4,12 @@
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 
-/// One failed call into a producer.
+/// One failed call of a producer's function.
 struct Problem
 {
-    std::string call; ///< The function, for example "TLOpen".
+    std::string call; ///< Name of the function, for example "TLOpen".
     std::int32_t code = 0; ///< The GenTL error code; 0 if the failure has no code.
-    std::string text; ///< The producer's error text or ours; may be empty.
+    std::string text; ///< Error text of the producer or of the host; may be empty.
 };
 
 void to_json(nlohmann::json &json, const Problem &value);

@@ -22,8 +22,9 @@ ConfigurationFile::ConfigurationFile(std::filesystem::path path)
 std::shared_ptr<const SimulatorConfiguration> ConfigurationFile::current()
 {
     const std::lock_guard lock(m_mutex);
-    // The time stamp is taken before the file is opened: a change in between causes one more reading.
-    std::error_code ignored; // A file that cannot be opened has no time stamp.
+    // The time stamp is read before the file is opened, so if the file changes between these two steps, the
+    // next call reads the file again.
+    std::error_code ignored; // Ignored because opening the file below reports the error.
     State state{};
     state.modified = std::filesystem::last_write_time(m_path, ignored);
     state.size = std::filesystem::file_size(m_path, ignored);
@@ -53,6 +54,6 @@ void ConfigurationFile::read(std::istream &stream)
 
 void ConfigurationFile::reportProblem(const char *problem) const
 {
-    constexpr int maxLength = 500; // Bytes. The JSON parser quotes the text that it has read, however long.
+    constexpr int maxLength = 500; // In bytes. The JSON parser quotes all the text that it has read.
     std::fprintf(stderr, "Camera simulator: %s is not used: %.*s\n", m_path.c_str(), maxLength, problem);
 }

@@ -9,23 +9,24 @@
 #include <mutex>
 #include <optional>
 
-/// The simulator's configuration file. It is read again when its time stamp or size changes.
-/// While there is no file, the default configuration holds. While the file has a mistake, the last good
-/// configuration holds (the default one if there was none), and one line on standard error names the place.
+/// The simulator's configuration file. The file is read again when its time stamp or size has changed.
+/// If there is no file, the default configuration is used. If the file is invalid or cannot be read, the last
+/// valid configuration is used (the default configuration if there was none), and one line on standard error
+/// reports the problem.
 class ConfigurationFile
 {
 public:
     explicit ConfigurationFile(std::filesystem::path path);
 
-    /// Returns the configuration that holds now; never null. Any thread may call it. Blocks while the file is
-    /// read.
+    /// Returns the configuration to use now; never null. Any thread may call current(). Blocks while the file
+    /// is read.
     std::shared_ptr<const SimulatorConfiguration> current();
 
 private:
-    /// Two equal states mean that the file needs no reading.
+    /// The observed state of the file. If the state has not changed, the file is not read again.
     struct State
     {
-        int openError; ///< The errno of opening the file; 0 if it is open.
+        int openError; ///< The value of errno after opening the file failed; 0 if the file was opened.
         std::filesystem::file_time_type modified;
         std::uintmax_t size;
 
@@ -37,7 +38,7 @@ private:
 
     const std::filesystem::path m_path;
 
-    std::mutex m_mutex; // Guards what follows.
-    std::optional<State> m_state; // The state at the last reading; empty before the first.
+    std::mutex m_mutex; // Guards the members below.
+    std::optional<State> m_state; // The state at the last call of current(); empty before the first call.
     std::shared_ptr<const SimulatorConfiguration> m_lastGood;
 };

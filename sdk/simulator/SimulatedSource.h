@@ -3,7 +3,8 @@
 #include "sdk/producer/DeviceSource.h"
 #include "sdk/simulator/ConfigurationFile.h"
 
-/// The interfaces and devices of the configuration file, which every update reads again if it has changed.
+/// Reports the interfaces and devices of the configuration file. Every update reads the file again if the
+/// file has changed.
 class SimulatedSource final : public DeviceSource
 {
 public:

@@ -8,7 +8,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-/// Returns the string under a key; an empty one if the key is absent.
+/// Returns the string under a key, or an empty string if the key is absent.
 std::string optionalString(const Json &object, const char *key, const std::string &place)
 {
     const auto value = object.find(key);
@@ -17,7 +17,7 @@ std::string optionalString(const Json &object, const char *key, const std::strin
     if (!value->is_string())
         throw std::runtime_error(place + ": \"" + key + "\" is not a string");
     std::string text = value->get<std::string>();
-    if (text.find('\0') != std::string::npos) // The string would end there for every consumer.
+    if (text.find('\0') != std::string::npos) // Consumers read only the part before a NUL.
         throw std::runtime_error(place + ": \"" + key + "\" contains a NUL character");
     return text;
 }
@@ -64,8 +64,8 @@ DeviceRecord parseDevice(const Json &object, const std::string &interfaceTlType,
     return device;
 }
 
-/// Calls parseElement(element, place) for each element of the array under a key. It returns the element's ID,
-/// which must be unique in the array.
+/// Calls parseElement(element, place) for each element of the array under a key. parseElement()
+/// returns the element's ID, which must be unique in the array.
 template <typename ParseElement>
 void forEachElement(const Json &object, const char *key, const std::string &prefix, ParseElement parseElement)
 {
@@ -85,7 +85,7 @@ Json parseDocument(const std::string &text)
 {
     try {
         return Json::parse(text);
-    } catch (const Json::exception &error) { // Not only parse errors: a number can be out of range.
+    } catch (const Json::exception &error) { // A number out of range is not a parse_error.
         throw std::runtime_error(error.what());
     }
 }

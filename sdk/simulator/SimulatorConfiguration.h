@@ -24,23 +24,23 @@ SimulatorConfiguration defaultConfiguration();
 ///         "interfaces": [                      required, may be empty
 ///             {
 ///                 "id": "gev-0",               required, unique in the file
-///                 "name": "Network card 0",    the display name; the ID if absent or empty
+///                 "name": "Network interface 0", the display name; the ID if absent or empty
 ///                 "tlType": "GEV",             GenTL transport layer type; "Custom" if absent or empty
 ///                 "devices": [                 none if absent
 ///                     {
 ///                         "id": "00:11:22",    required, unique in the interface
-///                         "vendor": "…",       these five may each be absent or empty
+///                         "vendor": "…",       this and the next four may be absent or empty
 ///                         "model": "…",
 ///                         "serial": "…",
 ///                         "userName": "…",
-///                         "displayName": "…",  if empty: the user name; else vendor, model and ID joined
-///                         "tlType": "…"        that of the interface if absent or empty
+///                         "displayName": "…",  if empty: user name, else vendor, model and ID
+///                         "tlType": "…"        the interface's tlType if absent or empty
 ///                     }
 ///                 ]
 ///             }
 ///         ]
 ///     }
 ///
-/// All values are strings, serial numbers too. Other keys are ignored. Throws std::runtime_error, whose
-/// message names the faulty place, for any other text. Any thread may call it.
+/// All values are strings, even serial numbers. Other keys are ignored. Throws std::runtime_error if the text
+/// is invalid; the message names the place of the error. Any thread may call this function.
 SimulatorConfiguration parseConfiguration(const std::string &text);

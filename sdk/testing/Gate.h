@@ -6,11 +6,12 @@
 
 namespace CvxScripted {
 
-/// Holds SDK calls back until a test lets them continue, so that a slow SDK needs no sleep.
+/// Blocks SDK calls until the test opens the gate. A test uses a gate to simulate a slow SDK without
+/// sleeping.
 class Gate
 {
 public:
-    /// Opens the gate and waits until every held call has left it, so that a test may return early.
+    /// Opens the gate and waits until every blocked call has continued, so that a test may return early.
     ~Gate()
     {
         open();
@@ -18,7 +19,7 @@ public:
         m_changed.wait(lock, [this] { return m_inside == 0; });
     }
 
-    /// Blocks the caller until the gate is open, but at most for `bound`, so that a failed test ends.
+    /// Blocks the caller until the gate is open, but not longer than `bound`, so that a failed test ends.
     void pass(std::chrono::milliseconds bound = std::chrono::seconds(30))
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -30,14 +31,15 @@ public:
         m_changed.notify_all();
     }
 
-    /// Returns true once a caller has reached the gate, or false after `bound`.
+    /// Blocks until pass() has been called for the first time. Returns false if that takes longer than
+    /// `bound`.
     bool waitForArrival(std::chrono::milliseconds bound = std::chrono::seconds(10))
     {
         std::unique_lock<std::mutex> lock(m_mutex);
         return m_changed.wait_for(lock, bound, [this] { return m_hasArrival; });
     }
 
-    /// Lets all present and future callers pass.
+    /// Ends the blocking of all present and future callers.
     void open()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);

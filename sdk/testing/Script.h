@@ -11,11 +11,12 @@
 #include <thread>
 #include <vector>
 
-/// The answers of the scripted SDK: plain records that a test fills in. By default every call succeeds and no
+/// The records in which a test defines what the scripted SDK returns. By default, every call succeeds and no
 /// camera is connected.
 namespace CvxScripted {
 
-/// A string that is read in two calls.
+/// A string that the caller reads in two calls: the first call returns the length, the second call the
+/// string.
 struct StringField
 {
     StringField() = default;
@@ -23,10 +24,10 @@ struct StringField
     StringField(std::string text) : value(std::move(text)) { }
 
     std::string value; ///< May contain NULs.
-    bool countsNul = true; ///< The length includes a terminating NUL, which is also written.
+    bool countsNul = true; ///< If true, the terminating NUL is counted and written too.
 };
 
-/// What an interface reports while one value of "DeviceSelector" is set.
+/// The values that an interface reports for one value of "DeviceSelector".
 struct DeviceRecord
 {
     StringField id;
@@ -36,14 +37,13 @@ struct DeviceRecord
 /// One transport-layer interface. Cameras that share the record share the interface.
 struct InterfaceRecord
 {
-    std::map<long, DeviceRecord> devices; ///< By selector value.
-    std::optional<long> min; ///< Reported instead of the smallest selector value.
-    std::optional<long> max; ///< Reported instead of the largest selector value.
+    std::map<long, DeviceRecord> devices; ///< The devices by their value of "DeviceSelector".
+    std::optional<long> min; ///< If set, reported instead of the smallest selector value.
+    std::optional<long> max; ///< If set, reported instead of the largest selector value.
     std::set<std::string> features{"DeviceUpdateList", "DeviceSelector", "DeviceID", "DeviceVendorName"};
     long selected = 0; ///< The current value of "DeviceSelector".
 };
 
-/// One camera.
 struct CameraRecord
 {
     StringField id;
@@ -56,7 +56,7 @@ struct CameraRecord
     bool nullHandle = false; ///< GetCameras() writes a null pointer for this camera.
 };
 
-/// The functions of the SDK.
+/// The SDK functions whose calls are recorded.
 enum class Function
 {
     Startup,
@@ -79,31 +79,33 @@ enum class Function
     GetValue
 };
 
-/// One call that reached the SDK.
+/// One recorded call of an SDK function.
 struct Call
 {
     Function function;
-    std::string subject{}; ///< Name of the feature, or ID of the camera.
-    bool asksLength = false; ///< String getters: the buffer was null.
-    long value = 0; ///< Argument of SetValue.
+    std::string subject{}; ///< The name of the feature or the ID of the camera; empty for other calls.
+    bool asksLength = false; ///< True if the call reads a string and its buffer is null.
+    long value = 0; ///< The argument of SetValue().
     std::thread::id thread{};
 };
 
-/// All answers of the SDK.
+/// Everything that the scripted SDK returns.
 struct Script
 {
     std::vector<CameraRecord> cameras;
-    std::map<Function, CvxCPP::CvxError> errors; ///< Functions that fail on every object.
-    std::optional<unsigned> countedCameras; ///< Reported by CountCameras instead of the true count.
-    std::optional<unsigned> filledCameras; ///< Upper limit of the handles written; also the count reported.
+    std::map<Function, CvxCPP::CvxError> errors; ///< The functions that fail on every object.
+    std::optional<unsigned> countedCameras; ///< If set, CountCameras reports this instead of the true count.
+    /// If set, FillCameras writes at most this many handles and reports this number as the count.
+    std::optional<unsigned> filledCameras;
 
-    /// Called before every call is answered, on the calling thread and with no lock held. It may block,
-    /// throw, or return the error to answer with. If it returns 0, the records answer the call.
+    /// If set, every SDK call first calls this function, on the calling thread and without holding a lock.
+    /// The function may block, throw, or return the error that the SDK call has to return. If the function
+    /// returns 0, the other members of the script determine the result.
     std::function<CvxCPP::CvxError(const Call &)> intercept;
 };
 
-/// Records the call and returns the error that the script has for its function, or 0. Every scripted SDK
-/// function calls this first.
+/// Records the call. Returns the error that the script defines for this call, or 0. Every scripted SDK
+/// function calls answer() once.
 CvxCPP::CvxError answer(Call call);
 
 } // namespace CvxScripted

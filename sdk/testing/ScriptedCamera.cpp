@@ -36,7 +36,7 @@ public:
         const auto &devices = m_record->devices;
         min = m_record->min.value_or(devices.empty() ? 0 : devices.begin()->first);
         max = m_record->max.value_or(devices.empty() ? -1 : devices.rbegin()->first);
-        return answer({Function::GetRange, m_name}); // A call that fails may still write its results.
+        return answer({Function::GetRange, m_name}); // A failing call writes its outputs too.
     }
 
     CvxError SetValue(long value) override

@@ -12,10 +12,11 @@ namespace {
 template <typename Observer>
 using Observers = std::vector<std::shared_ptr<Observer>>;
 
-/// The script and everything that happened. Calls arrive on the GUI thread and on pool threads.
+/// The script, the recorded calls and the registered observers. Calls arrive on the GUI thread and on pool
+/// threads.
 struct State
 {
-    Script script; // Not protected by the mutex: see script().
+    Script script; // The mutex does not protect the script; see script().
     std::mutex mutex; // Protects the members below.
     std::vector<Call> calls;
     Observers<ICameraListObserver> cameraObservers;
@@ -92,7 +93,8 @@ private:
     }
 };
 
-/// Calls `notify` for each observer on a new thread, because the SDK never notifies on a caller's thread.
+/// Calls `notify` for each observer on a new thread, because the SDK never notifies an observer
+/// on the thread of a caller.
 template <typename Observer, typename Notify>
 void announce(const Observers<Observer> &observers, const Notify &notify)
 {

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <vector>
 
-/// A double of libCvxCPP.so that tests link in its place. It answers by the test's script and records every
-/// call. It keeps no state of its own: GetCameras() works without Startup().
+/// A test double of libCvxCPP.so, which tests link instead of the library. Every function returns what the
+/// script of the test defines, and every call is recorded. GetCameras() does not require Startup().
 namespace CvxScripted {
 
 /// Returns the script. Change it only while no SDK call is running.
@@ -27,10 +27,10 @@ std::shared_ptr<CvxCPP::Camera> makeCamera(const CameraRecord &record);
 /// Creates an interface object as Camera::GetInterface() does.
 std::shared_ptr<CvxCPP::Interface> makeInterface(const std::shared_ptr<InterfaceRecord> &record);
 
-/// Notifies all camera-list observers, each on a new thread, and returns when they have returned.
+/// Notifies all camera-list observers, each on a new thread, and blocks until all of them have returned.
 void announceCamera(const CameraRecord &record, CvxCPP::UpdateTriggerType reason);
 
-/// Notifies all interface-list observers in the same way.
+/// Notifies all interface-list observers, each on a new thread, and blocks until all of them have returned.
 void announceInterface(const std::shared_ptr<InterfaceRecord> &record, CvxCPP::UpdateTriggerType reason);
 
 } // namespace CvxScripted

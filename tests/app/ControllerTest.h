@@ -13,8 +13,8 @@
 #include <QTableWidget>
 #include <QtTest>
 
-/// Helpers that the tests of the controller share. The tests install a MarkingTranslator, so that each
-/// comparison of a text also shows whether the text is translated.
+/// These helpers are shared by the tests of the controller. Tests that compare strings install a
+/// MarkingTranslator, so each comparison also shows whether the string is translated.
 namespace ControllerTest {
 
 using CvxCPP::CvxErrorFailed;
@@ -28,7 +28,7 @@ inline QString operator""_s(const char *text, std::size_t size)
     return QString::fromUtf8(text, int(size));
 }
 
-/// Returns the window of the existing controller, or null if there is none.
+/// Returns the window of the controller, or null if there is no controller.
 inline MainWindow *mainWindow()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -53,7 +53,7 @@ inline QList<ApplicationLauncher *> tiles()
     return mainWindow()->findChildren<ApplicationLauncher *>();
 }
 
-/// Returns the texts of the camera table: vendor, model and serial number of each row, with "|" between them.
+/// Returns one string per row of the camera table: vendor, model and serial number, separated by "|".
 inline QStringList rows()
 {
     QStringList texts;
@@ -67,7 +67,7 @@ inline QStringList rows()
     return texts;
 }
 
-/// The rows during a scan.
+/// The result of rows() during a scan.
 inline const QStringList scanningRows{QStringLiteral("[ApplicationController] Scanning...||")};
 
 /// Returns a camera whose row is "|model|ID".
@@ -76,7 +76,7 @@ inline CvxScripted::CameraRecord cameraRecord(const std::string &id)
     return {id, "model", "name", id, "extended " + id};
 }
 
-/// Holds every scan at its first call until the gate is open.
+/// Blocks every scan at its first SDK call until the gate is open.
 inline void holdScansAt(CvxScripted::Gate &gate)
 {
     script().intercept = [&gate](const CvxScripted::Call &call) {
@@ -97,7 +97,7 @@ inline void reportCamera(const std::string &id)
     CvxScripted::announceCamera(cameraRecord(id), CvxCPP::UpdateTriggerPluggedIn);
 }
 
-/// Processes all queued events, including those that are queued by the events themselves.
+/// Processes all queued events, and also the events that their handlers queue.
 inline void processQueuedEvents()
 {
     for (int round = 0; round < 3; ++round)

@@ -1,4 +1,4 @@
-// Prints the install root of the installation that contains this program. TestInstallRoot copies it around.
+// This program prints its install root. TestInstallRoot runs copies of the program in several directories.
 
 #include "config/InstallRootResolver.h"
 

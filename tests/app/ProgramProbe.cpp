@@ -1,6 +1,6 @@
-// Linked into the launcher for TestProgram. Closes the dialogs, closes the window after the first scan, and
-// prints what it saw to standard output, one fact a line. SDK_REFUSES_STARTUP in the environment makes the
-// SDK fail.
+// This file is linked into the launcher that TestProgram starts. It closes the dialogs, closes the window
+// after the first scan, and prints one fact per line. If the environment contains SDK_REFUSES_STARTUP,
+// Startup() fails.
 
 #include "sdk/testing/ScriptedCvxCPP.h"
 #include "tests/support/ChildNamed.h"
@@ -26,7 +26,8 @@ void print(const char *fact, const Values &...values)
     std::puts("");
 }
 
-/// Exists while the application exists.
+/// Closes the dialogs and the idle window, and prints facts about them. Exists as long as the application
+/// object.
 class Watcher : public QObject
 {
 public:
@@ -53,7 +54,7 @@ private:
         QFile styleSheet(QStringLiteral(":/styles/style.qss"));
         const QByteArray content = styleSheet.open(QIODevice::ReadOnly) ? styleSheet.readAll() : QByteArray();
         print("style sheet", !content.isEmpty(), qApp->styleSheet() == QString::fromUtf8(content));
-        print("style", QApplication::style()->objectName()); // Empty with a style sheet.
+        print("style", QApplication::style()->objectName()); // The name is empty if there is a style sheet.
         print("high-DPI", QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling),
             QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
         print("names", QCoreApplication::applicationName(), QGuiApplication::desktopFileName());
@@ -66,13 +67,13 @@ private:
     QTimer m_timer;
 };
 
-/// Exists from before main() until after it.
+/// Sets up the scripted SDK before main() starts, and prints the SDK calls after main() has returned.
 class Probe
 {
 public:
     Probe()
     {
-        CvxScripted::reset(); // Creates the record of calls, which therefore outlives us.
+        CvxScripted::reset(); // reset() creates the record of calls, which therefore outlives this object.
         if (qEnvironmentVariableIsSet("SDK_REFUSES_STARTUP"))
             CvxScripted::script().errors[Function::Startup] = CvxCPP::CvxErrorHostMissing;
     }

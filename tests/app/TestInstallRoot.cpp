@@ -4,17 +4,17 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// The install root that a program finds, depending on the directory in which it is installed.
+/// Tests which install root a program finds, depending on its directory.
 class TestInstallRoot : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void rootFollowsFromTheProgramsDirectory_data();
-    void rootFollowsFromTheProgramsDirectory();
+    void installRootDependsOnTheProgramsDirectory_data();
+    void installRootDependsOnTheProgramsDirectory();
 };
 
-void TestInstallRoot::rootFollowsFromTheProgramsDirectory_data()
+void TestInstallRoot::installRootDependsOnTheProgramsDirectory_data()
 {
     QTest::addColumn<QByteArray>("program");
     QTest::addColumn<QByteArrayList>("entries"); // A name that ends in "/" is a directory.
@@ -28,14 +28,15 @@ void TestInstallRoot::rootFollowsFromTheProgramsDirectory_data()
     addRow("beside cti", "sdk/program", {"sdk/cti/"}, "/sdk");
     addRow("beside bin", "sdk/program", {"sdk/bin/"}, "/sdk");
     addRow("beside a file named cti", "sdk/program", {"sdk/cti"}, "/sdk");
-    addRow("beside none of them, nor is the parent", "sdk/program", {}, ""); // Intended: no error.
+    // Intended: this is not an error.
+    addRow("no structure in the directory or its parent", "sdk/program", {}, "");
     addRow("letter case matters", "sdk/program", {"sdk/API/"}, "");
     addRow("own directory before the parent", "sdk/bin/program", {"sdk/api/", "sdk/bin/cti/"}, "/sdk/bin");
     addRow("no search beyond one level", "sdk/a/b/program", {"sdk/api/"}, "/sdk/a");
     addRow("spaces and letters", "S D K \xc3\xa4/x/program", {}, "/S D K \xc3\xa4");
 }
 
-void TestInstallRoot::rootFollowsFromTheProgramsDirectory()
+void TestInstallRoot::installRootDependsOnTheProgramsDirectory()
 {
     QFETCH(QByteArray, program);
     QFETCH(QByteArrayList, entries);
@@ -48,10 +49,10 @@ void TestInstallRoot::rootFollowsFromTheProgramsDirectory()
     QDir().mkpath(QFileInfo(path).absolutePath());
     QVERIFY(QFile::copy(QStringLiteral(INSTALL_ROOT_PROGRAM), path));
 
-    QProcess process; // Its working directory, that of this test, must not matter.
+    QProcess process; // The program inherits this test's working directory, which must not matter.
     process.start(path, QStringList());
     QVERIFY(process.waitForFinished());
-    // Compared as text, so that a separator at the end would show.
+    // A comparison of the strings also detects a separator at the end.
     QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()),
         directory.path() + QString::fromUtf8(root) + QLatin1Char('\n'));
 }

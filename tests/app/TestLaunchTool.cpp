@@ -10,7 +10,8 @@
 
 using namespace ControllerTest;
 
-/// Starting tools: real scripts below the install root of this test program.
+/// Tests the start of tools. The tools are real scripts, most of them below the install root of this test
+/// program.
 class TestLaunchTool : public QObject
 {
     Q_OBJECT
@@ -41,7 +42,7 @@ void TestLaunchTool::init()
 {
     CvxScripted::reset();
     for (int count = 0; count < 2; ++count)
-        QApplication::setOverrideCursor(Qt::CrossCursor); // Every launch has to remove them.
+        QApplication::setOverrideCursor(Qt::CrossCursor); // Every launch has to remove these cursors.
 }
 
 void TestLaunchTool::toolStartsDetachedInItsOwnDirectory_data()
@@ -74,7 +75,7 @@ void TestLaunchTool::toolStartsDetachedInItsOwnDirectory()
     QCOMPARE(lines.mid(0, 3), (QStringList{QFileInfo(path).canonicalPath(), path, "0"_s}));
     QVERIFY(lines.at(3).toInt() != getpid());
     QVERIFY(lines.at(4).toInt() != getsid(0));
-    QCOMPARE(waitpid(-1, nullptr, WNOHANG), -1); // There is no child process of ours, running or dead.
+    QCOMPARE(waitpid(-1, nullptr, WNOHANG), -1); // This process has no child process, running or ended.
     QCOMPARE(catcher.boxes().size(), 0);
 }
 
@@ -108,7 +109,8 @@ void TestLaunchTool::failedLaunchIsReported()
     QCOMPARE(catcher.boxes().size(), 1);
     const ModalCatcher::Box &box = catcher.boxes().first();
     QCOMPARE(box.title, "[ApplicationController] Launch failed"_s);
-    QCOMPARE(box.text, "[ApplicationController] Could not launch:\n"_s + configured); // As configured.
+    // The message contains the configured path, not the resolved one.
+    QCOMPARE(box.text, "[ApplicationController] Could not launch:\n"_s + configured);
     QCOMPARE(box.icon, QMessageBox::Warning);
     QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(box.parent.data(), mainWindow());

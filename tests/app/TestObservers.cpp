@@ -32,7 +32,7 @@ QList<QVariantList> reported(const std::shared_ptr<Camera> &camera, unsigned rea
 
 } // namespace
 
-/// The two observers on their own.
+/// Tests the two observers without the controller.
 class TestObservers : public QObject
 {
     Q_OBJECT
@@ -85,7 +85,7 @@ void TestObservers::mutexIsHeldOnlyDuringTheNotification()
     connect(&interfaces, &InterfaceObserver::updateInterfaceList, this, tryLock);
     cameras.CameraListChanged(cameraWithExtendedId("x"), UpdateTriggerPluggedIn);
     interfaces.InterfaceListChanged(nullptr, UpdateTriggerPluggedIn);
-    cameras.CameraListChanged(nullptr, UpdateTriggerPluggedIn); // Is not reported.
+    cameras.CameraListChanged(nullptr, UpdateTriggerPluggedIn); // Emits no signal.
     QCOMPARE(lockedByUs, (QVector<bool>{false, false}));
     QVERIFY(mutex.tryLock());
     mutex.unlock();

@@ -19,8 +19,9 @@ Run run(const char *program, const char *variable = "UNUSED", const char *value 
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
     environment.insert(QStringLiteral("QT_LOGGING_TO_CONSOLE"), QStringLiteral("1"));
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), directory.path()); // Qt warns about a shared one.
-    // The user of this desktop has chosen the style "windows"; the program must not follow.
+    // Qt would warn about a runtime directory that other users can read.
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), directory.path());
+    // The settings of this desktop contain the style "windows", which the program has to ignore.
     ScriptFile::write(directory.filePath(QStringLiteral("kdeglobals")), "[General]\nwidgetStyle=windows\n");
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), directory.path());
     environment.insert(QStringLiteral("XDG_CURRENT_DESKTOP"), QStringLiteral("KDE"));
@@ -37,18 +38,18 @@ Run run(const char *program, const char *variable = "UNUSED", const char *value 
 
 } // namespace
 
-/// The whole program from main() to its exit code, with the scripted SDK.
+/// Tests the whole program from main() to its exit code, with the scripted SDK.
 class TestProgram : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void programStartsScansAndEndsWhenItsWindowCloses();
-    void missingStyleSheetIsLoggedAndTheProgramRuns();
-    void refusedStartupShowsOneDialogAndNoWindow();
+    void programScansAndExitsWhenItsWindowCloses();
+    void missingStyleSheetOnlyCausesALogMessage();
+    void failedStartupShowsOnlyADialog();
 };
 
-void TestProgram::programStartsScansAndEndsWhenItsWindowCloses()
+void TestProgram::programScansAndExitsWhenItsWindowCloses()
 {
     const Run result = run(SCRIPTED_LAUNCHER);
     QCOMPARE(result.exitCode, 0);
@@ -59,7 +60,7 @@ void TestProgram::programStartsScansAndEndsWhenItsWindowCloses()
     QCOMPARE(result.log, QByteArray());
 }
 
-void TestProgram::missingStyleSheetIsLoggedAndTheProgramRuns()
+void TestProgram::missingStyleSheetOnlyCausesALogMessage()
 {
     const Run result = run(SCRIPTED_LAUNCHER_BARE, "QT_XCB_GL_INTEGRATION", "none");
     QCOMPARE(result.exitCode, 0);
@@ -70,7 +71,7 @@ void TestProgram::missingStyleSheetIsLoggedAndTheProgramRuns()
     QCOMPARE(result.log, QByteArray("Failed to load stylesheet\n"));
 }
 
-void TestProgram::refusedStartupShowsOneDialogAndNoWindow()
+void TestProgram::failedStartupShowsOnlyADialog()
 {
     const Run result = run(SCRIPTED_LAUNCHER, "SDK_REFUSES_STARTUP");
     QCOMPARE(result.exitCode, 255);

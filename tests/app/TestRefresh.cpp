@@ -32,7 +32,8 @@ void reportInterface()
 
 } // namespace
 
-/// Scans in the background, and what starts them. Every test begins with an idle controller.
+/// Tests the scans in the background and the events that start a scan. Every test starts with an idle
+/// controller.
 class TestRefresh : public QObject
 {
     Q_OBJECT
@@ -42,15 +43,15 @@ private slots:
     void init();
     void cleanup() { m_controller.reset(); }
 
-    void runningScanShowsAPlaceholderAndDisablesTheButton();
+    void windowShowsThatAScanIsRunning();
     void finishedScanShowsTheCamerasInOrder();
-    void scanThatThrowsEndsEmptyWithAWarning_data();
-    void scanThatThrowsEndsEmptyWithAWarning();
+    void exceptionDuringAScanIsLoggedAsAWarning_data();
+    void exceptionDuringAScanIsLoggedAsAWarning();
     void requestDuringAScanIsDropped();
     void selectionIsClearedByEveryScan();
 
-    void reportedCameraStartsAScanOnTheGuiThread();
-    void cameraReportedDuringAScanIsDropped();
+    void cameraNotificationStartsAScan();
+    void notificationDuringAScanIsDropped();
     void interfaceChangeStartsNoScan();
     void observersShareOneMutex();
 
@@ -67,7 +68,7 @@ void TestRefresh::init()
     mainWindow()->show();
 }
 
-void TestRefresh::runningScanShowsAPlaceholderAndDisablesTheButton()
+void TestRefresh::windowShowsThatAScanIsRunning()
 {
     CvxScripted::Gate gate;
     holdScansAt(gate);
@@ -76,12 +77,12 @@ void TestRefresh::runningScanShowsAPlaceholderAndDisablesTheButton()
     QVERIFY(gate.waitForArrival());
     processQueuedEvents();
     QCOMPARE(rows(), scanningRows);
-    // Intended: the placeholder's empty fields equal those of the empty selection.
+    // Intended: the placeholder is selected, because its ID and the ID of the empty selection are both empty.
     QCOMPARE(selectedRows(), QVector<int>{0});
     QVERIFY(!refreshButton()->isEnabled());
     gate.open();
     QTRY_VERIFY(refreshButton()->isEnabled());
-    QCOMPARE(rows(), QStringList()); // There is no camera.
+    QCOMPARE(rows(), QStringList()); // The scan found no camera.
 }
 
 void TestRefresh::finishedScanShowsTheCamerasInOrder()
@@ -93,11 +94,12 @@ void TestRefresh::finishedScanShowsTheCamerasInOrder()
     QCOMPARE(selectedRows(), QVector<int>());
     for (const CvxScripted::Call &call : CvxScripted::calls()) {
         const bool isPartOfScan = call.function >= Function::CountCameras;
-        QCOMPARE(call.thread != std::this_thread::get_id(), isPartOfScan); // Only the scan runs elsewhere.
+        // Only the scan uses another thread.
+        QCOMPARE(call.thread != std::this_thread::get_id(), isPartOfScan);
     }
 }
 
-void TestRefresh::scanThatThrowsEndsEmptyWithAWarning_data()
+void TestRefresh::exceptionDuringAScanIsLoggedAsAWarning_data()
 {
     QTest::addColumn<bool>("isStandard");
     QTest::addColumn<QString>("warning");
@@ -105,7 +107,7 @@ void TestRefresh::scanThatThrowsEndsEmptyWithAWarning_data()
     QTest::newRow("other exception") << false << "The camera scan failed: unknown exception"_s;
 }
 
-void TestRefresh::scanThatThrowsEndsEmptyWithAWarning()
+void TestRefresh::exceptionDuringAScanIsLoggedAsAWarning()
 {
     QFETCH(bool, isStandard);
     QFETCH(QString, warning);
@@ -137,7 +139,7 @@ void TestRefresh::requestDuringAScanIsDropped()
     QTRY_VERIFY(refreshButton()->isEnabled());
     processQueuedEvents();
     QVERIFY(refreshButton()->isEnabled());
-    QCOMPARE(scans(), 1); // Intended: the requests are not queued either.
+    QCOMPARE(scans(), 1); // Intended: requests during a scan are not queued.
 }
 
 void TestRefresh::selectionIsClearedByEveryScan()
@@ -156,21 +158,21 @@ void TestRefresh::selectionIsClearedByEveryScan()
     QCOMPARE(enabledTiles(), 0);
 }
 
-void TestRefresh::reportedCameraStartsAScanOnTheGuiThread()
+void TestRefresh::cameraNotificationStartsAScan()
 {
     script().cameras = {cameraRecord("a")};
-    reportCamera("a"); // The observer has returned on its own thread; nothing has happened here yet.
+    reportCamera("a"); // The observer has returned, but the GUI thread has not processed its signal yet.
     QVERIFY(refreshButton()->isEnabled());
     QCOMPARE(scans(), 0);
     QTRY_COMPARE(rows(), QStringList{"|model|a"_s});
 }
 
-void TestRefresh::cameraReportedDuringAScanIsDropped()
+void TestRefresh::notificationDuringAScanIsDropped()
 {
     CvxScripted::Gate gate;
     script().intercept = [&gate](const CvxScripted::Call &call) {
         if (call.function == Function::GetModel)
-            gate.pass(); // The scan has the list by now.
+            gate.pass(); // The scan has already read the camera list.
         return CvxErrorSuccess;
     };
     script().cameras = {cameraRecord("a")};
@@ -182,7 +184,7 @@ void TestRefresh::cameraReportedDuringAScanIsDropped()
     gate.open();
     QTRY_VERIFY(refreshButton()->isEnabled());
     processQueuedEvents();
-    QCOMPARE(scans(), 1); // Intended: the new camera appears only with the next refresh or notification.
+    QCOMPARE(scans(), 1); // Intended: the new camera appears only after the next refresh or notification.
     QCOMPARE(rows(), QStringList{"|model|a"_s});
 
     reportCamera("b");

@@ -2,7 +2,8 @@
 
 using namespace ControllerTest;
 
-/// The controller's destructor: it ends the scan, then the SDK, then the window.
+/// Tests the controller's destructor: the scan ends first, the SDK is shut down next, and the window is
+/// deleted last.
 class TestShutdown : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ void TestShutdown::sdkIsShutDownOnceBeforeTheWindowIsDeleted_data()
 {
     QTest::addColumn<bool>("initialised");
     QTest::newRow("after init()") << true;
-    QTest::newRow("without init()") << false; // The same holds after a failed start of the SDK.
+    QTest::newRow("without init()") << false; // This row also covers a failed start of the SDK.
 }
 
 void TestShutdown::sdkIsShutDownOnceBeforeTheWindowIsDeleted()
@@ -43,7 +44,7 @@ void TestShutdown::sdkIsShutDownOnceBeforeTheWindowIsDeleted()
 
 void TestShutdown::shutdownWaitsForTheScan()
 {
-    // So many cameras that the scan would still run if the destructor did not wait.
+    // With so many cameras, the scan would still be running if the destructor did not wait.
     const std::size_t count = 2000;
     script().cameras.assign(count, cameraRecord("a"));
     CvxScripted::Gate gate;
@@ -55,7 +56,7 @@ void TestShutdown::shutdownWaitsForTheScan()
         QVERIFY(gate.waitForArrival());
         gate.open();
     }
-    processQueuedEvents(); // Nothing brings the result to the deleted window.
+    processQueuedEvents(); // The result of the scan must not reach the deleted window.
     QCOMPARE(callCount(Function::GetInterfaceType), count);
     QCOMPARE(CvxScripted::calls().back().function, Function::Shutdown);
 }

@@ -22,7 +22,7 @@ Functions calledFunctions()
 
 } // namespace
 
-/// The constructor, init(), run() and the window's states, on a desktop without a tray.
+/// Tests the constructor, init(), run() and the window's states on a desktop without a tray.
 class TestStartup : public QObject
 {
     Q_OBJECT
@@ -31,20 +31,20 @@ private slots:
     void initTestCase() { QCoreApplication::installTranslator(&m_translator); }
     void init() { CvxScripted::reset(); }
 
-    void constructionCreatesAHiddenWindowOnly();
+    void constructorOnlyCreatesAHiddenWindow();
 
     void initStartsTheSdkAndRegistersBothObservers();
-    void refusedStartupEndsInit();
-    void refusedObserverIsReportedAndTheProgramRuns_data();
-    void refusedObserverIsReportedAndTheProgramRuns();
-    void cameraReportedDuringInitIsListedByTheFirstScan();
+    void initFailsIfTheSdkDoesNotStart();
+    void failedObserverRegistrationOnlyShowsAMessageBox_data();
+    void failedObserverRegistrationOnlyShowsAMessageBox();
+    void firstScanFindsACameraReportedDuringInit();
 
     void firstScanStartsBeforeTheWindowIsShown();
     void runReturnsTheExitCodeOfTheEventLoop();
 
-    void withoutATrayMinimizeToTrayMinimises();
-    void showFromTrayRestoresAndActivatesTheWindow_data();
-    void showFromTrayRestoresAndActivatesTheWindow();
+    void minimizeToTrayMinimisesIfThereIsNoTray();
+    void showFromTrayActivatesTheWindow_data();
+    void showFromTrayActivatesTheWindow();
 
 protected:
     bool eventFilter(QObject *, QEvent *event) override
@@ -59,7 +59,7 @@ private:
     QStringList m_rowsWhenShown;
 };
 
-void TestStartup::constructionCreatesAHiddenWindowOnly()
+void TestStartup::constructorOnlyCreatesAHiddenWindow()
 {
     const ApplicationController controller;
     QVERIFY(!mainWindow()->parent());
@@ -84,7 +84,7 @@ void TestStartup::initStartsTheSdkAndRegistersBothObservers()
     QCOMPARE(catcher.boxes().size(), 0);
 }
 
-void TestStartup::refusedStartupEndsInit()
+void TestStartup::initFailsIfTheSdkDoesNotStart()
 {
     const ModalCatcher catcher;
     script().errors[Function::Startup] = CvxCPP::CvxErrorHostMissing;
@@ -95,20 +95,20 @@ void TestStartup::refusedStartupEndsInit()
     QCOMPARE(catcher.boxes().size(), 0); // main() reports the failure.
 }
 
-void TestStartup::refusedObserverIsReportedAndTheProgramRuns_data()
+void TestStartup::failedObserverRegistrationOnlyShowsAMessageBox_data()
 {
     const auto cameraText = "Unable to register camera list observer"_s;
     const auto interfaceText = "Unable to register interface list observer"_s;
     const auto cameras = Function::RegisterCameraListObserver;
     const auto interfaces = Function::RegisterInterfaceListObserver;
     QTest::addColumn<Functions>("refused");
-    QTest::addColumn<QStringList>("texts"); // Intended: they are not translated.
+    QTest::addColumn<QStringList>("texts"); // Intended: these strings are not translated.
     QTest::newRow("cameras") << Functions{cameras} << QStringList{cameraText};
     QTest::newRow("interfaces") << Functions{interfaces} << QStringList{interfaceText};
     QTest::newRow("both") << Functions{cameras, interfaces} << QStringList{cameraText, interfaceText};
 }
 
-void TestStartup::refusedObserverIsReportedAndTheProgramRuns()
+void TestStartup::failedObserverRegistrationOnlyShowsAMessageBox()
 {
     QFETCH(Functions, refused);
     QFETCH(QStringList, texts);
@@ -132,7 +132,7 @@ void TestStartup::refusedObserverIsReportedAndTheProgramRuns()
     QTRY_COMPARE(rows(), QStringList{"|model|a"_s});
 }
 
-void TestStartup::cameraReportedDuringInitIsListedByTheFirstScan()
+void TestStartup::firstScanFindsACameraReportedDuringInit()
 {
     ModalCatcher catcher;
     catcher.onBox = [](QMessageBox &) {
@@ -143,7 +143,7 @@ void TestStartup::cameraReportedDuringInitIsListedByTheFirstScan()
     script().cameras = {cameraRecord("a")};
     ApplicationController controller;
     QVERIFY(controller.init());
-    QVERIFY(callCount(Function::GetExtendedId) > 0); // The observer received the report.
+    QVERIFY(callCount(Function::GetExtendedId) > 0); // The observer was notified.
     QCOMPARE(scans(), 0);
     controller.refreshCameras();
     QTRY_COMPARE(rows(), QStringList{"|model|a"_s});
@@ -173,7 +173,7 @@ void TestStartup::runReturnsTheExitCodeOfTheEventLoop()
     QCOMPARE(controller.run(), 0);
 }
 
-void TestStartup::withoutATrayMinimizeToTrayMinimises()
+void TestStartup::minimizeToTrayMinimisesIfThereIsNoTray()
 {
     ApplicationController controller;
     mainWindow()->show();
@@ -182,7 +182,7 @@ void TestStartup::withoutATrayMinimizeToTrayMinimises()
     QVERIFY(!mainWindow()->isHidden());
 }
 
-void TestStartup::showFromTrayRestoresAndActivatesTheWindow_data()
+void TestStartup::showFromTrayActivatesTheWindow_data()
 {
     QTest::addColumn<Action>("action");
     QTest::newRow("minimised") << Action([] { mainWindow()->showMinimized(); });
@@ -190,7 +190,7 @@ void TestStartup::showFromTrayRestoresAndActivatesTheWindow_data()
     QTest::newRow("covered") << Action([] {});
 }
 
-void TestStartup::showFromTrayRestoresAndActivatesTheWindow()
+void TestStartup::showFromTrayActivatesTheWindow()
 {
     QFETCH(Action, action);
     ApplicationController controller;

@@ -12,10 +12,11 @@ Q_DECLARE_METATYPE(QSystemTrayIcon::ActivationReason)
 
 namespace {
 
-/// Clicks through the X server, as a user does.
+/// Simulates the clicks of a user through the X server.
 void click(const QPoint &position, int button, int times = 1)
 {
-    // Not with "--sync", which waits for a movement even if the pointer is already there.
+    // The option "--sync" is not used: it waits for a movement even if the pointer is already at the
+    // position.
     const QString command = "mousemove %1 %2 click --repeat %3 --delay 50 %4"_s;
     QCOMPARE(QProcess::execute("xdotool"_s,
                  command.arg(position.x()).arg(position.y()).arg(times).arg(button).split(QLatin1Char(' '))),
@@ -24,7 +25,7 @@ void click(const QPoint &position, int button, int times = 1)
 
 } // namespace
 
-/// The tray icon on a real X server with a window manager and a tray.
+/// Tests the tray icon on a real X server with a window manager and a tray.
 class TestTray : public QObject
 {
     Q_OBJECT
@@ -69,7 +70,7 @@ void TestTray::init()
     QVERIFY(m_controller->init());
     m_icon = m_controller->findChild<QSystemTrayIcon *>();
     QVERIFY(m_icon);
-    QTRY_VERIFY(m_icon->geometry().x() > 0); // The tray has embedded the icon.
+    QTRY_VERIFY(m_icon->geometry().x() > 0); // The tray has now embedded the icon.
 }
 
 void TestTray::showWindow()
@@ -83,7 +84,7 @@ void TestTray::hideWindow()
     showWindow();
     QVERIFY(QMetaObject::invokeMethod(m_controller.get(), "minimizeToTray"));
     QVERIFY(mainWindow()->isHidden());
-    QTRY_VERIFY(!QGuiApplication::focusWindow()); // Otherwise the next activation is lost.
+    QTRY_VERIFY(!QGuiApplication::focusWindow()); // Otherwise the window would miss its next activation.
 }
 
 void TestTray::clickMenuEntry(const QString &text)
@@ -124,8 +125,10 @@ void TestTray::minimizeToTrayMinimisesIfTheIconIsHidden()
 
 void TestTray::doubleClickRestoresTheHiddenWindow()
 {
-    const QSignalSpy lastWindowClosed(qApp, &QApplication::lastWindowClosed); // It would end the program.
-    QTimer::singleShot(0, m_controller.get(), [this] { // Qt emits that signal only in its event loop.
+    // If Qt emitted this signal, the program would end.
+    const QSignalSpy lastWindowClosed(qApp, &QApplication::lastWindowClosed);
+    // Qt emits lastWindowClosed() only while run() executes.
+    QTimer::singleShot(0, m_controller.get(), [this] {
         const auto end = qScopeGuard([] { QCoreApplication::quit(); });
         hideWindow();
         QVERIFY(m_icon->isVisible());

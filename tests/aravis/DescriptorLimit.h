@@ -3,7 +3,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// Limits the process to this many more open files while it lives.
+/// Limits how many more files the process can open. The destructor restores the previous limit.
 class DescriptorLimit
 {
 public:

@@ -1,4 +1,5 @@
-// Which interface lists a camera, with cameras and network interfaces handed in.
+// These tests check which interface reports a camera. They define the cameras and network interfaces
+// themselves.
 
 #include "sdk/aravis/GigEVisionSource.h"
 
@@ -39,7 +40,7 @@ protected:
     int addressLists = 0;
 };
 
-TEST_F(GigEVisionSourceTest, eachAddressIsAnInterfaceAndListsTheDevicesOfItsNetwork)
+TEST_F(GigEVisionSourceTest, eachAddressIsAnInterfaceWithTheDevicesOfItsNetwork)
 {
     EXPECT_EQ(source.updateInterfaces(),
         (std::vector<InterfaceRecord>{{"10.0.1.1", "Network card one (10.0.1.1)", "GEV"},
@@ -52,7 +53,7 @@ TEST_F(GigEVisionSourceTest, eachAddressIsAnInterfaceAndListsTheDevicesOfItsNetw
     EXPECT_EQ(source.updateDevices("elsewhere").at(0).displayName, "c") << "the ID, without other fields";
 }
 
-TEST_F(GigEVisionSourceTest, missedDeviceGoesAtOnceWithItsNetworkInterface)
+TEST_F(GigEVisionSourceTest, missedDeviceIsRemovedAtOnceIfItsNetworkInterfaceIsGone)
 {
     for (const char *const interface : {"10.0.1.1", "10.0.2.1", "elsewhere"}) {
         const auto allFound = found;

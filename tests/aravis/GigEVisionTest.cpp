@@ -1,5 +1,5 @@
-// Real GigE Vision discovery by the built producer, in network namespaces: GigEVision in one with nothing but
-// lo, CameraNetworks in the one that with-camera-networks sets up.
+// These tests run GigE Vision discovery with the built producer. The GigEVision tests run in a network
+// namespace that contains only lo, the CameraNetworks tests in a namespace that with-camera-networks sets up.
 
 #include "tests/producer/ProducerSession.h"
 
@@ -17,7 +17,7 @@ using namespace GenTL;
 
 namespace {
 
-/// Pairs of interface ID and serial number, sorted.
+/// The sorted pairs of interface ID and serial number.
 using Cameras = std::vector<std::pair<std::string, std::string>>;
 
 /// A consumer that keeps the interfaces of the producer open.
@@ -27,7 +27,8 @@ public:
     const ProducerSession &session() const { return m_session; }
     IF_HANDLE handle(const std::string &interfaceId) const { return m_handles.at(interfaceId); }
 
-    /// Lists the cameras until they are the expected ones, or for a minute. Returns the last list.
+    /// Enumerates the cameras until the list is as expected, but not longer than a minute. Returns the last
+    /// list.
     Cameras await(const Cameras &expected)
     {
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(1);
@@ -60,7 +61,7 @@ private:
     std::map<std::string, IF_HANDLE> m_handles;
 };
 
-/// Aravis's fake GigE Vision camera, a process that answers at 127.0.0.1 with the serial number LOOP1.
+/// Runs Aravis's fake GigE Vision camera as a process with the address 127.0.0.1 and the serial number LOOP1.
 class FakeCamera
 {
 public:
@@ -88,14 +89,14 @@ const Cameras loopbackCamera{{"127.0.0.1", "LOOP1"}};
 
 } // namespace
 
-TEST(GigEVision, cameraComesAndGoesAndComesBackUnderItsId)
+TEST(GigEVision, reconnectedCameraHasTheSameId)
 {
     CameraLister lister;
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(lister.await({}), Cameras{});
         const FakeCamera camera;
         ASSERT_EQ(lister.await(loopbackCamera), loopbackCamera);
-        // The hardware address of the fake camera is all zeros, so its other fields identify it.
+        // The hardware address of the fake camera is all zeros, so the ID consists of other fields.
         EXPECT_EQ(lister.session().deviceIds(lister.handle("127.0.0.1")).at(0), "Aravis-Fake-LOOP1");
     }
 }
@@ -103,11 +104,11 @@ TEST(GigEVision, cameraComesAndGoesAndComesBackUnderItsId)
 TEST(GigEVision, aravisStaysLoadedWhenTheProducerIsUnloaded)
 {
     CameraLister().await({});
-    // GLib keeps pointers into it. RTLD_NOLOAD finds the library only if it is loaded.
+    // GLib keeps pointers into the library. RTLD_NOLOAD finds the library only if it is loaded.
     EXPECT_NE(dlopen("libaravis-0.8.so.0", RTLD_LAZY | RTLD_NOLOAD), nullptr);
 }
 
-TEST(CameraNetworks, cameraIsListedAtItsNetworkInterfaceAndGoesWithIt)
+TEST(CameraNetworks, cameraDisappearsWithItsNetworkInterface)
 {
     CameraLister lister;
     const Cameras all{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"elsewhere", "STRAY"}};

@@ -1,4 +1,4 @@
-// Which address of this machine a camera belongs to.
+// These tests check which address of this machine is chosen for a camera.
 
 #include "sdk/aravis/NetworkInterfaces.h"
 
@@ -18,15 +18,15 @@ InterfaceAddress address(const char *interfaceName, const char *address, unsigne
 const std::vector<InterfaceAddress> addresses{
     address("lo", "127.0.0.1", 8),
     address("office", "192.168.1.20", 24),
-    address("camera", "192.168.1.129", 25), // A smaller network within the one above.
+    address("camera", "192.168.1.129", 25), // This network is part of the office network.
     address("link-local", "169.254.3.1", 16),
-    address("second", "169.254.7.9", 16), // The same network as the one above.
+    address("second", "169.254.7.9", 16), // This is also the link-local network.
     address("point-to-point", "10.1.1.1", 32),
 };
 
 } // namespace
 
-TEST(NetworkInterfaces, smallestNetworkThatContainsTheDeviceWins)
+TEST(NetworkInterfaces, smallestNetworkThatContainsTheDeviceIsChosen)
 {
     const std::pair<const char *, const char *> expected[] = {// The device's address, the interface's name.
         {"192.168.1.7", "office"}, {"192.168.1.200", "camera"}, {"169.254.200.1", "link-local"},
@@ -48,11 +48,11 @@ TEST(NetworkInterfaces, everyAddressOfThisMachineIsInItsOwnNetwork)
     }
 }
 
-TEST(NetworkInterfaces, failureToListThemIsReportedWithItsReason)
+TEST(NetworkInterfaces, failureToReadTheAddressesIsReportedWithItsReason)
 {
     std::string reason;
     try {
-        const DescriptorLimit limit(0); // Listing the addresses needs a descriptor.
+        const DescriptorLimit limit(0); // Reading the addresses needs a descriptor.
         interfaceAddresses();
     } catch (const std::system_error &error) {
         reason = error.what();

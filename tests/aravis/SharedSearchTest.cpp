@@ -1,4 +1,4 @@
-// When a search is shared, and how long a device stays that a search misses.
+// These tests check when a search is shared, and how long a device is kept that searches do not find.
 
 #include "sdk/aravis/SharedSearch.h"
 
@@ -8,7 +8,8 @@ namespace {
 
 using Ids = std::vector<std::string>;
 
-/// Returns what each of several searches lists if they find these devices in turn.
+/// Runs one search per element of `found`, which finds these devices. Returns the reported devices of each
+/// search.
 std::vector<Ids> listed(const std::vector<Ids> &found, SharedSearch::Transport transport)
 {
     std::size_t round = 0;
@@ -28,7 +29,7 @@ std::vector<Ids> listed(const std::vector<Ids> &found, SharedSearch::Transport t
 
 } // namespace
 
-TEST(SharedSearch, searchIsSharedUntilItIsTooOld)
+TEST(SharedSearch, searchResultIsSharedUntilItIsTooOld)
 {
     int searches = 0;
     const auto find = [&] {
@@ -45,7 +46,7 @@ TEST(SharedSearch, searchIsSharedUntilItIsTooOld)
     EXPECT_EQ(searches, 3);
 }
 
-TEST(SharedSearch, deviceThatOneSearchMissesStaysIfRepliesCanGetLost)
+TEST(SharedSearch, deviceIsKeptForOneMissedSearchIfRepliesCanGetLost)
 {
     const std::vector<Ids> found{{"a", "b"}, {"b"}, {"b", "a"}, {"b"}, {"b"}, {"a"}};
     EXPECT_EQ(listed(found, SharedSearch::Transport::Lossy),

@@ -1,4 +1,4 @@
-// USB3 Vision with a camera: Aravis's fake one, linked in as what Aravis finds on USB.
+// These tests replace the USB search of Aravis by a function that finds Aravis's fake camera.
 
 #include "sdk/aravis/Usb3VisionSource.h"
 
@@ -12,7 +12,7 @@ ArvInterface *arv_uv_interface_get_instance()
     return arv_fake_interface_get_instance();
 }
 
-TEST(Usb3VisionSource, camerasAreListedOnTheUsbHost)
+TEST(Usb3VisionSource, camerasAreReportedOnTheUsbHost)
 {
     Usb3VisionSource source;
     EXPECT_EQ(source.updateInterfaces(), (std::vector<InterfaceRecord>{{"usb", "USB host", "U3V"}}));
@@ -22,12 +22,12 @@ TEST(Usb3VisionSource, camerasAreListedOnTheUsbHost)
             GenTL::DEVICE_ACCESS_STATUS_UNKNOWN}}));
 }
 
-TEST(Usb3VisionSource, whileUsbCannotBeSearchedTheListIsEmptyAndOneLineReportsIt)
+TEST(Usb3VisionSource, listIsEmptyWhileUsbCannotBeSearched)
 {
     Usb3VisionSource source;
     testing::internal::CaptureStderr();
     {
-        const DescriptorLimit limit(2); // Too few for libusb; a sanitizer needs a pipe for a moment.
+        const DescriptorLimit limit(2); // libusb needs more, and a sanitizer's pipe needs two.
         for (int round = 0; round < 3; ++round)
             EXPECT_TRUE(source.updateDevices("usb").empty());
     }

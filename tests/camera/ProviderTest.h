@@ -9,7 +9,7 @@
 #include <climits>
 #include <new>
 
-/// Helpers that the tests of the camera list share.
+/// These helpers are shared by the tests of the camera enumeration.
 namespace ProviderTest {
 
 using namespace CvxScripted;
@@ -17,7 +17,7 @@ using CvxCPP::CvxError;
 using CvxCPP::CvxErrorFailed;
 using CvxCPP::CvxErrorSuccess;
 
-/// Returns an interface with these devices, whose selector values are 0, 1, 2 and so on.
+/// Returns an interface with these devices. Their selector values are 0, 1, 2 and so on.
 inline std::shared_ptr<InterfaceRecord> makeInterface(const std::vector<DeviceRecord> &devices)
 {
     auto record = std::make_shared<InterfaceRecord>();
@@ -26,14 +26,14 @@ inline std::shared_ptr<InterfaceRecord> makeInterface(const std::vector<DeviceRe
     return record;
 }
 
-/// Returns a camera with all strings set, on an interface of its own that knows its vendor.
+/// Returns a camera with all strings set. The camera has its own interface, which reports the vendor.
 inline CameraRecord completeCamera(const std::string &id)
 {
     return {id, "model " + id, "name " + id, "serial " + id, "extended " + id, CvxCPP::CvxTransportLayerUSB,
         makeInterface({{id, "vendor " + id}})};
 }
 
-/// Returns the record that is expected for completeCamera(). The addresses are never filled.
+/// Returns the record that is expected for completeCamera(). The provider never fills the addresses.
 inline CameraInfo completeInfo(const QString &id)
 {
     return {id, QStringLiteral("vendor ") + id, QStringLiteral("model ") + id, QStringLiteral("name ") + id,
@@ -45,14 +45,14 @@ inline QVector<CameraInfo> list()
     return CorvixCameraProvider().listCameras();
 }
 
-/// Returns the record that is listed if this is the only camera.
+/// Enumerates this camera as the only one and returns the resulting record.
 inline CameraInfo listOne(const CameraRecord &record)
 {
     script().cameras = {record};
     return list().value(0);
 }
 
-/// The ways in which reading a string can fail.
+/// Determines how a read of a string fails.
 enum class Failure
 {
     AtLength,
@@ -68,7 +68,7 @@ inline void addFailures()
     QTest::newRow("out of memory") << Failure::OutOfMemory;
 }
 
-/// Makes reads of a string fail: the first to the last one, counted from 1, of those with this subject.
+/// Makes the reads number `first` to `last` of the subject's string fail. The first read has the number 1.
 inline void failReads(
     Function function, const std::string &subject, Failure failure, int first = 1, int last = INT_MAX)
 {

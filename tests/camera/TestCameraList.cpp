@@ -15,7 +15,7 @@ CameraInfo unreadableInfo()
 
 } // namespace
 
-/// The list as a whole: how many cameras it contains, in which order and with which fields.
+/// Tests the enumeration as a whole: the number of cameras, their order and their fields.
 class TestCameraList : public QObject
 {
     Q_OBJECT
@@ -24,18 +24,18 @@ private slots:
     void init() { reset(); }
 
     void constructorCallsNoSdkFunction();
-    void noCameraNeedsNoSecondCall();
-    void failedListCallGivesAnEmptyList_data();
-    void failedListCallGivesAnEmptyList();
-    void everyFieldThatTheSdkKnowsIsFilled();
-    void orderOfTheSdkIsKept();
+    void emptyListNeedsOnlyTheCountCall();
+    void failedCallReturnsAnEmptyList_data();
+    void failedCallReturnsAnEmptyList();
+    void everyFieldThatTheSdkReportsIsFilled();
+    void camerasKeepTheOrderOfTheSdk();
     void listMayChangeBetweenTheTwoCalls_data();
     void listMayChangeBetweenTheTwoCalls();
-    void nullHandleKeepsItsPlace();
-    void camerasWithTheSameIdAreAllListed();
-    void cameraWithoutReadableFieldsIsListed();
-    void transportTypeHasAName_data();
-    void transportTypeHasAName();
+    void nullHandleKeepsItsPositionInTheList();
+    void camerasWithTheSameIdAreAllReturned();
+    void cameraWithoutReadableFieldsIsReturned();
+    void transportTypeIsReturnedAsItsName_data();
+    void transportTypeIsReturnedAsItsName();
 };
 
 void TestCameraList::constructorCallsNoSdkFunction()
@@ -44,14 +44,14 @@ void TestCameraList::constructorCallsNoSdkFunction()
     QVERIFY(calls().empty());
 }
 
-void TestCameraList::noCameraNeedsNoSecondCall()
+void TestCameraList::emptyListNeedsOnlyTheCountCall()
 {
     QCOMPARE(list(), QVector<CameraInfo>());
     QCOMPARE(callCount(Function::CountCameras), std::size_t(1));
     QCOMPARE(callCount(Function::FillCameras), std::size_t(0));
 }
 
-void TestCameraList::failedListCallGivesAnEmptyList_data()
+void TestCameraList::failedCallReturnsAnEmptyList_data()
 {
     QTest::addColumn<Function>("failing");
     QTest::addColumn<bool>("outOfMemory");
@@ -60,7 +60,7 @@ void TestCameraList::failedListCallGivesAnEmptyList_data()
     QTest::newRow("out of memory") << Function::FillCameras << true;
 }
 
-void TestCameraList::failedListCallGivesAnEmptyList()
+void TestCameraList::failedCallReturnsAnEmptyList()
 {
     QFETCH(Function, failing);
     QFETCH(bool, outOfMemory);
@@ -71,15 +71,15 @@ void TestCameraList::failedListCallGivesAnEmptyList()
         return call.function == failing ? CvxErrorFailed : CvxErrorSuccess;
     };
     QCOMPARE(list(), QVector<CameraInfo>());
-    QCOMPARE(calls().back().function, failing); // It is the last call.
+    QCOMPARE(calls().back().function, failing); // No call follows the failed one.
 }
 
-void TestCameraList::everyFieldThatTheSdkKnowsIsFilled()
+void TestCameraList::everyFieldThatTheSdkReportsIsFilled()
 {
     QCOMPARE(listOne(completeCamera("a")), completeInfo(QStringLiteral("a")));
 }
 
-void TestCameraList::orderOfTheSdkIsKept()
+void TestCameraList::camerasKeepTheOrderOfTheSdk()
 {
     script().cameras = {completeCamera("c"), completeCamera("a"), completeCamera("b")};
     QCOMPARE(list(),
@@ -111,7 +111,7 @@ void TestCameraList::listMayChangeBetweenTheTwoCalls()
     QCOMPARE(list(), all.mid(0, listed));
 }
 
-void TestCameraList::nullHandleKeepsItsPlace()
+void TestCameraList::nullHandleKeepsItsPositionInTheList()
 {
     CameraRecord null;
     null.nullHandle = true;
@@ -119,13 +119,13 @@ void TestCameraList::nullHandleKeepsItsPlace()
     QCOMPARE(list(), (QVector<CameraInfo>{unreadableInfo(), completeInfo(QStringLiteral("b"))}));
 }
 
-void TestCameraList::camerasWithTheSameIdAreAllListed()
+void TestCameraList::camerasWithTheSameIdAreAllReturned()
 {
     script().cameras = {completeCamera("a"), completeCamera("a")};
     QCOMPARE(list(), QVector<CameraInfo>(2, completeInfo(QStringLiteral("a"))));
 }
 
-void TestCameraList::cameraWithoutReadableFieldsIsListed()
+void TestCameraList::cameraWithoutReadableFieldsIsReturned()
 {
     script().intercept = [](const Call &call) {
         return call.function > Function::FillCameras ? CvxCPP::CvxErrorNotAvailable : CvxErrorSuccess;
@@ -134,7 +134,7 @@ void TestCameraList::cameraWithoutReadableFieldsIsListed()
     QCOMPARE(list(), QVector<CameraInfo>{unreadableInfo()});
 }
 
-void TestCameraList::transportTypeHasAName_data()
+void TestCameraList::transportTypeIsReturnedAsItsName_data()
 {
     QTest::addColumn<unsigned>("type");
     const char *const names[] = {
@@ -146,7 +146,7 @@ void TestCameraList::transportTypeHasAName_data()
     QTest::newRow("largest") << UINT_MAX << QStringLiteral("Other");
 }
 
-void TestCameraList::transportTypeHasAName()
+void TestCameraList::transportTypeIsReturnedAsItsName()
 {
     QFETCH(unsigned, type);
     CameraRecord record = completeCamera("a");

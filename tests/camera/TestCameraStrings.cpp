@@ -7,7 +7,7 @@ Q_DECLARE_METATYPE(QString CameraInfo::*)
 
 using Field = QString CameraInfo::*;
 
-/// Reading one string of a camera with the SDK's two calls.
+/// Tests how one string of a camera is read with the SDK's two calls.
 class TestCameraStrings : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ private slots:
 
     void unreadableStringLeavesOnlyItsFieldEmpty_data();
     void unreadableStringLeavesOnlyItsFieldEmpty();
-    void failedLengthIsNotFollowedByARead();
-    void stringIsUtf8UpToItsFirstNul_data();
-    void stringIsUtf8UpToItsFirstNul();
-    void idThatBecomesUnreadableOnlyCostsTheVendor_data() { addFailures(); }
-    void idThatBecomesUnreadableOnlyCostsTheVendor();
+    void stringIsNotReadIfItsLengthCannotBeRead();
+    void stringIsDecodedAsUtf8UpToItsFirstNul_data();
+    void stringIsDecodedAsUtf8UpToItsFirstNul();
+    void idThatBecomesUnreadableLeavesOnlyTheVendorEmpty_data() { addFailures(); }
+    void idThatBecomesUnreadableLeavesOnlyTheVendorEmpty();
 };
 
 void TestCameraStrings::unreadableStringLeavesOnlyItsFieldEmpty_data()
@@ -53,14 +53,14 @@ void TestCameraStrings::unreadableStringLeavesOnlyItsFieldEmpty()
     QCOMPARE(listOne(completeCamera("a")), expected);
 }
 
-void TestCameraStrings::failedLengthIsNotFollowedByARead()
+void TestCameraStrings::stringIsNotReadIfItsLengthCannotBeRead()
 {
     failReads(Function::GetModel, "a", Failure::AtLength);
     listOne(completeCamera("a"));
     QCOMPARE(callCount(Function::GetModel), std::size_t(1));
 }
 
-void TestCameraStrings::stringIsUtf8UpToItsFirstNul_data()
+void TestCameraStrings::stringIsDecodedAsUtf8UpToItsFirstNul_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("countsNul");
@@ -78,7 +78,7 @@ void TestCameraStrings::stringIsUtf8UpToItsFirstNul_data()
     QTest::newRow("invalid UTF-8") << QByteArray("a\xff") << true << QStringLiteral("a\ufffd");
 }
 
-void TestCameraStrings::stringIsUtf8UpToItsFirstNul()
+void TestCameraStrings::stringIsDecodedAsUtf8UpToItsFirstNul()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(bool, countsNul);
@@ -88,11 +88,11 @@ void TestCameraStrings::stringIsUtf8UpToItsFirstNul()
     const CameraRecord record{string, string, string, string};
     QCOMPARE(
         listOne(record), (CameraInfo{listed, {}, listed, listed, listed, {}, {}, QStringLiteral("Other")}));
-    const bool isLengthZero = bytes.isEmpty() && !countsNul; // Then there is nothing to read.
+    const bool isLengthZero = bytes.isEmpty() && !countsNul; // A string of length 0 is not read.
     QCOMPARE(callCount(Function::GetModel), std::size_t(isLengthZero ? 1 : 2));
 }
 
-void TestCameraStrings::idThatBecomesUnreadableOnlyCostsTheVendor()
+void TestCameraStrings::idThatBecomesUnreadableLeavesOnlyTheVendorEmpty()
 {
     QFETCH(Failure, failure);
     failReads(Function::GetId, "a", failure, 2); // The ID is read first for its field, then for the vendor.

@@ -15,7 +15,7 @@ std::shared_ptr<InterfaceRecord> twoDevices()
     return makeInterface({{"a", "Avelin"}, {"b", "Brightline"}});
 }
 
-/// Returns the vendor that is listed for a camera with this ID on this interface.
+/// Returns the enumerated vendor of a camera with this ID on this interface.
 QString vendorOf(const std::string &id, const std::shared_ptr<InterfaceRecord> &iface)
 {
     CameraRecord record;
@@ -24,7 +24,7 @@ QString vendorOf(const std::string &id, const std::shared_ptr<InterfaceRecord> &
     return listOne(record).vendorName;
 }
 
-/// Returns the values that "DeviceSelector" was set to, in order.
+/// Returns the values that were written to "DeviceSelector", in their order.
 QVector<long> selectedValues()
 {
     QVector<long> values;
@@ -37,8 +37,8 @@ QVector<long> selectedValues()
 
 } // namespace
 
-/// The vendor of a camera. It is found in the device list of the camera's interface. If that fails, the
-/// device that the interface has currently selected reports its vendor.
+/// Tests how the vendor of a camera is found. The vendor is read from the device list of the camera's
+/// interface. If this fails, the vendor of the interface's selected device is used.
 class TestCameraVendor : public QObject
 {
     Q_OBJECT
@@ -46,30 +46,30 @@ class TestCameraVendor : public QObject
 private slots:
     void init() { reset(); }
 
-    // The device list
-    void eachCameraOfAnInterfaceGetsItsOwnVendor();
+    // These tests find the vendor in the device list.
+    void eachCameraOfAnInterfaceHasItsOwnVendor();
     void deviceListIsUpdatedBeforeItIsRead();
     void firstMatchEndsTheSearch();
-    void rangeIsInclusive_data();
-    void rangeIsInclusive();
-    void rangeUpToTheLargestValueEnds();
+    void selectorRangeIsInclusive_data();
+    void selectorRangeIsInclusive();
+    void searchEndsAtTheLargestPossibleValue();
     void unreadableDeviceIdIsSkipped_data() { addFailures(); }
     void unreadableDeviceIdIsSkipped();
     void idsAreComparedByteForByte_data();
     void idsAreComparedByteForByte();
-    void vendorIsUtf8UpToItsFirstNul();
+    void vendorIsDecodedAsUtf8UpToItsFirstNul();
 
-    // The selected device
-    void withoutAMatchTheSelectedDeviceReportsTheVendor();
-    void unreadableVendorEndsTheSearchAndIsReadAgain_data() { addFailures(); }
-    void unreadableVendorEndsTheSearchAndIsReadAgain();
-    void missingFeatureLeavesTheSelectedDevice_data();
-    void missingFeatureLeavesTheSelectedDevice();
-    void failedCallLeavesTheSelectedDevice_data();
-    void failedCallLeavesTheSelectedDevice();
-    void emptyRangeLeavesTheSelectedDevice();
+    // These tests use the vendor of the selected device.
+    void vendorOfTheSelectedDeviceIsUsedIfNoIdMatches();
+    void unreadableVendorIsReadOnceMore_data() { addFailures(); }
+    void unreadableVendorIsReadOnceMore();
+    void missingFeatureDoesNotChangeTheSelectedDevice_data();
+    void missingFeatureDoesNotChangeTheSelectedDevice();
+    void failedCallDoesNotChangeTheSelectedDevice_data();
+    void failedCallDoesNotChangeTheSelectedDevice();
+    void emptyRangeDoesNotChangeTheSelectedDevice();
 
-    // No vendor
+    // These tests find no vendor.
     void missingVendorFeatureLeavesTheVendorEmpty();
     void unreadableVendorOfTheSelectedDeviceLeavesTheVendorEmpty_data() { addFailures(); }
     void unreadableVendorOfTheSelectedDeviceLeavesTheVendorEmpty();
@@ -78,7 +78,7 @@ private slots:
     void cameraWithoutAnIdHasNoVendor();
 };
 
-void TestCameraVendor::eachCameraOfAnInterfaceGetsItsOwnVendor()
+void TestCameraVendor::eachCameraOfAnInterfaceHasItsOwnVendor()
 {
     CameraRecord first;
     first.id = "a";
@@ -110,7 +110,7 @@ void TestCameraVendor::firstMatchEndsTheSearch()
     QCOMPARE(selectedValues(), (QVector<long>{0, 1, 2}));
 }
 
-void TestCameraVendor::rangeIsInclusive_data()
+void TestCameraVendor::selectorRangeIsInclusive_data()
 {
     QTest::addColumn<qlonglong>("position");
     QTest::newRow("at the smallest value") << -2LL;
@@ -118,7 +118,7 @@ void TestCameraVendor::rangeIsInclusive_data()
     QTest::newRow("at the largest value") << 3LL;
 }
 
-void TestCameraVendor::rangeIsInclusive()
+void TestCameraVendor::selectorRangeIsInclusive()
 {
     QFETCH(qlonglong, position);
     const auto iface = std::make_shared<InterfaceRecord>();
@@ -127,16 +127,16 @@ void TestCameraVendor::rangeIsInclusive()
     iface->min = -2;
     iface->max = 3;
     QCOMPARE(vendorOf("b", iface), brightline);
-    // A value that cannot be set is skipped, although the device that stays selected matches.
+    // The search skips a value that cannot be set, although the device that stays selected has this ID.
     QCOMPARE(selectedValues(), (QVector<long>{-2, -1, 0, 1, 2, 3}).mid(0, int(position) + 3));
 }
 
-void TestCameraVendor::rangeUpToTheLargestValueEnds()
+void TestCameraVendor::searchEndsAtTheLargestPossibleValue()
 {
     const auto iface = std::make_shared<InterfaceRecord>();
     iface->devices[LONG_MAX] = {"c", "Brightline"};
     iface->min = LONG_MAX - 1;
-    QCOMPARE(vendorOf("a", iface), brightline); // The search found no match and ended on this device.
+    QCOMPARE(vendorOf("a", iface), brightline); // The search found no match and ended at this device.
     QCOMPARE(selectedValues(), (QVector<long>{LONG_MAX - 1, LONG_MAX}));
 }
 
@@ -166,20 +166,20 @@ void TestCameraVendor::idsAreComparedByteForByte()
     QTEST(vendorOf("cam-\xfe", iface), "vendor");
 }
 
-void TestCameraVendor::vendorIsUtf8UpToItsFirstNul()
+void TestCameraVendor::vendorIsDecodedAsUtf8UpToItsFirstNul()
 {
     const auto iface = makeInterface({{"a", std::string("M\xc3\xbcller\0rest", 12)}});
     QCOMPARE(vendorOf("a", iface), QStringLiteral("M\u00fcller"));
 }
 
-void TestCameraVendor::withoutAMatchTheSelectedDeviceReportsTheVendor()
+void TestCameraVendor::vendorOfTheSelectedDeviceIsUsedIfNoIdMatches()
 {
-    // Intended, although it is the vendor of another device: the search ended on the last one.
+    // Intended: the vendor belongs to another device, because the search ended at the last device.
     QCOMPARE(vendorOf("c", twoDevices()), brightline);
     QCOMPARE(selectedValues(), (QVector<long>{0, 1}));
 }
 
-void TestCameraVendor::unreadableVendorEndsTheSearchAndIsReadAgain()
+void TestCameraVendor::unreadableVendorIsReadOnceMore()
 {
     QFETCH(Failure, failure);
     failReads(Function::GetValue, "DeviceVendorName", failure, 1, 1);
@@ -187,7 +187,7 @@ void TestCameraVendor::unreadableVendorEndsTheSearchAndIsReadAgain()
     QCOMPARE(selectedValues(), (QVector<long>{0}));
 }
 
-void TestCameraVendor::missingFeatureLeavesTheSelectedDevice_data()
+void TestCameraVendor::missingFeatureDoesNotChangeTheSelectedDevice_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("command") << QByteArray("DeviceUpdateList");
@@ -195,7 +195,7 @@ void TestCameraVendor::missingFeatureLeavesTheSelectedDevice_data()
     QTest::newRow("ID") << QByteArray("DeviceID");
 }
 
-void TestCameraVendor::missingFeatureLeavesTheSelectedDevice()
+void TestCameraVendor::missingFeatureDoesNotChangeTheSelectedDevice()
 {
     QFETCH(QByteArray, name);
     const auto iface = twoDevices();
@@ -204,14 +204,14 @@ void TestCameraVendor::missingFeatureLeavesTheSelectedDevice()
     QCOMPARE(callCount(Function::RunCommand), std::size_t(0));
 }
 
-void TestCameraVendor::failedCallLeavesTheSelectedDevice_data()
+void TestCameraVendor::failedCallDoesNotChangeTheSelectedDevice_data()
 {
     QTest::addColumn<Function>("function");
     QTest::newRow("command") << Function::RunCommand;
     QTest::newRow("range") << Function::GetRange;
 }
 
-void TestCameraVendor::failedCallLeavesTheSelectedDevice()
+void TestCameraVendor::failedCallDoesNotChangeTheSelectedDevice()
 {
     QFETCH(Function, function);
     script().errors[function] = CvxErrorFailed;
@@ -219,7 +219,7 @@ void TestCameraVendor::failedCallLeavesTheSelectedDevice()
     QCOMPARE(selectedValues(), QVector<long>());
 }
 
-void TestCameraVendor::emptyRangeLeavesTheSelectedDevice()
+void TestCameraVendor::emptyRangeDoesNotChangeTheSelectedDevice()
 {
     const auto iface = twoDevices();
     iface->min = 1;

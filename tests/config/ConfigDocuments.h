@@ -8,7 +8,7 @@
 
 #include <initializer_list>
 
-/// Builders for the three configuration documents.
+/// These functions build the three configuration documents.
 namespace ConfigDocuments {
 
 inline QString operator""_s(const char *string, std::size_t size)
@@ -38,13 +38,13 @@ inline QJsonObject group(const char *type, std::initializer_list<QJsonValue> too
     return {{"type"_s, latin1(type)}, {"name"_s, latin1(type).toUpper()}, {"tools"_s, QJsonArray(tools)}};
 }
 
-/// Returns the launcher configuration.
+/// Returns a launcher configuration with these groups.
 inline QJsonObject groups(std::initializer_list<QJsonValue> objects)
 {
     return {{"version"_s, "1.0"_s}, {"hardwareGroups"_s, QJsonArray(objects)}};
 }
 
-/// Returns a launcher configuration with all five groups, without tools.
+/// Returns a launcher configuration with all five groups. The groups have no tools.
 inline QJsonObject allGroups()
 {
     return groups(
@@ -58,7 +58,7 @@ struct Row
     const char *thumbnail = "assets/cameras/some.png";
 };
 
-/// Returns the cameras reference.
+/// Returns a document of reference cameras with these rows.
 inline QJsonObject references(std::initializer_list<Row> rows)
 {
     QJsonArray cameras;
@@ -69,7 +69,7 @@ inline QJsonObject references(std::initializer_list<Row> rows)
     return {{"version"_s, "1.0"_s}, {"cameras"_s, cameras}};
 }
 
-/// Returns the compatibility table with one model.
+/// Returns a compatibility table that contains only this model with its tools.
 inline QJsonObject compatibility(const char *model, const QStringList &tools)
 {
     const QJsonObject entry{{"tools"_s, QJsonArray::fromStringList(tools)}, {"notes"_s, "Ignored."_s}};

@@ -22,10 +22,11 @@ EmbeddedFiles::EmbeddedFiles(const QMap<QString, QByteArray> &files)
         {QStringLiteral("--binary"), QStringLiteral("--output"), m_bundle, collection});
     if (result != 0 || !QResource::registerResource(m_bundle))
         qFatal("Cannot embed %s", qUtf8Printable(collection));
-    QPixmapCache::clear(); // Its key is the path and the time stamp, which two bundles may share.
+    // The cache identifies a picture by its path and time stamp, which can be equal in two bundles.
+    QPixmapCache::clear();
 }
 
 EmbeddedFiles::~EmbeddedFiles()
 {
-    QResource::unregisterResource(m_bundle); // Does nothing if there were no files.
+    QResource::unregisterResource(m_bundle); // This call does nothing if there were no files.
 }

@@ -5,12 +5,12 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// Embeds files below ":/" during its lifetime. They replace the shipped ones, so the test must not link
-/// those.
+/// Embeds files below ":/" during its lifetime. A test that embeds files must not link the shipped files,
+/// which have the same paths.
 class EmbeddedFiles
 {
 public:
-    /// Contents by path, for example "config/launcher_config.json".
+    /// `files` maps a path, for example "config/launcher_config.json", to the content of the file.
     explicit EmbeddedFiles(const QMap<QString, QByteArray> &files);
     ~EmbeddedFiles();
 

@@ -7,17 +7,17 @@
 
 using namespace ConfigDocuments;
 
-/// The hardware group and the picture of a camera.
+/// Tests which hardware group and which picture a camera has.
 class TestCameraMatching : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void groupAndPicture_data();
-    void groupAndPicture();
+    void groupAndPictureDependOnTheFieldsOfTheCamera_data();
+    void groupAndPictureDependOnTheFieldsOfTheCamera();
     void groupThatIsNotConfiguredIsEmpty_data();
     void groupThatIsNotConfiguredIsEmpty();
-    void typesAreNotLowerCased();
+    void typesAreCaseSensitive();
     void invalidReferenceRowIsSkippedWithAWarning_data();
     void invalidReferenceRowIsSkippedWithAWarning();
     void firstSevenCharactersOfThePathAreReplaced_data();
@@ -50,7 +50,7 @@ LauncherConfig configured(const QJsonObject &groups, const QJsonObject &rows)
 
 } // namespace
 
-void TestCameraMatching::groupAndPicture_data()
+void TestCameraMatching::groupAndPictureDependOnTheFieldsOfTheCamera_data()
 {
     QTest::addColumn<QString>("vendor");
     QTest::addColumn<QString>("model");
@@ -71,7 +71,7 @@ void TestCameraMatching::groupAndPicture_data()
     add("simulator of another vendor", "Some Vendor", "Simulator", "other", placeholder);
     add("simulator of another vendor in a row", "Some Vendor", "Odd Simulator", "other", placeholder);
     add("kordane", "KORDANE", "anything", "highres", placeholder);
-    // Intended: the type of a picture's row is not compared with the camera's group.
+    // Intended: the type of the picture's row may differ from the camera's group.
     add("kordane before reference row", "kordane optics", "Kx200 5MP", "highres", kx200);
     add("kordane with a simulator", "Kordane", "Simulator", "highres", odd);
     add("kordane before lintaro", "Lintaro Kordane", "Qz10", "highres", qz10);
@@ -85,7 +85,8 @@ void TestCameraMatching::groupAndPicture_data()
     add("reference row, no vendor", "", "hx-2040m", "highres", hx);
     add("reference row before orvelle", "Orvelle", "Qz10-4k", "linescan", qz10);
     add("orvelle with an unknown model", "Orvelle", "Nova 7", "areascan", logo);
-    // Intended: for the picture it also matches if the row contains the model. The longest row comes first.
+    // Intended: a row's picture is also used if the row contains the camera's model. The longest row comes
+    // first.
     add("no model", "orvelle", "", "areascan", odd);
     add("model is a part of two rows", "Orvelle", "Kx2", "areascan", kx200Pro);
     add("model equals the shorter of two rows", "Orvelle", "Kx200", "areascan", kx200Pro);
@@ -99,7 +100,7 @@ void TestCameraMatching::groupAndPicture_data()
     add("no vendor and no model", "", "", "other", placeholder);
 }
 
-void TestCameraMatching::groupAndPicture()
+void TestCameraMatching::groupAndPictureDependOnTheFieldsOfTheCamera()
 {
     QFETCH(QString, vendor);
     QFETCH(QString, model);
@@ -127,18 +128,20 @@ void TestCameraMatching::groupThatIsNotConfiguredIsEmpty_data()
                            << "Nova"_s;
 }
 
-// The first four cameras match a later test as well.
+// The first four cameras match a later rule as well, but their group stays empty.
 void TestCameraMatching::groupThatIsNotConfiguredIsEmpty()
 {
     QFETCH(QString, vendor);
     QFETCH(QString, model);
     const LauncherConfig config = configured(groups({group("areascan")}), exampleRows());
     QCOMPARE(config.findGroupForCamera(camera(vendor, model)).type, QString());
-    QCOMPARE(config.findThumbnailForCamera(camera(vendor, model)), placeholder); // Despite the row.
+    // The reference rows do not matter.
+    QCOMPARE(config.findThumbnailForCamera(camera(vendor, model)), placeholder);
 }
 
-// Intended: a row's type is a key as it stands, and only the lower-case group types have a fixed picture.
-void TestCameraMatching::typesAreNotLowerCased()
+// Intended: a row's type is looked up without converting it to lower case. Only group types that are written
+// in lower case have a fixed picture.
+void TestCameraMatching::typesAreCaseSensitive()
 {
     const LauncherConfig lowerCase = configured(allGroups(), references({{"Kx200", "AreaScan"}}));
     QCOMPARE(lowerCase.findGroupForCamera(camera("Orvelle"_s, "Kx200"_s)).type, QString());
@@ -180,7 +183,7 @@ void TestCameraMatching::invalidReferenceRowIsSkippedWithAWarning()
         QStringList{"Invalid entry in cameras_reference.json file ("_s + fields + ")"_s});
     QCOMPARE(log.entries().size(), 1);
     QCOMPARE(config.findThumbnailForCamera(camera("Orvelle"_s, "12"_s)), logo);
-    QCOMPARE(config.findThumbnailForCamera(camera("Orvelle"_s, "Kx200"_s)), kx200); // From the next row.
+    QCOMPARE(config.findThumbnailForCamera(camera("Orvelle"_s, "Kx200"_s)), kx200); // The next row is valid.
 }
 
 void TestCameraMatching::firstSevenCharactersOfThePathAreReplaced_data()
@@ -193,7 +196,7 @@ void TestCameraMatching::firstSevenCharactersOfThePathAreReplaced_data()
     QTest::newRow("fewer characters") << QByteArray("kx.png") << ":/images/"_s;
 }
 
-// Intended: they are not compared with "assets/".
+// Intended: the first seven characters are replaced even if they are not "assets/".
 void TestCameraMatching::firstSevenCharactersOfThePathAreReplaced()
 {
     QFETCH(QByteArray, thumbnail);

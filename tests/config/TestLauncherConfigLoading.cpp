@@ -17,12 +17,12 @@ private slots:
     void versionsOfTheFirstTwoDocumentsMustBeEqual_data();
     void versionsOfTheFirstTwoDocumentsMustBeEqual();
     void mismatchMessageIsTranslated();
-    void unusableDocumentIsReplaced_data();
-    void unusableDocumentIsReplaced();
+    void unusableDocumentIsReplacedByAnEmptyOne_data();
+    void unusableDocumentIsReplacedByAnEmptyOne();
     void everyFieldIsRead();
-    void valueOfAnotherTypeReadsEmpty_data();
-    void valueOfAnotherTypeReadsEmpty();
-    void groupsThatDifferInLetterCaseReplaceEachOther();
+    void valueOfTheWrongTypeReadsAsEmpty_data();
+    void valueOfTheWrongTypeReadsAsEmpty();
+    void laterGroupReplacesAGroupThatDiffersOnlyInLetterCase();
     void groupsAndToolsAreNotValidated();
     void parsingKeepsEarlierContents();
 };
@@ -42,7 +42,7 @@ QMap<QString, QByteArray> usableDocuments()
         {compatibilityPath, json(compatibility("HX-1", {"viewer"_s}))}};
 }
 
-/// Sets the version; null makes the document unusable instead.
+/// Sets the version of the document. A null version makes the document unusable instead.
 void setVersion(QByteArray &document, const QJsonValue &version)
 {
     QJsonObject object = QJsonDocument::fromJson(document).object();
@@ -50,7 +50,7 @@ void setVersion(QByteArray &document, const QJsonValue &version)
     document = version.isNull() ? QByteArray("{") : json(object);
 }
 
-/// Loads the documents and returns the names of those whose contents are then in the configuration.
+/// Loads the documents and returns the names of the documents whose contents were loaded.
 QString loadedDocuments(const QMap<QString, QByteArray> &documents)
 {
     const EmbeddedFiles files(documents);
@@ -66,7 +66,7 @@ QString loadedDocuments(const QMap<QString, QByteArray> &documents)
     return names.join(QLatin1Char(' '));
 }
 
-/// Returns the group "other" of the document.
+/// Parses this group, whose type has to be "other", and returns the result.
 HardwareGroupConfig parsedGroup(const QJsonObject &group)
 {
     LauncherConfig config;
@@ -105,7 +105,7 @@ void TestLauncherConfigLoading::versionsOfTheFirstTwoDocumentsMustBeEqual()
     QMap<QString, QByteArray> documents = usableDocuments();
     setVersion(documents[groupsPath], groupsVersion);
     setVersion(documents[referencePath], referenceVersion);
-    setVersion(documents[compatibilityPath], "7.3"_s); // Intended: not compared.
+    setVersion(documents[compatibilityPath], "7.3"_s); // Intended: this version does not matter.
     const MessageLog log;
     QCOMPARE(loadedDocuments(documents), equal ? everything : QString());
     QCOMPARE(log.texts(QtCriticalMsg), equal ? QStringList() : QStringList{mismatch});
@@ -121,15 +121,16 @@ void TestLauncherConfigLoading::mismatchMessageIsTranslated()
     QCOMPARE(log.texts(QtCriticalMsg), QStringList{"[LauncherConfig] "_s + mismatch});
 }
 
-void TestLauncherConfigLoading::unusableDocumentIsReplaced_data()
+void TestLauncherConfigLoading::unusableDocumentIsReplacedByAnEmptyOne_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("loaded");
-    const QMap<QString, QString> loaded{{groupsPath, "compatibility"_s}, // The rows have no group.
+    // The reference rows have no effect without groups.
+    const QMap<QString, QString> loaded{{groupsPath, "compatibility"_s},
         {referencePath, "groups compatibility"_s}, {compatibilityPath, "groups references"_s}};
     const QMap<QByteArray, QByteArray> contents{{"missing", "MISSING"}, {"empty", ""},
-        {"cut off", "{\"version\": \"9\", \"cameras\": ["}, {"text behind it", "{} x"},
+        {"cut off", "{\"version\": \"9\", \"cameras\": ["}, {"text after the object", "{} x"},
         {"array", "[{\"version\": \"9\"}]"}, {"null", "null"}, {"other root keys", "{\"version\": \"1.0\"}"},
         {"list of another type", "{\"version\": \"1.0\", \"hardwareGroups\": 7, \"cameras\": \"x\"}"}};
     for (const QString &path : {groupsPath, referencePath, compatibilityPath}) {
@@ -140,7 +141,7 @@ void TestLauncherConfigLoading::unusableDocumentIsReplaced_data()
     }
 }
 
-void TestLauncherConfigLoading::unusableDocumentIsReplaced()
+void TestLauncherConfigLoading::unusableDocumentIsReplacedByAnEmptyOne()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, content);
@@ -156,10 +157,11 @@ void TestLauncherConfigLoading::unusableDocumentIsReplaced()
 void TestLauncherConfigLoading::everyFieldIsRead()
 {
     QJsonObject setupObject = tool("setup", "bin/Setup", {}, {"USB"_s, "GigE"_s});
-    setupObject.insert("platforms"_s, QJsonArray{"win32"_s, 7, "linux"_s}); // The number reads as empty.
+    // The number is read as an empty string.
+    setupObject.insert("platforms"_s, QJsonArray{"win32"_s, 7, "linux"_s});
     QJsonObject groupObject = group("other", {setupObject, tool("viewer")});
     groupObject.insert("brand"_s, "Brand"_s);
-    groupObject.insert("description"_s, "Ä €"_s); // Encoded as UTF-8 in the document.
+    groupObject.insert("description"_s, "Ä €"_s); // The document is encoded in UTF-8.
     const EmbeddedFiles files({{groupsPath, json(groups({groupObject}))}});
     LauncherConfig config;
     config.load();
@@ -176,7 +178,7 @@ void TestLauncherConfigLoading::everyFieldIsRead()
     QCOMPARE(group.tools.at(1).platforms + group.tools.at(1).transports, QStringList());
 }
 
-void TestLauncherConfigLoading::valueOfAnotherTypeReadsEmpty_data()
+void TestLauncherConfigLoading::valueOfTheWrongTypeReadsAsEmpty_data()
 {
     QTest::addColumn<QJsonValue>("value");
     QTest::newRow("missing") << QJsonValue(QJsonValue::Undefined);
@@ -186,8 +188,8 @@ void TestLauncherConfigLoading::valueOfAnotherTypeReadsEmpty_data()
     QTest::newRow("object") << QJsonValue(QJsonObject{{"x"_s, "x"_s}});
 }
 
-// Every field of the tool and of the group has the value, except for the group's tools.
-void TestLauncherConfigLoading::valueOfAnotherTypeReadsEmpty()
+// All fields of the tool and of the group have this value, except for the type and the tools of the group.
+void TestLauncherConfigLoading::valueOfTheWrongTypeReadsAsEmpty()
 {
     QFETCH(QJsonValue, value);
     QJsonObject toolObject;
@@ -204,13 +206,13 @@ void TestLauncherConfigLoading::valueOfAnotherTypeReadsEmpty()
     QCOMPARE(parsedGroup({{"type"_s, "other"_s}, {"tools"_s, value}}).tools.size(), 0);
 }
 
-void TestLauncherConfigLoading::groupsThatDifferInLetterCaseReplaceEachOther()
+void TestLauncherConfigLoading::laterGroupReplacesAGroupThatDiffersOnlyInLetterCase()
 {
     LauncherConfig config;
     config.parseConfig(
         groups({group("AreaScan", {tool("earlier")}), group("AREASCAN", {tool("later")})}), {}, {});
     const HardwareGroupConfig group = config.findGroupForCamera(camera("Orvelle"_s, {}));
-    QCOMPARE(group.type, "AREASCAN"_s); // Only the key is in lower case.
+    QCOMPARE(group.type, "AREASCAN"_s); // Only the key in the map is in lower case.
     QCOMPARE(group.tools.value(0).id, "later"_s);
     QCOMPARE(config.allTools({}).size(), 1);
 }
@@ -220,7 +222,8 @@ void TestLauncherConfigLoading::groupsAndToolsAreNotValidated()
     LauncherConfig config;
     config.parseConfig(groups({group("", {tool("")})}), {}, {});
     QCOMPARE(config.allTools({}).size(), 1);
-    config.parseConfig(groups({17}), {}, {}); // Replaces the group, whose type is empty as well.
+    // The new group replaces the first one, because both types are empty.
+    config.parseConfig(groups({17}), {}, {});
     QCOMPARE(config.allTools({}).size(), 0);
 }
 

@@ -11,13 +11,13 @@ class TestToolRecommendation : public QObject
     Q_OBJECT
 
 private slots:
-    void listedTools_data();
-    void listedTools();
-    void toolFitsTransportAndPlatform_data();
-    void toolFitsTransportAndPlatform();
-    void idsAreRecommendedOnceAndWithoutATile();
-    void toolFitsTheModel_data();
-    void toolFitsTheModel();
+    void allToolsReturnsTheToolsOfThePlatform_data();
+    void allToolsReturnsTheToolsOfThePlatform();
+    void toolFitDependsOnTransportAndPlatform_data();
+    void toolFitDependsOnTransportAndPlatform();
+    void toolIdIsRecommendedOnceEvenIfItsToolHasNoTile();
+    void toolFitDependsOnTheCompatibilityTable_data();
+    void toolFitDependsOnTheCompatibilityTable();
     void everyToolFitsWithoutACompatibilityTable();
 };
 
@@ -27,7 +27,7 @@ const QString linux64 = "linux_x86_64"_s;
 
 } // namespace
 
-void TestToolRecommendation::listedTools_data()
+void TestToolRecommendation::allToolsReturnsTheToolsOfThePlatform_data()
 {
     QTest::addColumn<QJsonObject>("document");
     QTest::addColumn<QString>("platform");
@@ -51,18 +51,19 @@ void TestToolRecommendation::listedTools_data()
     const QJsonObject hiding = groups({group("areascan", {tool("update", "bin/Update", {"win32"_s})}),
         group("linescan", {tool("update", "bin/Update"), tool("tuner", "bin/Tuner")})});
     add("tool of another platform hides its executable in later groups", hiding, linux64,
-        "tuner"); // Intended.
+        "tuner"); // Intended: duplicates are removed before hidden tools.
     add("same tools on that platform", hiding, "win32"_s, "update tuner");
     const QJsonObject limited
         = groups({group("other", {tool("a", "bin/A", {"win32"_s, linux64}), tool("b", "bin/B")})});
     add("platform in the list", limited, linux64, "a b");
-    add("platform in another letter case", limited, "Linux_x86_64"_s, "b"); // Intended.
+    add("platform in another letter case", limited, "Linux_x86_64"_s,
+        "b"); // Intended: the letter case matters.
     add("part of the platform", limited, "linux_x86"_s, "b");
     add("empty platform", limited, {}, "b");
     add("empty configuration", {}, linux64, "");
 }
 
-void TestToolRecommendation::listedTools()
+void TestToolRecommendation::allToolsReturnsTheToolsOfThePlatform()
 {
     QFETCH(QJsonObject, document);
     QFETCH(QString, platform);
@@ -74,7 +75,7 @@ void TestToolRecommendation::listedTools()
     QTEST(ids.join(QLatin1Char(' ')), "ids");
 }
 
-void TestToolRecommendation::toolFitsTransportAndPlatform_data()
+void TestToolRecommendation::toolFitDependsOnTransportAndPlatform_data()
 {
     QTest::addColumn<QStringList>("transports");
     QTest::addColumn<QString>("interfaceType");
@@ -99,13 +100,13 @@ void TestToolRecommendation::toolFitsTransportAndPlatform_data()
     const QStringList both{"win32"_s, linux64};
     platform("empty, with an empty list", {}, {}, true);
     platform("in the list", both, linux64, true);
-    platform("in another letter case", both, "LINUX_X86_64"_s, true); // Intended, unlike the listed tools.
+    platform("in another letter case", both, "LINUX_X86_64"_s, true); // Intended: the letter case is ignored.
     platform("not in the list", both, "linux_arm64"_s, false);
     platform("empty", both, {}, false);
     platform("empty, in the list", {QString()}, {}, false);
 }
 
-void TestToolRecommendation::toolFitsTransportAndPlatform()
+void TestToolRecommendation::toolFitDependsOnTransportAndPlatform()
 {
     QFETCH(QStringList, transports);
     QFETCH(QString, interfaceType);
@@ -118,7 +119,7 @@ void TestToolRecommendation::toolFitsTransportAndPlatform()
     QTEST(config.recommendedToolsIdsForCamera(group, info, platform).contains("t"_s), "recommended");
 }
 
-void TestToolRecommendation::idsAreRecommendedOnceAndWithoutATile()
+void TestToolRecommendation::toolIdIsRecommendedOnceEvenIfItsToolHasNoTile()
 {
     LauncherConfig config;
     config.parseConfig(groups({group("areascan", {tool("hiding", "bin/Same")}),
@@ -128,7 +129,7 @@ void TestToolRecommendation::idsAreRecommendedOnceAndWithoutATile()
         QSet<QString>({"t"_s, "v"_s}));
 }
 
-void TestToolRecommendation::toolFitsTheModel_data()
+void TestToolRecommendation::toolFitDependsOnTheCompatibilityTable_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QString>("toolId");
@@ -153,7 +154,7 @@ void TestToolRecommendation::toolFitsTheModel_data()
     add("not listed, group type in another letter case", "HX-2040M", "flat-field", true, "HighRes");
 }
 
-void TestToolRecommendation::toolFitsTheModel()
+void TestToolRecommendation::toolFitDependsOnTheCompatibilityTable()
 {
     QFETCH(QString, model);
     QFETCH(QString, toolId);

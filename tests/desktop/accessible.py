@@ -1,4 +1,4 @@
-"""What a screen reader learns of a program, over AT-SPI. Needs the buses of with-screen-reader-bus."""
+"""Reads a program over AT-SPI as a screen reader does. The functions need the buses of with-screen-reader-bus."""
 
 import gi
 
@@ -12,7 +12,7 @@ BUTTON, TABLE = Atspi.Role.PUSH_BUTTON, Atspi.Role.TABLE
 
 
 def application_of(process):
-    """Waits until a process is on the bus, and returns its application."""
+    """Waits until a process is registered on the accessibility bus, and returns its application object."""
     Atspi.init()
     desktop = Atspi.get_desktop(0)
     desktop.set_cache_mask(Atspi.Cache.NONE)

@@ -1,4 +1,4 @@
-"""The common base of the desktop tests: an installation for each test, the launcher in it, and a pointer."""
+"""The common base of the desktop tests. Each test has its own installation and operates the launcher with a pointer."""
 
 import os
 import shutil
@@ -10,22 +10,24 @@ from launcher import Launcher, descendants, soon, wait_for, xdotool
 from screen import changed_share, grab, load, mean_difference
 
 STAGE, PLUGINS = os.environ["CORVIX_STAGE"], os.environ["CORVIX_PLUGINS"]
-ASIDE = (2, 2)  # The pointer touches nothing there.
-CAMERAS = 8  # of the simulator
-BACKGROUND = "#0f1419"  # of the window
-DESKTOP = "#b9c6d2"  # The background that script/with-desktop sets.
+ASIDE = (2, 2)  # No window is at this position, so the pointer has no effect.
+CAMERAS = 8  # The simulator reports this many cameras.
+BACKGROUND = "#0f1419"  # The background colour of the window.
+DESKTOP = "#b9c6d2"  # The background colour that script/with-desktop sets.
 HERE = os.path.dirname(os.path.abspath(__file__))
 SOURCES = f"{HERE}/../.."
 IMAGES = f"{SOURCES}/resources/images"
 
 
 class Installation:
-    """A copy of the staged installation. It consists of hard links: files are replaced and never written to."""
+    """A copy of the staged installation. The copy consists of hard links, so tests replace files and never write to
+    them."""
 
     def __init__(self):
         self.root = tempfile.mkdtemp(dir=os.path.dirname(STAGE))
         shutil.copytree(STAGE, self.root, symlinks=True, copy_function=os.link, dirs_exist_ok=True)
-        shutil.rmtree(self.path("cti/fallback"), ignore_errors=True)  # These producers search real networks and buses.
+        # The producers in this directory would search real networks and buses.
+        shutil.rmtree(self.path("cti/fallback"), ignore_errors=True)
         os.mkdir(self.path("programs"))
 
     def path(self, name):
@@ -41,7 +43,7 @@ class Installation:
         os.chmod(self.path("programs/xdg-open"), 0o755)
 
     def opened(self):
-        """Waits for the next line of xdg-open, and removes it."""
+        """Waits until xdg-open has been started, and returns the recorded lines. Each line is returned only once."""
         record = self.path("opened")
         wait_for("xdg-open is started", lambda: os.path.exists(record) and os.path.getsize(record))
         with open(record, encoding="utf-8") as file:
@@ -51,7 +53,8 @@ class Installation:
 
 
 class DesktopLauncher(Launcher):
-    """The launcher, operated with a pointer. A target is a widget's name, a node, or a place in device pixels."""
+    """Operates the launcher with a pointer. A target is a widget's object name, a node, or a position in device
+    pixels."""
 
     scale = 1
 
@@ -85,7 +88,7 @@ class DesktopLauncher(Launcher):
         return self.place({"onScreen": (left + x, top + y, width, height)})
 
     def wait_until_listed(self, cameras=CAMERAS):
-        # A window becomes active when it has reached its place.
+        # The window manager has already positioned an active window.
         wait_for("the cameras are listed", lambda: self.window()["active"] and self.find("refreshBtn")["enabled"]
                  and len(self.rows()) == cameras)
 
@@ -94,12 +97,12 @@ class DesktopLauncher(Launcher):
         wait_for("the row is selected", lambda: f"Recommended for {group}." in self.hint())
 
     def on_screen(self):
-        """Returns the X server's place and size of the main window, or None while it is not on the screen."""
+        """Returns the main window's position and size in the X server, or None while the window is not visible."""
         window = self.of_class("MainWindow")
         return window and x11.box_of(window)
 
     def active(self, name):
-        """Waits until a window of that class is active, and returns it."""
+        """Waits until a window of this class is active, and returns the window."""
         def active():
             window = self.of_class(name)
             return window if window and window["active"] else None
@@ -109,14 +112,14 @@ class DesktopLauncher(Launcher):
         return self.active("QMessageBox")
 
     def answer(self, box):
-        """Presses the button of a message box."""
+        """Presses the only button of a message box, and waits until the box has closed."""
         button, = [node for node in descendants(box) if node["class"] == "QPushButton" and node["text"]]
         self.click(button)
         wait_for("the box closes", lambda: not self.of_class("QMessageBox"))
 
     def opened_at(self, action, name):
-        """Returns the window of that class that an action opens. The action is repeated if no window appears: Qt
-        closes a menu when another window becomes active, and the X server loses a click in a thousand."""
+        """Runs an action until a window of this class opens, and returns the window. One attempt may not be enough: Qt
+        closes a menu when another window becomes active, and the X server loses one click in a thousand."""
         def opened():
             action()
             return soon(lambda: self.of_class(name), 5)
@@ -132,7 +135,7 @@ class DesktopLauncher(Launcher):
         return self.opened_at(point, "QTipLabel")
 
     def choose(self, menu, text):
-        """Clicks an entry of a menu as soon as the pointer highlights it."""
+        """Clicks an entry of a menu as soon as the pointer has highlighted the entry."""
         x, y, width, height = next(action["box"] for action in menu["actions"] if action["text"] == text)
         left, top, *_ = menu["onScreen"]
         entry = self.place({"onScreen": (left + x, top + y, width, height)})
@@ -144,13 +147,15 @@ class DesktopLauncher(Launcher):
         xdotool("click", 1)
 
     def close_menu(self):
-        """Closes the open menu, and waits until the X server has removed it: until then it receives every click."""
+        """Closes the open menu, and waits until the X server has removed the menu, which would otherwise receive the
+        next click."""
         menu = self.of_class("QMenu")
         xdotool("key", "Escape")
         wait_for("the menu closes", lambda: not x11.box_of(menu) and self.window()["active"])
 
     def tray_icon(self):
-        """Waits until the icon is drawn where the program believes it to be, and returns its node."""
+        """Waits until the screen shows the logo at the position that Qt reports for the tray icon. Returns the icon's
+        node."""
         logo = load(f"{IMAGES}/orvelle-logo.ico", DESKTOP, (24, 24))
 
         def drawn():
@@ -164,7 +169,8 @@ def texts_of(window):
 
 
 class DesktopTest(unittest.TestCase):
-    """Each test has an installation of its own, and leaves its last screen in a file that is named after it."""
+    """Creates an installation for each test. At the end of a test, the screen is saved in a file named after the
+    test."""
 
     launcher_class = DesktopLauncher
 
@@ -174,9 +180,9 @@ class DesktopTest(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.installation.root)
 
     def start_without_window(self, **environment):
-        """Starts the launcher, and returns it as soon as it shows anything."""
+        """Starts the launcher, and returns it as soon as any of its windows is visible."""
         given = {"PATH": f"{self.installation.path('programs')}:{os.environ['PATH']}",
-                 "DBUS_SESSION_BUS_ADDRESS": "disabled:",  # A session bus may offer another kind of tray.
+                 "DBUS_SESSION_BUS_ADDRESS": "disabled:",  # Through a session bus, Qt may find another kind of tray.
                  **environment}
         launcher = self.launcher_class(self.installation.root, PLUGINS, given)
         launcher.scale = float(environment.get("QT_SCALE_FACTOR", 1))
@@ -187,13 +193,13 @@ class DesktopTest(unittest.TestCase):
         return launcher
 
     def start(self, **environment):
-        """Starts the launcher, and returns it when it has listed its cameras."""
+        """Starts the launcher, and returns it when the table shows the cameras."""
         launcher = self.start_without_window(**environment)
         launcher.wait_until_listed()
         return launcher
 
     def start_with_box(self):
-        """Returns the launcher and the message box about a missing tool."""
+        """Starts the launcher and clicks a tool that is not installed. Returns the launcher and its message box."""
         self.installation.remove("bin/ImageViewer")
         launcher = self.start()
         launcher.select(0, "Area Scan Cameras")
@@ -208,8 +214,8 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(launcher.printed(), "")
 
     def assert_matches(self, name, grabbed):
-        """Compares the screen with a reference picture, apart from the rounding at the edges of glyphs. The reference
-        is replaced if CORVIX_UPDATE_REFERENCES is set."""
+        """Fails if the screen differs from a reference picture. Small differences at the edges of glyphs are allowed.
+        If CORVIX_UPDATE_REFERENCES is set, the reference picture is replaced first."""
         file = f"{HERE}/references/{name}.png"
         if "CORVIX_UPDATE_REFERENCES" in os.environ:
             wait_for("the screen is still", lambda: grabbed().tobytes() == grabbed().tobytes())

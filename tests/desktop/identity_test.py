@@ -1,4 +1,4 @@
-"""How a task bar recognises the windows: by their class, their group and their icon."""
+"""Checks how a task bar recognises the windows: by class, group and icon."""
 
 import unittest
 
@@ -9,7 +9,7 @@ from screen import load, mean_difference
 
 
 def icons_of(window):
-    """Returns the icons on black, by their sizes."""
+    """Returns the icons of a window on a black background, by size."""
     numbers, icons = x11.property_of(window, "_NET_WM_ICON"), {}
     while numbers:
         size, numbers = tuple(numbers[:2]), numbers[2:]
@@ -22,7 +22,7 @@ def icons_of(window):
 
 
 class Identity(DesktopTest):
-    def test_boxes_belong_to_the_window(self):
+    def test_message_box_has_the_class_and_group_of_the_main_window(self):
         launcher = self.start()
         window = launcher.window()
         self.assertEqual(x11.window_of(window).get_wm_class(), ("CorvixLauncher", "CorvixLauncher"))
@@ -32,7 +32,7 @@ class Identity(DesktopTest):
         self.assertTrue(x11.property_of(window, "WM_CLIENT_LEADER"))
         self.assertEqual(x11.property_of(box, "WM_CLIENT_LEADER"), x11.property_of(window, "WM_CLIENT_LEADER"))
 
-    def test_the_window_has_the_icon_in_every_size(self):
+    def test_window_has_an_icon_in_every_size(self):
         icons = icons_of(self.start().window())
         for length in 16, 24, 32, 48, 64, 128, 256:
             drawn = load(f"{IMAGES}/orvelle-logo.ico", "black", (length, length))

@@ -1,4 +1,4 @@
-"""What the window opens: a camera's directory, the documentation, the vendor's site, and Qt's notice."""
+"""Checks what the window opens: a producer's directory, the documentation, the vendor's site, and the box about Qt."""
 
 import unittest
 
@@ -6,7 +6,7 @@ from desktop import DesktopTest
 
 
 class Opening(DesktopTest):
-    def test_opener_gets_directory_documentation_and_site(self):
+    def test_xdg_open_receives_the_path_or_url_of_each_target(self):
         self.installation.record_openings()
         launcher = self.start()
         menu = launcher.menu_at(launcher.cell_place(0), button=3)
@@ -18,7 +18,7 @@ class Opening(DesktopTest):
         self.assertEqual(self.installation.opened(), ["https://www.orvelle.example"])
         self.assertIsNone(launcher.of_class("QMessageBox"))
 
-    def test_the_menu_opens_at_the_pointer_and_shows_qt_s_notice(self):
+    def test_menu_at_the_pointer_opens_the_box_about_qt(self):
         launcher = self.start()
         menu = launcher.menu_at("aboutQt_")
         self.assertEqual(tuple(menu["onScreen"][:2]), launcher.place("aboutQt_"))

@@ -1,4 +1,4 @@
-"""What a screen reader reads, and the order in which the keyboard reaches the controls."""
+"""Checks what a screen reader reads, and the order in which the Tab key reaches the controls."""
 
 import os
 import unittest
@@ -29,7 +29,7 @@ class UnderX(ReadingTest):
         self.launcher = self.start_readable()
         self.launcher.wait_until_listed()
 
-    def test_the_table_has_its_headers_and_cells(self):
+    def test_screen_reader_reads_the_headers_and_cells_of_the_table(self):
         table, = accessible.of_role(self.application, accessible.TABLE)
         self.assertEqual(table.get_name(), "Connected cameras")
         self.assertEqual([table.get_column_header(column).get_name() for column in range(table.get_n_columns())],
@@ -39,7 +39,7 @@ class UnderX(ReadingTest):
         self.launcher.select(4, "Line Scan Cameras")
         self.assertEqual(list(table.get_selected_rows()), [4])
 
-    def test_hint_tiles_and_boxes_are_readable(self):
+    def test_screen_reader_reads_the_hint_the_tiles_and_message_boxes(self):
         self.installation.remove("doc/index.html")
         self.launcher.select(4, "Line Scan Cameras")
         self.assertTrue(accessible.named(self.application, self.launcher.hint()))
@@ -54,18 +54,18 @@ class UnderX(ReadingTest):
         text = f"Unable to open documentation at:\nfile://{self.installation.path('doc/index.html')}"
         self.assertTrue(accessible.named(self.application, text))
 
-    def test_everything_that_takes_the_focus_has_a_name(self):
+    def test_every_focusable_control_has_a_name(self):
         focusable = [node for node in accessible.descendants(self.application)
                      if accessible.has(node, accessible.FOCUSABLE)]
         self.assertGreaterEqual(len(focusable), len(TAB_STOPS))
         self.assertEqual([node.get_role_name() for node in focusable if not node.get_name()], [])
 
-    def test_tab_goes_from_top_to_bottom_and_round_again(self):
+    def test_tab_key_cycles_through_the_controls_from_top_to_bottom(self):
         self.installation.record_openings()
         self.assertEqual(self.focused(), TAB_STOPS[0])
         for name in TAB_STOPS[1:] + TAB_STOPS[:1]:
             if self.focused() == LINK:
-                xdotool("key", "Tab")  # Qt stops twice at a label with a link: at its text, and at the link.
+                xdotool("key", "Tab")  # Qt focuses a label with a link twice: first the text, and then the link.
                 xdotool("key", "Return")
                 self.assertEqual(self.installation.opened(), ["https://www.orvelle.example"])
             before = self.focused()
@@ -74,13 +74,13 @@ class UnderX(ReadingTest):
                                       and self.focused()), name)
 
     def focused(self):
-        """Returns the name of the node with the focus, or an empty string."""
+        """Returns the name of the node that has the focus, or an empty string if no node has the focus."""
         return next((node.get_name() for node in accessible.descendants(self.application)
                      if accessible.has(node, accessible.FOCUSED)), "")
 
 
 class UnderWayland(ReadingTest):
-    def test_the_window_is_readable(self):
+    def test_screen_reader_reads_the_window_title(self):
         self.start_readable(DISPLAY="")
         self.assertTrue(accessible.named(self.application, "Corvix X - Application Launcher"))
 

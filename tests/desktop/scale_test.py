@@ -1,4 +1,4 @@
-"""At other scales of the screen everything is larger, fits its place, and is drawn at the full resolution."""
+"""Checks at larger scales that all widgets grow, fit into their parents, and are drawn at the full resolution."""
 
 import unittest
 
@@ -17,16 +17,16 @@ def lies_inside(box, holder):
 
 
 class Scale(DesktopTest):
-    def test_double(self):
+    def test_window_is_complete_and_sharp_at_double_scale(self):
         self.assert_scaled(2)
 
-    def test_one_and_a_quarter(self):
+    def test_window_is_complete_and_sharp_at_a_fractional_scale(self):
         self.assert_scaled(1.25)
 
     def assert_scaled(self, factor):
         launcher = self.start(QT_SCALE_FACTOR=str(factor))
         self.assertEqual(launcher.on_screen()[2:], (round(600 * factor), round(660 * factor)))
-        launcher.select(2, "High Resolution Cameras")  # It has the longest hint.
+        launcher.select(2, "High Resolution Cameras")  # This group has the longest hint.
         self.assert_all_fits(launcher.window())
         self.assertNotIn("QScrollBar", [node["class"] for node in descendants(launcher.find("toolsScroll"))])
 
@@ -40,7 +40,7 @@ class Scale(DesktopTest):
         self.assertGreaterEqual(launcher.tooltip_at(launcher.cell_place(0, 1))["onScreen"][2], 270)
         before = launcher.on_screen()
         launcher.drag("titleLabel", (40, 20))
-        # Qt rounds the window's place to whole units of the scale.
+        # Qt rounds the window's position to whole device-independent pixels.
         wait_for("the window follows", lambda: all(abs(now - then - by) <= factor for now, then, by
                                                    in zip(launcher.on_screen(), before, (40, 20, 0, 0))))
         wait_for("Qt knows the window's place", lambda: self.drawn(launcher, "pushButton_2")[:2]
@@ -58,13 +58,13 @@ class Scale(DesktopTest):
                 self.assertTrue(lies_inside(node["box"], holder["box"]), node)
 
     def drawn(self, launcher, name):
-        """Returns where the X server has a widget of the window."""
+        """Returns a widget's box in device pixels, relative to the window's position in the X server."""
         left, top, *_ = launcher.on_screen()
         x, y, *size = launcher.device(launcher.find(name)["box"])
         return left + x, top + y, *size
 
     def assert_sharp(self, box, file, background, factor):
-        """Fails if the screen shows a picture of the unscaled size that has been enlarged."""
+        """Fails if a picture on the screen was drawn at the unscaled size and then enlarged."""
         original = load(file, background)
         small = [round(length / factor) for length in box[2:]]
         sharp = original.resize(box[2:], Image.HAMMING)

@@ -1,17 +1,18 @@
-"""Pictures of the screen, and what to compare them with."""
+"""Takes pictures of the screen and compares pictures."""
 
 from PIL import Image, ImageChops, ImageGrab, ImageStat
 
 
 def grab(box=None):
-    """Returns a box of the screen, or the whole screen."""
+    """Returns a picture of a box of the screen, or of the whole screen."""
     if box:
         box = (box[0], box[1], box[0] + box[2], box[1] + box[3])
     return ImageGrab.grab(box, xdisplay="").convert("RGB")
 
 
 def load(file, background="white", size=None):
-    """Returns a picture file on a background. An icon file has a picture of each size."""
+    """Loads a picture file, and draws the picture on a background. From an icon file, the picture of the given size is
+    loaded."""
     picture = Image.open(file)
     if size and picture.format == "ICO":
         picture.size = size
@@ -24,7 +25,7 @@ def colour(picture, x=0, y=0):
 
 
 def box_of(picture, wanted):
-    """Returns the smallest box that contains every pixel of a colour, or None if there is none."""
+    """Returns the smallest box that contains every pixel of a colour, or None if no pixel has the colour."""
     difference = ImageChops.difference(picture, Image.new("RGB", picture.size, wanted))
     box = largest_channel(difference).point([255] + [0] * 255).getbbox()
     return (box[0], box[1], box[2] - box[0], box[3] - box[1]) if box else None
@@ -36,7 +37,7 @@ def largest_channel(picture):
 
 
 def changed_share(picture, other, tolerance=40):
-    """Returns the share of the pixels that differ by more than the tolerance in a channel."""
+    """Returns the share of the pixels that differ by more than the tolerance in at least one channel."""
     if picture.size != other.size:
         return 1.0
     histogram = largest_channel(ImageChops.difference(picture, other)).histogram()
@@ -44,7 +45,7 @@ def changed_share(picture, other, tolerance=40):
 
 
 def mean_difference(picture, other):
-    """Returns the mean difference of the channels, from 0 to 255."""
+    """Returns the mean difference over all channels, from 0 to 255."""
     if picture.size != other.size:
         return 255
     return sum(ImageStat.Stat(ImageChops.difference(picture, other)).mean) / 3

@@ -1,4 +1,4 @@
-"""The icon in a system tray."""
+"""Tests the launcher's icon in the system tray."""
 
 import unittest
 
@@ -13,7 +13,7 @@ class Tray(DesktopTest):
         launcher.click("pushButton")
         wait_for("the window leaves the screen", lambda: not launcher.on_screen() and not launcher.window()["active"])
 
-    def test_icon_shows_the_logo_and_restores_the_minimised_window(self):
+    def test_tray_icon_restores_the_minimised_window(self):
         launcher = self.start()
         self.assertEqual(launcher.tooltip_at(launcher.tray_icon())["text"], "Corvix X - Application Launcher")
         self.minimise(launcher)
@@ -25,20 +25,20 @@ class Tray(DesktopTest):
         launcher.choose(menu, "Show")
         wait_for("the window is back", launcher.on_screen)
 
-    def test_exit_ends_the_program_while_it_is_minimised(self):
+    def test_exit_entry_ends_the_minimised_program(self):
         launcher = self.start()
         self.minimise(launcher)
         launcher.choose(launcher.menu_at(launcher.tray_icon(), button=3), "Exit")
         self.assert_ends(launcher)
 
-    def test_closing_the_window_removes_the_icon(self):
+    def test_closing_the_window_removes_the_tray_icon(self):
         launcher = self.start()
         box = launcher.device(launcher.tray_icon()["onScreen"])
         launcher.click("pushButton_2")
         self.assert_ends(launcher)
         wait_for("the tray is empty", lambda: grab(box).getcolors() == [(box[2] * box[3], ImageColor.getrgb(DESKTOP))])
 
-    def test_the_tray_waits_for_a_message_box(self):
+    def test_clicks_on_the_tray_icon_are_ignored_while_a_message_box_is_open(self):
         launcher, box = self.start_with_box()
         icon = launcher.place(launcher.tray_icon())
         launcher.click(icon, button=3)
@@ -50,7 +50,7 @@ class Tray(DesktopTest):
 
 
 class WithoutTray(DesktopTest):
-    def test_there_is_no_icon(self):
+    def test_launcher_creates_no_icon_if_there_is_no_tray(self):
         launcher = self.start()
         self.assertEqual([window["class"] for window in launcher.windows()], ["MainWindow"])
         self.assertEqual(launcher.printed(), "")

@@ -1,4 +1,4 @@
-"""The window under a window manager: moving, minimising, closing, and message boxes over it."""
+"""Tests the window under a window manager: moving, minimising, closing, and message boxes above the window."""
 
 import unittest
 
@@ -20,12 +20,13 @@ class Window(DesktopTest):
         wait_for("the window follows", lambda: distance(before, launcher.on_screen()) == (60, -44))
         wait_for("Qt knows it", lambda: launcher.window()["onScreen"] == list(launcher.on_screen()))
         launcher.drag("titleLabel", (50, 30), button=3)
-        for name in "cameraTable", "toolsDescriptionLabel", "footerLabel", "pushButton_2":  # The last one closes.
+        # "pushButton_2" is the close button.
+        for name in "cameraTable", "toolsDescriptionLabel", "footerLabel", "pushButton_2":
             launcher.drag(name, (50, -200))
-        launcher.drag("label_3", (20, 10))  # Events are handled in order: each earlier move would show here.
+        launcher.drag("label_3", (20, 10))  # Events are handled in order, so the position shows every earlier move.
         wait_for("the window follows", lambda: distance(before, launcher.on_screen()) == (80, -34))
 
-    def test_the_desktop_restores_the_minimised_window(self):
+    def test_window_manager_restores_the_minimised_window(self):
         launcher = self.start()
         window = launcher.window()
         launcher.click("pushButton")
@@ -35,7 +36,7 @@ class Window(DesktopTest):
         wait_for("the window is back", launcher.on_screen)
         self.assertEqual(len(launcher.rows()), 8)
 
-    def test_the_window_keeps_its_size_and_the_close_key_ends_the_program(self):
+    def test_window_manager_can_move_and_close_but_not_resize_the_window(self):
         launcher = self.start()
         window = launcher.window()["xWindow"]
         xdotool("windowsize", window, 900, 800, "windowmove", window, 10, 20)
@@ -43,7 +44,7 @@ class Window(DesktopTest):
         xdotool("key", "alt+F4")
         self.assert_ends(launcher)
 
-    def test_an_open_menu_does_not_keep_the_window_from_closing(self):
+    def test_window_can_be_closed_while_a_menu_is_open(self):
         launcher = self.start()
         launcher.menu_at(launcher.cell_place(0), button=3)
         x11.ask_to_close(launcher.window())
@@ -51,22 +52,23 @@ class Window(DesktopTest):
 
 
 class MessageBoxes(DesktopTest):
-    def test_the_window_closes_only_after_the_box(self):
+    def test_close_request_is_ignored_while_a_message_box_is_open(self):
         launcher, box = self.start_with_box()
         x11.ask_to_close(launcher.window())
         x11.ask_to_close(box)
         wait_for("the box closes", lambda: not launcher.of_class("QMessageBox"))
-        launcher.select(2, "High Resolution Cameras")  # The program has forgotten the first request.
+        # The close request made while the box was open has no later effect.
+        launcher.select(2, "High Resolution Cameras")
         x11.ask_to_close(launcher.window())
         self.assert_ends(launcher)
 
-    def test_the_camera_list_changes_behind_the_box(self):
+    def test_table_is_updated_while_a_message_box_is_open(self):
         launcher, box = self.start_with_box()
         SimulatorConfiguration(self.installation.root).write({"interfaces": []})
         wait_for("the cameras disappear", lambda: launcher.rows() == [])
         launcher.answer(box)
 
-    def test_refused_sdk_start_shows_a_box_and_ends_the_program(self):
+    def test_program_ends_after_a_message_if_the_sdk_does_not_start(self):
         self.installation.remove("bin/CvxProducerHost")
         launcher = self.start_without_window()
         box = launcher.box()

@@ -1,4 +1,4 @@
-"""What the X server knows of a window that the window reader describes, and a request to the window manager."""
+"""Queries the X server about windows that the window reader describes, and sends requests to the window manager."""
 
 import Xlib.display
 import Xlib.error
@@ -14,7 +14,7 @@ def window_of(node):
 
 
 def box_of(node):
-    """Returns the place and size of a window, or None while it is not on the screen."""
+    """Returns the position and size of a window, or None while the window is not visible."""
     window = window_of(node)
     try:
         if window.get_attributes().map_state != X.IsViewable:

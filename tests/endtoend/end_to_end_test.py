@@ -1,4 +1,4 @@
-"""The installed program from its start to its end: list, select, launch a tool, plug in, unplug, close."""
+"""Operates the installed program once: selects a camera, launches a tool, adds and removes a camera, and closes."""
 
 import os
 import signal
@@ -14,7 +14,7 @@ def shows(launcher, content):
     return lambda: sorted(launcher.rows()) == rows_of(content)
 
 
-def lists_the_simulated_cameras(launcher, simulator):
+def table_shows_the_simulated_cameras(launcher, simulator):
     wait_for("the table shows the simulator configuration", shows(launcher, simulator.read()))
     assert len(launcher.rows()) == 8, launcher.rows()
     assert launcher.enabled_tools() == set(), "a tool is enabled although no camera is selected"
@@ -31,12 +31,12 @@ def selection_enables_the_tools_of_the_group(launcher):
 def opengl_is_not_loaded(launcher):
     """Loading OpenGL would take as long as the rest of the start."""
     with open(f"/proc/{launcher.process.pid}/maps", encoding="utf-8") as file:
-        drivers = {line.split()[-1] for line in file if "_dri.so" in line or "libGLX_" in line}
-    assert not drivers, drivers
+        libraries = {line.split()[-1] for line in file if "_dri.so" in line or "libGLX_" in line}
+    assert not libraries, libraries
 
 
 def click_starts_the_tool_in_its_own_directory(launcher):
-    """Returns the tool's process number; the caller ends the tool."""
+    """Returns the process ID of the tool. The caller has to end the tool."""
     click(launcher.tiles()["Image Viewer"])
     directory = os.path.realpath(f"{STAGE}/bin")
     tool = wait_for("the tool runs", lambda: output_of("pgrep", "-fx", f"{directory}/ImageViewer").strip())
@@ -47,7 +47,7 @@ def click_starts_the_tool_in_its_own_directory(launcher):
 
 
 def connections_of(process):
-    """Returns the sockets and pipes of a process, without its standard descriptors."""
+    """Returns the sockets and pipes that a process has open, except for its standard streams."""
     directory = f"/proc/{process}/fd"
     links = (os.readlink(f"{directory}/{number}") for number in os.listdir(directory)
              if int(number) > 2 and os.path.lexists(f"{directory}/{number}"))
@@ -79,7 +79,7 @@ def main():
     tool = None
     try:
         with SimulatorConfiguration(STAGE) as simulator, Launcher(STAGE, PLUGINS) as launcher:
-            lists_the_simulated_cameras(launcher, simulator)
+            table_shows_the_simulated_cameras(launcher, simulator)
             selection_enables_the_tools_of_the_group(launcher)
             opengl_is_not_loaded(launcher)
             tool = click_starts_the_tool_in_its_own_directory(launcher)

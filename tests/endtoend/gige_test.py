@@ -1,4 +1,4 @@
-"""A GigE Vision camera on the network, without any software of its vendor, appears in the launcher and disappears."""
+"""Checks that the launcher lists a GigE Vision camera without its vendor's software, and notices its removal."""
 
 import subprocess
 import sys
@@ -11,7 +11,7 @@ SIMULATED = 8
 
 
 class FakeCamera:
-    """Runs a simulated camera on the loopback device within a with statement."""
+    """Runs a simulated camera on the loopback interface within a with statement."""
 
     def __enter__(self):
         self.process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", "arv-fake-gv-camera-0.8",

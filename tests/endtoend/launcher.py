@@ -8,12 +8,12 @@ import subprocess
 import tempfile
 import time
 
-BOUND = 60.0  # seconds; only a hang takes that long
+BOUND = 60.0  # Seconds. Only a hang takes this long.
 TITLE = "Corvix X - Application Launcher"
 
 
 def soon(condition, bound):
-    """Returns the first true value of condition(), or its last value if none is true within the bound."""
+    """Returns the first true value of condition(). If no value is true within the bound, returns the last value."""
     end = time.monotonic() + bound
     while True:
         value = condition()
@@ -23,7 +23,8 @@ def soon(condition, bound):
 
 
 def wait_for(promise, condition, bound=BOUND):
-    """Returns the first true value of condition(). Fails and names the promise if none is true within the bound."""
+    """Returns the first true value of condition(). If no value is true within the bound, fails and prints the
+    promise."""
     value = soon(condition, bound)
     if not value:
         raise AssertionError(f"not within {bound} s: {promise}")
@@ -31,7 +32,7 @@ def wait_for(promise, condition, bound=BOUND):
 
 
 def output_of(*command):
-    """Returns the standard output of a command, which is empty if the command fails."""
+    """Returns the standard output of a command, and ignores whether the command fails."""
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout
 
 
@@ -40,7 +41,8 @@ def xdotool(*arguments):
 
 
 def click(node):
-    """Clicks at the middle of a node of the main window. The X server knows the window's place before Qt does."""
+    """Clicks the middle of a node in the main window. The position of the window comes from the X server, because Qt
+    learns the position later."""
     found = wait_for("the window is on the screen", lambda: output_of(
         "xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$").split())
     x, y, width, height = node["box"]
@@ -54,14 +56,14 @@ def descendants(node):
 
 
 def keep_to_this_machine(stage):
-    """Removes the producer that searches real networks from an installation, unless the network belongs to the test."""
+    """Removes from an installation the producer that searches real networks, unless the test has its own network."""
     producer = f"{stage}/cti/fallback/UniversalGEV.cti"
     if "CORVIX_OWN_NETWORK" not in os.environ and os.path.exists(producer):
         os.remove(producer)
 
 
 class Launcher:
-    """Runs the program of an installation within a with statement."""
+    """Runs the launcher of an installation within a with statement."""
 
     def __init__(self, stage, plugins, environment=None):
         self.program = f"{stage}/bin/CorvixLauncher"
@@ -75,7 +77,8 @@ class Launcher:
                        "QT_QPA_GENERIC_PLUGINS": f"windowreader:{self.socket}", **self.environment}
         environment.pop("GENICAM_GENTL64_PATH", None)
         self.started = time.monotonic()
-        # The errors go to a file: a started tool would keep a pipe open. No result may depend on the directory.
+        # Standard error is a file, because a started tool would keep a pipe open. The launcher starts in "/", because
+        # no result may depend on the working directory.
         with open(f"{self.directory}/stderr", "wb") as errors:
             self.process = subprocess.Popen([self.program], cwd="/", env=environment,
                                             stdout=subprocess.DEVNULL, stderr=errors)
@@ -87,34 +90,34 @@ class Launcher:
         shutil.rmtree(self.directory)
 
     def printed(self):
-        """Returns the standard error so far, without what Qt prints when a window disappears during a request."""
+        """Returns the standard error so far, without Qt's message about a window that disappeared during a request."""
         with open(f"{self.directory}/stderr", encoding="utf-8", errors="replace") as errors:
             return "".join(line for line in errors if not line.startswith("qt.qpa.xcb: QXcbConnection: XCB error"))
 
     def hosts(self):
-        """Returns the process numbers of the producer hosts."""
+        """Returns the process IDs of the producer hosts."""
         return output_of("pgrep", "--parent", str(self.process.pid)).split()
 
     def windows(self):
-        """Returns the visible windows; the list is empty while the program does not answer."""
+        """Returns the visible windows. The list is empty while the program does not accept connections."""
         with socket.socket(socket.AF_UNIX) as reader:
             reader.settimeout(BOUND)
             try:
                 reader.connect(self.socket)
-                with reader.makefile(encoding="utf-8") as answer:
-                    return json.loads(answer.read() or "[]")
+                with reader.makefile(encoding="utf-8") as reply:
+                    return json.loads(reply.read() or "[]")
             except (FileNotFoundError, ConnectionRefusedError, ConnectionResetError):
                 return []
 
     def of_class(self, name):
-        """Returns the visible window of a class, or None."""
+        """Returns the first visible window of a class, or None if there is no such window."""
         return next((window for window in self.windows() if window["class"] == name), None)
 
     def window(self):
         return wait_for("the main window is visible", lambda: self.of_class("MainWindow"))
 
     def find(self, name):
-        """Returns the main window's widget with an object name."""
+        """Returns the widget of the main window that has this object name."""
         return next(node for node in descendants(self.window()) if node["name"] == name)
 
     def rows(self):
@@ -124,13 +127,13 @@ class Launcher:
         return self.find("toolsDescriptionLabel")["text"]
 
     def cell(self, vendor):
-        """Returns the first cell of a vendor's first row, as a node to click at."""
+        """Returns the first cell of a vendor's first row, as a node for click()."""
         table = self.find("cameraTable")
         x, y, width, height = next(row["cells"][0] for row in table["rows"] if row["texts"][0] == vendor)
         return {"box": (table["box"][0] + x, table["box"][1] + y, width, height)}
 
     def tiles(self):
-        """Returns the tiles by the names of their tools."""
+        """Returns the tiles, by the names of their tools."""
         return {child["text"]: tile for tile in descendants(self.window()) if tile["class"] == "ApplicationLauncher"
                 for child in tile["children"] if child["name"] == "applicationName"}
 

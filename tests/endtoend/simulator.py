@@ -1,4 +1,4 @@
-"""The simulator configuration of an installation."""
+"""Reads and changes the simulator configuration of an installation."""
 
 import json
 import os
@@ -6,7 +6,7 @@ import shutil
 
 
 class SimulatorConfiguration:
-    """Restores the configuration file at the end of a with statement."""
+    """Reads and writes the configuration file. The end of a with statement restores the original file."""
 
     def __init__(self, stage):
         self.file = f"{stage}/cti/CorvixCameraSimulator.json"
@@ -24,13 +24,13 @@ class SimulatorConfiguration:
             return json.load(file)
 
     def write(self, content):
-        """Replaces the file atomically, so that the simulator never reads half of it."""
+        """Replaces the file atomically, so that the simulator never reads an incomplete file."""
         with open(self.file + ".new", "w", encoding="utf-8") as file:
             json.dump(content, file)
         os.replace(self.file + ".new", self.file)
 
 
 def rows_of(content):
-    """Returns the table's rows for a simulator configuration, sorted."""
+    """Returns the rows that the table shows for a simulator configuration, in sorted order."""
     return sorted((device["vendor"], device["model"], device["serial"])
                   for interface in content["interfaces"] for device in interface["devices"])

@@ -1,4 +1,4 @@
-// Reads CvxC.xml as the SDK library does.
+// Parses the input as the SDK library parses CvxC.xml.
 
 #include "sdk/cvxcpp/CtiPathsDocument.h"
 #include "sdk/cvxcpp/Utf8.h"

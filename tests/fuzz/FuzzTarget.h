@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <string>
 
-/// Processes one input; each fuzz target defines it. A fuzzer calls it with generated inputs, an ordinary
-/// test with the seeds. Returns 0.
+/// Processes one input and returns 0. Each fuzz target defines this function. A fuzzer calls the function
+/// with generated inputs, an ordinary test calls it with the seeds.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/// Aborts the program if a property does not hold; the fuzzer then reports the input.
+/// Aborts the program if a property does not hold, so that the fuzzer reports the input.
 void require(bool holds, const char *property);
 
 inline std::string textOf(const std::uint8_t *data, std::size_t size)

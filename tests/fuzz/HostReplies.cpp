@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr std::size_t maxLength = 4096; // Bytes of a line; inputs of a fuzzer do not reach the real limit.
+constexpr std::size_t maxLength = 4096; // In bytes; the inputs of a fuzzer are too short for the real limit.
 
-/// Moves every line that has arrived to `received`; returns false if no further line can arrive.
+/// Appends every line that has arrived to `received`; returns false if no further line can arrive.
 bool collect(LineChannel &channel, std::vector<std::string> &received)
 {
     std::string line;
@@ -57,7 +57,7 @@ std::vector<std::string> transmit(const std::string &text, std::size_t portion)
     return received;
 }
 
-/// Returns the lines of a text without what follows its last line feed.
+/// Returns the complete lines of a text, without their line feeds.
 std::vector<std::string> linesOf(const std::string &text)
 {
     std::vector<std::string> lines;
@@ -69,7 +69,7 @@ std::vector<std::string> linesOf(const std::string &text)
     return lines;
 }
 
-/// If the message has this content, it survives being sent again.
+/// If the message has content of this type, requires that the content is unchanged after it is sent again.
 template <typename Content>
 void requireSameAfterRoundTrip(const Message &message)
 {

@@ -11,7 +11,7 @@
 
 #include <sanitizer/lsan_interface.h>
 
-// Both are null without a leak detector.
+// Both functions are null in a program without a leak detector.
 #pragma weak __lsan_disable
 #pragma weak __lsan_enable
 
@@ -19,7 +19,7 @@ namespace {
 
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
-/// Qt 5.15 leaks memory if an object has the same key twice, so leaks of this call are ignored.
+/// Qt 5.15 leaks memory if an object has the same key twice, so leaks of this function are ignored.
 QJsonObject parse(const QByteArray &text)
 {
     if (__lsan_disable)

@@ -12,8 +12,8 @@ int main(int argc, char **argv)
     require(argc == 2, "usage: one directory");
     int cases = 0;
     for (const auto &entry : std::filesystem::directory_iterator(argv[1])) {
-        std::fprintf(
-            stderr, "%s\n", entry.path().filename().c_str()); // After a crash, the last line names it.
+        // After a crash, the last printed line names the file.
+        std::fprintf(stderr, "%s\n", entry.path().filename().c_str());
         std::ifstream stream(entry.path(), std::ios::binary);
         const std::string content{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(content.data()), content.size());

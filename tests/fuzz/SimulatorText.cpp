@@ -1,4 +1,4 @@
-// Reads the text of a simulator configuration.
+// Parses the input as the text of a simulator configuration.
 
 #include "sdk/simulator/SimulatorConfiguration.h"
 #include "tests/fuzz/FuzzTarget.h"
@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             require(ids.insert(record.id).second, "an interface ID is unique");
             requireDevices(devices);
         }
-    } catch (const std::runtime_error &error) { // The only kind of exception that the function may throw.
+    } catch (const std::runtime_error &error) { // parseConfiguration() may throw only this type.
         require(*error.what() != '\0', "an error has a message");
     }
     return 0;

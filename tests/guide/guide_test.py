@@ -1,4 +1,4 @@
-"""The installed guide in a browser: it loads, every link has a target, it fits narrow windows, and it can be read.
+"""Checks the installed guide in a browser: its files, its links, its layout in narrow windows and its contrast.
 
 usage: guide_test.py GUIDE   Set GUIDE_PICTURES to a folder to keep pictures of the pages.
 """
@@ -26,7 +26,7 @@ PICTURES = os.environ.get("GUIDE_PICTURES")
 TIMEOUT = 60  # seconds
 WIDTHS = (360, 600, 1280)
 
-# Returns what stands out of the page at the right.
+# Returns the elements that extend beyond the right edge of the page.
 CUT_OFF = """
     return [...document.body.querySelectorAll('*')].filter(element => {
         const box = element.getBoundingClientRect();
@@ -88,13 +88,13 @@ class Guide(unittest.TestCase):
         return self.browser.execute_script(script)
 
     def network_events(self, method):
-        """Returns the parameters of the events of that name since the last call."""
+        """Returns the parameters of the events with this name since the log was last read."""
         messages = (json.loads(entry["message"])["message"] for entry in self.browser.get_log("performance"))
         return [message["params"] for message in messages if message["method"] == method]
 
-    def test_loads_only_its_own_files(self):
+    def test_guide_loads_only_its_own_files(self):
         for log in ("browser", "performance"):
-            self.browser.get_log(log)  # Drops what happened before.
+            self.browser.get_log(log)  # Reading a log removes its entries.
         self.browser.refresh()
         requested = [event["request"]["url"] for event in self.network_events("Network.requestWillBeSent")]
         self.assertIn(GUIDE.as_uri(), requested)
@@ -103,7 +103,7 @@ class Guide(unittest.TestCase):
         self.assertEqual(self.browser.get_log("browser"), [])
         self.assertGreater(self.value("return document.images.length"), 0)
         self.assertEqual(self.value("return [...document.images].filter(image => !image.naturalWidth).length"), 0)
-        # Without scripts a page cannot do anything that this test did not see.
+        # A page without scripts cannot load anything later.
         self.assertEqual(self.value("return document.scripts.length"), 0)
 
     def test_every_link_has_a_target(self):
@@ -120,7 +120,7 @@ class Guide(unittest.TestCase):
             "return [...document.querySelectorAll('main section')].map(section => '#' + section.id)"), self.value(
             "return [...document.querySelectorAll('nav a')].map(link => link.getAttribute('href'))"))
 
-    def test_fits_every_width(self):
+    def test_guide_fits_every_width(self):
         for width in WIDTHS:
             with self.subTest(width):
                 self.emulate(width)
@@ -129,7 +129,7 @@ class Guide(unittest.TestCase):
                 if PICTURES:
                     self.browser.save_screenshot(f"{PICTURES}/{width}.png")
 
-    def test_can_be_read_in_light_and_dark(self):
+    def test_text_is_readable_in_both_color_schemes(self):
         backgrounds = set()
         for scheme in ("light", "dark"):
             with self.subTest(scheme):
@@ -139,7 +139,7 @@ class Guide(unittest.TestCase):
         self.assertEqual(len(backgrounds), 2, "both schemes have the same background")
 
     def test_examples_are_well_formed(self):
-        """The examples of configuration files, which users copy, can be parsed."""
+        """Checks that the examples of configuration files can be parsed, because users copy them."""
         examples = self.value("return [...document.querySelectorAll('pre[id^=example-]')].map(pre => pre.textContent)")
         self.assertEqual(sorted(example.strip()[0] for example in examples), ["<", "{"])
         for example in examples:

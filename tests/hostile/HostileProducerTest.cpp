@@ -13,13 +13,13 @@ void PrintTo(const HostileProducer &row, std::ostream *stream)
     *stream << row.name;
 }
 
-/// The simulator with one hostile producer beside it.
+/// Runs the simulator together with one hostile producer.
 class HostileProducerTest : public SystemTest, public testing::WithParamInterface<HostileProducer>
 {
 protected:
     HostileProducerTest()
     {
-        options.searchTimeout = 500ms; // For producers that hang.
+        options.searchTimeout = 500ms; // A producer that hangs is killed after this time.
         std::filesystem::copy_file(SIMULATOR, ctiPath("CorvixCameraSimulator.cti"));
         GetParam().place(directory.path() / "cti");
     }
@@ -45,7 +45,7 @@ protected:
         }
     }
 
-    /// Ends the one process that no library can end, because it has left its host's process group.
+    /// Ends the process that the library cannot end because the process has left its host's process group.
     void endDaemon() const
     {
         const auto processes = [this] { return processesWith(directory.path().string()); };
@@ -54,7 +54,7 @@ protected:
     }
 };
 
-TEST_P(HostileProducerTest, harmsNobodyElse)
+TEST_P(HostileProducerTest, hostileProducerDoesNotAffectTheSimulator)
 {
     const HostileProducer &row = GetParam();
     const std::size_t lines = row.due == Due::Never ? 0 : static_cast<std::size_t>(row.lines);

@@ -13,7 +13,7 @@ using Rows = std::vector<HostileProducer>;
 
 constexpr int hostsInCrowd = 30;
 
-/// Two cameras on one interface, as a script of the test producer.
+/// A script with which the test producer reports two cameras on one interface.
 const std::string twoCameras = "interface net0|Network 0|GEV\ndevices net0|2\n";
 
 void placeProducer(const fs::path &file, const std::string &script)
@@ -29,7 +29,7 @@ HostileProducer scripted(
         name, [script](const fs::path &cti) { placeProducer(cti / "bad.cti", script); }, due, text, cameras};
 }
 
-/// The test producer with two cameras; its function misbehaves.
+/// Returns the test producer with two cameras and with a fault in one function.
 HostileProducer withFault(
     const std::string &function, const std::string &fault, Due due, const std::string &text, int cameras = -1)
 {
@@ -51,7 +51,7 @@ Rows files()
     static constexpr auto awkwardName = "it's \"1\"\n\xFF.cti";
     constexpr auto otherMachine = "dlopen failed: the library is for another processor architecture";
     const auto crowd = [](const fs::path &cti) {
-        for (int i = 0; i < hostsInCrowd; ++i) // Their names sort before the simulator's.
+        for (int i = 0; i < hostsInCrowd; ++i) // These names sort before the simulator's name.
             placeProducer(cti / (std::to_string(i) + "bad.cti"), "fault TLOpen crash\n");
     };
     return {
@@ -72,7 +72,8 @@ Rows files()
     };
 }
 
-/// Failures that end a call or the whole process, in the constructor, in a search and while closing.
+/// Returns producers with a failure that ends a call or the whole process while loading, searching or
+/// closing.
 Rows failures()
 {
     Rows rows{
@@ -107,7 +108,7 @@ Rows failures()
         rows.push_back(withFault(function, "exit 7", due, "exited with code 7"));
         rows.push_back(withFault(function, "hang", Due::AtEnd, "was killed"));
         if (function == "load")
-            continue; // A constructor returns nothing.
+            continue; // A library constructor has no return value.
         rows.push_back(
             withFault(function, "throw", due, function + " failed: threw an exception: thrown by"));
         rows.push_back(withFault(function, "throw-number", due, function + " failed: threw an exception"));
@@ -116,7 +117,7 @@ Rows failures()
     return rows;
 }
 
-/// The result of a function that returns success and does nothing else.
+/// Describes what is reported about a function that returns success and does nothing else.
 struct UntouchedOutput
 {
     const char *function;
@@ -125,7 +126,7 @@ struct UntouchedOutput
 };
 
 constexpr UntouchedOutput untouchedOutputs[] = {
-    {"GCInitLib", Due::AtEnd, "GCCloseLib failed with -1002"}, // No output: the producer is not initialised.
+    {"GCInitLib", Due::AtEnd, "GCCloseLib failed with -1002"}, // The producer is not initialised.
     {"TLOpen", Due::AtStart, "TLOpen failed: returned no handle"},
     {"TLUpdateInterfaceList", Due::Never, ""}, // The list of interfaces stays empty.
     {"TLGetNumInterfaces", Due::AtStart, "returned an implausible number of interfaces"},
@@ -135,9 +136,9 @@ constexpr UntouchedOutput untouchedOutputs[] = {
     {"IFGetNumDevices", Due::AtStart, "returned an implausible number of devices"},
     {"IFGetDeviceID", Due::AtStart, "IFGetDeviceID failed: returned a string without a size"},
     {"IFGetDeviceInfo", Due::AtStart, "IFGetDeviceInfo failed: returned a string without a size"},
-    {"IFClose", Due::Never, ""}, // No output: nothing shows that the interface is still open.
-    {"TLClose", Due::AtEnd, "GCCloseLib failed with -1002"}, // No output: the system is still open.
-    {"GCCloseLib", Due::Never, ""}, // No output, and nothing is called after it.
+    {"IFClose", Due::Never, ""}, // The host cannot detect that the interface is still open.
+    {"TLClose", Due::AtEnd, "GCCloseLib failed with -1002"}, // The system is still open.
+    {"GCCloseLib", Due::Never, ""}, // No function is called afterwards.
 };
 
 Rows functions()
@@ -175,7 +176,7 @@ Rows strings()
         withDevice("invalid UTF-8", "\xC3\x28\xFF\xED\xA0\x80"),
         withDevice("control and JSON characters", "\\x01\\x07\\x08\\x0a\\x0d\\x1b\\x7f\"}],{:\\\\u0000\\"),
         withDevice("of 1,000 bytes", std::string(1000, 'y')),
-        withFault("IFGetDeviceInfo", "size -1", Due::Never, "", 2), // One byte less than there is.
+        withFault("IFGetDeviceInfo", "size -1", Due::Never, "", 2), // The size is one byte too small.
         withFault("IFGetDeviceInfo", "size 4294967296", Due::Never, "", 2),
         withFault("IFGetDeviceInfo", "size 0", Due::AtStart, "returned a string without a size", 2),
         withFault("IFGetDeviceID", "size 0", Due::AtStart, "returned a string without a size", 0),
@@ -186,7 +187,8 @@ Rows strings()
         withFault("IFGetDeviceInfo", "grow", Due::AtStart, info + " with -1016", 2),
         withFault("IFGetDeviceInfo", "late-error -1010", Due::AtStart, info + " with -1010", 2),
         withFault("IFGetDeviceInfo", "number", Due::AtStart, "returned data that is not a string", 2),
-        withFault("IFGetDeviceInfo", "error -1007", Due::AtStart, info + " with -1007", 0), // It is gone.
+        // A device that has disappeared is not reported.
+        withFault("IFGetDeviceInfo", "error -1007", Due::AtStart, info + " with -1007", 0),
     };
 }
 

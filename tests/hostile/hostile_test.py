@@ -1,6 +1,6 @@
-"""The installed launcher with several hostile producers beside the simulator.
+"""Checks that the window of the installed launcher stays usable with several hostile producers.
 
-Each kind of fault is tried on the SDK library; here one of each kind shows that the window stays usable.
+The tests of the SDK library cover every fault; this test uses one producer for each kind of fault.
 """
 
 import json
@@ -12,7 +12,7 @@ import tempfile
 from launcher import Launcher, click, wait_for
 
 CAMERAS = "interface net0|Network 0|GEV\ndevices net0|2\n"
-PRODUCERS = {  # File name: (line of the script, text that is printed about it)
+PRODUCERS = {  # File name: (line of the script, text that is printed about the producer)
     "crash": ("fault load crash", "SIGSEGV"),
     "hang": ("fault IFUpdateDeviceList hang", "was killed"),
     "throw": ("fault GCInitLib throw-in-thread", "threw an uncaught exception"),
@@ -21,7 +21,7 @@ PRODUCERS = {  # File name: (line of the script, text that is printed about it)
 
 
 def processes_of(directory):
-    """The processes whose command line names the directory."""
+    """Returns the processes whose command line contains the directory."""
     found = []
     for process in filter(str.isdigit, os.listdir("/proc")):
         try:
@@ -29,7 +29,7 @@ def processes_of(directory):
                 if directory in file.read():
                     found.append(int(process))
         except OSError:
-            pass  # It has ended meanwhile.
+            pass  # The process has ended in the meantime.
     return found
 
 
@@ -53,7 +53,7 @@ def main(installation, plugins, producer):
     with tempfile.TemporaryDirectory(dir=os.path.dirname(installation)) as directory:
         stage = f"{directory}/stage"
         shutil.copytree(installation, stage, symlinks=True)
-        shutil.rmtree(f"{stage}/cti/fallback", ignore_errors=True)  # Producers for real cameras.
+        shutil.rmtree(f"{stage}/cti/fallback", ignore_errors=True)  # These producers would find real cameras.
         place(producer, f"{stage}/cti")
         expected = serials_of_simulator(f"{stage}/cti") | {"SN1", "SN2"}
         with Launcher(stage, plugins) as launcher:

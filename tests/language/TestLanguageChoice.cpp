@@ -1,7 +1,7 @@
 #include <QProcess>
 #include <QtTest>
 
-/// The environment in which the program is started selects its language.
+/// Tests which language the program uses, depending on its environment variables.
 class TestLanguageChoice : public QObject
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ void TestLanguageChoice::environmentSelectsTheLanguage_data()
     const auto english = QStringLiteral("Close, About Qt");
 
     QTest::addColumn<QString>("environment");
-    QTest::addColumn<QString>("texts");
-    const auto add = [](const char *name, const char *environment, const QString &texts) {
-        QTest::newRow(name) << QString::fromLatin1(environment) << texts;
+    QTest::addColumn<QString>("output");
+    const auto add = [](const char *name, const char *environment, const QString &output) {
+        QTest::newRow(name) << QString::fromLatin1(environment) << output;
     };
     add("German", "LANG=de_DE.UTF-8", german);
     add("French", "LANG=fr_FR.UTF-8", french);
@@ -60,7 +60,7 @@ void TestLanguageChoice::environmentSelectsTheLanguage()
         + QStringList(QStringLiteral(LANGUAGE_PROGRAM)));
     program.start();
     QVERIFY2(program.waitForFinished(), qPrintable(program.errorString()));
-    QTEST(QString::fromUtf8(program.readAllStandardOutput()).trimmed(), "texts");
+    QTEST(QString::fromUtf8(program.readAllStandardOutput()).trimmed(), "output");
 }
 
 QTEST_GUILESS_MAIN(TestLanguageChoice)

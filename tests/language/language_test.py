@@ -1,4 +1,4 @@
-"""The unchanged program in each language: its texts are translated, fit their places, and can be drawn."""
+"""Checks in each language that the program's strings are translated, fit into their widgets, and can be drawn."""
 
 import os
 import unittest
@@ -17,7 +17,7 @@ def translations_of(language):
 
 
 def drawable_characters():
-    """Returns every character of the installed fonts."""
+    """Returns every character that the installed fonts contain."""
     characters = set()
     for part in output_of("fc-list", "--format", "%{charset} ").split():
         first, _, last = part.partition("-")
@@ -26,26 +26,26 @@ def drawable_characters():
 
 
 def texts_of(window):
-    """Returns every text that a person sees or hears of a window."""
+    """Returns every string of a window that a user sees, or that a screen reader reads aloud."""
     for node in [window, *descendants(window)]:
         yield from (node["text"], node["toolTip"], node["accessibleName"])
         yield from (part["text"] for part in node.get("columns", []) + node.get("actions", []))
 
 
 class Languages(DesktopTest):
-    def test_german(self):
+    def test_windows_are_german(self):
         self.check("de_DE")
 
-    def test_french(self):
+    def test_windows_are_french(self):
         self.check("fr_FR")
 
-    def test_japanese(self):
+    def test_windows_are_japanese(self):
         self.check("ja_JP")
 
-    def test_korean(self):
+    def test_windows_are_korean(self):
         self.check("ko_KR")
 
-    def test_chinese(self):
+    def test_windows_are_chinese(self):
         self.check("zh_CN")
 
     def check(self, locale):
@@ -59,12 +59,12 @@ class Languages(DesktopTest):
         self.check_placeholder()
 
     def check_main_window(self):
-        self.launcher.click(self.launcher.cell_place(2))  # The hint of its group is the longest.
+        self.launcher.click(self.launcher.cell_place(2))  # The group of this camera has the longest hint.
         wait_for("tools are enabled", self.launcher.enabled_tools)
         hint = self.launcher.find("toolsDescriptionLabel")
         self.assertEqual(hint["text"], self.translated("Recommended for %1. Non-recommended tools are disabled.")
                          .replace("%1", "High Resolution Cameras"))
-        self.assertLessEqual(hint["needs"][0], 0.9 * hint["box"][2])  # Other desktops have larger fonts.
+        self.assertLessEqual(hint["needs"][0], 0.9 * hint["box"][2])  # Other desktops may use larger fonts.
         window = self.launcher.window()
         self.assertEqual(window["box"][2:], [600, 660])
         self.assert_translated_and_fits(window)
@@ -91,7 +91,7 @@ class Languages(DesktopTest):
         self.launcher.answer(box)
 
     def check_placeholder(self):
-        """Stops the producer hosts to keep the scan running."""
+        """Checks the row that the table shows during a scan. The scan keeps running because the hosts are stopped."""
         hosts = [int(host) for host in self.launcher.hosts()]
         self.addCleanup(lambda: [os.kill(host, SIGCONT) for host in hosts if os.path.exists(f"/proc/{host}")])
         for host in hosts:
@@ -119,7 +119,7 @@ class Languages(DesktopTest):
 
 
 class Log(unittest.TestCase):
-    def test_the_message_for_the_log_stays_english(self):
+    def test_log_message_is_not_translated(self):
         message = "Configuration files version mismatch!"
         self.assertEqual({translations_of(language)[message] for language in LOCALES.values()}, {message})
 

@@ -1,6 +1,6 @@
 """Each component installs its own files in the layout that the programs expect, and no file belongs to two components.
 
-usage: components_test.py BUILD STAGE   STAGE receives a whole installation, which other tests use.
+usage: components_test.py BUILD STAGE   STAGE receives a complete installation, which other tests use.
 """
 
 import os
@@ -11,7 +11,7 @@ import sys
 
 BUILD, STAGE = sys.argv[1:]
 
-# Patterns of the files of each component: first those that must be there, then those that may be.
+# For each component, the patterns of the required files, followed by the patterns of the optional files.
 COMPONENTS = {
     "launcher": (
         [r"bin/CorvixLauncher", r"bin/CvxProducerHost", r"bin/libCvxCPP\.so[.\d]*", r"bin/CvxC\.xml",
@@ -29,7 +29,7 @@ COMPONENTS = {
 
 
 def install(directory, *options):
-    """Installs into an empty directory and returns the paths of the files there, each of which everybody may read."""
+    """Installs into an empty directory, and returns the paths of the files. Fails if somebody may not read a file."""
     shutil.rmtree(directory, ignore_errors=True)
     subprocess.run(["cmake", "--install", BUILD, "--prefix", directory, *options], check=True, stdout=subprocess.DEVNULL)
     files = {os.path.relpath(os.path.join(parent, name), directory)
@@ -39,7 +39,7 @@ def install(directory, *options):
     return files
 
 
-os.umask(0o077)  # The administrator's umask must not decide what users may read.
+os.umask(0o077)  # Users must be able to read the files even if the administrator's umask is strict.
 of_components = []
 for component, (required, allowed) in COMPONENTS.items():
     installed = install(f"{STAGE}.{component}", "--component", component)

@@ -1,4 +1,4 @@
-"""The desktop entry, the application metadata and the icons are valid, agree with each other, and are translated.
+"""Checks that the desktop entry, the application metadata and the icons are valid, consistent and translated.
 
 usage: desktop_files_test.py STAGE SOURCES
 """
@@ -39,13 +39,13 @@ class DesktopFiles(unittest.TestCase):
         cls.entry = read_entry(ENTRY)
         cls.metainfo = xml.etree.ElementTree.parse(METAINFO).getroot()
 
-    def test_both_files_are_valid(self):
+    def test_desktop_entry_and_metadata_are_valid(self):
         self.assertEqual(output_of("desktop-file-validate", ENTRY), "")
         report = output_of("appstreamcli", "validate", "--no-net", "--no-color", METAINFO)
-        # The top-level domain "example" is reserved, which appstreamcli remarks on.
+        # The only remark concerns the top-level domain "example", which is reserved.
         self.assertEqual(re.findall(r"^[EWI]: \S+ (\S+)", report, re.MULTILINE), ["cid-maybe-not-rdns"], report)
 
-    def test_both_files_describe_the_same_program(self):
+    def test_desktop_entry_and_metadata_describe_the_same_program(self):
         self.assertTrue(os.access(STAGE / "bin" / self.entry["Exec"], os.X_OK))
         described = {key: self.metainfo.findtext(path) for key, path in (
             ("id", "id"), ("entry", "launchable[@type='desktop-id']"), ("icon", "icon[@type='stock']"), ("name", "name"),
@@ -53,13 +53,13 @@ class DesktopFiles(unittest.TestCase):
         self.assertEqual(described, {"id": ID, "entry": ENTRY.name, "icon": self.entry["Icon"], "name": self.entry["Name"],
                                      "program": self.entry["Exec"], "comment": self.entry["Comment"]})
 
-    def test_texts_are_in_the_languages_of_the_program(self):
+    def test_desktop_entry_is_translated_into_every_language_of_the_program(self):
         for key in ("GenericName", "Comment", "Keywords"):
             with self.subTest(key):
                 self.assertEqual({match[1] for match in (re.fullmatch(rf"{key}\[(.*)\]", name) for name in self.entry)
                                   if match}, LANGUAGES)
 
-    def test_every_size_has_an_icon(self):
+    def test_icon_is_installed_in_every_size(self):
         icons = {str(path.relative_to(STAGE / "share/icons/hicolor")) for path in STAGE.rglob("share/icons/**/apps/*")}
         sizes = (16, 22, 24, 32, 48, 64, 128, 256, 512)
         self.assertEqual(icons, {f"scalable/apps/{ID}.svg", *(f"{size}x{size}/apps/{ID}.png" for size in sizes)})
@@ -67,7 +67,7 @@ class DesktopFiles(unittest.TestCase):
             icon = STAGE / f"share/icons/hicolor/{size}x{size}/apps/{self.entry['Icon']}.png"
             self.assertEqual(icon.read_bytes()[16:24], 2 * size.to_bytes(4, "big"), icon)  # Width and height of a PNG.
 
-    def test_commands_of_the_guide_add_an_unpacked_archive_to_the_menu(self):
+    def test_guide_commands_add_an_unpacked_archive_to_the_menu(self):
         guide = (STAGE / "doc/index.html").read_text(encoding="utf-8")
         commands = html.unescape(re.search(r'<pre id="menu-entry"><code>(.*?)</code>', guide, re.DOTALL)[1])
         with tempfile.TemporaryDirectory() as home:

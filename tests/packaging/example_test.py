@@ -1,4 +1,4 @@
-"""The installed example builds against an installation with find_package(CvxCPP) and lists the simulated cameras.
+"""Checks that the installed example builds with find_package(CvxCPP) and prints the simulated cameras.
 
 usage: example_test.py INSTALLATION WORK
 """
@@ -16,7 +16,7 @@ def run(*command, **options):
     return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True, **options).stdout
 
 
-if "CORVIX_OWN_NETWORK" not in os.environ:  # The producer would search the networks of this machine.
+if "CORVIX_OWN_NETWORK" not in os.environ:  # This producer would search the networks of this machine.
     os.remove(f"{INSTALLATION}/cti/fallback/UniversalGEV.cti")
 shutil.rmtree(WORK, ignore_errors=True)
 shutil.copytree(f"{INSTALLATION}/api/examples/list-cameras", f"{WORK}/source")

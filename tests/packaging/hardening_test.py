@@ -1,4 +1,4 @@
-"""Every installed program and library is built with the usual protections, as its ELF headers show.
+"""Checks in the ELF headers that every installed program and library is built with the usual protections.
 
 usage: hardening_test.py STAGE fortified|plain
 """
@@ -11,8 +11,8 @@ import sys
 
 STAGE, KIND = pathlib.Path(sys.argv[1]), sys.argv[2]
 PROGRAMS = {"CorvixLauncher", "CvxProducerHost", "CvxToolStandIn"}
-FORTIFIED = {"CvxProducerHost", "libCvxCPP.so", "CorvixCameraSimulator.cti"}  # They call functions with a checked form.
-WITH_RUNPATH = {"CorvixLauncher", "libCvxCPP.so"}  # They load one of our libraries from their own directory.
+FORTIFIED = {"CvxProducerHost", "libCvxCPP.so", "CorvixCameraSimulator.cti"}  # These files use fortified functions.
+WITH_RUNPATH = {"CorvixLauncher", "libCvxCPP.so"}  # These files load a library from their own directory.
 
 
 def readelf(option, path):

@@ -1,4 +1,4 @@
-"""Operates an installed launcher: it lists the simulated cameras, starts a tool and ends without a message.
+"""Checks that an installed launcher lists the simulated cameras, starts a tool, and exits without a message.
 
 usage: installed_program.py STAGE PLUGINS ROOT PREFIX   STAGE/bin/CorvixLauncher starts the program in ROOT/PREFIX.
 """

@@ -1,4 +1,4 @@
-"""The newest release in CHANGELOG.md and in the application metadata is the version of the project.
+"""Checks that the changelog and the metadata contain the same releases, and that the newest is the project's version.
 
 usage: version_test.py SOURCES
 """

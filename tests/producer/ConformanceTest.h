@@ -12,7 +12,7 @@ inline std::filesystem::path producerUnderTest()
     return file ? file : throw std::runtime_error("PRODUCER_UNDER_TEST must name a producer file.");
 }
 
-/// An initialised producer with an open system module.
+/// Provides an initialised producer with an open system module.
 class Conformance : public testing::Test
 {
 protected:

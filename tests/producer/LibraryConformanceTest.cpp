@@ -1,4 +1,5 @@
-// The rules for the library and the system module: states, handles, information, errors, exports.
+// These tests check the rules for the library and the system module: states, handles, information, errors,
+// exports.
 
 #include "tests/producer/ConformanceTest.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 using NamedCode = std::pair<std::string, GC_ERROR>;
 
-/// Calls every function that takes a system handle; TLClose last.
+/// Calls every function that takes a system handle. TLClose is called last.
 std::vector<NamedCode> callAllOnSystem(const LoadedProducer &producer, TL_HANDLE system)
 {
     std::uint32_t count = 0;
@@ -32,7 +33,7 @@ std::vector<NamedCode> callAllOnSystem(const LoadedProducer &producer, TL_HANDLE
     };
 }
 
-/// Calls every function that takes an interface handle; IFClose last.
+/// Calls every function that takes an interface handle. IFClose is called last.
 std::vector<NamedCode> callAllOnInterface(const LoadedProducer &producer, IF_HANDLE interface)
 {
     std::uint32_t count = 0;
@@ -69,7 +70,7 @@ std::set<std::string> exportedSymbols()
 
 } // namespace
 
-TEST(LibraryConformance, everyCallNeedsAnInitialisedLibrary)
+TEST(LibraryConformance, everyCallFailsIfTheLibraryIsNotInitialised)
 {
     const LoadedProducer producer(producerUnderTest());
     TL_HANDLE system = nullptr;
@@ -88,14 +89,15 @@ TEST(LibraryConformance, everyCallNeedsAnInitialisedLibrary)
     }
 }
 
-TEST_F(Conformance, oneSystemModuleIsOpenAtATime)
+TEST_F(Conformance, onlyOneSystemModuleCanBeOpen)
 {
     TL_HANDLE second = nullptr;
     EXPECT_EQ(producer().TLOpen(&second), GC_ERR_RESOURCE_IN_USE);
     EXPECT_EQ(producer().TLOpen(nullptr), GC_ERR_INVALID_PARAMETER);
     EXPECT_EQ(producer().TLClose(session.system()), GC_ERR_SUCCESS);
     EXPECT_EQ(producer().TLOpen(&second), GC_ERR_SUCCESS);
-    expectAll(callAllOnSystem(producer(), session.system()), GC_ERR_INVALID_HANDLE); // Never reused.
+    // The number of a handle is never reused.
+    expectAll(callAllOnSystem(producer(), session.system()), GC_ERR_INVALID_HANDLE);
 }
 
 TEST_F(Conformance, onlyHandlesOfTheRightKindAreValid)
@@ -110,7 +112,7 @@ TEST_F(Conformance, onlyHandlesOfTheRightKindAreValid)
         expectAll(callAllOnSystem(producer(), handle), GC_ERR_INVALID_HANDLE);
 }
 
-TEST(LibraryConformance, closingTheSystemOrTheLibraryClosesEverythingBelow)
+TEST(LibraryConformance, closingTheSystemOrTheLibraryClosesAllInterfaces)
 {
     for (const bool closesLibrary : {false, true}) {
         const ProducerSession session(producerUnderTest());
@@ -129,7 +131,7 @@ TEST(LibraryConformance, closingTheSystemOrTheLibraryClosesEverythingBelow)
     }
 }
 
-TEST_F(Conformance, producerReportsItselfWithAndWithoutAnOpenSystem)
+TEST_F(Conformance, producerInfoDoesNotRequireAnOpenSystem)
 {
     const TL_HANDLE system = session.system();
     std::vector<std::string> strings;
@@ -155,7 +157,7 @@ TEST_F(Conformance, producerReportsItselfWithAndWithoutAnOpenSystem)
     EXPECT_EQ(readNumber(infoCall(producer().GCGetInfo, TL_INFO_GENTL_VER_MINOR), INFO_DATATYPE_UINT32), 5);
 }
 
-TEST_F(Conformance, onlyFunctionsOfTheStandardAreExportedAndThoseBeyondDiscoveryAreNotImplemented)
+TEST_F(Conformance, onlyFunctionsOfTheStandardAreExported)
 {
 #define CORVIX_NAME(name) #name,
     const std::set<std::string> discovery{CORVIX_DISCOVERY_FUNCTIONS(CORVIX_NAME)};
@@ -172,7 +174,7 @@ TEST_F(Conformance, onlyFunctionsOfTheStandardAreExportedAndThoseBeyondDiscovery
     }
 }
 
-TEST_F(Conformance, eachThreadHasItsOwnLastErrorUntilItsNextOne)
+TEST_F(Conformance, eachThreadHasItsOwnLastError)
 {
     EXPECT_EQ(producer().TLOpen(nullptr), GC_ERR_INVALID_PARAMETER);
     EXPECT_EQ(codeOf(infoCall(producer().GCGetInfo, TL_INFO_ID)), GC_ERR_SUCCESS);
@@ -184,7 +186,7 @@ TEST_F(Conformance, eachThreadHasItsOwnLastErrorUntilItsNextOne)
     EXPECT_EQ(session.lastError().first, GC_ERR_INVALID_PARAMETER);
 }
 
-TEST_F(Conformance, failureToGetTheLastErrorKeepsIt)
+TEST_F(Conformance, failedReadOfTheLastErrorDoesNotChangeTheLastError)
 {
     EXPECT_EQ(producer().TLClose(nullptr), GC_ERR_INVALID_HANDLE);
     GC_ERROR code = GC_ERR_SUCCESS;
@@ -197,7 +199,7 @@ TEST_F(Conformance, failureToGetTheLastErrorKeepsIt)
     EXPECT_EQ(session.lastError().first, GC_ERR_INVALID_HANDLE);
 }
 
-TEST(LibraryConformance, processEndsCleanlyWithoutClosing)
+TEST(LibraryConformance, processExitsCleanlyIfTheLibraryWasNotClosed)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_EXIT(
@@ -211,7 +213,7 @@ TEST(LibraryConformance, processEndsCleanlyWithoutClosing)
         testing::ExitedWithCode(0), "");
 }
 
-TEST(LibraryConformance, producerCanBeUnloadedAndLoadedAgain)
+TEST(LibraryConformance, producerCanBeReloaded)
 {
     for (int round = 0; round < 3; ++round) {
         const ProducerSession session(producerUnderTest());

@@ -1,4 +1,4 @@
-// The rules for the lists: interfaces and devices by index and by ID, updates, threads.
+// These tests check the rules for the lists: access by index and by ID, updates, and threads.
 
 #include "tests/producer/ConformanceTest.h"
 
@@ -50,7 +50,7 @@ TEST_F(ListConformance, listsAreNotAvailableBeforeTheirFirstUpdate)
     }
 }
 
-TEST_F(ListConformance, interfacesAreListedByIndexAndById)
+TEST_F(ListConformance, interfacesCanBeReadByIndexAndById)
 {
     session.updateInterfaces();
     for (const std::string &id : session.interfaceIds()) {
@@ -71,7 +71,7 @@ TEST_F(ListConformance, interfacesAreListedByIndexAndById)
     }
 }
 
-TEST_F(ListConformance, devicesAreListedByIndexAndById)
+TEST_F(ListConformance, devicesCanBeReadByIndexAndById)
 {
     for (const IF_HANDLE handle : openUpdated()) {
         for (const std::string &id : session.deviceIds(handle)) {
@@ -130,7 +130,7 @@ TEST_F(ListConformance, missingArgumentsAreRefused)
     }
 }
 
-TEST_F(ListConformance, interfaceIsOpenOnceAndStartsWithoutAListWhenReopened)
+TEST_F(ListConformance, interfaceCanBeOpenedOnlyOnceUntilItIsClosed)
 {
     session.updateInterfaces();
     for (const std::string &id : session.interfaceIds()) {
@@ -147,7 +147,7 @@ TEST_F(ListConformance, interfaceIsOpenOnceAndStartsWithoutAListWhenReopened)
     }
 }
 
-TEST_F(ListConformance, updatesReportChangesOfTheirOwnListWithAnyTimeout)
+TEST_F(ListConformance, updateReportsWhetherItsOwnListHasChanged)
 {
     const bool isChanged = session.updateInterfaces();
     EXPECT_EQ(isChanged, !session.interfaceIds().empty());
@@ -183,7 +183,7 @@ TEST_F(ListConformance, threadsMayReadAndUpdateAtTheSameTime)
             }
         }
     };
-    std::vector<std::future<void>> threads; // Its destructor waits for them all.
+    std::vector<std::future<void>> threads; // The destructor waits for all threads.
     for (int i = 0; i < 4; ++i)
         threads.push_back(std::async(std::launch::async, updateAndRead));
 }

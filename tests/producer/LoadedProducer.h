@@ -16,12 +16,13 @@
     X(IFGetParentTL)
 // clang-format on
 
-/// A producer that is loaded like any consumer loads it: by its path, each function by its name.
-/// The functions are public members under their own names. Throws if the file cannot be loaded.
+/// Loads a producer by its path and finds each function by its name, as any consumer does.
+/// Each function is a public member with the name of the function.
 class LoadedProducer
 {
 public:
-    /// Without a file, takes the producer that is linked into this program.
+    /// Loads this file. Without a file, uses the producer that is linked into this program. Throws on
+    /// failure.
     explicit LoadedProducer(const std::filesystem::path &file = {})
         : m_file(file.empty() ? file : std::filesystem::canonical(file)),
           m_library(dlopen(file.empty() ? nullptr : m_file.c_str(), RTLD_NOW | RTLD_LOCAL))
@@ -41,7 +42,7 @@ public:
 
 private:
     const std::filesystem::path m_file;
-    void *const m_library; // Before the functions, which are initialised from it.
+    void *const m_library; // Declared before the functions, which are found in the library.
 
 public:
 #define CORVIX_MEMBER(name) const GenTL::P##name name = reinterpret_cast<GenTL::P##name>(symbol(#name));

@@ -7,11 +7,12 @@
 #include <utility>
 #include <vector>
 
-/// A producer from GCInitLib and TLOpen to GCCloseLib. Every failure on the way is a test failure.
+/// Initialises a producer and opens its system; the destructor closes the library. Every failing call is a
+/// test failure.
 class ProducerSession
 {
 public:
-    /// Without a file, takes the producer that is linked into this program.
+    /// Without a file, uses the producer that is linked into this program.
     explicit ProducerSession(const std::filesystem::path &file = {}) : m_producer(file)
     {
         EXPECT_EQ(m_producer.GCInitLib(), GenTL::GC_ERR_SUCCESS);
@@ -19,20 +20,21 @@ public:
         EXPECT_NE(m_system, GenTL::GENTL_INVALID_HANDLE);
     }
 
-    /// No TLClose: some tests have closed the system already, and closing the library closes everything.
+    /// Does not call TLClose, because some tests have already closed the system and GCCloseLib closes
+    /// everything.
     ~ProducerSession() { EXPECT_EQ(m_producer.GCCloseLib(), GenTL::GC_ERR_SUCCESS); }
 
     const LoadedProducer &producer() const { return m_producer; }
     GenTL::TL_HANDLE system() const { return m_system; }
 
-    /// Update a list and return whether the producer reports a change.
+    /// Each of these two functions updates a list and returns whether the producer reports a change.
     bool updateInterfaces() const { return update(m_producer.TLUpdateInterfaceList, m_system); }
     bool updateDevices(GenTL::IF_HANDLE handle) const
     {
         return update(m_producer.IFUpdateDeviceList, handle);
     }
 
-    /// Return the lists as of the last update.
+    /// Each of these two functions returns the IDs of a list as of the last update.
     std::vector<std::string> interfaceIds() const
     {
         return readIds(m_producer.TLGetNumInterfaces, m_producer.TLGetInterfaceID, m_system);
@@ -72,7 +74,7 @@ public:
         return readString(infoCall(m_producer.IFGetDeviceInfo, handle, id.c_str(), command));
     }
 
-    /// Returns code and message of this thread's last error.
+    /// Returns the code and the message of this thread's last error.
     std::pair<GenTL::GC_ERROR, std::string> lastError() const
     {
         GenTL::GC_ERROR code = GenTL::GC_ERR_SUCCESS;

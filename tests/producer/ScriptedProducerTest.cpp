@@ -1,5 +1,5 @@
-// What all our producers share, tested with a device source that follows a script. The producer is linked
-// into this program.
+// These tests check the code that all our producers share, with a device source that follows a script. The
+// shared code is linked into this program.
 
 #include "sdk/producer/DeviceSource.h"
 #include "tests/producer/ProducerSession.h"
@@ -17,7 +17,7 @@ namespace {
 using Ids = std::vector<std::string>;
 using ListDevices = std::function<Ids(const std::string &interfaceId)>;
 
-/// What the device source does. Each test sets what differs from this.
+/// Defines what the device source does. Each test changes the members that it needs.
 struct Script
 {
     std::function<void()> start = [] {};
@@ -103,7 +103,7 @@ TEST_F(ScriptedProducer, exceptionOfAnyTypeBecomesAnErrorCode)
     }
 }
 
-TEST_F(ScriptedProducer, sourceThatCannotStartLeavesTheProducerUninitialised)
+TEST_F(ScriptedProducer, producerStaysUninitialisedIfItsSourceCannotStart)
 {
     ASSERT_EQ(producer().GCCloseLib(), GC_ERR_SUCCESS);
     script.start = [] { throw std::runtime_error("The source cannot start."); };
@@ -113,7 +113,7 @@ TEST_F(ScriptedProducer, sourceThatCannotStartLeavesTheProducerUninitialised)
     EXPECT_EQ(producer().GCInitLib(), GC_ERR_SUCCESS);
 }
 
-TEST_F(ScriptedProducer, entriesWithAnEmptyOrRepeatedIdAreLeftOut)
+TEST_F(ScriptedProducer, entriesWithAnEmptyOrRepeatedIdAreOmitted)
 {
     const Ids doubtful{"twice", "", "twice", std::string("cut\0here", 8), "cut", "last"};
     script.interfaces = [&] { return doubtful; };
@@ -140,7 +140,7 @@ TEST_F(ScriptedProducer, deviceReportsTheFieldsOfItsRecord)
     EXPECT_EQ(readNumber(status, INFO_DATATYPE_INT32), DEVICE_ACCESS_STATUS_BUSY);
 }
 
-TEST(ProducerRecords, areEqualIfAllFieldsAre)
+TEST(ProducerRecords, recordsDifferIfAnyFieldDiffers)
 {
     for (const auto field :
         {&DeviceRecord::id, &DeviceRecord::vendor, &DeviceRecord::model, &DeviceRecord::tlType,
@@ -158,7 +158,7 @@ TEST(ProducerRecords, areEqualIfAllFieldsAre)
     }
 }
 
-TEST_F(ScriptedProducer, openInterfaceFollowsTheListAndOutlivesItsEntry)
+TEST_F(ScriptedProducer, openInterfaceReportsUpdatesUntilItsEntryDisappears)
 {
     const IF_HANDLE handle = session.open("one");
     script.interfaceName = "New name";
@@ -174,7 +174,7 @@ TEST_F(ScriptedProducer, openInterfaceFollowsTheListAndOutlivesItsEntry)
     EXPECT_EQ(producer().TLOpenInterface(session.system(), "one", &second), GC_ERR_RESOURCE_IN_USE);
 }
 
-TEST_F(ScriptedProducer, interfacesAreSearchedAtTheSameTime)
+TEST_F(ScriptedProducer, twoInterfacesCanBeSearchedAtTheSameTime)
 {
     std::promise<void> started[2];
     script.devices = [&](const std::string &id) { // Each search waits until the other one has started.
@@ -192,7 +192,7 @@ TEST_F(ScriptedProducer, interfacesAreSearchedAtTheSameTime)
     EXPECT_EQ(session.deviceIds(two), Ids{"met"});
 }
 
-TEST_F(ScriptedProducer, oneInterfaceIsNeverSearchedTwiceAtOnce)
+TEST_F(ScriptedProducer, sameInterfaceIsNeverSearchedTwiceAtTheSameTime)
 {
     std::atomic<int> searches{0};
     std::atomic<bool> hasOverlapped{false};
@@ -210,6 +210,6 @@ TEST_F(ScriptedProducer, oneInterfaceIsNeverSearchedTwiceAtOnce)
             for (int round = 0; round < 200; ++round)
                 EXPECT_EQ(update(handle), GC_ERR_SUCCESS);
         }));
-    threads.clear(); // Waits for them all.
+    threads.clear(); // Waits for all threads.
     EXPECT_FALSE(hasOverlapped);
 }

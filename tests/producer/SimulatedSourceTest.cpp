@@ -1,4 +1,4 @@
-// The simulator while a person edits its configuration file.
+// These tests edit the configuration file while the simulator uses it.
 
 #include "sdk/simulator/SimulatedSource.h"
 
@@ -21,7 +21,8 @@ const Ids defaultCameras{"corvix-simulator-0001", "corvix-simulator-0002"};
 
 } // namespace
 
-/// A device source whose configuration file is in a temporary folder, and absent at first.
+/// Provides a device source with a configuration file in a temporary folder. At first, the file does not
+/// exist.
 class SimulatedSourceTest : public testing::Test
 {
 protected:
@@ -33,7 +34,7 @@ protected:
 
     ~SimulatedSourceTest() override { std::filesystem::remove_all(folder); }
 
-    /// Overwrites the file. Its time stamp is set, because two quick edits can get the same one.
+    /// Overwrites the file and sets its time stamp, because two quick edits could have the same time stamp.
     void write(const std::string &text, int seconds)
     {
         std::ofstream(file, std::ios::binary) << text;
@@ -52,7 +53,7 @@ protected:
         return ids;
     }
 
-    /// Expects these devices in three updates, and one line on standard error with this reason.
+    /// Expects these devices in each of three updates, and a single line on standard error with this reason.
     void expectProblem(const Ids &expected, const std::string &reason)
     {
         testing::internal::CaptureStderr();
@@ -81,7 +82,7 @@ TEST_F(SimulatedSourceTest, fileIsReadAgainWhenItsTimeStampOrSizeChanges)
     EXPECT_TRUE(source->updateDevices("another interface").empty());
 }
 
-TEST_F(SimulatedSourceTest, fileWithAMistakeChangesNothingAndIsReportedOnce)
+TEST_F(SimulatedSourceTest, invalidFileIsReportedOnlyOnce)
 {
     write(R"({"interfaces": [1]})", 1);
     expectProblem(defaultCameras, "interfaces[0] is not an object");
@@ -91,7 +92,7 @@ TEST_F(SimulatedSourceTest, fileWithAMistakeChangesNothingAndIsReportedOnce)
     expectProblem({"one"}, "parse error");
 }
 
-TEST_F(SimulatedSourceTest, removedFileMeansTwoCamerasAndAnUnusableOneTheLastGoodFile)
+TEST_F(SimulatedSourceTest, unreadableFileKeepsTheLastValidConfiguration)
 {
     write(withDevice("one"), 1);
     EXPECT_EQ(devices(), Ids{"one"});

@@ -1,4 +1,4 @@
-// What a configuration file of the simulator may contain.
+// These tests check what a configuration file of the simulator may contain.
 
 #include "sdk/simulator/SimulatorConfiguration.h"
 
@@ -10,13 +10,13 @@ namespace {
 
 constexpr auto readWrite = GenTL::DEVICE_ACCESS_STATUS_READWRITE;
 
-/// Returns the text of a configuration with this list of devices on the interface "net".
+/// Returns the text of a configuration whose interface "net" has these devices.
 std::string withDevices(const std::string &devices)
 {
     return R"({"interfaces": [{"id": "net", "tlType": "GEV", "devices": [)" + devices + "]}]}";
 }
 
-/// Returns the message of the exception that parsing this text throws.
+/// Returns the message of the exception that parsing this text throws, or "none".
 std::string problemOf(const std::string &text)
 {
     try {
@@ -34,7 +34,7 @@ bool operator==(const SimulatedInterface &left, const SimulatedInterface &right)
     return left.record == right.record && left.devices == right.devices;
 }
 
-TEST(SimulatorConfiguration, defaultHasTwoCameras)
+TEST(SimulatorConfiguration, defaultConfigurationHasTwoCameras)
 {
     EXPECT_EQ(defaultConfiguration(),
         (SimulatorConfiguration{{{"simulator", "Camera Simulator", "Custom"},
@@ -80,7 +80,7 @@ TEST(SimulatorConfiguration, emptyDisplayNameIsReplaced)
 TEST(SimulatorConfiguration, mistakeIsReportedWithItsPlace)
 {
     const std::pair<std::string, std::string> expected[] = {
-        // The text and the start of the message.
+        // Each row contains a text and the start of its error message.
         {"", "[json.exception.parse_error"},
         {R"({"interfaces": [], "note": 1e999})", "[json.exception.out_of_range"},
         {"[]", R"(the file contains no object with "interfaces")"},

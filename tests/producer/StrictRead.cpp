@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t guardSize = 32;
 constexpr char guard = '\xA5';
 
-/// What a call writes into a buffer of some capacity.
+/// The results of a call with a buffer.
 struct Reply
 {
     GC_ERROR code;
@@ -19,7 +19,7 @@ struct Reply
     std::string bytes;
 };
 
-/// Calls with a buffer that has a guarded zone behind its end.
+/// Calls with a buffer, and checks that the call does not change the bytes after the end of the buffer.
 Reply callWithBuffer(const InfoCall &call, std::size_t capacity)
 {
     std::string buffer(capacity + guardSize, guard);
@@ -31,7 +31,8 @@ Reply callWithBuffer(const InfoCall &call, std::size_t capacity)
     return {code, type, buffer.substr(0, size)};
 }
 
-/// Reads the bytes of a value. An "ID" function leaves the type INFO_DATATYPE_UNKNOWN.
+/// Reads the bytes of a value and checks all rules. The expected type of an "ID" function is
+/// INFO_DATATYPE_UNKNOWN, because the function reports no type.
 std::string readBytes(const InfoCall &call, INFO_DATATYPE expectedType)
 {
     INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;

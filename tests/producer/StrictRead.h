@@ -6,10 +6,11 @@
 #include <functional>
 #include <string>
 
-/// An "ID" or "Info" function with all arguments but its outputs. An "ID" function ignores the type.
+/// A callable that calls an "ID" or "Info" function with these outputs. An "ID" function ignores the type.
 using InfoCall = std::function<GenTL::GC_ERROR(GenTL::INFO_DATATYPE *type, void *buffer, std::size_t *size)>;
 
-/// Returns a call of an "Info" function with these leading arguments, which have to outlive the call.
+/// Returns a callable that calls an "Info" function with these leading arguments, which have to outlive the
+/// callable.
 template <typename Function, typename... Arguments>
 InfoCall infoCall(Function function, Arguments... arguments)
 {
@@ -18,7 +19,8 @@ InfoCall infoCall(Function function, Arguments... arguments)
     };
 }
 
-/// Returns a call of an "ID" function with these leading arguments.
+/// Returns a callable that calls an "ID" function with these leading arguments, which have to outlive the
+/// callable.
 template <typename Function, typename... Arguments>
 InfoCall idCall(Function function, Arguments... arguments)
 {
@@ -27,12 +29,12 @@ InfoCall idCall(Function function, Arguments... arguments)
     };
 }
 
-// Each reads a value by the two-call protocol and checks all of its rules: the size without a buffer; a
-// buffer of the exact size, longer, one byte too short and of size 0; the type; missing outputs. A broken
-// rule is a test failure.
+// Each of these functions reads a value in two calls and checks all rules of this protocol: the size without
+// a buffer; a buffer of the exact size, longer, one byte too short and of size 0; the type; missing outputs.
+// A broken rule is a test failure.
 std::string readId(const InfoCall &call);
 std::string readString(const InfoCall &call);
-std::int32_t readNumber(const InfoCall &call, GenTL::INFO_DATATYPE type); ///< A type of 32 bits.
+std::int32_t readNumber(const InfoCall &call, GenTL::INFO_DATATYPE type); ///< The type has 32 bits.
 
-/// Returns the error code of a call that only asks for the size.
+/// Calls without a buffer, which requests only the size, and returns the error code.
 GenTL::GC_ERROR codeOf(const InfoCall &call);

@@ -24,7 +24,8 @@ HostConnection::HostConnection(const std::vector<std::string> &arguments)
         argv.push_back(word.data());
     argv.push_back(nullptr);
 
-    // Above the host's number: dup2() of a descriptor to itself would leave it to be closed on exec.
+    // The number must differ from hostSocketDescriptor: dup2() of a descriptor to itself keeps FD_CLOEXEC
+    // set.
     const int end = fcntl(ends[1], F_DUPFD_CLOEXEC, hostSocketDescriptor + 1);
     ::close(ends[1]);
     posix_spawn_file_actions_t actions;

@@ -8,7 +8,7 @@
 #include <sys/types.h>
 #include <vector>
 
-/// A producer host that this test has started, and the library's end of its socket.
+/// Starts a producer host and owns the library's end of its socket. The destructor kills the host.
 class HostConnection
 {
 public:
@@ -22,7 +22,8 @@ public:
     /// Blocks until the next reply has arrived. Returns nothing if the connection ends instead.
     std::optional<Message> receive();
 
-    /// Sends a request, and returns the content of the reply if that has the same ID and the given type.
+    /// Sends a request and returns the content of the reply. Returns nothing if the reply has another ID or
+    /// type.
     template <typename Reply, typename Request>
     std::optional<Reply> ask(const Request &request)
     {
@@ -35,7 +36,7 @@ public:
 
     void close() { m_channel.close(); }
 
-    /// Blocks until the host has ended. Returns its exit status, or -1 if a signal has ended it.
+    /// Blocks until the host has ended. Returns its exit status, or -1 if a signal has ended the host.
     int exitStatus();
 
 private:

@@ -30,7 +30,7 @@ protected:
 
 } // namespace
 
-TEST_F(LineChannelTest, splitsWhatArrivesIntoLines)
+TEST_F(LineChannelTest, receivedTextIsSplitIntoLines)
 {
     EXPECT_EQ(m_far.send("one\n\nthree\nfo"), Status::Line);
     for (const char *line : {"one", "", "three"}) {
@@ -45,16 +45,16 @@ TEST_F(LineChannelTest, splitsWhatArrivesIntoLines)
     EXPECT_FALSE(m_near.hasMore());
 }
 
-TEST_F(LineChannelTest, waitsForTheRestOfALine)
+TEST_F(LineChannelTest, waitForLineBlocksUntilTheLineIsComplete)
 {
-    const std::string sent(5U << 20, 'x'); // More than the socket's buffer takes.
+    const std::string sent(5U << 20, 'x'); // The text is larger than the socket's buffer.
     std::thread sender([&] { EXPECT_EQ(m_near.send(sent + "\n"), Status::Line); });
     EXPECT_EQ(m_far.waitForLine(m_line), Status::Line);
     sender.join();
     EXPECT_EQ(m_line, sent);
 }
 
-TEST_F(LineChannelTest, acceptsALineOfTheLimit)
+TEST_F(LineChannelTest, acceptsALineOfMaximumLength)
 {
     m_far.send(std::string(maxLength, 'x'));
     EXPECT_EQ(m_near.tryReadLine(m_line), Status::Pending);
@@ -63,23 +63,23 @@ TEST_F(LineChannelTest, acceptsALineOfTheLimit)
     EXPECT_EQ(m_line.size(), maxLength);
 }
 
-TEST_F(LineChannelTest, refusesALineOverTheLimit)
+TEST_F(LineChannelTest, refusesALineOverTheMaximumLength)
 {
     m_far.send(std::string(maxLength + 1, 'x'));
     EXPECT_EQ(m_near.tryReadLine(m_line), Status::TooLong);
 }
 
-TEST_F(LineChannelTest, returnsTheLastLineBeforeTheEnd)
+TEST_F(LineChannelTest, lastCompleteLineIsReturnedBeforeTheEnd)
 {
     m_far.send("last\nrest");
     m_far.close();
     EXPECT_EQ(m_near.waitForLine(m_line), Status::Line);
     EXPECT_EQ(m_near.waitForLine(m_line), Status::Closed);
     EXPECT_EQ(m_near.send("x\n"), Status::Closed);
-    m_near.trySend("x\n"); // Raises no SIGPIPE either.
+    m_near.trySend("x\n"); // This call must not raise SIGPIPE.
 }
 
-TEST_F(LineChannelTest, isEmptyAfterItWasClosed)
+TEST_F(LineChannelTest, closedChannelIsEmpty)
 {
     m_far.send("one\ntwo\n");
     m_near.tryReadLine(m_line);
@@ -90,7 +90,7 @@ TEST_F(LineChannelTest, isEmptyAfterItWasClosed)
     EXPECT_EQ(m_far.waitForLine(m_line), Status::Closed);
 }
 
-TEST_F(LineChannelTest, keepsWhatArrivedWhenItIsMoved)
+TEST_F(LineChannelTest, moveKeepsUnreadLines)
 {
     m_far.send("one\ntwo\n");
     m_near.tryReadLine(m_line);
@@ -99,7 +99,7 @@ TEST_F(LineChannelTest, keepsWhatArrivedWhenItIsMoved)
     EXPECT_EQ(m_line, "two");
 }
 
-TEST_F(LineChannelTest, noticesThatOtherCodeClosedItsDescriptor)
+TEST_F(LineChannelTest, channelIsLostIfOtherCodeClosesItsDescriptor)
 {
     const int descriptor = m_near.descriptor();
     const int file = open("/dev/null", O_RDWR | O_CLOEXEC);
@@ -109,6 +109,6 @@ TEST_F(LineChannelTest, noticesThatOtherCodeClosedItsDescriptor)
     close(descriptor);
     EXPECT_EQ(m_near.waitForLine(m_line), Status::Lost);
     EXPECT_EQ(m_near.send("x\n"), Status::Lost);
-    dup2(file, descriptor); // For the destructor.
+    dup2(file, descriptor); // The destructor closes this descriptor.
     close(file);
 }

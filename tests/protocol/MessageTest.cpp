@@ -19,7 +19,7 @@ std::optional<Content> received(const Content &content)
 
 } // namespace
 
-TEST(Message, listSurvivesTheRoundTrip)
+TEST(Message, cameraListIsUnchangedAfterTheRoundTrip)
 {
     const InterfaceRecord interface {
         18446744073709551615U, "if", "Net \"0\"", "GEV",
@@ -39,7 +39,7 @@ TEST(Message, listSurvivesTheRoundTrip)
     EXPECT_EQ(reply->problems[0].text, "in use");
 }
 
-TEST(Message, requestsSurviveTheRoundTrip)
+TEST(Message, requestsAreUnchangedAfterTheRoundTrip)
 {
     EXPECT_TRUE(received(ListCamerasRequest{true})->updatesInterfaces);
     EXPECT_FALSE(received(ListCamerasRequest{false})->updatesInterfaces);
@@ -47,7 +47,7 @@ TEST(Message, requestsSurviveTheRoundTrip)
     EXPECT_TRUE(received(CloseProducerRequest()));
 }
 
-TEST(Message, lastRepliesSurviveTheRoundTrip)
+TEST(Message, finalRepliesAreUnchangedAfterTheRoundTrip)
 {
     EXPECT_EQ(received(ProducerFailedReply{{"dlopen", 0, "gone"}})->problem.text, "gone");
     EXPECT_EQ(received(ProducerClosedReply{{{"TLClose", -1, ""}}})->problems.at(0).code, -1);
@@ -58,12 +58,12 @@ TEST(Message, invalidUtf8IsReplaced)
     EXPECT_EQ(received(ProducerFailedReply{{"a\xFF", 0, ""}})->problem.call, "a\xEF\xBF\xBD");
 }
 
-TEST(Message, hasNoContentOfAnotherKind)
+TEST(Message, contentOfTheWrongKindIsNotReturned)
 {
     EXPECT_FALSE(Message(1, ProducerClosedReply()).content<ProducerFailedReply>());
 }
 
-TEST(DeviceRecord, isOrderedByIdThenByItsOtherFields)
+TEST(DeviceRecord, recordsAreOrderedByIdThenByTheirOtherFields)
 {
     const DeviceRecord first{"a", "z", "", "", "", ""};
     const DeviceRecord second{"b", "a", "", "", "", ""};
@@ -76,7 +76,7 @@ TEST(DeviceRecord, isOrderedByIdThenByItsOtherFields)
 class MalformedBody : public testing::TestWithParam<const char *>
 { };
 
-TEST_P(MalformedBody, isRefused)
+TEST_P(MalformedBody, malformedBodyIsRefused)
 {
     const auto message
         = Message::fromLine(std::string(R"({"id":1,"kind":"cameraList","body":)") + GetParam() + "}");
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Bodies, MalformedBody,
 class MalformedLine : public testing::TestWithParam<std::string>
 { };
 
-TEST_P(MalformedLine, isNoMessage)
+TEST_P(MalformedLine, malformedLineIsRefused)
 {
     EXPECT_FALSE(Message::fromLine(GetParam()));
 }

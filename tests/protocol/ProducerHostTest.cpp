@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-TEST(ProducerHost, servesTheRequestsOfTheLibrary)
+TEST(ProducerHost, hostRepliesToEveryRequest)
 {
     HostConnection host({SIMULATOR});
     const auto list = host.ask<CameraListReply>(ListCamerasRequest{true});
@@ -28,7 +28,7 @@ TEST(ProducerHost, servesTheRequestsOfTheLibrary)
     EXPECT_EQ(host.exitStatus(), EXIT_SUCCESS);
 }
 
-TEST(ProducerHost, sendsAFailureToLoadWithoutARequest)
+TEST(ProducerHost, reportsALoadFailureBeforeAnyRequest)
 {
     HostConnection host({"/nowhere/gone.cti"});
     const auto message = host.receive();
@@ -40,7 +40,7 @@ TEST(ProducerHost, sendsAFailureToLoadWithoutARequest)
     EXPECT_EQ(host.exitStatus(), EXIT_SUCCESS);
 }
 
-TEST(ProducerHost, endsWhenTheLibraryClosesTheConnection)
+TEST(ProducerHost, hostExitsIfTheLibraryClosesTheConnection)
 {
     HostConnection host({SIMULATOR});
     ASSERT_TRUE(host.ask<CameraListReply>(ListCamerasRequest()));
@@ -48,7 +48,7 @@ TEST(ProducerHost, endsWhenTheLibraryClosesTheConnection)
     EXPECT_EQ(host.exitStatus(), EXIT_SUCCESS);
 }
 
-TEST(ProducerHost, endsAtARequestThatItDoesNotKnow)
+TEST(ProducerHost, hostExitsAtAnUnknownRequest)
 {
     for (const char *line : {"text\n", "{\"id\":1,\"kind\":\"openDoor\",\"body\":{}}\n"}) {
         HostConnection host({SIMULATOR});
@@ -58,7 +58,7 @@ TEST(ProducerHost, endsAtARequestThatItDoesNotKnow)
     }
 }
 
-TEST(ProducerHost, refusesToStartWithoutAProducer)
+TEST(ProducerHost, hostRefusesToStartWithoutAProducer)
 {
     EXPECT_EQ(HostConnection({}).exitStatus(), 64);
 }

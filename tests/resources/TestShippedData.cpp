@@ -26,7 +26,8 @@ QJsonArray referenceRows()
         .toArray();
 }
 
-/// Returns the picture that a reference row names: "assets/cameras/kx.png" is ":/images/cameras/kx.png".
+/// Returns the resource path of the picture in a reference row: "assets/cameras/kx.png" becomes
+/// ":/images/cameras/kx.png".
 QString pictureOf(const QJsonValue &row)
 {
     return QStringLiteral(":/images/")
@@ -60,31 +61,32 @@ QFont tileFont(int pixels, QFont::Weight weight)
 
 } // namespace
 
-/// What the shipped documents and pictures do in the program. Their content itself is in shipped-data.golden.
+/// Tests the effects of the shipped documents and pictures in the program. Another test compares the content
+/// of the documents with shipped-data.golden.
 class TestShippedData : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { m_config.load(); }
-    void platformHasItsTools_data();
-    void platformHasItsTools();
-    void toolNameFitsOneLineAndDescriptionTwo();
-    void referenceRowFindsItsPicture_data();
-    void referenceRowFindsItsPicture();
+    void toolsDependOnThePlatform_data();
+    void toolsDependOnThePlatform();
+    void nameAndDescriptionOfEveryToolFitTheTile();
+    void pictureOfEveryReferenceRowIsFound_data();
+    void pictureOfEveryReferenceRowIsFound();
     void everyCameraPictureBelongsToAReferenceRow();
-    void cameraWithoutModelGetsAPictureOfItsVendor();
-    void simulatedCameraHasGroupPictureAndTools_data();
-    void simulatedCameraHasGroupPictureAndTools();
-    void windowPictureHasItsSize_data();
-    void windowPictureHasItsSize();
+    void cameraWithoutAModelHasAPictureOfItsVendor();
+    void simulatedCameraHasItsGroupPictureAndTools_data();
+    void simulatedCameraHasItsGroupPictureAndTools();
+    void windowPictureHasTheExpectedSize_data();
+    void windowPictureHasTheExpectedSize();
     void iconContainsSevenSizes();
 
 private:
     LauncherConfig m_config;
 };
 
-void TestShippedData::platformHasItsTools_data()
+void TestShippedData::toolsDependOnThePlatform_data()
 {
     QTest::addColumn<QString>("platform");
     QTest::addColumn<QString>("ids");
@@ -95,7 +97,7 @@ void TestShippedData::platformHasItsTools_data()
     QTest::newRow("arm64") << QStringLiteral("linux_arm64") << everywhere;
 }
 
-void TestShippedData::platformHasItsTools()
+void TestShippedData::toolsDependOnThePlatform()
 {
     QFETCH(QString, platform);
     QStringList ids;
@@ -104,9 +106,9 @@ void TestShippedData::platformHasItsTools()
     QTEST(ids.join(QLatin1Char(' ')), "ids");
 }
 
-void TestShippedData::toolNameFitsOneLineAndDescriptionTwo()
+void TestShippedData::nameAndDescriptionOfEveryToolFitTheTile()
 {
-    const QSize inside(185 - 2 * 6, 70 - 2 * 6); // A tile without its margins.
+    const QSize inside(185 - 2 * 6, 70 - 2 * 6); // This is the size of a tile without its margins.
     const QFontMetrics name(tileFont(13, QFont::Bold)), description(tileFont(11, QFont::Normal));
     for (const ToolConfig &tool : m_config.allTools(QStringLiteral("linux_x86_64"))) {
         QVERIFY2(name.horizontalAdvance(tool.name) <= inside.width(), qPrintable(tool.name));
@@ -117,7 +119,7 @@ void TestShippedData::toolNameFitsOneLineAndDescriptionTwo()
     }
 }
 
-void TestShippedData::referenceRowFindsItsPicture_data()
+void TestShippedData::pictureOfEveryReferenceRowIsFound_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QString>("picture");
@@ -127,15 +129,15 @@ void TestShippedData::referenceRowFindsItsPicture_data()
     }
 }
 
-void TestShippedData::referenceRowFindsItsPicture()
+void TestShippedData::pictureOfEveryReferenceRowIsFound()
 {
     QFETCH(QString, model);
     QFETCH(QString, picture);
     CameraInfo camera;
     camera.modelName = model + QStringLiteral(" 5MP");
     QCOMPARE(m_config.findThumbnailForCamera(camera), picture);
-    // A whole multiple of the tooltip's 78 × 70 pixels stays sharp; a clear corner shows the tooltip's
-    // background.
+    // A picture stays sharp in the tooltip if its size is a whole multiple of 78 × 70 pixels. A transparent
+    // corner shows the background of the tooltip.
     const QImage image(picture);
     QCOMPARE(image.size(), 3 * QSize(78, 70));
     QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
@@ -154,16 +156,16 @@ void TestShippedData::everyCameraPictureBelongsToAReferenceRow()
     QCOMPARE(found, expected);
 }
 
-/// The first row in the order of the lookup matches a camera without a model, so it must not be a sister
-/// brand's.
-void TestShippedData::cameraWithoutModelGetsAPictureOfItsVendor()
+/// A camera without a model matches the first row of the lookup. That row must therefore belong to Orvelle
+/// and not to KORDANE or Lintaro.
+void TestShippedData::cameraWithoutAModelHasAPictureOfItsVendor()
 {
     CameraInfo camera;
     camera.vendorName = QStringLiteral("Orvelle");
     QCOMPARE(m_config.findThumbnailForCamera(camera), QStringLiteral(":/images/cameras/ilvo.png"));
 }
 
-void TestShippedData::simulatedCameraHasGroupPictureAndTools_data()
+void TestShippedData::simulatedCameraHasItsGroupPictureAndTools_data()
 {
     QTest::addColumn<QString>("group");
     QTest::addColumn<QString>("picture");
@@ -175,14 +177,14 @@ void TestShippedData::simulatedCameraHasGroupPictureAndTools_data()
     row("Kx200 Pro 5MP-C", "areascan", "cameras/kx200-pro", 2);
     row("Borea SWIR 1.3MP", "areascan", "cameras/borea-swir", 2);
     row("Ilvo Universal 2MP-M", "areascan", "cameras/ilvo", 2);
-    row("HX-2040M", "highres", "cameras/hx", 3); // The compatibility table limits it.
+    row("HX-2040M", "highres", "cameras/hx", 3); // The compatibility table limits the tools.
     row("HXT-15110M-CXP", "highres", "cameras/hxt", 5);
     row("Qz40 TDI 16k", "linescan", "cameras/qz40-tdi", 2);
     row("BenchCam 2", "other", "cameras/camera-placeholder", 1);
     row("Camera Simulator", "simulator", "orvelle-logo", 1);
 }
 
-void TestShippedData::simulatedCameraHasGroupPictureAndTools()
+void TestShippedData::simulatedCameraHasItsGroupPictureAndTools()
 {
     const CameraInfo camera = simulatedCamera(QString::fromLatin1(QTest::currentDataTag()));
     QVERIFY(!camera.modelName.isEmpty());
@@ -193,7 +195,7 @@ void TestShippedData::simulatedCameraHasGroupPictureAndTools()
     QTEST(int(tools.size()), "tools");
 }
 
-void TestShippedData::windowPictureHasItsSize_data()
+void TestShippedData::windowPictureHasTheExpectedSize_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("orvelle-logo") << QSize(256, 256);
@@ -204,7 +206,7 @@ void TestShippedData::windowPictureHasItsSize_data()
     QTest::newRow("refresh@2x") << QSize(48, 48);
 }
 
-void TestShippedData::windowPictureHasItsSize()
+void TestShippedData::windowPictureHasTheExpectedSize()
 {
     QTEST(QPixmap(QStringLiteral(":/images/%1.png").arg(QLatin1String(QTest::currentDataTag()))).size(),
         "size");

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QTest>
 
-/// The program that takes the place of the SDK's tools in a development installation.
+/// Tests the program that replaces the SDK's tools in a development installation.
 class TestToolStandIn : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,8 @@ void TestToolStandIn::everyToolOfThisPlatformHasAStandIn()
         const QFileInfo program(folder + QFileInfo(tool.executable).fileName());
         QCOMPARE(program.canonicalFilePath(), standIn.canonicalFilePath());
     }
-    QVERIFY(!QFileInfo::exists(folder + QStringLiteral("FirmwareUpdate"))); // For another platform.
+    // This tool is for another platform.
+    QVERIFY(!QFileInfo::exists(folder + QStringLiteral("FirmwareUpdate")));
 }
 
 QTEST_MAIN(TestToolStandIn)

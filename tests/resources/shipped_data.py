@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Summarises the shipped JSON documents and compares the summary with shipped-data.golden.
 
-With --update it writes the file instead. A change of the data then shows in the review of that file.
+With --update the script rewrites that file instead, so a review of the file shows every change of the data.
 """
 
 import collections
@@ -14,7 +14,7 @@ CONFIG = HERE.parents[1] / "resources" / "config"
 
 
 def unique(pairs):
-    """Refuses a key that stands twice: parsing would silently keep the last one."""
+    """Returns the pairs as a dictionary. Fails if a key occurs twice, because parsing would drop one value."""
     result = dict(pairs)
     assert len(result) == len(pairs), "duplicate key"
     return result
@@ -49,7 +49,7 @@ def compatibility_lines():
     table = document("halvex_tool_compatibility.json")
     cameras = table["cameras"]
     yield f"halvex_tool_compatibility {table['version']}"
-    codes = {code.lower() for code in cameras}  # Codes are compared without regard to case.
+    codes = {code.lower() for code in cameras}  # The launcher ignores the letter case of the codes.
     yield f"  {len(codes)} codes of {min(map(len, codes))} to {max(map(len, codes))} characters"
     for number, count in sorted(collections.Counter(len(set(entry["tools"])) for entry in cameras.values()).items()):
         yield f"  {count} entries with {number} tools"

@@ -1,4 +1,4 @@
-"""Simulator configurations of a soak run: cameras and interfaces come, go and change."""
+"""Creates simulator configurations for a soak run, in which cameras and interfaces appear, disappear and change."""
 
 import copy
 import json
@@ -7,18 +7,18 @@ from simulator import rows_of
 
 INTERFACES = [f"Soak{number}" for number in range(8)]
 TYPES = ["GEV", "U3V", "CL", "CLHS", "CXP", "IIDC", "UVC", "Ethernet", "PCI", "Custom"]
-# Vendors, and the group of their cameras.
+# The vendors, each with the group of its cameras.
 GROUPS = {"Kordane AG": "High Resolution Cameras", "Lintaro": "Line Scan Cameras", "Palvento": "Other",
           "Öhler & Söhne": "Other", "<b>Vendors</b> \"of\" all": "Other"}
 MODELS = ["BenchCam 2", "Line <i>8k</i> & more", "相機 12", "Latent"]
 MAX_CAMERAS = 40
 
-# The simulator's cameras if it has no configuration file.
+# The simulator reports these cameras if there is no configuration file.
 DEFAULT_ROWS = [("Orvelle", "Camera Simulator", "SIM0001"), ("Orvelle", "Camera Simulator", "SIM0002")]
 
 
 class RandomConfigurations:
-    """Makes one simulator configuration after the other. The random numbers alone decide which."""
+    """Creates simulator configurations that depend only on the first configuration and the random numbers."""
 
     def __init__(self, random, first):
         self.random = random
@@ -38,7 +38,7 @@ class RandomConfigurations:
         return self.content
 
     def broken(self):
-        """Returns a text that is no configuration."""
+        """Returns a text that is not a valid configuration."""
         text = json.dumps(self.content)
         return self.random.choice([
             "", "no JSON", "\udcff\udcfe", "[]", text[:self.random.randrange(1, len(text))], text + "}",

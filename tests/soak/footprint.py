@@ -1,11 +1,11 @@
-"""The memory, descriptors, threads and processor time of processes, read from /proc."""
+"""Reads the memory, descriptors, threads and processor time of processes from /proc."""
 
 import os
 import time
 
 
 def read(process, name):
-    """Returns the file's text, which is empty if the process is gone."""
+    """Returns the text of a file in the process's /proc directory, or an empty text if the process has ended."""
     try:
         with open(f"/proc/{process}/{name}", encoding="utf-8", errors="surrogateescape") as file:
             return file.read()
@@ -14,7 +14,7 @@ def read(process, name):
 
 
 def stat_fields(process):
-    """Returns the fields of /proc/PID/stat from the state on, which proc(5) calls field 3."""
+    """Returns the fields of /proc/PID/stat starting with the state, which is field 3 in proc(5)."""
     return read(process, "stat").rpartition(")")[2].split()
 
 
@@ -41,14 +41,14 @@ def hosts(launcher):
 
 
 def seconds_used(launcher):
-    """Returns the processor time that the launcher and all of its hosts have used, also those that have ended."""
+    """Returns the processor time that the launcher and all of its hosts have used, including ended hosts."""
     fields = [stat_fields(process)[11:13] for process in hosts(launcher).values()]
     ticks = sum(int(field) for of_process in (stat_fields(launcher)[11:15], *fields) for field in of_process)
     return ticks / os.sysconf("SC_CLK_TCK")
 
 
 class Footprint:
-    """What an idle process takes. Memory is in KiB; "own" memory is shared with no other process."""
+    """The resources that a process uses. Memory is in KiB; "own" memory is shared with no other process."""
 
     def __init__(self, process):
         self.process = process
@@ -58,7 +58,7 @@ class Footprint:
 
 
 def footprints(named_processes):
-    """Returns the footprints by name. A search takes threads and sockets for a while, so the smallest numbers count."""
+    """Returns the footprints by name. The smallest numbers are used, because a search needs more for a while."""
     found = {name: Footprint(process) for name, process in named_processes.items()}
     for _ in range(50):
         time.sleep(0.1)

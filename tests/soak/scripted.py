@@ -1,4 +1,4 @@
-"""Copies of the test producer in an installation, which follow a script; see tests/sdk/producer/TestProducer.cpp."""
+"""Installs copies of the test producer that follow a script; see tests/sdk/producer/TestProducer.cpp."""
 
 import os
 import shutil
@@ -19,7 +19,7 @@ class ScriptedProducer:
 
 
 class SlowProducer(ScriptedProducer):
-    """Reports two cameras, but searches slowly."""
+    """A producer that searches slowly and reports two cameras."""
 
     ROWS = [("Palvento", "Latent 1", "SLOW0001"), ("Palvento", "Latent 2", "SLOW0002")]
 
@@ -30,7 +30,7 @@ class SlowProducer(ScriptedProducer):
 
 
 class CrashingProducer(ScriptedProducer):
-    """Ends its host at every start, before it reports a camera."""
+    """A producer that ends its host at every start before it reports a camera."""
 
     CALLS = ["load", "GCInitLib", "TLOpen", "TLUpdateInterfaceList", "TLOpenInterface", "IFUpdateDeviceList"]
 

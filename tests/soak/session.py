@@ -1,4 +1,4 @@
-"""One launcher over a long time: random steps, each of which ends when the window shows the right content."""
+"""Runs random steps with one launcher. Each step ends when the window shows the expected content."""
 
 import os
 import signal
@@ -10,7 +10,7 @@ from scripted import SlowProducer
 from simulator import rows_of
 
 TOOL_TIP = "QTipLabel"  # the class of the tooltip's window
-ATTEMPTS = 5  # A refresh may remove a selection or a tooltip while it is made.
+ATTEMPTS = 5  # A refresh may remove a new selection or tooltip at once.
 NOTHING_SELECTED = "Select a camera to enable its recommended tools."
 
 
@@ -47,14 +47,14 @@ class Session:
         self.select()
 
     def window(self):
-        """Returns the main window. Only a tooltip may be open beside it."""
+        """Returns the main window. Fails if any other window than a tooltip is open."""
         windows = [window for window in self.launcher.windows() if window["class"] != TOOL_TIP]
         assert [window["text"] for window in windows] == [TITLE], windows
         return windows[0]
 
     def listed(self):
         """Returns the sorted rows of the table, or None during a scan."""
-        time.sleep(0.05)  # Reading the window costs the launcher more than its own work.
+        time.sleep(0.05)  # Continuous reading would slow the launcher down.
         window = self.window()
         if not named(window, "refreshBtn")["enabled"]:
             return None
@@ -64,7 +64,7 @@ class Session:
         wait_for(f"{promise}: {self.expected()}", lambda: self.listed() == self.expected())
 
     def assert_unchanged(self, seconds):
-        """Fails if the table shows anything else within some seconds."""
+        """Fails if the table shows unexpected cameras within this time."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             assert (listed := self.listed()) in (None, self.expected()), f"the table has changed by itself: {listed}"
@@ -110,7 +110,7 @@ class Session:
         wait_for("a refresh clears the selection", lambda: self.launcher.hint() == NOTHING_SELECTED)
 
     def attempt(self, promise, act, condition):
-        """Acts until the condition, which gets the result of the act, becomes true. Returns the condition's value."""
+        """Calls act() until condition(its result) is true, and returns the value of the condition."""
         for _ in range(ATTEMPTS):
             self.wait_for_table("the list is complete")
             done = act()
@@ -144,7 +144,7 @@ class Session:
         wait_for("the tool has ended", lambda: not output_of("pgrep", "--full", "--exact", program))
 
     def random_row(self):
-        """Returns the texts and the cells of one of the rows that are visible without scrolling."""
+        """Returns the texts and the cells of a random row that is visible without scrolling."""
         table = named(self.window(), "cameraTable")
         row = self.random.choice(table["rows"][:4])
         left, top = table["onScreen"][:2]

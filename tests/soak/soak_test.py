@@ -1,4 +1,4 @@
-"""Runs the launcher for minutes while cameras come and go and producers fail, and measures what it takes at the end.
+"""Runs the launcher for minutes while cameras appear and disappear and producers fail; compares its use of resources.
 
 usage: soak_test.py MINUTES SEED STAGE PLUGINS PRODUCER
 """
@@ -16,9 +16,9 @@ from scripted import CrashingProducer, SlowProducer
 from session import Session, named, press
 from simulator import SimulatorConfiguration
 
-REST = 60  # seconds; Qt drops the pictures that it keeps for a while
+REST = 60  # seconds; in this time, Qt releases its cached pictures
 MAX_GROWTH = 1.05
-MIN_GROWTH = 128  # KiB; a heap grows in such steps, and that of a host is only a few times as large
+MIN_GROWTH = 128  # KiB; a heap grows in steps of this size, and the heap of a host is only a few times larger
 MAX_IDLE_USE = 0.005  # of one processor
 EXPECTED_LINES = re.compile(
     r"Camera simulator: \S+\.json is not used: .*"
@@ -26,7 +26,7 @@ EXPECTED_LINES = re.compile(
 
 
 def measure(session, content):
-    """Shows a configuration and rests. Returns the footprints of the processes and the share of a processor they used."""
+    """Shows a configuration and waits. Returns the footprints of the processes and their share of one processor."""
     session.slow.search_for(1500)
     session.show(content)
     xdotool("mousemove", 2, 2)
@@ -34,7 +34,7 @@ def measure(session, content):
     launcher = session.launcher.process.pid
 
     started, used = time.monotonic(), footprint.seconds_used(launcher)
-    time.sleep(REST)  # The time itself is measured.
+    time.sleep(REST)  # The CPU use during this pause is measured.
     use = (footprint.seconds_used(launcher) - used) / (time.monotonic() - started)
 
     wait_for("the crashing producer is down, the slow one runs, and no child is a zombie", lambda:
@@ -44,7 +44,7 @@ def measure(session, content):
 
 
 def growth(first, last):
-    """Returns lines about the footprints, and the problems that they show."""
+    """Compares two measurements. Returns the lines of the summary and the problems."""
     lines, problems = [], []
     if {name: before.process for name, before in first.items()} != {name: after.process for name, after in last.items()}:
         return lines, [f"the processes have changed from {sorted(first)} to {sorted(last)}, or one was restarted"]
@@ -60,7 +60,7 @@ def growth(first, last):
 
 
 def close(session):
-    """Closes the launcher with its button. Returns the problems of the end and of the standard error."""
+    """Closes the launcher with its button. Returns the problems with its exit and its standard error."""
     hosts = footprint.hosts(session.launcher.process.pid).values()
     press(named(session.window(), "pushButton_2"))
     status = session.launcher.process.wait(timeout=60)
@@ -74,11 +74,11 @@ def close(session):
 
 
 def run(session, minutes):
-    """Returns the lines of the summary and the problems."""
+    """Runs all steps and both measurements. Returns the lines of the summary and the problems."""
     end = session.launcher.started + 60 * minutes
     session.wait_for_table("the first list is shown")
     content = session.simulator.read()
-    # What is loaded when it is first needed, and then kept, has to be there before the first measurement.
+    # Each kind of step runs once before the first measurement, because some data is loaded at its first use and kept.
     session.show(session.configurations.largest())
     for step in (session.start_tool, session.hover, session.break_configuration, session.remove_file, session.refresh):
         step()
@@ -107,12 +107,12 @@ def main():
     crashing.crash(chance)
     slow.put_in_place()
     crashing.put_in_place()
-    os.environ["DBUS_SESSION_BUS_ADDRESS"] = "disabled:"  # Qt would start a session bus in every tool.
+    os.environ["DBUS_SESSION_BUS_ADDRESS"] = "disabled:"  # Otherwise, Qt would start a session bus in every tool.
     with SimulatorConfiguration(stage) as simulator, Launcher(stage, plugins) as launcher:
         session = Session(launcher, simulator, RandomConfigurations(chance, simulator.read()), slow, crashing, chance)
         try:
             lines, problems = run(session, minutes)
-        except Exception as failure:  # The summary has to contain the seed, whatever has failed.
+        except Exception as failure:  # The summary must contain the seed after any failure.
             lines, problems = [], [f"{type(failure).__name__}: {failure}", "last steps: " + "; ".join(session.history[-10:]),
                                    f"standard error: {launcher.printed()[-3000:]}"]
     print("\n".join(lines))

@@ -2,7 +2,8 @@
 
 #include <QtTest>
 
-/// Returns the child with this class and object name. Fails the test and returns null if there is none.
+/// Returns the child with this class and object name. Fails the test and returns null if there is no such
+/// child.
 template <typename Child>
 Child *childNamed(const QObject &parent, const char *objectName)
 {

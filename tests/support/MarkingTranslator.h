@@ -2,7 +2,7 @@
 
 #include <QTranslator>
 
-/// Translates every text into "[context] text". Install it on the application.
+/// Translates every string into "[context] string". Install the translator in the application.
 class MarkingTranslator : public QTranslator
 {
 public:

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVector>
 
-/// Records Qt's log messages from every thread while it lives. Only one may exist at a time.
+/// Records Qt's log messages from all threads during its lifetime. Only one MessageLog may exist at a time.
 class MessageLog
 {
 public:

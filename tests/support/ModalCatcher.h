@@ -8,8 +8,8 @@
 
 #include <functional>
 
-/// Records every message box and menu that opens while it lives. Clicks the first button of a box.
-/// A modal dialog blocks its caller in an event loop of its own, so a timer in that loop finds the dialog.
+/// Records and closes every message box and menu that opens during its lifetime. A message box is closed with
+/// its first button. A modal dialog blocks its caller in a nested event loop, so a timer finds the dialog.
 class ModalCatcher
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     struct Menu
     {
-        QStringList actions; ///< The texts; empty for a separator.
+        QStringList actions; ///< The strings of the entries; empty for a separator.
         QPoint position; ///< Top left corner on the screen.
         QPointer<QWidget> parent;
     };
@@ -34,10 +34,10 @@ public:
         m_timer.start(5);
     }
 
-    /// The text of the menu action to choose. If it is null, Escape closes the menu.
+    /// The string of the menu entry to choose. If the string is null, Escape closes the menu.
     QString choose;
 
-    /// Called while a box is open, before it is answered.
+    /// Called for each open message box before its button is clicked.
     std::function<void(QMessageBox &)> onBox = [](QMessageBox &) {};
 
     const QList<Box> &boxes() const { return m_boxes; }
@@ -50,7 +50,7 @@ private:
         QWidget *open = popup ? popup : QApplication::activeModalWidget();
         if (open == m_answered)
             return;
-        m_answered = open; // Null once nothing is open, because the same menu may open again.
+        m_answered = open; // Null if nothing is open, because the same menu may open again.
         if (auto *menu = qobject_cast<QMenu *>(open))
             answerMenu(menu);
         else if (auto *box = qobject_cast<QMessageBox *>(open))
@@ -81,5 +81,5 @@ private:
     QTimer m_timer;
     QList<Box> m_boxes;
     QList<Menu> m_menus;
-    QPointer<QWidget> m_answered; // A dialog that is closing must not be answered again.
+    QPointer<QWidget> m_answered; // A dialog that is closing must not be handled again.
 };

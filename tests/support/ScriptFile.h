@@ -7,7 +7,7 @@
 /// Reads and writes small files, usually in a QTemporaryDir.
 namespace ScriptFile {
 
-/// Writes a file, creates missing directories and returns the path.
+/// Creates missing directories, writes the file and returns its path.
 inline QString write(const QString &path, const QByteArray &content)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
@@ -25,7 +25,7 @@ inline QString writeExecutable(const QString &path, const QByteArray &body)
     return path;
 }
 
-/// Returns the content of the file; empty if there is none.
+/// Returns the content of the file; empty if the file cannot be opened.
 inline QByteArray read(const QString &path)
 {
     QFile file(path);

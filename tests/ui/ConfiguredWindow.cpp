@@ -25,7 +25,7 @@ QJsonObject standardGroups()
         group("simulator", {viewer, tool("configurator", "bin/Configurator")})});
 }
 
-/// Returns a PNG file of one colour.
+/// Returns the content of a PNG file with one colour.
 QByteArray picture(const QSize &size, const QColor &color)
 {
     QImage image(size, QImage::Format_RGB32);

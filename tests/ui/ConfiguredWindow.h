@@ -16,9 +16,9 @@ constexpr int hangTimeout = 30'000; // Milliseconds. Only a hang takes longer.
 
 Q_DECLARE_METATYPE(CameraInfo)
 
-/// A window in an empty installation directory, with its own configuration documents and pictures.
-/// The standard documents contain seven tools in five groups, of which "other" has no name, and the reference
-/// rows "Kx200" and "Lost", whose picture is missing.
+/// Creates a window in an empty installation directory, with its own configuration documents and pictures.
+/// The standard documents contain seven tools in five groups; the group "other" has no name. They also
+/// contain the reference rows "Kx200" and "Lost"; the picture of "Lost" is missing.
 class ConfiguredWindow
 {
 public:
@@ -38,13 +38,15 @@ public:
     /// Creates an empty file below the installation directory.
     void createFile(const QString &relative);
 
-    /// Writes the installation's bin/CvxC.xml, with these search directories in the second function.
+    /// Writes the installation's bin/CvxC.xml.
     void writeXml(const QByteArray &content);
+
+    /// Writes a bin/CvxC.xml that contains these search directories.
     void writeCtiPaths(const QStringList &directories);
 
     void loadConfig() { window.loadConfig(m_root.path()); }
 
-    /// Sets the cameras as after a completed scan: none is selected.
+    /// Shows the cameras and clears the selection, as the controller does after a scan.
     void setCameras(const QVector<CameraInfo> &cameras);
 
     /// Loads the configuration, sets the cameras and shows the window.
@@ -59,7 +61,7 @@ public:
 
     QList<int> selectedRows() const;
 
-    /// Returns the centre of a cell in the window's coordinates. The window has to be shown.
+    /// Returns the centre of a cell in the window's coordinates. The window has to be visible.
     QPoint cellCenter(int row, int column) const;
     void click(const QPoint &position, Qt::MouseButton button = Qt::LeftButton);
 
@@ -68,5 +70,5 @@ private:
     QTemporaryDir m_root;
 
 public:
-    MainWindow window{nullptr}; // After the files, which it reads.
+    MainWindow window{nullptr}; // Declared after m_files, because the window reads these files.
 };

@@ -15,18 +15,19 @@ class TestCameraMenu : public QObject
 private slots:
     void initTestCase();
     void init();
-    void rightClickOffersTheCtiLocation();
-    void chosenEntryOpensTheDirectoryOfTheFile_data();
-    void chosenEntryOpensTheDirectoryOfTheFile();
+    void rightClickOpensAMenuWithTheCtiLocation();
+    void menuEntryOpensTheDirectoryOfTheProducerFile_data();
+    void menuEntryOpensTheDirectoryOfTheProducerFile();
     void dismissedMenuOpensNothing();
     void menuNeverSearchesForFiles();
-    void placesWithoutACameraHaveNoMenu();
+    void rightClickOutsideTheCamerasOpensNoMenu();
 
 private:
     void rightClick(int row) { m_window->click(m_window->cellCenter(row, 1), Qt::RightButton); }
     QString opened() const { return QString::fromUtf8(ScriptFile::read(m_opener.filePath("calls"_s))); }
 
-    QTemporaryDir m_opener; // Contains the program "xdg-open", which appends its arguments to "calls".
+    // Contains the program "xdg-open", which appends its arguments to the file "calls".
+    QTemporaryDir m_opener;
     std::unique_ptr<ConfiguredWindow> m_window;
     std::unique_ptr<ModalCatcher> m_catcher;
 };
@@ -42,7 +43,7 @@ void TestCameraMenu::initTestCase()
 {
     ConfiguredWindow::useShippedStyle();
     ScriptFile::writeExecutable(m_opener.filePath("xdg-open"_s),
-        "printf '%s\\n' \"$@\" >> \"$(dirname \"$0\")/calls\"\n"); // One write per call.
+        "printf '%s\\n' \"$@\" >> \"$(dirname \"$0\")/calls\"\n"); // Each call writes once.
     qputenv("PATH", m_opener.path().toLocal8Bit() + ':' + qgetenv("PATH"));
 }
 
@@ -54,7 +55,7 @@ void TestCameraMenu::init()
     m_catcher->choose = "CTI location"_s;
 }
 
-void TestCameraMenu::rightClickOffersTheCtiLocation()
+void TestCameraMenu::rightClickOpensAMenuWithTheCtiLocation()
 {
     m_window->createFile("cti/a_gige.cti"_s);
     m_window->open({gigE});
@@ -68,17 +69,18 @@ void TestCameraMenu::rightClickOffersTheCtiLocation()
     QCOMPARE(m_window->window.findChildren<QMenu *>().size(), 0);
 }
 
-void TestCameraMenu::chosenEntryOpensTheDirectoryOfTheFile_data()
+void TestCameraMenu::menuEntryOpensTheDirectoryOfTheProducerFile_data()
 {
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("directory");
     QTest::newRow("the camera's interface") << QStringList{"one/a_gige.cti"_s, "two/a_usb.cti"_s} << "two"_s;
-    // With equal scores and equal names the earlier directory wins, here "one".
+    // If scores and names are equal, the earlier directory is chosen. In this row it is "one".
     QTest::newRow("equal names") << QStringList{"two/usb.cti"_s, "one/usb.cti"_s} << "one"_s;
-    QTest::newRow("one argument") << QStringList{"odd \"$HOME\"; */usb.cti"_s} << "odd \"$HOME\"; *"_s;
+    QTest::newRow("special characters in the directory")
+        << QStringList{"odd \"$HOME\"; */usb.cti"_s} << "odd \"$HOME\"; *"_s;
 }
 
-void TestCameraMenu::chosenEntryOpensTheDirectoryOfTheFile()
+void TestCameraMenu::menuEntryOpensTheDirectoryOfTheProducerFile()
 {
     QFETCH(QStringList, files);
     QFETCH(QString, directory);
@@ -101,7 +103,7 @@ void TestCameraMenu::dismissedMenuOpensNothing()
     rightClick(0);
     m_catcher->choose = "CTI location"_s;
     rightClick(1);
-    // An opener started by the first menu would have written before this one.
+    // If the first menu had started "xdg-open", the file "calls" would contain another line.
     QTRY_COMPARE_WITH_TIMEOUT(opened(), m_window->path("two\n"_s), hangTimeout);
     QCOMPARE(m_catcher->menus().size(), 2);
 }
@@ -109,16 +111,16 @@ void TestCameraMenu::dismissedMenuOpensNothing()
 void TestCameraMenu::menuNeverSearchesForFiles()
 {
     m_window->open({gigE});
-    m_window->createFile("cti/a_gige.cti"_s); // After the table's rebuild, which found no file.
+    m_window->createFile("cti/a_gige.cti"_s); // The last rebuild of the table found no file.
     rightClick(0);
     QCOMPARE(m_catcher->menus().size(), 0);
 }
 
-void TestCameraMenu::placesWithoutACameraHaveNoMenu()
+void TestCameraMenu::rightClickOutsideTheCamerasOpensNoMenu()
 {
     m_window->createFile("cti/a_gige.cti"_s);
     m_window->open({gigE, usb, gigE});
-    for (const QWidget *place : {m_window->table()->viewport(), // Below the last row.
+    for (const QWidget *place : {m_window->table()->viewport(), // This point is below the last row.
              static_cast<QWidget *>(m_window->table()->horizontalHeader())}) {
         const QPoint position = place->rect().bottomLeft() + QPoint(20, -2);
         m_window->click(place->mapTo(&m_window->window, position), Qt::RightButton);

@@ -13,20 +13,20 @@ class TestCameraTable : public QObject
 
 private slots:
     void initTestCase();
-    void rowsShowTheCamerasInTheirOrder();
-    void newListIsShownByTheNextSelection();
-    void clickSelectsAndRebuildsOnce();
-    void selectionIsMatchedByIdAndSerialNumber_data();
-    void selectionIsMatchedByIdAndSerialNumber();
+    void tableShowsTheCamerasInTheirOrder();
+    void newCamerasAreShownByTheNextSelection();
+    void clickRebuildsTheTableOnce();
+    void selectedRowHasTheSameIdAndSerialNumber_data();
+    void selectedRowHasTheSameIdAndSerialNumber();
     void nothingIsSelectedAfterARefresh();
-    void lostCurrentCellKeepsTheSelectedCamera();
+    void losingTheCurrentCellKeepsTheSelectedCamera();
     void clickOnARemovedRowIsIgnored();
     void rowsOfTheSelectedGroupAreMarked();
     void emptyGroupMarksNoRow();
-    void columnsAreSizedOnce();
-    void tintFollowsTheMouse();
-    void hoverEventsReachTheTable();
-    void viewportIsRepaintedForANewRowAndForEveryLeave();
+    void columnWidthsAreSetOnlyOnce();
+    void hoveredRowIsTinted();
+    void tableReceivesHoverEvents();
+    void viewportIsRepaintedOnlyForANewRowOrALeaveEvent();
 };
 
 namespace {
@@ -48,7 +48,7 @@ QVector<bool> groupMarks(const ConfiguredWindow &configured)
     return marks;
 }
 
-/// Moves the mouse and returns the rows with the hover tint, in all of their cells.
+/// Moves the mouse and returns the rows whose cells all have the hover tint.
 QList<int> tintedRows(ConfiguredWindow &configured, const QPoint &mousePosition)
 {
     QTest::mouseMove(configured.window.windowHandle(), mousePosition);
@@ -60,7 +60,7 @@ QList<int> tintedRows(ConfiguredWindow &configured, const QPoint &mousePosition)
         for (int column = 0; column < 3; ++column) {
             const QRect cell
                 = configured.table()->visualRect(configured.table()->model()->index(row, column));
-            const QPoint pixel(cell.right() - 4, cell.top() + 2); // Contains no text.
+            const QPoint pixel(cell.right() - 4, cell.top() + 2); // This pixel is beside the text.
             const QPoint inWindow = configured.table()->viewport()->mapTo(&configured.window, pixel);
             tinted = tinted && image.pixelColor(inWindow).name() == "#243447"_s;
         }
@@ -77,7 +77,7 @@ void TestCameraTable::initTestCase()
     ConfiguredWindow::useShippedStyle();
 }
 
-void TestCameraTable::rowsShowTheCamerasInTheirOrder()
+void TestCameraTable::tableShowsTheCamerasInTheirOrder()
 {
     ConfiguredWindow configured;
     configured.open(fourCameras);
@@ -91,7 +91,7 @@ void TestCameraTable::rowsShowTheCamerasInTheirOrder()
     }
 }
 
-void TestCameraTable::newListIsShownByTheNextSelection()
+void TestCameraTable::newCamerasAreShownByTheNextSelection()
 {
     ConfiguredWindow configured;
     configured.loadConfig();
@@ -106,7 +106,7 @@ void TestCameraTable::newListIsShownByTheNextSelection()
     QCOMPARE(configured.table()->rowCount(), 0);
 }
 
-void TestCameraTable::clickSelectsAndRebuildsOnce()
+void TestCameraTable::clickRebuildsTheTableOnce()
 {
     ConfiguredWindow configured;
     configured.open(fourCameras);
@@ -118,11 +118,11 @@ void TestCameraTable::clickSelectsAndRebuildsOnce()
     configured.click(configured.cellCenter(1, 2));
     QCOMPARE(rebuilds.size(), 2);
     QCOMPARE(configured.selectedRows(), QList<int>{1});
-    configured.click(configured.cellCenter(1, 0)); // Already selected.
+    configured.click(configured.cellCenter(1, 0)); // This row is already selected.
     QCOMPARE(configured.selectedRows(), QList<int>{1});
 }
 
-void TestCameraTable::selectionIsMatchedByIdAndSerialNumber_data()
+void TestCameraTable::selectedRowHasTheSameIdAndSerialNumber_data()
 {
     QTest::addColumn<CameraInfo>("selected");
     QTest::addColumn<QList<int>>("rows");
@@ -131,11 +131,11 @@ void TestCameraTable::selectionIsMatchedByIdAndSerialNumber_data()
     QTest::newRow("other serial number") << orvelle("Nova", "9", "c") << QList<int>();
     QTest::newRow("other ID") << orvelle("Nova", "3", "z") << QList<int>();
     QTest::newRow("other letter case") << orvelle("Nova", "3", "C") << QList<int>();
-    // Intended: the "Scanning..." row is shown selected, because empty fields are equal as well.
+    // Intended: the "Scanning..." row is shown as selected, because empty fields are equal as well.
     QTest::newRow("no camera") << CameraInfo() << QList<int>{4};
 }
 
-void TestCameraTable::selectionIsMatchedByIdAndSerialNumber()
+void TestCameraTable::selectedRowHasTheSameIdAndSerialNumber()
 {
     QFETCH(CameraInfo, selected);
     ConfiguredWindow configured;
@@ -160,7 +160,7 @@ void TestCameraTable::nothingIsSelectedAfterARefresh()
     QVERIFY(!configured.tiles().at(0)->isEnabled());
 }
 
-void TestCameraTable::lostCurrentCellKeepsTheSelectedCamera()
+void TestCameraTable::losingTheCurrentCellKeepsTheSelectedCamera()
 {
     ConfiguredWindow configured;
     configured.open(fourCameras);
@@ -175,7 +175,7 @@ void TestCameraTable::clickOnARemovedRowIsIgnored()
 {
     ConfiguredWindow configured;
     configured.open(fourCameras);
-    configured.window.setCameras({fourCameras.at(0), fourCameras.at(1)}); // Still shows four rows.
+    configured.window.setCameras({fourCameras.at(0), fourCameras.at(1)}); // The table still shows 4 rows.
     const QSignalSpy rebuilds(configured.table()->model(), &QAbstractItemModel::modelReset);
     configured.click(configured.cellCenter(2, 0));
     QCOMPARE(rebuilds.size(), 0);
@@ -193,7 +193,7 @@ void TestCameraTable::rowsOfTheSelectedGroupAreMarked()
         QVERIFY(!configured.table()->item(0, column)->data(Qt::UserRole + 1).isValid());
     const CameraInfo withoutId = orvelle("Kx200", "7", "");
     configured.window.setCameras({withoutId, fourCameras.at(0)});
-    configured.window.setSelectedCamera(withoutId); // It has no group.
+    configured.window.setSelectedCamera(withoutId); // A camera without an ID has no group.
     QCOMPARE(configured.selectedRows(), QList<int>{0});
     QCOMPARE(groupMarks(configured), QVector<bool>({false, false}));
 }
@@ -206,8 +206,8 @@ void TestCameraTable::emptyGroupMarksNoRow()
     QCOMPARE(groupMarks(configured), QVector<bool>(4, false));
 }
 
-// Intended: a later change of the width does not change the first two columns.
-void TestCameraTable::columnsAreSizedOnce()
+// Intended: a later change of the table's width does not resize the first two columns.
+void TestCameraTable::columnWidthsAreSetOnlyOnce()
 {
     ConfiguredWindow configured;
     QTableWidget *table = configured.table();
@@ -226,7 +226,7 @@ void TestCameraTable::columnsAreSizedOnce()
     QCOMPARE(widths(), (QList<int>{100, 200, 181}));
 }
 
-void TestCameraTable::tintFollowsTheMouse()
+void TestCameraTable::hoveredRowIsTinted()
 {
     ConfiguredWindow configured;
     configured.open(fourCameras);
@@ -244,19 +244,19 @@ void TestCameraTable::tintFollowsTheMouse()
     QCOMPARE(tintedRows(configured, outside), QList<int>());
 }
 
-void TestCameraTable::hoverEventsReachTheTable()
+void TestCameraTable::tableReceivesHoverEvents()
 {
     ConfiguredWindow configured;
     configured.open(fourCameras);
     const QSignalSpy entered(configured.table(), &QTableWidget::cellEntered);
     tintedRows(configured, configured.cellCenter(1, 2));
     QCOMPARE(entered, (QList<QList<QVariant>>{{1, 2}}));
-    QObject &filter = configured.window; // As Qt calls it.
+    QObject &filter = configured.window; // Qt calls the function through this class.
     QEvent leave(QEvent::Leave);
     QVERIFY(!filter.eventFilter(configured.table()->viewport(), &leave));
 }
 
-void TestCameraTable::viewportIsRepaintedForANewRowAndForEveryLeave()
+void TestCameraTable::viewportIsRepaintedOnlyForANewRowOrALeaveEvent()
 {
     class PaintCounter : public QObject
     {
@@ -274,7 +274,7 @@ void TestCameraTable::viewportIsRepaintedForANewRowAndForEveryLeave()
     PaintCounter counter;
     QWidget *viewport = configured.table()->viewport();
     viewport->installEventFilter(&counter);
-    const auto paintsAfter = [&](QEvent &&event) { // Sent to the viewport alone.
+    const auto paintsAfter = [&](QEvent &&event) { // Sends the event only to the viewport.
         QCoreApplication::sendEvent(viewport, &event);
         QCoreApplication::processEvents();
         return counter.paints;
@@ -284,7 +284,7 @@ void TestCameraTable::viewportIsRepaintedForANewRowAndForEveryLeave()
         return QMouseEvent(QEvent::MouseMove, to, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     };
     QCOMPARE(paintsAfter(moveTo(inside)), 1);
-    QCOMPARE(paintsAfter(moveTo(inside + QPoint(3, 1))), 1); // The same row.
+    QCOMPARE(paintsAfter(moveTo(inside + QPoint(3, 1))), 1); // The mouse stays in the row.
     QCOMPARE(paintsAfter(QEvent(QEvent::Leave)), 2);
     QCOMPARE(paintsAfter(QEvent(QEvent::Leave)), 3);
 }

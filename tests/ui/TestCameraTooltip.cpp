@@ -11,9 +11,9 @@ class TestCameraTooltip : public QObject
 
 private slots:
     void tooltipContainsThePictureAndTheFields();
-    void picturesAreScaledToTheirWidth();
-    void fields_data();
-    void fields();
+    void picturesAreScaledToTheSameWidth();
+    void tooltipOmitsEmptyFieldsAndEscapesHtml_data();
+    void tooltipOmitsEmptyFieldsAndEscapesHtml();
 };
 
 namespace {
@@ -67,7 +67,7 @@ void TestCameraTooltip::tooltipContainsThePictureAndTheFields()
                 + field("CTI file", "a_gige.cti"_s)));
 }
 
-void TestCameraTooltip::picturesAreScaledToTheirWidth()
+void TestCameraTooltip::picturesAreScaledToTheSameWidth()
 {
     ConfiguredWindow configured;
     configured.loadConfig();
@@ -78,14 +78,14 @@ void TestCameraTooltip::picturesAreScaledToTheirWidth()
     for (int row = 0; row < expected.size(); ++row) {
         const QByteArray text = base64(configured.toolTip(row)).toLatin1();
         const QByteArray png = QByteArray::fromBase64(text);
-        QCOMPARE(png.toBase64(), text); // Standard alphabet with padding.
+        QCOMPARE(png.toBase64(), text); // The encoding uses the standard alphabet with padding.
         const QImage image = QImage::fromData(png, "PNG");
         QCOMPARE(image.size(), expected.at(row).first);
         QCOMPARE(image.pixelColor(image.rect().center()), expected.at(row).second);
     }
 }
 
-void TestCameraTooltip::fields_data()
+void TestCameraTooltip::tooltipOmitsEmptyFieldsAndEscapesHtml_data()
 {
     QTest::addColumn<CameraInfo>("info");
     QTest::addColumn<QString>("file");
@@ -106,8 +106,9 @@ void TestCameraTooltip::fields_data()
             + field("MAC", "%99 %L1"_s) + field("CTI file", "%1%2%3.cti"_s);
 }
 
-// Intended: the placeholder does not replace a picture that cannot be loaded, so there is no image cell.
-void TestCameraTooltip::fields()
+// Intended: the placeholder does not replace a picture that cannot be loaded. The tooltip therefore has no
+// image cell.
+void TestCameraTooltip::tooltipOmitsEmptyFieldsAndEscapesHtml()
 {
     QFETCH(CameraInfo, info);
     QFETCH(QString, file);

@@ -5,18 +5,18 @@
 
 using namespace ConfigDocuments;
 
-/// The producer file that is chosen for a camera.
+/// Tests which producer file is chosen for a camera.
 class TestCtiChoice : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void eachKeywordOutweighsOtherNames_data();
-    void eachKeywordOutweighsOtherNames();
-    void bestFile_data();
-    void bestFile();
-    void simulatorNeedsVendorAndModel();
-    void choiceIsKeptPerLabel();
+    void fileNameWithAKeywordIsPreferred_data();
+    void fileNameWithAKeywordIsPreferred();
+    void fileWithTheMostPointsIsChosen_data();
+    void fileWithTheMostPointsIsChosen();
+    void simulatorIsRecognisedByVendorAndModel();
+    void choiceIsCachedForEachLabel();
 };
 
 namespace {
@@ -31,7 +31,8 @@ QStringList split(const QString &names)
     return names.split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-/// Returns the file chosen among these, which are in "cti" or in the directories "b" and "a", in this order.
+/// Returns the file that is chosen among `files`. A file without a directory is created in "cti". The search
+/// order is "cti", "b", "a".
 QString chosenFile(const QStringList &files, const CameraInfo &info)
 {
     ConfiguredWindow configured(QMap<QString, QByteArray>{});
@@ -45,7 +46,7 @@ QString chosenFile(const QStringList &files, const CameraInfo &info)
 
 } // namespace
 
-void TestCtiChoice::eachKeywordOutweighsOtherNames_data()
+void TestCtiChoice::fileNameWithAKeywordIsPreferred_data()
 {
     QTest::addColumn<QString>("interfaceType");
     QTest::addColumn<QString>("keyword");
@@ -64,7 +65,7 @@ void TestCtiChoice::eachKeywordOutweighsOtherNames_data()
     add("FireWire IIDC iidc", "iidc firewire FireWire");
 }
 
-void TestCtiChoice::eachKeywordOutweighsOtherNames()
+void TestCtiChoice::fileNameWithAKeywordIsPreferred()
 {
     QFETCH(QString, interfaceType);
     QFETCH(QString, keyword);
@@ -72,7 +73,7 @@ void TestCtiChoice::eachKeywordOutweighsOtherNames()
     QCOMPARE(chosenFile({"aa_corvix.cti"_s, "0.cti"_s, expected}, withInterface(interfaceType)), expected);
 }
 
-void TestCtiChoice::bestFile_data()
+void TestCtiChoice::fileWithTheMostPointsIsChosen_data()
 {
     QTest::addColumn<QString>("interfaceType");
     QTest::addColumn<QString>("files");
@@ -84,13 +85,13 @@ void TestCtiChoice::bestFile_data()
     add("two keywords, one", "GigE", "a_gig.cti b_gige.cti", "b_gige.cti");
     add("three keywords, two", "GigE", "a_gige.cti b_gevt_gig.cti", "b_gevt_gig.cti");
     add("gigeetl has three keywords", "GigE", "a_gevt.cti b_gigeetl.cti", "b_gigeetl.cti");
-    // Intended: "usbt" is listed twice, and "usbtL" counts in lower case as well.
+    // Intended: the keywords contain "usbt" twice, and "usbtL" matches in lower case as well.
     add("usbt counts twice", "USB", "a_usb_u3v.cti b_usbt.cti", "b_usbt.cti");
     add("usbtl counts twice more", "USB", "a_usbt_u3v.cti b_usbtl.cti", "b_usbtl.cti");
     add("usb and u3v, usb", "USB", "a_usb.cti b_usb_u3v.cti", "b_usb_u3v.cti");
     add("CameraLinkHS", "CameraLinkHS", "a_cameralink_cltl.cti b_clhs.cti", "b_clhs.cti");
     add("CameraLink", "CameraLink", "a_clhs.cti b_cltl.cti", "b_cltl.cti");
-    // A label that fits two rows of keywords has only those of the earlier row.
+    // If a label matches two rows of keywords, only the keywords of the earlier row count.
     add("simulator before gige", "GigE Simulator", "a_gige.cti b_simulator.cti", "b_simulator.cti");
     add("gige before usb", "USB GigE", "a_usb.cti b_gige.cti", "b_gige.cti");
     add("usb before cxp", "CXP USB", "a_cxp.cti b_usb.cti", "b_usb.cti");
@@ -103,7 +104,7 @@ void TestCtiChoice::bestFile_data()
     add("name decides a tie across directories", "GigE", "b/b_gige.cti a/a_gige.cti", "a_gige.cti");
     add("name with its letter case", "GigE", "a_gige.cti B_gige.cti", "B_gige.cti");
     add("extension in capitals", "GigE", "a.cti b_gige.CTI", "b_gige.CTI");
-    for (const char *interfaceType : {"GigE", "Other"}) // The last "gige.cti" is a directory.
+    for (const char *interfaceType : {"GigE", "Other"}) // In the last path, "gige.cti" is a directory.
         add("other files", interfaceType, "z.CtI gige.txt gige.cti.bak gigecti cti/gige.cti/x", "z.CtI");
     add("label is trimmed", " GigE ", "a.cti b_gige.cti", "b_gige.cti");
     add("label in capitals", "COAXPRESS", "a.cti b_cxp.cti", "b_cxp.cti");
@@ -115,14 +116,14 @@ void TestCtiChoice::bestFile_data()
         add(interfaceType, interfaceType, "b_corvix.cti a.cti Zed.cti zz_gige.cti zz_usb.cti", "Zed.cti");
 }
 
-void TestCtiChoice::bestFile()
+void TestCtiChoice::fileWithTheMostPointsIsChosen()
 {
     QFETCH(QString, interfaceType);
     QFETCH(QString, files);
     QTEST(chosenFile(split(files), withInterface(interfaceType)), "best");
 }
 
-void TestCtiChoice::simulatorNeedsVendorAndModel()
+void TestCtiChoice::simulatorIsRecognisedByVendorAndModel()
 {
     const auto chosen = [](const char *vendor, const char *model) {
         const CameraInfo info = camera(latin1(vendor), latin1(model), {}, {}, "GigE"_s);
@@ -133,8 +134,8 @@ void TestCtiChoice::simulatorNeedsVendorAndModel()
     QCOMPARE(chosen("Orvelle", "Kx200"), "a_gige.cti"_s);
 }
 
-// Intended: a refresh does not find new files. Labels with the same keywords have entries of their own.
-void TestCtiChoice::choiceIsKeptPerLabel()
+// Intended: a refresh does not find new files. Labels with the same keywords have separate cache entries.
+void TestCtiChoice::choiceIsCachedForEachLabel()
 {
     ConfiguredWindow configured;
     configured.loadConfig();
@@ -143,10 +144,11 @@ void TestCtiChoice::choiceIsKeptPerLabel()
     configured.setCameras({withInterface("GigE"_s), withInterface(" GigE"_s)});
     configured.createFile("cti/a_gige.cti"_s);
     configured.setCameras({withInterface("GigE"_s), withInterface(" GigE"_s), withInterface("gige"_s)});
-    QCOMPARE(configured.ctiFile(0), "-"_s); // That there was no file is kept as well.
+    QCOMPARE(configured.ctiFile(0), "-"_s); // The empty result is cached as well.
     QCOMPARE(configured.ctiFile(1), "b_gige.cti"_s);
     QCOMPARE(configured.ctiFile(2), "a_gige.cti"_s);
-    delete childNamed<QWidget>(configured.window, "toolsContainer")->layout(); // For a second configuration.
+    // loadConfig() needs a container without a layout.
+    delete childNamed<QWidget>(configured.window, "toolsContainer")->layout();
     configured.loadConfig();
     configured.setCameras({withInterface("GigE"_s)});
     QCOMPARE(configured.ctiFile(0), "a_gige.cti"_s);

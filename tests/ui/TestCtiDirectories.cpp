@@ -6,17 +6,18 @@
 
 using namespace ConfigDocuments;
 
-/// The directories that are searched for producer files. Each one contains a file that one interface prefers
-/// to all others: the directory is searched if a camera with this interface shows the file in its tooltip.
+/// Tests which directories are searched for producer files. Each directory contains a producer file for a
+/// different interface. The directory was searched if a camera with this interface shows the file in its
+/// tooltip.
 class TestCtiDirectories : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void document_data();
-    void document();
-    void installRootComesBeforeTheDirectoryOfTheDocument();
+    void searchDirectoriesAreReadFromTheDocument_data();
+    void searchDirectoriesAreReadFromTheDocument();
+    void relativePathIsResolvedInTheInstallRootFirst();
     void emptyInstallRootMeansTheCurrentDirectory();
 
 private:
@@ -43,7 +44,7 @@ const Directory directories[]
 void TestCtiDirectories::init()
 {
     m_configured = std::make_unique<ConfiguredWindow>(QMap<QString, QByteArray>());
-    m_configured->createFile("own"_s); // A file, while "bin/own" is a directory.
+    m_configured->createFile("own"_s); // "own" is a file, but "bin/own" is a directory.
     for (const Directory &directory : directories)
         m_configured->createFile(latin1(directory.path) + QLatin1Char('/') + latin1(directory.fileName));
 }
@@ -60,7 +61,7 @@ QString TestCtiDirectories::searched()
     return found.join(QLatin1Char('|'));
 }
 
-void TestCtiDirectories::document_data()
+void TestCtiDirectories::searchDirectoriesAreReadFromTheDocument_data()
 {
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<QString>("expected");
@@ -87,16 +88,19 @@ void TestCtiDirectories::document_data()
     add("two CtiPaths", "<c><CtiPaths><Path>more</Path></CtiPaths><CtiPaths><Path>last</Path></CtiPaths></c>",
         "more|last");
     add("inner end tag", "<CtiPaths><CtiPaths><Path>more</Path></CtiPaths><Path>last</Path></CtiPaths>",
-        "more"); // Intended: it ends the outer element as well.
+        "more"); // Intended: the inner end tag ends the outer element as well.
     add("relative to the document", "<CtiPaths><Path>own</Path></CtiPaths>", "bin/own");
     add("relative to the install root", "<CtiPaths><Path>bin/own</Path></CtiPaths>", "bin/own");
     add("parent of the document", "<CtiPaths><Path>../more</Path></CtiPaths>", "more");
     add("absolute", "<CtiPaths><Path>ROOT/more</Path></CtiPaths>", "more");
     add("missing", "<CtiPaths><Path>nowhere</Path></CtiPaths>", "cti");
     add("missing and present", "<CtiPaths><Path>nowhere</Path><Path>more</Path></CtiPaths>", "more");
-    add("missing absolute", "<CtiPaths><Path>/nowhere</Path></CtiPaths>", ""); // Kept, so "cti" is not used.
-    add("missing resource", "<CtiPaths><Path>:/nowhere</Path></CtiPaths>", ""); // Absolute for Qt.
-    add("carriage returns", "<CtiPaths>\r\n<Path>mo\rre</Path></CtiPaths>", "more"); // Dropped in text mode.
+    // The path still counts, so "cti" is not used.
+    add("missing absolute", "<CtiPaths><Path>/nowhere</Path></CtiPaths>", "");
+    // For Qt, a path that starts with ":" is absolute.
+    add("missing resource", "<CtiPaths><Path>:/nowhere</Path></CtiPaths>", "");
+    // Text mode removes every carriage return.
+    add("carriage returns", "<CtiPaths>\r\n<Path>mo\rre</Path></CtiPaths>", "more");
     add("child element", "<CtiPaths><Path>more<b/></Path><Path>last</Path></CtiPaths>", "more");
     add("child element, absolute", "<CtiPaths><Path>/nowhere<b/></Path></CtiPaths>", "");
     add("child element first", "<CtiPaths><Path><b/>last</Path><Path>last</Path></CtiPaths>", "cti");
@@ -104,7 +108,7 @@ void TestCtiDirectories::document_data()
     add("undeclared entity", "<CtiPaths><Path>more&e;</Path><Path>last</Path></CtiPaths>", "more");
     add("undeclared prefix", "<CtiPaths><Path>more</Path><n:Path>last</n:Path></CtiPaths>", "more");
     add("cut off", "<CtiPaths><Path>more</Path>", "more");
-    add("text behind the root", "<CtiPaths><Path>more</Path></CtiPaths>last", "more");
+    add("text after the root", "<CtiPaths><Path>more</Path></CtiPaths>last", "more");
     add("no XML", "CtiPaths = more", "cti");
     add("empty file", "", "cti");
     QByteArray entities;
@@ -116,7 +120,7 @@ void TestCtiDirectories::document_data()
         "more");
 }
 
-void TestCtiDirectories::document()
+void TestCtiDirectories::searchDirectoriesAreReadFromTheDocument()
 {
     QFETCH(QByteArray, xml);
     m_configured->writeXml(xml.replace("ROOT", m_configured->path({}).toUtf8()));
@@ -126,10 +130,10 @@ void TestCtiDirectories::document()
     QCOMPARE(log.entries().size(), 0);
 }
 
-void TestCtiDirectories::installRootComesBeforeTheDirectoryOfTheDocument()
+void TestCtiDirectories::relativePathIsResolvedInTheInstallRootFirst()
 {
     m_configured->createFile("twice/root_gige.cti"_s);
-    m_configured->createFile("bin/twice/bin_gige.cti"_s); // Its name comes first.
+    m_configured->createFile("bin/twice/bin_gige.cti"_s); // This name comes first in the sort order.
     m_configured->writeCtiPaths({"twice"_s});
     m_configured->loadConfig();
     m_configured->setCameras({camera({}, {}, {}, {}, "GigE"_s)});
@@ -139,7 +143,7 @@ void TestCtiDirectories::installRootComesBeforeTheDirectoryOfTheDocument()
 void TestCtiDirectories::emptyInstallRootMeansTheCurrentDirectory()
 {
     const QString before = QDir::currentPath();
-    m_configured->writeCtiPaths({"more"_s}); // Not read.
+    m_configured->writeCtiPaths({"more"_s}); // This file is not read.
     QVERIFY(QDir::setCurrent(m_configured->path({})));
     m_configured->window.loadConfig({});
     const QString found = searched();

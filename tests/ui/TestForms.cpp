@@ -17,24 +17,26 @@
 #include <QTableWidget>
 #include <QtTest>
 
-/// Compares what the forms and constructors set with golden dumps. Run the test with CORVIX_UPDATE_GOLDEN=1
-/// to rewrite the dumps after an intended change. They contain nothing that depends on fonts.
+/// Compares the properties that the forms and constructors set with golden dumps. After an intended change,
+/// run the test with CORVIX_UPDATE_GOLDEN=1 to rewrite the dumps. The dumps contain nothing that depends on
+/// fonts.
 class TestForms : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void mainWindow();
-    void toolTile();
-    void layoutDirectionOfTheCameraTableIsFixed();
+    void mainWindowMatchesItsGoldenDump();
+    void toolTileMatchesItsGoldenDump();
+    void cameraTableIsAlwaysLeftToRight();
 };
 
 using namespace ConfigDocuments;
 
 namespace {
 
-/// Properties that depend on the position in the window, on fonts or on other properties.
+/// The dumps omit these properties, which depend on the position in the window, on fonts or on other
+/// properties.
 const QStringList derivedProperties = QString::fromLatin1(
     "objectName geometry frameGeometry frameSize normalGeometry x y pos size width height rect childrenRect "
     "childrenRegion palette font cursor minimumWidth minimumHeight maximumWidth maximumHeight sizeHint "
@@ -49,10 +51,10 @@ QString toText(const Value &value)
     return text;
 }
 
-/// Returns the path of the shipped file with these pixels.
+/// Returns the path of the shipped picture with these pixels, or "none".
 QString picturePath(const QImage &image)
 {
-    const auto order = QDir::Name | QDir::Reversed; // The logo's ".png" before its ".ico".
+    const auto order = QDir::Name | QDir::Reversed; // The logo's ".png" has to precede its ".ico".
     for (const QFileInfo &file : QDir(":/images"_s).entryInfoList(QDir::Files, order)) {
         if (!image.isNull() && QIcon(file.filePath()).pixmap(image.size()).toImage() == image)
             return file.filePath();
@@ -71,7 +73,7 @@ QString valueText(const QMetaProperty &property, const QVariant &value)
     return value.canConvert<QString>() ? value.toString() : toText(value);
 }
 
-/// Returns a new widget of the first of these classes that the widget has.
+/// Returns a new widget of the first class in `Classes` of which `widget` is an instance.
 template <typename... Classes>
 std::unique_ptr<QWidget> freshWidget(const QWidget &widget)
 {
@@ -88,7 +90,7 @@ void dumpLayout(const QBoxLayout &layout, const QString &indent, QStringList &li
 {
     QWidget page;
     QWidget plain(&page);
-    const QHBoxLayout untouched(&plain); // Its margins and spacing are the style's defaults.
+    const QHBoxLayout untouched(&plain); // This layout has the style's default margins and spacing.
     const bool hasDefaultSpacing = layout.spacing() == untouched.spacing();
     const bool hasDefaultMargins = layout.contentsMargins() == untouched.contentsMargins();
     lines += indent + latin1(layout.metaObject()->className()) + " "_s + layout.objectName();
@@ -104,7 +106,7 @@ void dumpLayout(const QBoxLayout &layout, const QString &indent, QStringList &li
     }
 }
 
-/// Adds what no property contains.
+/// Adds the settings of the widget that are not properties.
 void dumpExtras(const QWidget &widget, const QString &indent, QStringList &lines)
 {
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
@@ -129,7 +131,7 @@ void dumpExtras(const QWidget &widget, const QString &indent, QStringList &lines
     }
 }
 
-/// Adds the widget with every property that differs from a fresh widget's, then its layout and its children.
+/// Adds the widget with every property that differs from a new widget, and then its layout and its children.
 void dumpWidget(const QWidget &widget, const QString &indent, QStringList &lines)
 {
     const auto fresh
@@ -147,7 +149,8 @@ void dumpWidget(const QWidget &widget, const QString &indent, QStringList &lines
     if (const auto *layout = qobject_cast<const QBoxLayout *>(widget.layout()))
         dumpLayout(*layout, inner, lines);
     for (const QWidget *child : widget.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        const QString name = child->objectName(); // Qt's own widgets have none, or one with "qt_".
+        // Names of Qt's internal widgets are empty or start with "qt_".
+        const QString name = child->objectName();
         const bool isInternal = name.isEmpty() || name.startsWith(QLatin1String("qt_"));
         if (!isInternal || name == QLatin1String("qt_scrollarea_viewport"))
             dumpWidget(*child, inner, lines);
@@ -169,8 +172,8 @@ void TestForms::initTestCase()
     QApplication::setStyle("fusion"_s);
 }
 
-// The translator marks every text that is translated, with its context.
-void TestForms::mainWindow()
+// The translator marks every translated string with its context.
+void TestForms::mainWindowMatchesItsGoldenDump()
 {
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
@@ -184,7 +187,7 @@ void TestForms::mainWindow()
     compareWithGolden(lines, "MainWindow.txt");
 }
 
-void TestForms::toolTile()
+void TestForms::toolTileMatchesItsGoldenDump()
 {
     QWidget page;
     const ApplicationLauncher tile("Tune & %1"_s, "About <it>"_s, &page);
@@ -193,7 +196,7 @@ void TestForms::toolTile()
     compareWithGolden(lines, "ApplicationLauncher.txt");
 }
 
-void TestForms::layoutDirectionOfTheCameraTableIsFixed()
+void TestForms::cameraTableIsAlwaysLeftToRight()
 {
     QApplication::setLayoutDirection(Qt::RightToLeft);
     const MainWindow window(nullptr);

@@ -12,18 +12,18 @@ class TestGroupMatchDelegate : public QObject
     Q_OBJECT
 
 private slots:
-    void hoverTintAndGroupBar_data();
-    void hoverTintAndGroupBar();
+    void hoverTintAndGroupBarArePainted_data();
+    void hoverTintAndGroupBarArePainted();
     void hoveredRowMayBeNull();
-    void painterIsRestored();
-    void styleNeverSeesTheMouse();
+    void penAndBrushOfThePainterAreRestored();
+    void hoverStateIsNotPassedToTheStyle();
 };
 
 namespace {
 
 const QRect cell(10, 20, 60, 30);
 
-/// Returns the cell painted on a magenta background.
+/// Returns an image of the cell on a magenta background.
 QImage painted(const int *hoveredRow, int row, int column, QStyle::State state, const QVariant &groupMatch)
 {
     QStandardItemModel model(3, 3);
@@ -38,7 +38,8 @@ QImage painted(const int *hoveredRow, int row, int column, QStyle::State state, 
     return image;
 }
 
-/// Returns the rectangle that has exactly this colour; null if there is none.
+/// Returns the rectangle that consists of all pixels with this colour; null if these pixels form no
+/// rectangle.
 QRect area(const QImage &image, const char *color)
 {
     QRect bounds;
@@ -56,7 +57,7 @@ QRect area(const QImage &image, const char *color)
 
 } // namespace
 
-void TestGroupMatchDelegate::hoverTintAndGroupBar_data()
+void TestGroupMatchDelegate::hoverTintAndGroupBarArePainted_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("column");
@@ -84,7 +85,7 @@ void TestGroupMatchDelegate::hoverTintAndGroupBar_data()
     QTest::newRow("match, hovered") << 1 << 0 << plain << QVariant(true) << QRect(13, 20, 57, 30) << bar;
 }
 
-void TestGroupMatchDelegate::hoverTintAndGroupBar()
+void TestGroupMatchDelegate::hoverTintAndGroupBarArePainted()
 {
     QFETCH(int, row);
     QFETCH(int, column);
@@ -101,7 +102,7 @@ void TestGroupMatchDelegate::hoveredRowMayBeNull()
     QCOMPARE(area(painted(nullptr, 0, 0, QStyle::State_Enabled, {}), "#ff00ff"), QRect(0, 0, 90, 70));
 }
 
-void TestGroupMatchDelegate::painterIsRestored()
+void TestGroupMatchDelegate::penAndBrushOfThePainterAreRestored()
 {
     QStandardItemModel model(1, 1);
     model.setData(model.index(0, 0), true, GroupMatchDelegate::GroupMatchRole);
@@ -114,7 +115,7 @@ void TestGroupMatchDelegate::painterIsRestored()
     QCOMPARE(painter.brush(), QBrush(Qt::blue));
 }
 
-void TestGroupMatchDelegate::styleNeverSeesTheMouse()
+void TestGroupMatchDelegate::hoverStateIsNotPassedToTheStyle()
 {
     class RecordingStyle : public QProxyStyle
     {
@@ -128,7 +129,7 @@ void TestGroupMatchDelegate::styleNeverSeesTheMouse()
         }
         mutable QVector<State> states;
     };
-    auto *style = new RecordingStyle; // Owned by the application.
+    auto *style = new RecordingStyle; // The application owns the style.
     QApplication::setStyle(style);
     const QStyle::State selected = QStyle::State_Enabled | QStyle::State_Selected;
     painted(nullptr, 0, 0, selected | QStyle::State_MouseOver, {});

@@ -14,7 +14,7 @@
 
 using namespace ConfigDocuments;
 
-/// The window without its tiles and its table.
+/// Tests the window except for its tiles and its table.
 class TestMainWindowShell : public QObject
 {
     Q_OBJECT
@@ -25,16 +25,16 @@ public slots:
 private slots:
     void initTestCase();
     void init();
-    void methodsAreTheTwoSignals();
+    void metaObjectContainsOnlyTheTwoSignals();
     void windowIsFramelessAndTranslucent();
     void backgroundHasRoundCorners();
     void refreshButtonRequestsARefreshWhileEnabled();
-    void minimiseButtonMinimises();
-    void closeButtonCloses();
+    void minimiseButtonMinimisesTheWindow();
+    void closeButtonClosesTheWindow();
     void menuContainsOnlyAboutQt();
-    void aboutQtShowsTheBoxOfQt();
-    void parentIsPassedOn();
-    void documentationIsOpened();
+    void aboutQtEntryShowsTheAboutQtBox();
+    void constructorSetsTheParent();
+    void documentationButtonOpensTheDocumentation();
     void missingDocumentationShowsAWarning();
     void documentationThatCannotBeOpenedShowsAWarning();
     void emptyInstallRootMeansTheCurrentDirectory();
@@ -62,7 +62,7 @@ void TestMainWindowShell::init()
     m_configured->open();
 }
 
-void TestMainWindowShell::methodsAreTheTwoSignals()
+void TestMainWindowShell::metaObjectContainsOnlyTheTwoSignals()
 {
     const QMetaObject &meta = MainWindow::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
@@ -115,14 +115,14 @@ void TestMainWindowShell::refreshButtonRequestsARefreshWhileEnabled()
     QCOMPARE(requests.size(), 2);
 }
 
-void TestMainWindowShell::minimiseButtonMinimises()
+void TestMainWindowShell::minimiseButtonMinimisesTheWindow()
 {
     click("pushButton");
     QTRY_VERIFY_WITH_TIMEOUT(window().isMinimized(), hangTimeout);
     QVERIFY(window().isVisible());
 }
 
-void TestMainWindowShell::closeButtonCloses()
+void TestMainWindowShell::closeButtonClosesTheWindow()
 {
     click("pushButton_2");
     QVERIFY(!window().isVisible());
@@ -134,16 +134,16 @@ void TestMainWindowShell::menuContainsOnlyAboutQt()
     const QPoint cursor = window().mapToGlobal({30, 200});
     QCursor::setPos(cursor);
     QTRY_COMPARE_WITH_TIMEOUT(QCursor::pos(), cursor, hangTimeout);
-    button("aboutQt_")->click(); // Leaves the cursor where it is.
+    button("aboutQt_")->click(); // This click does not move the cursor.
     QCOMPARE(catcher.menus().size(), 1);
     QCOMPARE(catcher.menus().at(0).actions, QStringList{"About Qt"_s});
     QCOMPARE(catcher.menus().at(0).parent.data(), &window());
     QCOMPARE(catcher.menus().at(0).position, cursor);
-    QCOMPARE(window().findChildren<QMenu *>().size(), 0); // Created by each click and destroyed afterwards.
+    QCOMPARE(window().findChildren<QMenu *>().size(), 0); // The click has destroyed its menu again.
     QCOMPARE(catcher.boxes().size(), 0); // The catcher has closed the menu with Escape.
 }
 
-void TestMainWindowShell::aboutQtShowsTheBoxOfQt()
+void TestMainWindowShell::aboutQtEntryShowsTheAboutQtBox()
 {
     ModalCatcher catcher;
     catcher.choose = "About Qt"_s;
@@ -152,7 +152,7 @@ void TestMainWindowShell::aboutQtShowsTheBoxOfQt()
     QCOMPARE(catcher.boxes().at(0).title, "About Qt"_s);
 }
 
-void TestMainWindowShell::parentIsPassedOn()
+void TestMainWindowShell::constructorSetsTheParent()
 {
     QWidget parent;
     const auto *child = new MainWindow(&parent);
@@ -160,7 +160,7 @@ void TestMainWindowShell::parentIsPassedOn()
     QVERIFY(child->isWindow());
 }
 
-void TestMainWindowShell::documentationIsOpened()
+void TestMainWindowShell::documentationButtonOpensTheDocumentation()
 {
     m_configured->createFile("doc/index.html"_s);
     ModalCatcher catcher;
@@ -179,7 +179,7 @@ void TestMainWindowShell::missingDocumentationShowsAWarning()
     QCOMPARE(catcher.boxes().size(), 1);
     const ModalCatcher::Box box = catcher.boxes().at(0);
     QCOMPARE(box.title, "Documentation"_s);
-    QCOMPARE(box.text, // The URL in its display form.
+    QCOMPARE(box.text, // The message contains the display form of the URL.
         "Unable to open documentation at:\nfile://"_s + m_configured->path({})
             + "/with blank & 100%251/doc/index.html"_s);
     QCOMPARE(box.icon, QMessageBox::Warning);
@@ -189,9 +189,9 @@ void TestMainWindowShell::missingDocumentationShowsAWarning()
 
 void TestMainWindowShell::documentationThatCannotBeOpenedShowsAWarning()
 {
-    QDesktopServices::unsetUrlHandler("file"_s); // The offscreen platform opens nothing.
+    QDesktopServices::unsetUrlHandler("file"_s); // The offscreen platform cannot open files.
     m_configured->createFile("doc/index.html"_s);
-    const MessageLog log; // Catches the platform's message about that.
+    const MessageLog log; // Catches the platform's log message about the failure.
     ModalCatcher catcher;
     click("documentationBtn");
     QCOMPARE(catcher.boxes().size(), 1);

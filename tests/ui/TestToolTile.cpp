@@ -15,20 +15,20 @@ class TestToolTile : public QObject
 private slots:
     void initTestCase();
     void init();
-    void clickedIsTheOnlyMethod();
-    void leftPressClicksBeforeTheRelease();
-    void onlyLeftPressesClickAndNoneReachesTheParent();
-    void disabledTileDoesNotClick();
-    void opacityFollowsTheEnabledState();
-    void handCursorAndHoverAreSet();
-    void frameComesFromTheStyleSheet();
+    void clickedIsTheOnlyMetaMethod();
+    void clickedIsEmittedBeforeTheRelease();
+    void onlyALeftPressEmitsClicked();
+    void disabledTileDoesNotEmitClicked();
+    void disabledTileIsFaded();
+    void tileHasAHandCursorAndTheHoverAttribute();
+    void tileHasTheFrameOfTheStyleSheet();
 
 private:
     qreal opacity() const;
     QImage painted() { return m_page->grab(m_tile->geometry()).toImage(); }
     void click(Qt::MouseButton button);
 
-    std::unique_ptr<QWidget> m_page; // A black background for the tile.
+    std::unique_ptr<QWidget> m_page; // The parent of the tile, with a black background.
     ApplicationLauncher *m_tile = nullptr;
 };
 
@@ -46,7 +46,7 @@ void TestToolTile::init()
     m_tile->move(10, 10);
     m_page->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_page.get(), hangTimeout));
-    QCursor::setPos(m_page->mapToGlobal(QPoint(2, 2))); // Outside the tile.
+    QCursor::setPos(m_page->mapToGlobal(QPoint(2, 2))); // This position is outside the tile.
 }
 
 qreal TestToolTile::opacity() const
@@ -59,7 +59,7 @@ void TestToolTile::click(Qt::MouseButton button)
     QTest::mouseClick(m_page->windowHandle(), button, Qt::NoModifier, m_tile->geometry().center());
 }
 
-void TestToolTile::clickedIsTheOnlyMethod()
+void TestToolTile::clickedIsTheOnlyMetaMethod()
 {
     const QMetaObject &meta = ApplicationLauncher::staticMetaObject;
     QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
@@ -67,7 +67,7 @@ void TestToolTile::clickedIsTheOnlyMethod()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
 }
 
-void TestToolTile::leftPressClicksBeforeTheRelease()
+void TestToolTile::clickedIsEmittedBeforeTheRelease()
 {
     const QSignalSpy clicks(m_tile, &ApplicationLauncher::clicked);
     QTest::mousePress(m_tile, Qt::LeftButton);
@@ -76,7 +76,7 @@ void TestToolTile::leftPressClicksBeforeTheRelease()
     QCOMPARE(clicks.size(), 1);
 }
 
-void TestToolTile::onlyLeftPressesClickAndNoneReachesTheParent()
+void TestToolTile::onlyALeftPressEmitsClicked()
 {
     class PressCounter : public QObject
     {
@@ -94,10 +94,10 @@ void TestToolTile::onlyLeftPressesClickAndNoneReachesTheParent()
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton})
         click(button);
     QCOMPARE(clicks.size(), 1);
-    QCOMPARE(counter.presses, 0);
+    QCOMPARE(counter.presses, 0); // No press is passed on to the parent.
 }
 
-void TestToolTile::disabledTileDoesNotClick()
+void TestToolTile::disabledTileDoesNotEmitClicked()
 {
     const QSignalSpy clicks(m_tile, &ApplicationLauncher::clicked);
     m_tile->setEnabled(false);
@@ -108,11 +108,12 @@ void TestToolTile::disabledTileDoesNotClick()
     QCOMPARE(clicks.size(), 1);
 }
 
-void TestToolTile::opacityFollowsTheEnabledState()
+void TestToolTile::disabledTileIsFaded()
 {
     QCOMPARE(opacity(), 1.0);
     QCOMPARE(m_tile->graphicsEffect()->parent(), m_tile);
-    for (QWidget *disabled : {static_cast<QWidget *>(m_tile), m_page.get()}) { // A parent disables it too.
+    // A disabled parent disables the tile.
+    for (QWidget *disabled : {static_cast<QWidget *>(m_tile), m_page.get()}) {
         disabled->setEnabled(false);
         QCOMPARE(opacity(), 0.45);
         disabled->setEnabled(true);
@@ -120,20 +121,21 @@ void TestToolTile::opacityFollowsTheEnabledState()
     }
 }
 
-void TestToolTile::handCursorAndHoverAreSet()
+void TestToolTile::tileHasAHandCursorAndTheHoverAttribute()
 {
-    const ApplicationLauncher tile({}, {}, nullptr); // Never shown, so no style sheet has set the attribute.
+    // The tile is never shown, so no style sheet has set the hover attribute.
+    const ApplicationLauncher tile({}, {}, nullptr);
     QCOMPARE(tile.cursor().shape(), Qt::PointingHandCursor);
     QVERIFY(tile.testAttribute(Qt::WA_Hover));
 }
 
-void TestToolTile::frameComesFromTheStyleSheet()
+void TestToolTile::tileHasTheFrameOfTheStyleSheet()
 {
     const QImage image = painted();
     for (const QPoint &edge : {QPoint(92, 0), QPoint(0, 35), QPoint(184, 35), QPoint(92, 69)})
         QCOMPARE(image.pixelColor(edge).name(), "#2d3a4d"_s);
     QCOMPARE(image.pixelColor(180, 60).name(), "#1e2a3a"_s);
-    QCOMPARE(image.pixelColor(0, 0).name(), "#000000"_s); // The page behind the rounded corner.
+    QCOMPARE(image.pixelColor(0, 0).name(), "#000000"_s); // The page is visible at the rounded corner.
 }
 
 QTEST_MAIN(TestToolTile)

@@ -19,11 +19,11 @@ private slots:
     void sevenToolsFillThreeRows();
     void tilesShowTheToolsInTheirOrder();
     void onlyToolsOfTheRunningPlatformHaveATile();
-    void recommendedTiles_data();
-    void recommendedTiles();
-    void tilesAreMatchedByIdAlone();
+    void onlyRecommendedTilesAreEnabled_data();
+    void onlyRecommendedTilesAreEnabled();
+    void recommendedTilesAreFoundByToolIdOnly();
     void leftPressRequestsTheConfiguredExecutable();
-    void scrollAreaGrowsToAllRowsOfTiles();
+    void scrollAreaIsHighEnoughForAllTiles();
 };
 
 namespace {
@@ -97,7 +97,7 @@ void TestToolTiles::onlyToolsOfTheRunningPlatformHaveATile()
     QCOMPARE(tileNamesFor(document, camera({}, {}, {}, "id"_s)), "HERE"_s);
 }
 
-void TestToolTiles::recommendedTiles_data()
+void TestToolTiles::onlyRecommendedTilesAreEnabled_data()
 {
     QTest::addColumn<CameraInfo>("selected");
     QTest::addColumn<QString>("enabled");
@@ -125,7 +125,7 @@ void TestToolTiles::recommendedTiles_data()
     addWithoutHint("camera without an ID", camera("Orvelle"_s, "Kx200"_s, "1"_s), "");
 }
 
-void TestToolTiles::recommendedTiles()
+void TestToolTiles::onlyRecommendedTilesAreEnabled()
 {
     QFETCH(CameraInfo, selected);
     ConfiguredWindow configured;
@@ -134,12 +134,12 @@ void TestToolTiles::recommendedTiles()
     configured.window.setSelectedCamera(selected);
     QTEST(tileNames(configured).remove(QRegularExpression(" ?\\(\\w+\\)"_s)).trimmed(), "enabled");
     QTEST(hint(configured.window), "hint");
-    QCOMPARE(configured.tiles(), tiles); // In the same places.
+    QCOMPARE(configured.tiles(), tiles); // The tiles keep their places.
     configured.window.setSelectedCamera({});
     QCOMPARE(tileNames(configured).count(QLatin1Char('(')), 7);
 }
 
-void TestToolTiles::tilesAreMatchedByIdAlone()
+void TestToolTiles::recommendedTilesAreFoundByToolIdOnly()
 {
     const QJsonObject twins = groups(
         {group("areascan", {tool("twin", "bin/One")}), group("linescan", {tool("twin", "bin/Two")})});
@@ -167,7 +167,7 @@ void TestToolTiles::leftPressRequestsTheConfiguredExecutable()
     QCOMPARE(launches, (QList<QList<QVariant>>{{"bin/Viewer"_s}, {"bin/Setup"_s}}));
 }
 
-void TestToolTiles::scrollAreaGrowsToAllRowsOfTiles()
+void TestToolTiles::scrollAreaIsHighEnoughForAllTiles()
 {
     ConfiguredWindow configured;
     configured.loadConfig();
@@ -175,7 +175,7 @@ void TestToolTiles::scrollAreaGrowsToAllRowsOfTiles()
     QTRY_COMPARE_WITH_TIMEOUT(scroll->minimumHeight(), 3 * 70 + 2 * 6, hangTimeout);
     scroll->setMinimumHeight(0);
     configured.window.setSelectedCamera(areaCamera);
-    QCOMPARE(scroll->minimumHeight(), 0); // Set once the layout has been activated.
+    QCOMPARE(scroll->minimumHeight(), 0); // The height is set after the layout has been activated.
     QTRY_COMPARE_WITH_TIMEOUT(scroll->minimumHeight(), 222, hangTimeout);
 }
 

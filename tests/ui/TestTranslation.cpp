@@ -8,16 +8,16 @@
 
 using namespace ConfigDocuments;
 
-/// The texts that are set at run time; the golden dump of the form contains the others.
+/// Tests the strings that are set at run time. The golden dump of the form contains the other strings.
 class TestTranslation : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void textsAreTranslatedInTheContextOfTheWindow();
+    void stringsAreTranslatedInTheContextOfTheWindow();
 };
 
-void TestTranslation::textsAreTranslatedInTheContextOfTheWindow()
+void TestTranslation::stringsAreTranslatedInTheContextOfTheWindow()
 {
     MarkingTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));

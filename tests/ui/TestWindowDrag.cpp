@@ -13,13 +13,13 @@ class TestWindowDrag : public QObject
 
 private slots:
     void init();
-    void onlyALeftPressOnTheHeaderDrags_data();
-    void onlyALeftPressOnTheHeaderDrags();
-    void pressOnATileDoesNotDrag();
+    void onlyALeftPressOnTheHeaderStartsADrag_data();
+    void onlyALeftPressOnTheHeaderStartsADrag();
+    void pressOnATileStartsNoDrag();
     void rightReleaseDoesNotEndADrag();
     void leftReleaseEndsADrag();
-    void moveIsFollowedWhateverButtonIsPressed();
-    void onlyThePressIsLeftUnaccepted();
+    void windowFollowsTheMouseWithAnyPressedButton();
+    void onlyPressEventsAreNotAccepted();
 
 private:
     QPoint centerOf(const char *name) const;
@@ -39,7 +39,7 @@ void TestWindowDrag::init()
     m_configured->open({camera("Orvelle"_s, "Kx200"_s, "1"_s, "id"_s)});
     m_configured->window.move(m_start);
     QTRY_COMPARE_WITH_TIMEOUT(m_configured->window.pos(), m_start, hangTimeout);
-    QCoreApplication::processEvents(); // Sets the height of the tile area.
+    QCoreApplication::processEvents(); // A pending event sets the height of the tile area.
 }
 
 QPoint TestWindowDrag::centerOf(const char *name) const
@@ -48,7 +48,8 @@ QPoint TestWindowDrag::centerOf(const char *name) const
     return widget->mapTo(&m_configured->window, widget->rect().center());
 }
 
-/// Sends the event to the window itself and returns whether it was accepted. Qt would drop some moves.
+/// Sends the event directly to the window, because Qt would drop some moves. Returns true if the event was
+/// accepted.
 bool TestWindowDrag::send(
     QEvent::Type type, const QPoint &at, Qt::MouseButton button, Qt::MouseButtons pressed)
 {
@@ -58,26 +59,27 @@ bool TestWindowDrag::send(
     return event.isAccepted();
 }
 
-/// Returns how far the window moved when the mouse moved by `m_distance` with the button pressed.
+/// Presses the button, moves the mouse by `m_distance` and returns how far the window moved.
 QPoint TestWindowDrag::movedByMouse(const QPoint &at, Qt::MouseButton button)
 {
     QTest::mousePress(handle(), button, {}, at);
     QTest::mouseMove(handle(), at + m_distance);
     QCoreApplication::processEvents();
     const QPoint result = moved();
-    // Outside the pressed widget, so a button there is not clicked.
+    // The release is outside the pressed widget, so a push button is not clicked.
     QTest::mouseRelease(handle(), button, {}, at + m_distance);
     return result;
 }
 
-void TestWindowDrag::onlyALeftPressOnTheHeaderDrags_data()
+void TestWindowDrag::onlyALeftPressOnTheHeaderStartsADrag_data()
 {
     QTest::addColumn<QPoint>("offset");
     QTest::addColumn<Qt::MouseButton>("button");
     QTest::addColumn<bool>("drags");
     for (const char *name : {"label_3", "titleLabel", "label_5", "widget"})
         QTest::newRow(name) << QPoint() << Qt::LeftButton << true;
-    QTest::newRow("widget_5") << QPoint(0, 30) << Qt::LeftButton << true; // Below the buttons.
+    // This position is below the buttons.
+    QTest::newRow("widget_5") << QPoint(0, 30) << Qt::LeftButton << true;
     for (const char *name : {"aboutQt_", "pushButton", "pushButton_2", "connectedCamerasLabel",
              "cameraHeader", "cameraTable", "recommendedToolsLabel", "toolsDescriptionLabel", "toolsScroll",
              "line", "widget_3", "footerLabel", "linkLabel"})
@@ -86,7 +88,7 @@ void TestWindowDrag::onlyALeftPressOnTheHeaderDrags_data()
     QTest::newRow("widget") << QPoint() << Qt::MiddleButton << false;
 }
 
-void TestWindowDrag::onlyALeftPressOnTheHeaderDrags()
+void TestWindowDrag::onlyALeftPressOnTheHeaderStartsADrag()
 {
     QFETCH(QPoint, offset);
     QFETCH(Qt::MouseButton, button);
@@ -96,7 +98,7 @@ void TestWindowDrag::onlyALeftPressOnTheHeaderDrags()
     QVERIFY(m_configured->window.isVisible());
 }
 
-void TestWindowDrag::pressOnATileDoesNotDrag()
+void TestWindowDrag::pressOnATileStartsNoDrag()
 {
     ApplicationLauncher *tile = m_configured->tiles().at(0);
     const QPoint at = tile->mapTo(&m_configured->window, tile->rect().center());
@@ -129,8 +131,8 @@ void TestWindowDrag::leftReleaseEndsADrag()
     }
 }
 
-// Intended: the window looks at no button of a move event.
-void TestWindowDrag::moveIsFollowedWhateverButtonIsPressed()
+// Intended: the window ignores the buttons of a move event.
+void TestWindowDrag::windowFollowsTheMouseWithAnyPressedButton()
 {
     const QPoint at = centerOf("titleLabel");
     QTest::mousePress(handle(), Qt::LeftButton, {}, at);
@@ -138,8 +140,8 @@ void TestWindowDrag::moveIsFollowedWhateverButtonIsPressed()
     QCOMPARE(moved(), m_distance);
 }
 
-// Intended: only the press reaches the base class, which ignores it.
-void TestWindowDrag::onlyThePressIsLeftUnaccepted()
+// Intended: only presses are passed on to the base class, which ignores them.
+void TestWindowDrag::onlyPressEventsAreNotAccepted()
 {
     for (const char *name : {"titleLabel", "footerLabel"}) {
         const QPoint at = centerOf(name);

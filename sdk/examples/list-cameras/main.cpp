@@ -12,8 +12,8 @@ using namespace CvxCPP;
 
 namespace {
 
-/// Reads a string with two calls: the first one returns its size, the second one the string. Returns an empty
-/// string if a call fails.
+/// Reads a string with two calls: the first call returns its size, and the second call returns the string.
+/// Returns an empty string if a call fails.
 template <typename Read>
 std::string readString(const Read &read)
 {
@@ -49,7 +49,7 @@ int main()
     }
 
     unsigned count = 0;
-    CvxError error = system.GetCameras(nullptr, count); // Searches for cameras, for up to 3 s.
+    CvxError error = system.GetCameras(nullptr, count); // This call blocks for up to 3 s.
     std::vector<std::shared_ptr<Camera>> cameras(count);
     if (error == CvxErrorSuccess && count > 0)
         error = system.GetCameras(cameras.data(), count);

@@ -28,8 +28,9 @@
 /// the system that created them has been shut down, also after a new Startup(). A process created by fork()
 /// must not use the system of its parent.
 
-/// The version of this header, as three numbers and as one that compares: 1.2.3 is 10203. The library's
-/// SONAME contains the major version: programs built against one major version cannot load another.
+/// These macros contain the version of this header: its three parts, and CVXCPP_VERSION as a single number
+/// that can be compared (version 1.2.3 is 10203). The library's SONAME contains the major version: a
+/// program that was built against one major version cannot load the library of another one.
 #define CVXCPP_VERSION_MAJOR 1
 #define CVXCPP_VERSION_MINOR 0
 #define CVXCPP_VERSION_PATCH 0
@@ -39,25 +40,27 @@
 
 namespace CvxCPP {
 
-/// The result of a call: 0 is success, the library's own error codes are negative.
+/// The result of a call. CvxErrorSuccess is 0, and all error codes are negative.
 using CvxError = std::int32_t;
 
 constexpr CvxError CvxErrorSuccess = 0;
-/// The call failed for lack of memory, threads or file descriptors, or Shutdown() was called by an observer.
+/// No memory, thread or file descriptor was left, or an observer called Shutdown().
 constexpr CvxError CvxErrorFailed = -1;
-/// Startup() has not succeeded, Shutdown() was called since, or the system has stopped for lack of memory. In
-/// the last case, call Shutdown() and then Startup().
+/// The system does not run: Startup() has not succeeded, Shutdown() was called afterwards, or the system
+/// has stopped because memory or threads were exhausted. In the last case, call Shutdown() and then
+/// Startup().
 constexpr CvxError CvxErrorNotStarted = -2;
-constexpr CvxError CvxErrorAlreadyStarted = -3; ///< Startup() was called while the system runs.
+constexpr CvxError CvxErrorAlreadyStarted = -3; ///< The system runs already, or an observer called Startup().
 constexpr CvxError CvxErrorInvalidParameter = -4; ///< A pointer is null, or a value is out of range.
 constexpr CvxError CvxErrorBufferTooSmall = -5; ///< The string does not fit into the buffer.
 constexpr CvxError CvxErrorNotFound = -6; ///< There is no feature of this name.
-constexpr CvxError CvxErrorNotAvailable = -7; ///< There is no value now, for example because of no device.
+/// There is no value at present, for example because there is no device.
+constexpr CvxError CvxErrorNotAvailable = -7;
 constexpr CvxError CvxErrorWrongType = -8; ///< The feature does not support this operation.
 constexpr CvxError CvxErrorTimeout = -9; ///< The producer has not answered yet.
 constexpr CvxError CvxErrorHostMissing = -10; ///< CvxProducerHost is missing or not executable.
 
-/// The technology that connects a camera.
+/// The technology that connects a camera to the computer.
 enum CvxTransportLayerType : std::uint32_t
 {
     CvxTransportLayerUnknown = 0,
@@ -74,7 +77,7 @@ enum CvxTransportLayerType : std::uint32_t
     CvxTransportLayerMixed = 11
 };
 
-/// Why an observer is called.
+/// The reason why an observer is called.
 enum UpdateTriggerType : std::uint32_t
 {
     UpdateTriggerPluggedIn = 0,
@@ -88,14 +91,15 @@ class CVXCPP_API Feature
 public:
     virtual ~Feature() = default;
 
-    /// Executes a command. "DeviceUpdateList" searches the interface, unless a search of it ended less than
-    /// 1 s ago, and replaces the list of devices that the other features refer to.
+    /// Executes a command. The command "DeviceUpdateList" searches the interface for devices and replaces
+    /// the list of devices that the other features refer to. If the last search of the interface ended less
+    /// than 1 s ago, the command uses the result of that search.
     ///
-    /// Blocks for at most 3 s; returns immediately if the producer already owes an answer for longer than
-    /// that. A producer that does not answer in time leaves the result of the previous search valid: the
-    /// command then succeeds with that result. Returns CvxErrorTimeout if there is no previous result,
-    /// CvxErrorNotAvailable if the interface no longer exists, or CvxErrorFailed for lack of memory. The list
-    /// of devices does not change if the command fails.
+    /// Blocks for at most 3 s. Returns immediately if the producer has failed to answer an earlier request
+    /// in time. If the producer does not answer in time, the result of the previous search stays valid, and
+    /// the command succeeds with that result. Returns CvxErrorTimeout if there is no previous result,
+    /// CvxErrorNotAvailable if the interface no longer exists, or CvxErrorFailed if memory is exhausted.
+    /// The list of devices does not change if the command fails.
     virtual CvxError RunCommand() = 0;
 
     /// Stores the smallest and the largest value of an integer, both inclusive. Returns CvxErrorNotAvailable
@@ -106,13 +110,14 @@ public:
     /// CvxErrorNotAvailable if the interface has no device.
     virtual CvxError SetValue(long value) = 0;
 
-    /// Reads a string with two calls, as described at the top. Returns CvxErrorNotAvailable if the interface
-    /// has no device, or CvxErrorBufferTooSmall. An integer cannot be read: CvxErrorWrongType.
+    /// Reads a string with two calls, as described at the top. Returns CvxErrorNotAvailable if the
+    /// interface has no device, or CvxErrorBufferTooSmall. The function cannot read an integer and returns
+    /// CvxErrorWrongType for it.
     virtual CvxError GetValue(char *buffer, unsigned &size) const = 0;
 
-    /// Reads a string with one call. Returns the same errors as the function above; CvxErrorBufferTooSmall
-    /// then means that the value has grown during the call, because another thread has selected another
-    /// device. May throw std::bad_alloc.
+    /// Reads a string with one call. Returns the same errors as the function above. CvxErrorBufferTooSmall
+    /// means that the value has grown during the call, because another thread has selected another device.
+    /// May throw std::bad_alloc.
     CvxError GetValue(std::string &value) const;
 };
 
@@ -132,53 +137,59 @@ public:
 /// "DeviceUpdateList" (command), "DeviceSelector" (integer: index of the selected device), "DeviceID" and
 /// "DeviceVendorName" (strings: ID and vendor of the selected device).
 ///
-/// The list of devices is a snapshot: only "DeviceUpdateList" changes it, so an index means the same device
-/// until then. If the list becomes shorter than the selected index, its last device is selected. The list and
-/// the selection belong to the object: threads that use them at the same time have to synchronise themselves.
+/// The list of devices is a snapshot: only "DeviceUpdateList" changes it, so an index refers to the same
+/// device until the next "DeviceUpdateList". If the selected index is beyond the end of the new list, the
+/// last device is selected. All users of an Interface object share its list and its selection, so threads
+/// that use them at the same time have to synchronise with each other.
 class CVXCPP_API Interface : public FeatureContainer
 { };
 
-/// One camera as it was when it was found; an object never changes. Every function returns CvxErrorNotStarted
-/// while the system does not run; those that read a string may also return CvxErrorBufferTooSmall.
+/// The data of one camera at the time when the camera was found; a Camera object never changes. Every
+/// function returns CvxErrorNotStarted while the system does not run. The functions that read a string may
+/// also return CvxErrorBufferTooSmall.
 class CVXCPP_API Camera
 {
 public:
     virtual ~Camera() = default;
 
-    /// Reads the camera's ID. The plain ID is the device ID that the producer reports; it is unique on its
-    /// interface. The extended ID consists of the name of the producer's file, the interface ID and the
-    /// device ID, joined by "/"; it is unique unless two producers in different directories have the same
-    /// file name. Reading the extended ID returns CvxErrorFailed if memory is exhausted.
+    /// Reads the camera's ID. If `extended` is false, the ID is the device ID that the producer reports,
+    /// which is unique on its interface. If `extended` is true, the ID consists of the name of the
+    /// producer's file, the interface ID and the device ID, joined by "/". The extended ID is unique unless
+    /// two producers in different directories have the same file name. Reading the extended ID returns
+    /// CvxErrorFailed if memory is exhausted.
     virtual CvxError GetID(char *buffer, unsigned &size, bool extended) const = 0;
 
-    /// Reads the model name; empty if the producer reports none.
+    /// Reads the model name, which is empty if the producer reports none.
     virtual CvxError GetModel(char *buffer, unsigned &size) const = 0;
 
-    /// Reads the display name; empty if the producer reports none.
+    /// Reads the display name, which is empty if the producer reports none.
     virtual CvxError GetName(char *buffer, unsigned &size) const = 0;
 
-    /// Reads the serial number; empty if the producer reports none.
+    /// Reads the serial number, which is empty if the producer reports none.
     virtual CvxError GetSerialNumber(char *buffer, unsigned &size) const = 0;
 
-    /// Stores the technology that connects the camera; CvxTransportLayerUnknown if the producer reports a
-    /// technology that is not in the list above. Returns CvxErrorFailed if memory is exhausted.
+    /// Stores the technology that connects the camera, or CvxTransportLayerUnknown if the producer reports
+    /// a technology that CvxTransportLayerType does not contain. Returns CvxErrorFailed if memory is
+    /// exhausted.
     virtual CvxError GetInterfaceType(CvxTransportLayerType &type) const = 0;
 
     /// Stores the interface that the camera is connected to.
     virtual CvxError GetInterface(std::shared_ptr<Interface> &iface) const = 0;
 };
 
-/// Is called for every camera that appears or disappears.
+/// The library calls this observer for every camera that appears or disappears.
 ///
-/// What is reported: every camera that was not in the first result of GetCameras(), or every camera if the
-/// program has not called GetCameras() within 2 s of Startup(). A camera whose data changes is reported as
-/// plugged out, then as plugged in. A change is usually noticed within 2 s, the interval at which producers
-/// are polled. Calls are delayed by up to 0.5 s while the program calls GetCameras().
+/// The cameras in the first result of GetCameras() are not reported as plugged in. If the program has not
+/// called GetCameras() within 2 s of Startup(), every camera is reported. A camera whose data changes is
+/// reported as plugged out, then as plugged in. A change is usually noticed within 2 s, the interval at
+/// which producers are polled. If the program has just called GetCameras(), calls of observers are delayed
+/// by up to 0.5 s.
 ///
-/// Threads: all observers are called on one thread of the library, one after the other, in the order of their
-/// registration. Cameras that disappear are reported first, then interfaces that disappear, new interfaces
-/// and new cameras. No lock is held during a call, so an observer may block; it then delays the later calls
-/// and Shutdown(). It must not wait for a thread that calls Shutdown().
+/// Threads: all observers are called on one thread of the library, one after the other, in the order of
+/// their registration. Cameras that disappear are reported first, then interfaces that disappear, new
+/// interfaces and new cameras. No lock is held during a call, so an observer may block. An observer that
+/// blocks delays the later calls and Shutdown(). An observer must not wait for a thread that calls
+/// Shutdown().
 ///
 /// An observer may call every function of this interface, with two exceptions: Startup() returns
 /// CvxErrorAlreadyStarted and Shutdown() returns CvxErrorFailed. An exception that an observer throws is
@@ -190,8 +201,9 @@ public:
     virtual void CameraListChanged(std::shared_ptr<Camera> camera, UpdateTriggerType reason) = 0;
 };
 
-/// Is called for every interface that appears or disappears, with or without cameras, under the same rules as
-/// ICameraListObserver. Producers are asked for new interfaces every 10 s.
+/// The library calls this observer for every interface that appears or disappears, whether the interface
+/// has cameras or not. The rules of ICameraListObserver apply. Producers are asked for new interfaces every
+/// 10 s.
 class CVXCPP_API IInterfaceListObserver
 {
 public:
@@ -203,44 +215,47 @@ public:
 class CVXCPP_API CvxSystem
 {
 public:
-    /// Returns the only system object. It is never destroyed; the system is shut down when the process exits.
+    /// Returns the only system object. The object is never destroyed; the system is shut down when the
+    /// process exits.
     static CvxSystem &GetInstance();
 
-    /// Starts the system: begins to load the GenTL producers and to search for cameras. Does not wait for any
-    /// producer; blocks only while another thread is in Startup() or Shutdown(). A system without producers
-    /// starts as well. Returns CvxErrorAlreadyStarted if the system runs or an observer makes the call,
+    /// Starts the system: begins to load the GenTL producers and to search for cameras. Does not wait for
+    /// any producer; blocks only while another thread is in Startup() or Shutdown(). Also succeeds if there
+    /// is no producer. Returns CvxErrorAlreadyStarted if the system runs or an observer makes the call,
     /// CvxErrorHostMissing if the program that loads producers is missing or not executable, or
-    /// CvxErrorFailed for lack of memory, threads or file descriptors.
+    /// CvxErrorFailed if no memory, thread or file descriptor is left.
     virtual CvxError Startup() = 0;
 
-    /// Stops the system and releases all observers. Succeeds also if the system does not run. Returns
+    /// Stops the system and releases all observers. Also succeeds if the system does not run. Returns
     /// CvxErrorFailed, without any effect, if an observer makes the call. Blocks until no observer is being
-    /// called any more and every producer has been closed or, after about 2 s, killed. Calls that are blocked
-    /// in other threads return CvxErrorNotStarted.
+    /// called any more and every producer has been closed or, after about 2 s, killed. Calls that are
+    /// blocked in other threads return CvxErrorNotStarted.
     virtual CvxError Shutdown() = 0;
 
     /// Registers an observer, which the system keeps until Shutdown(). An observer that is registered twice
     /// is called twice. Returns CvxErrorInvalidParameter if `observer` is null, CvxErrorNotStarted if the
-    /// system does not run, or CvxErrorFailed for lack of memory.
+    /// system does not run, or CvxErrorFailed if memory is exhausted.
     virtual CvxError RegisterCameraListObserver(const std::shared_ptr<ICameraListObserver> &observer) = 0;
 
-    /// Registers an observer for interfaces, in the same way.
+    /// Registers an interface observer. The rules of RegisterCameraListObserver() apply.
     virtual CvxError RegisterInterfaceListObserver(const std::shared_ptr<IInterfaceListObserver> &observer)
         = 0;
 
-    /// Lists the cameras, with two calls.
+    /// Returns the cameras with two calls.
     ///
-    /// With a null array, searches for cameras and stores their number in `count`. A search that ended less
-    /// than 1 s ago is used again. Blocks for at most 3 s. A producer that has not answered by then
-    /// contributes the cameras of its previous answer; observers report what it finds later, and the next
-    /// calls do not wait for it until it answers in time again. A producer contributes at most 1,000 cameras.
+    /// With a null array, the function searches for cameras and stores their number in `count`. If the last
+    /// search ended less than 1 s ago, its result is used. The function blocks for at most 3 s. A producer
+    /// that has not answered by then contributes the cameras of its previous answer. The cameras that it
+    /// finds later are reported to the observers, and the next calls do not wait for this producer until it
+    /// has answered in time again. A producer contributes at most 1,000 cameras.
     ///
-    /// With an array of `count` elements, copies the cameras of the last search into it, as many as fit, and
-    /// stores the number copied. Does not search, unless there was no search since Startup(). `count` is 0 if
-    /// there is no camera. The search may be one of another thread: threads that list cameras at the same
-    /// time may get fewer cameras than their own search has counted.
+    /// With an array of `count` elements, the function copies the cameras of the last search into the
+    /// array, as many as fit, and stores the number of copied cameras in `count`, which is 0 if there is no
+    /// camera. The function does not search, unless there was no search since Startup(). The last search
+    /// may have been made by another thread: if several threads call the function at the same time, the
+    /// second call may return fewer cameras than the first call counted.
     ///
-    /// Returns CvxErrorNotStarted if the system does not run, or CvxErrorFailed for lack of memory.
+    /// Returns CvxErrorNotStarted if the system does not run, or CvxErrorFailed if memory is exhausted.
     virtual CvxError GetCameras(std::shared_ptr<Camera> *cameras, unsigned &count) = 0;
 
 protected:
@@ -261,7 +276,8 @@ inline CvxError Feature::GetValue(std::string &value) const
         error = GetValue(buffer.data(), size);
     if (error != CvxErrorSuccess)
         return error;
-    buffer.resize(std::strlen(buffer.c_str())); // The size includes the NUL, the value does not.
+    // The size includes the terminating NUL, but the value must not contain it.
+    buffer.resize(std::strlen(buffer.c_str()));
     value = std::move(buffer);
     return CvxErrorSuccess;
 }

@@ -19,8 +19,8 @@ QJsonArray boxOf(const QRect &rectangle)
     return {rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()};
 }
 
-/// Returns each row's strings and tooltips, its cells in the table's coordinates, and the widths that the
-/// strings need.
+/// Returns for each row its strings and tooltips, the boxes of its cells in the table's coordinates, and the
+/// widths that the strings need.
 QJsonArray rowsOf(const QTableWidget &table)
 {
     const QPoint toTable = table.viewport()->mapTo(&table, QPoint());
@@ -52,7 +52,8 @@ QJsonArray columnsOf(const QTableWidget &table)
     return columns;
 }
 
-/// Returns the entries of a menu with their boxes in the menu's coordinates. A separator has an empty text.
+/// Returns the entries of a menu with their boxes in the menu's coordinates. The text of a separator is
+/// empty.
 QJsonArray actionsOf(const QMenu &menu)
 {
     QJsonArray actions;
@@ -63,7 +64,7 @@ QJsonArray actionsOf(const QMenu &menu)
     return actions;
 }
 
-/// Returns the size that the widget's text takes up, or the widget's size if it has no text.
+/// Returns the size that the widget's text needs, or the widget's size if the widget has no text.
 QJsonArray neededSize(const QWidget &widget)
 {
     QSize needed = widget.size();
@@ -124,7 +125,7 @@ void sendVisibleWindows(QLocalSocket &reader)
     }
     QObject::connect(&reader, &QLocalSocket::disconnected, &reader, &QObject::deleteLater);
     reader.write(QJsonDocument(windows).toJson(QJsonDocument::Compact));
-    reader.disconnectFromServer(); // Closes the connection when everything has been sent.
+    reader.disconnectFromServer(); // The connection closes after all data has been sent.
 }
 
 } // namespace
@@ -134,7 +135,8 @@ QObject *WindowReaderPlugin::create(const QString &, const QString &socketPath)
     auto *server = new QLocalServer;
     QObject::connect(server, &QLocalServer::newConnection, server,
         [server] { sendVisibleWindows(*server->nextPendingConnection()); });
-    server->listen(socketPath); // Fails in a tool, which inherits the launcher's environment: the launcher
-                                // owns the path.
+    // In a tool, which inherits the launcher's environment, listen() fails because the launcher uses the
+    // path.
+    server->listen(socketPath);
     return server;
 }

@@ -4,7 +4,7 @@
 
 /// Lets a test read the windows of a running, unchanged Qt program. Qt itself loads the plugin if the
 /// environment contains QT_QPA_GENERIC_PLUGINS=windowreader:PATH. Every connection to the local socket at
-/// PATH receives the visible windows as JSON, and is then closed.
+/// PATH receives the visible windows as JSON and is closed afterwards.
 class WindowReaderPlugin : public QGenericPlugin
 {
     Q_OBJECT
