@@ -37,8 +37,8 @@ public:
     /// only of later changes.
     Cameras handOut();
 
-    /// Makes observers learn of all cameras of a producer, unless its cameras were handed out before. Returns true
-    /// if that was not so already.
+    /// Makes observers learn of all cameras of a producer, unless its cameras were handed out before. Returns
+    /// true if that was not so already.
     bool announceFromNowOn(std::size_t producer);
 
     /// Returns what observers have not been notified of, and counts it as notified.

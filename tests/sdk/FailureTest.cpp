@@ -154,6 +154,7 @@ TEST_F(FailureTest, slowProducerIsNotWaitedForTwiceAndItsLateReplyIsAnnounced)
 TEST_F(FailureTest, slowOrHangingProducerKeepsItsCameras)
 {
     options.searchTimeout = 200ms;
+    options.replyTimeout = 1h;
     options.closeTimeout = 100ms;
     addProducer("a", "fault IFUpdateDeviceList slow 600\n" + cameras(2));
     start();
@@ -164,8 +165,8 @@ TEST_F(FailureTest, slowOrHangingProducerKeepsItsCameras)
     ASSERT_EQ(feature(*interface, "DeviceSelector")->SetValue(1), CvxErrorSuccess);
     EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A2");
 
-    setScript("a", "fault IFUpdateDeviceList hang\n" + cameras(1));
     const std::size_t before = countCalls("a", "IFUpdateDeviceList");
+    setScript("a", "fault IFUpdateDeviceList hang\n" + cameras(1));
     ASSERT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") > before; }));
     EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
     EXPECT_EQ(list().size(), 2U);
