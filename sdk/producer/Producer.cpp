@@ -55,7 +55,7 @@ GC_ERROR Producer::close()
         return failNotInitialised();
     closeModules();
     m_source.reset();
-    m_file = std::filesystem::path();
+    std::filesystem::path().swap(m_file); // An assignment would keep the memory, which unloading would leak.
     return GC_ERR_SUCCESS;
 }
 
