@@ -187,7 +187,7 @@ Rows strings()
         withFault("IFGetDeviceInfo", "grow", Due::AtStart, info + " with -1016", 2),
         withFault("IFGetDeviceInfo", "late-error -1010", Due::AtStart, info + " with -1010", 2),
         withFault("IFGetDeviceInfo", "number", Due::AtStart, "returned data that is not a string", 2),
-        // A device that has disappeared is not reported.
+        // This code means that the device has disappeared.
         withFault("IFGetDeviceInfo", "error -1007", Due::AtStart, info + " with -1007", 0),
     };
 }
