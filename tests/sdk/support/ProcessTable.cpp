@@ -34,7 +34,8 @@ std::size_t entries(const char *directory)
 std::vector<pid_t> childrenOf(pid_t parent)
 {
     return processesThat([parent](const fs::path &directory) {
-        const std::string status = readFile(directory / "status"); // Empty if the process has just ended.
+        const std::string status
+            = readFile(directory / "status"); // The file is empty if the process has just ended.
         return status.find("\nPPid:\t" + std::to_string(parent) + '\n') != std::string::npos;
     });
 }
@@ -54,7 +55,7 @@ void killAll(const std::vector<pid_t> &processes)
 
 std::size_t openDescriptors()
 {
-    return entries("/proc/self/fd") - 1; // Without the one that reads the directory.
+    return entries("/proc/self/fd") - 1; // Excludes the descriptor that reads the directory.
 }
 
 std::size_t threadCount()
