@@ -173,3 +173,14 @@ TEST_F(CameraSystemTest, callbackCannotStartOrShutDownTheSystem)
     EXPECT_EQ(startError, CvxErrorAlreadyStarted);
     EXPECT_EQ(lateError, CvxErrorFailed);
 }
+
+TEST_F(CameraSystemTest, startupWaitsForNoProducer)
+{
+    options.searchTimeout = 1h;
+    options.replyTimeout = 15s;
+    options.closeTimeout = 100ms;
+    addProducer("a", "fault load hang\n");
+    start();
+    EXPECT_TRUE(reports().empty()) << "the host is killed and reported only after its reply timeout";
+    ASSERT_TRUE(waitUntil([this] { return countCalls("a", "load") == 1; }));
+}

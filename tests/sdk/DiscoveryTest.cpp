@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <thread>
 
 using namespace CvxCPP;
 using namespace std::chrono_literals;
@@ -147,4 +148,55 @@ TEST_F(DiscoveryTest, observerMayUseTheSystem)
     EXPECT_TRUE(waitUntil([&] { return listed == 2; }));
     EXPECT_EQ(error, CvxErrorSuccess);
     stop();
+}
+
+TEST_F(DiscoveryTest, slowObserverDelaysNoCameraList)
+{
+    addProducer("a", cameras(1));
+    start();
+    list();
+    std::atomic<bool> isReleased{false}, wasReleased{true};
+    const auto slow = std::make_shared<CameraRecorder>();
+    slow->onCall = [&] { wasReleased = wasReleased && waitUntil([&] { return isReleased.load(); }); };
+    ASSERT_EQ(system->RegisterCameraListObserver(slow), CvxErrorSuccess);
+    setScript("a", cameras(2));
+    EXPECT_TRUE(waitUntil([&] { return slow->calls().size() == 1; }));
+    setScript("a", cameras(3));
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 3; }));
+    isReleased = true;
+    EXPECT_TRUE(waitUntil([&] { return slow->calls().size() == 2; }));
+    stop();
+    EXPECT_TRUE(wasReleased) << "the list was returned while the observer was being called";
+}
+
+TEST_F(DiscoveryTest, simultaneousSearchesShareOneSearch)
+{
+    options.pollInterval = 1h;
+    options.searchTimeout = 1h;
+    addProducer("a", "fault IFUpdateDeviceList slow 2000\n" + cameras(2));
+    start();
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 5; ++i)
+        threads.emplace_back([this] { EXPECT_EQ(list().size(), 2U); });
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_LE(countCalls("a", "IFUpdateDeviceList"), 2U) << "a thread may start after the first search";
+}
+
+TEST_F(DiscoveryTest, interfaceThatDisappearsDuringItsUpdateIsNotAvailable)
+{
+    options.pollInterval = 1h;
+    options.interfaceUpdateInterval = 0ms;
+    options.searchTimeout = 30s;
+    options.replyTimeout = 1min;
+    addProducer("a", cameras(1));
+    start();
+    const auto interface = interfaceOf(list(), 0);
+    const std::size_t before = countCalls("a", "TLUpdateInterfaceList");
+    setScript("a", "fault IFUpdateDeviceList slow 1000\ninterface other\n");
+    std::thread lister([this] { EXPECT_TRUE(list().empty()); });
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "TLUpdateInterfaceList") > before; }));
+    EXPECT_EQ(feature(*interface, "DeviceUpdateList")->RunCommand(), CvxErrorNotAvailable);
+    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A1") << "a failed update keeps the devices";
+    lister.join();
 }

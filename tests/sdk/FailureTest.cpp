@@ -171,3 +171,21 @@ TEST_F(FailureTest, slowOrHangingProducerKeepsItsCameras)
     EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
     EXPECT_EQ(list().size(), 2U);
 }
+
+TEST_F(FailureTest, deathOfAProducerIsNoticedAlthoughItsChildKeepsTheSocketOpen)
+{
+    options.pollInterval = 1h;
+    options.searchTimeout = 1h;
+    options.replyTimeout = 20s; // Ends the search with another report if the death is not noticed.
+    options.firstRestartDelay = 1h;
+    options.maxRestartDelay = 1h;
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault IFUpdateDeviceList fork-and-die\n" + cameras(1));
+    EXPECT_TRUE(list().empty());
+    EXPECT_EQ(reports(), Calls{ctiPath("a.cti").string() + ": was ended by SIGKILL (Killed)"});
+    EXPECT_TRUE(waitUntil([&] { return recorder->calls() == Calls{"-a.cti/net0/A1"}; }));
+    EXPECT_TRUE(waitUntil([this] { return processesWith(ctiPath("a.cti").string()).empty(); }));
+}

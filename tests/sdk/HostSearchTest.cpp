@@ -164,3 +164,25 @@ TEST_F(HostSearchTest, interfacesAreClosedBeforeTheSystemAndTheLibrary)
         Calls(calls.end() - 4, calls.end()), (Calls{"IFClose x", "IFClose y", "TLClose", "GCCloseLib"}));
     EXPECT_EQ(countCalls("b", "TLClose"), 0U);
 }
+
+TEST_F(HostSearchTest, stringThatGrowsBetweenTwoCallsIsReadFourTimes)
+{
+    neverPoll();
+    options.reuseTime = 1h; // There is only one search.
+    options.searchTimeout = 1min;
+    for (const std::string fault : {"grow 3", "grow 4", "grow-1.3 3", "grow-1.3 4"})
+        addProducer(fault, "interface n\ndevice n|1\nfault IFGetDeviceID " + fault + '\n');
+    start();
+    EXPECT_EQ(listIds(), (Ids{"grow 3.cti/n/1", "grow-1.3 3.cti/n/1"}));
+    for (const char *producer : {"grow 3", "grow 4", "grow-1.3 3", "grow-1.3 4"})
+        EXPECT_EQ(countCalls(producer, "IFGetDeviceID"), 4 * 2U) << producer;
+}
+
+TEST_F(HostSearchTest, deviceIdThatCanNeverBeReadHidesNoOtherDevice)
+{
+    neverPoll();
+    addProducer("a", "fault IFGetDeviceID:A1 error -1010\n" + cameras(2));
+    start();
+    for (int search = 0; search < 3; ++search)
+        EXPECT_EQ(listIds(), Ids{"a.cti/net0/A2"}) << search;
+}

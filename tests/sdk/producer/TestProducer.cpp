@@ -200,13 +200,15 @@ int returnString(const std::string &original, void *buffer, std::size_t *size)
     std::string value = original;
     if (fault.verb == "long")
         value = std::string(static_cast<std::size_t>(fault.argument), 'x');
-    if (fault.verb == "grow" && buffer)
+    static int growths = 0;
+    const bool isOldError = fault.verb == "grow-1.3";
+    if ((fault.verb == "grow" || isOldError) && buffer && growths++ < fault.argument)
         value += std::string(1000, 'x');
     const std::size_t needed = value.size() + (fault.verb == "no-nul" ? 0 : 1);
     if (buffer && fault.verb == "late-error")
         return static_cast<int>(fault.argument);
     if (buffer && *size < needed && fault.verb != "size")
-        return GC_ERR_BUFFER_TOO_SMALL;
+        return isOldError ? GC_ERR_INVALID_PARAMETER : GC_ERR_BUFFER_TOO_SMALL;
     if (buffer)
         std::memcpy(buffer, value.c_str(), needed);
     *size = needed;
