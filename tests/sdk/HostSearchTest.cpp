@@ -69,8 +69,7 @@ TEST_F(HostSearchTest, failureIsReportedWithoutAnErrorTextIfTheProducerHasNone)
 TEST_F(HostSearchTest, interfacesAreSearchedAtTheSameTime)
 {
     neverPoll();
-    std::string script
-        = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls run at the same time.
+    std::string script = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls meet.
     for (char id = 'a'; id < 'a' + 8; ++id)
         script += std::string("interface ") + id + "\ndevice " + id + "|1\n";
     addProducer("p", script);

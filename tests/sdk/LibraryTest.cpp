@@ -125,8 +125,8 @@ TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
 TEST_F(LibraryTest, standardDescriptorsMayBeClosed)
 {
     addProducer("slow", "fault load slow 500\n" + oneCamera);
-    writeFile(root.path() / "cti/text.cti",
-        "no library"); // This file is reported while other descriptors are open.
+    // This file is reported while other descriptors are open.
+    writeFile(root.path() / "cti/text.cti", "no library");
     for (const std::string closed : {"<&- 2>&-", "2>&-", "<&-"}) {
         ClientProcess process("/bin/sh", {"-c", "exec '" + client() + "' start list stop " + closed});
         EXPECT_EQ(process.exitStatus(), 0) << closed;

@@ -68,7 +68,7 @@ void throwInThread()
     std::thread([] { throw std::runtime_error("thrown in a thread of the producer"); }).join();
 }
 
-/// Ignores every signal except SIGPIPE, which ends the process from now on. Both can harm a host.
+/// Ignores every signal except SIGPIPE, which gets its default action. Both can harm a host.
 void changeSignalHandlers()
 {
     for (int number = 1; number < NSIG; ++number)

@@ -73,8 +73,7 @@ struct Fault
 std::mutex mutex; // Guards the variables below.
 Script script;
 std::vector<Fields> interfaces; // Interfaces that the last update found.
-std::map<std::string, Interface *>
-    opened; // Key: ID. Closed interfaces are never deleted, so late uses are safe.
+std::map<std::string, Interface *> opened; // By ID. Interfaces are never deleted, so late uses are safe.
 bool isInitialised = false;
 bool isOpen = false;
 thread_local int lastCode = 0;

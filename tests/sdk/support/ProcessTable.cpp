@@ -34,8 +34,7 @@ std::size_t entries(const char *directory)
 std::vector<pid_t> childrenOf(pid_t parent)
 {
     return processesThat([parent](const fs::path &directory) {
-        const std::string status
-            = readFile(directory / "status"); // The file is empty if the process has just ended.
+        const std::string status = readFile(directory / "status"); // Empty if the process has just ended.
         return status.find("\nPPid:\t" + std::to_string(parent) + '\n') != std::string::npos;
     });
 }
