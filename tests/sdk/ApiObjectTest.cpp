@@ -25,7 +25,7 @@ protected:
         setDevices({{"D1", "V1", "M", "S", "N", "U3V"}, device("D2", "V2"), device("D3", "V3")});
     }
 
-    /// Makes the objects for an interface with these devices.
+    /// Replaces the interface under test by one with these devices.
     void setDevices(const std::vector<DeviceRecord> &devices)
     {
         record = recordWith(devices);
@@ -56,7 +56,7 @@ protected:
     std::shared_ptr<InterfaceObject> interface;
 };
 
-TEST_F(ApiObjectTest, cameraReturnsItsRecord)
+TEST_F(ApiObjectTest, cameraReturnsTheFieldsOfItsRecord)
 {
     const CameraObject camera(interface, record, 0);
     EXPECT_EQ(idOf(camera, false), "D1");
@@ -70,7 +70,7 @@ TEST_F(ApiObjectTest, cameraReturnsItsRecord)
     EXPECT_EQ(found, interface);
 }
 
-TEST_F(ApiObjectTest, interfaceTypeIsTheDevicesOrElseTheInterfaces)
+TEST_F(ApiObjectTest, knownDeviceTypeOverridesTheInterfaceType)
 {
     const struct
     {
@@ -118,7 +118,7 @@ TEST_F(ApiObjectTest, interfaceHasFourFeatures)
     EXPECT_FALSE(none);
 }
 
-TEST_F(ApiObjectTest, featureRefusesCallsOfAnotherType)
+TEST_F(ApiObjectTest, featureRefusesCallsOfTheWrongType)
 {
     long min = 0, max = 0;
     unsigned size = 0;
@@ -132,7 +132,7 @@ TEST_F(ApiObjectTest, featureRefusesCallsOfAnotherType)
         EXPECT_EQ(feature(name)->GetValue(nullptr, size), CvxErrorWrongType) << name;
 }
 
-TEST_F(ApiObjectTest, selectorSelectsTheDeviceOfTheOtherFeatures)
+TEST_F(ApiObjectTest, selectorSelectsTheDeviceThatOtherFeaturesDescribe)
 {
     const auto selector = feature("DeviceSelector"), id = feature("DeviceID");
     long min = 7, max = 7;
@@ -151,7 +151,7 @@ TEST_F(ApiObjectTest, selectorSelectsTheDeviceOfTheOtherFeatures)
     EXPECT_EQ(text, "D3") << "a refused value changes nothing";
 }
 
-TEST_F(ApiObjectTest, updateReplacesTheDevicesAndKeepsTheSelectorInRange)
+TEST_F(ApiObjectTest, onlyASuccessfulUpdateReplacesTheDevices)
 {
     const auto selector = feature("DeviceSelector"), id = feature("DeviceID");
     ASSERT_EQ(selector->SetValue(2), CvxErrorSuccess);
@@ -176,7 +176,7 @@ TEST_F(ApiObjectTest, updateReplacesTheDevicesAndKeepsTheSelectorInRange)
     EXPECT_EQ(valueOf(*id), "F1");
 }
 
-TEST_F(ApiObjectTest, objectsMayOutliveTheSystemAndFeaturesTheirInterface)
+TEST_F(ApiObjectTest, objectsReturnNotStartedAfterTheSystemIsGone)
 {
     const auto camera = std::make_unique<CameraObject>(interface, record, 0);
     const auto update = feature("DeviceUpdateList"), selector = feature("DeviceSelector"),

@@ -10,7 +10,7 @@ using Interfaces = std::vector<InterfaceRecord>;
 
 namespace {
 
-/// Returns a device; one without vendor, model and serial number equals no other.
+/// Returns a device. A device without vendor, model and serial number is never treated as a duplicate.
 DeviceRecord camera(const std::string &id, const std::string &vendor = "", const std::string &model = "",
     const std::string &serial = "")
 {
@@ -52,7 +52,8 @@ protected:
 
     Ids handedOut() { return idsOf(catalogue.handOut()); }
 
-    /// Returns the change as the observers see it: "-ID" and "+ID", and interfaces in brackets.
+    /// Returns the change in the order of the notifications. A camera is "-ID" or "+ID"; the ID of an
+    /// interface is in brackets.
     Ids change()
     {
         const CameraListChange change = catalogue.takeChange();
@@ -72,7 +73,7 @@ protected:
     CameraCatalogue catalogue;
 };
 
-TEST_F(CameraCatalogueTest, handsOutAllCamerasInTheSearchOrderSortedByInterfaceAndDevice)
+TEST_F(CameraCatalogueTest, camerasAreSortedByProducerInterfaceAndDevice)
 {
     catalogue.replaceInterfaces(1, cameras({"2", "1"}));
     catalogue.replaceInterfaces(0, {network("z", {camera("2"), camera("1")}), network("y", {camera("3")})});
@@ -88,7 +89,7 @@ TEST_F(CameraCatalogueTest, equalListChangesNothing)
     EXPECT_EQ(change(), Ids{});
 }
 
-TEST_F(CameraCatalogueTest, limitsTheCamerasOfAProducer)
+TEST_F(CameraCatalogueTest, numberOfCamerasPerProducerIsLimited)
 {
     const InterfaceRecord crowd = network("a", std::vector<DeviceRecord>(600, camera("1")));
     catalogue.replaceInterfaces(0, {crowd, crowd});
@@ -96,7 +97,7 @@ TEST_F(CameraCatalogueTest, limitsTheCamerasOfAProducer)
     EXPECT_EQ(catalogue.handOut().size(), 1000U);
 }
 
-TEST_F(CameraCatalogueTest, replacesOneInterfaceByItsNumber)
+TEST_F(CameraCatalogueTest, replaceInterfaceFindsTheInterfaceByItsNumber)
 {
     catalogue.replaceInterfaces(0, {network("x", {camera("1")}, 7), network("y", {}, 8)});
     handedOut();
@@ -110,7 +111,7 @@ TEST_F(CameraCatalogueTest, replacesOneInterfaceByItsNumber)
     EXPECT_FALSE(catalogue.findInterface(1, "x"));
 }
 
-TEST_F(CameraCatalogueTest, firstListIsAnnouncedUnlessTheProgramAskedForIt)
+TEST_F(CameraCatalogueTest, observersAreNotNotifiedOfAFirstListThatWasReturnedBefore)
 {
     catalogue.replaceInterfaces(1, cameras({"1"}));
     EXPECT_TRUE(catalogue.announceFromNowOn(1));
@@ -126,10 +127,10 @@ TEST_F(CameraCatalogueTest, firstListIsAnnouncedUnlessTheProgramAskedForIt)
     EXPECT_EQ(change(), Ids{});
     catalogue.replaceInterfaces(0, cameras({"1", "2"}));
     handedOut();
-    EXPECT_EQ(change(), Ids{"+a.cti/net/2"}) << "a later change is announced even if it was handed out";
+    EXPECT_EQ(change(), Ids{"+a.cti/net/2"}) << "observers are notified of every later change";
 }
 
-TEST_F(CameraCatalogueTest, announcesWhatAppearsAndDisappears)
+TEST_F(CameraCatalogueTest, changeContainsAddedAndRemovedObjects)
 {
     const DeviceRecord one = camera("1"), two = camera("2");
     const struct
@@ -144,8 +145,9 @@ TEST_F(CameraCatalogueTest, announcesWhatAppearsAndDisappears)
             {network("x", {one}), network("y", {}, 2)}, {"-a.cti/y/1"}},
         {"moved camera", {network("x", {one}), network("y", {}, 2)},
             {network("x", {}), network("y", {one}, 2)}, {"-a.cti/x/1", "+a.cti/y/1"}},
-        {"one of two equal ones", {network("x", {one, one})}, {network("x", {one})}, {"-a.cti/x/1"}},
-        {"number and name of the interface", {network("x", {one}, 1)}, {{2, "x", "Other", "GEV", {one}}}, {}},
+        {"one of two equal devices", {network("x", {one, one})}, {network("x", {one})}, {"-a.cti/x/1"}},
+        {"new number and name of the interface", {network("x", {one}, 1)}, {{2, "x", "Other", "GEV", {one}}},
+            {}},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -157,7 +159,7 @@ TEST_F(CameraCatalogueTest, announcesWhatAppearsAndDisappears)
     }
 }
 
-TEST_F(CameraCatalogueTest, changedFieldMakesARemovedAndAnAddedCamera)
+TEST_F(CameraCatalogueTest, changedFieldIsReportedAsARemovedAndAnAddedCamera)
 {
     DeviceRecord device{"D", "", "", "", "", ""};
     catalogue.replaceInterfaces(0, {network("n", {device, camera("E")})});
@@ -169,7 +171,7 @@ TEST_F(CameraCatalogueTest, changedFieldMakesARemovedAndAnAddedCamera)
     }
 }
 
-TEST_F(CameraCatalogueTest, sameCameraIsListedOnceForTheFirstProducer)
+TEST_F(CameraCatalogueTest, cameraOfSeveralProducersIsReturnedForTheFirstOne)
 {
     const Interfaces same{
         network("net", {camera("1", "Vendor", "Model", "42"), camera("2", "Vendor", "Model", "42")})};
@@ -179,16 +181,17 @@ TEST_F(CameraCatalogueTest, sameCameraIsListedOnceForTheFirstProducer)
     EXPECT_EQ(handedOut(), (Ids{"b.cti/net/1", "b.cti/net/3"}));
     catalogue.replaceInterfaces(0, same);
     EXPECT_EQ(handedOut(), (Ids{"a.cti/net/1", "a.cti/net/2", "b.cti/net/3"}))
-        << "nothing is left out within one producer";
+        << "one producer may report a camera twice";
     EXPECT_EQ(change(), (Ids{"-b.cti/net/1", "+[net]", "+a.cti/net/1", "+a.cti/net/2"}));
-    EXPECT_EQ(catalogue.findInterface(1, "net")->devices.size(), 2U) << "its interface still has it";
+    EXPECT_EQ(catalogue.findInterface(1, "net")->devices.size(), 2U)
+        << "the interface keeps the hidden camera";
     catalogue.replaceInterfaces(1, {});
-    EXPECT_EQ(change(), (Ids{"-b.cti/net/3", "-[net]"})) << "a hidden camera disappears silently";
+    EXPECT_EQ(change(), (Ids{"-b.cti/net/3", "-[net]"})) << "no notification reports a hidden camera";
     catalogue.replaceInterfaces(0, {});
     EXPECT_EQ(handedOut(), (Ids{"\xEF\xBF\xBD.cti/net/1", "\xEF\xBF\xBD.cti/net/2"}));
 }
 
-TEST_F(CameraCatalogueTest, recognisesACameraByVendorModelAndSerialNumber)
+TEST_F(CameraCatalogueTest, sameVendorModelAndSerialNumberMeanTheSameCamera)
 {
     const struct
     {
@@ -198,12 +201,12 @@ TEST_F(CameraCatalogueTest, recognisesACameraByVendorModelAndSerialNumber)
     } rows[] = {
         {"all equal", camera("1", "V", "M", "S"), camera("2", "V", "M", "S"), true},
         {"letter case", camera("1", "VENDOR", "model", "sN1"), camera("2", "Vendor", "Model", "Sn1"), true},
-        {"white space around", camera("1", " V\t", "M ", " S"), camera("2", "V", "  M", "S  "), true},
-        {"white space within", camera("1", "V V", "M", "S"), camera("2", "VV", "M", "S"), false},
+        {"surrounding white space", camera("1", " V\t", "M ", " S"), camera("2", "V", "  M", "S  "), true},
+        {"inner white space", camera("1", "V V", "M", "S"), camera("2", "VV", "M", "S"), false},
         {"other vendor", camera("1", "V", "M", "S"), camera("2", "W", "M", "S"), false},
         {"other model", camera("1", "V", "M", "S"), camera("2", "V", "N", "S"), false},
         {"same ID only", camera("1", "V", "M", "S"), camera("1", "V", "M", "T"), false},
-        {"moved text", camera("1", "VM", "M", "S"), camera("2", "V", "MM", "S"), false},
+        {"same letters in other fields", camera("1", "VM", "M", "S"), camera("2", "V", "MM", "S"), false},
         {"no vendor", camera("1", "", "M", "S"), camera("2", "", "M", "S"), false},
         {"no model", camera("1", "V", "", "S"), camera("2", "V", "", "S"), false},
         {"blank serial number", camera("1", "V", "M", " "), camera("2", "V", "M", " "), false},

@@ -1,4 +1,4 @@
-// The camera system from its start to its end.
+// Tests the startup and the shutdown of the camera system.
 
 #include "tests/sdk/support/SystemTest.h"
 
@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 using CameraSystemTest = SystemTest;
 
-TEST_F(CameraSystemTest, startNeedsTheHostProgramAndSucceedsOnce)
+TEST_F(CameraSystemTest, startupNeedsAnExecutableHostProgram)
 {
     const auto host = directory.path() / "Host";
     options.hostProgram = host.string();
@@ -35,7 +35,7 @@ TEST_F(CameraSystemTest, startNeedsTheHostProgramAndSucceedsOnce)
     EXPECT_EQ(starting.RegisterInterfaceListObserver(nullptr), CvxErrorInvalidParameter);
 }
 
-TEST_F(CameraSystemTest, manyRoundsLeaveNothing)
+TEST_F(CameraSystemTest, repeatedStartupAndShutdownLeakNothing)
 {
     addProducer("a", cameras(1));
     start();
@@ -55,7 +55,7 @@ TEST_F(CameraSystemTest, manyRoundsLeaveNothing)
     EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
 }
 
-TEST_F(CameraSystemTest, endKillsHangingHostsAndReportsThem)
+TEST_F(CameraSystemTest, shutdownReportsHostsThatDoNotCloseProperly)
 {
     addProducer("a", "fault GCInitLib hang\n");
     addProducer("b", "fault GCCloseLib hang\ninterface n|N|GEV\ndevice n|1|V|M|S|N|GEV\n");
@@ -72,7 +72,7 @@ TEST_F(CameraSystemTest, endKillsHangingHostsAndReportsThem)
     EXPECT_EQ(reports().size(), 3U) << testing::PrintToString(reports());
 }
 
-TEST_F(CameraSystemTest, endWakesCallersThatWait)
+TEST_F(CameraSystemTest, shutdownWakesWaitingCallers)
 {
     options.pollInterval = 1h;
     options.searchTimeout = 1h;
@@ -97,7 +97,7 @@ TEST_F(CameraSystemTest, endWakesCallersThatWait)
     EXPECT_EQ(listError, CvxErrorNotStarted);
 }
 
-TEST_F(CameraSystemTest, sessionThatFailsIsReportedAndEnded)
+TEST_F(CameraSystemTest, exceptionEndsTheSessionWithAReport)
 {
     std::mutex mutex;
     std::vector<std::string> lines;
@@ -105,7 +105,7 @@ TEST_F(CameraSystemTest, sessionThatFailsIsReportedAndEnded)
         const std::lock_guard lock(mutex);
         lines.push_back(line);
         if (lines.size() == 1)
-            throw std::bad_alloc(); // Like any allocation of the session.
+            throw std::bad_alloc(); // Stands for any failing allocation of the session.
     };
     addProducer("a", "fault load exit 9\n");
     start();
@@ -116,7 +116,7 @@ TEST_F(CameraSystemTest, sessionThatFailsIsReportedAndEnded)
     EXPECT_EQ(lines.back(), "discovery ended: std::bad_alloc");
 }
 
-TEST_F(CameraSystemTest, callsFromAllThreadsAtOnceAreSafe)
+TEST_F(CameraSystemTest, concurrentCallsAreSafe)
 {
     addProducer("a", cameras(3));
     system = std::make_unique<CameraSystem>(options);
@@ -150,7 +150,7 @@ TEST_F(CameraSystemTest, callsFromAllThreadsAtOnceAreSafe)
         thread.join();
 }
 
-TEST_F(CameraSystemTest, callbackCannotStartOrEndTheSystem)
+TEST_F(CameraSystemTest, callbackCannotStartOrShutDownTheSystem)
 {
     addProducer("a", cameras(1));
     start();
@@ -162,7 +162,7 @@ TEST_F(CameraSystemTest, callbackCannotStartOrEndTheSystem)
         isCalled = true;
         unsigned count = 0;
         waitUntil([&] { return system->GetCameras(nullptr, count) == CvxErrorNotStarted; });
-        startError = system->Startup(); // While the system ends, which waits for this call.
+        startError = system->Startup(); // Shutdown() is waiting for this callback.
         lateError = system->Shutdown();
     };
     ASSERT_EQ(system->RegisterCameraListObserver(recorder), CvxErrorSuccess);
@@ -172,4 +172,15 @@ TEST_F(CameraSystemTest, callbackCannotStartOrEndTheSystem)
     stop();
     EXPECT_EQ(startError, CvxErrorAlreadyStarted);
     EXPECT_EQ(lateError, CvxErrorFailed);
+}
+
+TEST_F(CameraSystemTest, startupWaitsForNoProducer)
+{
+    options.searchTimeout = 1h;
+    options.replyTimeout = 15s;
+    options.closeTimeout = 100ms;
+    addProducer("a", "fault load hang\n");
+    start();
+    EXPECT_TRUE(reports().empty()) << "the host is killed and reported only after its reply timeout";
+    ASSERT_TRUE(waitUntil([this] { return countCalls("a", "load") == 1; }));
 }

@@ -54,13 +54,13 @@ const Document documents[] = {
 
 } // namespace
 
-TEST(CtiPathsDocumentTest, returnsThePaths)
+TEST(CtiPathsDocumentTest, returnsThePathsOfTheDocument)
 {
     for (const Document &document : documents)
         EXPECT_EQ(readCtiPaths(document.xml), document.paths) << document.name;
 }
 
-TEST(CtiSearchPathTest, resolvesThePathsOfTheFile)
+TEST(CtiSearchPathTest, relativePathsAreResolvedInTheInstallRootFirst)
 {
     const TemporaryDirectory root;
     for (const char *directory : {"bin/near", "bin/both", "far", "both", "cti"})
@@ -81,7 +81,7 @@ TEST(CtiSearchPathTest, resolvesThePathsOfTheFile)
         (Paths{below("both"), below("far"), below("bin/near")}));
 }
 
-TEST(CtiSearchPathTest, splitsASearchPath)
+TEST(CtiSearchPathTest, searchPathIsSplitAtColons)
 {
     EXPECT_EQ(searchPathDirectories(nullptr), Paths{});
     EXPECT_EQ(searchPathDirectories(""), Paths{});

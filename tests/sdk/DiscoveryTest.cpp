@@ -1,9 +1,10 @@
-// The camera system over producers that work.
+// Tests the camera system with producers that work.
 
 #include "tests/sdk/support/SystemTest.h"
 
 #include <atomic>
 #include <cstdlib>
+#include <thread>
 
 using namespace CvxCPP;
 using namespace std::chrono_literals;
@@ -13,7 +14,7 @@ using Ids = std::vector<std::string>;
 
 using DiscoveryTest = SystemTest;
 
-TEST_F(DiscoveryTest, findsProducersInTheConfiguredDirectoriesAndThoseOfTheEnvironment)
+TEST_F(DiscoveryTest, configuredDirectoriesPrecedeDirectoriesOfTheEnvironment)
 {
     for (const char *folder : {"bin", "producers", "environment"})
         std::filesystem::create_directory(directory.path() / folder);
@@ -24,7 +25,7 @@ TEST_F(DiscoveryTest, findsProducersInTheConfiguredDirectoriesAndThoseOfTheEnvir
     std::filesystem::copy_file(TEST_PRODUCER, directory.path() / "environment/a.cti");
     writeFile(directory.path() / "environment/a.script", "interface e|E|GEV\ndevice e|1\n");
     std::filesystem::create_directory(ctiPath("folder.cti"));
-    addProducer("b", cameras(2)); // Its first camera is that of "z", in an earlier directory.
+    addProducer("b", cameras(2)); // "z", in an earlier directory, reports the first camera too.
     setenv("GENICAM_GENTL64_PATH", (":/nowhere:" + (directory.path() / "environment").string()).c_str(), 1);
     start();
     EXPECT_EQ(listIds(), (Ids{"z.cti/net0/A1", "b.cti/net0/A2", "a.cti/e/1"}));
@@ -32,23 +33,24 @@ TEST_F(DiscoveryTest, findsProducersInTheConfiguredDirectoriesAndThoseOfTheEnvir
     EXPECT_EQ(countReports("cti/folder.cti: "), 1U);
 }
 
-TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)
+TEST_F(DiscoveryTest, arrayIsFilledFromTheLastSearch)
 {
     options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
-    options.searchTimeout = 1h; // Every answer comes at once.
+    options.searchTimeout = 1h; // Every producer replies at once.
     addProducer("a", cameras(3));
     start();
     Cameras found(5);
     unsigned count = 2;
-    EXPECT_EQ(system->GetCameras(found.data(), count), CvxErrorSuccess) << "searches if there was no search";
+    EXPECT_EQ(system->GetCameras(found.data(), count), CvxErrorSuccess)
+        << "the first call searches even with an array";
     EXPECT_EQ(count, 2U);
     EXPECT_TRUE(found[1]);
-    EXPECT_FALSE(found[2]) << "never beyond the end of the array";
+    EXPECT_FALSE(found[2]) << "nothing is written beyond the end of the array";
     setScript("a", cameras(4));
     ASSERT_EQ(feature(*interfaceOf(found, 0), "DeviceUpdateList")->RunCommand(), CvxErrorSuccess);
     EXPECT_EQ(system->GetCameras(found.data(), count = 5), CvxErrorSuccess);
-    EXPECT_EQ(count, 3U) << "whatever appeared since";
+    EXPECT_EQ(count, 3U) << "the camera that appeared later is not returned";
     EXPECT_EQ(system->GetCameras(nullptr, count), CvxErrorSuccess);
     EXPECT_EQ(count, 4U);
     setScript("a", "interface other|O|GEV\n");
@@ -56,7 +58,7 @@ TEST_F(DiscoveryTest, fillsAnArrayFromTheLastSearch)
     EXPECT_EQ(feature(*interfaceOf(found, 0), "DeviceUpdateList")->RunCommand(), CvxErrorNotAvailable);
 }
 
-TEST_F(DiscoveryTest, searchIsReusedBesideASlowProducerToo)
+TEST_F(DiscoveryTest, searchIsReusedEvenIfAnotherProducerIsSlow)
 {
     options.pollInterval = 1h;
     options.searchTimeout = 1h;
@@ -68,11 +70,11 @@ TEST_F(DiscoveryTest, searchIsReusedBesideASlowProducerToo)
     EXPECT_EQ(countCalls("quick", "IFUpdateDeviceList"), 1U);
 }
 
-TEST_F(DiscoveryTest, updateOfAnInterfaceSearchesItAloneAndOnlyIfThatWasNotJustDone)
+TEST_F(DiscoveryTest, interfaceUpdateSearchesOnlyThatInterface)
 {
     options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
-    options.searchTimeout = 1h; // Every answer comes at once.
+    options.searchTimeout = 1h; // Every producer replies at once.
     options.reuseTime = 3s;
     const std::string both = "interface a|A|GEV\ninterface b|B|GEV\ndevice a|1\ndevice b|2\n";
     addProducer("p", both);
@@ -93,10 +95,10 @@ TEST_F(DiscoveryTest, updateOfAnInterfaceSearchesItAloneAndOnlyIfThatWasNotJustD
     setScript("p", "interface other|O|GEV\n");
     EXPECT_TRUE(waitUntil([&] { return list().empty(); }));
     EXPECT_EQ(update->RunCommand(), CvxErrorNotAvailable);
-    EXPECT_EQ(valueOf(*id), "3") << "the snapshot stays";
+    EXPECT_EQ(valueOf(*id), "3") << "the snapshot does not change";
 }
 
-TEST_F(DiscoveryTest, announcesCamerasAndInterfacesThatAppearOrDisappear)
+TEST_F(DiscoveryTest, observersAreNotifiedOnceOfEveryChange)
 {
     addProducer("a", "interface x|X|GEV\ndevice x|1\n");
     start();
@@ -110,10 +112,10 @@ TEST_F(DiscoveryTest, announcesCamerasAndInterfacesThatAppearOrDisappear)
     ASSERT_TRUE(waitUntil([&] { return interfaces->calls() == "+-"; }));
     const std::size_t before = countCalls("a", "IFUpdateDeviceList");
     EXPECT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") >= before + 3; }));
-    EXPECT_EQ(recorder->calls(), (Calls{"+a.cti/y/2", "-a.cti/x/1"})) << "each once";
+    EXPECT_EQ(recorder->calls(), (Calls{"+a.cti/y/2", "-a.cti/x/1"})) << "each change is reported once";
 }
 
-TEST_F(DiscoveryTest, announcesTheFirstCamerasToAProgramThatNeverAsksAndHoldsTheRestBack)
+TEST_F(DiscoveryTest, notificationsPauseAfterACameraListWasReturned)
 {
     options.notificationHold = 400ms;
     addProducer("a", cameras(2));
@@ -146,4 +148,55 @@ TEST_F(DiscoveryTest, observerMayUseTheSystem)
     EXPECT_TRUE(waitUntil([&] { return listed == 2; }));
     EXPECT_EQ(error, CvxErrorSuccess);
     stop();
+}
+
+TEST_F(DiscoveryTest, slowObserverDelaysNoCameraList)
+{
+    addProducer("a", cameras(1));
+    start();
+    list();
+    std::atomic<bool> isReleased{false}, wasReleased{true};
+    const auto slow = std::make_shared<CameraRecorder>();
+    slow->onCall = [&] { wasReleased = wasReleased && waitUntil([&] { return isReleased.load(); }); };
+    ASSERT_EQ(system->RegisterCameraListObserver(slow), CvxErrorSuccess);
+    setScript("a", cameras(2));
+    EXPECT_TRUE(waitUntil([&] { return slow->calls().size() == 1; }));
+    setScript("a", cameras(3));
+    EXPECT_TRUE(waitUntil([&] { return list().size() == 3; }));
+    isReleased = true;
+    EXPECT_TRUE(waitUntil([&] { return slow->calls().size() == 2; }));
+    stop();
+    EXPECT_TRUE(wasReleased) << "the list was returned while the observer was being called";
+}
+
+TEST_F(DiscoveryTest, simultaneousSearchesShareOneSearch)
+{
+    options.pollInterval = 1h;
+    options.searchTimeout = 1h;
+    addProducer("a", "fault IFUpdateDeviceList slow 2000\n" + cameras(2));
+    start();
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 5; ++i)
+        threads.emplace_back([this] { EXPECT_EQ(list().size(), 2U); });
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_LE(countCalls("a", "IFUpdateDeviceList"), 2U) << "a thread may start after the first search";
+}
+
+TEST_F(DiscoveryTest, interfaceThatDisappearsDuringItsUpdateIsNotAvailable)
+{
+    options.pollInterval = 1h;
+    options.interfaceUpdateInterval = 0ms;
+    options.searchTimeout = 30s;
+    options.replyTimeout = 1min;
+    addProducer("a", cameras(1));
+    start();
+    const auto interface = interfaceOf(list(), 0);
+    const std::size_t before = countCalls("a", "TLUpdateInterfaceList");
+    setScript("a", "fault IFUpdateDeviceList slow 1000\ninterface other\n");
+    std::thread lister([this] { EXPECT_TRUE(list().empty()); });
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "TLUpdateInterfaceList") > before; }));
+    EXPECT_EQ(feature(*interface, "DeviceUpdateList")->RunCommand(), CvxErrorNotAvailable);
+    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A1") << "a failed update keeps the devices";
+    lister.join();
 }

@@ -1,4 +1,4 @@
-// The camera system over producers and hosts that fail or are slow.
+// Tests the camera system with producers and hosts that fail or are slow.
 
 #include "tests/sdk/support/SystemTest.h"
 
@@ -19,7 +19,7 @@ protected:
         return hosts.empty() ? -1 : hosts.front();
     }
 
-    /// Replaces the host program by a shell script, in which descriptor 3 is the socket.
+    /// Replaces the host program by a shell script. Descriptor 3 of the script is the socket.
     void useHost(const std::string &script)
     {
         options.hostProgram = (directory.path() / "host").string();
@@ -28,13 +28,13 @@ protected:
     }
 };
 
-TEST_F(FailureTest, crashedHostLosesItsCamerasAndIsStartedAgain)
+TEST_F(FailureTest, crashedHostIsRestarted)
 {
     options.pollInterval = 1h; // The crash is noticed without a poll.
     addProducer("a", cameras(1));
     start();
     const auto recorder = recordCameras();
-    for (std::size_t crashes = 1; crashes <= 2; ++crashes) { // The producer worked between the two.
+    for (std::size_t crashes = 1; crashes <= 2; ++crashes) { // The producer works between the two crashes.
         ASSERT_TRUE(waitUntil([&] { return list().size() == 1; }));
         ASSERT_EQ(kill(hostOf("a"), SIGKILL), 0);
         EXPECT_TRUE(waitUntil([&] { return recorder->calls().size() == 2 * crashes; }));
@@ -44,9 +44,9 @@ TEST_F(FailureTest, crashedHostLosesItsCamerasAndIsStartedAgain)
         recorder->calls(), (Calls{"-a.cti/net0/A1", "+a.cti/net0/A1", "-a.cti/net0/A1", "+a.cti/net0/A1"}));
 }
 
-TEST_F(FailureTest, cameraOfACrashedProducerIsListedForTheNextOne)
+TEST_F(FailureTest, nextProducerTakesOverTheCamerasOfACrashedOne)
 {
-    options.searchTimeout = 1h; // Nobody waits for the crashed one.
+    options.searchTimeout = 1h; // The test would hang if a call waited for the crashed producer.
     options.firstRestartDelay = 1h;
     options.maxRestartDelay = 1h;
     addProducer("a", cameras(1));
@@ -62,7 +62,7 @@ TEST_F(FailureTest, cameraOfACrashedProducerIsListedForTheNextOne)
     EXPECT_EQ(update->RunCommand(), CvxErrorTimeout) << "the producer of that interface is gone";
 }
 
-TEST_F(FailureTest, failureThatRepeatsIsReportedOnceAndDelaysTheRestarts)
+TEST_F(FailureTest, restartDelayGrowsWithRepeatedFailures)
 {
     addProducer("a", "fault load exit 9\n");
     const TimePoint startedAt = SteadyClock::now();
@@ -74,7 +74,7 @@ TEST_F(FailureTest, failureThatRepeatsIsReportedOnceAndDelaysTheRestarts)
     EXPECT_EQ(reports(), std::vector<std::string>{ctiPath("a.cti").string() + ": exited with code 9"});
 }
 
-TEST_F(FailureTest, hangingHostIsKilledAndReportedOnce)
+TEST_F(FailureTest, hangingHostIsReportedOnce)
 {
     options.searchTimeout = 100ms;
     options.replyTimeout = 300ms;
@@ -82,12 +82,12 @@ TEST_F(FailureTest, hangingHostIsKilledAndReportedOnce)
     addProducer("a", "fault load hang\n");
     start();
     ASSERT_TRUE(waitUntil([&] { return countCalls("a", "load") >= 3; }));
-    stop(); // The next host hangs already.
+    stop(); // The third host is hanging now.
     ASSERT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
     EXPECT_EQ(countReports("cti/a.cti: did not answer within 0.3 s and was killed"), 1U);
 }
 
-TEST_F(FailureTest, brokenProtocolIsReportedAndEndsTheHost)
+TEST_F(FailureTest, protocolErrorIsReported)
 {
     options.pollInterval = 1h;
     const std::string empty = R"({"body":{"interfaces":[],"problems":[]},"id":1,"kind":"cameraList"})";
@@ -120,12 +120,12 @@ TEST_F(FailureTest, brokenProtocolIsReportedAndEndsTheHost)
     }
 }
 
-TEST_F(FailureTest, hostProgramThatCannotBeStartedIsTriedAgain)
+TEST_F(FailureTest, failedHostStartIsRepeated)
 {
     useHost("exit 0");
     writeFile(options.hostProgram, "#!/nowhere/interpreter\n");
     std::filesystem::permissions(options.hostProgram, std::filesystem::perms::owner_all);
-    for (int i = 0; i < 6; ++i) // More than are started at a time.
+    for (int i = 0; i < 6; ++i) // More hosts than may start at the same time.
         addProducer(std::to_string(i), "interface n\ndevice n|1\n");
     start();
     EXPECT_TRUE(waitUntil([&] { return countReports(": cannot start " + options.hostProgram) == 6; }));
@@ -134,7 +134,7 @@ TEST_F(FailureTest, hostProgramThatCannotBeStartedIsTriedAgain)
     EXPECT_TRUE(waitUntil([&] { return list().size() == 6; }));
 }
 
-TEST_F(FailureTest, slowProducerIsNotWaitedForTwiceAndItsLateReplyIsAnnounced)
+TEST_F(FailureTest, unresponsiveProducerDoesNotDelayTheNextList)
 {
     options.pollInterval = 1h;
     options.searchTimeout = 2s;
@@ -143,7 +143,7 @@ TEST_F(FailureTest, slowProducerIsNotWaitedForTwiceAndItsLateReplyIsAnnounced)
     start();
     const auto recorder = recordCameras();
     EXPECT_EQ(listIds(), Ids{"well.cti/n/1"});
-    EXPECT_EQ(list().size(), 1U) << "the reply would arrive within a second wait";
+    EXPECT_EQ(list().size(), 1U) << "a second wait would be long enough for the reply";
     EXPECT_EQ(list().size(), 1U);
     ASSERT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
     EXPECT_EQ(recorder->calls(), Calls{"+slow.cti/net0/A1"});
@@ -161,7 +161,7 @@ TEST_F(FailureTest, slowOrHangingProducerKeepsItsCameras)
     ASSERT_TRUE(waitUntil([this] { return list().size() == 2; }));
     const auto interface = interfaceOf(list(), 1);
     const auto update = feature(*interface, "DeviceUpdateList");
-    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess) << "what the last search found";
+    EXPECT_EQ(update->RunCommand(), CvxErrorSuccess) << "the result of the last search is used";
     ASSERT_EQ(feature(*interface, "DeviceSelector")->SetValue(1), CvxErrorSuccess);
     EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A2");
 
@@ -170,4 +170,22 @@ TEST_F(FailureTest, slowOrHangingProducerKeepsItsCameras)
     ASSERT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") > before; }));
     EXPECT_EQ(update->RunCommand(), CvxErrorSuccess);
     EXPECT_EQ(list().size(), 2U);
+}
+
+TEST_F(FailureTest, deathOfAProducerIsNoticedAlthoughItsChildKeepsTheSocketOpen)
+{
+    options.pollInterval = 1h;
+    options.searchTimeout = 1h;
+    options.replyTimeout = 20s; // Ends the search with another report if the death is not noticed.
+    options.firstRestartDelay = 1h;
+    options.maxRestartDelay = 1h;
+    addProducer("a", cameras(1));
+    start();
+    const auto recorder = recordCameras();
+    ASSERT_EQ(list().size(), 1U);
+    setScript("a", "fault IFUpdateDeviceList fork-and-die\n" + cameras(1));
+    EXPECT_TRUE(list().empty());
+    EXPECT_EQ(reports(), Calls{ctiPath("a.cti").string() + ": was ended by SIGKILL (Killed)"});
+    EXPECT_TRUE(waitUntil([&] { return recorder->calls() == Calls{"-a.cti/net0/A1"}; }));
+    EXPECT_TRUE(waitUntil([this] { return processesWith(ctiPath("a.cti").string()).empty(); }));
 }

@@ -1,4 +1,4 @@
-// What a host makes of a producer's answers, as the camera system sees it.
+// Tests through the camera system how a host searches its producer.
 
 #include "tests/sdk/support/SystemTest.h"
 
@@ -14,11 +14,11 @@ using Ids = std::vector<std::string>;
 class HostSearchTest : public SystemTest
 {
 protected:
-    /// Makes the system search only when the test asks for it.
+    /// Disables the polls. After the first search, the system searches only when the test requests it.
     void neverPoll() { options.pollInterval = 1h; }
 
-    /// Returns the timeouts that a producer got in the calls of an update function, for one interface if
-    /// given.
+    /// Returns the timeouts that a producer received in calls of an update function. If `call` also contains
+    /// an interface ID, returns only the timeouts for that interface.
     Calls timeoutsOf(const std::string &producer, const std::string &call) const
     {
         Calls timeouts;
@@ -29,7 +29,7 @@ protected:
         return timeouts;
     }
 
-    /// Waits for so many calls, and returns the timeouts of the first ones.
+    /// Waits for `count` calls and returns their timeouts.
     Calls firstTimeouts(const std::string &producer, const std::string &call, std::size_t count)
     {
         EXPECT_TRUE(waitUntil([&] { return timeoutsOf(producer, call).size() >= count; }));
@@ -39,9 +39,9 @@ protected:
     }
 };
 
-TEST_F(HostSearchTest, producerNeedsOptionalFunctionsAsLittleAsHarmfulVariables)
+TEST_F(HostSearchTest, producerNeedsNoOptionalFunctions)
 {
-    setScript("minimal", "interface empty|E|GEV\n" + cameras(1)); // Info of "empty" would crash the producer.
+    setScript("minimal", "interface empty|E|GEV\n" + cameras(1));
     std::filesystem::copy_file(MINIMAL_PRODUCER, ctiPath("minimal.cti"));
     setenv("GENICAM_GENTL64_PATH", "/nowhere", 1);
     setenv("G_DEBUG", "fatal-warnings", 1);
@@ -49,11 +49,11 @@ TEST_F(HostSearchTest, producerNeedsOptionalFunctionsAsLittleAsHarmfulVariables)
     EXPECT_EQ(listIds(), Ids{"minimal.cti/net0/A1"});
     unsetenv("GENICAM_GENTL64_PATH");
     unsetenv("G_DEBUG");
-    EXPECT_EQ(callsOf("minimal").front(), "load") << "without the names of the two variables";
+    EXPECT_EQ(callsOf("minimal").front(), "load") << "a visible variable would be logged after \"load\"";
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(HostSearchTest, failureIsReportedWithoutTheProducersTextIfThereIsNone)
+TEST_F(HostSearchTest, failureIsReportedWithoutAnErrorTextIfTheProducerHasNone)
 {
     const std::string failure = "fault IFUpdateDeviceList error -1010\n" + cameras(1);
     for (const char *fault : {"error", "throw"})
@@ -69,7 +69,7 @@ TEST_F(HostSearchTest, failureIsReportedWithoutTheProducersTextIfThereIsNone)
 TEST_F(HostSearchTest, interfacesAreSearchedAtTheSameTime)
 {
     neverPoll();
-    std::string script = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls run at once.
+    std::string script = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls meet.
     for (char id = 'a'; id < 'a' + 8; ++id)
         script += std::string("interface ") + id + "\ndevice " + id + "|1\n";
     addProducer("p", script);
@@ -77,7 +77,7 @@ TEST_F(HostSearchTest, interfacesAreSearchedAtTheSameTime)
     EXPECT_EQ(list().size(), 8U);
 }
 
-TEST_F(HostSearchTest, searchThatNeverEndsIsReportedAndGetsLittleTimeAgain)
+TEST_F(HostSearchTest, updateTimeoutIsResetAfterItsMaximum)
 {
     addProducer("a", "interface net0\nfault IFUpdateDeviceList:net0 search 60000\n");
     start();
@@ -87,9 +87,9 @@ TEST_F(HostSearchTest, searchThatNeverEndsIsReportedAndGetsLittleTimeAgain)
     EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1011 (GC_ERR_TIMEOUT)"), 1U);
 }
 
-TEST_F(HostSearchTest, interfaceSurvivesOneFailedUpdate)
+TEST_F(HostSearchTest, camerasSurviveOneFailedUpdate)
 {
-    neverPoll(); // One list, one search.
+    neverPoll(); // Each list() makes one search.
     addProducer("a", cameras(1));
     start();
     ASSERT_EQ(list().size(), 1U);
@@ -102,7 +102,7 @@ TEST_F(HostSearchTest, interfaceSurvivesOneFailedUpdate)
     EXPECT_EQ(countCalls("a", "load"), 1U);
 }
 
-TEST_F(HostSearchTest, deviceIdThatCannotBeReadOnceIsKept)
+TEST_F(HostSearchTest, devicesAreKeptIfAnIdCannotBeReadOnce)
 {
     neverPoll();
     addProducer("a", cameras(2));
@@ -117,7 +117,7 @@ TEST_F(HostSearchTest, deviceIdThatCannotBeReadOnceIsKept)
     EXPECT_EQ(listIds(), Ids{"a.cti/net0/A2"}) << "GC_ERR_INVALID_ID: the device is gone";
 }
 
-TEST_F(HostSearchTest, slowSearchGetsMoreTimeAndKeepsIt)
+TEST_F(HostSearchTest, updateTimeoutGrowsUntilTheSearchSucceeds)
 {
     addProducer("devices", "fault IFUpdateDeviceList:net0 search 1200\n" + cameras(1) + "interface net1\n");
     addProducer("interfaces", "fault TLUpdateInterfaceList search 1200\ninterface n\n");
@@ -130,7 +130,7 @@ TEST_F(HostSearchTest, slowSearchGetsMoreTimeAndKeepsIt)
     EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
 }
 
-TEST_F(HostSearchTest, failingInterfaceListKeepsTheOpenInterfaces)
+TEST_F(HostSearchTest, openInterfacesSurviveAFailedInterfaceList)
 {
     neverPoll();
     options.interfaceUpdateInterval = 0ms;
@@ -148,13 +148,13 @@ TEST_F(HostSearchTest, failingInterfaceListKeepsTheOpenInterfaces)
     EXPECT_EQ(countCalls("a", "IFClose"), 1U);
 }
 
-TEST_F(HostSearchTest, closesWhatWasOpenedInOrder)
+TEST_F(HostSearchTest, interfacesAreClosedBeforeTheSystemAndTheLibrary)
 {
     addProducer("a", "interface x|X|GEV\ninterface y|Y|GEV\n");
     addProducer("b", "fault TLOpen error -1004\n");
     start();
     list();
-    // stop() kills a host that has failed.
+    // The failed host has to close its producer before stop() kills the host.
     EXPECT_TRUE(waitUntil([this] { return callsOf("b").back() == "GCCloseLib"; }));
     stop();
     const auto calls = callsOf("a");
@@ -162,4 +162,26 @@ TEST_F(HostSearchTest, closesWhatWasOpenedInOrder)
     EXPECT_EQ(
         Calls(calls.end() - 4, calls.end()), (Calls{"IFClose x", "IFClose y", "TLClose", "GCCloseLib"}));
     EXPECT_EQ(countCalls("b", "TLClose"), 0U);
+}
+
+TEST_F(HostSearchTest, stringThatGrowsBetweenTwoCallsIsReadFourTimes)
+{
+    neverPoll();
+    options.reuseTime = 1h; // There is only one search.
+    options.searchTimeout = 1min;
+    for (const std::string fault : {"grow 3", "grow 4", "grow-1.3 3", "grow-1.3 4"})
+        addProducer(fault, "interface n\ndevice n|1\nfault IFGetDeviceID " + fault + '\n');
+    start();
+    EXPECT_EQ(listIds(), (Ids{"grow 3.cti/n/1", "grow-1.3 3.cti/n/1"}));
+    for (const char *producer : {"grow 3", "grow 4", "grow-1.3 3", "grow-1.3 4"})
+        EXPECT_EQ(countCalls(producer, "IFGetDeviceID"), 4 * 2U) << producer;
+}
+
+TEST_F(HostSearchTest, deviceIdThatCanNeverBeReadHidesNoOtherDevice)
+{
+    neverPoll();
+    addProducer("a", "fault IFGetDeviceID:A1 error -1010\n" + cameras(2));
+    start();
+    for (int search = 0; search < 3; ++search)
+        EXPECT_EQ(listIds(), Ids{"a.cti/net0/A2"}) << search;
 }

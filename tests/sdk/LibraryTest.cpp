@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 
 static const std::string oneCamera = "interface net|Net|GEV\ndevice net|D1|V|M|S|N|GEV\n";
 
-/// Runs a program that uses the library in an installation of the test's own, with the default options. The
-/// simulator reports two cameras there.
+/// Runs a program that uses the library with its default options, in an installation that only one test uses.
+/// The simulator in that installation reports two cameras.
 class LibraryTest : public testing::Test
 {
 protected:
@@ -43,7 +43,7 @@ protected:
     TemporaryDirectory root;
 };
 
-TEST_F(LibraryTest, exportsOneSymbol)
+TEST_F(LibraryTest, libraryExportsOneSymbol)
 {
     ClientProcess nm(NM, {"-D", "-C", "--defined-only", CVX_LIBRARY});
     EXPECT_EQ(nm.exitStatus(), 0);
@@ -51,7 +51,7 @@ TEST_F(LibraryTest, exportsOneSymbol)
     EXPECT_EQ(nm.count(" T CvxCPP::CvxSystem::GetInstance()\n"), 1U) << nm.output();
 }
 
-TEST_F(LibraryTest, usesTheInstallationAroundItself)
+TEST_F(LibraryTest, libraryUsesTheInstallationThatContainsIt)
 {
     writeFile(root.path() / "cti/text.cti", "no library");
     auto process = run({"start", "list", "stop", "stop", "start", "list", "stop"});
@@ -63,7 +63,7 @@ TEST_F(LibraryTest, usesTheInstallationAroundItself)
     EXPECT_EQ(process.count("libCvxCPP: " + (root.path() / "cti/text.cti").string() + ": dlopen failed"), 2U);
 }
 
-TEST_F(LibraryTest, stopsItsHostsAtTheExitOfTheProgram)
+TEST_F(LibraryTest, hostsEndWhenTheProgramExits)
 {
     addProducer("hanging", "fault GCInitLib hang\n");
     auto process = run({"start", "wait"});
@@ -73,7 +73,7 @@ TEST_F(LibraryTest, stopsItsHostsAtTheExitOfTheProgram)
     EXPECT_EQ(hosts().size(), 0U);
 }
 
-TEST_F(LibraryTest, exitOfAForkedChildStopsNothing)
+TEST_F(LibraryTest, exitOfAForkedChildStopsNoHost)
 {
     auto process = run({"start", "list", "fork", "wait"});
     ASSERT_TRUE(process.waitFor("fork 0")) << process.output();
@@ -82,7 +82,7 @@ TEST_F(LibraryTest, exitOfAForkedChildStopsNothing)
     EXPECT_EQ(process.exitStatus(), 0);
 }
 
-TEST_F(LibraryTest, noHostSurvivesAKilledProgram)
+TEST_F(LibraryTest, hostsEndWhenTheProgramIsKilled)
 {
     addProducer("hanging", "fault IFUpdateDeviceList hang\ninterface a|A|GEV\n");
     addProducer("loading", "fault load hang\n");
@@ -98,9 +98,9 @@ TEST_F(LibraryTest, noHostSurvivesAKilledProgram)
     EXPECT_TRUE(waitUntil([&] { return hosts().empty(); }));
 }
 
-TEST_F(LibraryTest, listsCamerasWhenNobodyReadsStandardError)
+TEST_F(LibraryTest, camerasAreReturnedIfNobodyReadsStandardError)
 {
-    for (int i = 0; i < 40; ++i) // Their names sort before the simulator's.
+    for (int i = 0; i < 40; ++i) // These file names sort before the simulator's.
         writeFile(root.path() / "cti" / (std::to_string(i) + "text.cti"), "no library");
     for (const char *error : {"closedStandardError", "fullStandardError"}) {
         auto process = run({error, "start", "list", "stop"});
@@ -115,7 +115,7 @@ TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
     addProducer("asking", "fault load ask\n" + oneCamera);
     addProducer("printing", "fault load print\ninterface net|Net|GEV\ndevice net|D2|V|M|S2|N|GEV\n");
     ClientProcess process(
-        "/usr/bin/script", // Runs the program in a terminal that stops background processes which use it.
+        "/usr/bin/script", // Runs the program on a terminal that stops background processes when they use it.
         {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start list stop", "/dev/null"});
     EXPECT_EQ(process.exitStatus(), 0);
     EXPECT_EQ(process.count("list 0 4"), 1U) << process.output().substr(0, 1000);
@@ -125,7 +125,8 @@ TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
 TEST_F(LibraryTest, standardDescriptorsMayBeClosed)
 {
     addProducer("slow", "fault load slow 500\n" + oneCamera);
-    writeFile(root.path() / "cti/text.cti", "no library"); // Is reported while other descriptors are open.
+    // This file is reported while other descriptors are open.
+    writeFile(root.path() / "cti/text.cti", "no library");
     for (const std::string closed : {"<&- 2>&-", "2>&-", "<&-"}) {
         ClientProcess process("/bin/sh", {"-c", "exec '" + client() + "' start list stop " + closed});
         EXPECT_EQ(process.exitStatus(), 0) << closed;

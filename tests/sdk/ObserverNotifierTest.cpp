@@ -15,7 +15,7 @@ using Calls = std::vector<std::string>;
 class ObserverNotifierTest : public testing::Test
 {
 protected:
-    /// Lets a network with this camera replace the one before, and notifies the observers.
+    /// Replaces the previous interface by one that contains only this camera, and notifies the observers.
     void replaceCamera(const std::string &id)
     {
         {
@@ -44,7 +44,7 @@ protected:
     }};
 };
 
-TEST_F(ObserverNotifierTest, callsEveryObserverEvenIfOneThrows)
+TEST_F(ObserverNotifierTest, everyObserverIsCalledEvenIfOneThrows)
 {
     const auto other = std::make_shared<CameraRecorder>();
     notifier.addObserver(std::shared_ptr<CvxCPP::ICameraListObserver>(other));
@@ -58,13 +58,13 @@ TEST_F(ObserverNotifierTest, callsEveryObserverEvenIfOneThrows)
     EXPECT_EQ(interfaces->calls(), "+-+");
 }
 
-TEST_F(ObserverNotifierTest, stopWaitsForARunningCallAndDropsTheObservers)
+TEST_F(ObserverNotifierTest, stopWaitsForARunningCall)
 {
     std::atomic<bool> isCalled{false}, isStopped{false}, wasCallAfterStop{false};
     cameras->onCall = [&] {
         EXPECT_TRUE(ObserverNotifier::isCallingObservers());
         isCalled = true;
-        for (int i = 0; i < 20; ++i) // Time for a stop that does not wait.
+        for (int i = 0; i < 20; ++i) // Allows time for a stop() that does not wait.
             std::this_thread::sleep_for(5ms);
         wasCallAfterStop = isStopped.load();
     };
@@ -76,7 +76,7 @@ TEST_F(ObserverNotifierTest, stopWaitsForARunningCallAndDropsTheObservers)
     notifier.stop();
     isStopped = true;
     EXPECT_FALSE(wasCallAfterStop);
-    EXPECT_EQ(second->calls(), Calls{}) << "nobody is called once stop() was called";
+    EXPECT_EQ(second->calls(), Calls{}) << "no observer is called after stop() was called";
     EXPECT_FALSE(ObserverNotifier::isCallingObservers());
     notifier.addObserver(std::shared_ptr<CvxCPP::ICameraListObserver>(cameras));
     notifier.addObserver(std::shared_ptr<CvxCPP::IInterfaceListObserver>(interfaces));

@@ -10,11 +10,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr TimePoint begin{100s};
-constexpr std::size_t maxLength = 500; // Bytes of a line.
+constexpr std::size_t maxLength = 500; // Limit of a line, in bytes.
 
 } // namespace
 
-/// The client with the test as the host at the other end of its socket.
+/// Connects a client to a socket. The test acts as the host at the other end.
 class ProducerClientTest : public testing::Test
 {
 protected:
@@ -29,7 +29,8 @@ protected:
         host = LineChannel(ends[1]);
     }
 
-    /// Returns the reason of a protocol error or of a producer's failure; otherwise what was received.
+    /// Returns the reason of a protocol error, or the call that failed in the producer, or the kind of what
+    /// was received.
     std::string received()
     {
         const auto result = client.receive();
@@ -66,7 +67,7 @@ TEST_F(ProducerClientTest, acceptsTheReplyToItsRequest)
     EXPECT_FALSE(client.isWaiting());
 }
 
-TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
+TEST_F(ProducerClientTest, refusesUnreadableAndUnrequestedReplies)
 {
     const std::string failure = Message(Message::noRequest, ProducerFailedReply{{"TLOpen", -1, ""}}).toLine();
     const struct
@@ -93,7 +94,7 @@ TEST_F(ProducerClientTest, refusesWhatItDidNotAskFor)
     EXPECT_EQ(received(), "sent a reply that was not requested");
 }
 
-TEST_F(ProducerClientTest, returnsTheReplyBeforeTheEndOfTheConnection)
+TEST_F(ProducerClientTest, replyIsReturnedBeforeTheDisconnection)
 {
     client.send(ListCamerasRequest(), begin);
     host.send(replyTo(1));
@@ -105,7 +106,7 @@ TEST_F(ProducerClientTest, returnsTheReplyBeforeTheEndOfTheConnection)
     EXPECT_EQ(received(), "disconnected");
 }
 
-TEST_F(ProducerClientTest, watchesTheDeadlinesOfARequest)
+TEST_F(ProducerClientTest, unansweredRequestBecomesLateBeforeItExpires)
 {
     EXPECT_EQ(client.nextDeadline(begin), TimePoint::max());
     EXPECT_FALSE(client.isLate(begin));
@@ -130,7 +131,7 @@ TEST_F(ProducerClientTest, watchesTheDeadlinesOfARequest)
     EXPECT_EQ(client.waitingTime(begin + 10s), 10s);
 }
 
-TEST_F(ProducerClientTest, collectsTheProblemsOfTheLastMessages)
+TEST_F(ProducerClientTest, receiveLastCollectsTheProblemsOfAllMessages)
 {
     client.send(ListCamerasRequest(), begin);
     client.sendLast(CloseProducerRequest());

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 class ProducerProcessTest : public testing::Test
 {
 protected:
-    /// Starts a shell script in the place of the host.
+    /// Starts a shell script as the host program. Returns why that failed, or an empty string.
     std::string startScript(const std::string &script, ProducerProcess &process)
     {
         const fs::path program = directory.path() / "host";
@@ -45,7 +45,7 @@ protected:
     LineChannel channel;
 };
 
-TEST_F(ProducerProcessTest, connectsTheHostAndPassesTheProducer)
+TEST_F(ProducerProcessTest, hostReceivesItsSocketAndTheProducerPath)
 {
     ProducerProcess process;
     ASSERT_EQ(startScript("read line <&3; echo \"$line $1\" >&3; exit 7", process), "");
@@ -58,26 +58,27 @@ TEST_F(ProducerProcessTest, connectsTheHostAndPassesTheProducer)
     EXPECT_EQ(WEXITSTATUS(status), 7);
     EXPECT_FALSE(process.isStarted());
 
-    const auto before = std::signal(SIGCHLD, SIG_IGN); // Then nobody can wait for a child.
+    const auto before = std::signal(SIGCHLD, SIG_IGN); // The kernel discards the exit status of children.
     ASSERT_EQ(startScript("exit 0", process), "");
     EXPECT_EQ(statusOf(process), ProducerProcess::unknownStatus);
     std::signal(SIGCHLD, before);
 }
 
-TEST_F(ProducerProcessTest, hostHasOnlyItsOwnDescriptorsAndDefaultSignalHandling)
+TEST_F(ProducerProcessTest, hostInheritsNoDescriptorsAndNoSignalHandling)
 {
-    const int ours = open("/dev/null", O_RDONLY); // Without close-on-exec.
+    const int ours = open("/dev/null", O_RDONLY); // Opened without close-on-exec.
     const auto before = std::signal(SIGUSR1, SIG_IGN);
     ProducerProcess process;
     ASSERT_EQ(startScript("ls -m /proc/self/fd >&3; kill -USR1 $$; exit 0", process), "");
     std::signal(SIGUSR1, before);
     close(ours);
-    EXPECT_EQ(nextLine(), "0, 1, 2, 3, 4") << "the last one is the directory that is listed";
+    EXPECT_EQ(nextLine(), "0, 1, 2, 3, 4") << "descriptor 4 is the directory that ls reads";
     EXPECT_EQ(statusOf(process), SIGUSR1);
-    EXPECT_NE(fcntl(channel.descriptor(), F_GETFD) & FD_CLOEXEC, 0) << "programs that we start get nothing";
+    EXPECT_NE(fcntl(channel.descriptor(), F_GETFD) & FD_CLOEXEC, 0)
+        << "other programs do not inherit the socket";
 }
 
-TEST_F(ProducerProcessTest, killsTheHostAndItsChildren)
+TEST_F(ProducerProcessTest, killEndsTheHostAndItsChildren)
 {
     {
         ProducerProcess process;
@@ -89,14 +90,15 @@ TEST_F(ProducerProcessTest, killsTheHostAndItsChildren)
         nextLine();
         EXPECT_EQ(statusOf(process), 0);
         ASSERT_EQ(startScript("sleep 1000 & echo >&3; sleep 1000", process), "");
-        nextLine(); // The destructor ends these two.
+        nextLine(); // The destructor ends the shell and its child.
     }
     std::string line;
-    EXPECT_EQ(channel.waitForLine(line), LineChannel::Status::Closed) << "all ends of its socket are closed";
+    EXPECT_EQ(channel.waitForLine(line), LineChannel::Status::Closed)
+        << "no process keeps the host's end of the socket open";
     EXPECT_TRUE(waitUntil([] { return waitpid(-1, nullptr, WNOHANG) < 0; })) << "nothing is left to reap";
 }
 
-TEST_F(ProducerProcessTest, reportsWhyItCannotStart)
+TEST_F(ProducerProcessTest, startReportsTheReasonOfAFailure)
 {
     ProducerProcess process;
     EXPECT_EQ(process.start("/nowhere/host", "a.cti").failure,

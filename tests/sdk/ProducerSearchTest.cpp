@@ -21,7 +21,7 @@ protected:
         writeFile(path(name), "x");
         return path(name);
     }
-    /// Returns the paths that are found, and stores the problems that are reported.
+    /// Returns the paths of the producers in these directories, and stores the reported problems.
     Texts find(const Texts &directories)
     {
         Texts paths;
@@ -46,7 +46,7 @@ TEST_F(ProducerSearchTest, sortsFilesByDirectoryThenByName)
     EXPECT_EQ(problems, Texts{});
 }
 
-TEST_F(ProducerSearchTest, returnsAFileOnceWithItsFirstDirectory)
+TEST_F(ProducerSearchTest, fileWithSeveralPathsIsReturnedOnce)
 {
     const auto real = addFile("real/producer.cti"), other = addFile("real/zother.cti");
     fs::create_directory(path("cti"));
@@ -62,7 +62,7 @@ TEST_F(ProducerSearchTest, returnsAFileOnceWithItsFirstDirectory)
     EXPECT_EQ(found[1].directory, 2U);
 }
 
-TEST_F(ProducerSearchTest, reportsEveryOtherFileOnce)
+TEST_F(ProducerSearchTest, unusableFileIsReportedOnce)
 {
     fs::create_directories(path("real/a.cti"));
     fs::create_symlink("/nowhere/producer.cti", path("real/b.cti"));

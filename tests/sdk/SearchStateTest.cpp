@@ -16,7 +16,7 @@ protected:
     SearchState search{1s};
 };
 
-TEST_F(SearchStateTest, startsResponsiveAndWithoutResults)
+TEST_F(SearchStateTest, newProducerIsResponsiveButHasNoResults)
 {
     EXPECT_TRUE(search.isResponsive());
     EXPECT_FALSE(search.takeListRequest());
@@ -33,13 +33,14 @@ TEST_F(SearchStateTest, listIsFreshForTheReuseTimeAfterItsSearch)
     EXPECT_TRUE(search.isInterfaceFresh("net", searchTime + 999ms));
     EXPECT_FALSE(search.isFresh(searchTime + 1s));
     search.searchEnded(searchTime + 1s);
-    EXPECT_TRUE(search.isFresh(searchTime + 1999ms)) << "a slow neighbour does not make the list old";
+    EXPECT_TRUE(search.isFresh(searchTime + 1999ms))
+        << "a slow producer does not reduce the reuse time of other lists";
     search.deadlineMissed();
     search.searchEnded(searchTime + 1900ms);
     EXPECT_FALSE(search.isFresh(searchTime + 2s)) << "this producer had no part in the second search";
 }
 
-TEST_F(SearchStateTest, interfaceIsFreshByItself)
+TEST_F(SearchStateTest, interfaceUpdateRefreshesOnlyThatInterface)
 {
     search.listReceived(searchTime, true);
     search.interfaceReceived("net", searchTime + 1s, true);
@@ -80,7 +81,7 @@ TEST_F(SearchStateTest, producerIsUnresponsiveUntilItsNextReplyInTime)
     }
 }
 
-TEST_F(SearchStateTest, lostProducerHasNothingFreshAndNothingPendingButItsList)
+TEST_F(SearchStateTest, lostProducerKeepsOnlyItsListRequest)
 {
     search.listReceived(searchTime, true);
     search.interfaceReceived("net", searchTime, true);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr TimePoint start{100s};
 
-/// Returns the delays after failures that follow each start at once.
+/// Returns the restart delays of a host that fails immediately after each start.
 std::vector<Milliseconds> delaysOf(RestartPolicy &policy, int failures)
 {
     std::vector<Milliseconds> delays;
@@ -35,7 +35,7 @@ TEST(RestartPolicy, delayDoublesUpToTheLimit)
     EXPECT_EQ(delaysOf(limited, 2), (std::vector<Milliseconds>{10s, 10s}));
 }
 
-TEST(RestartPolicy, delayIsTheFirstAgainAfterALongRun)
+TEST(RestartPolicy, delayIsResetAfterALongRun)
 {
     const struct
     {
@@ -50,13 +50,13 @@ TEST(RestartPolicy, delayIsTheFirstAgainAfterALongRun)
     }
 }
 
-TEST(PollSchedule, pollsOnceInEveryIntervalAndOnceAfterAStandstill)
+TEST(PollSchedule, latePollDoesNotDelayTheNextPoll)
 {
     PollSchedule schedule(2s, start);
     EXPECT_EQ(schedule.nextPoll(), start + 2s);
     EXPECT_FALSE(schedule.takeDuePoll(start + 1999ms));
     EXPECT_TRUE(schedule.takeDuePoll(start + 2100ms));
-    EXPECT_EQ(schedule.nextPoll(), start + 4s) << "a late poll does not delay the next one";
+    EXPECT_EQ(schedule.nextPoll(), start + 4s) << "the next poll is at its regular time";
     EXPECT_FALSE(schedule.takeDuePoll(start + 3999ms));
     EXPECT_TRUE(schedule.takeDuePoll(start + 100s));
     EXPECT_EQ(schedule.nextPoll(), start + 100s);
@@ -64,18 +64,18 @@ TEST(PollSchedule, pollsOnceInEveryIntervalAndOnceAfterAStandstill)
     EXPECT_EQ(schedule.nextPoll(), start + 102s);
 }
 
-TEST(InterfaceUpdateSchedule, updatesWithTheFirstListOfAHostAndThenNowAndThen)
+TEST(InterfaceUpdateSchedule, firstListOfAHostUpdatesTheInterfaces)
 {
     InterfaceUpdateSchedule schedule(10s, 2s);
     EXPECT_TRUE(schedule.takeDueUpdate(start));
     EXPECT_FALSE(schedule.takeDueUpdate(start + 8999ms));
-    EXPECT_TRUE(schedule.takeDueUpdate(start + 9s)) << "a poll that is a little early updates all the same";
+    EXPECT_TRUE(schedule.takeDueUpdate(start + 9s)) << "a poll that is slightly early still updates";
     EXPECT_FALSE(schedule.takeDueUpdate(start + 11s));
     schedule.hostStarted();
     EXPECT_TRUE(schedule.takeDueUpdate(start + 11s));
 }
 
-TEST(StartOrder, prefersThoseThatWaitLongest)
+TEST(StartOrder, longestWaitingHostsStartFirst)
 {
     const TimePoint first{}, running = TimePoint::max();
     const std::vector<TimePoint> times{
@@ -84,7 +84,7 @@ TEST(StartOrder, prefersThoseThatWaitLongest)
     EXPECT_EQ(chooseStarts({start + 1ms, running}, start), std::vector<std::size_t>{});
 }
 
-TEST(NotificationHold, holdsAChangeBackButNotForEver)
+TEST(NotificationHold, changeIsHeldBackForALimitedTime)
 {
     NotificationHold hold;
     EXPECT_FALSE(hold.dueTime());

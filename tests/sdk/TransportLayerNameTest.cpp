@@ -6,7 +6,7 @@
 
 using namespace CvxCPP;
 
-TEST(TransportLayerNameTest, returnsTheTechnology)
+TEST(TransportLayerNameTest, everySpellingMapsToItsTransportLayer)
 {
     const std::pair<CvxTransportLayerType, std::vector<const char *>> names[] = {
         {CvxTransportLayerGigE, {"GEV", "gev", "GIGE", "GigEVision", "GigE Vision", "GigE-Vision"}},

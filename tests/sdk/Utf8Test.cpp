@@ -6,7 +6,7 @@
 
 TEST(Utf8Test, keepsValidText)
 {
-    // The first and the last character of every length, and those next to the surrogates.
+    // Contains the first and the last character of every length, and the characters next to the surrogates.
     const std::string text
         = "A\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
     EXPECT_EQ(toValidUtf8(text), text);
@@ -14,7 +14,7 @@ TEST(Utf8Test, keepsValidText)
 
 TEST(Utf8Test, replacesMalformedSequences)
 {
-    // In the expected texts, "?" stands for the replacement character U+FFFD.
+    // In the expected strings, "?" stands for the replacement character U+FFFD.
     const std::pair<const char *, const char *> cases[] = {{"a\xFF z", "a? z"}, {"\x80", "?"}, {"\xC3", "?"},
         {"\xC0\x80", "??"}, {"\xE0\x80\x80", "???"}, {"\xED\xA0\x80", "???"}, {"\xF4\x90\x80\x80", "????"},
         {"\xE2\x82", "??"}, {"\xE2\x82x", "??x"}, {"\xC3(", "?("}};

@@ -1,7 +1,7 @@
-// Uses the library as its arguments say, each of which is one step:
-//   start, stop, list
-//   fork                  lets a forked child exit
-//   wait                  waits for the end of standard input
+// This program uses the library. Each argument is one step:
+//   start, stop, list     calls Startup(), Shutdown() or GetCameras()
+//   fork                  forks a child that exits at once, and waits for it
+//   wait                  waits until standard input is closed
 //   closedStandardError   makes standard error a pipe whose other end is closed
 //   fullStandardError     makes standard error a pipe that is full
 
@@ -45,7 +45,7 @@ void replaceStandardError(bool isFull)
     if (!isFull)
         close(ends[0]);
     while (isFull && write(STDERR_FILENO, "x", 1) == 1) { }
-    fcntl(STDERR_FILENO, F_SETFL, 0); // Writing blocks again.
+    fcntl(STDERR_FILENO, F_SETFL, 0); // Makes writing block again.
 }
 
 void forkAndExit()
@@ -62,7 +62,8 @@ void forkAndExit()
 
 } // namespace
 
-// LeakSanitizer calls this. In a forked child it would report memory that only the parent's threads refer to.
+// LeakSanitizer calls this function. In a forked child, LeakSanitizer would report memory that only the
+// threads of the parent reference.
 extern "C" __attribute__((visibility("default"))) int
 __lsan_is_turned_off() // NOLINT(bugprone-reserved-identifier)
 {

@@ -26,7 +26,7 @@ namespace {
         pause();
 }
 
-/// Starts a child that keeps every descriptor.
+/// Starts a child that keeps all descriptors open.
 void forkChild()
 {
     if (fork() == 0)
@@ -43,7 +43,8 @@ void forkDaemon()
     }
 }
 
-/// Reserves memory without touching it, so that a limit ends it and not the memory of the machine.
+/// Allocates memory without writing to it, until a limit makes the allocation fail. Throws another exception
+/// if there is no limit.
 void allocateWithoutEnd()
 {
     constexpr std::size_t blockSize = 64U << 20;
@@ -55,7 +56,7 @@ void allocateWithoutEnd()
     throw std::runtime_error("there is no limit of memory");
 }
 
-/// Starts threads that still run in the code of the producer when it is closed.
+/// Starts threads that are still running when the producer is closed.
 void startThreads()
 {
     for (int i = 0; i < 4; ++i)
@@ -67,7 +68,7 @@ void throwInThread()
     std::thread([] { throw std::runtime_error("thrown in a thread of the producer"); }).join();
 }
 
-/// Changes the handling of every signal, in a way that harms a host.
+/// Ignores every signal except SIGPIPE, which gets its default action. Both can harm a host.
 void changeSignalHandlers()
 {
     for (int number = 1; number < NSIG; ++number)
@@ -80,7 +81,7 @@ void closeDescriptors()
         close(descriptor);
 }
 
-/// Asks the user on the terminal, as some producers do.
+/// Reads from the terminal, as some producers do to question the user.
 void readTerminal()
 {
     const int terminal = open("/dev/tty", O_RDONLY | O_CLOEXEC);
@@ -90,7 +91,7 @@ void readTerminal()
     close(terminal);
 }
 
-/// Waits until so many calls are here at the same time. Returns an error if they do not come.
+/// Waits until `count` calls have arrived. Returns an error if they do not arrive in time.
 int meet(int count)
 {
     static std::mutex mutex;

@@ -1,23 +1,24 @@
-// A GenTL producer for tests, which follows the script "name.script" beside "name.cti". Every update call and
-// every call that opens or closes something reads the script again. The lines of a script:
+// This GenTL producer for tests follows the script "name.script" in the directory of "name.cti". Every
+// function that updates or closes something reads the script again. A script may contain these lines:
 //
 // interface ID|NAME|TYPE
-// device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE (missing fields at the end fail with -1003)
-// interfaces NUMBER, or devices INTERFACE|NUMBER: that many, with IDs such as "net1" or "D1"
-// quiet: there is no log, and the script is not read again, which is faster
+// device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE (reading a field that is missing fails with -1003)
+// interfaces NUMBER, devices INTERFACE|NUMBER: adds this number of them, with IDs such as "net1" or "D1"
+// quiet: disables the log, and the script is not read again; both make the producer faster
 // fault FUNCTION ACTION [ARGUMENT]; the function "load" is the constructor of the library
 //
-// Actions of every function: error CODE, crash, abort, throw, throw-number, throw-in-thread, terminate, exit
-// CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate, threads,
-// signals, print, ask (on the terminal), close.
-// Faults of functions that return a string: no-nul, long BYTES, grow (between the two calls), grow-1.3 (with
-// the error code of GenTL 1.3), late-error CODE (of the second call), number (instead of a string),
-// size BYTES ("size -1" reports one byte less than the string has, and ignores the capacity).
-// Faults of the update functions: search MILLISECONDS, which times out if it gets less time.
-// TLOpenInterface: in-use, which opens the interface all the same. Functions that count: more.
-// IFUpdateDeviceList:ID is the update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
+// Every function accepts these actions: error CODE, crash, abort, throw, throw-number, throw-in-thread,
+// terminate, exit CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate,
+// threads, signals, print, ask (on the terminal), close.
+// Functions that return a string also accept: no-nul, long BYTES, grow TIMES (the string is longer in this
+// number of second calls), grow-1.3 TIMES (the same with the error code of GenTL 1.3), late-error CODE (of
+// the second call), number (instead of a string), size BYTES ("size -1" reports one byte less than the string
+// has, and ignores the capacity). The update functions also accept "search MILLISECONDS", which times out if
+// the timeout is shorter. TLOpenInterface also accepts "in-use", which opens the interface but returns an
+// error. The functions that return a number of objects also accept "more". IFUpdateDeviceList:ID is the
+// update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
 //
-// In strings, \xHH is a byte. "name.log" receives every call with its process.
+// In strings, \xHH is a byte. The producer writes every call, after the process ID, to "name.log".
 
 #include "sdk/gentl/GenTL.h"
 #include "tests/sdk/producer/Misbehaviour.h"
@@ -49,8 +50,8 @@ using Fields = std::vector<std::string>; // The first one is the ID.
 struct Interface
 {
     std::string id;
-    std::vector<Fields> devices; // Since the last update.
-    std::map<std::string, std::size_t> places; // Index of each device, by ID.
+    std::vector<Fields> devices; // Devices that the last update found.
+    std::map<std::string, std::size_t> places; // Key: device ID; value: index in `devices`.
     bool isUpdated = false;
     std::mutex updating;
 };
@@ -58,12 +59,12 @@ struct Interface
 struct Script
 {
     std::vector<Fields> interfaces;
-    std::multimap<std::string, Fields> devices; // By interface.
-    std::map<std::string, std::string> faults; // Actions by function.
+    std::multimap<std::string, Fields> devices; // Key: interface ID.
+    std::map<std::string, std::string> faults; // Key: function; value: action.
     bool isQuiet = false;
 };
 
-struct Fault // An action with its argument.
+struct Fault
 {
     std::string verb;
     long long argument = 0;
@@ -71,8 +72,8 @@ struct Fault // An action with its argument.
 
 std::mutex mutex; // Guards the variables below.
 Script script;
-std::vector<Fields> interfaces; // Since the last update.
-std::map<std::string, Interface *> opened; // Never deleted, to detect uses after the close.
+std::vector<Fields> interfaces; // Interfaces that the last update found.
+std::map<std::string, Interface *> opened; // By ID. Interfaces are never deleted, so late uses are safe.
 bool isInitialised = false;
 bool isOpen = false;
 thread_local int lastCode = 0;
@@ -182,7 +183,7 @@ int enter(const std::string &function, const std::string &detail = {})
     return code;
 }
 
-/// Performs a call: logs it, and runs the body with the mutex held unless a fault ends the call.
+/// Logs a call and performs its fault. Unless the fault ends the call, runs the body with the mutex held.
 template <typename Body>
 int call(const std::string &function, const std::string &detail, const Body &body)
 {
@@ -198,13 +199,15 @@ int returnString(const std::string &original, void *buffer, std::size_t *size)
     std::string value = original;
     if (fault.verb == "long")
         value = std::string(static_cast<std::size_t>(fault.argument), 'x');
-    if (fault.verb == "grow" && buffer)
+    static int growths = 0;
+    const bool isOldError = fault.verb == "grow-1.3";
+    if ((fault.verb == "grow" || isOldError) && buffer && growths++ < fault.argument)
         value += std::string(1000, 'x');
     const std::size_t needed = value.size() + (fault.verb == "no-nul" ? 0 : 1);
     if (buffer && fault.verb == "late-error")
         return static_cast<int>(fault.argument);
     if (buffer && *size < needed && fault.verb != "size")
-        return GC_ERR_BUFFER_TOO_SMALL;
+        return isOldError ? GC_ERR_INVALID_PARAMETER : GC_ERR_BUFFER_TOO_SMALL;
     if (buffer)
         std::memcpy(buffer, value.c_str(), needed);
     *size = needed;
@@ -213,7 +216,7 @@ int returnString(const std::string &original, void *buffer, std::size_t *size)
     return GC_ERR_SUCCESS;
 }
 
-/// Returns a field of a record; GC_ERR_NOT_IMPLEMENTED if the script does not have it.
+/// Returns a field of a record, or GC_ERR_NOT_IMPLEMENTED if the script does not contain the field.
 int returnInfo(const Fields &fields, std::size_t place, INFO_DATATYPE *type, void *buffer, std::size_t *size)
 {
     if (place >= fields.size())
@@ -227,7 +230,8 @@ std::uint32_t counted(std::size_t number)
     return static_cast<std::uint32_t>(number + (currentFault == "more" ? 3 : 0));
 }
 
-/// Crashes, as a known producer does: a consumer must never probe for the end of a list.
+/// Crashes, as a known producer does if an index is too large. The fault "more" turns the crash into an
+/// error.
 GC_ERROR refuseIndex()
 {
     for (const char *function : {"IFGetNumDevices", "TLGetNumInterfaces"}) {
@@ -249,7 +253,7 @@ int returnId(
     return code != continueCall ? code : returnString(list[index][0], id, size);
 }
 
-/// Searches for as long as the script says. Returns GC_ERR_TIMEOUT if that takes too long.
+/// Waits for the time of a "search" fault. Returns GC_ERR_TIMEOUT if the timeout is shorter.
 int search(const std::string &action, std::uint64_t timeout)
 {
     const Fault fault = parsed(action);
@@ -265,7 +269,7 @@ struct AtLoad
     AtLoad()
     {
         readScript();
-        std::string visible; // Variables that a host must hide.
+        std::string visible; // Environment variables that a host must hide.
         for (const char *variable : {"GENICAM_GENTL64_PATH", "G_DEBUG"})
             visible += std::getenv(variable) ? variable : "";
         enter("load", visible);
@@ -356,7 +360,7 @@ GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE, const char *sIfaceID, INTERFACE_INF
     return call("TLGetInterfaceInfo", sIfaceID, [&]() -> int {
         const auto found = opened.find(sIfaceID);
         if (found == opened.end() || !found->second->isUpdated || found->second->devices.empty())
-            raise(SIGSEGV); // As a known producer does.
+            raise(SIGSEGV); // A producer that we know crashes here.
         for (const Fields &interface : interfaces) {
             if (interface[0] == sIfaceID)
                 return returnInfo(interface, static_cast<std::size_t>(iInfoCmd), piType, pBuffer, piSize);
@@ -392,7 +396,7 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
     auto *interface = static_cast<Interface *>(hIface);
     const std::unique_lock updating(interface->updating, std::try_to_lock);
     if (!updating)
-        std::abort(); // Two updates of one interface must not run at once.
+        std::abort(); // Updates of one interface must not run at the same time.
     readScript();
     const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
     int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
@@ -436,7 +440,7 @@ GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_I
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
     return call("IFGetDeviceInfo", "", [&]() -> int {
-        // The place of a field in the script, by command: ID, vendor, model, type, name; serial number.
+        // The index of a command's field in the script. No record has a field 99.
         static constexpr std::array<std::size_t, 8> places{0, 1, 2, 5, 4, 99, 99, 3};
         const auto *interface = static_cast<Interface *>(hIface);
         const auto found = interface->places.find(sDeviceID);

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Reads a string by the two-call protocol. Returns "<error N>" if that fails.
+/// Reads a string with one call for its size and one for its content. Returns "<error N>" if a call fails.
 template <typename Read>
 std::string textOf(const Read &read)
 {

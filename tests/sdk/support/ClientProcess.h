@@ -5,8 +5,8 @@
 #include <sys/types.h>
 #include <vector>
 
-/// A program that the test runs. Its output and errors go into one file; its input stays open until the test
-/// closes it. The destructor kills the program.
+/// Runs a program. One file receives its standard output and standard error. Its standard input stays open
+/// until the test closes it. The destructor kills the program.
 class ClientProcess
 {
 public:
@@ -18,7 +18,8 @@ public:
     void closeInput();
     void kill(int signal);
 
-    /// Waits for the end. Returns -1 if it does not come, and 1000 plus the signal that ended the program.
+    /// Waits until the program ends and returns its exit status. Returns 1000 plus the signal number if a
+    /// signal ended the program, and -1 if the program does not end.
     int exitStatus();
 
     std::string output() const;

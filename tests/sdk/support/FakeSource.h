@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-/// A session for API objects under test. Searches as the test says.
+/// Replaces the discovery session in tests of API objects. The test sets the function that searches.
 class FakeSource final : public InterfaceSource
 {
 public:

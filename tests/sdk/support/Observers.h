@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// Records every call, as "+ID" or "-ID" with the camera's extended ID.
+/// Records every call as "+ID" or "-ID", with the camera's extended ID.
 class CameraRecorder : public CvxCPP::ICameraListObserver
 {
 public:
@@ -29,14 +29,14 @@ public:
         return m_calls;
     }
 
-    std::function<void()> onCall; ///< Set it before the observer is registered.
+    std::function<void()> onCall; ///< Must be set before the observer is registered.
 
 private:
     mutable std::mutex m_mutex;
     std::vector<std::string> m_calls;
 };
 
-/// Records every call, as "+" or "-".
+/// Records every call as "+" or "-".
 class InterfaceRecorder : public CvxCPP::IInterfaceListObserver
 {
 public:

@@ -54,7 +54,7 @@ void killAll(const std::vector<pid_t> &processes)
 
 std::size_t openDescriptors()
 {
-    return entries("/proc/self/fd") - 1; // Without the one that reads the directory.
+    return entries("/proc/self/fd") - 1; // Excludes the descriptor that reads the directory.
 }
 
 std::size_t threadCount()

@@ -5,13 +5,13 @@
 #include <sys/types.h>
 #include <vector>
 
-/// Returns the processes that have this parent, zombies included.
+/// Returns the children of this process, including zombies.
 std::vector<pid_t> childrenOf(pid_t parent);
 
 /// Returns all processes with this text in their command line.
 std::vector<pid_t> processesWith(const std::string &argument);
 
-/// Kills what a failed test has left behind.
+/// Kills processes that a failed test did not end.
 void killAll(const std::vector<pid_t> &processes);
 
 /// Returns the number of open descriptors of this process.

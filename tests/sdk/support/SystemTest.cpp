@@ -32,7 +32,7 @@ SystemTest::~SystemTest()
 {
     system.reset();
     std::vector<pid_t> left;
-    // Children of a producer are killed with its host, but end a moment later.
+    // The children of a producer are killed with their host, but may end a little later.
     EXPECT_TRUE(waitUntil([&] { return (left = processesWith(directory.path().string())).empty(); }));
     killAll(left);
     EXPECT_TRUE(childrenOf(getpid()).empty()) << "a zombie has no command line";

@@ -13,13 +13,13 @@
 #include <string>
 #include <vector>
 
-/// A camera system over scripted producers, in a directory of the test. Its times are short, but long enough
-/// that no healthy producer misses a deadline on a loaded machine.
+/// Runs a camera system with scripted producers in a temporary directory. The intervals and timeouts are
+/// short, but long enough that no healthy producer misses a deadline on a loaded machine.
 class SystemTest : public testing::Test
 {
 protected:
     SystemTest();
-    ~SystemTest() override; ///< Ends the system, and fails the test if anything is left of it.
+    ~SystemTest() override; ///< Shuts down; fails the test if a process or a descriptor is left.
 
     using Cameras = std::vector<std::shared_ptr<CvxCPP::Camera>>;
 
@@ -31,7 +31,7 @@ protected:
     std::vector<std::string> callsOf(const std::string &name) const;
     std::size_t countCalls(const std::string &name, const std::string &call) const;
 
-    void start(); ///< With the options as they are now.
+    void start(); ///< Starts the system with the current options.
     void stop();
 
     Cameras list();
@@ -40,7 +40,7 @@ protected:
     std::shared_ptr<CvxCPP::Feature> feature(CvxCPP::FeatureContainer &interface, const char *name);
     std::shared_ptr<CameraRecorder> recordCameras();
 
-    std::vector<std::string> reports() const; ///< Returns the lines about failing producers.
+    std::vector<std::string> reports() const; ///< Returns the lines that were reported so far.
     std::size_t countReports(const std::string &text) const;
 
     TemporaryDirectory directory;

@@ -33,5 +33,5 @@ try {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), {});
 } catch (const std::ios_base::failure &) {
-    return {}; // A process that ends while its file in /proc is read.
+    return {}; // A process may end while its file in /proc is being read.
 }

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-/// A directory of the test, which is removed with everything in it.
+/// A temporary directory for one test. The destructor removes it with its contents.
 class TemporaryDirectory
 {
 public:
@@ -18,8 +18,8 @@ private:
     std::filesystem::path m_path;
 };
 
-/// Writes a file in one step: readers see the old content or the new one.
+/// Replaces a file atomically: a reader gets either the old or the new content.
 void writeFile(const std::filesystem::path &path, const std::string &content);
 
-/// Returns the content of a file; empty if it cannot be read.
+/// Returns the content of a file, or an empty string if the file cannot be read.
 std::string readFile(const std::filesystem::path &path);

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <thread>
 
-/// Waits until the condition holds. The bound only catches a hang, on a loaded machine and under a sanitizer
-/// too.
+/// Waits until the condition holds. Returns false if it does not hold within the bound, which is long enough
+/// for a loaded machine and for a sanitizer.
 template <typename Condition>
 bool waitUntil(const Condition &condition, std::chrono::milliseconds bound = std::chrono::seconds(20))
 {
