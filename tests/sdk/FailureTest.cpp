@@ -47,6 +47,7 @@ TEST_F(FailureTest, crashedHostIsRestarted)
 TEST_F(FailureTest, nextProducerTakesOverTheCamerasOfACrashedOne)
 {
     options.searchTimeout = 1h; // The test would hang if a call waited for the crashed producer.
+    options.pollInterval = 1h; // The first poll would notify the observers of the first list.
     options.firstRestartDelay = 1h;
     options.maxRestartDelay = 1h;
     addProducer("a", cameras(1));

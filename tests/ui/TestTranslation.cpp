@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTranslator>
 #include <QtTest>
 
 using namespace ConfigDocuments;
@@ -15,6 +16,7 @@ class TestTranslation : public QObject
 
 private slots:
     void stringsAreTranslatedInTheContextOfTheWindow();
+    void percentSignInATranslatedLabelIsNotAPlaceholder();
 };
 
 void TestTranslation::stringsAreTranslatedInTheContextOfTheWindow()
@@ -45,6 +47,26 @@ void TestTranslation::stringsAreTranslatedInTheContextOfTheWindow()
     QCOMPARE(catcher.boxes().size(), 1);
     QCOMPARE(catcher.boxes().at(0).title, "[MainWindow] Documentation"_s);
     QVERIFY(catcher.boxes().at(0).text.startsWith("[MainWindow] Unable to open documentation at:\n"_s));
+}
+
+void TestTranslation::percentSignInATranslatedLabelIsNotAPlaceholder()
+{
+    class PercentTranslator : public QTranslator
+    {
+    public:
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return qstrcmp(text, "IP") == 0 ? "<%2>"_s : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    PercentTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    ConfiguredWindow configured;
+    CameraInfo info = camera("Orvelle"_s, "Model"_s, {}, "id"_s, "USB"_s);
+    info.ipAddress = "10.0.0.1"_s;
+    configured.open({info});
+    QVERIFY(configured.toolTip(0).contains(">&lt;%2&gt;</td><td style='color:#e8edf2;'>10.0.0.1</td>"_s));
 }
 
 QTEST_MAIN(TestTranslation)
