@@ -175,17 +175,14 @@ void DiscoverySession::discover()
 
 std::vector<std::string> DiscoverySession::findProducerPaths()
 {
-    const auto files = findProducers(m_ctiDirectories, [this](const std::string &fault) {
+    auto paths = findProducers(m_ctiDirectories, [this](const std::string &fault) {
         if (m_options.report)
             m_options.report(toLine(fault));
     });
-    std::vector<std::string> paths;
     {
         const std::lock_guard lock(m_mutex);
-        for (const ProducerFile &file : files) {
-            paths.push_back(file.path);
-            m_catalogue.addProducer(weak_from_this(), file.path);
-        }
+        for (const std::string &path : paths)
+            m_catalogue.addProducer(weak_from_this(), path);
         m_searches.resize(paths.size(), SearchState(m_options.reuseTime));
         m_areProducersKnown = true;
     }

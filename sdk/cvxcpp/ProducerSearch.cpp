@@ -74,12 +74,11 @@ std::string findProblem(const std::string &path, struct stat &file)
 
 } // namespace
 
-std::vector<ProducerFile> findProducers(const std::vector<std::string> &directories, const Report &report)
+std::vector<std::string> findProducers(const std::vector<std::string> &directories, const Report &report)
 {
-    std::vector<ProducerFile> producers;
+    std::vector<std::string> producers;
     FileIds known;
-    for (std::size_t i = 0; i < directories.size(); ++i) {
-        const std::string &directory = directories[i];
+    for (const std::string &directory : directories) {
         for (const std::string &name : ctiNames(directory, known, report)) {
             const std::string path = std::filesystem::path(directory) / name;
             struct stat file
@@ -89,9 +88,9 @@ std::vector<ProducerFile> findProducers(const std::vector<std::string> &director
                 reportProblem(report, path, problem);
                 continue;
             }
-            const std::string realPath = resolved(path);
+            std::string realPath = resolved(path);
             if (!realPath.empty() && known.emplace(file.st_dev, file.st_ino).second)
-                producers.push_back({realPath, i});
+                producers.push_back(std::move(realPath));
         }
     }
     return producers;

@@ -184,7 +184,7 @@ Rows strings()
             info + ": returned a string of 1048577 bytes", 2),
         withFault("IFGetDeviceID", "long 1048576", Due::AtStart,
             "IFGetDeviceID failed: returned a string of 1048577 bytes", 0),
-        withFault("IFGetDeviceInfo", "grow", Due::AtStart, info + " with -1016", 2),
+        withFault("IFGetDeviceInfo", "grow 99", Due::AtStart, info + " with -1016", 2),
         withFault("IFGetDeviceInfo", "late-error -1010", Due::AtStart, info + " with -1010", 2),
         withFault("IFGetDeviceInfo", "number", Due::AtStart, "returned data that is not a string", 2),
         // This code means that the device has disappeared.
