@@ -14,5 +14,5 @@ def vendor(index):
     return 15, FIRST_ROW + ROW_HEIGHT * index - 9, 120, 18
 
 
-# If these rectangles contain text, the table shows the cameras: during a scan, it has only one row.
+# The vendors of all visible rows but the first. Text here means that the table shows cameras: a scan shows only one row.
 LISTED = [vendor(index) for index in range(1, ROWS_IN_VIEW)]

@@ -16,7 +16,7 @@ class Message
 public:
     using Id = std::uint32_t;
 
-    /// ID of a message that is not a reply to a request.
+    /// ID of a message that the host sends without a request. No request has this ID.
     static constexpr Id noRequest = 0;
 
     /// Makes a message with this content. A reply has the ID of its request.

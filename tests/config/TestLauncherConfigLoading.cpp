@@ -126,7 +126,7 @@ void TestLauncherConfigLoading::unusableDocumentIsReplacedByAnEmptyOne_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("loaded");
-    // The reference rows have no effect without groups.
+    // Without groups, no camera gets the picture of a reference row.
     const QMap<QString, QString> loaded{{groupsPath, "compatibility"_s},
         {referencePath, "groups compatibility"_s}, {compatibilityPath, "groups references"_s}};
     const QMap<QByteArray, QByteArray> contents{{"missing", "MISSING"}, {"empty", ""},

@@ -39,7 +39,7 @@ class UnderX(ReadingTest):
         self.launcher.select(4, "Line Scan Cameras")
         self.assertEqual(list(table.get_selected_rows()), [4])
 
-    def test_screen_reader_reads_the_hint_the_tiles_and_message_boxes(self):
+    def test_screen_reader_reads_hint_and_tiles_and_message_boxes(self):
         self.installation.remove("doc/index.html")
         self.launcher.select(4, "Line Scan Cameras")
         self.assertTrue(accessible.named(self.application, self.launcher.hint()))

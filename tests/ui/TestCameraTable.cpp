@@ -22,7 +22,7 @@ private slots:
     void losingTheCurrentCellKeepsTheSelectedCamera();
     void clickOnARemovedRowIsIgnored();
     void rowsOfTheSelectedGroupAreMarked();
-    void emptyGroupMarksNoRow();
+    void cameraWithoutAGroupMarksNoRow();
     void columnWidthsAreSetOnlyOnce();
     void hoveredRowIsTinted();
     void tableReceivesHoverEvents();
@@ -198,7 +198,7 @@ void TestCameraTable::rowsOfTheSelectedGroupAreMarked()
     QCOMPARE(groupMarks(configured), QVector<bool>({false, false}));
 }
 
-void TestCameraTable::emptyGroupMarksNoRow()
+void TestCameraTable::cameraWithoutAGroupMarksNoRow()
 {
     ConfiguredWindow configured(ConfiguredWindow::filesWith({})); // No camera has a group.
     configured.open(fourCameras);

@@ -175,7 +175,8 @@ void TestToolTiles::scrollAreaIsHighEnoughForAllTiles()
     QTRY_COMPARE_WITH_TIMEOUT(scroll->minimumHeight(), 3 * 70 + 2 * 6, hangTimeout);
     scroll->setMinimumHeight(0);
     configured.window.setSelectedCamera(areaCamera);
-    QCOMPARE(scroll->minimumHeight(), 0); // The height is set after the layout has been activated.
+    QCOMPARE(
+        scroll->minimumHeight(), 0); // Not set yet: the window sets the height after the layout is activated.
     QTRY_COMPARE_WITH_TIMEOUT(scroll->minimumHeight(), 222, hangTimeout);
 }
 
