@@ -75,7 +75,8 @@ ApplicationController::~ApplicationController()
     // use an SDK that is shut down.
     watcher.cancel();
     watcher.waitForFinished();
-    // Shutdown() also releases the observers. An error has no consequences.
+    // Shutdown() also releases the observers. Its result is ignored, because nothing can be done about an
+    // error here.
     CvxSystem::GetInstance().Shutdown();
 }
 

@@ -102,7 +102,7 @@ GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t
         const std::string message = lastErrorMessage();
         const GC_ERROR error = writeLastError(code, message, piErrorCode, InfoOutput(sErrText, piSize));
         if (error)
-            fail(code, message); // The consumer may call again with a longer buffer.
+            fail(code, message); // Restores the last error: the consumer may call again with a longer buffer.
         return error;
     });
 }

@@ -72,7 +72,7 @@ void TestShutdown::cameraReportedDuringShutdownStartsNoScan()
         ApplicationController controller;
         QVERIFY(controller.init());
     }
-    QVERIFY(callCount(Function::GetExtendedId) > 0); // The observer was still registered.
+    QVERIFY(callCount(Function::GetExtendedId) > 0); // The observer read the ID of the reported camera.
     processQueuedEvents();
     QCOMPARE(scans(), 0);
 }

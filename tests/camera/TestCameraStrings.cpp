@@ -20,8 +20,8 @@ private slots:
     void stringIsNotReadIfItsLengthCannotBeRead();
     void stringIsDecodedAsUtf8UpToItsFirstNul_data();
     void stringIsDecodedAsUtf8UpToItsFirstNul();
-    void idThatBecomesUnreadableLeavesOnlyTheVendorEmpty_data() { addFailures(); }
-    void idThatBecomesUnreadableLeavesOnlyTheVendorEmpty();
+    void failureOfTheSecondIdReadLeavesOnlyTheVendorEmpty_data() { addFailures(); }
+    void failureOfTheSecondIdReadLeavesOnlyTheVendorEmpty();
 };
 
 void TestCameraStrings::unreadableStringLeavesOnlyItsFieldEmpty_data()
@@ -92,7 +92,7 @@ void TestCameraStrings::stringIsDecodedAsUtf8UpToItsFirstNul()
     QCOMPARE(callCount(Function::GetModel), std::size_t(isLengthZero ? 1 : 2));
 }
 
-void TestCameraStrings::idThatBecomesUnreadableLeavesOnlyTheVendorEmpty()
+void TestCameraStrings::failureOfTheSecondIdReadLeavesOnlyTheVendorEmpty()
 {
     QFETCH(Failure, failure);
     failReads(Function::GetId, "a", failure, 2); // The ID is read first for its field, then for the vendor.

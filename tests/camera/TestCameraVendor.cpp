@@ -15,7 +15,7 @@ std::shared_ptr<InterfaceRecord> twoDevices()
     return makeInterface({{"a", "Avelin"}, {"b", "Brightline"}});
 }
 
-/// Returns the enumerated vendor of a camera with this ID on this interface.
+/// Lists a camera with this ID on this interface, and returns its vendor name.
 QString vendorOf(const std::string &id, const std::shared_ptr<InterfaceRecord> &iface)
 {
     CameraRecord record;

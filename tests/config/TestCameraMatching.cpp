@@ -15,8 +15,8 @@ class TestCameraMatching : public QObject
 private slots:
     void groupAndPictureDependOnTheFieldsOfTheCamera_data();
     void groupAndPictureDependOnTheFieldsOfTheCamera();
-    void groupThatIsNotConfiguredIsEmpty_data();
-    void groupThatIsNotConfiguredIsEmpty();
+    void cameraOfAnUnconfiguredGroupGetsAnEmptyGroup_data();
+    void cameraOfAnUnconfiguredGroupGetsAnEmptyGroup();
     void typesAreCaseSensitive();
     void invalidReferenceRowIsSkippedWithAWarning_data();
     void invalidReferenceRowIsSkippedWithAWarning();
@@ -112,7 +112,7 @@ void TestCameraMatching::groupAndPictureDependOnTheFieldsOfTheCamera()
     QTEST(config.findThumbnailForCamera(info), "picture");
 }
 
-void TestCameraMatching::groupThatIsNotConfiguredIsEmpty_data()
+void TestCameraMatching::cameraOfAnUnconfiguredGroupGetsAnEmptyGroup_data()
 {
     QTest::addColumn<QString>("vendor");
     QTest::addColumn<QString>("model");
@@ -129,7 +129,7 @@ void TestCameraMatching::groupThatIsNotConfiguredIsEmpty_data()
 }
 
 // The first four cameras match a later rule as well, but their group stays empty.
-void TestCameraMatching::groupThatIsNotConfiguredIsEmpty()
+void TestCameraMatching::cameraOfAnUnconfiguredGroupGetsAnEmptyGroup()
 {
     QFETCH(QString, vendor);
     QFETCH(QString, model);
@@ -139,8 +139,9 @@ void TestCameraMatching::groupThatIsNotConfiguredIsEmpty()
     QCOMPARE(config.findThumbnailForCamera(camera(vendor, model)), placeholder);
 }
 
-// Intended: a row's type is looked up without converting it to lower case. Only group types that are written
-// in lower case have a fixed picture.
+// Intended: types are compared case-sensitively. The type of a reference row must be the key of a group,
+// which is lower case. Only the group types "simulator", "other" and "areascan" in lower case have built-in
+// pictures.
 void TestCameraMatching::typesAreCaseSensitive()
 {
     const LauncherConfig lowerCase = configured(allGroups(), references({{"Kx200", "AreaScan"}}));

@@ -15,7 +15,7 @@ private slots:
     void allToolsReturnsTheToolsOfThePlatform();
     void toolFitDependsOnTransportAndPlatform_data();
     void toolFitDependsOnTransportAndPlatform();
-    void toolIdIsRecommendedOnceEvenIfItsToolHasNoTile();
+    void toolIsRecommendedEvenIfItHasNoTile();
     void toolFitDependsOnTheCompatibilityTable_data();
     void toolFitDependsOnTheCompatibilityTable();
     void everyToolFitsWithoutACompatibilityTable();
@@ -119,7 +119,7 @@ void TestToolRecommendation::toolFitDependsOnTransportAndPlatform()
     QTEST(config.recommendedToolsIdsForCamera(group, info, platform).contains("t"_s), "recommended");
 }
 
-void TestToolRecommendation::toolIdIsRecommendedOnceEvenIfItsToolHasNoTile()
+void TestToolRecommendation::toolIsRecommendedEvenIfItHasNoTile()
 {
     LauncherConfig config;
     config.parseConfig(groups({group("areascan", {tool("hiding", "bin/Same")}),

@@ -72,8 +72,8 @@ Rows files()
     };
 }
 
-/// Returns producers with a failure that ends a call or the whole process while loading, searching or
-/// closing.
+/// Returns producers that misbehave while they are loaded, searched or closed. The library tolerates the rows
+/// with Due::Never; the others throw, crash, hang or exit.
 Rows failures()
 {
     Rows rows{

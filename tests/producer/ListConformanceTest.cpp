@@ -147,7 +147,7 @@ TEST_F(ListConformance, interfaceCanBeOpenedOnlyOnceUntilItIsClosed)
     }
 }
 
-TEST_F(ListConformance, updateReportsWhetherItsOwnListHasChanged)
+TEST_F(ListConformance, updateReportsChangesOfTheUpdatedListOnly)
 {
     const bool isChanged = session.updateInterfaces();
     EXPECT_EQ(isChanged, !session.interfaceIds().empty());

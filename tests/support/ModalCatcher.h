@@ -50,7 +50,8 @@ private:
         QWidget *open = popup ? popup : QApplication::activeModalWidget();
         if (open == m_answered)
             return;
-        m_answered = open; // Null if nothing is open, because the same menu may open again.
+        // Null while nothing is open. Otherwise a menu that opens again would seem to be answered already.
+        m_answered = open;
         if (auto *menu = qobject_cast<QMenu *>(open))
             answerMenu(menu);
         else if (auto *box = qobject_cast<QMessageBox *>(open))

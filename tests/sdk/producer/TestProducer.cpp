@@ -10,12 +10,20 @@
 // Every function accepts these actions: error CODE, crash, abort, throw, throw-number, throw-in-thread,
 // terminate, exit CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate,
 // threads, signals, print, ask (on the terminal), close.
-// Functions that return a string also accept: no-nul, long BYTES, grow TIMES (the string is longer in this
-// number of second calls), grow-1.3 TIMES (the same with the error code of GenTL 1.3), late-error CODE (of
-// the second call), number (instead of a string), size BYTES ("size -1" reports one byte less than the string
-// has, and ignores the capacity). The update functions also accept "search MILLISECONDS", which times out if
-// the timeout is shorter. TLOpenInterface also accepts "in-use", which opens the interface but returns an
-// error. The functions that return a number of objects also accept "more". IFUpdateDeviceList:ID is the
+// "untouched" returns success without writing the outputs, "meet" waits for that many calls at the same time,
+// "allocate" allocates memory without end, and "close" closes all descriptors.
+//
+// A string is read with two calls: the first one returns the size, the second one fills the buffer. Functions
+// that return a string also accept:
+// grow TIMES: in this number of second calls, the string is longer than the size that was returned
+// grow-1.3 TIMES: the same with the error code of GenTL 1.3
+// late-error CODE: only the second call fails, with this code
+// size BYTES: reports this size and ignores the capacity of the buffer; "size -1" reports one byte too few
+// long BYTES, no-nul, number (instead of a string)
+//
+// The update functions also accept "search MILLISECONDS", which times out if the timeout is shorter.
+// TLOpenInterface also accepts "in-use", which opens the interface but returns an error. The functions that
+// return a number of objects also accept "more", which makes the number larger. IFUpdateDeviceList:ID is the
 // update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
 //
 // In strings, \xHH is a byte. The producer writes every call, after the process ID, to "name.log".
