@@ -3,6 +3,7 @@
 usage: installed_program.py STAGE PLUGINS ROOT PREFIX   STAGE/bin/CorvixLauncher starts the program in ROOT/PREFIX.
 """
 
+import contextlib
 import os
 import signal
 import sys
@@ -25,4 +26,5 @@ try:
         assert launcher.printed() == "", launcher.printed()
 finally:
     for process in (tool or "").split():
-        os.kill(int(process), signal.SIGTERM)
+        with contextlib.suppress(ProcessLookupError):  # pgrep may also have found a process that was about to end.
+            os.kill(int(process), signal.SIGTERM)
