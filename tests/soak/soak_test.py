@@ -112,7 +112,7 @@ def main():
         session = Session(launcher, simulator, RandomConfigurations(chance, simulator.read()), slow, crashing, chance)
         try:
             lines, problems = run(session, minutes)
-        except Exception as failure:  # The summary must contain the seed after any failure.
+        except Exception as failure:  # Every failure is reported with its seed.
             lines, problems = [], [f"{type(failure).__name__}: {failure}", "last steps: " + "; ".join(session.history[-10:]),
                                    f"standard error: {launcher.printed()[-3000:]}"]
     print("\n".join(lines))
