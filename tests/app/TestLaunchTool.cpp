@@ -61,9 +61,11 @@ void TestLaunchTool::toolStartsDetachedInItsOwnDirectory()
 {
     QFETCH(QString, configured);
     QFETCH(QString, path);
-    // The tool reports its directory, its name, its number of arguments, its parent and its session.
+    // The tool reports its directory, its name, its number of arguments, its parent and its session. In its
+    // line of /proc, the name in parentheses may contain blanks.
     ScriptFile::writeExecutable(path,
-        "printf '%s\\n' \"$(pwd -P)\" \"$0\" $# $(cut -d ' ' -f 4,6 /proc/$$/stat) > report.part\n"
+        "process=$(sed 's/.*) //' /proc/$$/stat | cut -d ' ' -f 2,4)\n"
+        "printf '%s\\n' \"$(pwd -P)\" \"$0\" $# $process > report.part\n"
         "mv report.part report\n");
     const QString report = QFileInfo(path).absolutePath() + "/report"_s;
     const ModalCatcher catcher;
