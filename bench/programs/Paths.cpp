@@ -29,7 +29,7 @@ std::string cameraListLine()
         interface.devices.push_back({"SIM-GEV-" + serial, "Orvelle", "Kx200 Pro 5MP-C", serial,
             "Orvelle Kx200 Pro " + serial, "GEV"});
     }
-    std::string line = Message(1, CameraListReply{{interface}, {}}).toLine();
+    std::string line = Message(1, CameraListReply{{interface}, {}, 0, false}).toLine();
     line.pop_back();
     return line;
 }

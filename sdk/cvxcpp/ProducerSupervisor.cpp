@@ -43,13 +43,13 @@ TimePoint ProducerSupervisor::startTime() const
 void ProducerSupervisor::requestCameras(TimePoint now)
 {
     m_requestedInterface.reset();
-    m_client.send(ListCamerasRequest{m_interfaceUpdates.takeDueUpdate(now)}, now);
+    m_client.send(ListCamerasRequest{m_interfaceUpdates.takeDueUpdate(now), 500}, now);
 }
 
 void ProducerSupervisor::requestInterface(const InterfaceRecord &interface, TimePoint now)
 {
     m_requestedInterface = interface.id;
-    m_client.send(ListInterfaceRequest{interface.number}, now);
+    m_client.send(ListInterfaceRequest{interface.number, 500}, now);
 }
 
 TimePoint ProducerSupervisor::nextStep(TimePoint now) const

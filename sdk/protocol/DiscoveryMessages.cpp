@@ -2,9 +2,9 @@
 
 #include "sdk/protocol/JsonConversions.h"
 
-CORVIX_JSON_CONVERSIONS(ListCamerasRequest, updatesInterfaces)
-CORVIX_JSON_CONVERSIONS(ListInterfaceRequest, number)
-CORVIX_JSON_CONVERSIONS(CameraListReply, interfaces, problems)
+CORVIX_JSON_CONVERSIONS(ListCamerasRequest, updatesInterfaces, timeout)
+CORVIX_JSON_CONVERSIONS(ListInterfaceRequest, number, timeout)
+CORVIX_JSON_CONVERSIONS(CameraListReply, interfaces, problems, processorTime, isSelfUpdating)
 CORVIX_JSON_CONVERSIONS(ProducerFailedReply, problem)
 CORVIX_JSON_CONVERSIONS(ProducerClosedReply, problems)
 
@@ -14,3 +14,10 @@ void to_json(nlohmann::json &json, const CloseProducerRequest &)
 }
 
 void from_json(const nlohmann::json &, CloseProducerRequest &) { }
+
+void to_json(nlohmann::json &json, const ListChangedNotice &)
+{
+    json = nlohmann::json::object();
+}
+
+void from_json(const nlohmann::json &, ListChangedNotice &) { }

@@ -15,6 +15,7 @@ struct ListCamerasRequest
 {
     static constexpr const char *kind = "listCameras";
     bool updatesInterfaces = false; ///< If true, the host first updates the list of interfaces.
+    std::uint32_t timeout = 0; ///< Milliseconds that each interface has for its search.
 };
 void to_json(nlohmann::json &json, const ListCamerasRequest &value);
 void from_json(const nlohmann::json &json, ListCamerasRequest &value);
@@ -25,6 +26,7 @@ struct ListInterfaceRequest
 {
     static constexpr const char *kind = "listInterface";
     std::uint64_t number = 0; ///< InterfaceRecord::number.
+    std::uint32_t timeout = 0; ///< Milliseconds that the interface has for its search.
 };
 void to_json(nlohmann::json &json, const ListInterfaceRequest &value);
 void from_json(const nlohmann::json &json, ListInterfaceRequest &value);
@@ -43,9 +45,22 @@ struct CameraListReply
     static constexpr const char *kind = "cameraList";
     std::vector<InterfaceRecord> interfaces;
     std::vector<Problem> problems;
+    std::uint32_t processorTime = 0; ///< Milliseconds of processor time that the host used for the search.
+    /// True if the producer searches by itself and keeps a device until the device is gone, so that a device
+    /// that the list lacks does not exist. The host reports every change with a ListChangedNotice.
+    bool isSelfUpdating = false;
 };
 void to_json(nlohmann::json &json, const CameraListReply &value);
 void from_json(const nlohmann::json &json, CameraListReply &value);
+
+/// Reports that a producer that updates its lists by itself has a new list of interfaces or devices. The
+/// host sends this message without a request and only between two requests.
+struct ListChangedNotice
+{
+    static constexpr const char *kind = "listChanged";
+};
+void to_json(nlohmann::json &json, const ListChangedNotice &value);
+void from_json(const nlohmann::json &json, ListChangedNotice &value);
 
 /// Reports that the producer cannot be used; the host exits after this message. The host sends this message
 /// without a request if the producer cannot be loaded or opened, or if a thread of the producer fails.

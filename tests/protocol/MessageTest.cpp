@@ -30,20 +30,24 @@ TEST(Message, cameraListIsUnchangedAfterTheRoundTrip)
         }
     };
     const Problem problem{"TLOpen", -1004, "in use"};
-    const auto reply = received(CameraListReply{{interface, InterfaceRecord()}, {problem}});
+    const auto reply = received(CameraListReply{{interface, InterfaceRecord()}, {problem}, 250, true});
     ASSERT_TRUE(reply);
     EXPECT_EQ(reply->interfaces, (std::vector<InterfaceRecord>{interface, InterfaceRecord()}));
     ASSERT_EQ(reply->problems.size(), 1U);
     EXPECT_EQ(reply->problems[0].call, "TLOpen");
     EXPECT_EQ(reply->problems[0].code, -1004);
     EXPECT_EQ(reply->problems[0].text, "in use");
+    EXPECT_EQ(reply->processorTime, 250U);
+    EXPECT_TRUE(reply->isSelfUpdating);
 }
 
 TEST(Message, requestsAreUnchangedAfterTheRoundTrip)
 {
-    EXPECT_TRUE(received(ListCamerasRequest{true})->updatesInterfaces);
-    EXPECT_FALSE(received(ListCamerasRequest{false})->updatesInterfaces);
-    EXPECT_EQ(received(ListInterfaceRequest{12})->number, 12U);
+    EXPECT_TRUE(received(ListCamerasRequest{true, 200})->updatesInterfaces);
+    EXPECT_FALSE(received(ListCamerasRequest{false, 200})->updatesInterfaces);
+    EXPECT_EQ(received(ListCamerasRequest{false, 200})->timeout, 200U);
+    EXPECT_EQ(received(ListInterfaceRequest{12, 200})->number, 12U);
+    EXPECT_EQ(received(ListInterfaceRequest{12, 300})->timeout, 300U);
     EXPECT_TRUE(received(CloseProducerRequest()));
 }
 

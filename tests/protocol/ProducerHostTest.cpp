@@ -7,17 +7,17 @@
 TEST(ProducerHost, hostRepliesToEveryRequest)
 {
     HostConnection host({SIMULATOR});
-    const auto list = host.ask<CameraListReply>(ListCamerasRequest{true});
+    const auto list = host.ask<CameraListReply>(ListCamerasRequest{true, 1000});
     ASSERT_TRUE(list);
     ASSERT_FALSE(list->interfaces.empty());
     EXPECT_TRUE(list->problems.empty());
 
     const InterfaceRecord &last = list->interfaces.back();
-    const auto one = host.ask<CameraListReply>(ListInterfaceRequest{last.number});
+    const auto one = host.ask<CameraListReply>(ListInterfaceRequest{last.number, 1000});
     ASSERT_TRUE(one);
     EXPECT_EQ(one->interfaces, std::vector<InterfaceRecord>{last});
 
-    const auto none = host.ask<CameraListReply>(ListInterfaceRequest{last.number + 1});
+    const auto none = host.ask<CameraListReply>(ListInterfaceRequest{last.number + 1, 1000});
     ASSERT_TRUE(none);
     EXPECT_TRUE(none->interfaces.empty());
 

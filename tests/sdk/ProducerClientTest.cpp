@@ -53,7 +53,7 @@ TEST_F(ProducerClientTest, acceptsTheReplyToItsRequest)
 {
     for (int round = 0; round < 2; ++round) {
         EXPECT_FALSE(client.isWaiting());
-        client.send(ListInterfaceRequest{7}, begin);
+        client.send(ListInterfaceRequest{7, 200}, begin);
         EXPECT_TRUE(client.isWaiting());
         EXPECT_EQ(received(), "nothing");
         std::string line;
@@ -136,7 +136,7 @@ TEST_F(ProducerClientTest, receiveLastCollectsTheProblemsOfAllMessages)
     client.send(ListCamerasRequest(), begin);
     client.sendLast(CloseProducerRequest());
     EXPECT_TRUE(client.isWaiting());
-    host.send(Message(1, CameraListReply{{}, {{"IFGetDeviceID", 0, ""}}}).toLine() + "garbage\n"
+    host.send(Message(1, CameraListReply{{}, {{"IFGetDeviceID", 0, ""}}, 0, false}).toLine() + "garbage\n"
         + Message(2, ProducerClosedReply{{{"TLClose", 0, ""}}}).toLine());
     std::vector<Problem> problems;
     EXPECT_TRUE(client.receiveLast(problems));
