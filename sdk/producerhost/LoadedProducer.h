@@ -36,6 +36,10 @@ public:
     /// Searches one interface. Returns null if no open interface has this number.
     const OpenInterface *searchInterface(std::uint64_t number);
 
+    /// Returns the descriptor that is readable after the producer's lists have changed, or a negative number
+    /// if the producer does not search by itself.
+    int listChangeDescriptor() const { return m_library.listChangeDescriptor(); }
+
     const Interfaces &interfaces() const { return m_interfaces; } ///< Sorted by ID.
     const ProblemList &problems() const { return m_problems; } ///< Problems of the last interface update.
 

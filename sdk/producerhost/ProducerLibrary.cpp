@@ -57,6 +57,7 @@ std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)
 {
     resolve(library, "TLGetInterfaceInfo", TLGetInterfaceInfo);
     resolve(library, "GCGetLastError", GCGetLastError);
+    resolve(library, listChangedFunctionName, listChangedDescriptor);
 
     std::string missing;
     const auto require = [&](const char *name, auto &function) {
@@ -79,6 +80,15 @@ std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)
     if (missing.empty())
         return std::nullopt;
     return Problem{"dlsym", 0, "the library lacks " + missing};
+}
+
+int ProducerLibrary::listChangeDescriptor() const
+{
+    try {
+        return listChangedDescriptor ? listChangedDescriptor() : -1;
+    } catch (...) {
+        return -1; // Without the descriptor, the producer is searched like any other.
+    }
 }
 
 std::string ProducerLibrary::lastErrorText() const
