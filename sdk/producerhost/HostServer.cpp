@@ -70,11 +70,11 @@ void HostServer::handle(const ListCamerasRequest &request)
     const ProcessorTime time;
     m_listChanges.takeChange(); // Before the search, so that a change during the search is reported.
     m_isChangeReported = false;
-    if (request.updatesInterfaces || m_producer.needsInterfaceUpdate()) {
-        if (const auto problem = m_producer.updateInterfaces())
+    if (request.updatesInterfaces || m_producer.needsInterfaceUpdate(request.timeout)) {
+        if (const auto problem = m_producer.updateInterfaces(request.timeout))
             return fail(*problem);
     }
-    m_producer.searchAll();
+    m_producer.searchAll(request.timeout);
     CameraListReply cameras;
     ProblemList problems = m_producer.problems();
     for (const auto &interface : m_producer.interfaces()) {
@@ -91,7 +91,7 @@ void HostServer::handle(const ListInterfaceRequest &request)
 {
     const ProcessorTime time;
     CameraListReply cameras;
-    if (const OpenInterface *interface = m_producer.searchInterface(request.number)) {
+    if (const OpenInterface *interface = m_producer.searchInterface(request.number, request.timeout)) {
         cameras.interfaces.push_back(interface->record());
         cameras.problems = interface->problems().all();
     }
