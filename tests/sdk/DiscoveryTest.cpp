@@ -62,7 +62,7 @@ TEST_F(DiscoveryTest, searchIsReusedEvenIfAnotherProducerIsSlow)
 {
     options.pollInterval = 1h;
     options.searchTimeout = 1h;
-    options.reuseTime = 4s;
+    options.interfaceReuse = 4s;
     addProducer("quick", "interface n|N|GEV\ndevice n|1\n");
     addProducer("slow", "fault IFUpdateDeviceList slow 4200\n" + cameras(1));
     start();
@@ -75,7 +75,7 @@ TEST_F(DiscoveryTest, interfaceUpdateSearchesOnlyThatInterface)
     options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
     options.searchTimeout = 1h; // Every producer replies at once.
-    options.reuseTime = 3s;
+    options.interfaceReuse = 3s;
     const std::string both = "interface a|A|GEV\ninterface b|B|GEV\ndevice a|1\ndevice b|2\n";
     addProducer("p", both);
     start();

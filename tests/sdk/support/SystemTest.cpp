@@ -17,7 +17,9 @@ SystemTest::SystemTest()
     options.configurationFile = (directory.path() / "bin" / "CvxC.xml").string();
     options.pollInterval = 100ms;
     options.interfaceUpdateInterval = 300ms;
-    options.reuseTime = 0ms;
+    options.listReuse = 0ms;
+    options.interfaceReuse = 0ms;
+    options.refreshTimeout = 1h; // A loaded machine may take longer than in the product.
     options.searchTimeout = 5s;
     options.firstRestartDelay = 50ms;
     options.maxRestartDelay = 60s;
