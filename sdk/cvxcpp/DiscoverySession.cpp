@@ -208,8 +208,8 @@ std::vector<std::string> DiscoverySession::findProducerPaths()
         const std::lock_guard lock(m_mutex);
         for (const std::string &path : paths)
             m_catalogue.addProducer(weak_from_this(), path);
-        const SearchState::Intervals intervals{
-            m_options.pollInterval, m_options.listReuse, m_options.interfaceReuse};
+        const SearchState::Intervals intervals{m_options.pollInterval, m_options.listReuse,
+            m_options.interfaceReuse, m_options.shortSearch < m_options.backgroundSearch};
         m_searches.resize(paths.size(), SearchState(intervals));
         m_areProducersKnown = true;
     }

@@ -79,7 +79,7 @@ void SearchState::listReceived(TimePoint now, const ListReply &reply)
     ++m_listCount;
     m_isResponsive = reply.isInTime;
     m_lastReply = reply;
-    if (!m_listedAt) // The first search of a host is short, so cameras may still be missing.
+    if (!m_listedAt && m_intervals.isFirstSearchShort) // Cameras may still be missing.
         requestBackgroundSearch();
     m_searchTime = now - std::exchange(m_sentAt, std::nullopt).value_or(now);
     m_listedAt = now;

@@ -17,6 +17,7 @@ public:
         Milliseconds poll; ///< Time between the starts of two background searches.
         Milliseconds listReuse; ///< No list is requested within this time after the last one arrived.
         Milliseconds interfaceReuse; ///< The same for the update of one interface.
+        bool isFirstSearchShort = true; ///< The first search has less time than a background search.
     };
 
     enum class Request

@@ -91,7 +91,8 @@ TEST_F(FailureTest, hangingHostIsReportedOnce)
 TEST_F(FailureTest, protocolErrorIsReported)
 {
     options.pollInterval = 1h;
-    const std::string empty = R"({"body":{"interfaces":[],"problems":[]},"id":1,"kind":"cameraList"})";
+    const std::string empty = Message(1, CameraListReply()).toLine();
+    
     const struct
     {
         const char *host, *reason;

@@ -22,7 +22,7 @@ protected:
         search.listReceived(end, reply);
     }
 
-    SearchState search{{2s, 250ms, 1s}};
+    SearchState search{{2s, 250ms, 1s, true}};
 };
 
 TEST_F(SearchStateTest, everyNewHostIsAskedForAShortAndThenForABackgroundSearch)
@@ -44,6 +44,14 @@ TEST_F(SearchStateTest, everyNewHostIsAskedForAShortAndThenForABackgroundSearch)
         EXPECT_FALSE(search.isInterfaceFresh("net", searchTime));
         EXPECT_FALSE(search.isResponsive());
     }
+}
+
+TEST_F(SearchStateTest, firstSearchThatIsAsLongAsOthersNeedsNoSecondOne)
+{
+    search = SearchState({2s, 250ms, 1s, false});
+    search.takeListRequest(searchTime);
+    finishSearch(searchTime);
+    EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
 }
 
 TEST_F(SearchStateTest, listIsCurrentForAPollIntervalAndOneMoreSearch)
