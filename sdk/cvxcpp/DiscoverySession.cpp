@@ -81,7 +81,7 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::searchCameras
     // The hold starts while the lock is held, so that observers are not notified of a later change before
     // the hold starts.
     m_notifier.holdUntil(SteadyClock::now() + m_options.notificationHold);
-    return std::make_shared<const Cameras>(m_catalogue.handOut());
+    return std::make_shared<const Cameras>(m_catalogue.takeCameras());
 }
 
 std::vector<DiscoverySession::AwaitedList> DiscoverySession::requestLists()
@@ -209,23 +209,26 @@ void DiscoverySession::publish(
 
 bool DiscoverySession::updateCatalogue(std::size_t producer, ProducerSupervisor::Event &event)
 {
+    const TimePoint now = SteadyClock::now();
     SearchState &search = m_searches[producer];
     switch (event.kind) {
     case ProducerSupervisor::Event::Kind::CamerasListed:
-        search.listReceived(SteadyClock::now(), event.isInTime);
-        return m_catalogue.replaceInterfaces(producer, std::move(event.interfaces));
+        search.listReceived(now, event.isInTime);
+        return m_catalogue.replaceInterfaces(
+            producer, std::move(event.interfaces), SearchKind::SelfUpdating, now);
     case ProducerSupervisor::Event::Kind::InterfaceSearched:
-        search.interfaceReceived(event.searchedInterface, SteadyClock::now(), event.isInTime);
+        search.interfaceReceived(event.searchedInterface, now, event.isInTime);
         // If the interface no longer exists, the reply is empty, and the next camera list removes the
         // interface.
         return !event.interfaces.empty()
-            && m_catalogue.replaceInterface(producer, std::move(event.interfaces.front()));
+            && m_catalogue.replaceInterface(
+                producer, std::move(event.interfaces.front()), SearchKind::SelfUpdating, now);
     case ProducerSupervisor::Event::Kind::HostLost:
         break;
     }
     search.producerLost();
-    m_catalogue.announceFromNowOn(producer);
-    return m_catalogue.replaceInterfaces(producer, {});
+    m_catalogue.reportChangesFromNowOn(producer);
+    return m_catalogue.removeInterfaces(producer, now);
 }
 
 void DiscoverySession::announceAll()
@@ -234,7 +237,7 @@ void DiscoverySession::announceAll()
     {
         const std::lock_guard lock(m_mutex);
         for (std::size_t i = 0; i < m_searches.size(); ++i)
-            isAnyNew = m_catalogue.announceFromNowOn(i) || isAnyNew;
+            isAnyNew = m_catalogue.reportChangesFromNowOn(i) || isAnyNew;
     }
     if (isAnyNew)
         m_notifier.notify();
@@ -250,7 +253,7 @@ void DiscoverySession::noticeLateReplies(const HostPool &pool)
             if (!pool.host(i).isReplyLate(now))
                 continue;
             m_searches[i].deadlineMissed();
-            m_catalogue.announceFromNowOn(i);
+            m_catalogue.reportChangesFromNowOn(i);
             isAnyLate = true;
         }
     }
