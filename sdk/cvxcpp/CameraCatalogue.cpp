@@ -36,7 +36,8 @@ void CameraCatalogue::addProducer(const std::weak_ptr<InterfaceSource> &source, 
         CameraList::empty(), nullptr});
 }
 
-bool CameraCatalogue::replaceInterfaces(std::size_t producer, std::vector<InterfaceRecord> interfaces)
+bool CameraCatalogue::replaceInterfaces(
+    std::size_t producer, std::vector<InterfaceRecord> interfaces, SearchKind, TimePoint)
 {
     sortRecords(interfaces);
     Records &records = m_producers.at(producer).records;
@@ -49,7 +50,7 @@ bool CameraCatalogue::replaceInterfaces(std::size_t producer, std::vector<Interf
     return true;
 }
 
-bool CameraCatalogue::replaceInterface(std::size_t producer, InterfaceRecord interface)
+bool CameraCatalogue::replaceInterface(std::size_t producer, InterfaceRecord interface, SearchKind, TimePoint)
 {
     std::stable_sort(interface.devices.begin(), interface.devices.end(), std::less<>());
     Records &records = m_producers.at(producer).records;
@@ -60,6 +61,11 @@ bool CameraCatalogue::replaceInterface(std::size_t producer, InterfaceRecord int
     *known = std::make_shared<const InterfaceRecord>(std::move(interface));
     rebuild(producer);
     return true;
+}
+
+bool CameraCatalogue::removeInterfaces(std::size_t producer, TimePoint now)
+{
+    return replaceInterfaces(producer, {}, SearchKind::SelfUpdating, now);
 }
 
 void CameraCatalogue::rebuild(std::size_t producer)
@@ -91,7 +97,7 @@ std::size_t CameraCatalogue::reportedCameras(std::size_t producer) const
     return count;
 }
 
-CameraCatalogue::Cameras CameraCatalogue::handOut()
+CameraCatalogue::Cameras CameraCatalogue::takeCameras()
 {
     Cameras cameras;
     for (Producer &producer : m_producers) {
@@ -103,7 +109,7 @@ CameraCatalogue::Cameras CameraCatalogue::handOut()
     return cameras;
 }
 
-bool CameraCatalogue::announceFromNowOn(std::size_t producer)
+bool CameraCatalogue::reportChangesFromNowOn(std::size_t producer)
 {
     CameraList::Pointer &announced = m_producers.at(producer).announced;
     if (announced)

@@ -3,6 +3,8 @@
 #include "sdk/cvxcpp/CameraList.h"
 #include "sdk/cvxcpp/CameraListChange.h"
 #include "sdk/cvxcpp/InterfaceSource.h"
+#include "sdk/cvxcpp/SearchKind.h"
+#include "sdk/cvxcpp/Timing.h"
 #include "sdk/protocol/CameraRecords.h"
 
 #include <cstddef>
@@ -22,12 +24,18 @@ public:
     /// The interface objects of the producer keep `source`.
     void addProducer(const std::weak_ptr<InterfaceSource> &source, const std::string &path);
 
-    /// Replaces all interfaces of the producer. Returns true if this changes the catalogue.
-    bool replaceInterfaces(std::size_t producer, std::vector<InterfaceRecord> interfaces);
+    /// Replaces all interfaces of the producer by those that a search reported, which ended at `now`. An
+    /// interface that is not among them is removed. Returns true if this changes the catalogue.
+    bool replaceInterfaces(
+        std::size_t producer, std::vector<InterfaceRecord> interfaces, SearchKind kind, TimePoint now);
 
     /// Replaces the interface with the same number, if the producer has such an interface. Returns true if
     /// this changes the catalogue.
-    bool replaceInterface(std::size_t producer, InterfaceRecord interface);
+    bool replaceInterface(std::size_t producer, InterfaceRecord interface, SearchKind kind, TimePoint now);
+
+    /// Removes all interfaces of a producer whose host has ended. Returns true if this changes the
+    /// catalogue.
+    bool removeInterfaces(std::size_t producer, TimePoint now);
 
     /// Returns null if the producer has no such interface.
     std::shared_ptr<const InterfaceRecord> findInterface(
@@ -39,11 +47,11 @@ public:
 
     /// Returns all visible cameras in the search order of the producers. takeChange() does not report the
     /// cameras that the program got from the first call, only later changes.
-    Cameras handOut();
+    Cameras takeCameras();
 
     /// Makes takeChange() report all cameras of the producer as added. Has no effect and returns false if
-    /// this function or handOut() was called for the producer before.
-    bool announceFromNowOn(std::size_t producer);
+    /// this function or takeCameras() was called for the producer before.
+    bool reportChangesFromNowOn(std::size_t producer);
 
     /// Returns the changes since the previous call. The caller has to notify the observers of them.
     CameraListChange takeChange();
@@ -59,8 +67,8 @@ private:
         CameraList::Pointer reported; // The objects for the records.
         // The reported list without the cameras that an earlier producer also reports.
         CameraList::Pointer visible;
-        // The list that observers have been notified of; null until handOut() or announceFromNowOn() is
-        // called.
+        // The list that observers have been notified of; null until takeCameras() or reportChangesFromNowOn()
+        // is called.
         CameraList::Pointer announced;
     };
 

@@ -80,7 +80,7 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::searchCameras
     // The hold starts while the lock is held, so that observers are not notified of a later change before
     // the hold starts.
     m_notifier.holdUntil(SteadyClock::now() + m_options.notificationHold);
-    return std::make_shared<const Cameras>(m_catalogue.handOut());
+    return std::make_shared<const Cameras>(m_catalogue.takeCameras());
 }
 
 template <typename Condition>
@@ -236,24 +236,25 @@ void DiscoverySession::publish(
 
 bool DiscoverySession::updateCatalogue(std::size_t producer, ProducerSupervisor::Event &event)
 {
+    const TimePoint now = SteadyClock::now();
     SearchState &search = m_searches[producer];
     switch (event.kind) {
     case ProducerSupervisor::Event::Kind::CamerasListed:
-        search.listReceived(SteadyClock::now(),
-            {event.isInTime, event.search == SearchKind::SelfUpdating, event.processorTime});
-        return m_catalogue.replaceInterfaces(producer, std::move(event.interfaces));
+        search.listReceived(
+            now, {event.isInTime, event.search == SearchKind::SelfUpdating, event.processorTime});
+        return m_catalogue.replaceInterfaces(producer, std::move(event.interfaces), event.search, now);
     case ProducerSupervisor::Event::Kind::InterfaceSearched:
-        search.interfaceReceived(event.searchedInterface, SteadyClock::now(), event.isInTime);
+        search.interfaceReceived(event.searchedInterface, now, event.isInTime);
         // If the interface no longer exists, the reply is empty, and the next camera list removes the
         // interface.
         return !event.interfaces.empty()
-            && m_catalogue.replaceInterface(producer, std::move(event.interfaces.front()));
+            && m_catalogue.replaceInterface(producer, std::move(event.interfaces.front()), event.search, now);
     case ProducerSupervisor::Event::Kind::HostLost:
         break;
     }
     search.producerLost();
-    m_catalogue.announceFromNowOn(producer);
-    return m_catalogue.replaceInterfaces(producer, {});
+    m_catalogue.reportChangesFromNowOn(producer);
+    return m_catalogue.removeInterfaces(producer, now);
 }
 
 void DiscoverySession::beginPoll()
@@ -263,7 +264,7 @@ void DiscoverySession::beginPoll()
         const std::lock_guard lock(m_mutex);
         for (std::size_t i = 0; i < m_searches.size(); ++i) {
             m_searches[i].requestBackgroundSearch();
-            isAnyNew = m_catalogue.announceFromNowOn(i) || isAnyNew;
+            isAnyNew = m_catalogue.reportChangesFromNowOn(i) || isAnyNew;
         }
     }
     if (isAnyNew)
@@ -280,7 +281,7 @@ void DiscoverySession::noticeLateReplies(const HostPool &pool)
             if (!pool.host(i).isReplyLate(now))
                 continue;
             m_searches[i].deadlineMissed();
-            m_catalogue.announceFromNowOn(i);
+            m_catalogue.reportChangesFromNowOn(i);
             isAnyLate = true;
         }
     }

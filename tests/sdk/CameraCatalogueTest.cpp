@@ -50,7 +50,19 @@ protected:
             catalogue.addProducer(source, path);
     }
 
-    Ids handedOut() { return idsOf(catalogue.handOut()); }
+    bool search(
+        std::size_t producer, const Interfaces &interfaces, SearchKind kind = SearchKind::SelfUpdating)
+    {
+        return catalogue.replaceInterfaces(producer, interfaces, kind, now);
+    }
+
+    bool searchOne(
+        std::size_t producer, const InterfaceRecord &interface, SearchKind kind = SearchKind::SelfUpdating)
+    {
+        return catalogue.replaceInterface(producer, interface, kind, now);
+    }
+
+    Ids takenCameras() { return idsOf(catalogue.takeCameras()); }
 
     /// Returns the change in the order of the notifications. A camera is "-ID" or "+ID"; the ID of an
     /// interface is in brackets.
@@ -71,40 +83,41 @@ protected:
 
     std::shared_ptr<FakeSource> source = std::make_shared<FakeSource>();
     CameraCatalogue catalogue;
+    TimePoint now;
 };
 
 TEST_F(CameraCatalogueTest, camerasAreSortedByProducerInterfaceAndDevice)
 {
-    catalogue.replaceInterfaces(1, cameras({"2", "1"}));
-    catalogue.replaceInterfaces(0, {network("z", {camera("2"), camera("1")}), network("y", {camera("3")})});
-    EXPECT_EQ(handedOut(), (Ids{"a.cti/y/3", "a.cti/z/1", "a.cti/z/2", "b.cti/net/1", "b.cti/net/2"}));
+    search(1, cameras({"2", "1"}));
+    search(0, {network("z", {camera("2"), camera("1")}), network("y", {camera("3")})});
+    EXPECT_EQ(takenCameras(), (Ids{"a.cti/y/3", "a.cti/z/1", "a.cti/z/2", "b.cti/net/1", "b.cti/net/2"}));
 }
 
 TEST_F(CameraCatalogueTest, equalListChangesNothing)
 {
-    EXPECT_TRUE(catalogue.replaceInterfaces(0, cameras({"1", "2"})));
-    const auto before = catalogue.handOut();
-    EXPECT_FALSE(catalogue.replaceInterfaces(0, cameras({"2", "1"})));
-    EXPECT_EQ(catalogue.handOut(), before) << "the same objects";
+    EXPECT_TRUE(search(0, cameras({"1", "2"})));
+    const auto before = catalogue.takeCameras();
+    EXPECT_FALSE(search(0, cameras({"2", "1"})));
+    EXPECT_EQ(catalogue.takeCameras(), before) << "the same objects";
     EXPECT_EQ(change(), Ids{});
 }
 
 TEST_F(CameraCatalogueTest, numberOfCamerasPerProducerIsLimited)
 {
     const InterfaceRecord crowd = network("a", std::vector<DeviceRecord>(600, camera("1")));
-    catalogue.replaceInterfaces(0, {crowd, crowd});
+    search(0, {crowd, crowd});
     EXPECT_EQ(catalogue.reportedCameras(0), 1200U);
-    EXPECT_EQ(catalogue.handOut().size(), 1000U);
+    EXPECT_EQ(catalogue.takeCameras().size(), 1000U);
 }
 
 TEST_F(CameraCatalogueTest, replaceInterfaceFindsTheInterfaceByItsNumber)
 {
-    catalogue.replaceInterfaces(0, {network("x", {camera("1")}, 7), network("y", {}, 8)});
-    handedOut();
-    EXPECT_FALSE(catalogue.replaceInterface(0, network("x", {camera("1")}, 7)));
-    EXPECT_FALSE(catalogue.replaceInterface(0, network("x", {}, 9)));
-    EXPECT_TRUE(catalogue.replaceInterface(0, network("x", {camera("3"), camera("2")}, 7)));
-    EXPECT_EQ(handedOut(), (Ids{"a.cti/x/2", "a.cti/x/3"}));
+    search(0, {network("x", {camera("1")}, 7), network("y", {}, 8)});
+    takenCameras();
+    EXPECT_FALSE(searchOne(0, network("x", {camera("1")}, 7)));
+    EXPECT_FALSE(searchOne(0, network("x", {}, 9)));
+    EXPECT_TRUE(searchOne(0, network("x", {camera("3"), camera("2")}, 7)));
+    EXPECT_EQ(takenCameras(), (Ids{"a.cti/x/2", "a.cti/x/3"}));
     ASSERT_TRUE(catalogue.findInterface(0, "x"));
     EXPECT_EQ(catalogue.findInterface(0, "x")->number, 7U);
     EXPECT_FALSE(catalogue.findInterface(0, "z"));
@@ -113,20 +126,20 @@ TEST_F(CameraCatalogueTest, replaceInterfaceFindsTheInterfaceByItsNumber)
 
 TEST_F(CameraCatalogueTest, observersAreNotNotifiedOfAFirstListThatWasReturnedBefore)
 {
-    catalogue.replaceInterfaces(1, cameras({"1"}));
-    EXPECT_TRUE(catalogue.announceFromNowOn(1));
-    EXPECT_FALSE(catalogue.announceFromNowOn(1));
+    search(1, cameras({"1"}));
+    EXPECT_TRUE(catalogue.reportChangesFromNowOn(1));
+    EXPECT_FALSE(catalogue.reportChangesFromNowOn(1));
     EXPECT_EQ(change(), (Ids{"+[net]", "+b.cti/net/1"}));
     EXPECT_EQ(change(), Ids{});
 
-    catalogue.replaceInterfaces(0, cameras({"1"}));
+    search(0, cameras({"1"}));
     EXPECT_EQ(change(), Ids{}) << "the program has no list yet";
-    handedOut();
+    takenCameras();
     EXPECT_EQ(change(), Ids{});
-    EXPECT_FALSE(catalogue.announceFromNowOn(0));
+    EXPECT_FALSE(catalogue.reportChangesFromNowOn(0));
     EXPECT_EQ(change(), Ids{});
-    catalogue.replaceInterfaces(0, cameras({"1", "2"}));
-    handedOut();
+    search(0, cameras({"1", "2"}));
+    takenCameras();
     EXPECT_EQ(change(), Ids{"+a.cti/net/2"}) << "observers are notified of every later change";
 }
 
@@ -151,10 +164,10 @@ TEST_F(CameraCatalogueTest, changeContainsAddedAndRemovedObjects)
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
-        catalogue.replaceInterfaces(0, row.before);
-        handedOut();
+        search(0, row.before);
+        takenCameras();
         change();
-        catalogue.replaceInterfaces(0, row.after);
+        search(0, row.after);
         EXPECT_EQ(change(), row.change);
     }
 }
@@ -162,11 +175,11 @@ TEST_F(CameraCatalogueTest, changeContainsAddedAndRemovedObjects)
 TEST_F(CameraCatalogueTest, changedFieldIsReportedAsARemovedAndAnAddedCamera)
 {
     DeviceRecord device{"D", "", "", "", "", ""};
-    catalogue.replaceInterfaces(0, {network("n", {device, camera("E")})});
-    handedOut();
+    search(0, {network("n", {device, camera("E")})});
+    takenCameras();
     for (std::string *field : {&device.vendor, &device.model, &device.serial, &device.name, &device.type}) {
         *field = "changed";
-        catalogue.replaceInterfaces(0, {network("n", {device, camera("E")})});
+        search(0, {network("n", {device, camera("E")})});
         EXPECT_EQ(change(), (Ids{"-a.cti/n/D", "+a.cti/n/D"}));
     }
 }
@@ -175,20 +188,19 @@ TEST_F(CameraCatalogueTest, cameraOfSeveralProducersIsReturnedForTheFirstOne)
 {
     const Interfaces same{
         network("net", {camera("1", "Vendor", "Model", "42"), camera("2", "Vendor", "Model", "42")})};
-    catalogue.replaceInterfaces(2, same);
-    catalogue.replaceInterfaces(
-        1, {network("net", {camera("1", "Vendor", "Model", "42"), camera("3", "V", "M", "S")})});
-    EXPECT_EQ(handedOut(), (Ids{"b.cti/net/1", "b.cti/net/3"}));
-    catalogue.replaceInterfaces(0, same);
-    EXPECT_EQ(handedOut(), (Ids{"a.cti/net/1", "a.cti/net/2", "b.cti/net/3"}))
+    search(2, same);
+    search(1, {network("net", {camera("1", "Vendor", "Model", "42"), camera("3", "V", "M", "S")})});
+    EXPECT_EQ(takenCameras(), (Ids{"b.cti/net/1", "b.cti/net/3"}));
+    search(0, same);
+    EXPECT_EQ(takenCameras(), (Ids{"a.cti/net/1", "a.cti/net/2", "b.cti/net/3"}))
         << "one producer may report a camera twice";
     EXPECT_EQ(change(), (Ids{"-b.cti/net/1", "+[net]", "+a.cti/net/1", "+a.cti/net/2"}));
     EXPECT_EQ(catalogue.findInterface(1, "net")->devices.size(), 2U)
         << "the interface keeps the hidden camera";
-    catalogue.replaceInterfaces(1, {});
+    search(1, {});
     EXPECT_EQ(change(), (Ids{"-b.cti/net/3", "-[net]"})) << "no notification reports a hidden camera";
-    catalogue.replaceInterfaces(0, {});
-    EXPECT_EQ(handedOut(), (Ids{"\xEF\xBF\xBD.cti/net/1", "\xEF\xBF\xBD.cti/net/2"}));
+    search(0, {});
+    EXPECT_EQ(takenCameras(), (Ids{"\xEF\xBF\xBD.cti/net/1", "\xEF\xBF\xBD.cti/net/2"}));
 }
 
 TEST_F(CameraCatalogueTest, sameVendorModelAndSerialNumberMeanTheSameCamera)
@@ -214,8 +226,8 @@ TEST_F(CameraCatalogueTest, sameVendorModelAndSerialNumberMeanTheSameCamera)
             false},
     };
     for (const auto &row : rows) {
-        catalogue.replaceInterfaces(0, {network("net", {row.one})});
-        catalogue.replaceInterfaces(1, {network("net", {row.other})});
-        EXPECT_EQ(handedOut().size(), row.isSame ? 1U : 2U) << row.name;
+        search(0, {network("net", {row.one})});
+        search(1, {network("net", {row.other})});
+        EXPECT_EQ(takenCameras().size(), row.isSame ? 1U : 2U) << row.name;
     }
 }

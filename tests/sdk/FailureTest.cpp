@@ -1,5 +1,7 @@
 // Tests the camera system with producers and hosts that fail or are slow.
 
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/Message.h"
 #include "tests/sdk/support/SystemTest.h"
 
 #include <csignal>
@@ -92,7 +94,6 @@ TEST_F(FailureTest, protocolErrorIsReported)
 {
     options.pollInterval = 1h;
     const std::string empty = Message(1, CameraListReply()).toLine();
-    
     const struct
     {
         const char *host, *reason;
