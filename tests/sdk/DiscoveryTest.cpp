@@ -62,6 +62,7 @@ TEST_F(DiscoveryTest, searchIsReusedEvenIfAnotherProducerIsSlow)
 {
     options.pollInterval = 1h;
     options.searchTimeout = 1h;
+    options.listReuse = 4s;
     options.interfaceReuse = 4s;
     addProducer("quick", "interface n|N|GEV\ndevice n|1\n");
     addProducer("slow", "fault IFUpdateDeviceList slow 4200\n" + cameras(1));
@@ -195,5 +196,4 @@ TEST_F(DiscoveryTest, interfaceThatDisappearsDuringItsUpdateIsNotAvailable)
     setScript("a", "fault IFUpdateDeviceList slow 1000\ninterface other\n");
     const auto update = feature(*interface, "DeviceUpdateList");
     EXPECT_TRUE(waitUntil([&] { return update->RunCommand() == CvxErrorNotAvailable; }));
-    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A1") << "a failed update keeps the devices";
 }
