@@ -5,6 +5,8 @@
 #include "tests/sdk/support/SystemTest.h"
 
 #include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace CvxCPP;
 using namespace std::chrono_literals;
@@ -192,4 +194,32 @@ TEST_F(FailureTest, deathOfAProducerIsNoticedAlthoughItsChildKeepsTheSocketOpen)
     EXPECT_EQ(reports(), Calls{ctiPath("a.cti").string() + ": was ended by SIGKILL (Killed)"});
     EXPECT_TRUE(waitUntil([&] { return recorder->calls() == Calls{"-a.cti/net0/A1"}; }));
     EXPECT_TRUE(waitUntil([this] { return processesWith(ctiPath("a.cti").string()).empty(); }));
+}
+
+TEST_F(FailureTest, hostsSurviveAStandstillOfAllProcesses)
+{
+    options.searchTimeout = 300ms;
+    options.replyTimeout = 700ms;
+    addProducer("a", "fault IFUpdateDeviceList slow 500\n" + cameras(1));
+    const std::filesystem::path listed = directory.path() / "listed";
+    const pid_t program = fork(); // The system runs in a child process, which this process can stop.
+    if (program == 0) {
+        start();
+        const bool isListed = waitUntil([this] { return list().size() == 1; });
+        writeFile(listed, isListed && reports().empty() ? "yes" : testing::PrintToString(reports()));
+        pause();
+    }
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") == 1; }));
+    const pid_t host = hostOf("a");
+    kill(program, SIGSTOP);
+    kill(host, SIGSTOP);
+    const TimePoint resumeAt = SteadyClock::now() + 2 * options.replyTimeout;
+    EXPECT_TRUE(waitUntil([&] { return SteadyClock::now() >= resumeAt; }));
+    kill(host, SIGCONT);
+    kill(program, SIGCONT);
+    EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(listed); }));
+    EXPECT_EQ(readFile(listed), "yes");
+    EXPECT_EQ(countCalls("a", "load"), 1U);
+    kill(program, SIGKILL);
+    waitpid(program, nullptr, 0);
 }

@@ -71,7 +71,7 @@ TEST_F(HostSearchTest, interfacesAreSearchedAtTheSameTime)
     neverPoll();
     std::string script = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls meet.
     for (char id = 'a'; id < 'a' + 8; ++id)
-        script += std::string("interface ") + id + "\ndevice " + id + "|1\n";
+        script += std::string("interface ") + id + "\ndevice " + id + '|' + id + '\n';
     addProducer("p", script);
     start();
     EXPECT_EQ(list().size(), 8U);
