@@ -199,7 +199,7 @@ TEST_F(FailureTest, deathOfAProducerIsNoticedAlthoughItsChildKeepsTheSocketOpen)
 TEST_F(FailureTest, hostsSurviveAStandstillOfAllProcesses)
 {
     options.searchTimeout = 300ms;
-    options.replyTimeout = 700ms;
+    options.replyTimeout = 2s;
     addProducer("a", "fault IFUpdateDeviceList slow 500\n" + cameras(1));
     const std::filesystem::path listed = directory.path() / "listed";
     const pid_t program = fork(); // The system runs in a child process, which this process can stop.
@@ -213,10 +213,11 @@ TEST_F(FailureTest, hostsSurviveAStandstillOfAllProcesses)
     const pid_t host = hostOf("a");
     kill(program, SIGSTOP);
     kill(host, SIGSTOP);
-    const TimePoint resumeAt = SteadyClock::now() + 2 * options.replyTimeout;
+    const TimePoint resumeAt = SteadyClock::now() + options.replyTimeout + 500ms;
     EXPECT_TRUE(waitUntil([&] { return SteadyClock::now() >= resumeAt; }));
-    kill(host, SIGCONT);
     kill(program, SIGCONT);
+    EXPECT_TRUE(waitUntil([&] { return SteadyClock::now() >= resumeAt + 200ms; }));
+    kill(host, SIGCONT);
     EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(listed); }));
     EXPECT_EQ(readFile(listed), "yes");
     EXPECT_EQ(countCalls("a", "load"), 1U);
