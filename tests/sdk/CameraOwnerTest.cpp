@@ -199,7 +199,11 @@ TEST_F(CameraOwnerTest, ownedDeviceMovesToAnotherInterfaceOfItsOwner)
     search(1, {usb("x", {}), usb("y", {shared("B")})});
     EXPECT_EQ(change(), (Ids{"-b.cti/x/B", "+b.cti/y/B"}));
     EXPECT_EQ(catalogue.findInterface(1, "x")->devices.size(), 0U) << "not held";
-    EXPECT_FALSE(search(1, {usb("x", {}), usb("y", {})})) << "held at the interface where it is listed";
+    search(1, {usb("x", {shared("B")}), usb("y", {shared("B")})});
+    search(1, {usb("x", {}), usb("y", {})});
+    EXPECT_EQ(change(), none) << "held";
+    EXPECT_EQ(catalogue.findInterface(1, "x")->devices.size(), 0U) << "held only where it is listed";
+    EXPECT_EQ(catalogue.findInterface(1, "y")->devices.size(), 1U);
 }
 
 TEST_F(CameraOwnerTest, lostAnswersChangeNothing)
