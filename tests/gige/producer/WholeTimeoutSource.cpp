@@ -24,6 +24,7 @@ using Mac = std::array<std::uint8_t, 6>;
 constexpr std::uint16_t discoveryPort = 3956;
 constexpr std::array<std::uint8_t, 8> discoveryCommand{0x42, 0x11, 0x00, 0x02, 0x00, 0x00, 0x12, 0x34};
 constexpr std::size_t headerSize = 8;
+constexpr std::chrono::milliseconds wakeUpInterval{1}; // Such producers are not economical either.
 constexpr std::chrono::milliseconds maxTimeout{10000}; // A consumer may ask for an infinite timeout.
 
 struct InterfaceAddress
@@ -94,10 +95,11 @@ public:
     std::optional<Answer> receive(Clock::time_point deadline) const
     {
         for (;;) {
-            const auto remaining = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
-            pollfd waiting{m_socket, POLLIN, 0};
-            if (remaining.count() <= 0 || poll(&waiting, 1, int(remaining.count())) <= 0)
+            if (Clock::now() >= deadline)
                 return std::nullopt;
+            pollfd waiting{m_socket, POLLIN, 0};
+            if (poll(&waiting, 1, int(wakeUpInterval.count())) <= 0)
+                continue;
             Answer answer;
             const ssize_t size = recv(m_socket, answer.data(), answer.size(), MSG_DONTWAIT);
             const bool isGood = size == ssize_t(answer.size()) && answer[0] == 0 && answer[1] == 0
