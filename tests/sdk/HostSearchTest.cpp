@@ -112,7 +112,7 @@ TEST_F(HostSearchTest, interfacesAreClosedBeforeTheSystemAndTheLibrary)
 TEST_F(HostSearchTest, stringThatGrowsBetweenTwoCallsIsReadFourTimes)
 {
     neverPoll();
-    options.reuseTime = 1h; // There is only one search.
+    options.listReuse = 1h; // There is only one search.
     options.searchTimeout = 1min;
     for (const std::string fault : {"grow 3", "grow 4", "grow-1.3 3", "grow-1.3 4"})
         addProducer(fault, "interface n\ndevice n|1\nfault IFGetDeviceID " + fault + '\n');
