@@ -1,5 +1,6 @@
 #include "sdk/aravis/AravisDevices.h"
 
+#include <arv.h>
 #include <dlfcn.h>
 #include <memory>
 #include <mutex>
@@ -11,12 +12,6 @@ std::string toUtf8(const char *text)
 {
     const std::unique_ptr<char, void (*)(void *)> valid(g_utf8_make_valid(text ? text : "", -1), g_free);
     return valid.get();
-}
-
-/// Returns false if the ID consists of zeros, because a simulated device may have no hardware address.
-bool identifiesDevice(const std::string &physicalId)
-{
-    return physicalId.find_first_not_of("0:") != std::string::npos;
 }
 
 /// Keeps libaravis loaded after the producer was unloaded. GLib keeps pointers into libaravis, and libusb,
@@ -32,13 +27,9 @@ FoundDevice readDevice(ArvInterface *interface, unsigned index)
 {
     FoundDevice device;
     device.id = toUtf8(arv_interface_get_device_physical_id(interface, index));
-    // Without a physical ID, Aravis composes the ID of vendor, model and serial number.
-    if (!identifiesDevice(device.id))
-        device.id = toUtf8(arv_interface_get_device_id(interface, index));
     device.vendor = toUtf8(arv_interface_get_device_vendor(interface, index));
     device.model = toUtf8(arv_interface_get_device_model(interface, index));
     device.serial = toUtf8(arv_interface_get_device_serial_nbr(interface, index));
-    device.address = toUtf8(arv_interface_get_device_address(interface, index));
     return device;
 }
 
@@ -55,17 +46,17 @@ std::string displayName(const FoundDevice &device)
 
 } // namespace
 
-std::vector<FoundDevice> findDevices(ArvInterface *(*interfaceInstance)())
+std::vector<FoundDevice> findDevices()
 {
-    // The mutex is static, because Aravis has one object per protocol and process, and two device sources can
-    // use this object: a closed source may still be searching when the next source starts.
+    // The mutex is static, because Aravis has one object per process, and two device sources can use this
+    // object: a closed source may still be searching when the next source starts.
     static std::mutex interfaceMutex;
     const std::lock_guard lock(interfaceMutex);
     static std::once_flag once;
     std::call_once(once, keepAravisLoaded);
     // arv_update_device_list() is not used, because its list belongs to the whole process, which may also
     // contain a producer for another protocol.
-    ArvInterface *const interface = interfaceInstance();
+    ArvInterface *const interface = arv_uv_interface_get_instance();
     arv_interface_update_device_list(interface);
     std::vector<FoundDevice> found;
     const unsigned count = arv_interface_get_n_devices(interface);
@@ -74,13 +65,13 @@ std::vector<FoundDevice> findDevices(ArvInterface *(*interfaceInstance)())
     return found;
 }
 
-DeviceRecord toRecord(const FoundDevice &device, const std::string &tlType)
+DeviceRecord toRecord(const FoundDevice &device)
 {
     DeviceRecord record; // The access status stays unknown, because only an open device reports it.
     record.id = device.id;
     record.vendor = device.vendor;
     record.model = device.model;
-    record.tlType = tlType;
+    record.tlType = GenTL::TLTypeU3VName;
     record.displayName = displayName(device);
     record.serial = device.serial;
     return record;

@@ -7,23 +7,17 @@
 #include <mutex>
 #include <vector>
 
-/// Shares one search for devices among all interfaces of a producer. A consumer updates the interfaces at the
-/// same time or in quick succession, and each search finds the devices of all interfaces.
+/// Shares one search for devices among several calls, because a consumer may update the list in quick
+/// succession.
 class SharedSearch
 {
 public:
     using Search = std::function<std::vector<FoundDevice>()>;
 
-    enum class Transport
-    {
-        Reliable,
-        Lossy ///< Replies can get lost, so a device is kept if one search does not find it.
-    };
-
     static constexpr std::chrono::milliseconds defaultMaxAge{500}; ///< Much shorter than a poll interval.
 
     /// Creates a search whose result is shared until the result is as old as `maxAge`.
-    SharedSearch(Search search, Transport transport, std::chrono::milliseconds maxAge = defaultMaxAge);
+    explicit SharedSearch(Search search, std::chrono::milliseconds maxAge = defaultMaxAge);
 
     /// Returns the result of the last search if the result is not too old. Otherwise, runs a new search and
     /// blocks until the search has ended. Any thread may call devices().
@@ -32,10 +26,7 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    void addMissed(std::vector<FoundDevice> &found) const;
-
     const Search m_search;
-    const Transport m_transport;
     const std::chrono::milliseconds m_maxAge;
 
     // Guards the members below. The mutex is locked during a search, because every caller waits for the

@@ -20,19 +20,15 @@ std::vector<InterfaceRecord> Usb3VisionSource::updateInterfaces()
     return {{hostId, "USB host", GenTL::TLTypeU3VName}};
 }
 
-std::vector<DeviceRecord> Usb3VisionSource::updateDevices(const std::string &interfaceId)
+std::vector<DeviceRecord> Usb3VisionSource::updateDevices(
+    const std::string &interfaceId, std::chrono::milliseconds)
 {
     std::vector<DeviceRecord> devices;
     if (interfaceId != hostId || !isUsbReady())
         return devices;
     for (const FoundDevice &device : m_search.devices())
-        devices.push_back(toRecord(device, GenTL::TLTypeU3VName));
+        devices.push_back(toRecord(device));
     return devices;
-}
-
-std::vector<FoundDevice> Usb3VisionSource::search()
-{
-    return findDevices(arv_uv_interface_get_instance);
 }
 
 bool Usb3VisionSource::isUsbReady()

@@ -12,13 +12,13 @@ class Usb3VisionSource final : public DeviceSource
 public:
     ProducerIdentity identity() const override;
     std::vector<InterfaceRecord> updateInterfaces() override;
-    std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override;
+    std::vector<DeviceRecord> updateDevices(
+        const std::string &interfaceId, std::chrono::milliseconds timeout) override;
 
 private:
     bool isUsbReady();
-    static std::vector<FoundDevice> search();
 
-    SharedSearch m_search{search, SharedSearch::Transport::Reliable};
+    SharedSearch m_search{findDevices};
 
     std::mutex m_mutex; // Guards the members below.
     bool m_isReady = false;

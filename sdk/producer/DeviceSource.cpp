@@ -12,7 +12,7 @@ bool operator==(const DeviceRecord &left, const DeviceRecord &right)
 {
     const auto fields = [](const DeviceRecord &record) {
         return std::tie(record.id, record.vendor, record.model, record.tlType, record.displayName,
-            record.userName, record.serial, record.accessStatus);
+            record.userName, record.serial, record.accessStatus, record.version);
     };
     return fields(left) == fields(right);
 }

@@ -2,6 +2,7 @@
 
 #include "sdk/gentl/GenTL.h"
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -40,6 +41,7 @@ struct DeviceRecord
     std::string userName;
     std::string serial;
     GenTL::DEVICE_ACCESS_STATUS accessStatus = GenTL::DEVICE_ACCESS_STATUS_UNKNOWN;
+    std::string version; ///< Empty if only an open device reports its version.
 };
 
 bool operator==(const InterfaceRecord &left, const InterfaceRecord &right);
@@ -61,7 +63,14 @@ public:
 
     /// Returns the devices that one interface has now, or none if the interface has disappeared. Blocks until
     /// the search has ended.
-    virtual std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) = 0;
+    /// @param timeout The consumer's timeout, at most a minute. A source that does not wait for devices may
+    /// ignore it. With a timeout of 0, a source that searches by itself returns what it knows.
+    virtual std::vector<DeviceRecord> updateDevices(
+        const std::string &interfaceId, std::chrono::milliseconds timeout)
+        = 0;
+
+    /// Returns what ListChangedFunction returns. A source that does not search by itself returns -1.
+    virtual int listChangedDescriptor() const { return -1; }
 };
 
 /// Returns the source of a producer. Each producer defines this function. If the function throws, GCInitLib

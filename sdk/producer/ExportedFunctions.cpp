@@ -2,12 +2,16 @@
 // handle identifies and calls the list of this module. The functions that open or close a module call the
 // Producer. GenTL.h names the standard that defines what each function returns.
 
+#include "sdk/gentl/ListChangeExtension.h"
 #include "sdk/producer/InfoCommands.h"
 #include "sdk/producer/LastError.h"
 #include "sdk/producer/Producer.h"
 
+#include <algorithm>
+#include <chrono>
 #include <exception>
 #include <new>
+#include <type_traits>
 
 using namespace GenTL;
 
@@ -53,6 +57,13 @@ GC_ERROR withInterface(IF_HANDLE handle, Body &&body) noexcept
         return module ? body(*module)
                       : fail(GC_ERR_INVALID_HANDLE, "This is not the handle of an open interface.");
     });
+}
+
+/// Limits the timeout to a minute, because GENTL_INFINITE and other large values cannot be added to a time.
+std::chrono::milliseconds toTimeout(std::uint64_t milliseconds)
+{
+    constexpr std::uint64_t maxTimeout = 60 * 1000;
+    return std::chrono::milliseconds(std::min(milliseconds, maxTimeout));
 }
 
 /// Returns the interface's current entry in the system's list. If the list no longer contains the interface,
@@ -125,7 +136,7 @@ GENTL_FUNCTION TLGetInfo(
     });
 }
 
-// Both update functions ignore the timeout, because no source can end its search early.
+// The timeout is ignored, because no source waits for interfaces.
 GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE hTL, bool8_t *pbChanged, std::uint64_t)
 {
     return withSystem(hTL, [&](SystemModule &system) {
@@ -177,11 +188,11 @@ GENTL_FUNCTION IFGetInfo(
     });
 }
 
-GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *pbChanged, std::uint64_t)
+GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *pbChanged, std::uint64_t iTimeout)
 {
     return withInterface(hIface, [&](InterfaceModule &module) {
         return module.devices.update(
-            [&] { return module.source->updateDevices(module.openedAs.id); }, pbChanged);
+            [&] { return module.source->updateDevices(module.openedAs.id, toTimeout(iTimeout)); }, pbChanged);
     });
 }
 
@@ -213,5 +224,12 @@ GENTL_FUNCTION IFGetParentTL(IF_HANDLE hIface, TL_HANDLE *phSystem)
         return GC_ERR_SUCCESS;
     });
 }
+
+// This function is not part of GenTL; see ListChangeExtension.h.
+__attribute__((visibility("default"))) int CvxListChangedDescriptor()
+{
+    return Producer::instance().listChangedDescriptor();
+}
+static_assert(std::is_same_v<decltype(CvxListChangedDescriptor), ListChangedFunction>);
 
 } // extern "C"

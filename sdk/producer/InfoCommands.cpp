@@ -10,6 +10,11 @@ namespace {
 constexpr std::uint32_t genTlMajor = 1;
 constexpr std::uint32_t genTlMinor = 5;
 
+GC_ERROR failOnlyWhenOpen()
+{
+    return fail(GC_ERR_NOT_AVAILABLE, "Only an open device reports this.");
+}
+
 } // namespace
 
 GC_ERROR writeProducerInfo(const ProducerIdentity &identity, const std::filesystem::path &producerFile,
@@ -78,8 +83,9 @@ GC_ERROR writeDeviceInfo(const DeviceRecord &record, DEVICE_INFO_CMD command, co
     case DEVICE_INFO_SERIAL_NUMBER:
         return output.writeString(record.serial);
     case DEVICE_INFO_VERSION:
+        return record.version.empty() ? failOnlyWhenOpen() : output.writeString(record.version);
     case DEVICE_INFO_TIMESTAMP_FREQUENCY:
-        return fail(GC_ERR_NOT_AVAILABLE, "Only an open device reports this.");
+        return failOnlyWhenOpen();
     default:
         return failUnknownCommand(command);
     }

@@ -75,6 +75,12 @@ GC_ERROR Producer::info(TL_INFO_CMD command, const InfoOutput &output) const
     return writeProducerInfo(m_source->identity(), m_file, command, output);
 }
 
+int Producer::listChangedDescriptor() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_source ? m_source->listChangedDescriptor() : -1;
+}
+
 GC_ERROR Producer::openSystem(TL_HANDLE *handle)
 {
     const std::lock_guard lock(m_mutex);

@@ -33,6 +33,9 @@ public:
     /// Writes the value of an info command of the producer. Returns the codes of writeProducerInfo() too.
     GenTL::GC_ERROR info(GenTL::TL_INFO_CMD command, const InfoOutput &output) const;
 
+    /// Returns what ListChangedFunction returns, or -1 if the producer is not initialised.
+    int listChangedDescriptor() const;
+
     /// Opens the system module. Returns GC_ERR_RESOURCE_IN_USE if the system module is already open.
     GenTL::GC_ERROR openSystem(GenTL::TL_HANDLE *handle);
 

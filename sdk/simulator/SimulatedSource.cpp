@@ -22,7 +22,8 @@ std::vector<InterfaceRecord> SimulatedSource::updateInterfaces()
     return interfaces;
 }
 
-std::vector<DeviceRecord> SimulatedSource::updateDevices(const std::string &interfaceId)
+std::vector<DeviceRecord> SimulatedSource::updateDevices(
+    const std::string &interfaceId, std::chrono::milliseconds)
 {
     const auto configuration = m_file.current();
     const auto found = std::find_if(configuration->begin(), configuration->end(),

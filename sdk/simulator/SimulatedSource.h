@@ -12,7 +12,8 @@ public:
 
     ProducerIdentity identity() const override;
     std::vector<InterfaceRecord> updateInterfaces() override;
-    std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override;
+    std::vector<DeviceRecord> updateDevices(
+        const std::string &interfaceId, std::chrono::milliseconds timeout) override;
 
 private:
     ConfigurationFile m_file;

@@ -2,9 +2,10 @@
 
 #include "sdk/aravis/Usb3VisionSource.h"
 
-#include "tests/aravis/DescriptorLimit.h"
+#include "tests/support/DescriptorLimit.h"
 
 #include <algorithm>
+#include <arv.h>
 #include <gtest/gtest.h>
 
 ArvInterface *arv_uv_interface_get_instance()
@@ -16,10 +17,10 @@ TEST(Usb3VisionSource, camerasAreReportedOnTheUsbHost)
 {
     Usb3VisionSource source;
     EXPECT_EQ(source.updateInterfaces(), (std::vector<InterfaceRecord>{{"usb", "USB host", "U3V"}}));
-    EXPECT_TRUE(source.updateDevices("another").empty());
-    EXPECT_EQ(source.updateDevices("usb"),
+    EXPECT_TRUE(source.updateDevices("another", {}).empty());
+    EXPECT_EQ(source.updateDevices("usb", {}),
         (std::vector<DeviceRecord>{{"Fake_1", "Aravis", "Fake", "U3V", "Aravis Fake 1", "", "1",
-            GenTL::DEVICE_ACCESS_STATUS_UNKNOWN}}));
+            GenTL::DEVICE_ACCESS_STATUS_UNKNOWN, ""}}));
 }
 
 TEST(Usb3VisionSource, listIsEmptyWhileUsbCannotBeSearched)
@@ -29,9 +30,9 @@ TEST(Usb3VisionSource, listIsEmptyWhileUsbCannotBeSearched)
     {
         const DescriptorLimit limit(2); // libusb needs more, and a sanitizer's pipe needs two.
         for (int round = 0; round < 3; ++round)
-            EXPECT_TRUE(source.updateDevices("usb").empty());
+            EXPECT_TRUE(source.updateDevices("usb", {}).empty());
     }
-    EXPECT_EQ(source.updateDevices("usb").size(), 1U);
+    EXPECT_EQ(source.updateDevices("usb", {}).size(), 1U);
     const std::string printed = testing::internal::GetCapturedStderr();
     EXPECT_EQ(printed.find("Universal USB3 Vision producer: USB cannot be searched: "), 0U) << printed;
     EXPECT_EQ(std::count(printed.begin(), printed.end(), '\n'), 1) << printed;

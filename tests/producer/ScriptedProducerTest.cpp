@@ -1,6 +1,7 @@
 // These tests check the code that all our producers share, with a device source that follows a script. The
 // shared code is linked into this program.
 
+#include "sdk/gentl/ListChangeExtension.h"
 #include "sdk/producer/DeviceSource.h"
 #include "tests/producer/ProducerSession.h"
 
@@ -24,6 +25,9 @@ struct Script
     std::function<Ids()> interfaces = [] { return Ids{"one", "two"}; };
     std::string interfaceName = "Interface";
     ListDevices devices = [](const std::string &) { return Ids{}; };
+    std::string version;
+    int listChangedDescriptor = -1;
+    std::chrono::milliseconds lastTimeout{-1}; // The timeout of the last search for devices.
 };
 
 Script script;
@@ -41,14 +45,18 @@ public:
         return records;
     }
 
-    std::vector<DeviceRecord> updateDevices(const std::string &interfaceId) override
+    std::vector<DeviceRecord> updateDevices(
+        const std::string &interfaceId, std::chrono::milliseconds timeout) override
     {
+        script.lastTimeout = timeout;
         std::vector<DeviceRecord> records;
         for (const std::string &id : script.devices(interfaceId))
-            records.push_back(
-                {id, "Vendor", "Model", "GEV", "Shown", "User", "Serial", DEVICE_ACCESS_STATUS_BUSY});
+            records.push_back({id, "Vendor", "Model", "GEV", "Shown", "User", "Serial",
+                DEVICE_ACCESS_STATUS_BUSY, script.version});
         return records;
     }
+
+    int listChangedDescriptor() const override { return script.listChangedDescriptor; }
 };
 
 } // namespace
@@ -138,18 +146,47 @@ TEST_F(ScriptedProducer, deviceReportsTheFieldsOfItsRecord)
     EXPECT_EQ(strings, (Ids{"a", "Vendor", "Model", "GEV", "Shown", "User", "Serial"}));
     const auto status = infoCall(producer().IFGetDeviceInfo, handle, "a", DEVICE_INFO_ACCESS_STATUS);
     EXPECT_EQ(readNumber(status, INFO_DATATYPE_INT32), DEVICE_ACCESS_STATUS_BUSY);
+    EXPECT_EQ(
+        codeOf(infoCall(producer().IFGetDeviceInfo, handle, "a", DEVICE_INFO_VERSION)), GC_ERR_NOT_AVAILABLE);
+    script.version = "1.2";
+    session.updateDevices(handle);
+    EXPECT_EQ(session.deviceString(handle, "a", DEVICE_INFO_VERSION), "1.2");
+}
+
+TEST_F(ScriptedProducer, sourceReceivesABoundedTimeout)
+{
+    using std::chrono::milliseconds;
+    const IF_HANDLE handle = session.open("one");
+    const std::pair<std::uint64_t, milliseconds> expected[] = {{0, milliseconds(0)}, {200, milliseconds(200)},
+        {60000, milliseconds(60000)}, {60001, milliseconds(60000)}, {GENTL_INFINITE, milliseconds(60000)}};
+    for (const auto &[timeout, received] : expected) {
+        EXPECT_EQ(producer().IFUpdateDeviceList(handle, nullptr, timeout), GC_ERR_SUCCESS);
+        EXPECT_EQ(script.lastTimeout, received);
+    }
+}
+
+TEST_F(ScriptedProducer, listChangedDescriptorIsTheSourcesWhileTheLibraryIsInitialised)
+{
+    const auto descriptor
+        = reinterpret_cast<ListChangedFunction *>(producer().symbol(listChangedFunctionName));
+    EXPECT_EQ(descriptor(), -1) << "the source has none";
+    script.listChangedDescriptor = 7;
+    EXPECT_EQ(descriptor(), 7);
+    ASSERT_EQ(producer().GCCloseLib(), GC_ERR_SUCCESS);
+    EXPECT_EQ(descriptor(), -1);
+    ASSERT_EQ(producer().GCInitLib(), GC_ERR_SUCCESS);
 }
 
 TEST(ProducerRecords, recordsDifferIfAnyFieldDiffers)
 {
-    for (const auto field :
-        {&DeviceRecord::id, &DeviceRecord::vendor, &DeviceRecord::model, &DeviceRecord::tlType,
-            &DeviceRecord::displayName, &DeviceRecord::userName, &DeviceRecord::serial}) {
+    for (const auto field : {&DeviceRecord::id, &DeviceRecord::vendor, &DeviceRecord::model,
+             &DeviceRecord::tlType, &DeviceRecord::displayName, &DeviceRecord::userName,
+             &DeviceRecord::serial, &DeviceRecord::version}) {
         DeviceRecord device;
         device.*field = "other";
         EXPECT_FALSE(device == DeviceRecord());
     }
-    EXPECT_FALSE((DeviceRecord{"", "", "", "", "", "", "", DEVICE_ACCESS_STATUS_BUSY} == DeviceRecord()));
+    EXPECT_FALSE((DeviceRecord{"", "", "", "", "", "", "", DEVICE_ACCESS_STATUS_BUSY, ""} == DeviceRecord()));
     EXPECT_TRUE(DeviceRecord() == DeviceRecord());
     for (const auto field : {&InterfaceRecord::id, &InterfaceRecord::displayName, &InterfaceRecord::tlType}) {
         InterfaceRecord interface;

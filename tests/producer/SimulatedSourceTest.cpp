@@ -48,7 +48,7 @@ protected:
         const std::vector<InterfaceRecord> interfaces = source->updateInterfaces();
         EXPECT_EQ(interfaces.size(), 1U);
         Ids ids;
-        for (const DeviceRecord &device : source->updateDevices(interfaces.at(0).id))
+        for (const DeviceRecord &device : source->updateDevices(interfaces.at(0).id, {}))
             ids.push_back(device.id);
         return ids;
     }
@@ -79,7 +79,7 @@ TEST_F(SimulatedSourceTest, fileIsReadAgainWhenItsTimeStampOrSizeChanges)
         write(withDevice(id), seconds);
         EXPECT_EQ(devices(), Ids{id});
     }
-    EXPECT_TRUE(source->updateDevices("another interface").empty());
+    EXPECT_TRUE(source->updateDevices("another interface", {}).empty());
 }
 
 TEST_F(SimulatedSourceTest, invalidFileIsReportedOnlyOnce)

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <spawn.h>
@@ -101,21 +100,13 @@ TEST(GigEVision, reconnectedCameraHasTheSameId)
     }
 }
 
-TEST(GigEVision, aravisStaysLoadedWhenTheProducerIsUnloaded)
-{
-    CameraLister().await({});
-    // GLib keeps pointers into the library. RTLD_NOLOAD finds the library only if it is loaded.
-    EXPECT_NE(dlopen("libaravis-0.8.so.0", RTLD_LAZY | RTLD_NOLOAD), nullptr);
-}
-
 TEST(CameraNetworks, cameraDisappearsWithItsNetworkInterface)
 {
     CameraLister lister;
-    const Cameras all{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"elsewhere", "STRAY"}};
+    const Cameras all{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"10.77.2.1", "STRAY"}};
     ASSERT_EQ(lister.await(all), all);
     ASSERT_EQ(std::system("ip link set card1 down"), 0);
-    const Cameras left{{"10.77.2.1", "CARD2"}, {"elsewhere", "STRAY"}};
+    const Cameras left{{"10.77.2.1", "CARD2"}, {"10.77.2.1", "STRAY"}};
     EXPECT_EQ(lister.await(left), left);
-    EXPECT_EQ(
-        lister.session().interfaceIds(), (std::vector<std::string>{"127.0.0.1", "10.77.2.1", "elsewhere"}));
+    EXPECT_EQ(lister.session().interfaceIds(), (std::vector<std::string>{"127.0.0.1", "10.77.2.1"}));
 }

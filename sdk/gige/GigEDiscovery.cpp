@@ -1,0 +1,258 @@
+#include "sdk/gige/GigEDiscovery.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int maxDatagrams = 256; // Of one socket, before other work is done.
+
+int createEvent()
+{
+    const int descriptor = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    if (descriptor < 0)
+        throw std::system_error(errno, std::generic_category(), "The search for GigE cameras cannot start");
+    return descriptor;
+}
+
+/// Returns the argument of poll() for a wait until a time, but not longer than a minute.
+int pollTimeout(Clock::time_point end)
+{
+    const Clock::time_point now = Clock::now();
+    const auto limited = std::clamp(end, now, now + 1min) - now;
+    return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(limited).count());
+}
+
+/// Returns true if the new addresses contain a network interface, an address or a carrier that the old ones
+/// lack.
+bool hasMore(const std::vector<InterfaceAddress> &now, const std::vector<InterfaceAddress> &before)
+{
+    return std::any_of(now.begin(), now.end(), [&](InterfaceAddress address) {
+        const bool isKnown = std::find(before.begin(), before.end(), address) != before.end();
+        return address.hasCarrier && !isKnown;
+    });
+}
+
+} // namespace
+
+GigEDiscovery::GigEDiscovery() : m_listChangedEvent(createEvent()), m_wakeEvent(createEvent())
+{
+    readInterfaces(Clock::now());
+    m_hasNewInterface = false; // The caller is about to ask for the first lists by itself.
+    m_thread = std::thread(&GigEDiscovery::run, this);
+}
+
+GigEDiscovery::~GigEDiscovery()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isStopping = true;
+    }
+    eventfd_write(m_wakeEvent.number(), 1);
+    m_thread.join();
+}
+
+std::vector<InterfaceList> GigEDiscovery::interfaces()
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_interfaceFailure)
+        throw std::system_error(*m_interfaceFailure);
+    m_reported.noteInterfaces(currentLists());
+    return currentLists();
+}
+
+std::vector<ListedCamera> GigEDiscovery::cameras(
+    const std::string &interfaceId, std::chrono::milliseconds timeout)
+{
+    std::unique_lock lock(m_mutex);
+    if (timeout > 0ms && !m_schedule.isResultRecent(Clock::now()))
+        waitForSearch(lock, timeout);
+    const std::vector<InterfaceList> &lists = currentLists();
+    const auto list = std::find_if(
+        lists.begin(), lists.end(), [&](const InterfaceList &other) { return other.id == interfaceId; });
+    if (list == lists.end())
+        return {};
+    m_reported.noteCameras(*list);
+    return list->cameras;
+}
+
+void GigEDiscovery::waitForSearch(std::unique_lock<std::mutex> &lock, std::chrono::milliseconds timeout)
+{
+    const Time end = Clock::now() + std::min(timeout, SearchSchedule::maxAnswerDelay);
+    if (!m_schedule.isSearching()) {
+        m_isSearchRequested = true;
+        eventfd_write(m_wakeEvent.number(), 1);
+    }
+    ++m_waitingCallers;
+    m_searchEnded.wait_until(lock, end, [this, ended = m_endedSearches] { return m_endedSearches != ended; });
+    --m_waitingCallers;
+}
+
+void GigEDiscovery::run()
+{
+    std::unique_lock lock(m_mutex);
+    while (!m_isStopping) {
+        work(Clock::now());
+        waitForEvent(lock);
+        // Answers are read before deadlines are checked, so that a camera is not removed if the process was
+        // stopped for a while.
+        receive(Clock::now());
+    }
+}
+
+void GigEDiscovery::waitForEvent(std::unique_lock<std::mutex> &lock)
+{
+    std::vector<pollfd> descriptors{{m_monitor.descriptor(), POLLIN, 0}, {m_wakeEvent.number(), POLLIN, 0}};
+    for (const auto &entry : m_sockets)
+        descriptors.push_back({entry.second->descriptor(), POLLIN, 0});
+    const int timeout = pollTimeout(std::min(m_schedule.nextDeadline(), m_registry.nextDeadline()));
+    lock.unlock();
+    poll(descriptors.data(), descriptors.size(), timeout);
+    lock.lock();
+    eventfd_t count = 0;
+    eventfd_read(m_wakeEvent.number(), &count);
+    if (descriptors.front().revents != 0) {
+        readInterfaces(Clock::now());
+        reportChange();
+    }
+}
+
+void GigEDiscovery::work(Time now)
+{
+    for (const CameraRegistry::Camera &camera : m_registry.takeDueRequests(now))
+        askAgain(camera);
+    if (m_registry.removeSilent(now)) {
+        m_areListsOutdated = true;
+        reportChange();
+    }
+    if (m_schedule.endIfSettled(now)) {
+        ++m_endedSearches;
+        m_searchEnded.notify_all();
+        if (std::exchange(m_isReportedAtEnd, false) && m_waitingCallers == 0)
+            reportChange();
+    }
+    if (m_schedule.takeReport(now))
+        reportChange();
+    if (!m_schedule.isSearching() && (m_isSearchRequested || now >= m_schedule.nextSearch()))
+        startSearch(now);
+}
+
+void GigEDiscovery::readInterfaces(Time now)
+{
+    m_monitor.clear();
+    std::vector<InterfaceAddress> addresses;
+    try {
+        addresses = interfaceAddresses();
+        m_interfaceFailure.reset();
+    } catch (const std::system_error &error) {
+        m_interfaceFailure = error; // The next search tries again.
+        return;
+    }
+    if (addresses == m_addresses)
+        return;
+    if (hasMore(addresses, m_addresses)) {
+        m_hasNewInterface = true;
+        m_schedule.hasten(now);
+    }
+    m_addresses = std::move(addresses);
+    m_areListsOutdated = true;
+    openSockets();
+}
+
+/// Creates the missing sockets and removes those of network interfaces that are gone, with their cameras.
+void GigEDiscovery::openSockets()
+{
+    for (auto entry = m_sockets.begin(); entry != m_sockets.end();) {
+        const unsigned index = entry->first;
+        const bool isPresent = std::any_of(m_addresses.begin(), m_addresses.end(),
+            [&](const InterfaceAddress &address) { return address.index == index; });
+        if (!isPresent)
+            m_registry.removeInterface(index);
+        entry = isPresent ? std::next(entry) : m_sockets.erase(entry);
+    }
+    for (const InterfaceAddress &address : m_addresses) {
+        if (m_sockets.count(address.index) > 0)
+            continue;
+        try {
+            m_sockets.emplace(address.index, std::make_unique<DiscoverySocket>(address));
+        } catch (const std::system_error &) {
+            // The process has no descriptor left. The next search tries again.
+        }
+    }
+}
+
+void GigEDiscovery::startSearch(Time now)
+{
+    if (m_interfaceFailure) {
+        readInterfaces(now);
+        reportChange();
+    }
+    openSockets();
+    m_isSearchRequested = false;
+    m_isReportedAtEnd = std::exchange(m_hasNewInterface, false);
+    if (m_schedule.start(now))
+        m_registry.startSearch(now);
+    if (++m_requestId == 0)
+        ++m_requestId; // 0 is not a valid ID.
+    m_recentRequests.at(m_requestId % m_recentRequests.size()) = m_requestId;
+    for (const InterfaceAddress &address : m_addresses) {
+        const auto socket = m_sockets.find(address.index);
+        if (socket != m_sockets.end())
+            socket->second->broadcast(address, m_requestId);
+    }
+}
+
+void GigEDiscovery::askAgain(const CameraRegistry::Camera &camera) const
+{
+    const auto socket = m_sockets.find(camera.interfaceIndex);
+    if (socket == m_sockets.end())
+        return;
+    if (const auto *const own = addressInSubnet(m_addresses, camera.interfaceIndex, camera.data.address)) {
+        socket->second->sendTo(camera.data.address, *own, m_requestId);
+        return;
+    }
+    // A camera in another subnet can answer only to a broadcast.
+    for (const InterfaceAddress &address : m_addresses) {
+        if (address.index == camera.interfaceIndex)
+            socket->second->broadcastLimited(address, m_requestId);
+    }
+}
+
+void GigEDiscovery::receive(Time now)
+{
+    for (const auto &[index, socket] : m_sockets) {
+        int remaining = maxDatagrams;
+        while (const auto answer = socket->receive(remaining)) {
+            if (!isRecentRequest(answer->requestId) || !m_registry.addAnswer(index, answer->camera))
+                continue;
+            m_areListsOutdated = true;
+            m_schedule.noteNews(now);
+        }
+    }
+}
+
+bool GigEDiscovery::isRecentRequest(std::uint16_t requestId) const
+{
+    return requestId != 0
+        && std::find(m_recentRequests.begin(), m_recentRequests.end(), requestId) != m_recentRequests.end();
+}
+
+const std::vector<InterfaceList> &GigEDiscovery::currentLists()
+{
+    if (std::exchange(m_areListsOutdated, false))
+        m_lists = m_placement.place(m_addresses, m_registry.cameras());
+    return m_lists;
+}
+
+void GigEDiscovery::reportChange()
+{
+    if (m_reported.takeChange(currentLists()))
+        eventfd_write(m_listChangedEvent.number(), 1);
+}

@@ -1,0 +1,68 @@
+#include "sdk/gige/GigEVisionSource.h"
+
+namespace {
+
+/// Returns vendor, model and serial number. If all of them are empty, returns the ID.
+std::string displayName(const ListedCamera &camera)
+{
+    std::string name;
+    for (const std::string *part : {&camera.data.vendor, &camera.data.model, &camera.data.serial}) {
+        if (!name.empty() && !part->empty())
+            name += ' ';
+        name += *part;
+    }
+    return name.empty() ? camera.id : name;
+}
+
+DeviceRecord toRecord(const ListedCamera &camera)
+{
+    DeviceRecord record;
+    record.id = camera.id;
+    record.vendor = camera.data.vendor;
+    record.model = camera.data.model;
+    record.tlType = GenTL::TLTypeGEVName;
+    record.displayName = displayName(camera);
+    record.userName = camera.data.userName;
+    record.serial = camera.data.serial;
+    record.version = camera.data.version;
+    // Only an open camera reports whether another program uses it.
+    record.accessStatus
+        = camera.isReachable ? GenTL::DEVICE_ACCESS_STATUS_UNKNOWN : GenTL::DEVICE_ACCESS_STATUS_NOACCESS;
+    return record;
+}
+
+} // namespace
+
+ProducerIdentity GigEVisionSource::identity() const
+{
+    return {"UniversalGEV", "Orvelle", "Universal GigE Vision", CORVIX_PRODUCER_VERSION, GenTL::TLTypeGEVName,
+        "Universal GigE Vision producer"};
+}
+
+std::vector<InterfaceRecord> GigEVisionSource::updateInterfaces()
+{
+    std::vector<InterfaceRecord> interfaces;
+    for (const InterfaceList &list : m_discovery.interfaces())
+        interfaces.push_back({list.id, "Network interface " + list.networkInterface + " (" + list.id + ")",
+            GenTL::TLTypeGEVName});
+    return interfaces;
+}
+
+std::vector<DeviceRecord> GigEVisionSource::updateDevices(
+    const std::string &interfaceId, std::chrono::milliseconds timeout)
+{
+    std::vector<DeviceRecord> devices;
+    for (const ListedCamera &camera : m_discovery.cameras(interfaceId, timeout))
+        devices.push_back(toRecord(camera));
+    return devices;
+}
+
+int GigEVisionSource::listChangedDescriptor() const
+{
+    return m_discovery.listChangedDescriptor();
+}
+
+std::unique_ptr<DeviceSource> createDeviceSource(const std::filesystem::path &)
+{
+    return std::make_unique<GigEVisionSource>();
+}
