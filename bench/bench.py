@@ -13,6 +13,7 @@ import time
 
 import chart
 import clicking
+import discovering
 import idling
 import listing
 import pairs
@@ -23,7 +24,7 @@ import starting
 from frames import BOUND, Screen
 
 GROUPS = {"starting": starting, "listing": listing, "clicking": clicking, "querying": querying, "plugging": plugging,
-          "idling": idling, "size": size}
+          "discovering": discovering, "idling": idling, "size": size}
 
 
 class Bench:

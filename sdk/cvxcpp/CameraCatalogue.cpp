@@ -1,97 +1,141 @@
 #include "sdk/cvxcpp/CameraCatalogue.h"
 
+#include "sdk/cvxcpp/CameraIndex.h"
 #include "sdk/cvxcpp/DuplicateFilter.h"
 #include "sdk/cvxcpp/Utf8.h"
 
 #include <algorithm>
-#include <functional>
-#include <string_view>
 #include <utility>
-
-namespace {
-
-using Record = std::shared_ptr<const InterfaceRecord>;
-
-/// Sorts the interfaces and their devices. The host has sorted them by raw bytes, but replacing malformed
-/// bytes by U+FFFD may have changed the order.
-void sortRecords(std::vector<InterfaceRecord> &interfaces)
-{
-    for (InterfaceRecord &interface : interfaces)
-        std::stable_sort(interface.devices.begin(), interface.devices.end(), std::less<>());
-    std::stable_sort(
-        interfaces.begin(), interfaces.end(), [](const auto &a, const auto &b) { return a.id < b.id; });
-}
-
-bool isSameInterface(const Record &known, const InterfaceRecord &interface)
-{
-    return *known == interface;
-}
-
-} // namespace
 
 void CameraCatalogue::addProducer(const std::weak_ptr<InterfaceSource> &source, const std::string &path)
 {
-    const std::string name = toValidUtf8(std::string_view(path).substr(path.rfind('/') + 1));
-    m_producers.push_back({source, std::make_shared<const std::string>(name), {}, CameraList::empty(),
-        CameraList::empty(), nullptr});
+    Producer producer;
+    producer.source = source;
+    producer.name = std::make_shared<const std::string>(
+        toValidUtf8(std::string_view(path).substr(path.rfind('/') + 1)));
+    m_producers.push_back(std::move(producer));
 }
 
-bool CameraCatalogue::replaceInterfaces(std::size_t producer, std::vector<InterfaceRecord> interfaces)
+bool CameraCatalogue::replaceInterfaces(
+    std::size_t producer, std::vector<InterfaceRecord> interfaces, SearchKind kind, TimePoint now)
 {
-    sortRecords(interfaces);
-    Records &records = m_producers.at(producer).records;
-    if (std::equal(records.begin(), records.end(), interfaces.begin(), interfaces.end(), isSameInterface))
+    const bool isChanged = m_producers.at(producer).known.replaceAll(std::move(interfaces), kind, now);
+    return update(producer, isChanged, now);
+}
+
+bool CameraCatalogue::replaceInterface(
+    std::size_t producer, InterfaceRecord interface, SearchKind kind, TimePoint now)
+{
+    const bool isChanged = m_producers.at(producer).known.replace(std::move(interface), kind, now);
+    return update(producer, isChanged, now);
+}
+
+bool CameraCatalogue::removeInterfaces(std::size_t producer, TimePoint now)
+{
+    return replaceInterfaces(producer, {}, SearchKind::SelfUpdating, now);
+}
+
+bool CameraCatalogue::update(std::size_t producer, bool isChanged, TimePoint now)
+{
+    isChanged = removeUnownedMissing(producer) || isChanged;
+    if (isChanged)
+        createList(producer);
+    const bool isAnyHoldOver = endHolds(now);
+    if (!isChanged && !isAnyHoldOver)
         return false; // The program keeps getting the same objects.
-    records.clear();
-    for (InterfaceRecord &interface : interfaces)
-        records.push_back(std::make_shared<const InterfaceRecord>(std::move(interface)));
-    rebuild(producer);
+    chooseVisibleCameras();
     return true;
 }
 
-bool CameraCatalogue::replaceInterface(std::size_t producer, InterfaceRecord interface)
-{
-    std::stable_sort(interface.devices.begin(), interface.devices.end(), std::less<>());
-    Records &records = m_producers.at(producer).records;
-    const auto known = std::find_if(records.begin(), records.end(),
-        [&](const Record &candidate) { return candidate->number == interface.number; });
-    if (known == records.end() || **known == interface)
-        return false;
-    *known = std::make_shared<const InterfaceRecord>(std::move(interface));
-    rebuild(producer);
-    return true;
-}
-
-void CameraCatalogue::rebuild(std::size_t producer)
+void CameraCatalogue::createList(std::size_t producer)
 {
     Producer &changed = m_producers.at(producer);
-    changed.reported = CameraList::create(changed.source, producer, changed.name, changed.records);
-    std::vector<CameraList::Pointer> reported;
-    for (const Producer &one : m_producers)
-        reported.push_back(one.reported);
-    const auto visible = withoutDuplicates(reported);
+    changed.reported = CameraList::create(
+        changed.source, producer, changed.name, changed.known.records(), *changed.reported);
+    changed.identities.clear();
+    for (const auto &camera : changed.reported->cameras)
+        changed.identities.push_back(identityOf(camera->device()));
+}
+
+CameraCatalogue::OwnedCameras CameraCatalogue::ownedCameras(const Producer &producer)
+{
+    OwnedCameras owned;
+    if (!producer.announced)
+        return owned; // The search order still decides.
+    for (const auto &camera : producer.visible->cameras)
+        owned.emplace(camera->id(), camera->interfaceId());
+    return owned;
+}
+
+/// Removes the missing devices of the producer, except those of visible cameras, which may be held. Returns
+/// true if this changes an interface.
+bool CameraCatalogue::removeUnownedMissing(std::size_t producer)
+{
+    KnownInterfaces &known = m_producers.at(producer).known;
+    if (!known.hasMissing())
+        return false;
+    const OwnedCameras owned = ownedCameras(m_producers.at(producer));
+    return known.removeMissing([&](const InterfaceRecord &interface, const DeviceRecord &device, TimePoint) {
+        const auto camera = owned.find(device.id);
+        return camera != owned.end() && camera->second == interface.id;
+    });
+}
+
+/// Removes the missing devices that no other producer reports or whose time is over. Returns true if this
+/// changes an interface. This function needs no timer: every reply of a producer calls it, and each producer
+/// replies about every two seconds.
+bool CameraCatalogue::endHolds(TimePoint now)
+{
+    if (std::none_of(m_producers.begin(), m_producers.end(),
+            [](const Producer &producer) { return producer.known.hasMissing(); }))
+        return false;
+    // Missing devices do not hold each other: they all belong to visible cameras, which are different.
+    CameraIndex reported;
+    for (std::size_t i = 0; i < m_producers.size(); ++i) {
+        for (const CameraIdentity &camera : m_producers[i].identities)
+            reported.add(camera, i);
+    }
+    bool isAnyOver = false;
+    for (std::size_t i = 0; i < m_producers.size(); ++i) {
+        const auto isHeld = [&](const InterfaceRecord &, const DeviceRecord &device, TimePoint lastReport) {
+            return now - lastReport < holdTime && reported.hasSame(identityOf(device), i);
+        };
+        if (!m_producers[i].known.removeMissing(isHeld))
+            continue;
+        createList(i);
+        isAnyOver = true;
+    }
+    return isAnyOver;
+}
+
+void CameraCatalogue::chooseVisibleCameras()
+{
+    std::vector<std::vector<DuplicateCandidate>> candidates(m_producers.size());
+    for (std::size_t i = 0; i < m_producers.size(); ++i) {
+        const Producer &producer = m_producers[i];
+        const OwnedCameras owned = ownedCameras(producer);
+        for (std::size_t camera = 0; camera < producer.identities.size(); ++camera) {
+            const bool isOwned = owned.count(producer.reported->cameras[camera]->id()) > 0;
+            candidates[i].push_back({&producer.identities[camera], isOwned});
+        }
+    }
+    const std::vector<std::vector<bool>> isVisible = withoutDuplicates(candidates);
     for (std::size_t i = 0; i < m_producers.size(); ++i)
-        m_producers[i].visible = visible[i];
+        m_producers[i].visible = CameraList::selected(m_producers[i].reported, isVisible[i]);
 }
 
 std::shared_ptr<const InterfaceRecord> CameraCatalogue::findInterface(
     std::size_t producer, const std::string &interfaceId) const
 {
-    const Records &records = m_producers.at(producer).records;
-    const auto found = std::find_if(
-        records.begin(), records.end(), [&](const Record &record) { return record->id == interfaceId; });
-    return found != records.end() ? *found : nullptr;
+    return m_producers.at(producer).known.find(interfaceId);
 }
 
 std::size_t CameraCatalogue::reportedCameras(std::size_t producer) const
 {
-    std::size_t count = 0;
-    for (const Record &record : m_producers.at(producer).records)
-        count += record->devices.size();
-    return count;
+    return m_producers.at(producer).reported->reportedCameras;
 }
 
-CameraCatalogue::Cameras CameraCatalogue::handOut()
+CameraCatalogue::Cameras CameraCatalogue::takeCameras()
 {
     Cameras cameras;
     for (Producer &producer : m_producers) {
@@ -103,7 +147,7 @@ CameraCatalogue::Cameras CameraCatalogue::handOut()
     return cameras;
 }
 
-bool CameraCatalogue::announceFromNowOn(std::size_t producer)
+bool CameraCatalogue::reportChangesFromNowOn(std::size_t producer)
 {
     CameraList::Pointer &announced = m_producers.at(producer).announced;
     if (announced)

@@ -2,6 +2,7 @@
 
 #include "sdk/cvxcpp/PollSchedule.h"
 #include "sdk/cvxcpp/ProducerSearch.h"
+#include "sdk/cvxcpp/StandstillRule.h"
 #include "sdk/cvxcpp/Utf8.h"
 
 #include <algorithm>
@@ -64,74 +65,99 @@ void DiscoverySession::markEnded()
 
 std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::searchCameras()
 {
-    const TimePoint deadline = SteadyClock::now() + m_options.searchTimeout;
+    const TimePoint now = SteadyClock::now(), deadline = now + m_options.searchTimeout;
     std::unique_lock lock(m_mutex);
-    m_changed.wait_until(lock, deadline, [this] { return m_areProducersKnown || !*m_isRunning; });
+    await(lock, deadline, [this] { return m_areProducersKnown; });
 
-    const std::vector<AwaitedList> awaited = requestLists();
+    const AwaitedLists awaited = requestLists();
     m_wakeEvent.signal();
-    m_changed.wait_until(lock, deadline, [&] {
-        return !*m_isRunning || std::all_of(awaited.begin(), awaited.end(), [this](const auto &list) {
-            return hasArrived(list);
-        });
-    });
+    await(
+        lock, std::min(deadline, now + m_options.refreshTimeout), [&] { return haveArrived(awaited.newer); });
+    await(lock, deadline, [&] { return haveArrived(awaited.missing); });
     if (!*m_isRunning)
         return nullptr;
-    endSearch(awaited);
+    endSearch(awaited.missing);
     // The hold starts while the lock is held, so that observers are not notified of a later change before
     // the hold starts.
     m_notifier.holdUntil(SteadyClock::now() + m_options.notificationHold);
-    return std::make_shared<const Cameras>(m_catalogue.handOut());
+    return std::make_shared<const Cameras>(m_catalogue.takeCameras());
 }
 
-std::vector<DiscoverySession::AwaitedList> DiscoverySession::requestLists()
+template <typename Condition>
+bool DiscoverySession::await(std::unique_lock<std::mutex> &lock, TimePoint deadline, Condition isMet)
 {
-    std::vector<AwaitedList> awaited;
+    const auto isOver = [&] { return !*m_isRunning || isMet(); };
+    if (m_changed.wait_until(lock, deadline, isOver))
+        return true;
+    // After a standstill of this process, replies may have arrived that the session's thread has not read
+    // yet.
+    const TimePoint now = SteadyClock::now();
+    if (now - deadline < StandstillRule::tolerance)
+        return false;
+    const unsigned step = m_stepCount;
+    m_wakeEvent.signal();
+    const auto isRead = [&] { return m_stepCount - step >= 2; }; // One step may have begun before the signal.
+    m_changed.wait_until(lock, now + m_options.searchTimeout, [&] { return isOver() || isRead(); });
+    return isOver();
+}
+
+DiscoverySession::AwaitedLists DiscoverySession::requestLists()
+{
+    const TimePoint now = SteadyClock::now();
+    AwaitedLists awaited;
     for (std::size_t i = 0; i < m_searches.size(); ++i) {
-        if (m_searches[i].isFresh(SteadyClock::now()))
+        SearchState &search = m_searches[i];
+        const bool isCurrent = search.isCurrent(now);
+        // The result of a search that is running will be reported to the observers.
+        if (search.isFresh(now) || (isCurrent && search.isSearching()))
             continue;
-        m_searches[i].requestList();
-        if (m_searches[i].isResponsive())
-            awaited.emplace_back(i, m_searches[i].listCount());
+        search.requestShortSearch();
+        if (search.isResponsive())
+            (isCurrent ? awaited.newer : awaited.missing).push_back({i, search.listCount()});
     }
     return awaited;
 }
 
 bool DiscoverySession::hasArrived(const AwaitedList &list) const
 {
-    const auto &[producer, listCount] = list;
-    return !m_searches[producer].isResponsive() || m_searches[producer].listCount() != listCount;
+    const SearchState &search = m_searches[list.producer];
+    return !search.isResponsive() || search.listCount() != list.listCount;
 }
 
-void DiscoverySession::endSearch(const std::vector<AwaitedList> &awaited)
+bool DiscoverySession::haveArrived(const std::vector<AwaitedList> &lists) const
 {
-    for (const AwaitedList &list : awaited) {
+    return std::all_of(lists.begin(), lists.end(), [this](const auto &list) { return hasArrived(list); });
+}
+
+void DiscoverySession::endSearch(const std::vector<AwaitedList> &missing)
+{
+    for (const AwaitedList &list : missing) {
         if (!hasArrived(list))
-            m_searches[list.first].deadlineMissed();
+            m_searches[list.producer].deadlineMissed();
     }
-    if (awaited.empty())
-        return;
     for (SearchState &search : m_searches)
-        search.searchEnded(SteadyClock::now());
+        search.listReturned(SteadyClock::now());
 }
 
 DiscoverySession::SearchResult DiscoverySession::searchInterface(
     std::size_t producer, const std::string &interfaceId)
 {
-    const TimePoint deadline = SteadyClock::now() + m_options.searchTimeout;
+    const TimePoint now = SteadyClock::now();
     std::unique_lock lock(m_mutex);
     if (!*m_isRunning)
         return {CvxErrorNotStarted, nullptr};
     SearchState &search = m_searches.at(producer);
-    if (!search.isInterfaceFresh(interfaceId, SteadyClock::now()) && search.isResponsive()) {
+    const bool isCurrent = search.isCurrent(now);
+    const bool isSearched = search.isInterfaceFresh(interfaceId, now) || (isCurrent && search.isSearching());
+    if (!isSearched && search.isResponsive()) {
         search.requestInterface(interfaceId);
         m_wakeEvent.signal();
-        const bool isAnswered = m_changed.wait_until(lock, deadline, [&] {
-            return !*m_isRunning || !search.isResponsive() || !search.isInterfacePending(interfaceId);
-        });
+        const bool isAnswered
+            = await(lock, now + (isCurrent ? m_options.refreshTimeout : m_options.searchTimeout),
+                [&] { return !search.isResponsive() || !search.isInterfacePending(interfaceId); });
         if (!*m_isRunning)
             return {CvxErrorNotStarted, nullptr};
-        if (!isAnswered)
+        if (!isAnswered && !isCurrent)
             search.deadlineMissed();
     }
     auto record = m_catalogue.findInterface(producer, interfaceId);
@@ -162,12 +188,11 @@ void DiscoverySession::discover()
         pool.step([&](std::size_t producer, ProducerSupervisor::Event &event) {
             publish(pool.host(producer), producer, event);
         });
-        const bool isPollDue = schedule.takeDuePoll(SteadyClock::now());
-        if (isPollDue)
-            announceAll();
+        if (schedule.takeDuePoll(SteadyClock::now()))
+            beginPoll();
         noticeLateReplies(pool);
-        sendRequests(pool, isPollDue);
-        pool.wait(m_wakeEvent.descriptor(), schedule.nextPoll());
+        const TimePoint nextSearch = sendRequests(pool);
+        pool.wait(m_wakeEvent.descriptor(), std::min(schedule.nextPoll(), nextSearch));
         m_wakeEvent.clear();
     }
     pool.close();
@@ -183,7 +208,9 @@ std::vector<std::string> DiscoverySession::findProducerPaths()
         const std::lock_guard lock(m_mutex);
         for (const std::string &path : paths)
             m_catalogue.addProducer(weak_from_this(), path);
-        m_searches.resize(paths.size(), SearchState(m_options.reuseTime));
+        const SearchState::Intervals intervals{m_options.pollInterval, m_options.listReuse,
+            m_options.interfaceReuse, m_options.shortSearch < m_options.backgroundSearch};
+        m_searches.resize(paths.size(), SearchState(intervals));
         m_areProducersKnown = true;
     }
     m_changed.notify_all();
@@ -209,32 +236,36 @@ void DiscoverySession::publish(
 
 bool DiscoverySession::updateCatalogue(std::size_t producer, ProducerSupervisor::Event &event)
 {
+    const TimePoint now = SteadyClock::now();
     SearchState &search = m_searches[producer];
     switch (event.kind) {
     case ProducerSupervisor::Event::Kind::CamerasListed:
-        search.listReceived(SteadyClock::now(), event.isInTime);
-        return m_catalogue.replaceInterfaces(producer, std::move(event.interfaces));
+        search.listReceived(
+            now, {event.isInTime, event.search == SearchKind::SelfUpdating, event.processorTime});
+        return m_catalogue.replaceInterfaces(producer, std::move(event.interfaces), event.search, now);
     case ProducerSupervisor::Event::Kind::InterfaceSearched:
-        search.interfaceReceived(event.searchedInterface, SteadyClock::now(), event.isInTime);
+        search.interfaceReceived(event.searchedInterface, now, event.isInTime);
         // If the interface no longer exists, the reply is empty, and the next camera list removes the
         // interface.
         return !event.interfaces.empty()
-            && m_catalogue.replaceInterface(producer, std::move(event.interfaces.front()));
+            && m_catalogue.replaceInterface(producer, std::move(event.interfaces.front()), event.search, now);
     case ProducerSupervisor::Event::Kind::HostLost:
         break;
     }
     search.producerLost();
-    m_catalogue.announceFromNowOn(producer);
-    return m_catalogue.replaceInterfaces(producer, {});
+    m_catalogue.reportChangesFromNowOn(producer);
+    return m_catalogue.removeInterfaces(producer, now);
 }
 
-void DiscoverySession::announceAll()
+void DiscoverySession::beginPoll()
 {
     bool isAnyNew = false;
     {
         const std::lock_guard lock(m_mutex);
-        for (std::size_t i = 0; i < m_searches.size(); ++i)
-            isAnyNew = m_catalogue.announceFromNowOn(i) || isAnyNew;
+        for (std::size_t i = 0; i < m_searches.size(); ++i) {
+            m_searches[i].requestBackgroundSearch();
+            isAnyNew = m_catalogue.reportChangesFromNowOn(i) || isAnyNew;
+        }
     }
     if (isAnyNew)
         m_notifier.notify();
@@ -250,7 +281,7 @@ void DiscoverySession::noticeLateReplies(const HostPool &pool)
             if (!pool.host(i).isReplyLate(now))
                 continue;
             m_searches[i].deadlineMissed();
-            m_catalogue.announceFromNowOn(i);
+            m_catalogue.reportChangesFromNowOn(i);
             isAnyLate = true;
         }
     }
@@ -258,40 +289,42 @@ void DiscoverySession::noticeLateReplies(const HostPool &pool)
         m_changed.notify_all();
 }
 
-void DiscoverySession::sendRequests(HostPool &pool, bool isPollDue)
+TimePoint DiscoverySession::sendRequests(HostPool &pool)
 {
     const TimePoint now = SteadyClock::now();
-    bool isAnyRefused = false;
+    TimePoint nextSearch = TimePoint::max();
     {
         const std::lock_guard lock(m_mutex);
         for (std::size_t i = 0; i < pool.size(); ++i) {
-            if (isPollDue)
-                m_searches[i].requestList();
+            if (pool.host(i).takeListChange())
+                m_searches[i].requestCollection();
+            if (!pool.host(i).isIdle())
+                continue;
+            sendPendingRequest(pool.host(i), i, now);
             if (pool.host(i).isIdle())
-                isAnyRefused = !sendPendingRequest(pool.host(i), i, now) || isAnyRefused;
+                nextSearch = std::min(nextSearch, m_searches[i].nextListRequest());
         }
+        ++m_stepCount;
     }
-    if (isAnyRefused)
-        m_changed.notify_all();
+    m_changed.notify_all();
+    return nextSearch;
 }
 
-/// Sends the next pending request, if there is one. Returns false if a request was dropped because the
-/// producer has no such interface.
-bool DiscoverySession::sendPendingRequest(ProducerSupervisor &host, std::size_t producer, TimePoint now)
+/// Sends the next pending request, if there is one. Drops a request if the producer has no such interface.
+void DiscoverySession::sendPendingRequest(ProducerSupervisor &host, std::size_t producer, TimePoint now)
 {
     SearchState &search = m_searches[producer];
-    if (search.takeListRequest()) {
-        host.requestCameras(now);
-        return true;
+    if (const auto request = search.takeListRequest(now)) {
+        host.requestCameras(*request, now);
+        search.requestSent(now);
+        return;
     }
-    bool isNoneDropped = true;
     while (const auto interfaceId = search.nextInterfaceRequest()) {
         if (const auto interface = m_catalogue.findInterface(producer, *interfaceId)) {
             host.requestInterface(*interface, now);
-            break;
+            search.requestSent(now);
+            return;
         }
         search.dropInterfaceRequest(*interfaceId);
-        isNoneDropped = false;
     }
-    return isNoneDropped;
 }

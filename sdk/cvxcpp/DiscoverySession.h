@@ -15,7 +15,6 @@
 #include <mutex>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
 /// The camera system between one Startup() and the next Shutdown(). One thread runs the producer hosts and
@@ -32,8 +31,9 @@ public:
     void start(); ///< Throws std::system_error if no thread can be started.
     void stop(); ///< Wakes all callers, ends the hosts, and blocks until no observer is being called.
 
-    /// Searches for cameras, unless the last search has ended very recently, and returns all known cameras.
-    /// Blocks for at most SystemOptions::searchTimeout. Returns null if the session ends.
+    /// Starts a short search, unless the last list is very new, and returns all known cameras. Blocks for at
+    /// most SystemOptions::refreshTimeout if the background searches have kept the list current; otherwise,
+    /// as for the first list, for at most SystemOptions::searchTimeout. Returns null if the session ends.
     std::shared_ptr<const Cameras> searchCameras();
 
     RunningFlag runningFlag() const override { return m_isRunning; }
@@ -42,9 +42,18 @@ public:
     ObserverNotifier &notifier() { return m_notifier; }
 
 private:
-    /// The index of a producer that a caller waits for, and the number of camera lists that had arrived
-    /// from this producer when the wait started.
-    using AwaitedList = std::pair<std::size_t, unsigned>;
+    /// A producer that a caller waits for, and the number of camera lists that had arrived from it when the
+    /// wait started.
+    struct AwaitedList
+    {
+        std::size_t producer;
+        unsigned listCount;
+    };
+    struct AwaitedLists
+    {
+        std::vector<AwaitedList> newer; ///< The lists of these producers are current.
+        std::vector<AwaitedList> missing; ///< The lists of these producers are missing or outdated.
+    };
 
     // These functions run on the session's thread; stop() calls markEnded() too.
     void run();
@@ -52,16 +61,21 @@ private:
     std::vector<std::string> findProducerPaths();
     void publish(ProducerSupervisor &host, std::size_t producer, ProducerSupervisor::Event &event);
     bool updateCatalogue(std::size_t producer, ProducerSupervisor::Event &event);
-    void announceAll();
+    void beginPoll();
     void noticeLateReplies(const HostPool &pool);
-    void sendRequests(HostPool &pool, bool isPollDue);
-    bool sendPendingRequest(ProducerSupervisor &host, std::size_t producer, TimePoint now);
+    /// Returns the time at which the next pending search may start.
+    TimePoint sendRequests(HostPool &pool);
+    void sendPendingRequest(ProducerSupervisor &host, std::size_t producer, TimePoint now);
     void markEnded();
 
     // These functions run on the callers' threads while the mutex is held.
-    std::vector<AwaitedList> requestLists();
+    /// Waits until the condition is met or the session ends. Returns false at the deadline.
+    template <typename Condition>
+    bool await(std::unique_lock<std::mutex> &lock, TimePoint deadline, Condition isMet);
+    AwaitedLists requestLists();
     bool hasArrived(const AwaitedList &list) const;
-    void endSearch(const std::vector<AwaitedList> &awaited);
+    bool haveArrived(const std::vector<AwaitedList> &lists) const;
+    void endSearch(const std::vector<AwaitedList> &missing);
 
     const SystemOptions m_options;
     const std::vector<std::string> m_ctiDirectories;
@@ -74,5 +88,6 @@ private:
     std::condition_variable m_changed; // Wakes the waiting callers when a reply arrives.
     CameraCatalogue m_catalogue;
     std::vector<SearchState> m_searches; // Contains one element for each producer.
+    unsigned m_stepCount = 0; // Number of times that the thread has read all messages of the hosts.
     bool m_areProducersKnown = false;
 };

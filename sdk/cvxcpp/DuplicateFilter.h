@@ -1,12 +1,18 @@
 #pragma once
 
-#include "sdk/cvxcpp/CameraList.h"
+#include "sdk/cvxcpp/CameraIdentity.h"
 
 #include <vector>
 
-/// Takes one camera list for each producer, in the search order, and returns the lists without the cameras
-/// that an earlier producer also reports. Two cameras are the same if their vendors, models and serial
-/// numbers are equal; ASCII letter case and surrounding white space are ignored. A camera that lacks one of
-/// the three fields is never a duplicate. Duplicates within one producer are kept. A list without
-/// duplicates is returned unchanged.
-std::vector<CameraList::Pointer> withoutDuplicates(const std::vector<CameraList::Pointer> &lists);
+/// A camera that a producer reports, for the choice of the producer that lists it.
+struct DuplicateCandidate
+{
+    const CameraIdentity *identity = nullptr;
+    bool isOwned = false; ///< True if the program knows that this producer lists the camera.
+};
+
+/// Takes the cameras of each producer in the search order, and returns for each camera whether its producer
+/// lists it. A camera that several producers report, as CameraIndex defines it, is listed by the producer
+/// that owns it, otherwise by the first one in the search order. Duplicates within one producer are kept.
+std::vector<std::vector<bool>> withoutDuplicates(
+    const std::vector<std::vector<DuplicateCandidate>> &producers);

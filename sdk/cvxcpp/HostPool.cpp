@@ -41,6 +41,11 @@ std::vector<TimePoint> HostPool::startTimes() const
 
 void HostPool::step(const EventHandler &handle)
 {
+    const Milliseconds standstill = m_standstills.wokeUp(SteadyClock::now());
+    if (standstill > 0ms) {
+        for (ProducerSupervisor &host : m_hosts)
+            host.extendDeadlines(standstill);
+    }
     const std::vector<std::size_t> starts = chooseStarts(startTimes(), SteadyClock::now());
     for (std::size_t i = 0; i < m_hosts.size(); ++i) {
         const TimePoint now = SteadyClock::now();
@@ -62,7 +67,9 @@ void HostPool::wait(int wakeDescriptor, TimePoint until)
         if (host.descriptor() >= 0)
             descriptors.push_back({host.descriptor(), POLLIN, 0});
     }
-    poll(descriptors.data(), descriptors.size(), pollTimeout(until, now)); // A signal may end the wait early.
+    const int timeout = pollTimeout(until, now);
+    m_standstills.waitsUntil(now + Milliseconds(timeout));
+    poll(descriptors.data(), descriptors.size(), timeout); // A signal may end the wait early.
 
     auto descriptor = descriptors.begin() + 1;
     for (std::size_t i = 0; i < m_hosts.size(); ++i)
@@ -73,10 +80,15 @@ void HostPool::close()
 {
     for (ProducerSupervisor &host : m_hosts)
         host.beginClose();
-    closeUntil(SteadyClock::now() + m_options.closeTimeout);
+    const TimePoint start = SteadyClock::now();
+    closeUntil(start + m_options.closeTimeout, [&](ProducerSupervisor &host) {
+        if (SteadyClock::now() >= start + host.closeTimeout())
+            host.killUnclosed(SteadyClock::now());
+        host.stepClose();
+    });
     for (ProducerSupervisor &host : m_hosts)
         host.killUnclosed(SteadyClock::now());
-    closeUntil(SteadyClock::now() + killTimeout);
+    closeUntil(SteadyClock::now() + killTimeout, [](ProducerSupervisor &host) { host.stepClose(); });
 }
 
 bool HostPool::areAllGone() const
@@ -85,11 +97,11 @@ bool HostPool::areAllGone() const
         m_hosts.begin(), m_hosts.end(), [](const ProducerSupervisor &host) { return host.isGone(); });
 }
 
-void HostPool::closeUntil(TimePoint deadline)
+void HostPool::closeUntil(TimePoint deadline, const std::function<void(ProducerSupervisor &)> &step)
 {
     while (!areAllGone() && SteadyClock::now() < deadline) {
         std::this_thread::sleep_for(closeStepInterval);
         for (ProducerSupervisor &host : m_hosts)
-            host.stepClose();
+            step(host);
     }
 }

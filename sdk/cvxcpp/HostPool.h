@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sdk/cvxcpp/ProducerSupervisor.h"
+#include "sdk/cvxcpp/StandstillRule.h"
 #include "sdk/cvxcpp/SystemOptions.h"
 #include "sdk/cvxcpp/Timing.h"
 
@@ -32,16 +33,18 @@ public:
     /// reached.
     void wait(int wakeDescriptor, TimePoint until);
 
-    /// Closes the producers and ends their hosts. Blocks for at most SystemOptions::closeTimeout, plus
-    /// 300 ms if hosts have to be killed.
+    /// Closes the producers and ends their hosts. A search cannot be interrupted, so a host whose search does
+    /// not end within SystemOptions::searchEndTimeout is killed. Blocks for at most
+    /// SystemOptions::closeTimeout, plus 300 ms if hosts have to be killed.
     void close();
 
 private:
     std::vector<TimePoint> startTimes() const;
     bool areAllGone() const;
-    void closeUntil(TimePoint deadline);
+    void closeUntil(TimePoint deadline, const std::function<void(ProducerSupervisor &)> &step);
 
     const SystemOptions &m_options;
     std::deque<ProducerSupervisor> m_hosts; // A deque, because hosts cannot be moved.
+    StandstillRule m_standstills;
     std::vector<bool> m_isReadable; // Whether the last wait() found each host readable.
 };

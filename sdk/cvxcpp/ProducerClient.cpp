@@ -31,6 +31,7 @@ void ProducerClient::connect(LineChannel channel)
 {
     m_channel = std::move(channel);
     m_awaitedId.reset();
+    m_isListChanged = false;
 }
 
 void ProducerClient::disconnect()
@@ -76,7 +77,10 @@ ProducerClient::Received ProducerClient::receive()
         case LineChannel::Status::Lost: // A reply before the end is valid; the next call reports the end.
             return std::holds_alternative<Message>(received) ? received : Disconnected();
         }
-        received = check(line);
+        auto checked = check(line);
+        if (std::holds_alternative<Nothing>(checked))
+            continue;
+        received = std::move(checked);
         if (!std::holds_alternative<Message>(received))
             return received;
     }
@@ -90,9 +94,14 @@ ProducerClient::Received ProducerClient::check(const std::string &line)
     // A thread of the producer may fail at any time, so a failure message may arrive without a request.
     if (auto failed = message->content<ProducerFailedReply>())
         return ProducerFailure{std::move(failed->problem)};
+    if (message->content<ListChangedNotice>()) {
+        m_isListChanged = true;
+        return Nothing();
+    }
     if (message->id() != m_awaitedId)
         return ProtocolError{"sent a reply that was not requested"};
     m_awaitedId.reset();
+    m_isListChanged = false; // The reply is newer than the notices before it.
     return std::move(*message);
 }
 

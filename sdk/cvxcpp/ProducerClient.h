@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -72,6 +73,12 @@ public:
     /// outstanding request.
     Received receive();
 
+    /// Returns true if the host has reported a changed list since the last reply and since the last call.
+    bool takeListChange() { return std::exchange(m_isListChanged, false); }
+
+    /// Moves the deadlines of the outstanding request, because this process could not receive the reply.
+    void extendDeadlines(Milliseconds time) { m_sentAt += time; }
+
     /// Reads the last messages of a host that was asked to close, and appends their problems. Returns false
     /// if no further message is expected.
     bool receiveLast(std::vector<Problem> &problems);
@@ -86,4 +93,5 @@ private:
     Message::Id m_lastId = Message::noRequest;
     std::optional<Message::Id> m_awaitedId;
     TimePoint m_sentAt{};
+    bool m_isListChanged = false;
 };

@@ -40,16 +40,24 @@ TimePoint ProducerSupervisor::startTime() const
     return m_state == State::Waiting ? m_restartPolicy.nextStart() : TimePoint::max();
 }
 
-void ProducerSupervisor::requestCameras(TimePoint now)
+void ProducerSupervisor::requestCameras(SearchState::Request request, TimePoint now)
 {
+    const bool isBackground = request == SearchState::Request::Background;
     m_requestedInterface.reset();
-    m_client.send(ListCamerasRequest{m_interfaceUpdates.takeDueUpdate(now), 500}, now);
+    m_requestedSearch = isBackground ? SearchKind::Background : SearchKind::Short;
+    const bool updatesInterfaces = m_interfaceUpdates.takeDueUpdate(now) || m_isSelfUpdating;
+    const Milliseconds timeout = isBackground         ? m_options.backgroundSearch
+        : request == SearchState::Request::Collection ? Milliseconds(0)
+                                                      : m_options.shortSearch;
+    m_client.send(ListCamerasRequest{updatesInterfaces, static_cast<std::uint32_t>(timeout.count())}, now);
 }
 
 void ProducerSupervisor::requestInterface(const InterfaceRecord &interface, TimePoint now)
 {
     m_requestedInterface = interface.id;
-    m_client.send(ListInterfaceRequest{interface.number, 500}, now);
+    m_requestedSearch = SearchKind::Short;
+    const auto timeout = static_cast<std::uint32_t>(m_options.shortSearch.count());
+    m_client.send(ListInterfaceRequest{interface.number, timeout}, now);
 }
 
 TimePoint ProducerSupervisor::nextStep(TimePoint now) const
@@ -82,8 +90,8 @@ std::optional<ProducerSupervisor::Event> ProducerSupervisor::start(TimePoint now
     if (!started.failure.empty())
         return failWith(started.failure, 0ms, now);
     m_client.connect(std::move(started.channel));
-    m_state = State::Running;
-    requestCameras(now); // The host reads the request once it has loaded the producer.
+    m_state = State::Running; // The host reads the first request once it has loaded the producer.
+    m_isSelfUpdating = false;
     return std::nullopt;
 }
 
@@ -108,12 +116,18 @@ std::optional<ProducerSupervisor::Event> ProducerSupervisor::acceptReply(
     if (!reply)
         return failWith("sent a reply that cannot be read", 0ms, now);
     m_reporter.reportProblems(reply->problems);
-    const bool isInTime = m_client.isInTime(now);
-    if (m_requestedInterface)
-        return Event{
-            Event::Kind::InterfaceSearched, std::move(reply->interfaces), *m_requestedInterface, isInTime};
-    m_reporter.camerasListed();
-    return Event{Event::Kind::CamerasListed, std::move(reply->interfaces), {}, isInTime};
+    m_isSelfUpdating = reply->isSelfUpdating;
+    Event event{Event::Kind::CamerasListed, std::move(reply->interfaces)};
+    event.search = m_isSelfUpdating ? SearchKind::SelfUpdating : m_requestedSearch;
+    event.isInTime = m_client.isInTime(now);
+    event.processorTime = Milliseconds(reply->processorTime);
+    if (m_requestedInterface) {
+        event.kind = Event::Kind::InterfaceSearched;
+        event.searchedInterface = *m_requestedInterface;
+    } else {
+        m_reporter.camerasListed();
+    }
+    return event;
 }
 
 std::optional<ProducerSupervisor::Event> ProducerSupervisor::checkHost(TimePoint now)
@@ -152,7 +166,7 @@ ProducerSupervisor::Event ProducerSupervisor::fail(State state, Milliseconds gra
     m_restartPolicy.failed(now);
     m_client.disconnect();
     awaitExit(now);
-    return {Event::Kind::HostLost, {}, {}, false};
+    return {Event::Kind::HostLost};
 }
 
 void ProducerSupervisor::awaitExit(TimePoint now)
@@ -164,6 +178,12 @@ void ProducerSupervisor::awaitExit(TimePoint now)
         m_reporter.reportFailure(status ? exitReason(*status) : "closed its connection and was killed");
     m_state = status ? State::Waiting : State::Failed;
     m_process.kill();
+}
+
+void ProducerSupervisor::extendDeadlines(Milliseconds time)
+{
+    m_client.extendDeadlines(time);
+    m_killAt += time;
 }
 
 void ProducerSupervisor::reportUnusedCameras(std::size_t reported, std::size_t used)
@@ -179,6 +199,11 @@ void ProducerSupervisor::beginClose()
     }
     m_state = m_client.isWaiting() ? State::ClosingDuringRequest : State::Closing;
     m_client.sendLast(CloseProducerRequest());
+}
+
+Milliseconds ProducerSupervisor::closeTimeout() const
+{
+    return m_state == State::ClosingDuringRequest ? m_options.searchEndTimeout : m_options.closeTimeout;
 }
 
 void ProducerSupervisor::stepClose()
@@ -206,7 +231,7 @@ void ProducerSupervisor::killUnclosed(TimePoint now)
         return;
     if (m_state == State::Closing || m_state == State::Disconnected)
         m_reporter.reportFailure("did not end within " + seconds(m_options.closeTimeout) + " and was killed");
-    else if (m_state == State::ClosingDuringRequest && !m_reporter.hasReported())
+    else if (m_state == State::ClosingDuringRequest && m_client.isLate(now) && !m_reporter.hasReported())
         m_reporter.reportFailure(
             "had not answered for " + seconds(m_client.waitingTime(now)) + " and was killed");
     m_state = State::Failed;

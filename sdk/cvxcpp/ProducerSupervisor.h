@@ -5,6 +5,8 @@
 #include "sdk/cvxcpp/ProducerClient.h"
 #include "sdk/cvxcpp/ProducerProcess.h"
 #include "sdk/cvxcpp/RestartPolicy.h"
+#include "sdk/cvxcpp/SearchKind.h"
+#include "sdk/cvxcpp/SearchState.h"
 #include "sdk/cvxcpp/SystemOptions.h"
 #include "sdk/protocol/CameraRecords.h"
 #include "sdk/protocol/DiscoveryMessages.h"
@@ -30,11 +32,13 @@ public:
             HostLost
         };
 
-        Kind kind;
+        Kind kind = Kind::HostLost;
         /// All interfaces; for InterfaceSearched, only the searched interface or none.
-        std::vector<InterfaceRecord> interfaces;
-        std::string searchedInterface; ///< ID of the interface; empty unless the kind is InterfaceSearched.
+        std::vector<InterfaceRecord> interfaces{};
+        std::string searchedInterface{}; ///< ID of the interface; empty unless the kind is InterfaceSearched.
+        SearchKind search = SearchKind::Short;
         bool isInTime = true; ///< True if the reply was not late.
+        Milliseconds processorTime{0}; ///< Processor time that the host used for the search.
     };
 
     ProducerSupervisor(const SystemOptions &options, const std::string &producerPath);
@@ -47,8 +51,11 @@ public:
     bool isIdle() const { return m_state == State::Running && !m_client.isWaiting(); }
     bool isReplyLate(TimePoint now) const { return m_client.isLate(now); }
 
-    void requestCameras(TimePoint now);
+    void requestCameras(SearchState::Request request, TimePoint now);
     void requestInterface(const InterfaceRecord &interface, TimePoint now);
+
+    /// Returns true if the host has reported a changed list since the last reply and since the last call.
+    bool takeListChange() { return m_client.takeListChange(); }
 
     /// Returns the descriptor to poll for reading, or -1 if there is no connection.
     int descriptor() const { return m_client.descriptor(); }
@@ -57,11 +64,15 @@ public:
     TimePoint nextStep(TimePoint now) const;
     std::optional<Event> step(TimePoint now, bool isReadable);
 
+    /// Moves all deadlines after a time in which this process could not receive anything.
+    void extendDeadlines(Milliseconds time);
+
     void reportUnusedCameras(std::size_t reported, std::size_t used);
 
-    // At the end of the session, call beginClose(), then stepClose() until the host is gone or its time is
-    // over, and killUnclosed() if the host still exists.
+    // At the end of the session, call beginClose(), then stepClose() until the host is gone or the time of
+    // its closeTimeout() is over, and killUnclosed() if the host still exists.
     void beginClose();
+    Milliseconds closeTimeout() const;
     void stepClose();
     void killUnclosed(TimePoint now);
     bool isGone() const { return !m_process.isStarted(); }
@@ -96,5 +107,7 @@ private:
     FailureReporter m_reporter;
     // ID of the interface; nothing if the last request was for all cameras.
     std::optional<std::string> m_requestedInterface;
+    SearchKind m_requestedSearch = SearchKind::Short;
+    bool m_isSelfUpdating = false; // Whether the last reply came from a self-updating producer.
     TimePoint m_killAt{}; // Time at which a Disconnected or Failed host is killed.
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/producerhost/ListChangeWatch.h"
 #include "sdk/producerhost/LoadedProducer.h"
 #include "sdk/protocol/DiscoveryMessages.h"
 #include "sdk/protocol/LineChannel.h"
@@ -19,6 +20,11 @@ public:
     int run(const char *producerPath);
 
 private:
+    /// Blocks until the next request has arrived or the connection ends. Meanwhile, reports a change of the
+    /// producer's lists.
+    LineChannel::Status waitForRequest(std::string &line);
+    void reportListChange();
+
     /// Calls the handler of the request in this line. Ends the service if the line is not a valid request.
     void serve(const std::string &line);
 
@@ -38,6 +44,8 @@ private:
     LineChannel m_channel;
     LineChannel::Status m_connection = LineChannel::Status::Line; // Status of the last read or write.
     LoadedProducer m_producer;
+    ListChangeWatch m_listChanges;
+    bool m_isChangeReported = false; // If true, the next ListCamerasRequest collects all further changes.
     Message::Id m_request = Message::noRequest; // ID of the request that is being handled.
     bool m_isFinished = false; // If true, no further request is served.
 };

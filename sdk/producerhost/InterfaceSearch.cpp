@@ -10,11 +10,13 @@ namespace {
 using Clock = OpenInterface::Clock;
 using Interfaces = std::vector<std::unique_ptr<OpenInterface>>;
 
-constexpr std::size_t maxThreads = 8;
+constexpr std::size_t maxThreads = 16; // 32 network interfaces are searched in twice the timeout.
 constexpr auto maxSerialTime = std::chrono::milliseconds(20); // Threads would make a shorter search slower.
 
-bool isExpectedQuick(const Interfaces &interfaces)
+bool isExpectedQuick(const Interfaces &interfaces, std::uint32_t timeout)
 {
+    if (timeout == 0)
+        return true;
     Clock::duration total{};
     for (const auto &interface : interfaces) {
         if (!interface->searchTime())
@@ -26,7 +28,7 @@ bool isExpectedQuick(const Interfaces &interfaces)
 
 } // namespace
 
-void searchInterfaces(const Interfaces &interfaces)
+void searchInterfaces(const Interfaces &interfaces, std::uint32_t timeout)
 {
     const Clock::time_point deadline = UpdateTimeout::deadline();
     std::atomic<std::size_t> next{0};
@@ -35,12 +37,12 @@ void searchInterfaces(const Interfaces &interfaces)
             const std::size_t index = next++;
             if (index >= interfaces.size())
                 return;
-            interfaces[index]->search(deadline);
+            interfaces[index]->search(timeout, deadline);
         }
     };
     // If the previous searches were quick, no threads are started, so that an idle machine wakes up less
     // often.
-    if (isExpectedQuick(interfaces))
+    if (isExpectedQuick(interfaces, timeout))
         work(Clock::now() + maxSerialTime);
 
     const std::size_t remaining = interfaces.size() - std::min(next.load(), interfaces.size());

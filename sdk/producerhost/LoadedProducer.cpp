@@ -9,6 +9,7 @@
 namespace {
 
 constexpr std::uint32_t maxCredibleInterfaces = 1U << 16; // A larger number is certainly wrong.
+constexpr std::uint32_t shortInterfaceTimeout = 20; // Milliseconds; for the interface list in a short search.
 
 } // namespace
 
@@ -29,14 +30,22 @@ std::optional<Problem> LoadedProducer::open(const char *path)
     return std::nullopt;
 }
 
-std::optional<Problem> LoadedProducer::updateInterfaces()
+bool LoadedProducer::needsInterfaceUpdate(std::uint32_t timeout) const
+{
+    return !m_hasInterfaceList || (!m_isInterfaceListConfirmed && !UpdateTimeout::isShort(timeout));
+}
+
+std::optional<Problem> LoadedProducer::updateInterfaces(std::uint32_t timeout)
 {
     m_problems.clear();
+    const bool isShort = UpdateTimeout::isShort(timeout);
+    const std::uint32_t requested = isShort ? std::min(timeout, shortInterfaceTimeout) : timeout;
     GenTL::bool8_t changed = 0; // The value is ignored, because not every producer writes it.
     auto problem = m_library.call("TLUpdateInterfaceList", m_library.TLUpdateInterfaceList, m_system,
-        &changed, m_timeout.until(UpdateTimeout::deadline()));
-    const bool getsMoreTime = problem && isTimeout(*problem) && m_timeout.grow();
+        &changed, m_timeout.until(requested, UpdateTimeout::deadline()));
+    const bool getsMoreTime = problem && isTimeout(*problem) && m_timeout.grow(requested);
     m_hasInterfaceList = !getsMoreTime;
+    m_isInterfaceListConfirmed = m_isInterfaceListConfirmed || (m_hasInterfaceList && !isShort);
     if (getsMoreTime)
         return std::nullopt;
 
@@ -118,20 +127,20 @@ void LoadedProducer::openInterface(const std::string &id)
         m_interfaces.push_back(std::make_unique<OpenInterface>(m_library, handle, m_nextNumber++, id));
 }
 
-void LoadedProducer::searchAll()
+void LoadedProducer::searchAll(std::uint32_t timeout)
 {
-    searchInterfaces(m_interfaces);
+    searchInterfaces(m_interfaces, timeout);
     for (const auto &interface : m_interfaces)
         interface->describe(m_system);
 }
 
-const OpenInterface *LoadedProducer::searchInterface(std::uint64_t number)
+const OpenInterface *LoadedProducer::searchInterface(std::uint64_t number, std::uint32_t timeout)
 {
     const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(),
         [&](const auto &interface) { return interface->record().number == number; });
     if (found == m_interfaces.end())
         return nullptr;
-    (*found)->search(UpdateTimeout::deadline());
+    (*found)->search(timeout, UpdateTimeout::deadline());
     (*found)->describe(m_system);
     return found->get();
 }

@@ -1,12 +1,10 @@
 #include "sdk/producerhost/ProducerLibrary.h"
 
-#include <algorithm>
+#include "sdk/producerhost/ForeignFormat.h"
+
 #include <array>
-#include <cstddef>
 #include <cstring>
 #include <dlfcn.h>
-#include <elf.h>
-#include <fstream>
 
 namespace {
 
@@ -15,27 +13,6 @@ bool resolve(void *library, const char *name, Function &function)
 {
     function = reinterpret_cast<Function>(dlsym(library, name));
     return function != nullptr;
-}
-
-using ElfIdentity = std::array<char, 20>; // The start of the ELF header, up to the machine field.
-
-ElfIdentity elfIdentity(const char *path)
-{
-    ElfIdentity identity{};
-    std::ifstream(path, std::ios::binary).read(identity.data(), identity.size());
-    return identity;
-}
-
-/// Returns true if the file is an ELF file for another processor architecture. In this case, the text of
-/// dlerror() is misleading: it says that the file does not exist.
-bool isForAnotherMachine(const char *path)
-{
-    const auto identity = elfIdentity(path), own = elfIdentity("/proc/self/exe");
-    const auto differs = [&](std::size_t index) { return identity[index] != own[index]; };
-    const bool isElf = std::equal(own.begin(), own.begin() + SELFMAG, identity.begin());
-    return isElf
-        && (differs(EI_CLASS) || differs(EI_DATA) || differs(offsetof(Elf64_Ehdr, e_machine))
-            || differs(offsetof(Elf64_Ehdr, e_machine) + 1));
 }
 
 } // namespace
@@ -48,15 +25,14 @@ std::optional<Problem> ProducerLibrary::load(const char *path)
     if (void *const library = dlopen(path, RTLD_NOW | RTLD_LOCAL))
         return resolveFunctions(library);
     const std::string error = dlerror();
-    if (isForAnotherMachine(path))
-        return Problem{"dlopen", 0, "the library is for another processor architecture"};
-    return Problem{"dlopen", 0, error};
+    return Problem{"dlopen", 0, foreignFormat(path).value_or(error)};
 }
 
 std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)
 {
     resolve(library, "TLGetInterfaceInfo", TLGetInterfaceInfo);
     resolve(library, "GCGetLastError", GCGetLastError);
+    resolve(library, listChangedFunctionName, listChangedDescriptor);
 
     std::string missing;
     const auto require = [&](const char *name, auto &function) {
@@ -79,6 +55,15 @@ std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)
     if (missing.empty())
         return std::nullopt;
     return Problem{"dlsym", 0, "the library lacks " + missing};
+}
+
+int ProducerLibrary::listChangeDescriptor() const
+{
+    try {
+        return listChangedDescriptor ? listChangedDescriptor() : -1;
+    } catch (...) {
+        return -1; // Without the descriptor, the producer is searched like any other.
+    }
 }
 
 std::string ProducerLibrary::lastErrorText() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sdk/gentl/GenTL.h"
+#include "sdk/gentl/ListChangeExtension.h"
 #include "sdk/protocol/Problem.h"
 
 #include <cstdint>
@@ -51,6 +52,10 @@ public:
         return Problem{name, code, lastErrorText()};
     }
 
+    /// Returns the descriptor that is readable after the producer's lists have changed, or a negative number
+    /// if the producer has none.
+    int listChangeDescriptor() const;
+
     GenTL::PGCInitLib GCInitLib = nullptr;
     GenTL::PGCCloseLib GCCloseLib = nullptr;
     GenTL::PTLOpen TLOpen = nullptr;
@@ -68,6 +73,7 @@ public:
     // These functions are optional; the pointer is null if the producer lacks the function.
     GenTL::PTLGetInterfaceInfo TLGetInterfaceInfo = nullptr;
     GenTL::PGCGetLastError GCGetLastError = nullptr;
+    ListChangedFunction *listChangedDescriptor = nullptr;
 
 private:
     std::optional<Problem> resolveFunctions(void *library);

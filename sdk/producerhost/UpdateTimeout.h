@@ -3,8 +3,10 @@
 #include <chrono>
 #include <cstdint>
 
-/// Timeout for the calls that update one device list or the interface list. A call that times out gets more
-/// time in the next search. Repeating the call at once would delay the whole reply.
+/// Timeout for the calls that update one device list or the interface list. Each request brings its own
+/// timeout. In a background search, a call that times out gets more time in the next background search;
+/// repeating the call at once would delay the whole reply. A short search never changes this time, because
+/// its timeout is too short for many healthy producers.
 class UpdateTimeout
 {
 public:
@@ -14,18 +16,20 @@ public:
     /// deadline still get the shortest timeout.
     static Clock::time_point deadline();
 
-    /// Returns the timeout in milliseconds for a call that starts now and should end before the deadline.
-    std::uint64_t until(Clock::time_point deadline) const;
+    /// Returns true if `requested`, the timeout of a request in milliseconds, is that of a short search or
+    /// collects only what the producer knows. A call that times out in such a search has not failed.
+    static bool isShort(std::uint32_t requested);
 
-    /// Doubles the timeout and returns true. If the timeout was already the longest, makes it the shortest
-    /// again and returns false, so that an interface that never answers does not delay every search.
-    bool grow();
+    /// Returns the timeout in milliseconds for a call that starts now and should end before the deadline.
+    std::uint64_t until(std::uint32_t requested, Clock::time_point deadline) const;
+
+    /// Returns true if a call that timed out has not failed, because the next background search gives it more
+    /// time: doubles the timeout unless the search is short. If the timeout was already the longest, resets
+    /// it and returns false, so that an interface that never answers does not delay every search.
+    bool grow(std::uint32_t requested);
 
 private:
-    std::uint64_t m_milliseconds = minTimeout;
+    std::uint64_t limit(std::uint32_t requested) const;
 
-    // Milliseconds. Some producers return at once if the timeout is infinite.
-    static constexpr std::uint64_t minTimeout = 500;
-    // Milliseconds. Twice this value is less than the reply timeout of the library.
-    static constexpr std::uint64_t maxTimeout = 4000;
+    std::uint64_t m_grown = 0; // Milliseconds; 0 if a background search gets the timeout of its request.
 };

@@ -43,7 +43,7 @@ LineChannel &LineChannel::operator=(LineChannel &&other) noexcept
     return *this;
 }
 
-LineChannel::Status LineChannel::readLine(std::string &line, bool waits)
+LineChannel::Status LineChannel::tryReadLine(std::string &line)
 {
     for (;;) {
         const auto end = m_pending.find('\n', m_searched);
@@ -62,8 +62,7 @@ LineChannel::Status LineChannel::readLine(std::string &line, bool waits)
             return Status::Closed;
 
         m_pending.resize(m_searched + blockSize);
-        const ssize_t count
-            = recv(m_descriptor, m_pending.data() + m_searched, blockSize, waits ? 0 : MSG_DONTWAIT);
+        const ssize_t count = recv(m_descriptor, m_pending.data() + m_searched, blockSize, MSG_DONTWAIT);
         const int error = errno;
         m_pending.resize(m_searched + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
         if (count < 0 && error == EINTR)

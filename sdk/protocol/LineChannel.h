@@ -30,11 +30,7 @@ public:
     int descriptor() const { return m_descriptor; }
 
     /// Reads the next line without blocking and stores it without its line feed.
-    Status tryReadLine(std::string &line) { return readLine(line, false); }
-
-    /// Blocks until the next line is complete or the connection ends. Stores the line without its line
-    /// feed.
-    Status waitForLine(std::string &line) { return readLine(line, true); }
+    Status tryReadLine(std::string &line);
 
     /// Returns true if bytes were received after the last line that was read.
     bool hasMore() const { return !m_pending.empty(); }
@@ -51,8 +47,6 @@ public:
     void close();
 
 private:
-    Status readLine(std::string &line, bool waits);
-
     int m_descriptor;
     std::size_t m_maxLength;
     std::string m_pending; // Bytes that were received but not yet returned.

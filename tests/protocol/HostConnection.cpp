@@ -1,6 +1,7 @@
 #include "tests/protocol/HostConnection.h"
 
 #include "sdk/protocol/HostContract.h"
+#include "tests/protocol/WaitForLine.h"
 
 #include <array>
 #include <csignal>
@@ -47,7 +48,7 @@ HostConnection::~HostConnection()
 std::optional<Message> HostConnection::receive()
 {
     std::string line;
-    if (m_channel.waitForLine(line) != LineChannel::Status::Line)
+    if (waitForLine(m_channel, line) != LineChannel::Status::Line)
         return std::nullopt;
     return Message::fromLine(line);
 }

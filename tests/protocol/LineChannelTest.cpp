@@ -1,4 +1,5 @@
 #include "sdk/protocol/LineChannel.h"
+#include "tests/protocol/WaitForLine.h"
 
 #include <array>
 #include <fcntl.h>
@@ -45,11 +46,11 @@ TEST_F(LineChannelTest, receivedTextIsSplitIntoLines)
     EXPECT_FALSE(m_near.hasMore());
 }
 
-TEST_F(LineChannelTest, waitForLineBlocksUntilTheLineIsComplete)
+TEST_F(LineChannelTest, lineThatExceedsTheSocketBufferIsSentWhileItIsRead)
 {
     const std::string sent(5U << 20, 'x'); // The text is larger than the socket's buffer.
     std::thread sender([&] { EXPECT_EQ(m_near.send(sent + "\n"), Status::Line); });
-    EXPECT_EQ(m_far.waitForLine(m_line), Status::Line);
+    EXPECT_EQ(waitForLine(m_far, m_line), Status::Line);
     sender.join();
     EXPECT_EQ(m_line, sent);
 }
@@ -73,8 +74,8 @@ TEST_F(LineChannelTest, lastCompleteLineIsReturnedBeforeTheEnd)
 {
     m_far.send("last\nrest");
     m_far.close();
-    EXPECT_EQ(m_near.waitForLine(m_line), Status::Line);
-    EXPECT_EQ(m_near.waitForLine(m_line), Status::Closed);
+    EXPECT_EQ(waitForLine(m_near, m_line), Status::Line);
+    EXPECT_EQ(waitForLine(m_near, m_line), Status::Closed);
     EXPECT_EQ(m_near.send("x\n"), Status::Closed);
     m_near.trySend("x\n"); // This call must not raise SIGPIPE.
 }
@@ -87,7 +88,7 @@ TEST_F(LineChannelTest, closedChannelIsEmpty)
     EXPECT_EQ(m_near.descriptor(), -1);
     EXPECT_FALSE(m_near.hasMore());
     EXPECT_EQ(m_near.tryReadLine(m_line), Status::Closed);
-    EXPECT_EQ(m_far.waitForLine(m_line), Status::Closed);
+    EXPECT_EQ(waitForLine(m_far, m_line), Status::Closed);
 }
 
 TEST_F(LineChannelTest, moveKeepsUnreadLines)
@@ -104,10 +105,10 @@ TEST_F(LineChannelTest, channelIsLostIfOtherCodeClosesItsDescriptor)
     const int descriptor = m_near.descriptor();
     const int file = open("/dev/null", O_RDWR | O_CLOEXEC);
     dup2(file, descriptor);
-    EXPECT_EQ(m_near.waitForLine(m_line), Status::Lost);
+    EXPECT_EQ(waitForLine(m_near, m_line), Status::Lost);
     EXPECT_EQ(m_near.send("x\n"), Status::Lost);
     close(descriptor);
-    EXPECT_EQ(m_near.waitForLine(m_line), Status::Lost);
+    EXPECT_EQ(waitForLine(m_near, m_line), Status::Lost);
     EXPECT_EQ(m_near.send("x\n"), Status::Lost);
     dup2(file, descriptor); // The destructor closes this descriptor.
     close(file);

@@ -49,6 +49,7 @@ TEST(Message, requestsAreUnchangedAfterTheRoundTrip)
     EXPECT_EQ(received(ListInterfaceRequest{12, 200})->number, 12U);
     EXPECT_EQ(received(ListInterfaceRequest{12, 300})->timeout, 300U);
     EXPECT_TRUE(received(CloseProducerRequest()));
+    EXPECT_TRUE(received(ListChangedNotice()));
 }
 
 TEST(Message, finalRepliesAreUnchangedAfterTheRoundTrip)

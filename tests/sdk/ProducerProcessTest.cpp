@@ -1,4 +1,5 @@
 #include "sdk/cvxcpp/ProducerProcess.h"
+#include "tests/protocol/WaitForLine.h"
 #include "tests/sdk/support/TemporaryDirectory.h"
 #include "tests/sdk/support/Waiting.h"
 
@@ -30,7 +31,7 @@ protected:
     std::string nextLine()
     {
         std::string line;
-        EXPECT_EQ(channel.waitForLine(line), LineChannel::Status::Line);
+        EXPECT_EQ(waitForLine(channel, line), LineChannel::Status::Line);
         return line;
     }
 
@@ -93,7 +94,7 @@ TEST_F(ProducerProcessTest, killEndsTheHostAndItsChildren)
         nextLine(); // The destructor ends the shell and its child.
     }
     std::string line;
-    EXPECT_EQ(channel.waitForLine(line), LineChannel::Status::Closed)
+    EXPECT_EQ(waitForLine(channel, line), LineChannel::Status::Closed)
         << "no process keeps the host's end of the socket open";
     EXPECT_TRUE(waitUntil([] { return waitpid(-1, nullptr, WNOHANG) < 0; })) << "nothing is left to reap";
 }

@@ -2,6 +2,7 @@
 #include "sdk/cvxcpp/NotificationHold.h"
 #include "sdk/cvxcpp/PollSchedule.h"
 #include "sdk/cvxcpp/RestartPolicy.h"
+#include "sdk/cvxcpp/StandstillRule.h"
 #include "sdk/cvxcpp/StartOrder.h"
 
 #include <gtest/gtest.h>
@@ -73,6 +74,19 @@ TEST(InterfaceUpdateSchedule, firstListOfAHostUpdatesTheInterfaces)
     EXPECT_FALSE(schedule.takeDueUpdate(start + 11s));
     schedule.hostStarted();
     EXPECT_TRUE(schedule.takeDueUpdate(start + 11s));
+}
+
+TEST(StandstillRule, lateWakeUpIsLostTime)
+{
+    StandstillRule rule;
+    EXPECT_EQ(rule.wokeUp(start), 0ms) << "the first step has not waited";
+    rule.waitsUntil(start);
+    EXPECT_EQ(rule.wokeUp(start - 1s), 0ms);
+    rule.waitsUntil(start);
+    EXPECT_EQ(rule.wokeUp(start + 499ms), 0ms);
+    rule.waitsUntil(start);
+    EXPECT_EQ(rule.wokeUp(start + 12s), 12s);
+    EXPECT_EQ(rule.wokeUp(start + 24s), 0ms) << "the time is lost once";
 }
 
 TEST(StartOrder, longestWaitingHostsStartFirst)

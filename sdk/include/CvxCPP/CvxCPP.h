@@ -92,14 +92,16 @@ public:
     virtual ~Feature() = default;
 
     /// Executes a command. The command "DeviceUpdateList" searches the interface for devices and replaces
-    /// the list of devices that the other features refer to. If the last search of the interface ended less
-    /// than 1 s ago, the command uses the result of that search.
+    /// the list of devices that the other features refer to. If the last search of the interface ended, or
+    /// GetCameras() returned a list, less than 1 s ago, the command uses the known devices.
     ///
-    /// Blocks for at most 3 s. Returns immediately if the producer has failed to answer an earlier request
-    /// in time. If the producer does not answer in time, the result of the previous search stays valid, and
-    /// the command succeeds with that result. Returns CvxErrorTimeout if there is no previous result,
-    /// CvxErrorNotAvailable if the interface no longer exists, or CvxErrorFailed if memory is exhausted.
-    /// The list of devices does not change if the command fails.
+    /// Blocks for at most 50 ms, or for at most 3 s if the system could not search for cameras recently, for
+    /// example because the machine was suspended. Returns immediately if the producer is searching already
+    /// or has failed to answer an earlier request in time. If the producer does not answer in time, the
+    /// result of the previous search stays valid, and the command succeeds with that result. Returns
+    /// CvxErrorTimeout if there is no previous result, CvxErrorNotAvailable if the interface no longer
+    /// exists, or CvxErrorFailed if memory is exhausted. The list of devices does not change if the command
+    /// fails.
     virtual CvxError RunCommand() = 0;
 
     /// Stores the smallest and the largest value of an integer, both inclusive. Returns CvxErrorNotAvailable
@@ -228,7 +230,8 @@ public:
 
     /// Stops the system and releases all observers. Also succeeds if the system does not run. Returns
     /// CvxErrorFailed, without any effect, if an observer makes the call. Blocks until no observer is being
-    /// called any more and every producer has been closed or, after about 2 s, killed. Calls that are
+    /// called any more and every producer has been closed or, after about 2 s, killed. A producer
+    /// that is searching is killed after 150 ms, because a search cannot be interrupted. Calls that are
     /// blocked in other threads return CvxErrorNotStarted.
     virtual CvxError Shutdown() = 0;
 
@@ -243,11 +246,16 @@ public:
 
     /// Returns the cameras with two calls.
     ///
-    /// With a null array, the function searches for cameras and stores their number in `count`. If the last
-    /// search ended less than 1 s ago, its result is used. The function blocks for at most 3 s. A producer
-    /// that has not answered by then contributes the cameras of its previous answer. The cameras that it
-    /// finds later are reported to the observers, and the next calls do not wait for this producer until it
-    /// has answered in time again. A producer contributes at most 1,000 cameras.
+    /// With a null array, the function stores the number of known cameras in `count`. The system searches
+    /// for cameras by itself, every 2 s or when a producer reports a change, so the function returns what is
+    /// known. It also starts a search, unless one is running or ended less than 250 ms ago, and blocks for at
+    /// most 50 ms until the search has ended. If there was no search yet, or none recently because the
+    /// machine was suspended, the function waits for the search instead: usually for 200 ms, at most for 3 s.
+    ///
+    /// A producer that has not answered by then contributes the cameras of its previous answer. The cameras
+    /// that it finds later are reported to the observers. After 3 s without an answer, the next calls do not
+    /// wait for this producer until it has answered in time again. A producer contributes at most 1,000
+    /// cameras.
     ///
     /// With an array of `count` elements, the function copies the cameras of the last search into the
     /// array, as many as fit, and stores the number of copied cameras in `count`, which is 0 if there is no

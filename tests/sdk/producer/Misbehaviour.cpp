@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <exception>
 #include <fcntl.h>
 #include <functional>
@@ -24,6 +25,18 @@ namespace {
 {
     for (;;)
         pause();
+}
+
+/// Uses processor time of the calling thread.
+void burn(std::chrono::nanoseconds time)
+{
+    const auto used = [] {
+        timespec now{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+        return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
+    };
+    const auto start = used();
+    while (used() - start < time) { }
 }
 
 /// Starts a child that keeps all descriptors open.
@@ -123,6 +136,7 @@ int perform(const std::string &action)
         {"exit", [](int code) { std::exit(code); }},
         {"hang", [](int) { hang(); }},
         {"slow", [](int time) { std::this_thread::sleep_for(std::chrono::milliseconds(time)); }},
+        {"burn", [](int time) { burn(std::chrono::milliseconds(time)); }},
         {"fork", [](int) { forkChild(); }},
         {"fork-and-die",
             [](int) {

@@ -3,15 +3,18 @@
 //
 // interface ID|NAME|TYPE
 // device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE (reading a field that is missing fails with -1003)
-// interfaces NUMBER, devices INTERFACE|NUMBER: adds this number of them, with IDs such as "net1" or "D1"
+// interfaces NUMBER, devices INTERFACE|NUMBER|PREFIX: adds this number of them, with IDs such as "net1" or
+// PREFIX and a number; the prefix "D" can be omitted
+// late MILLISECONDS|INTERFACE|ID|VENDOR|…: a device that only a search with at least this timeout finds
+// self-updating: CvxListChangedDescriptor returns an eventfd, which is signalled when the script has changed
 // quiet: disables the log, and the script is not read again; both make the producer faster
 // fault FUNCTION ACTION [ARGUMENT]; the function "load" is the constructor of the library
 //
 // Every function accepts these actions: error CODE, crash, abort, throw, throw-number, throw-in-thread,
-// terminate, exit CODE, hang, untouched, slow MILLISECONDS, meet CALLS, fork, fork-and-die, daemon, allocate,
-// threads, signals, print, ask (on the terminal), close.
-// "untouched" returns success without writing the outputs, "meet" waits for that many calls at the same time,
-// "allocate" allocates memory without end, and "close" closes all descriptors.
+// terminate, exit CODE, hang, untouched, slow MILLISECONDS, burn MILLISECONDS, meet CALLS, fork,
+// fork-and-die, daemon, allocate, threads, signals, print, ask (on the terminal), close. "untouched" returns
+// success without writing the outputs, "burn" uses processor time, "meet" waits for that many calls at the
+// same time, "allocate" allocates memory without end, and "close" closes all descriptors.
 //
 // A string is read with two calls: the first one returns the size, the second one fills the buffer. Functions
 // that return a string also accept:
@@ -21,7 +24,11 @@
 // size BYTES: reports this size and ignores the capacity of the buffer; "size -1" reports one byte too few
 // long BYTES, no-nul, number (instead of a string)
 //
-// The update functions also accept "search MILLISECONDS", which times out if the timeout is shorter.
+// The update functions also accept "search MILLISECONDS", which times out if the timeout is shorter, and
+// "whole", which waits for the whole timeout and succeeds. If the search of an interface times out, its list
+// contains the devices that were found in time.
+// CvxListChangedDescriptor, which is only called and logged if the script contains "self-updating", also
+// accepts "flood": the descriptor is always readable; "error NUMBER" returns this number as the descriptor.
 // TLOpenInterface also accepts "in-use", which opens the interface but returns an error. The functions that
 // return a number of objects also accept "more", which makes the number larger. IFUpdateDeviceList:ID is the
 // update of one interface; TLGetInterfaceID:ID and IFGetDeviceID:ID are similar.
@@ -30,6 +37,8 @@
 
 #include "sdk/gentl/GenTL.h"
 #include "tests/sdk/producer/Misbehaviour.h"
+#include "tests/sdk/producer/Script.h"
+#include "tests/sdk/producer/ScriptWatch.h"
 
 #include <algorithm>
 #include <array>
@@ -37,9 +46,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
-#include <dlfcn.h>
 #include <fcntl.h>
-#include <fstream>
 #include <map>
 #include <mutex>
 #include <sstream>
@@ -53,8 +60,6 @@ namespace {
 
 using namespace GenTL;
 
-using Fields = std::vector<std::string>; // The first one is the ID.
-
 struct Interface
 {
     std::string id;
@@ -62,14 +67,6 @@ struct Interface
     std::map<std::string, std::size_t> places; // Key: device ID; value: index in `devices`.
     bool isUpdated = false;
     std::mutex updating;
-};
-
-struct Script
-{
-    std::vector<Fields> interfaces;
-    std::multimap<std::string, Fields> devices; // Key: interface ID.
-    std::map<std::string, std::string> faults; // Key: function; value: action.
-    bool isQuiet = false;
 };
 
 struct Fault
@@ -88,70 +85,12 @@ thread_local int lastCode = 0;
 thread_local std::string currentFault; // Fault of the current call.
 int systemHandle = 0;
 
-const std::string &basePath()
-{
-    static const std::string path = [] {
-        Dl_info info{};
-        dladdr(&systemHandle, &info);
-        const std::string file = info.dli_fname;
-        return file.substr(0, file.rfind('.'));
-    }();
-    return path;
-}
-
-std::string unescaped(const std::string &text)
-{
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isByte = text.compare(i, 2, "\\x") == 0 && i + 3 < text.size();
-        result += isByte ? static_cast<char>(std::stoi(text.substr(i + 2, 2), nullptr, 16)) : text[i];
-        i += isByte ? 3 : 0;
-    }
-    return result;
-}
-
-Fields split(const std::string &text)
-{
-    Fields fields;
-    std::istringstream stream(text);
-    for (std::string field; std::getline(stream, field, '|');)
-        fields.push_back(unescaped(field));
-    if (text.empty() || text.back() == '|')
-        fields.emplace_back(); // getline() does not return a last field that is empty.
-    return fields;
-}
-
-void readLine(const std::string &line)
-{
-    const std::string keyword = line.substr(0, line.find(' '));
-    const std::string rest = line.substr(std::min(keyword.size() + 1, line.size()));
-    const Fields fields = split(rest);
-    if (keyword == "interface")
-        script.interfaces.push_back(fields);
-    for (int i = 1; keyword == "interfaces" && i <= std::stoi(rest); ++i)
-        script.interfaces.push_back({"net" + std::to_string(i)});
-    if (keyword == "device")
-        script.devices.emplace(fields[0], Fields(fields.begin() + 1, fields.end()));
-    for (int i = 1; keyword == "devices" && i <= std::stoi(fields.at(1)); ++i) {
-        const std::string number = std::to_string(i);
-        script.devices.emplace(
-            fields[0], Fields{'D' + number, "Vendor", "Model " + number, "SN" + number, "Name", "GEV"});
-    }
-    if (keyword == "quiet")
-        script.isQuiet = true;
-    if (keyword == "fault")
-        script.faults[rest.substr(0, rest.find(' '))] = rest.substr(rest.find(' ') + 1);
-}
-
 void readScript()
 {
     const std::lock_guard lock(mutex);
     if (script.isQuiet)
         return;
-    script = Script();
-    std::ifstream file(basePath() + ".script");
-    for (std::string line; std::getline(file, line);)
-        readLine(line);
+    script = readScriptFile();
 }
 
 void log(const std::string &text)
@@ -261,15 +200,31 @@ int returnId(
     return code != continueCall ? code : returnString(list[index][0], id, size);
 }
 
-/// Waits for the time of a "search" fault. Returns GC_ERR_TIMEOUT if the timeout is shorter.
+/// Waits for the time of a "search" or "whole" fault. Returns GC_ERR_TIMEOUT if the timeout is shorter.
 int search(const std::string &action, std::uint64_t timeout)
 {
     const Fault fault = parsed(action);
-    if (fault.verb != "search")
+    if (fault.verb != "search" && fault.verb != "whole")
         return continueCall;
-    const auto needed = static_cast<std::uint64_t>(fault.argument);
+    const auto needed = fault.verb == "whole" ? timeout : static_cast<std::uint64_t>(fault.argument);
     std::this_thread::sleep_for(std::chrono::milliseconds(std::min(needed, timeout)));
     return needed > timeout ? int(GC_ERR_TIMEOUT) : continueCall;
+}
+
+/// Stores the devices that a search with this timeout finds.
+void findDevices(Interface &interface, std::uint64_t timeout)
+{
+    interface.devices.clear();
+    interface.places.clear();
+    const auto range = script.devices.equal_range(interface.id);
+    for (auto entry = range.first; entry != range.second; ++entry) {
+        const auto &[fields, searchTime] = entry->second;
+        if (searchTime > timeout)
+            continue;
+        interface.places.emplace(fields[0], interface.devices.size());
+        interface.devices.push_back(fields);
+    }
+    interface.isUpdated = true;
 }
 
 struct AtLoad
@@ -306,6 +261,17 @@ GENTL_FUNCTION GCCloseLib()
 }
 
 #ifndef WITHOUT_OPTIONAL_FUNCTIONS
+GENTL_FUNCTION CvxListChangedDescriptor()
+{
+    {
+        const std::lock_guard lock(mutex);
+        if (!script.isSelfUpdating)
+            return -1;
+    }
+    const int code = enter("CvxListChangedDescriptor");
+    return code == continueCall ? watchScript(currentFault == "flood") : code;
+}
+
 GENTL_FUNCTION GCGetLastError(GC_ERROR *piErrorCode, char *sErrText, std::size_t *piSize)
 {
     *piErrorCode = lastCode;
@@ -409,19 +375,12 @@ GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *, std::uint64_t iTi
     const std::string ownAction = actionFor("IFUpdateDeviceList:" + interface->id);
     int code = enter("IFUpdateDeviceList", interface->id + ' ' + std::to_string(iTimeout));
     if (code == continueCall)
-        code = search(ownAction, iTimeout);
-    if (code != continueCall)
-        return code;
-    const std::lock_guard lock(mutex);
-    interface->devices.clear();
-    interface->places.clear();
-    const auto range = script.devices.equal_range(interface->id);
-    for (auto entry = range.first; entry != range.second; ++entry) {
-        interface->places.emplace(entry->second[0], interface->devices.size());
-        interface->devices.push_back(entry->second);
+        code = search(ownAction.empty() ? currentFault : ownAction, iTimeout);
+    if (code == continueCall || code == GC_ERR_TIMEOUT) {
+        const std::lock_guard lock(mutex);
+        findDevices(*interface, iTimeout);
     }
-    interface->isUpdated = true;
-    return GC_ERR_SUCCESS;
+    return code == continueCall ? int(GC_ERR_SUCCESS) : code;
 }
 
 GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)

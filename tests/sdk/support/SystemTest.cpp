@@ -17,7 +17,10 @@ SystemTest::SystemTest()
     options.configurationFile = (directory.path() / "bin" / "CvxC.xml").string();
     options.pollInterval = 100ms;
     options.interfaceUpdateInterval = 300ms;
-    options.reuseTime = 0ms;
+    options.listReuse = 0ms;
+    options.interfaceReuse = 0ms;
+    options.refreshTimeout = 1h; // A loaded machine may take longer than in the product.
+    options.shortSearch = options.backgroundSearch; // No second search follows the first one.
     options.searchTimeout = 5s;
     options.firstRestartDelay = 50ms;
     options.maxRestartDelay = 60s;
@@ -133,11 +136,11 @@ std::size_t SystemTest::countReports(const std::string &text) const
 
 std::string cameras(int count)
 {
-    std::string script = "interface net0|Network 0|GEV\n";
+    std::string script = "interface net0|Network 0|U3V\n";
     for (int i = 1; i <= count; ++i) {
         const std::string number = std::to_string(i);
         script += "device net0|A" + number + "|Orvelle|Model " + number + "|SN" + number + "|Camera " + number
-            + "|GEV\n";
+            + "|U3V\n";
     }
     return script;
 }
