@@ -301,7 +301,8 @@ TimePoint DiscoverySession::sendRequests(HostPool &pool)
             if (!pool.host(i).isIdle())
                 continue;
             sendPendingRequest(pool.host(i), i, now);
-            nextSearch = std::min(nextSearch, m_searches[i].backgroundSearchTime());
+            if (pool.host(i).isIdle())
+                nextSearch = std::min(nextSearch, m_searches[i].nextListRequest());
         }
         ++m_stepCount;
     }

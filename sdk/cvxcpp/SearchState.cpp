@@ -9,6 +9,8 @@ namespace {
 // end, because some producers use a whole processor while they search.
 constexpr int processorTimeFactor = 4;
 
+constexpr Milliseconds minCollectionDistance{50}; // From the last list to the next collection.
+
 bool isWithin(const std::optional<TimePoint> &time, SteadyClock::duration age, TimePoint now)
 {
     return time && now - *time < age;
@@ -49,7 +51,7 @@ std::optional<SearchState::Request> SearchState::takeListRequest(TimePoint now)
         request = Request::Background;
     else if (m_isShortSearchPending)
         request = Request::Short;
-    else if (m_isCollectionPending)
+    else if (now >= collectionTime())
         request = Request::Collection;
     if (request == Request::Background)
         m_isBackgroundSearchPending = false;
@@ -58,6 +60,18 @@ std::optional<SearchState::Request> SearchState::takeListRequest(TimePoint now)
         m_isCollectionPending = false;
     }
     return request;
+}
+
+TimePoint SearchState::nextListRequest() const
+{
+    return m_isShortSearchPending ? TimePoint::min() : std::min(backgroundSearchTime(), collectionTime());
+}
+
+TimePoint SearchState::collectionTime() const
+{
+    if (!m_isCollectionPending)
+        return TimePoint::max();
+    return m_listedAt ? *m_listedAt + minCollectionDistance : TimePoint::min();
 }
 
 TimePoint SearchState::backgroundSearchTime() const

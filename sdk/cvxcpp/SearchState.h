@@ -67,9 +67,10 @@ public:
     /// every search also collects, and a background search finds what a short one finds.
     std::optional<Request> takeListRequest(TimePoint now);
 
-    /// Returns the time at which a pending background search may start, or TimePoint::max() if none is
-    /// pending. After a search that has cost much processor time, the host gets a longer pause.
-    TimePoint backgroundSearchTime() const;
+    /// Returns the time at which a pending list request may be sent, or TimePoint::max() if none is pending.
+    /// After a search that has cost much processor time, a background search waits longer. A producer that
+    /// reports changes without end is asked at a limited rate.
+    TimePoint nextListRequest() const;
 
     /// Returns the ID of the interface to search next, or nothing. The request stays pending until the
     /// reply arrives.
@@ -87,6 +88,9 @@ public:
     void listReturned(TimePoint now) { m_returnedAt = now; }
 
 private:
+    TimePoint backgroundSearchTime() const;
+    TimePoint collectionTime() const;
+
     Intervals m_intervals;
     unsigned m_listCount = 0;
     std::optional<TimePoint> m_sentAt; // Time of the outstanding request.

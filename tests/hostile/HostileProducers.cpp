@@ -195,8 +195,10 @@ Rows strings()
 Rows lists()
 {
     std::string crowdedInterfaces = "quiet\ninterfaces 10\n";
-    for (int i = 1; i <= 10; ++i)
-        crowdedInterfaces += "devices net" + std::to_string(i) + "|200\n";
+    for (int i = 1; i <= 10; ++i) { // A device with the same ID on two interfaces is one camera.
+        const std::string name = "net" + std::to_string(i);
+        crowdedInterfaces.append("devices " + name + "|200|" + name + "-\n");
+    }
     return {
         withFault("IFGetNumDevices", "more", Due::AtStart, "IFGetDeviceID failed with -1017", 2),
         withFault("TLGetNumInterfaces", "more", Due::AtStart, "TLGetInterfaceID failed with -1017", 2),

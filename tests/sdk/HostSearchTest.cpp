@@ -2,7 +2,6 @@
 
 #include "tests/sdk/support/SystemTest.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 using namespace CvxCPP;

@@ -92,12 +92,12 @@ TEST_F(SearchStateTest, interfaceUpdateRefreshesOnlyThatInterface)
 TEST_F(SearchStateTest, backgroundSearchPausesForFourTimesItsProcessorTime)
 {
     finishSearch(searchTime, {true, false, 800ms});
-    EXPECT_EQ(search.backgroundSearchTime(), searchTime + 3200ms);
+    EXPECT_EQ(search.nextListRequest(), searchTime + 3200ms);
     EXPECT_EQ(search.takeListRequest(searchTime + 3199ms), std::nullopt);
     search.requestShortSearch();
     EXPECT_EQ(search.takeListRequest(searchTime + 3199ms), Request::Short) << "callers need not wait for it";
     EXPECT_EQ(search.takeListRequest(searchTime + 3200ms), Request::Background);
-    EXPECT_EQ(search.backgroundSearchTime(), TimePoint::max());
+    EXPECT_EQ(search.nextListRequest(), TimePoint::max());
 }
 
 TEST_F(SearchStateTest, selfUpdatingProducerIsSearchedForCallersOnly)
@@ -107,7 +107,9 @@ TEST_F(SearchStateTest, selfUpdatingProducerIsSearchedForCallersOnly)
     EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
     EXPECT_TRUE(search.isCurrent(searchTime + 1h)) << "the producer would have reported a change";
     search.requestCollection();
-    EXPECT_EQ(search.takeListRequest(searchTime), Request::Collection);
+    EXPECT_EQ(search.takeListRequest(searchTime + 49ms), std::nullopt);
+    EXPECT_EQ(search.nextListRequest(), searchTime + 50ms) << "a flood of changes is limited";
+    EXPECT_EQ(search.takeListRequest(searchTime + 50ms), Request::Collection);
     search.requestCollection();
     search.requestShortSearch();
     EXPECT_EQ(search.takeListRequest(searchTime), Request::Short);

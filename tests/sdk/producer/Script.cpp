@@ -45,8 +45,9 @@ void readLine(const std::string &line, Script &script)
             fields.at(1), ScriptedDevice{Fields(fields.begin() + 2, fields.end()), std::stoul(fields[0])});
     for (int i = 1; keyword == "devices" && i <= std::stoi(fields.at(1)); ++i) {
         const std::string number = std::to_string(i);
+        const std::string prefix = fields.size() > 2 ? fields[2] : "D";
         script.devices.emplace(fields[0],
-            ScriptedDevice{{'D' + number, "Vendor", "Model " + number, "SN" + number, "Name", "GEV"}});
+            ScriptedDevice{{prefix + number, "Vendor", "Model " + number, "SN" + number, "Name", "GEV"}});
     }
     if (keyword == "quiet")
         script.isQuiet = true;

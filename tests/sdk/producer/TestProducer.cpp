@@ -3,7 +3,8 @@
 //
 // interface ID|NAME|TYPE
 // device INTERFACE|ID|VENDOR|MODEL|SERIAL|NAME|TYPE (reading a field that is missing fails with -1003)
-// interfaces NUMBER, devices INTERFACE|NUMBER: adds this number of them, with IDs such as "net1" or "D1"
+// interfaces NUMBER, devices INTERFACE|NUMBER|PREFIX: adds this number of them, with IDs such as "net1" or
+// PREFIX and a number; the prefix "D" can be omitted
 // late MILLISECONDS|INTERFACE|ID|VENDOR|…: a device that only a search with at least this timeout finds
 // self-updating: CvxListChangedDescriptor returns an eventfd, which is signalled when the script has changed
 // quiet: disables the log, and the script is not read again; both make the producer faster
