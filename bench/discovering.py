@@ -180,8 +180,9 @@ def changed_cameras(products):
                 ended = time.monotonic()
                 end(camera)
                 gone.append(settled(watcher, 2, ended, index * 0.618))
+                started = time.monotonic()
                 camera = start_first(machine)
-                back.append(settled(watcher, 3, time.monotonic(), index * 0.382))
+                back.append(settled(watcher, 3, started, index * 0.382))
     return gone, back
 
 
@@ -201,8 +202,9 @@ def changed_interfaces(products):
                 time.sleep(INTERFACE_FORGOTTEN)
                 machine.plug_in("card1")
                 camera = start_first(machine)
+                made = time.monotonic()
                 machine.set_up("card1")
-                back.append(settled(watcher, 3, time.monotonic(), index * 0.382))
+                back.append(settled(watcher, 3, made, index * 0.382))
     return back
 
 

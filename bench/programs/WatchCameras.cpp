@@ -162,7 +162,7 @@ int main(int count, char *arguments[])
         printList(start, model);
     } else if (mode == "later" && count == 4) {
         listedCameras(model);
-        listAtRandomTimes(model, std::chrono::seconds(std::atoi(arguments[3])));
+        listAtRandomTimes(model, std::chrono::seconds(std::strtol(arguments[3], nullptr, 10)));
     } else if (mode == "watch") {
         const auto observer = std::make_shared<Observer>(model);
         system.RegisterCameraListObserver(observer);
