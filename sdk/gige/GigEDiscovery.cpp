@@ -46,7 +46,6 @@ bool hasMore(const std::vector<InterfaceAddress> &now, const std::vector<Interfa
 GigEDiscovery::GigEDiscovery() : m_listChangedEvent(createEvent()), m_wakeEvent(createEvent())
 {
     readInterfaces(Clock::now());
-    m_hasNewInterface = false; // The caller is about to ask for the first lists by itself.
     m_thread = std::thread(&GigEDiscovery::run, this);
 }
 
@@ -135,7 +134,7 @@ void GigEDiscovery::work(Time now)
     if (m_schedule.endIfSettled(now)) {
         ++m_endedSearches;
         m_searchEnded.notify_all();
-        if (std::exchange(m_isReportedAtEnd, false) && m_waitingCallers == 0)
+        if (m_waitingCallers == 0)
             reportChange();
     }
     if (m_schedule.takeReport(now))
@@ -157,10 +156,8 @@ void GigEDiscovery::readInterfaces(Time now)
     }
     if (addresses == m_addresses)
         return;
-    if (hasMore(addresses, m_addresses)) {
-        m_hasNewInterface = true;
+    if (hasMore(addresses, m_addresses))
         m_schedule.hasten(now);
-    }
     m_addresses = std::move(addresses);
     m_areListsOutdated = true;
     openSockets();
@@ -196,7 +193,6 @@ void GigEDiscovery::startSearch(Time now)
     }
     openSockets();
     m_isSearchRequested = false;
-    m_isReportedAtEnd = std::exchange(m_hasNewInterface, false);
     if (m_schedule.start(now))
         m_registry.startSearch(now);
     if (++m_requestId == 0)

@@ -81,8 +81,6 @@ private:
     std::vector<InterfaceList> m_lists;
     bool m_areListsOutdated = true;
     ReportedLists m_reported;
-    bool m_hasNewInterface = false; // True until the next search starts.
-    bool m_isReportedAtEnd = false; // True if the end of the running search reports a change.
     int m_waitingCallers = 0; // Callers that collect the cameras when the running search ends.
     bool m_isSearchRequested = false;
     std::uint64_t m_endedSearches = 0;
