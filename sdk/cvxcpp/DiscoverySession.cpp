@@ -71,8 +71,8 @@ std::shared_ptr<const DiscoverySession::Cameras> DiscoverySession::searchCameras
 
     const AwaitedLists awaited = requestLists();
     m_wakeEvent.signal();
-    await(
-        lock, std::min(deadline, now + m_options.refreshTimeout), [&] { return haveArrived(awaited.newer); });
+    await(lock, std::min(deadline, now + m_options.refreshTimeout),
+        [&] { return haveArrived(awaited.current); });
     await(lock, deadline, [&] { return haveArrived(awaited.missing); });
     if (!*m_isRunning)
         return nullptr;
@@ -94,10 +94,12 @@ bool DiscoverySession::await(std::unique_lock<std::mutex> &lock, TimePoint deadl
     const TimePoint now = SteadyClock::now();
     if (now - deadline < StandstillRule::tolerance)
         return false;
-    const unsigned step = m_stepCount;
-    m_wakeEvent.signal();
-    const auto isRead = [&] { return m_stepCount - step >= 2; }; // One step may have begun before the signal.
-    m_changed.wait_until(lock, now + m_options.searchTimeout, [&] { return isOver() || isRead(); });
+    for (int step = 0; step < 2 && !isOver();
+         ++step) { // The first step may have begun before the standstill.
+        m_wakeEvent.signal();
+        m_changed.wait_until(
+            lock, now + m_options.searchTimeout, [&, count = m_stepCount] { return m_stepCount != count; });
+    }
     return isOver();
 }
 
@@ -113,7 +115,7 @@ DiscoverySession::AwaitedLists DiscoverySession::requestLists()
             continue;
         search.requestShortSearch();
         if (search.isResponsive())
-            (isCurrent ? awaited.newer : awaited.missing).push_back({i, search.listCount()});
+            (isCurrent ? awaited.current : awaited.missing).push_back({i, search.listCount()});
     }
     return awaited;
 }
@@ -263,7 +265,7 @@ void DiscoverySession::beginPoll()
     {
         const std::lock_guard lock(m_mutex);
         for (std::size_t i = 0; i < m_searches.size(); ++i) {
-            m_searches[i].requestBackgroundSearch();
+            m_searches[i].requestPoll();
             isAnyNew = m_catalogue.reportChangesFromNowOn(i) || isAnyNew;
         }
     }
@@ -316,13 +318,12 @@ void DiscoverySession::sendPendingRequest(ProducerSupervisor &host, std::size_t 
     SearchState &search = m_searches[producer];
     if (const auto request = search.takeListRequest(now)) {
         host.requestCameras(*request, now);
-        search.requestSent(now);
+        search.listRequestSent(*request, now);
         return;
     }
     while (const auto interfaceId = search.nextInterfaceRequest()) {
         if (const auto interface = m_catalogue.findInterface(producer, *interfaceId)) {
             host.requestInterface(*interface, now);
-            search.requestSent(now);
             return;
         }
         search.dropInterfaceRequest(*interfaceId);

@@ -31,9 +31,10 @@ public:
     void start(); ///< Throws std::system_error if no thread can be started.
     void stop(); ///< Wakes all callers, ends the hosts, and blocks until no observer is being called.
 
-    /// Starts a short search, unless the last list is very new, and returns all known cameras. Blocks for at
-    /// most SystemOptions::refreshTimeout if the background searches have kept the list current; otherwise,
-    /// as for the first list, for at most SystemOptions::searchTimeout. Returns null if the session ends.
+    /// Starts a short search, unless the last list is very new or a search is running, and returns all known
+    /// cameras. Blocks for at most SystemOptions::refreshTimeout if the background searches have kept the
+    /// list current; otherwise, as for the first list, for at most SystemOptions::searchTimeout. Returns null
+    /// if the session ends.
     std::shared_ptr<const Cameras> searchCameras();
 
     RunningFlag runningFlag() const override { return m_isRunning; }
@@ -51,7 +52,7 @@ private:
     };
     struct AwaitedLists
     {
-        std::vector<AwaitedList> newer; ///< The lists of these producers are current.
+        std::vector<AwaitedList> current; ///< The lists of these producers are current.
         std::vector<AwaitedList> missing; ///< The lists of these producers are missing or outdated.
     };
 

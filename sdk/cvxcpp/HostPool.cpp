@@ -82,12 +82,14 @@ void HostPool::close()
         host.beginClose();
     const TimePoint start = SteadyClock::now();
     closeUntil(start + m_options.closeTimeout, [&](ProducerSupervisor &host) {
+        host.stepClose(); // Must precede killUnclosed(), because the host may have ended in time.
         if (SteadyClock::now() >= start + host.closeTimeout())
             host.killUnclosed(SteadyClock::now());
-        host.stepClose();
     });
-    for (ProducerSupervisor &host : m_hosts)
+    for (ProducerSupervisor &host : m_hosts) {
+        host.stepClose();
         host.killUnclosed(SteadyClock::now());
+    }
     closeUntil(SteadyClock::now() + killTimeout, [](ProducerSupervisor &host) { host.stepClose(); });
 }
 

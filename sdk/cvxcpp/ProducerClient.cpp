@@ -101,7 +101,6 @@ ProducerClient::Received ProducerClient::check(const std::string &line)
     if (message->id() != m_awaitedId)
         return ProtocolError{"sent a reply that was not requested"};
     m_awaitedId.reset();
-    m_isListChanged = false; // The reply is newer than the notices before it.
     return std::move(*message);
 }
 

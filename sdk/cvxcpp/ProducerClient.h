@@ -73,7 +73,7 @@ public:
     /// outstanding request.
     Received receive();
 
-    /// Returns true if the host has reported a changed list since the last reply and since the last call.
+    /// Returns true if the host has reported a changed list since the last call.
     bool takeListChange() { return std::exchange(m_isListChanged, false); }
 
     /// Moves the deadlines of the outstanding request, because this process could not receive the reply.

@@ -76,7 +76,7 @@ std::optional<ProducerSupervisor::Event> ProducerSupervisor::step(TimePoint now,
     if (m_state == State::Waiting)
         return now >= startTime() ? start(now) : std::nullopt;
     if (m_state == State::Running)
-        return isReadable ? receive(now) : checkHost(now);
+        return isReadable || m_client.isExpired(now) ? receive(now) : checkHost(now);
     awaitExit(now);
     return std::nullopt;
 }

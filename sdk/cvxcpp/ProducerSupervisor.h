@@ -54,7 +54,7 @@ public:
     void requestCameras(SearchState::Request request, TimePoint now);
     void requestInterface(const InterfaceRecord &interface, TimePoint now);
 
-    /// Returns true if the host has reported a changed list since the last reply and since the last call.
+    /// Returns true if the host has reported a changed list since the last call.
     bool takeListChange() { return m_client.takeListChange(); }
 
     /// Returns the descriptor to poll for reading, or -1 if there is no connection.

@@ -9,6 +9,11 @@ namespace {
 // end, because some producers use a whole processor while they search.
 constexpr int processorTimeFactor = 4;
 
+constexpr Milliseconds maxPause{30000}; // For a producer that reports an absurd processor time.
+
+// A background search that is due may have to wait for the end of a short one.
+constexpr Milliseconds maxSearchDelay{500};
+
 constexpr Milliseconds minCollectionDistance{50}; // From the last list to the next collection.
 
 bool isWithin(const std::optional<TimePoint> &time, SteadyClock::duration age, TimePoint now)
@@ -33,15 +38,27 @@ bool SearchState::isInterfaceFresh(const std::string &interfaceId, TimePoint now
 
 bool SearchState::isCurrent(TimePoint now) const
 {
-    if (m_lastReply.isSelfUpdating)
-        return true;
-    const auto pause = std::max(m_intervals.poll, processorTimeFactor * m_lastReply.processorTime);
-    return isWithin(m_listedAt, pause + m_searchTime, now);
+    const bool isSearchComplete = m_running && m_running->request != Request::Short;
+    const TimePoint reference = isSearchComplete ? m_running->sentAt : now;
+    const auto age = std::max(m_intervals.poll, pause()) + m_searchTime + maxSearchDelay;
+    return m_listedAt && reference - m_completedAt < age;
+}
+
+bool SearchState::isSearching() const
+{
+    return m_running && m_running->request != Request::Collection;
 }
 
 bool SearchState::isInterfacePending(const std::string &interfaceId) const
 {
     return m_pendingInterfaces.count(interfaceId) > 0;
+}
+
+void SearchState::requestPoll()
+{
+    if (!m_listedAt)
+        return;
+    (m_isSelfUpdating ? m_isCollectionPending : m_isBackgroundSearchPending) = true;
 }
 
 std::optional<SearchState::Request> SearchState::takeListRequest(TimePoint now)
@@ -62,6 +79,11 @@ std::optional<SearchState::Request> SearchState::takeListRequest(TimePoint now)
     return request;
 }
 
+Milliseconds SearchState::pause() const
+{
+    return std::min(processorTimeFactor * m_processorTime, maxPause);
+}
+
 TimePoint SearchState::nextListRequest() const
 {
     return m_isShortSearchPending ? TimePoint::min() : std::min(backgroundSearchTime(), collectionTime());
@@ -76,9 +98,7 @@ TimePoint SearchState::collectionTime() const
 
 TimePoint SearchState::backgroundSearchTime() const
 {
-    if (!m_isBackgroundSearchPending)
-        return TimePoint::max();
-    return m_listedAt ? *m_listedAt + processorTimeFactor * m_lastReply.processorTime : TimePoint::min();
+    return m_isBackgroundSearchPending ? m_completedAt + pause() : TimePoint::max();
 }
 
 std::optional<std::string> SearchState::nextInterfaceRequest() const
@@ -91,12 +111,19 @@ std::optional<std::string> SearchState::nextInterfaceRequest() const
 void SearchState::listReceived(TimePoint now, const ListReply &reply)
 {
     ++m_listCount;
+    m_isSelfUpdating = reply.isSelfUpdating;
     m_isResponsive = reply.isInTime;
-    m_lastReply = reply;
-    if (!m_listedAt && m_intervals.isFirstSearchShort) // Cameras may still be missing.
-        requestBackgroundSearch();
-    m_searchTime = now - std::exchange(m_sentAt, std::nullopt).value_or(now);
+    const auto running = std::exchange(m_running, std::nullopt);
+    const bool isFirst = !m_listedAt;
     m_listedAt = now;
+    if (isFirst && m_intervals.isFirstSearchShort && !m_isSelfUpdating)
+        m_isBackgroundSearchPending = true; // Cameras may still be missing.
+    const bool isShort = running && running->request == Request::Short && !m_isSelfUpdating;
+    if (isFirst || !isShort) {
+        m_completedAt = now;
+        m_searchTime = running ? now - running->sentAt : SteadyClock::duration();
+        m_processorTime = reply.processorTime;
+    }
     m_interfaceListedAt.clear();
     // The list is also the result of every request that a caller made before the list arrived.
     m_isShortSearchPending = false;
@@ -105,7 +132,6 @@ void SearchState::listReceived(TimePoint now, const ListReply &reply)
 
 void SearchState::interfaceReceived(const std::string &interfaceId, TimePoint now, bool isInTime)
 {
-    m_sentAt.reset();
     m_interfaceListedAt[interfaceId] = now;
     m_pendingInterfaces.erase(interfaceId);
     m_isResponsive = isInTime;

@@ -41,24 +41,27 @@ public:
     bool isInterfaceFresh(const std::string &interfaceId, TimePoint now) const;
 
     /// Returns true if the list is not older than a poll interval and the search that follows it. Callers
-    /// get such a list without waiting for a search to end.
+    /// get such a list without waiting for a search to end. Short searches do not make a list current,
+    /// because they may miss cameras.
     bool isCurrent(TimePoint now) const;
 
     /// Returns false after a missed deadline or a failure until a reply arrives in time. Callers do not
     /// wait for a producer that is not responsive.
     bool isResponsive() const { return m_isResponsive; }
 
-    bool isSearching() const { return m_sentAt.has_value(); }
+    /// Returns true while a search for all cameras is running.
+    bool isSearching() const;
 
     /// Returns the number of camera lists that have arrived. A change of this number shows a waiting caller
     /// that a list has arrived.
     unsigned listCount() const { return m_listCount; }
 
-    // The requests stay pending until the host is idle. A self-updating producer searches by itself, so it
-    // gets no background searches.
+    // The requests stay pending until the host is idle.
     void requestShortSearch() { m_isShortSearchPending = true; }
     void requestCollection() { m_isCollectionPending = true; }
-    void requestBackgroundSearch() { m_isBackgroundSearchPending = !m_lastReply.isSelfUpdating; }
+    /// Requests a background search, or a collection from a self-updating producer, which searches by itself.
+    /// Has no effect before the first list, which is followed by a background search anyway.
+    void requestPoll();
     void requestInterface(const std::string &interfaceId) { m_pendingInterfaces.insert(interfaceId); }
     void dropInterfaceRequest(const std::string &interfaceId) { m_pendingInterfaces.erase(interfaceId); }
     bool isInterfacePending(const std::string &interfaceId) const;
@@ -77,7 +80,7 @@ public:
     std::optional<std::string> nextInterfaceRequest() const;
 
     // These functions record events of the producer. The producer is not responsive after a late reply.
-    void requestSent(TimePoint now) { m_sentAt = now; }
+    void listRequestSent(Request request, TimePoint now) { m_running = Running{request, now}; }
     void listReceived(TimePoint now, const ListReply &reply);
     void interfaceReceived(const std::string &interfaceId, TimePoint now, bool isInTime);
     void deadlineMissed() { m_isResponsive = false; }
@@ -88,18 +91,29 @@ public:
     void listReturned(TimePoint now) { m_returnedAt = now; }
 
 private:
+    struct Running
+    {
+        Request request;
+        TimePoint sentAt;
+    };
+
+    Milliseconds pause() const;
     TimePoint backgroundSearchTime() const;
     TimePoint collectionTime() const;
 
     Intervals m_intervals;
     unsigned m_listCount = 0;
-    std::optional<TimePoint> m_sentAt; // Time of the outstanding request.
+    std::optional<Running> m_running; // The outstanding request for a list.
     std::optional<TimePoint> m_listedAt; // Time at which the last list arrived.
     std::optional<TimePoint> m_returnedAt; // Time at which a caller got the last list.
     // Times of the searches of single interfaces since the last list.
     std::map<std::string, TimePoint> m_interfaceListedAt;
-    SteadyClock::duration m_searchTime{}; // Duration of the last search for a list.
-    ListReply m_lastReply;
+    // The end, the duration and the processor time of the last search that was not short. Until the end of
+    // the first one, those of the first list.
+    TimePoint m_completedAt{};
+    SteadyClock::duration m_searchTime{};
+    Milliseconds m_processorTime{0};
+    bool m_isSelfUpdating = false;
     bool m_isResponsive = true;
     bool m_isShortSearchPending = true; // Every new host is asked for its cameras.
     bool m_isBackgroundSearchPending = false;

@@ -184,16 +184,3 @@ TEST_F(DiscoveryTest, simultaneousSearchesShareOneSearch)
         thread.join();
     EXPECT_LE(countCalls("a", "IFUpdateDeviceList"), 2U) << "a thread may start after the first search";
 }
-
-TEST_F(DiscoveryTest, interfaceThatDisappearsDuringItsUpdateIsNotAvailable)
-{
-    options.interfaceUpdateInterval = 0ms;
-    options.searchTimeout = 30s;
-    options.replyTimeout = 1min;
-    addProducer("a", cameras(1));
-    start();
-    const auto interface = interfaceOf(list(), 0);
-    setScript("a", "fault IFUpdateDeviceList slow 1000\ninterface other\n");
-    const auto update = feature(*interface, "DeviceUpdateList");
-    EXPECT_TRUE(waitUntil([&] { return update->RunCommand() == CvxErrorNotAvailable; }));
-}

@@ -199,8 +199,8 @@ TEST_F(FailureTest, deathOfAProducerIsNoticedAlthoughItsChildKeepsTheSocketOpen)
 TEST_F(FailureTest, hostsSurviveAStandstillOfAllProcesses)
 {
     options.searchTimeout = 300ms;
-    options.replyTimeout = 2s;
-    addProducer("a", "fault IFUpdateDeviceList slow 500\n" + cameras(1));
+    options.replyTimeout = 5s;
+    addProducer("a", "fault IFUpdateDeviceList slow 4000\n" + cameras(1));
     const std::filesystem::path listed = directory.path() / "listed";
     const pid_t program = fork(); // The system runs in a child process, which this process can stop.
     if (program == 0) {

@@ -16,9 +16,9 @@ class SearchStateTest : public testing::Test
 {
 protected:
     /// Lets a search of 500 ms end at this time.
-    void finishSearch(TimePoint end, const SearchState::ListReply &reply = {})
+    void finish(Request request, TimePoint end, const SearchState::ListReply &reply = {})
     {
-        search.requestSent(end - 500ms);
+        search.listRequestSent(request, end - 500ms);
         search.listReceived(end, reply);
     }
 
@@ -27,17 +27,18 @@ protected:
 
 TEST_F(SearchStateTest, everyNewHostIsAskedForAShortAndThenForABackgroundSearch)
 {
-    for (int host = 0; host < 2; ++host) {
+    for (unsigned host = 0; host < 2; ++host) {
+        search.requestPoll(); // A poll before the start of the host changes nothing.
         EXPECT_FALSE(search.isCurrent(searchTime));
         EXPECT_FALSE(search.isFresh(searchTime));
         EXPECT_EQ(search.takeListRequest(searchTime), Request::Short);
         EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
-        finishSearch(searchTime);
+        finish(Request::Short, searchTime);
         EXPECT_EQ(search.takeListRequest(searchTime), Request::Background);
-        finishSearch(searchTime);
+        finish(Request::Background, searchTime);
         EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
-        EXPECT_EQ(search.listCount(), 2U * (host + 1));
-        search.requestBackgroundSearch();
+        EXPECT_EQ(search.listCount(), 2 * (host + 1));
+        search.requestPoll();
         search.requestInterface("net");
         search.producerLost();
         EXPECT_FALSE(search.isInterfacePending("net"));
@@ -50,23 +51,35 @@ TEST_F(SearchStateTest, firstSearchThatIsAsLongAsOthersNeedsNoSecondOne)
 {
     search = SearchState({2s, 250ms, 1s, false});
     search.takeListRequest(searchTime);
-    finishSearch(searchTime);
+    finish(Request::Short, searchTime);
     EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
 }
 
 TEST_F(SearchStateTest, listIsCurrentForAPollIntervalAndOneMoreSearch)
 {
-    finishSearch(searchTime);
-    EXPECT_TRUE(search.isCurrent(searchTime + 2499ms));
-    EXPECT_FALSE(search.isCurrent(searchTime + 2500ms));
-    finishSearch(searchTime, {true, false, 1s});
-    EXPECT_TRUE(search.isCurrent(searchTime + 4499ms)) << "the pause is four times the processor time";
-    EXPECT_FALSE(search.isCurrent(searchTime + 4500ms));
+    finish(Request::Background, searchTime);
+    EXPECT_TRUE(search.isCurrent(searchTime + 2999ms)) << "2 s, 500 ms and a delay of 500 ms";
+    EXPECT_FALSE(search.isCurrent(searchTime + 3s));
+    finish(Request::Short, searchTime + 1s);
+    EXPECT_FALSE(search.isCurrent(searchTime + 3s)) << "a short search may have missed cameras";
+    finish(Request::Background, searchTime, {true, false, 1s});
+    EXPECT_TRUE(search.isCurrent(searchTime + 4999ms)) << "the pause is four times the processor time";
+    EXPECT_FALSE(search.isCurrent(searchTime + 5s));
+}
+
+TEST_F(SearchStateTest, listStaysCurrentDuringALongBackgroundSearch)
+{
+    finish(Request::Short, searchTime);
+    search.listRequestSent(Request::Background, searchTime + 1s);
+    EXPECT_TRUE(search.isSearching());
+    EXPECT_TRUE(search.isCurrent(searchTime + 1h));
+    search.listRequestSent(Request::Collection, searchTime + 1s);
+    EXPECT_FALSE(search.isSearching()) << "a collection is no search that a caller can rely on";
 }
 
 TEST_F(SearchStateTest, listIsFreshForItsReuseTime)
 {
-    finishSearch(searchTime);
+    finish(Request::Short, searchTime);
     EXPECT_TRUE(search.isFresh(searchTime + 249ms));
     EXPECT_FALSE(search.isFresh(searchTime + 250ms));
     EXPECT_TRUE(search.isInterfaceFresh("net", searchTime + 999ms));
@@ -79,11 +92,8 @@ TEST_F(SearchStateTest, listIsFreshForItsReuseTime)
 
 TEST_F(SearchStateTest, interfaceUpdateRefreshesOnlyThatInterface)
 {
-    finishSearch(searchTime);
-    search.requestSent(searchTime + 900ms);
-    EXPECT_TRUE(search.isSearching());
+    finish(Request::Short, searchTime);
     search.interfaceReceived("net", searchTime + 1s, true);
-    EXPECT_FALSE(search.isSearching());
     EXPECT_TRUE(search.isInterfaceFresh("net", searchTime + 1999ms));
     EXPECT_FALSE(search.isInterfaceFresh("other", searchTime + 1999ms));
     EXPECT_FALSE(search.isInterfaceFresh("net", searchTime + 2s));
@@ -91,34 +101,41 @@ TEST_F(SearchStateTest, interfaceUpdateRefreshesOnlyThatInterface)
 
 TEST_F(SearchStateTest, backgroundSearchPausesForFourTimesItsProcessorTime)
 {
-    finishSearch(searchTime, {true, false, 800ms});
+    finish(Request::Background, searchTime, {true, false, 800ms});
+    search.requestPoll();
     EXPECT_EQ(search.nextListRequest(), searchTime + 3200ms);
     EXPECT_EQ(search.takeListRequest(searchTime + 3199ms), std::nullopt);
     search.requestShortSearch();
     EXPECT_EQ(search.takeListRequest(searchTime + 3199ms), Request::Short) << "callers need not wait for it";
-    EXPECT_EQ(search.takeListRequest(searchTime + 3200ms), Request::Background);
+    finish(Request::Short, searchTime + 3199ms, {true, false, 1s});
+    EXPECT_EQ(search.takeListRequest(searchTime + 3200ms), Request::Background)
+        << "short searches cannot postpone background searches";
     EXPECT_EQ(search.nextListRequest(), TimePoint::max());
+    finish(Request::Background, searchTime, {true, false, 1h});
+    search.requestPoll();
+    EXPECT_EQ(search.nextListRequest(), searchTime + 30s) << "the longest pause";
 }
 
 TEST_F(SearchStateTest, selfUpdatingProducerIsSearchedForCallersOnly)
 {
-    finishSearch(searchTime, {true, true, 0ms});
-    search.requestBackgroundSearch();
-    EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
-    EXPECT_TRUE(search.isCurrent(searchTime + 1h)) << "the producer would have reported a change";
-    search.requestCollection();
-    EXPECT_EQ(search.takeListRequest(searchTime + 49ms), std::nullopt);
+    const SearchState::ListReply reply{true, true, 0ms};
+    finish(Request::Short, searchTime, reply);
+    EXPECT_EQ(search.nextListRequest(), TimePoint::max());
+    EXPECT_FALSE(search.isCurrent(searchTime + 3s)) << "a producer that hangs is noticed";
+    search.requestPoll();
     EXPECT_EQ(search.nextListRequest(), searchTime + 50ms) << "a flood of changes is limited";
+    EXPECT_EQ(search.takeListRequest(searchTime + 49ms), std::nullopt);
     EXPECT_EQ(search.takeListRequest(searchTime + 50ms), Request::Collection);
     search.requestCollection();
     search.requestShortSearch();
-    EXPECT_EQ(search.takeListRequest(searchTime), Request::Short);
-    EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt) << "a search collects as well";
+    EXPECT_EQ(search.takeListRequest(searchTime + 50ms), Request::Short);
+    EXPECT_EQ(search.takeListRequest(searchTime + 50ms), std::nullopt) << "a search collects as well";
 }
 
 TEST_F(SearchStateTest, requestsStayPendingUntilTheyAreAnswered)
 {
-    finishSearch(searchTime, {true, true, 0ms});
+    const SearchState::ListReply reply{true, true, 0ms};
+    finish(Request::Short, searchTime, reply);
     for (const char *interface : {"c", "b", "a"})
         search.requestInterface(interface);
     EXPECT_EQ(search.nextInterfaceRequest(), "a");
@@ -128,17 +145,9 @@ TEST_F(SearchStateTest, requestsStayPendingUntilTheyAreAnswered)
     search.dropInterfaceRequest("b");
     EXPECT_TRUE(search.isInterfacePending("c"));
     search.requestShortSearch();
-    finishSearch(searchTime, {true, true, 0ms});
+    finish(Request::Short, searchTime, reply);
     EXPECT_FALSE(search.isInterfacePending("c")) << "a list answers every earlier request";
     EXPECT_EQ(search.takeListRequest(searchTime), std::nullopt);
-}
-
-TEST_F(SearchStateTest, listDoesNotAnswerAPendingBackgroundSearch)
-{
-    finishSearch(searchTime);
-    finishSearch(searchTime + 1s);
-    EXPECT_EQ(search.takeListRequest(searchTime + 1s), Request::Background)
-        << "only background searches remove cameras";
 }
 
 TEST_F(SearchStateTest, producerIsUnresponsiveUntilItsNextReplyInTime)
@@ -147,7 +156,7 @@ TEST_F(SearchStateTest, producerIsUnresponsiveUntilItsNextReplyInTime)
     search.deadlineMissed();
     EXPECT_FALSE(search.isResponsive());
     for (const bool isInTime : {false, true, false, true}) {
-        finishSearch(searchTime, {isInTime, false, 0ms});
+        finish(Request::Background, searchTime, {isInTime, false, 0ms});
         EXPECT_EQ(search.isResponsive(), isInTime);
         search.interfaceReceived("net", searchTime, !isInTime);
         EXPECT_EQ(search.isResponsive(), !isInTime);
