@@ -38,7 +38,7 @@ void CameraRegistry::startSearch(Time now)
 bool CameraRegistry::addAnswer(unsigned interfaceIndex, const CameraData &data)
 {
     std::string identity = identityOf(data);
-    if (Entry *const entry = find(interfaceIndex, identity, data.address)) {
+    if (Entry *const entry = find(interfaceIndex, identity, data)) {
         entry->hasAnswered = true;
         entry->missedSearches = 0;
         entry->deadline = Time::max();
@@ -57,13 +57,15 @@ bool CameraRegistry::addAnswer(unsigned interfaceIndex, const CameraData &data)
 }
 
 CameraRegistry::Entry *CameraRegistry::find(
-    unsigned interfaceIndex, const std::string &identity, std::uint32_t address)
+    unsigned interfaceIndex, const std::string &identity, const CameraData &data)
 {
     Entry *moved = nullptr;
     for (Entry &entry : m_entries) {
-        if (entry.camera.interfaceIndex != interfaceIndex || entry.identity != identity)
+        // The MAC address is compared first, because this is fast and cameras can be many.
+        if (entry.camera.interfaceIndex != interfaceIndex || entry.camera.data.mac != data.mac
+            || entry.identity != identity)
             continue;
-        if (entry.camera.data.address == address)
+        if (entry.camera.data.address == data.address)
             return &entry;
         // If the camera has answered with another address in this search, there are two cameras.
         if (!entry.hasAnswered && entry.camera.id == identity)

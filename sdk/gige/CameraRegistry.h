@@ -62,7 +62,7 @@ private:
             = Time::max(); // The time of the next request or, after the last request, of the removal.
     };
 
-    Entry *find(unsigned interfaceIndex, const std::string &identity, std::uint32_t address);
+    Entry *find(unsigned interfaceIndex, const std::string &identity, const CameraData &data);
     std::string newId(const std::string &identity, std::uint32_t address) const;
     template <typename Predicate>
     bool removeIf(Predicate &&predicate);

@@ -42,5 +42,5 @@ private:
     std::optional<std::size_t> receiveDatagram(std::uint8_t *buffer, std::size_t size) const;
 
     const int m_interfaceIndex;
-    int m_socket;
+    const int m_socket;
 };

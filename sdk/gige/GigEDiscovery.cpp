@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <poll.h>
+#include <set>
 #include <sys/eventfd.h>
 #include <utility>
 
@@ -34,7 +35,7 @@ int pollTimeout(Clock::time_point end)
 /// lack.
 bool hasMore(const std::vector<InterfaceAddress> &now, const std::vector<InterfaceAddress> &before)
 {
-    return std::any_of(now.begin(), now.end(), [&](InterfaceAddress address) {
+    return std::any_of(now.begin(), now.end(), [&](const InterfaceAddress &address) {
         const bool isKnown = std::find(before.begin(), before.end(), address) != before.end();
         return address.hasCarrier && !isKnown;
     });
@@ -126,8 +127,7 @@ void GigEDiscovery::waitForEvent(std::unique_lock<std::mutex> &lock)
 
 void GigEDiscovery::work(Time now)
 {
-    for (const CameraRegistry::Camera &camera : m_registry.takeDueRequests(now))
-        askAgain(camera);
+    askAgain(m_registry.takeDueRequests(now));
     if (m_registry.removeSilent(now)) {
         m_areListsOutdated = true;
         reportChange();
@@ -209,18 +209,21 @@ void GigEDiscovery::startSearch(Time now)
     }
 }
 
-void GigEDiscovery::askAgain(const CameraRegistry::Camera &camera) const
+void GigEDiscovery::askAgain(const std::vector<CameraRegistry::Camera> &cameras) const
 {
-    const auto socket = m_sockets.find(camera.interfaceIndex);
-    if (socket == m_sockets.end())
-        return;
-    if (const auto *const own = addressInSubnet(m_addresses, camera.interfaceIndex, camera.data.address)) {
-        socket->second->sendTo(camera.data.address, *own, m_requestId);
-        return;
+    std::set<unsigned> broadcasts;
+    for (const CameraRegistry::Camera &camera : cameras) {
+        const auto *const own = addressInSubnet(m_addresses, camera.interfaceIndex, camera.data.address);
+        const auto socket = m_sockets.find(camera.interfaceIndex);
+        if (!own)
+            broadcasts.insert(
+                camera.interfaceIndex); // A camera in another subnet answers only to a broadcast.
+        else if (socket != m_sockets.end())
+            socket->second->sendTo(camera.data.address, *own, m_requestId);
     }
-    // A camera in another subnet can answer only to a broadcast.
     for (const InterfaceAddress &address : m_addresses) {
-        if (address.index == camera.interfaceIndex)
+        const auto socket = m_sockets.find(address.index);
+        if (broadcasts.count(address.index) > 0 && socket != m_sockets.end())
             socket->second->broadcastLimited(address, m_requestId);
     }
 }

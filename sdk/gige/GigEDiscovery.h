@@ -58,7 +58,7 @@ private:
     void readInterfaces(Time now);
     void openSockets();
     void startSearch(Time now);
-    void askAgain(const CameraRegistry::Camera &camera) const;
+    void askAgain(const std::vector<CameraRegistry::Camera> &cameras) const;
     void receive(Time now);
     bool isRecentRequest(std::uint16_t requestId) const;
     const std::vector<InterfaceList> &currentLists();

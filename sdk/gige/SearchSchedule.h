@@ -52,5 +52,5 @@ private:
     Time m_end; // The end of the last search.
     Time m_nextSearch; // The time at which a search starts even if no consumer requests one.
     Time m_lastReport;
-    Time m_nextReport = Time::max(); // Time::max() if there are no news.
+    Time m_nextReport = Time::max(); // Time::max() if there is no news.
 };

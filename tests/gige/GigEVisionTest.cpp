@@ -1,6 +1,7 @@
 // These tests run GigE Vision discovery with the built producer. The GigEVision tests run in a network
 // namespace that contains only lo, the CameraNetworks tests in a namespace that with-camera-networks sets up.
 
+#include "sdk/gentl/ListChangeExtension.h"
 #include "tests/producer/ProducerSession.h"
 
 #include <algorithm>
@@ -9,8 +10,10 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <map>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 using namespace GenTL;
 
@@ -26,19 +29,42 @@ public:
     const ProducerSession &session() const { return m_session; }
     IF_HANDLE handle(const std::string &interfaceId) const { return m_handles.at(interfaceId); }
 
-    /// Enumerates the cameras until the list is as expected, but not longer than a minute. Returns the last
-    /// list.
+    /// Searches until the list is as expected, but not longer than a minute. Returns the last list.
     Cameras await(const Cameras &expected)
     {
         const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(1);
-        Cameras cameras = list();
+        Cameras cameras = list(500);
         while (cameras != expected && std::chrono::steady_clock::now() < deadline)
-            cameras = list();
+            cameras = list(500);
         return cameras;
     }
 
+    /// Collects the list whenever the producer reports a change, until the list is as expected or the
+    /// producer has reported no change for a minute. Returns the last list.
+    Cameras awaitReport(const Cameras &expected)
+    {
+        const auto function
+            = reinterpret_cast<ListChangedFunction *>(m_session.producer().symbol(listChangedFunctionName));
+        const int descriptor = function();
+        pollfd change{descriptor, POLLIN, 0};
+        Cameras cameras = list(0);
+        while (cameras != expected && poll(&change, 1, 60000) == 1) {
+            std::uint64_t count = 0;
+            EXPECT_EQ(read(descriptor, &count, sizeof count), 8);
+            cameras = list(0);
+        }
+        return cameras;
+    }
+
+    std::int32_t accessStatus(const std::string &interfaceId, const std::string &deviceId) const
+    {
+        return readNumber(infoCall(m_session.producer().IFGetDeviceInfo, handle(interfaceId),
+                              deviceId.c_str(), DEVICE_INFO_ACCESS_STATUS),
+            INFO_DATATYPE_INT32);
+    }
+
 private:
-    Cameras list()
+    Cameras list(std::uint64_t timeout)
     {
         m_session.updateInterfaces();
         for (const std::string &id : m_session.interfaceIds()) {
@@ -47,7 +73,7 @@ private:
         }
         Cameras cameras;
         for (const auto &[interface, handle] : m_handles) {
-            m_session.updateDevices(handle);
+            EXPECT_EQ(m_session.producer().IFUpdateDeviceList(handle, nullptr, timeout), GC_ERR_SUCCESS);
             for (const std::string &id : m_session.deviceIds(handle))
                 cameras.emplace_back(
                     interface, m_session.deviceString(handle, id, DEVICE_INFO_SERIAL_NUMBER));
@@ -85,6 +111,7 @@ private:
 };
 
 const Cameras loopbackCamera{{"127.0.0.1", "LOOP1"}};
+const Cameras allCameras{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"10.77.2.1", "STRAY"}};
 
 } // namespace
 
@@ -100,13 +127,36 @@ TEST(GigEVision, reconnectedCameraHasTheSameId)
     }
 }
 
-TEST(CameraNetworks, cameraDisappearsWithItsNetworkInterface)
+TEST(CameraNetworks, cameraOfAnotherSubnetIsListedWithoutAccess)
 {
     CameraLister lister;
-    const Cameras all{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"10.77.2.1", "STRAY"}};
-    ASSERT_EQ(lister.await(all), all);
+    ASSERT_EQ(lister.await(allCameras), allCameras);
+    EXPECT_EQ(lister.accessStatus("10.77.2.1", "Aravis-Fake-CARD2"), DEVICE_ACCESS_STATUS_UNKNOWN);
+    EXPECT_EQ(lister.accessStatus("10.77.2.1", "Aravis-Fake-STRAY"), DEVICE_ACCESS_STATUS_NOACCESS);
+}
+
+TEST(CameraNetworks, cameraDisappearsAndReturnsWithItsNetworkInterface)
+{
+    CameraLister lister;
+    ASSERT_EQ(lister.await(allCameras), allCameras);
     ASSERT_EQ(std::system("ip link set card1 down"), 0);
     const Cameras left{{"10.77.2.1", "CARD2"}, {"10.77.2.1", "STRAY"}};
-    EXPECT_EQ(lister.await(left), left);
-    EXPECT_EQ(lister.session().interfaceIds(), (std::vector<std::string>{"127.0.0.1", "10.77.2.1"}));
+    EXPECT_EQ(lister.awaitReport(left), left);
+    EXPECT_EQ(
+        lister.session().interfaceIds(), (std::vector<std::string>{"127.0.0.1", "10.77.2.1", "10.77.3.1"}));
+    ASSERT_EQ(std::system("ip link set card1 up"), 0);
+    EXPECT_EQ(lister.awaitReport(allCameras), allCameras);
+}
+
+TEST(CameraNetworks, cameraOnTwoNetworkInterfacesIsListedOnce)
+{
+    CameraLister lister;
+    ASSERT_EQ(lister.await(allCameras), allCameras);
+    ASSERT_EQ(std::system("ip address delete 10.77.2.1/24 dev card2"), 0);
+    const Cameras onCard3{{"10.77.1.1", "CARD1"}, {"10.77.3.1", "CARD2"}, {"10.77.3.1", "STRAY"}};
+    EXPECT_EQ(lister.awaitReport(onCard3), onCard3);
+    EXPECT_EQ(lister.accessStatus("10.77.3.1", "Aravis-Fake-CARD2"), DEVICE_ACCESS_STATUS_NOACCESS);
+    ASSERT_EQ(std::system("ip address add 10.77.2.1/24 broadcast + dev card2"), 0);
+    const Cameras back{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {"10.77.3.1", "STRAY"}};
+    EXPECT_EQ(lister.awaitReport(back), back) << "STRAY stays where it was listed last";
 }

@@ -81,11 +81,11 @@ TEST(SearchSchedule, frequentSearchesDoNotDelayTheCountOfMissingAnswers)
     EXPECT_EQ(schedule.nextSearch(), at(3900ms));
 }
 
-TEST(SearchSchedule, newsAreReportedOnceForEachSearchWhenAllCamerasHaveAnswered)
+TEST(SearchSchedule, newsIsReportedOnceForEachSearchWhenAllCamerasHaveAnswered)
 {
     SearchSchedule schedule;
     schedule.start(at(0ms));
-    EXPECT_FALSE(schedule.takeReport(at(1000ms))) << "there are no news";
+    EXPECT_FALSE(schedule.takeReport(at(1000ms))) << "there is no news";
     schedule.noteNews(at(300ms));
     schedule.noteNews(at(900ms));
     schedule.endIfSettled(at(1000ms));

@@ -27,7 +27,7 @@ struct Script
     ListDevices devices = [](const std::string &) { return Ids{}; };
     std::string version;
     int listChangedDescriptor = -1;
-    std::chrono::milliseconds lastTimeout{-1}; // The timeout of the last search for devices.
+    std::function<void(std::chrono::milliseconds)> noteTimeout = [](std::chrono::milliseconds) {};
 };
 
 Script script;
@@ -48,7 +48,7 @@ public:
     std::vector<DeviceRecord> updateDevices(
         const std::string &interfaceId, std::chrono::milliseconds timeout) override
     {
-        script.lastTimeout = timeout;
+        script.noteTimeout(timeout);
         std::vector<DeviceRecord> records;
         for (const std::string &id : script.devices(interfaceId))
             records.push_back({id, "Vendor", "Model", "GEV", "Shown", "User", "Serial",
@@ -157,11 +157,13 @@ TEST_F(ScriptedProducer, sourceReceivesABoundedTimeout)
 {
     using std::chrono::milliseconds;
     const IF_HANDLE handle = session.open("one");
+    milliseconds last{-1};
+    script.noteTimeout = [&](milliseconds timeout) { last = timeout; };
     const std::pair<std::uint64_t, milliseconds> expected[] = {{0, milliseconds(0)}, {200, milliseconds(200)},
         {60000, milliseconds(60000)}, {60001, milliseconds(60000)}, {GENTL_INFINITE, milliseconds(60000)}};
     for (const auto &[timeout, received] : expected) {
         EXPECT_EQ(producer().IFUpdateDeviceList(handle, nullptr, timeout), GC_ERR_SUCCESS);
-        EXPECT_EQ(script.lastTimeout, received);
+        EXPECT_EQ(last, received);
     }
 }
 
