@@ -3,7 +3,6 @@
 
 #include "sdk/gentl/ListChangeExtension.h"
 #include "tests/producer/ProducerSession.h"
-#include "tests/support/DescriptorLimit.h"
 
 #include <algorithm>
 #include <chrono>
@@ -11,7 +10,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <map>
-#include <optional>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -135,16 +133,6 @@ TEST(CameraNetworks, cameraOfAnotherSubnetIsListedWithoutAccess)
     ASSERT_EQ(lister.await(allCameras), allCameras);
     EXPECT_EQ(lister.accessStatus("10.77.2.1", "Aravis-Fake-CARD2"), DEVICE_ACCESS_STATUS_UNKNOWN);
     EXPECT_EQ(lister.accessStatus("10.77.2.1", "Aravis-Fake-STRAY"), DEVICE_ACCESS_STATUS_NOACCESS);
-}
-
-TEST(CameraNetworks, camerasAreFoundAfterAShortageOfDescriptors)
-{
-    std::optional<CameraLister> lister;
-    {
-        const DescriptorLimit limit(4); // Enough for the thread and for the socket of one network interface.
-        lister.emplace();
-    }
-    EXPECT_EQ(lister->await(allCameras), allCameras);
 }
 
 TEST(CameraNetworks, cameraDisappearsAndReturnsWithItsNetworkInterface)
