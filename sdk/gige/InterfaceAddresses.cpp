@@ -19,6 +19,11 @@ std::optional<std::uint32_t> toNumber(const sockaddr *address)
     return ntohl(reinterpret_cast<const sockaddr_in *>(address)->sin_addr.s_addr);
 }
 
+[[noreturn]] void throwFailure()
+{
+    throw std::system_error(errno, std::generic_category(), "The network interfaces cannot be listed");
+}
+
 } // namespace
 
 bool operator==(const InterfaceAddress &left, const InterfaceAddress &right)
@@ -34,7 +39,7 @@ std::vector<InterfaceAddress> interfaceAddresses()
 {
     ifaddrs *list = nullptr;
     if (getifaddrs(&list) != 0)
-        throw std::system_error(errno, std::generic_category(), "The network interfaces cannot be listed");
+        throwFailure();
     const std::unique_ptr<ifaddrs, void (*)(ifaddrs *)> owned(list, freeifaddrs);
 
     std::vector<InterfaceAddress> addresses;
@@ -46,8 +51,10 @@ std::vector<InterfaceAddress> interfaceAddresses()
         // the part before the colon.
         const std::string label = entry->ifa_name, name = label.substr(0, label.find(':'));
         const unsigned index = if_nametoindex(name.c_str());
-        if (index == 0)
+        if (index == 0 && errno == ENODEV)
             continue; // The network interface has just been removed.
+        if (index == 0)
+            throwFailure();
         addresses.push_back({index, name, *address, toNumber(entry->ifa_netmask).value_or(~0U),
             (entry->ifa_flags & IFF_BROADCAST) != 0, (entry->ifa_flags & IFF_RUNNING) != 0});
     }

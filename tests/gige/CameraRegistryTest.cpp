@@ -98,6 +98,19 @@ TEST_F(CameraRegistryTest, camerasWithTheSameMacAddressAreDistinguishedByTheirAd
     EXPECT_EQ(ids(), expected);
 }
 
+TEST_F(CameraRegistryTest, idWithAnAddressBelongsToThisAddress)
+{
+    registry.addAnswer(3, cameraAt(1, 10));
+    registry.addAnswer(1, cameraAt(1, 20));
+    registry.removeInterface(3);
+    registry.addAnswer(2, cameraAt(1, 20));
+    EXPECT_EQ(ids(), (Ids{"1 00:00:00:00:00:01@0.0.0.20", "2 00:00:00:00:00:01@0.0.0.20"}))
+        << "the same camera on another network interface";
+    startSearch();
+    registry.addAnswer(1, cameraAt(1, 30));
+    EXPECT_EQ(ids().back(), "1 00:00:00:00:00:01@0.0.0.30") << "another camera";
+}
+
 TEST_F(CameraRegistryTest, camerasThatReportTheSameAddressAreAllKept)
 {
     registry.addAnswer(1, cameraAt(1, 10));

@@ -183,3 +183,18 @@ TEST(DescriptorShortage, discoveryRecoversAfterAShortage)
     EXPECT_EQ(discovery->cameras(loopback, 0ms).size(), 1U);
     EXPECT_EQ(discovery->interfaces().size(), 1U);
 }
+
+// This test must run in the network namespace that with-camera-networks creates.
+TEST(CameraNetworkShortage, allNetworkInterfacesAreSearchedAfterAShortage)
+{
+    std::optional<GigEDiscovery> discovery;
+    {
+        const DescriptorLimit limit(4); // Two events, the monitor, and the socket of one network interface.
+        discovery.emplace();
+    }
+    const auto end = std::chrono::steady_clock::now() + 1min;
+    std::size_t count = 0;
+    while (count < 3 && std::chrono::steady_clock::now() < end)
+        count = discovery->cameras("10.77.1.1", 200ms).size() + discovery->cameras("10.77.2.1", 0ms).size();
+    EXPECT_EQ(count, 3U);
+}
