@@ -51,11 +51,11 @@ bool KnownInterfaces::replaceAll(std::vector<InterfaceRecord> interfaces, Search
     std::stable_sort(
         interfaces.begin(), interfaces.end(), [](const auto &a, const auto &b) { return a.id < b.id; });
 
-    std::size_t room = roomBeside(reportedDevices);
+    std::size_t remainingDevices = roomBeside(reportedDevices);
     std::vector<Interface> updated;
     for (InterfaceRecord &interface : interfaces) {
         const Interface *known = findKnown(interface.id);
-        updated.push_back(merged(known, std::move(interface), kind, now, room));
+        updated.push_back(merged(known, std::move(interface), kind, now, remainingDevices));
     }
     m_interfaces.swap(updated);
     return !std::equal(updated.begin(), updated.end(), m_interfaces.begin(), m_interfaces.end(),
@@ -72,51 +72,51 @@ bool KnownInterfaces::replace(InterfaceRecord interface, SearchKind kind, TimePo
     std::size_t devices = interface.devices.size();
     for (const Interface &other : m_interfaces)
         devices += &other != &*known ? other.record->devices.size() : 0;
-    std::size_t room = roomBeside(devices);
-    Interface updated = merged(&*known, std::move(interface), kind, now, room);
+    std::size_t remainingDevices = roomBeside(devices);
+    Interface updated = merged(&*known, std::move(interface), kind, now, remainingDevices);
     std::swap(*known, updated);
     return known->record != updated.record;
 }
 
-/// Combines the reply of a search with the devices that the interface had before. `room` is the number of
-/// unreported devices that may still be kept.
-KnownInterfaces::Interface KnownInterfaces::merged(
-    const Interface *known, InterfaceRecord reported, SearchKind kind, TimePoint now, std::size_t &room)
+/// Combines the reply of a search with the devices that the interface had before. `remainingDevices` is the
+/// number of unreported devices that may still be kept.
+KnownInterfaces::Interface KnownInterfaces::merged(const Interface *known, InterfaceRecord reported,
+    SearchKind kind, TimePoint now, std::size_t &remainingDevices)
 {
-    const Sighting seen{now};
+    const DeviceState seen{now};
     if (!known || *known->record == reported) {
         const std::size_t count = reported.devices.size();
         return {known ? known->record : std::make_shared<const InterfaceRecord>(std::move(reported)),
-            std::vector<Sighting>(count, seen)};
+            std::vector<DeviceState>(count, seen)};
     }
 
     std::vector<DeviceRecord> reply = std::exchange(reported.devices, {});
-    std::vector<Sighting> sightings;
-    const auto add = [&](DeviceRecord device, const Sighting &sighting) {
+    std::vector<DeviceState> states;
+    const auto add = [&](DeviceRecord device, const DeviceState &state) {
         reported.devices.push_back(std::move(device));
-        sightings.push_back(sighting);
+        states.push_back(state);
     };
     auto next = reply.begin(); // Both lists are sorted by ID.
-    for (std::size_t i = 0; i < known->sightings.size(); ++i) {
+    for (std::size_t i = 0; i < known->states.size(); ++i) {
         const DeviceRecord &device = known->record->devices[i];
         for (; next != reply.end() && next->id < device.id; ++next)
             add(std::move(*next), seen);
         const bool isReported = next != reply.end() && next->id == device.id;
-        if (isReported || room == 0)
+        if (isReported || remainingDevices == 0)
             continue;
-        --room;
-        add(device, known->sightings[i].afterMiss(kind, isNetworkDevice(reported, device)));
+        --remainingDevices;
+        add(device, known->states[i].afterMiss(kind, isNetworkDevice(reported, device)));
     }
     for (; next != reply.end(); ++next)
         add(std::move(*next), seen);
     return {reported == *known->record ? known->record
                                        : std::make_shared<const InterfaceRecord>(std::move(reported)),
-        std::move(sightings)};
+        std::move(states)};
 }
 
-KnownInterfaces::Sighting KnownInterfaces::Sighting::afterMiss(SearchKind kind, bool isOnNetwork) const
+KnownInterfaces::DeviceState KnownInterfaces::DeviceState::afterMiss(SearchKind kind, bool isOnNetwork) const
 {
-    Sighting result = *this;
+    DeviceState result = *this;
     if (kind == SearchKind::Background)
         ++result.missedSearches;
     if (!isOnNetwork || kind == SearchKind::SelfUpdating || result.missedSearches >= maxMissedSearches)
@@ -127,7 +127,7 @@ KnownInterfaces::Sighting KnownInterfaces::Sighting::afterMiss(SearchKind kind, 
 bool KnownInterfaces::Interface::hasMissing() const
 {
     return std::any_of(
-        sightings.begin(), sightings.end(), [](const Sighting &sighting) { return sighting.isMissing; });
+        states.begin(), states.end(), [](const DeviceState &state) { return state.isMissing; });
 }
 
 bool KnownInterfaces::Interface::reports(const std::string &deviceId) const
@@ -136,7 +136,7 @@ bool KnownInterfaces::Interface::reports(const std::string &deviceId) const
     const auto found = std::lower_bound(devices.begin(), devices.end(), deviceId,
         [](const DeviceRecord &device, const std::string &id) { return device.id < id; });
     return found != devices.end() && found->id == deviceId
-        && !sightings[static_cast<std::size_t>(found - devices.begin())].isMissing;
+        && !states[static_cast<std::size_t>(found - devices.begin())].isMissing;
 }
 
 bool KnownInterfaces::hasMissing() const
@@ -153,20 +153,19 @@ bool KnownInterfaces::removeMissing(const IsHeld &isHeld)
             continue;
         const InterfaceRecord &record = *interface.record;
         InterfaceRecord rest{record.number, record.id, record.name, record.type, {}};
-        std::vector<Sighting> sightings;
+        std::vector<DeviceState> states;
         for (std::size_t i = 0; i < record.devices.size(); ++i) {
             const DeviceRecord &device = record.devices[i];
-            const Sighting &sighting = interface.sightings[i];
-            if (sighting.isMissing
-                && (!isHeld(record, device, sighting.lastReport)
-                    || isReportedElsewhere(device.id, interface)))
+            const DeviceState &state = interface.states[i];
+            if (state.isMissing
+                && (!isHeld(record, device, state.lastReport) || isReportedElsewhere(device.id, interface)))
                 continue;
             rest.devices.push_back(device);
-            sightings.push_back(sighting);
+            states.push_back(state);
         }
         if (rest.devices.size() == record.devices.size())
             continue;
-        interface = {std::make_shared<const InterfaceRecord>(std::move(rest)), std::move(sightings)};
+        interface = {std::make_shared<const InterfaceRecord>(std::move(rest)), std::move(states)};
         isAnyRemoved = true;
     }
     return isAnyRemoved;

@@ -47,27 +47,27 @@ public:
     Record find(const std::string &interfaceId) const;
 
 private:
-    struct Sighting
+    struct DeviceState
     {
         TimePoint lastReport;
         unsigned missedSearches = 0; // Background searches since the last report.
         bool isMissing = false;
 
         /// Returns the state after a search that did not report the device.
-        Sighting afterMiss(SearchKind kind, bool isOnNetwork) const;
+        DeviceState afterMiss(SearchKind kind, bool isOnNetwork) const;
     };
 
     struct Interface
     {
         Record record;
-        std::vector<Sighting> sightings; // One element for each device, in the same order.
+        std::vector<DeviceState> states; // One element for each device, in the same order.
 
         bool hasMissing() const;
         bool reports(const std::string &deviceId) const; // Returns false for a missing device.
     };
 
-    static Interface merged(
-        const Interface *known, InterfaceRecord reported, SearchKind kind, TimePoint now, std::size_t &room);
+    static Interface merged(const Interface *known, InterfaceRecord reported, SearchKind kind, TimePoint now,
+        std::size_t &remainingDevices);
     const Interface *findKnown(const std::string &interfaceId) const;
     bool isReportedElsewhere(const std::string &deviceId, const Interface &interface) const;
 

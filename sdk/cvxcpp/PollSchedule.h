@@ -13,7 +13,7 @@ public:
     TimePoint nextPoll() const { return m_nextPoll; }
 
     /// Returns true if a poll is due, and schedules the next poll. Polls that were missed while the process
-    /// was suspended are replaced by a single poll.
+    /// was stopped are replaced by a single poll.
     bool takeDuePoll(TimePoint now);
 
 private:

@@ -5,11 +5,12 @@
 
 namespace {
 
-// A background search starts no sooner than this many times the processor time of the last search after its
-// end, because some producers use a whole processor while they search.
-constexpr int processorTimeFactor = 4;
-
-constexpr Milliseconds maxPause{30000}; // For a producer that reports an absurd processor time.
+// Some producers use much processor time while they search. After the end of a background search, the next
+// one starts no sooner than minPauseFactor times the processor time of the last one, and so late that
+// searches use at most a twentieth of a processor.
+constexpr int minPauseFactor = 4;
+constexpr int maxShare = 20;
+constexpr SteadyClock::duration maxPause = std::chrono::seconds(30);
 
 // A background search that is due may have to wait for the end of a short one.
 constexpr Milliseconds maxSearchDelay{500};
@@ -40,7 +41,8 @@ bool SearchState::isCurrent(TimePoint now) const
 {
     const bool isSearchComplete = m_running && m_running->request != Request::Short;
     const TimePoint reference = isSearchComplete ? m_running->sentAt : now;
-    const auto age = std::max(m_intervals.poll, pause()) + m_searchTime + maxSearchDelay;
+    const SteadyClock::duration poll = m_intervals.poll;
+    const auto age = std::max(poll, pause()) + m_searchTime + maxSearchDelay;
     return m_listedAt && reference - m_completedAt < age;
 }
 
@@ -63,25 +65,36 @@ void SearchState::requestPoll()
 
 std::optional<SearchState::Request> SearchState::takeListRequest(TimePoint now)
 {
-    std::optional<Request> request;
-    if (now >= backgroundSearchTime())
-        request = Request::Background;
-    else if (m_isShortSearchPending)
-        request = Request::Short;
-    else if (now >= collectionTime())
-        request = Request::Collection;
+    const auto request = dueListRequest(now);
+    if (!request)
+        return std::nullopt;
     if (request == Request::Background)
         m_isBackgroundSearchPending = false;
-    if (request) {
-        m_isShortSearchPending = false;
-        m_isCollectionPending = false;
-    }
+    m_isShortSearchPending = false;
+    m_isCollectionPending = false;
+    m_lastRequest = *request;
     return request;
 }
 
-Milliseconds SearchState::pause() const
+std::optional<SearchState::Request> SearchState::dueListRequest(TimePoint now) const
 {
-    return std::min(processorTimeFactor * m_processorTime, maxPause);
+    const bool isBackgroundDue = now >= backgroundSearchTime();
+    // A caller gets a short search first, but callers that search all the time do not keep the background
+    // searches from running.
+    const bool isShortFirst = !isBackgroundDue || m_lastRequest != Request::Short;
+    if (m_isShortSearchPending && isShortFirst)
+        return Request::Short;
+    if (isBackgroundDue)
+        return Request::Background;
+    if (now >= collectionTime())
+        return Request::Collection;
+    return std::nullopt;
+}
+
+SteadyClock::duration SearchState::pause() const
+{
+    const SteadyClock::duration cost = m_processorTime;
+    return std::min(std::max(minPauseFactor * cost, maxShare * cost - m_searchTime), maxPause);
 }
 
 TimePoint SearchState::nextListRequest() const

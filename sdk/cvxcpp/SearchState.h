@@ -97,7 +97,8 @@ private:
         TimePoint sentAt;
     };
 
-    Milliseconds pause() const;
+    std::optional<Request> dueListRequest(TimePoint now) const;
+    SteadyClock::duration pause() const;
     TimePoint backgroundSearchTime() const;
     TimePoint collectionTime() const;
 
@@ -114,6 +115,7 @@ private:
     SteadyClock::duration m_searchTime{};
     Milliseconds m_processorTime{0};
     bool m_isSelfUpdating = false;
+    Request m_lastRequest = Request::Background;
     bool m_isResponsive = true;
     bool m_isShortSearchPending = true; // Every new host is asked for its cameras.
     bool m_isBackgroundSearchPending = false;

@@ -3,7 +3,7 @@
 #include "sdk/cvxcpp/Timing.h"
 
 /// Detects that the session's thread could not run although it had to: the process was stopped, or the
-/// machine was suspended or overloaded. The hosts were probably stopped as well, so they are given the lost
+/// machine was overloaded. The hosts were probably stopped as well, so they are given the lost
 /// time before a missing reply counts as a failure.
 class StandstillRule
 {

@@ -63,8 +63,8 @@ TEST_F(SearchStateTest, listIsCurrentForAPollIntervalAndOneMoreSearch)
     finish(Request::Short, searchTime + 1s);
     EXPECT_FALSE(search.isCurrent(searchTime + 3s)) << "a short search may have missed cameras";
     finish(Request::Background, searchTime, {true, false, 1s});
-    EXPECT_TRUE(search.isCurrent(searchTime + 4999ms)) << "the pause is four times the processor time";
-    EXPECT_FALSE(search.isCurrent(searchTime + 5s));
+    EXPECT_TRUE(search.isCurrent(searchTime + 20499ms)) << "a pause of 19.5 s instead of the poll interval";
+    EXPECT_FALSE(search.isCurrent(searchTime + 20500ms));
 }
 
 TEST_F(SearchStateTest, listStaysCurrentDuringALongBackgroundSearch)
@@ -99,18 +99,25 @@ TEST_F(SearchStateTest, interfaceUpdateRefreshesOnlyThatInterface)
     EXPECT_FALSE(search.isInterfaceFresh("net", searchTime + 2s));
 }
 
-TEST_F(SearchStateTest, backgroundSearchPausesForFourTimesItsProcessorTime)
+TEST_F(SearchStateTest, backgroundSearchPausesForItsProcessorTime)
 {
-    finish(Request::Background, searchTime, {true, false, 800ms});
+    finish(Request::Background, searchTime, {true, false, 20ms});
     search.requestPoll();
-    EXPECT_EQ(search.nextListRequest(), searchTime + 3200ms);
-    EXPECT_EQ(search.takeListRequest(searchTime + 3199ms), std::nullopt);
+    EXPECT_EQ(search.nextListRequest(), searchTime + 80ms) << "four times the processor time";
+    finish(Request::Background, searchTime, {true, false, 100ms});
+    EXPECT_EQ(search.nextListRequest(), searchTime + 1500ms) << "100 ms of 2 s";
+    EXPECT_EQ(search.takeListRequest(searchTime + 1499ms), std::nullopt);
     search.requestShortSearch();
-    EXPECT_EQ(search.takeListRequest(searchTime + 3199ms), Request::Short) << "callers need not wait for it";
-    finish(Request::Short, searchTime + 3199ms, {true, false, 1s});
-    EXPECT_EQ(search.takeListRequest(searchTime + 3200ms), Request::Background)
+    EXPECT_EQ(search.takeListRequest(searchTime + 1499ms), Request::Short) << "callers need not wait for it";
+    finish(Request::Short, searchTime + 1499ms, {true, false, 1s});
+    EXPECT_EQ(search.takeListRequest(searchTime + 1500ms), Request::Background)
         << "short searches cannot postpone background searches";
     EXPECT_EQ(search.nextListRequest(), TimePoint::max());
+    search.requestPoll();
+    search.requestShortSearch();
+    EXPECT_EQ(search.takeListRequest(searchTime + 1h), Request::Short) << "a caller comes first";
+    search.requestShortSearch();
+    EXPECT_EQ(search.takeListRequest(searchTime + 1h), Request::Background) << "but not twice";
     finish(Request::Background, searchTime, {true, false, 1h});
     search.requestPoll();
     EXPECT_EQ(search.nextListRequest(), searchTime + 30s) << "the longest pause";

@@ -96,7 +96,7 @@ public:
     /// GetCameras() returned a list, less than 1 s ago, the command uses the known devices.
     ///
     /// Blocks for at most 50 ms, or for at most 3 s if the system could not search for cameras recently, for
-    /// example because the machine was suspended. Returns immediately if the producer is searching already
+    /// example because the program was stopped. Returns immediately if the producer is searching already
     /// or has failed to answer an earlier request in time. If the producer does not answer in time, the
     /// result of the previous search stays valid, and the command succeeds with that result. Returns
     /// CvxErrorTimeout if there is no previous result, CvxErrorNotAvailable if the interface no longer
@@ -250,7 +250,7 @@ public:
     /// for cameras by itself, every 2 s or when a producer reports a change, so the function returns what is
     /// known. It also starts a search, unless one is running or ended less than 250 ms ago, and blocks for at
     /// most 50 ms until the search has ended. If there was no search yet, or none recently because the
-    /// machine was suspended, the function waits for the search instead: usually for 200 ms, at most for 3 s.
+    /// program was stopped, the function waits for the search instead: usually for 200 ms, at most for 3 s.
     ///
     /// A producer that has not answered by then contributes the cameras of its previous answer. The cameras
     /// that it finds later are reported to the observers. After 3 s without an answer, the next calls do not
