@@ -90,8 +90,10 @@ TEST_F(BackgroundSearchTest, cameraSurvivesOneBackgroundSearch)
     const auto searches = [&] { return countCalls("a", "IFUpdateDeviceList"); };
     const std::size_t before = searches();
     setScript("a", network(1));
-    EXPECT_TRUE(waitUntil([&] { return !recorder->calls().empty(); }));
-    EXPECT_EQ(recorder->calls(), Calls{"-a.cti/net/2"});
+    // The first poll may also have reported the first list.
+    const auto isGone
+        = [&] { return !recorder->calls().empty() && recorder->calls().back() == "-a.cti/net/2"; };
+    EXPECT_TRUE(waitUntil(isGone));
     EXPECT_GE(searches(), before + 2);
 }
 
