@@ -2,11 +2,10 @@
 //
 // usage: bench_watch_cameras first MODEL             the first list: number of cameras, milliseconds
 //        bench_watch_cameras later MODEL SECONDS     the same for each list that follows, at random times
-//        bench_watch_cameras watch MODEL             until standard input ends: a line for each call of the
-//        observer
-//                                                    ("added ID" or "removed ID") and for each list ("list
-//                                                    ID…")
+//        bench_watch_cameras watch MODEL             until standard input ends: each call of the observer
+//                                                    and each list
 //
+// "watch" prints "added ID" or "removed ID" for a call, and "list ID…" for a list.
 // Only cameras of this model are counted. Each line of "watch" begins with the time in seconds of the
 // monotonic clock. While a list is being made, further calls of the observer start no other list.
 

@@ -2,6 +2,7 @@
 
 #include "tests/sdk/support/SystemTest.h"
 
+#include <algorithm>
 #include <thread>
 
 using namespace CvxCPP;
@@ -42,8 +43,8 @@ TEST_F(BackgroundSearchTest, secondSearchHasMoreTimeAndReportsFurtherCameras)
         if (call.rfind("IFUpdateDeviceList", 0) == 0)
             timeouts.push_back(call);
     }
-    timeouts.resize(2);
-    EXPECT_EQ(timeouts, (Calls{"IFUpdateDeviceList net 200", "IFUpdateDeviceList net 300"}));
+    EXPECT_EQ(timeouts.front(), "IFUpdateDeviceList net 200");
+    EXPECT_EQ(std::count(timeouts.begin(), timeouts.end(), "IFUpdateDeviceList net 300"), 1);
 }
 
 TEST_F(BackgroundSearchTest, callersDoNotWaitForASearchThatIsRunning)
