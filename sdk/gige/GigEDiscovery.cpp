@@ -229,7 +229,8 @@ void GigEDiscovery::receive(Time now)
     for (const auto &[index, socket] : m_sockets) {
         int remaining = maxDatagrams;
         while (const auto answer = socket->receive(remaining)) {
-            if (!isRecentRequest(answer->requestId) || !m_registry.addAnswer(index, answer->camera))
+            if (!isRecentRequest(answer->requestId)
+                || !m_registry.addAnswer(index, answer->requestId, answer->camera))
                 continue;
             m_areListsOutdated = true;
             m_schedule.noteNews(now);
