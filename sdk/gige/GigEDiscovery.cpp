@@ -33,7 +33,7 @@ int pollTimeout(Clock::time_point end)
 
 /// Returns true if the new addresses contain a network interface, an address or a carrier that the old ones
 /// lack.
-bool hasMore(const std::vector<InterfaceAddress> &now, const std::vector<InterfaceAddress> &before)
+bool hasNewAddress(const std::vector<InterfaceAddress> &now, const std::vector<InterfaceAddress> &before)
 {
     return std::any_of(now.begin(), now.end(), [&](const InterfaceAddress &address) {
         const bool isKnown = std::find(before.begin(), before.end(), address) != before.end();
@@ -156,8 +156,8 @@ void GigEDiscovery::readInterfaces(Time now)
     }
     if (addresses == m_addresses)
         return;
-    if (hasMore(addresses, m_addresses))
-        m_schedule.hasten(now);
+    if (hasNewAddress(addresses, m_addresses))
+        m_schedule.searchSoon(now);
     m_addresses = std::move(addresses);
     m_areListsOutdated = true;
     openSockets();
@@ -233,7 +233,7 @@ void GigEDiscovery::receive(Time now)
                 || !m_registry.addAnswer(index, answer->requestId, answer->camera))
                 continue;
             m_areListsOutdated = true;
-            m_schedule.noteNews(now);
+            m_schedule.noteChange(now);
         }
     }
 }
