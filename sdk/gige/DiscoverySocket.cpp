@@ -79,7 +79,7 @@ void DiscoverySocket::broadcast(const InterfaceAddress &from, std::uint16_t requ
     broadcastLimited(from, requestId);
     constexpr std::uint32_t twoAddresses = 0xFFFFFFFE; // So small a subnet has no broadcast address.
     if (from.canBroadcast && from.mask < twoAddresses)
-        send(from.address, from.address | ~from.mask, requestId);
+        send(from.address, from.broadcastAddress(), requestId);
 }
 
 void DiscoverySocket::broadcastLimited(const InterfaceAddress &from, std::uint16_t requestId) const
