@@ -133,6 +133,7 @@ void GigEDiscovery::work(Time now)
     }
     if (m_schedule.endIfSettled(now)) {
         ++m_endedSearches;
+        m_areListsOutdated = m_areListsOutdated || m_endedSearches == 1; // Placements are remembered now.
         m_searchEnded.notify_all();
         if (m_waitingCallers == 0)
             reportChange();
@@ -198,10 +199,24 @@ void GigEDiscovery::startSearch(Time now)
     if (++m_requestId == 0)
         ++m_requestId; // 0 is not a valid ID.
     m_recentRequests.at(m_requestId % m_recentRequests.size()) = m_requestId;
+    std::set<unsigned> interfaces;
+    for (const InterfaceAddress &address : m_addresses)
+        interfaces.insert(address.index);
+    broadcastLimited(std::move(interfaces));
     for (const InterfaceAddress &address : m_addresses) {
         const auto socket = m_sockets.find(address.index);
         if (socket != m_sockets.end())
-            socket->second->broadcast(address, m_requestId);
+            socket->second->broadcastToSubnet(address, m_requestId);
+    }
+}
+
+/// Sends one broadcast through each of the network interfaces, from its first address.
+void GigEDiscovery::broadcastLimited(std::set<unsigned> interfaces) const
+{
+    for (const InterfaceAddress &address : m_addresses) {
+        const auto socket = m_sockets.find(address.index);
+        if (interfaces.erase(address.index) > 0 && socket != m_sockets.end())
+            socket->second->broadcastLimited(address, m_requestId);
     }
 }
 
@@ -217,11 +232,7 @@ void GigEDiscovery::askAgain(const std::vector<CameraRegistry::Camera> &cameras)
         else if (socket != m_sockets.end())
             socket->second->sendTo(camera.data.address, *own, m_requestId);
     }
-    for (const InterfaceAddress &address : m_addresses) {
-        const auto socket = m_sockets.find(address.index);
-        if (broadcasts.count(address.index) > 0 && socket != m_sockets.end())
-            socket->second->broadcastLimited(address, m_requestId);
-    }
+    broadcastLimited(std::move(broadcasts));
 }
 
 void GigEDiscovery::receive(Time now)
@@ -247,7 +258,7 @@ bool GigEDiscovery::isRecentRequest(std::uint16_t requestId) const
 const std::vector<InterfaceList> &GigEDiscovery::currentLists()
 {
     if (std::exchange(m_areListsOutdated, false))
-        m_lists = m_placement.place(m_addresses, m_registry.cameras());
+        m_lists = m_placement.place(m_addresses, m_registry.cameras(), m_endedSearches > 0);
     return m_lists;
 }
 

@@ -17,6 +17,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -58,6 +59,7 @@ private:
     void readInterfaces(Time now);
     void openSockets();
     void startSearch(Time now);
+    void broadcastLimited(std::set<unsigned> interfaces) const;
     void askAgain(const std::vector<CameraRegistry::Camera> &cameras) const;
     void receive(Time now);
     bool isRecentRequest(std::uint16_t requestId) const;
