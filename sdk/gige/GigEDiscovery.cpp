@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int maxDatagrams = 256; // Of one socket, before other work is done.
+constexpr int maxDatagrams = 64; // Of one socket, before other work is done and callers get the mutex.
 
 int createEvent()
 {
@@ -83,7 +83,7 @@ std::vector<ListedCamera> GigEDiscovery::cameras(
     return list->cameras;
 }
 
-void GigEDiscovery::waitForSearch(std::unique_lock<std::mutex> &lock, std::chrono::milliseconds timeout)
+void GigEDiscovery::waitForSearch(std::unique_lock<FairMutex> &lock, std::chrono::milliseconds timeout)
 {
     const Time end = Clock::now() + std::min(timeout, SearchSchedule::maxAnswerDelay);
     if (!m_schedule.isSearching()) {
@@ -107,7 +107,7 @@ void GigEDiscovery::run()
     }
 }
 
-void GigEDiscovery::waitForEvent(std::unique_lock<std::mutex> &lock)
+void GigEDiscovery::waitForEvent(std::unique_lock<FairMutex> &lock)
 {
     std::vector<pollfd> descriptors{{m_monitor.descriptor(), POLLIN, 0}, {m_wakeEvent.number(), POLLIN, 0}};
     for (const auto &entry : m_sockets)
