@@ -65,6 +65,12 @@ public:
             lock, std::chrono::minutes(1), [this] { return m_commands > m_searches; });
     }
 
+    bool hasRepetition() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_commands > m_searches;
+    }
+
     /// Sends an answer to the last command now. If `change` is not 0, changes the request ID with it.
     void sendNow(AcknowledgementBuilder answer, std::uint16_t change = 0)
     {

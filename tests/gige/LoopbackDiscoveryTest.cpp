@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <cstdlib>
 #include <future>
 #include <gtest/gtest.h>
 #include <optional>
@@ -135,6 +136,16 @@ TEST_F(LoopbackDiscovery, callersShareASearch)
     for (int i = 0; i < 100; ++i)
         EXPECT_EQ(search(1s), Ids{});
     EXPECT_LT(responder.commands(), 100);
+}
+
+TEST_F(LoopbackDiscovery, networkInterfaceWithTwoAddressesGetsOneLimitedBroadcast)
+{
+    ASSERT_EQ(std::system("ip address add 10.5.2.1/24 dev lo"), 0);
+    while (source.updateInterfaces().size() < 2)
+        ASSERT_TRUE(awaitChange());
+    EXPECT_TRUE(responder.awaitSearches(2));
+    EXPECT_FALSE(responder.hasRepetition());
+    EXPECT_EQ(std::system("ip address delete 10.5.2.1/24 dev lo"), 0);
 }
 
 TEST_F(LoopbackDiscovery, floodOfAnswersLeavesTheListBounded)
