@@ -91,7 +91,13 @@ void GigEDiscovery::waitForSearch(std::unique_lock<FairMutex> &lock, std::chrono
         eventfd_write(m_wakeEvent.number(), 1);
     }
     ++m_waitingCallers;
-    m_searchEnded.wait_until(lock, end, [this, ended = m_endedSearches] { return m_endedSearches != ended; });
+    const std::uint64_t ended = m_endedSearches;
+    lock.unlock();
+    {
+        std::unique_lock endLock(m_endMutex);
+        m_searchEnded.wait_until(endLock, end, [&] { return m_endedSearches != ended; });
+    }
+    lock.lock();
     --m_waitingCallers;
 }
 
@@ -132,7 +138,10 @@ void GigEDiscovery::work(Time now)
         reportChange();
     }
     if (m_schedule.endIfSettled(now)) {
-        ++m_endedSearches;
+        {
+            const std::lock_guard endLock(m_endMutex);
+            ++m_endedSearches;
+        }
         m_areListsOutdated = m_areListsOutdated || m_endedSearches == 1; // Placements are remembered now.
         m_searchEnded.notify_all();
         if (m_waitingCallers == 0)

@@ -86,9 +86,11 @@ private:
     ReportedLists m_reported;
     int m_waitingCallers = 0; // Callers that collect the cameras when the running search ends.
     bool m_isSearchRequested = false;
-    std::uint64_t m_endedSearches = 0;
-    std::condition_variable_any m_searchEnded;
     bool m_isStopping = false;
+
+    std::mutex m_endMutex; // Changing m_endedSearches needs both mutexes; reading it needs one of them.
+    std::uint64_t m_endedSearches = 0;
+    std::condition_variable m_searchEnded;
 
     std::thread m_thread; // Declared last, because the thread uses all members above.
 };
