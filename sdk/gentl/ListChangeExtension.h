@@ -10,6 +10,6 @@ constexpr char listChangedFunctionName[] = "CvxListChangedDescriptor";
 /// Returns a descriptor that is readable after a list has changed, or -1 if the producer does not search by
 /// itself. Read 8 bytes to clear it; then update the lists with a timeout of 0, which returns what the
 /// producer knows and starts no search. The descriptor is non-blocking, belongs to the producer, and is valid
-/// from GCInitLib to GCCloseLib. Exporting the function also promises that a device that is not listed is
-/// gone, so the consumer need not tolerate a missed search.
+/// from GCInitLib to GCCloseLib. Returning a descriptor promises that a device that is not listed is gone, so
+/// the consumer need not tolerate a missed search.
 using ListChangedFunction = int();

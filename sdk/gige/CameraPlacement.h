@@ -33,9 +33,11 @@ public:
     /// Returns the GenTL interfaces in the order of the addresses. Lists a camera at the address whose subnet
     /// contains it. If there is no such address, lists the camera at the first address of the network
     /// interface on which it answers. If several interfaces are equally good, the camera stays where it was
-    /// listed last; otherwise, the interface with the first ID lists it.
-    std::vector<InterfaceList> place(
-        const std::vector<InterfaceAddress> &addresses, const std::vector<CameraRegistry::Camera> &cameras);
+    /// listed last; otherwise, the first interface lists it.
+    /// @param isComplete False if cameras have not had the time to answer on every network interface. Such a
+    /// list is not remembered, so the order of the first answers does not matter.
+    std::vector<InterfaceList> place(const std::vector<InterfaceAddress> &addresses,
+        const std::vector<CameraRegistry::Camera> &cameras, bool isComplete);
 
 private:
     std::map<std::string, std::string> m_interfaces; // The interface ID of every camera ID.

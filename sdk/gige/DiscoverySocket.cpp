@@ -74,12 +74,11 @@ DiscoverySocket::~DiscoverySocket()
     close(m_socket);
 }
 
-void DiscoverySocket::broadcast(const InterfaceAddress &from, std::uint16_t requestId) const
+void DiscoverySocket::broadcastToSubnet(const InterfaceAddress &from, std::uint16_t requestId) const
 {
-    broadcastLimited(from, requestId);
     constexpr std::uint32_t twoAddresses = 0xFFFFFFFE; // So small a subnet has no broadcast address.
     if (from.canBroadcast && from.mask < twoAddresses)
-        send(from.address, from.address | ~from.mask, requestId);
+        send(from.address, from.broadcastAddress(), requestId);
 }
 
 void DiscoverySocket::broadcastLimited(const InterfaceAddress &from, std::uint16_t requestId) const

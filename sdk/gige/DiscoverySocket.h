@@ -21,13 +21,13 @@ public:
     /// Returns the descriptor to poll for reading.
     int descriptor() const { return m_socket; }
 
-    /// Sends the discovery command to all cameras, as a limited broadcast and as a subnet broadcast. A
-    /// failure is not reported: no camera answers then, and the next search tries again.
+    /// Sends the discovery command to all cameras, including those in other subnets. A failure is not
+    /// reported: no camera answers then, and the next search tries again.
     /// @param from An address of the network interface.
-    void broadcast(const InterfaceAddress &from, std::uint16_t requestId) const;
-
-    /// Sends the discovery command to all cameras, including those in other subnets.
     void broadcastLimited(const InterfaceAddress &from, std::uint16_t requestId) const;
+
+    /// Sends the discovery command to the cameras of one subnet, unless it is too small for a broadcast.
+    void broadcastToSubnet(const InterfaceAddress &from, std::uint16_t requestId) const;
 
     /// Sends the discovery command to one camera.
     void sendTo(std::uint32_t camera, const InterfaceAddress &from, std::uint16_t requestId) const;

@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int maxDatagrams = 256; // Of one socket, before other work is done.
+constexpr int maxDatagrams = 64; // Of one socket, before other work is done and callers get the mutex.
 
 int createEvent()
 {
@@ -33,7 +33,7 @@ int pollTimeout(Clock::time_point end)
 
 /// Returns true if the new addresses contain a network interface, an address or a carrier that the old ones
 /// lack.
-bool hasMore(const std::vector<InterfaceAddress> &now, const std::vector<InterfaceAddress> &before)
+bool hasNewAddress(const std::vector<InterfaceAddress> &now, const std::vector<InterfaceAddress> &before)
 {
     return std::any_of(now.begin(), now.end(), [&](const InterfaceAddress &address) {
         const bool isKnown = std::find(before.begin(), before.end(), address) != before.end();
@@ -83,7 +83,7 @@ std::vector<ListedCamera> GigEDiscovery::cameras(
     return list->cameras;
 }
 
-void GigEDiscovery::waitForSearch(std::unique_lock<std::mutex> &lock, std::chrono::milliseconds timeout)
+void GigEDiscovery::waitForSearch(std::unique_lock<FairMutex> &lock, std::chrono::milliseconds timeout)
 {
     const Time end = Clock::now() + std::min(timeout, SearchSchedule::maxAnswerDelay);
     if (!m_schedule.isSearching()) {
@@ -91,7 +91,13 @@ void GigEDiscovery::waitForSearch(std::unique_lock<std::mutex> &lock, std::chron
         eventfd_write(m_wakeEvent.number(), 1);
     }
     ++m_waitingCallers;
-    m_searchEnded.wait_until(lock, end, [this, ended = m_endedSearches] { return m_endedSearches != ended; });
+    const std::uint64_t ended = m_endedSearches;
+    lock.unlock();
+    {
+        std::unique_lock endLock(m_endMutex);
+        m_searchEnded.wait_until(endLock, end, [&] { return m_endedSearches != ended; });
+    }
+    lock.lock();
     --m_waitingCallers;
 }
 
@@ -107,7 +113,7 @@ void GigEDiscovery::run()
     }
 }
 
-void GigEDiscovery::waitForEvent(std::unique_lock<std::mutex> &lock)
+void GigEDiscovery::waitForEvent(std::unique_lock<FairMutex> &lock)
 {
     std::vector<pollfd> descriptors{{m_monitor.descriptor(), POLLIN, 0}, {m_wakeEvent.number(), POLLIN, 0}};
     for (const auto &entry : m_sockets)
@@ -132,7 +138,11 @@ void GigEDiscovery::work(Time now)
         reportChange();
     }
     if (m_schedule.endIfSettled(now)) {
-        ++m_endedSearches;
+        {
+            const std::lock_guard endLock(m_endMutex);
+            ++m_endedSearches;
+        }
+        m_areListsOutdated = m_areListsOutdated || m_endedSearches == 1; // Placements are remembered now.
         m_searchEnded.notify_all();
         if (m_waitingCallers == 0)
             reportChange();
@@ -156,8 +166,8 @@ void GigEDiscovery::readInterfaces(Time now)
     }
     if (addresses == m_addresses)
         return;
-    if (hasMore(addresses, m_addresses))
-        m_schedule.hasten(now);
+    if (hasNewAddress(addresses, m_addresses))
+        m_schedule.searchSoon(now);
     m_addresses = std::move(addresses);
     m_areListsOutdated = true;
     openSockets();
@@ -198,10 +208,24 @@ void GigEDiscovery::startSearch(Time now)
     if (++m_requestId == 0)
         ++m_requestId; // 0 is not a valid ID.
     m_recentRequests.at(m_requestId % m_recentRequests.size()) = m_requestId;
+    std::set<unsigned> interfaces;
+    for (const InterfaceAddress &address : m_addresses)
+        interfaces.insert(address.index);
+    broadcastLimited(std::move(interfaces));
     for (const InterfaceAddress &address : m_addresses) {
         const auto socket = m_sockets.find(address.index);
         if (socket != m_sockets.end())
-            socket->second->broadcast(address, m_requestId);
+            socket->second->broadcastToSubnet(address, m_requestId);
+    }
+}
+
+/// Sends one broadcast through each of the network interfaces, from its first address.
+void GigEDiscovery::broadcastLimited(std::set<unsigned> interfaces) const
+{
+    for (const InterfaceAddress &address : m_addresses) {
+        const auto socket = m_sockets.find(address.index);
+        if (interfaces.erase(address.index) > 0 && socket != m_sockets.end())
+            socket->second->broadcastLimited(address, m_requestId);
     }
 }
 
@@ -217,11 +241,7 @@ void GigEDiscovery::askAgain(const std::vector<CameraRegistry::Camera> &cameras)
         else if (socket != m_sockets.end())
             socket->second->sendTo(camera.data.address, *own, m_requestId);
     }
-    for (const InterfaceAddress &address : m_addresses) {
-        const auto socket = m_sockets.find(address.index);
-        if (broadcasts.count(address.index) > 0 && socket != m_sockets.end())
-            socket->second->broadcastLimited(address, m_requestId);
-    }
+    broadcastLimited(std::move(broadcasts));
 }
 
 void GigEDiscovery::receive(Time now)
@@ -229,10 +249,11 @@ void GigEDiscovery::receive(Time now)
     for (const auto &[index, socket] : m_sockets) {
         int remaining = maxDatagrams;
         while (const auto answer = socket->receive(remaining)) {
-            if (!isRecentRequest(answer->requestId) || !m_registry.addAnswer(index, answer->camera))
+            if (!isRecentRequest(answer->requestId)
+                || !m_registry.addAnswer(index, answer->requestId, answer->camera))
                 continue;
             m_areListsOutdated = true;
-            m_schedule.noteNews(now);
+            m_schedule.noteChange(now);
         }
     }
 }
@@ -246,7 +267,7 @@ bool GigEDiscovery::isRecentRequest(std::uint16_t requestId) const
 const std::vector<InterfaceList> &GigEDiscovery::currentLists()
 {
     if (std::exchange(m_areListsOutdated, false))
-        m_lists = m_placement.place(m_addresses, m_registry.cameras());
+        m_lists = m_placement.place(m_addresses, m_registry.cameras(), m_endedSearches > 0);
     return m_lists;
 }
 

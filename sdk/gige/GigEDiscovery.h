@@ -4,6 +4,7 @@
 #include "sdk/gige/CameraRegistry.h"
 #include "sdk/gige/Descriptor.h"
 #include "sdk/gige/DiscoverySocket.h"
+#include "sdk/gige/FairMutex.h"
 #include "sdk/gige/InterfaceAddresses.h"
 #include "sdk/gige/InterfaceMonitor.h"
 #include "sdk/gige/ReportedLists.h"
@@ -17,6 +18,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -53,23 +55,24 @@ private:
     using Time = SearchSchedule::Time;
 
     void run();
-    void waitForEvent(std::unique_lock<std::mutex> &lock);
+    void waitForEvent(std::unique_lock<FairMutex> &lock);
     void work(Time now);
     void readInterfaces(Time now);
     void openSockets();
     void startSearch(Time now);
+    void broadcastLimited(std::set<unsigned> interfaces) const;
     void askAgain(const std::vector<CameraRegistry::Camera> &cameras) const;
     void receive(Time now);
     bool isRecentRequest(std::uint16_t requestId) const;
     const std::vector<InterfaceList> &currentLists();
     void reportChange();
-    void waitForSearch(std::unique_lock<std::mutex> &lock, std::chrono::milliseconds timeout);
+    void waitForSearch(std::unique_lock<FairMutex> &lock, std::chrono::milliseconds timeout);
 
     const Descriptor m_listChangedEvent;
     const Descriptor m_wakeEvent; // Ends the thread's poll() when a caller needs something.
     const InterfaceMonitor m_monitor;
 
-    std::mutex m_mutex; // Guards the members below. The thread releases it only while it waits for an event.
+    FairMutex m_mutex; // Guards the members below. The thread releases it only while it waits for an event.
     std::vector<InterfaceAddress> m_addresses;
     std::optional<std::system_error> m_interfaceFailure; // Set if the addresses could not be read.
     std::map<unsigned, std::unique_ptr<DiscoverySocket>> m_sockets; // By the index of the network interface.
@@ -83,9 +86,11 @@ private:
     ReportedLists m_reported;
     int m_waitingCallers = 0; // Callers that collect the cameras when the running search ends.
     bool m_isSearchRequested = false;
+    bool m_isStopping = false;
+
+    std::mutex m_endMutex; // Changing m_endedSearches needs both mutexes; reading it needs one of them.
     std::uint64_t m_endedSearches = 0;
     std::condition_variable m_searchEnded;
-    bool m_isStopping = false;
 
     std::thread m_thread; // Declared last, because the thread uses all members above.
 };

@@ -14,6 +14,10 @@ struct InterfaceAddress
     bool canBroadcast = false; ///< True if the subnet has a broadcast address.
     bool hasCarrier
         = false; ///< True if the network interface can transmit, for example if a cable is plugged in.
+    std::uint32_t peer = 0; ///< The other end of a point-to-point address, or 0.
+
+    /// Returns the broadcast address of the subnet. The subnet of a point-to-point address contains the peer.
+    std::uint32_t broadcastAddress() const { return (peer != 0 ? peer : address) | ~mask; }
 };
 
 bool operator==(const InterfaceAddress &left, const InterfaceAddress &right);

@@ -7,15 +7,15 @@
 #include <utility>
 #include <vector>
 
-/// Remembers which lists a consumer has got or has been told to get, so that the consumer is told about every
-/// change only once. Not thread-safe.
+/// Remembers which lists a consumer has collected or has been told about, so that the consumer is told about
+/// every change only once. Not thread-safe.
 class ReportedLists
 {
 public:
-    /// Records that the consumer has got the list of interfaces.
+    /// Records that the consumer has collected the list of interfaces.
     void noteInterfaces(const std::vector<InterfaceList> &lists);
 
-    /// Records that the consumer has got the cameras of one interface.
+    /// Records that the consumer has collected the cameras of one interface.
     void noteCameras(const InterfaceList &list);
 
     /// Returns true if the consumer has to be told that the lists have changed, and records that it is told.

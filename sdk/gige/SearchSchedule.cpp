@@ -6,11 +6,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto searchInterval = 2s;
-constexpr auto maxCountingInterval = 3s; // Frequent searches of a consumer delay a removal no longer.
-constexpr auto minCountingInterval = 1900ms;
+constexpr auto searchInterval = 2s; // Between searches that count missing answers.
+constexpr auto minCountingInterval = 1900ms; // Long enough for all requests to a silent camera.
 constexpr auto minSettleTime = 150ms; // After the start of the search.
-constexpr auto quietTime = 100ms; // After the last news.
+constexpr auto quietTime = 100ms; // After the last change.
 constexpr auto resultLifetime = 100ms;
 
 } // namespace
@@ -23,18 +22,18 @@ bool SearchSchedule::start(Time now)
     m_hasSearched = true;
     m_isSearching = true;
     m_start = now;
-    m_lastNews = now;
-    m_nextSearch = std::min(now + searchInterval, m_countingStart + maxCountingInterval);
+    m_lastChange = now;
+    m_nextSearch = m_countingStart + searchInterval;
     return countsMissing;
 }
 
-void SearchSchedule::noteNews(Time now)
+void SearchSchedule::noteChange(Time now)
 {
-    m_lastNews = now;
+    m_lastChange = now;
     if (m_nextReport != Time::max())
         return;
-    const bool isReportUsed = m_lastReport > m_start;
-    m_nextReport = isReportUsed ? m_nextSearch + maxAnswerDelay : std::max(now, m_start + maxAnswerDelay);
+    const bool hasReported = m_lastReport > m_start;
+    m_nextReport = hasReported ? m_nextSearch + maxAnswerDelay : std::max(now, m_start + maxAnswerDelay);
 }
 
 bool SearchSchedule::takeReport(Time now)
@@ -67,6 +66,6 @@ SearchSchedule::Time SearchSchedule::nextDeadline() const
 
 SearchSchedule::Time SearchSchedule::settleTime() const
 {
-    const Time settled = std::max(m_start + minSettleTime, m_lastNews + quietTime);
+    const Time settled = std::max(m_start + minSettleTime, m_lastChange + quietTime);
     return std::min(settled, m_start + maxAnswerDelay);
 }

@@ -76,8 +76,9 @@ private:
         if (!parsed)
             return;
         requireTexts(parsed->camera);
-        m_registry.addAnswer(interfaceIndex, parsed->camera);
-        require(!m_registry.addAnswer(interfaceIndex, parsed->camera), "a repeated answer changes nothing");
+        m_registry.addAnswer(interfaceIndex, parsed->requestId, parsed->camera);
+        require(!m_registry.addAnswer(interfaceIndex, parsed->requestId, parsed->camera),
+            "a repeated answer changes nothing");
     }
 
     void pass()
@@ -94,7 +95,7 @@ private:
         std::set<std::string> known, listed;
         for (const auto &camera : m_registry.cameras())
             known.insert(camera.id);
-        for (const InterfaceList &list : m_placement.place(addresses, m_registry.cameras())) {
+        for (const InterfaceList &list : m_placement.place(addresses, m_registry.cameras(), true)) {
             for (const ListedCamera &camera : list.cameras)
                 require(listed.insert(camera.id).second, "a camera is listed once");
         }

@@ -41,7 +41,7 @@ TEST(CameraPlacement, cameraIsListedAtTheAddressOfItsSubnet)
 {
     CameraPlacement placement;
     const auto lists = placement.place({one, two, twoSecond},
-        {cameraOn(2, "c", 0x0A000307), cameraOn(2, "b", 0x0A000207), cameraOn(1, "a", 0x0A000107)});
+        {cameraOn(2, "c", 0x0A000307), cameraOn(2, "b", 0x0A000207), cameraOn(1, "a", 0x0A000107)}, true);
     EXPECT_EQ(described(lists), (Lines{"10.0.1.1: a", "10.0.2.1: b", "10.0.3.1: c"}));
     EXPECT_EQ(lists.back().networkInterface, "two");
 }
@@ -50,7 +50,8 @@ TEST(CameraPlacement, cameraOfAnotherSubnetIsListedAtTheFirstAddressOfItsNetwork
 {
     CameraPlacement placement;
     const auto lists = placement.place({one, two, twoSecond},
-        {cameraOn(2, "stray", 0xC0A86305), cameraOn(2, "wrong port", 0x0A000107), cameraOn(3, "gone", 1)});
+        {cameraOn(2, "stray", 0xC0A86305), cameraOn(2, "wrong port", 0x0A000107), cameraOn(3, "gone", 1)},
+        true);
     EXPECT_EQ(described(lists), (Lines{"10.0.1.1:", "10.0.2.1: stray? wrong port?", "10.0.3.1:"}));
 }
 
@@ -62,11 +63,11 @@ TEST(CameraPlacement, cameraOnTwoNetworkInterfacesIsListedOnce)
         {0x0A000207, {"10.0.1.1:", "10.0.2.1: a"}},
     };
     for (const auto &[address, lines] : expected) {
-        EXPECT_EQ(
-            described(placement.place({one, two}, {cameraOn(1, "a", address), cameraOn(2, "a", address)})),
+        EXPECT_EQ(described(placement.place(
+                      {one, two}, {cameraOn(1, "a", address), cameraOn(2, "a", address)}, true)),
             lines);
-        EXPECT_EQ(
-            described(placement.place({one, two}, {cameraOn(2, "a", address), cameraOn(1, "a", address)})),
+        EXPECT_EQ(described(placement.place(
+                      {one, two}, {cameraOn(2, "a", address), cameraOn(1, "a", address)}, true)),
             lines);
     }
 }
@@ -74,13 +75,18 @@ TEST(CameraPlacement, cameraOnTwoNetworkInterfacesIsListedOnce)
 TEST(CameraPlacement, cameraStaysWhereItWasListedIfNoInterfaceIsBetter)
 {
     const auto onOne = cameraOn(1, "a", 0xC0A86305), onTwo = cameraOn(2, "a", 0xC0A86305);
-    EXPECT_EQ(
-        described(CameraPlacement().place({two, one}, {onTwo, onOne})), (Lines{"10.0.2.1:", "10.0.1.1: a?"}))
-        << "the first ID, because the camera was not listed before";
+    EXPECT_EQ(described(CameraPlacement().place({two, one}, {onOne, onTwo}, true)),
+        (Lines{"10.0.2.1: a?", "10.0.1.1:"}))
+        << "the first interface, because the camera was not listed before";
     CameraPlacement placement;
-    placement.place({one, two}, {onTwo});
-    EXPECT_EQ(described(placement.place({one, two}, {onOne, onTwo})), (Lines{"10.0.1.1:", "10.0.2.1: a?"}));
-    EXPECT_EQ(described(placement.place({one, two}, {onOne})), (Lines{"10.0.1.1: a?", "10.0.2.1:"}));
+    placement.place({one, two}, {onTwo}, false);
+    EXPECT_EQ(
+        described(placement.place({one, two}, {onOne, onTwo}, false)), (Lines{"10.0.1.1: a?", "10.0.2.1:"}))
+        << "an incomplete list is not remembered";
+    placement.place({one, two}, {onTwo}, true);
+    EXPECT_EQ(
+        described(placement.place({one, two}, {onOne, onTwo}, true)), (Lines{"10.0.1.1:", "10.0.2.1: a?"}));
+    EXPECT_EQ(described(placement.place({one, two}, {onOne}, true)), (Lines{"10.0.1.1: a?", "10.0.2.1:"}));
 }
 
 TEST(CameraPlacement, networkInterfacesWithTheSameAddressAreOneInterface)
@@ -89,8 +95,8 @@ TEST(CameraPlacement, networkInterfacesWithTheSameAddressAreOneInterface)
     InterfaceAddress twin = one;
     twin.index = 3;
     twin.name = "twin";
-    EXPECT_EQ(
-        described(placement.place({one, twin}, {cameraOn(1, "a", 0x0A000107), cameraOn(3, "b", 0x0A000108)})),
+    EXPECT_EQ(described(placement.place(
+                  {one, twin}, {cameraOn(1, "a", 0x0A000107), cameraOn(3, "b", 0x0A000108)}, true)),
         Lines{"10.0.1.1: a b"});
 }
 

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "sdk/gige/FairMutex.h"
 #include "tests/gige/AcknowledgementBuilder.h"
 
 #include <arpa/inet.h>
-#include <functional>
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <netinet/in.h>
 #include <stdexcept>
 #include <sys/socket.h>
-#include <sys/time.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -45,6 +47,30 @@ public:
         m_answers = std::move(answers);
     }
 
+    /// Waits for a number of further searches, but not longer than a minute. Returns false if there are
+    /// fewer.
+    bool awaitSearches(int number)
+    {
+        std::unique_lock lock(m_mutex);
+        return m_commandArrived.wait_for(lock, std::chrono::minutes(1),
+            [this, wanted = m_searches + number] { return m_searches >= wanted; });
+    }
+
+    /// Waits for a second command of the same search, but not longer than a minute. Returns false if there
+    /// is none.
+    bool awaitRepetition()
+    {
+        std::unique_lock lock(m_mutex);
+        return m_commandArrived.wait_for(
+            lock, std::chrono::minutes(1), [this] { return m_commands > m_searches; });
+    }
+
+    bool hasRepetition() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_commands > m_searches;
+    }
+
     /// Sends an answer to the last command now. If `change` is not 0, changes the request ID with it.
     void sendNow(AcknowledgementBuilder answer, std::uint16_t change = 0)
     {
@@ -63,19 +89,21 @@ private:
     void run()
     {
         std::uint8_t command[64];
-        socklen_t size = sizeof m_sender;
         sockaddr_in sender{};
         for (;;) {
-            size = sizeof sender;
+            socklen_t size = sizeof sender;
             if (recvfrom(m_socket, command, sizeof command, 0, reinterpret_cast<sockaddr *>(&sender), &size)
                 < 8)
                 return;
             const std::lock_guard lock(m_mutex);
             ++m_commands;
             m_sender = sender;
-            m_lastRequest = static_cast<std::uint16_t>(command[6] << 8 | command[7]);
+            const auto request = static_cast<std::uint16_t>(command[6] << 8 | command[7]);
+            m_searches += request != m_lastRequest ? 1 : 0;
+            m_lastRequest = request;
             for (AcknowledgementBuilder &answer : m_answers)
                 send(answer.requestId(m_lastRequest));
+            m_commandArrived.notify_all();
         }
     }
 
@@ -86,11 +114,13 @@ private:
     }
 
     const int m_socket;
-    mutable std::mutex m_mutex; // Guards the members below.
+    mutable FairMutex m_mutex; // Guards the members below.
     Answers m_answers;
     sockaddr_in m_sender{};
     std::uint16_t m_lastRequest = 0;
     int m_commands = 0;
+    int m_searches = 0; // Commands with another request ID than the previous command.
+    std::condition_variable_any m_commandArrived;
 
     std::thread m_thread; // Declared last, because the thread uses all members above.
 };

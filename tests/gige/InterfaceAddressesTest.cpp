@@ -5,6 +5,7 @@
 #include "tests/support/DescriptorLimit.h"
 
 #include <arpa/inet.h>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <system_error>
 
@@ -39,13 +40,28 @@ TEST(InterfaceAddresses, smallestSubnetOfTheNetworkInterfaceIsChosen)
     }
 }
 
-TEST(InterfaceAddresses, everyAddressOfThisMachineIsInItsOwnSubnet)
+TEST(InterfaceAddresses, subnetOfAPointToPointAddressContainsThePeer)
 {
-    const std::vector<InterfaceAddress> own = interfaceAddresses();
-    for (const InterfaceAddress &address : own) {
-        EXPECT_FALSE(address.name.empty());
-        EXPECT_NE(addressInSubnet(own, address.index, address.address), nullptr) << address.name;
-    }
+    std::vector<InterfaceAddress> addresses{address(1, "wire", "10.1.1.1", 32)};
+    addresses.front().peer = number("10.9.9.9");
+    EXPECT_NE(addressInSubnet(addresses, 1, number("10.9.9.9")), nullptr);
+    EXPECT_EQ(addressInSubnet(addresses, 1, number("10.1.1.1")), nullptr);
+}
+
+// This test must run in a network namespace that contains only lo.
+TEST(OwnNetworkAddresses, addressesAreReadWhateverTheirLabelsAre)
+{
+    ASSERT_EQ(std::system("ip address add 10.5.0.1/24 dev lo label lo-office && "
+                          "ip address add 10.5.1.1 peer 10.5.1.2/30 dev lo"),
+        0);
+    std::vector<InterfaceAddress> expected{
+        address(1, "lo", "127.0.0.1", 8), address(1, "lo", "10.5.0.1", 24), address(1, "lo", "10.5.1.1", 30)};
+    for (InterfaceAddress &address : expected)
+        address.canBroadcast = false;
+    expected.back().peer = number("10.5.1.2");
+    EXPECT_TRUE(interfaceAddresses() == expected);
+    ASSERT_EQ(std::system("ip link set lo down"), 0);
+    EXPECT_TRUE(interfaceAddresses().empty());
 }
 
 TEST(InterfaceAddresses, failureToReadTheAddressesIsReportedWithItsReason)

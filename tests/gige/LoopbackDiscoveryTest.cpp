@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <cstdlib>
 #include <future>
 #include <gtest/gtest.h>
 #include <optional>
@@ -96,7 +97,7 @@ TEST_F(LoopbackDiscovery, answerBecomesADeviceRecord)
 
 TEST_F(LoopbackDiscovery, answerWithAWrongRequestIdIsIgnored)
 {
-    EXPECT_EQ(search(), Ids{});
+    ASSERT_TRUE(responder.awaitSearches(1));
     for (const std::uint16_t change : std::initializer_list<std::uint16_t>{0x8000, 0x0100})
         responder.sendNow(camera(1), change);
     responder.sendNow(camera(2));
@@ -105,7 +106,7 @@ TEST_F(LoopbackDiscovery, answerWithAWrongRequestIdIsIgnored)
 
 TEST_F(LoopbackDiscovery, lateAnswerIsReportedAndCollectedWithoutASearch)
 {
-    EXPECT_EQ(search(), Ids{});
+    ASSERT_TRUE(responder.awaitSearches(1));
     responder.sendNow(camera(1));
     EXPECT_TRUE(awaitChange());
     const int commands = responder.commands();
@@ -119,10 +120,10 @@ TEST_F(LoopbackDiscovery, silentCameraIsAskedAgainAndThenRemoved)
     responder.setAnswers({camera(1)});
     ASSERT_EQ(await({"00:00:00:00:00:01"}), Ids{"00:00:00:00:00:01"});
     responder.setAnswers({});
-    const int commands = responder.commands();
-    EXPECT_TRUE(awaitChange());
-    EXPECT_EQ(search(0ms), Ids{});
-    EXPECT_GE(responder.commands() - commands, 8) << "two searches, and three requests in each of them";
+    do
+        ASSERT_TRUE(awaitChange());
+    while (search(0ms) != Ids{});
+    EXPECT_TRUE(responder.awaitRepetition());
 }
 
 TEST_F(LoopbackDiscovery, callersShareASearch)
@@ -137,9 +138,19 @@ TEST_F(LoopbackDiscovery, callersShareASearch)
     EXPECT_LT(responder.commands(), 100);
 }
 
+TEST_F(LoopbackDiscovery, networkInterfaceWithTwoAddressesGetsOneLimitedBroadcast)
+{
+    ASSERT_EQ(std::system("ip address add 10.5.2.1/24 dev lo"), 0);
+    while (source.updateInterfaces().size() < 2)
+        ASSERT_TRUE(awaitChange());
+    EXPECT_TRUE(responder.awaitSearches(2));
+    EXPECT_FALSE(responder.hasRepetition());
+    EXPECT_EQ(std::system("ip address delete 10.5.2.1/24 dev lo"), 0);
+}
+
 TEST_F(LoopbackDiscovery, floodOfAnswersLeavesTheListBounded)
 {
-    EXPECT_EQ(search(), Ids{});
+    ASSERT_TRUE(responder.awaitSearches(1));
     std::atomic<bool> isFlooding{true};
     const auto flood = std::async(std::launch::async, [&] {
         for (std::uint32_t i = 0; isFlooding; ++i) {
@@ -149,9 +160,12 @@ TEST_F(LoopbackDiscovery, floodOfAnswersLeavesTheListBounded)
     });
     const auto end = std::chrono::steady_clock::now() + 1min;
     std::size_t count = 0;
-    while (count < CameraRegistry::maxCameras && std::chrono::steady_clock::now() < end)
+    while (count < CameraRegistry::maxCameras && std::chrono::steady_clock::now() < end) {
         count = search(1s).size();
-    EXPECT_EQ(search(1s).size(), CameraRegistry::maxCameras);
+        EXPECT_LE(count, CameraRegistry::maxCameras);
+    }
+    EXPECT_EQ(count, CameraRegistry::maxCameras);
+    EXPECT_TRUE(responder.awaitSearches(2)) << "the first of them ends in spite of the flood";
     isFlooding = false;
 }
 
@@ -193,8 +207,12 @@ TEST(CameraNetworkShortage, allNetworkInterfacesAreSearchedAfterAShortage)
         discovery.emplace();
     }
     const auto end = std::chrono::steady_clock::now() + 1min;
-    std::size_t count = 0;
-    while (count < 3 && std::chrono::steady_clock::now() < end)
-        count = discovery->cameras("10.77.1.1", 200ms).size() + discovery->cameras("10.77.2.1", 0ms).size();
-    EXPECT_EQ(count, 3U);
+    const auto areAllFound = [&] {
+        return !discovery->cameras("10.77.1.1", 200ms).empty()
+            && !discovery->cameras("10.77.2.1", 0ms).empty();
+    };
+    bool isFound = areAllFound();
+    while (!isFound && std::chrono::steady_clock::now() < end)
+        isFound = areAllFound();
+    EXPECT_TRUE(isFound);
 }

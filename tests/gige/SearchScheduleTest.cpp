@@ -1,4 +1,4 @@
-// These tests check when searches start and end, and when a consumer is told about news. The times are
+// These tests check when searches start and end, and when a consumer is told about changes. The times are
 // milliseconds.
 
 #include "sdk/gige/SearchSchedule.h"
@@ -22,7 +22,7 @@ TEST(SearchSchedule, searchEndsWhenTheAnswersHaveSettled)
 {
     struct Row
     {
-        std::vector<std::chrono::milliseconds> news;
+        std::vector<std::chrono::milliseconds> changes;
         std::chrono::milliseconds end;
     };
     std::vector<std::chrono::milliseconds> endless;
@@ -34,8 +34,8 @@ TEST(SearchSchedule, searchEndsWhenTheAnswersHaveSettled)
         schedule.start(at(0ms));
         auto ended = 0ms;
         for (auto now = 0ms; ended == 0ms && now < 2s; now += 10ms) {
-            if (std::find(row.news.begin(), row.news.end(), now) != row.news.end())
-                schedule.noteNews(at(now));
+            if (std::find(row.changes.begin(), row.changes.end(), now) != row.changes.end())
+                schedule.noteChange(at(now));
             EXPECT_TRUE(schedule.isSearching());
             if (schedule.endIfSettled(at(now)))
                 ended = now;
@@ -63,42 +63,59 @@ TEST(SearchSchedule, nextSearchFollowsAfterTwoSeconds)
     EXPECT_TRUE(schedule.start(at(0ms)));
     schedule.endIfSettled(at(150ms));
     EXPECT_EQ(schedule.nextDeadline(), at(2s));
-    EXPECT_FALSE(schedule.start(at(900ms))) << "a consumer's search replaces the next one";
-    schedule.endIfSettled(at(1050ms));
-    EXPECT_EQ(schedule.nextDeadline(), at(2900ms));
-    schedule.hasten(at(1100ms));
+    schedule.searchSoon(at(1100ms));
     EXPECT_EQ(schedule.nextDeadline(), at(1100ms));
 }
 
-TEST(SearchSchedule, frequentSearchesDoNotDelayTheCountOfMissingAnswers)
+TEST(SearchSchedule, searchesOfConsumersDoNotDelayTheCountOfMissingAnswers)
 {
-    SearchSchedule schedule;
-    EXPECT_TRUE(schedule.start(at(0ms)));
-    EXPECT_FALSE(schedule.start(at(1500ms)));
-    EXPECT_EQ(schedule.nextSearch(), at(3000ms)) << "three seconds after the last count";
-    EXPECT_FALSE(schedule.start(at(1899ms)));
-    EXPECT_TRUE(schedule.start(at(1900ms)));
-    EXPECT_EQ(schedule.nextSearch(), at(3900ms));
+    struct Row
+    {
+        std::vector<std::chrono::milliseconds> consumer; // Searches of a consumer.
+        std::vector<std::chrono::milliseconds> counting; // The searches that count.
+        int searches; // In the first ten seconds.
+    };
+    std::vector<std::chrono::milliseconds> frequent;
+    for (auto time = 300ms; time < 10s; time += 300ms)
+        frequent.push_back(time);
+    for (const Row &row : {Row{{}, {0ms, 2s, 4s, 6s, 8s}, 5}, {{900ms, 1899ms}, {0ms, 2s, 4s, 6s, 8s}, 7},
+             {{1900ms, 3900ms, 5900ms, 7900ms, 9900ms}, {0ms, 1900ms, 3900ms, 5900ms, 7900ms, 9900ms}, 6},
+             {frequent, {0ms, 2s, 3900ms, 5900ms, 7800ms, 9800ms}, 37}}) {
+        SearchSchedule schedule;
+        std::vector<std::chrono::milliseconds> counting;
+        int searches = 0;
+        for (auto now = 0ms; now < 10s; ++now) {
+            const bool isRequested
+                = std::find(row.consumer.begin(), row.consumer.end(), now) != row.consumer.end();
+            if (now > 0ms && !isRequested && at(now) < schedule.nextSearch())
+                continue;
+            ++searches;
+            if (schedule.start(at(now)))
+                counting.push_back(now);
+        }
+        EXPECT_EQ(counting, row.counting);
+        EXPECT_EQ(searches, row.searches);
+    }
 }
 
-TEST(SearchSchedule, newsIsReportedOnceForEachSearchWhenAllCamerasHaveAnswered)
+TEST(SearchSchedule, changesAreReportedOnceForEachSearchWhenAllCamerasHaveAnswered)
 {
     SearchSchedule schedule;
     schedule.start(at(0ms));
-    EXPECT_FALSE(schedule.takeReport(at(1000ms))) << "there is no news";
-    schedule.noteNews(at(300ms));
-    schedule.noteNews(at(900ms));
+    EXPECT_FALSE(schedule.takeReport(at(1000ms))) << "there is no change";
+    schedule.noteChange(at(300ms));
+    schedule.noteChange(at(900ms));
     schedule.endIfSettled(at(1000ms));
     EXPECT_EQ(schedule.nextDeadline(), at(1000ms));
     EXPECT_FALSE(schedule.takeReport(at(999ms)));
     EXPECT_TRUE(schedule.takeReport(at(1000ms)));
     EXPECT_FALSE(schedule.takeReport(at(1000ms)));
 
-    schedule.noteNews(at(1100ms));
+    schedule.noteChange(at(1100ms));
     EXPECT_FALSE(schedule.takeReport(at(2999ms))) << "the search has been reported";
     EXPECT_TRUE(schedule.takeReport(at(3000ms)));
 
     schedule.start(at(4000ms));
-    schedule.noteNews(at(5500ms));
+    schedule.noteChange(at(5500ms));
     EXPECT_TRUE(schedule.takeReport(at(5500ms))) << "the search has not been reported";
 }
