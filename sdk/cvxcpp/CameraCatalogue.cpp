@@ -2,7 +2,7 @@
 
 #include "sdk/cvxcpp/CameraIndex.h"
 #include "sdk/cvxcpp/DuplicateFilter.h"
-#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/text/Utf8.h"
 
 #include <algorithm>
 #include <utility>

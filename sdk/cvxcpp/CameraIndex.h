@@ -36,7 +36,8 @@ private:
 
     struct Addresses
     {
-        ByAddress addresses, digits; // As in CameraIdentity.
+        // The producers for each element of the members of CameraIdentity with these names.
+        ByAddress addresses, digits;
 
         void add(const CameraIdentity &camera, std::size_t producer);
         bool hasMatch(const CameraIdentity &camera, std::size_t producer) const;

@@ -3,7 +3,7 @@
 #include "sdk/cvxcpp/PollSchedule.h"
 #include "sdk/cvxcpp/ProducerSearch.h"
 #include "sdk/cvxcpp/StandstillRule.h"
-#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/text/Utf8.h"
 
 #include <algorithm>
 #include <csignal>

@@ -1,7 +1,7 @@
 #include "sdk/cvxcpp/FailureReporter.h"
 
 #include "sdk/cvxcpp/ExitReason.h"
-#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/text/Utf8.h"
 
 namespace {
 

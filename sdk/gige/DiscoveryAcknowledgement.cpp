@@ -1,5 +1,7 @@
 #include "sdk/gige/DiscoveryAcknowledgement.h"
 
+#include "sdk/text/Utf8.h"
+
 #include <algorithm>
 #include <string_view>
 
@@ -32,54 +34,12 @@ std::uint32_t read32(const std::uint8_t *data)
     return static_cast<std::uint32_t>(read16(data)) << 16 | read16(data + 2);
 }
 
-/// Returns the length of the UTF-8 character at the start of the text, or 0 if the text starts with a byte
-/// that is not UTF-8.
-std::size_t sequenceLength(std::string_view text)
-{
-    const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(text[i]); };
-    const std::uint8_t first = byte(0);
-    const std::size_t length = first < 0x80 ? 1
-        : first >= 0xC2 && first < 0xE0     ? 2
-        : first >= 0xE0 && first < 0xF0     ? 3
-        : first >= 0xF0 && first < 0xF5     ? 4
-                                            : 0;
-    if (length == 0 || length > text.size())
-        return 0;
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0) != 0x80)
-            return 0;
-    }
-    const bool isOverlong = (first == 0xE0 && byte(1) < 0xA0) || (first == 0xF0 && byte(1) < 0x90);
-    const bool isSurrogate = first == 0xED && byte(1) >= 0xA0;
-    const bool isTooLarge = first == 0xF4 && byte(1) >= 0x90;
-    return isOverlong || isSurrogate || isTooLarge ? 0 : length;
-}
-
-/// Returns true if a UTF-8 character is a control character (U+0000 to U+001F, U+007F to U+009F).
-bool isControlCharacter(std::string_view character)
-{
-    const auto first = static_cast<std::uint8_t>(character.front());
-    return first < 0x20 || first == 0x7F
-        || (first == 0xC2 && static_cast<std::uint8_t>(character.back()) < 0xA0);
-}
-
 /// Reads a string, which ends at a NUL or at the end of its field. Replaces each byte that is not UTF-8 by
 /// U+FFFD and each control character by a blank. Removes the blanks at both ends.
 std::string readString(const std::uint8_t *field, std::size_t size)
 {
-    std::string_view rest(reinterpret_cast<const char *>(field), size);
-    rest = rest.substr(0, rest.find('\0'));
-    std::string text;
-    while (!rest.empty()) {
-        const std::size_t length = sequenceLength(rest);
-        if (length == 0)
-            text += "\xEF\xBF\xBD";
-        else if (isControlCharacter(rest.substr(0, length)))
-            text += ' ';
-        else
-            text += rest.substr(0, length);
-        rest.remove_prefix(std::max<std::size_t>(length, 1));
-    }
+    const std::string_view bytes(reinterpret_cast<const char *>(field), size);
+    const std::string text = toPrintable(bytes.substr(0, bytes.find('\0')));
     const std::size_t begin = text.find_first_not_of(' ');
     return begin == std::string::npos ? std::string()
                                       : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);

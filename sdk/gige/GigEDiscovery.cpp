@@ -13,7 +13,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int maxDatagrams = 64; // Of one socket, before other work is done and callers get the mutex.
+// The thread reads at most this number of datagrams of one socket before it lets callers lock the mutex.
+constexpr int maxDatagrams = 64;
 
 int createEvent()
 {

@@ -1,7 +1,7 @@
 // Parses the input as the SDK library parses CvxC.xml.
 
 #include "sdk/cvxcpp/CtiPathsDocument.h"
-#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/text/Utf8.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

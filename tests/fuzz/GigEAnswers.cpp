@@ -107,7 +107,8 @@ private:
     CameraRegistry::Time m_now{};
     CameraRegistry m_registry;
     CameraPlacement m_placement;
-    std::map<std::tuple<unsigned, std::string, std::uint32_t>, int> m_requests; // Of the current search.
+    std::map<std::tuple<unsigned, std::string, std::uint32_t>, int>
+        m_requests; // Counted for the current search.
 };
 
 } // namespace

@@ -139,7 +139,7 @@ TEST_F(CameraRegistryTest, cameraThatMovesKeepsItsId)
         CameraRegistry table;
         std::uint16_t id = 0xFFFE;
         for (const auto &places : row.answers) {
-            id = next(id); // Of a search that does not count missing answers.
+            id = next(id); // This ID belongs to a search that does not count missing answers.
             for (const auto &[interfaceIndex, address] : places)
                 table.addAnswer(interfaceIndex, id, cameraAt(1, address));
         }

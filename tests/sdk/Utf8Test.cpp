@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/text/Utf8.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/Utf8.h"
+#include "sdk/text/Utf8.h"
 
 #include <cstddef>
 
@@ -50,6 +50,17 @@ std::size_t sequenceLength(std::string_view bytes)
     return 0;
 }
 
+/// Returns the length of the control character at a position of valid UTF-8, or 0 if there is another
+/// character. Some terminals execute the characters U+0080 to U+009F too. UTF-8 encodes each of them as 0xC2
+/// and a byte of the same value.
+std::size_t controlLength(std::string_view text, std::size_t index)
+{
+    const unsigned byte = byteAt(text, index);
+    if (byte == 0xC2 && byteAt(text, index + 1) < 0xA0)
+        return 2;
+    return byte < 0x20 || byte == 0x7F ? 1 : 0;
+}
+
 } // namespace
 
 std::string toValidUtf8(std::string_view bytes)
@@ -64,24 +75,37 @@ std::string toValidUtf8(std::string_view bytes)
     return text;
 }
 
+std::string toPrintable(std::string_view bytes)
+{
+    std::string printable;
+    const std::string text = toValidUtf8(bytes);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t length = controlLength(text, i);
+        printable += length > 0 ? ' ' : text[i];
+        i += length > 1 ? 1 : 0;
+    }
+    return printable;
+}
+
 std::string toLine(std::string_view bytes)
 {
     static constexpr char digits[] = "0123456789abcdef";
     std::string line;
     const std::string text = toValidUtf8(bytes);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        // Some terminals execute the control characters U+0080 to U+009F. UTF-8 encodes each of them as
-        // 0xC2 and a byte of the same value.
-        const bool isC1 = byteAt(text, i) == 0xC2 && byteAt(text, i + 1) < 0xA0;
-        const unsigned code = byteAt(text, isC1 ? ++i : i);
+        const std::size_t length = controlLength(text, i);
+        if (length == 0) {
+            line += text[i];
+            continue;
+        }
+        i += length - 1;
+        const unsigned code = byteAt(text, i);
         if (code == '\n') {
             line += "\\n";
-        } else if (code < 0x20 || code == 0x7F || isC1) {
+        } else {
             line += "\\x";
             line += digits[code >> 4];
             line += digits[code & 0xF];
-        } else {
-            line += text[i];
         }
     }
     return line;
