@@ -1,10 +1,10 @@
 // Reads the replies of a producer host as the library does. The first byte of the input determines into how
 // many portions the rest is split.
 
-#include "sdk/text/Utf8.h"
 #include "sdk/protocol/DiscoveryMessages.h"
 #include "sdk/protocol/LineChannel.h"
 #include "sdk/protocol/Message.h"
+#include "sdk/text/Utf8.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 #include <algorithm>
