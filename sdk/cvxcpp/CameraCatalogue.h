@@ -6,7 +6,7 @@
 #include "sdk/cvxcpp/InterfaceSource.h"
 #include "sdk/cvxcpp/KnownInterfaces.h"
 #include "sdk/cvxcpp/SearchKind.h"
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 #include "sdk/protocol/CameraRecords.h"
 
 #include <chrono>

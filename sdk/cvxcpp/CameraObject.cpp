@@ -1,5 +1,6 @@
 #include "sdk/cvxcpp/CameraObject.h"
 
+#include "CvxCPP/Device.h"
 #include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/TextValue.h"
 #include "sdk/cvxcpp/TransportLayerName.h"
@@ -55,6 +56,11 @@ CvxError CameraObject::GetInterface(std::shared_ptr<Interface> &iface) const
         return CvxErrorNotStarted;
     iface = m_interface;
     return CvxErrorSuccess;
+}
+
+CvxResult CameraObject::Open(CvxAccess, std::shared_ptr<Device> &)
+{
+    return {CvxErrorNotAvailable, "not yet"};
 }
 
 CvxError CameraObject::readString(const std::string &value, char *buffer, unsigned &size) const

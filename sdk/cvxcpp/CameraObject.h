@@ -21,6 +21,7 @@ public:
     CvxCPP::CvxError GetSerialNumber(char *buffer, unsigned &size) const override;
     CvxCPP::CvxError GetInterfaceType(CvxCPP::CvxTransportLayerType &type) const override;
     CvxCPP::CvxError GetInterface(std::shared_ptr<CvxCPP::Interface> &iface) const override;
+    CvxCPP::CvxResult Open(CvxCPP::CvxAccess access, std::shared_ptr<CvxCPP::Device> &device) override;
 
     const std::string &id() const { return device().id; }
     const std::string &interfaceId() const { return m_record->id; }

@@ -6,7 +6,7 @@
 #include "sdk/cvxcpp/ObserverNotifier.h"
 #include "sdk/cvxcpp/SearchState.h"
 #include "sdk/cvxcpp/SystemOptions.h"
-#include "sdk/cvxcpp/WakeEvent.h"
+#include "sdk/process/WakeEvent.h"
 
 #include <atomic>
 #include <condition_variable>

@@ -1,6 +1,6 @@
 #include "sdk/cvxcpp/FailureReporter.h"
 
-#include "sdk/cvxcpp/ExitReason.h"
+#include "sdk/process/ExitReason.h"
 #include "sdk/text/Utf8.h"
 
 namespace {

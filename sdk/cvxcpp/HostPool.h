@@ -3,7 +3,7 @@
 #include "sdk/cvxcpp/ProducerSupervisor.h"
 #include "sdk/cvxcpp/StandstillRule.h"
 #include "sdk/cvxcpp/SystemOptions.h"
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 
 #include <cstddef>
 #include <deque>

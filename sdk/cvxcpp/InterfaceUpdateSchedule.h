@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 
 #include <optional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sdk/cvxcpp/SearchKind.h"
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 #include "sdk/protocol/CameraRecords.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 
 /// Decides when all producers are polled for cameras.
 class PollSchedule

@@ -1,6 +1,6 @@
 #include "sdk/cvxcpp/ProducerSupervisor.h"
 
-#include "sdk/cvxcpp/ExitReason.h"
+#include "sdk/process/ExitReason.h"
 
 #include <algorithm>
 #include <utility>
@@ -217,7 +217,7 @@ void ProducerSupervisor::stepClose()
     m_reporter.reportProblems(problems);
     if (!mayReceiveMore)
         m_client.disconnect();
-    if (!status || *status == 0 || *status == ProducerProcess::unknownStatus)
+    if (!status || *status == 0 || *status == HostProcess::unknownStatus)
         return;
     if (m_state == State::Closing)
         m_reporter.reportFailure(exitReason(*status) + " while it was closed");

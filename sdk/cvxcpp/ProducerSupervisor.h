@@ -3,11 +3,11 @@
 #include "sdk/cvxcpp/FailureReporter.h"
 #include "sdk/cvxcpp/InterfaceUpdateSchedule.h"
 #include "sdk/cvxcpp/ProducerClient.h"
-#include "sdk/cvxcpp/ProducerProcess.h"
 #include "sdk/cvxcpp/RestartPolicy.h"
 #include "sdk/cvxcpp/SearchKind.h"
 #include "sdk/cvxcpp/SearchState.h"
 #include "sdk/cvxcpp/SystemOptions.h"
+#include "sdk/process/HostProcess.h"
 #include "sdk/protocol/CameraRecords.h"
 #include "sdk/protocol/DiscoveryMessages.h"
 
@@ -100,7 +100,7 @@ private:
     const SystemOptions &m_options;
     const std::string m_path;
     State m_state = State::Waiting;
-    ProducerProcess m_process;
+    HostProcess m_process;
     ProducerClient m_client;
     RestartPolicy m_restartPolicy;
     InterfaceUpdateSchedule m_interfaceUpdates;

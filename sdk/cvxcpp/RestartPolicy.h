@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 
 /// Decides when a failed producer host is started again. The delay doubles with every failure up to a
 /// maximum. If a host ran for at least the maximum delay before it failed, the delay starts at its first

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/cvxcpp/Timing.h"
+#include "sdk/process/Timing.h"
 
 /// Detects that the session's thread could not run although it had to: the process was stopped, or the
 /// machine was overloaded. The hosts were probably stopped as well, so they are given the lost

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 /// The part of the GenICam GenTL C interface that the enumeration of interfaces and devices needs.
+/// GenTLDevice.h contains the rest.
 ///
 /// Function names, argument lists and numbers are taken from the chapter "Software Interface" of the public
 /// GenICam GenTL Standard. The heading of each block below is the title of its section in this chapter.

@@ -16,3 +16,10 @@ bool operator==(const DeviceRecord &left, const DeviceRecord &right)
     };
     return fields(left) == fields(right);
 }
+
+// A source that only finds cameras does not override this function.
+std::unique_ptr<OpenCamera> DeviceSource::openCamera(
+    const std::string &, const std::string &, GenTL::DEVICE_ACCESS_FLAGS)
+{
+    throw GenTlError(GenTL::GC_ERR_NOT_IMPLEMENTED, "This producer only finds cameras.");
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sdk/gentl/GenTL.h"
+#include "sdk/producer/OpenCamera.h"
 
 #include <chrono>
 #include <filesystem>
@@ -68,6 +69,13 @@ public:
     virtual std::vector<DeviceRecord> updateDevices(
         const std::string &interfaceId, std::chrono::milliseconds timeout)
         = 0;
+
+    /// Opens a camera that the last update of its interface has reported. Throws GenTlError:
+    /// GC_ERR_ACCESS_DENIED if somebody else uses the camera, GC_ERR_INVALID_ID if it is gone,
+    /// GC_ERR_NOT_IMPLEMENTED if the producer does not offer this access, GC_ERR_IO and GC_ERR_TIMEOUT.
+    /// @param access DEVICE_ACCESS_READONLY, DEVICE_ACCESS_CONTROL or DEVICE_ACCESS_EXCLUSIVE.
+    virtual std::unique_ptr<OpenCamera> openCamera(
+        const std::string &interfaceId, const std::string &deviceId, GenTL::DEVICE_ACCESS_FLAGS access);
 
     /// Returns what ListChangedFunction returns. A source that does not search by itself returns -1.
     virtual int listChangedDescriptor() const { return -1; }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "sdk/hosting/ProducerLibrary.h"
+#include "sdk/hosting/StringReader.h"
 #include "sdk/producerhost/ProblemList.h"
-#include "sdk/producerhost/ProducerLibrary.h"
-#include "sdk/producerhost/StringReader.h"
 #include "sdk/protocol/CameraRecords.h"
 
 #include <cstdint>

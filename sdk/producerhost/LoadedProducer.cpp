@@ -1,7 +1,7 @@
 #include "sdk/producerhost/LoadedProducer.h"
 
+#include "sdk/hosting/StringReader.h"
 #include "sdk/producerhost/InterfaceSearch.h"
-#include "sdk/producerhost/StringReader.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "sdk/hosting/ProducerLibrary.h"
 #include "sdk/producerhost/OpenInterface.h"
 #include "sdk/producerhost/ProblemList.h"
-#include "sdk/producerhost/ProducerLibrary.h"
 #include "sdk/producerhost/UpdateTimeout.h"
 
 #include <cstdint>

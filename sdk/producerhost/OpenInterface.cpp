@@ -1,7 +1,7 @@
 #include "sdk/producerhost/OpenInterface.h"
 
+#include "sdk/hosting/StringReader.h"
 #include "sdk/producerhost/DeviceReader.h"
-#include "sdk/producerhost/StringReader.h"
 
 #include <algorithm>
 #include <iterator>

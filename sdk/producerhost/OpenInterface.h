@@ -1,7 +1,7 @@
 #pragma once
 
+#include "sdk/hosting/ProducerLibrary.h"
 #include "sdk/producerhost/ProblemList.h"
-#include "sdk/producerhost/ProducerLibrary.h"
 #include "sdk/producerhost/UpdateTimeout.h"
 #include "sdk/protocol/CameraRecords.h"
 

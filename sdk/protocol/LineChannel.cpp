@@ -1,7 +1,9 @@
 #include "sdk/protocol/LineChannel.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstring>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <utility>
@@ -30,7 +32,9 @@ LineChannel::LineChannel(LineChannel &&other) noexcept
     : m_descriptor(std::exchange(other.m_descriptor, -1)),
       m_maxLength(other.m_maxLength),
       m_pending(std::move(other.m_pending)),
-      m_searched(std::exchange(other.m_searched, 0))
+      m_searched(std::exchange(other.m_searched, 0)),
+      m_acceptsDescriptors(other.m_acceptsDescriptors),
+      m_descriptors(std::move(other.m_descriptors))
 { }
 
 LineChannel &LineChannel::operator=(LineChannel &&other) noexcept
@@ -40,6 +44,8 @@ LineChannel &LineChannel::operator=(LineChannel &&other) noexcept
     std::swap(m_maxLength, moved.m_maxLength);
     std::swap(m_pending, moved.m_pending);
     std::swap(m_searched, moved.m_searched);
+    std::swap(m_acceptsDescriptors, moved.m_acceptsDescriptors);
+    std::swap(m_descriptors, moved.m_descriptors);
     return *this;
 }
 
@@ -62,7 +68,7 @@ LineChannel::Status LineChannel::tryReadLine(std::string &line)
             return Status::Closed;
 
         m_pending.resize(m_searched + blockSize);
-        const ssize_t count = recv(m_descriptor, m_pending.data() + m_searched, blockSize, MSG_DONTWAIT);
+        const ssize_t count = receive(m_pending.data() + m_searched, blockSize);
         const int error = errno;
         m_pending.resize(m_searched + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
         if (count < 0 && error == EINTR)
@@ -74,6 +80,50 @@ LineChannel::Status LineChannel::tryReadLine(std::string &line)
         if (count == 0)
             return Status::Closed;
     }
+}
+
+/// Receives bytes without blocking, like recv(), and keeps the descriptors that come with them.
+ssize_t LineChannel::receive(char *buffer, std::size_t size)
+{
+    if (!m_acceptsDescriptors)
+        return recv(m_descriptor, buffer, size, MSG_DONTWAIT);
+    iovec bytes{buffer, size};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(maxDescriptors * sizeof(int))> control{};
+    msghdr message{};
+    message.msg_iov = &bytes;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    const ssize_t count = recvmsg(m_descriptor, &message, MSG_DONTWAIT | MSG_CMSG_CLOEXEC);
+    for (cmsghdr *header = count < 0 ? nullptr : CMSG_FIRSTHDR(&message); header;
+         header = CMSG_NXTHDR(&message, header)) {
+        if (header->cmsg_level != SOL_SOCKET || header->cmsg_type != SCM_RIGHTS)
+            continue;
+        const std::size_t first = m_descriptors.size();
+        m_descriptors.resize(first + (header->cmsg_len - CMSG_LEN(0)) / sizeof(int));
+        std::memcpy(m_descriptors.data() + first, CMSG_DATA(header), header->cmsg_len - CMSG_LEN(0));
+    }
+    return count;
+}
+
+LineChannel::Status LineChannel::send(const std::string &text, const std::vector<int> &descriptors)
+{
+    iovec bytes{const_cast<char *>(text.data()), text.size()};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(maxDescriptors * sizeof(int))> control{};
+    const std::size_t size = descriptors.size() * sizeof(int);
+    msghdr message{};
+    message.msg_iov = &bytes;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = CMSG_SPACE(size);
+    cmsghdr *const header = CMSG_FIRSTHDR(&message);
+    header->cmsg_level = SOL_SOCKET;
+    header->cmsg_type = SCM_RIGHTS;
+    header->cmsg_len = CMSG_LEN(size);
+    std::memcpy(CMSG_DATA(header), descriptors.data(), size);
+    const ssize_t count = TEMP_FAILURE_RETRY(sendmsg(m_descriptor, &message, MSG_NOSIGNAL));
+    // The kernel transfers the descriptors with the first byte.
+    return count < 0 ? statusOfError(errno) : send(text.substr(static_cast<std::size_t>(count)));
 }
 
 LineChannel::Status LineChannel::send(const std::string &text)
@@ -99,6 +149,8 @@ void LineChannel::close()
 {
     if (m_descriptor >= 0)
         ::close(std::exchange(m_descriptor, -1));
+    for (const int descriptor : takeDescriptors())
+        ::close(descriptor);
     m_pending.clear();
     m_pending.shrink_to_fit();
     m_searched = 0;

@@ -1,3 +1,4 @@
+#include "CvxCPP/Device.h"
 #include "sdk/testing/ScriptedCvxCPP.h"
 
 #include <algorithm>
@@ -114,6 +115,11 @@ public:
             return error;
         iface = m_record.iface ? makeInterface(m_record.iface) : nullptr;
         return CvxErrorSuccess;
+    }
+
+    CvxResult Open(CvxAccess, std::shared_ptr<Device> &) override
+    {
+        return {CvxErrorNotAvailable, "Scripted cameras cannot be opened."};
     }
 
 private:

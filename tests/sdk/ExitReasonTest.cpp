@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/ExitReason.h"
+#include "sdk/process/ExitReason.h"
 
 #include <csignal>
 #include <gtest/gtest.h>

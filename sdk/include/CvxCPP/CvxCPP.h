@@ -58,7 +58,14 @@ constexpr CvxError CvxErrorNotFound = -6; ///< There is no feature of this name.
 constexpr CvxError CvxErrorNotAvailable = -7;
 constexpr CvxError CvxErrorWrongType = -8; ///< The feature does not support this operation.
 constexpr CvxError CvxErrorTimeout = -9; ///< The producer has not answered yet.
-constexpr CvxError CvxErrorHostMissing = -10; ///< CvxProducerHost is missing or not executable.
+/// CvxProducerHost or CvxCameraHost is missing or not executable.
+constexpr CvxError CvxErrorHostMissing = -10;
+constexpr CvxError CvxErrorInUse = -11; ///< Another program or another Device object uses the camera.
+constexpr CvxError CvxErrorDeviceLost = -12; ///< The camera is gone or does not answer; it will be reopened.
+constexpr CvxError CvxErrorClosed = -13; ///< The device or the stream has been closed.
+constexpr CvxError CvxErrorNotWritable = -14; ///< The feature is read-only or locked at present.
+constexpr CvxError CvxErrorOutOfRange = -15; ///< The feature does not allow this value at present.
+constexpr CvxError CvxErrorDevice = -16; ///< The camera or its producer reports a failure.
 
 /// The technology that connects a camera to the computer.
 enum CvxTransportLayerType : std::uint32_t
@@ -146,6 +153,18 @@ public:
 class CVXCPP_API Interface : public FeatureContainer
 { };
 
+/// What a program may do with an opened camera.
+enum CvxAccess : std::uint32_t
+{
+    CvxAccessWatch
+    = 0, ///< Only read features. Never writes; allowed while another program controls the camera.
+    CvxAccessControl = 1, ///< Read, write and stream. Others may watch.
+    CvxAccessExclusive = 2 ///< Read, write and stream. Nobody else may open the camera.
+};
+
+class Device; // Device.h
+struct CvxResult; // Device.h
+
 /// The data of one camera at the time when the camera was found; a Camera object never changes. Every
 /// function returns CvxErrorNotStarted while the system does not run. The functions that read a string may
 /// also return CvxErrorBufferTooSmall.
@@ -177,6 +196,15 @@ public:
 
     /// Stores the interface that the camera is connected to.
     virtual CvxError GetInterface(std::shared_ptr<Interface> &iface) const = 0;
+
+    /// Opens the camera in a process of its own and reads the list of its features. Device.h declares the
+    /// types. Returns CvxErrorInUse with the producer's text if another program uses the camera,
+    /// CvxErrorNotFound if the producer does not find the camera any more, CvxErrorNotAvailable if the camera
+    /// does not offer this access, CvxErrorDevice if the producer or the camera fails, for example if its
+    /// description is broken, CvxErrorTimeout, CvxErrorHostMissing or CvxErrorFailed. A camera whose last
+    /// user has crashed may be in use for some seconds, so the function tries again for 5 s before it returns
+    /// CvxErrorInUse. Blocks for at most 20 s.
+    virtual CvxResult Open(CvxAccess access, std::shared_ptr<Device> &device) = 0;
 };
 
 /// The library calls this observer for every camera that appears or disappears.

@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/ExitReason.h"
+#include "sdk/process/ExitReason.h"
 
 #include "sdk/protocol/HostContract.h"
 

@@ -1,6 +1,6 @@
-#include "sdk/cvxcpp/ProducerProcess.h"
+#include "sdk/process/HostProcess.h"
 
-#include "sdk/cvxcpp/Descriptor.h"
+#include "sdk/process/Descriptor.h"
 #include "sdk/protocol/HostContract.h"
 
 #include <array>
@@ -68,7 +68,7 @@ private:
 
 } // namespace
 
-ProducerProcess::~ProducerProcess()
+HostProcess::~HostProcess()
 {
     if (!isStarted())
         return;
@@ -77,8 +77,7 @@ ProducerProcess::~ProducerProcess()
     waitpid(m_process, nullptr, WNOHANG);
 }
 
-ProducerProcess::StartResult ProducerProcess::start(
-    const std::string &hostProgram, const std::string &producerPath)
+HostProcess::StartResult HostProcess::start(const std::string &hostProgram, const std::string &producerPath)
 {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
@@ -97,7 +96,7 @@ ProducerProcess::StartResult ProducerProcess::start(
     return {LineChannel(), "cannot start " + hostProgram + ": " + strerrordesc_np(error)};
 }
 
-void ProducerProcess::kill() const
+void HostProcess::kill() const
 {
     if (!isStarted())
         return;
@@ -105,7 +104,7 @@ void ProducerProcess::kill() const
     ::kill(m_process, SIGKILL); // The host may have left its process group.
 }
 
-std::optional<int> ProducerProcess::tryReap()
+std::optional<int> HostProcess::tryReap()
 {
     siginfo_t info{};
     if (waitid(P_PID, static_cast<id_t>(m_process), &info, WEXITED | WNOHANG | WNOWAIT) != 0) {

@@ -1,6 +1,6 @@
-#include "sdk/producerhost/ProducerLibrary.h"
+#include "sdk/hosting/ProducerLibrary.h"
 
-#include "sdk/producerhost/ForeignFormat.h"
+#include "sdk/hosting/ForeignFormat.h"
 
 #include <array>
 #include <cstring>
@@ -22,10 +22,16 @@ std::optional<Problem> ProducerLibrary::load(const char *path)
     // RTLD_LOCAL is needed because all producers export the same function names. If a constructor of the
     // producer throws an exception, dlopen() does not return; the handler for uncaught exceptions reports
     // the exception.
-    if (void *const library = dlopen(path, RTLD_NOW | RTLD_LOCAL))
-        return resolveFunctions(library);
+    m_library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    if (m_library)
+        return resolveFunctions(m_library);
     const std::string error = dlerror();
     return Problem{"dlopen", 0, foreignFormat(path).value_or(error)};
+}
+
+void *ProducerLibrary::find(const char *name) const
+{
+    return dlsym(m_library, name);
 }
 
 std::optional<Problem> ProducerLibrary::resolveFunctions(void *library)

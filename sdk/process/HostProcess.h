@@ -8,13 +8,13 @@
 
 /// Starts, kills and reaps one CvxProducerHost. Start and reap the host on the same thread, which must
 /// outlive the host: the kernel kills the host when the thread that started it ends.
-class ProducerProcess
+class HostProcess
 {
 public:
-    ProducerProcess() = default;
-    ~ProducerProcess(); ///< Kills the host if it still runs.
-    ProducerProcess(const ProducerProcess &) = delete;
-    ProducerProcess &operator=(const ProducerProcess &) = delete;
+    HostProcess() = default;
+    ~HostProcess(); ///< Kills the host if it still runs.
+    HostProcess(const HostProcess &) = delete;
+    HostProcess &operator=(const HostProcess &) = delete;
 
     struct StartResult
     {

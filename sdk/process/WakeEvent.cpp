@@ -1,6 +1,6 @@
-#include "sdk/cvxcpp/WakeEvent.h"
+#include "sdk/process/WakeEvent.h"
 
-#include "sdk/cvxcpp/Descriptor.h"
+#include "sdk/process/Descriptor.h"
 
 #include <cerrno>
 #include <sys/eventfd.h>

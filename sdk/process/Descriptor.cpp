@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/Descriptor.h"
+#include "sdk/process/Descriptor.h"
 
 #include <fcntl.h>
 #include <unistd.h>

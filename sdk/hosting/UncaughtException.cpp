@@ -1,6 +1,6 @@
-#include "sdk/producerhost/UncaughtException.h"
+#include "sdk/hosting/UncaughtException.h"
 
-#include "sdk/producerhost/ProcessExit.h"
+#include "sdk/hosting/ProcessExit.h"
 #include "sdk/protocol/DiscoveryMessages.h"
 #include "sdk/protocol/HostContract.h"
 #include "sdk/protocol/LineChannel.h"

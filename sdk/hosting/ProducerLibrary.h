@@ -56,6 +56,9 @@ public:
     /// if the producer has none.
     int listChangeDescriptor() const;
 
+    /// Returns the address of a function of the loaded producer, or null if the producer lacks it.
+    void *find(const char *name) const;
+
     GenTL::PGCInitLib GCInitLib = nullptr;
     GenTL::PGCCloseLib GCCloseLib = nullptr;
     GenTL::PTLOpen TLOpen = nullptr;
@@ -78,4 +81,6 @@ public:
 private:
     std::optional<Problem> resolveFunctions(void *library);
     std::string lastErrorText() const;
+
+    void *m_library = nullptr;
 };

@@ -1,4 +1,4 @@
-#include "sdk/producerhost/ForeignFormat.h"
+#include "sdk/hosting/ForeignFormat.h"
 
 #include <algorithm>
 #include <array>

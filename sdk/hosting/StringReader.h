@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/producerhost/ProducerLibrary.h"
+#include "sdk/hosting/ProducerLibrary.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "sdk/producerhost/StringReader.h"
+#include "sdk/hosting/StringReader.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "sdk/producerhost/ParentWatch.h"
+#include "sdk/hosting/ParentWatch.h"
 
 #include <csignal>
 #include <sys/prctl.h>

@@ -1,4 +1,4 @@
-#include "sdk/cvxcpp/ProducerProcess.h"
+#include "sdk/process/HostProcess.h"
 #include "tests/protocol/WaitForLine.h"
 #include "tests/sdk/support/TemporaryDirectory.h"
 #include "tests/sdk/support/Waiting.h"
@@ -14,11 +14,11 @@
 
 namespace fs = std::filesystem;
 
-class ProducerProcessTest : public testing::Test
+class HostProcessTest : public testing::Test
 {
 protected:
     /// Starts a shell script as the host program. Returns why that failed, or an empty string.
-    std::string startScript(const std::string &script, ProducerProcess &process)
+    std::string startScript(const std::string &script, HostProcess &process)
     {
         const fs::path program = directory.path() / "host";
         writeFile(program, "#!/bin/sh\n" + script + '\n');
@@ -35,7 +35,7 @@ protected:
         return line;
     }
 
-    static std::optional<int> statusOf(ProducerProcess &process)
+    static std::optional<int> statusOf(HostProcess &process)
     {
         std::optional<int> status;
         EXPECT_TRUE(waitUntil([&] { return (status = process.tryReap()).has_value(); }));
@@ -46,9 +46,9 @@ protected:
     LineChannel channel;
 };
 
-TEST_F(ProducerProcessTest, hostReceivesItsSocketAndTheProducerPath)
+TEST_F(HostProcessTest, hostReceivesItsSocketAndTheProducerPath)
 {
-    ProducerProcess process;
+    HostProcess process;
     ASSERT_EQ(startScript("read line <&3; echo \"$line $1\" >&3; exit 7", process), "");
     EXPECT_TRUE(process.isStarted());
     EXPECT_EQ(process.tryReap(), std::nullopt);
@@ -61,15 +61,15 @@ TEST_F(ProducerProcessTest, hostReceivesItsSocketAndTheProducerPath)
 
     const auto before = std::signal(SIGCHLD, SIG_IGN); // The kernel discards the exit status of children.
     ASSERT_EQ(startScript("exit 0", process), "");
-    EXPECT_EQ(statusOf(process), ProducerProcess::unknownStatus);
+    EXPECT_EQ(statusOf(process), HostProcess::unknownStatus);
     std::signal(SIGCHLD, before);
 }
 
-TEST_F(ProducerProcessTest, hostInheritsNoDescriptorsAndNoSignalHandling)
+TEST_F(HostProcessTest, hostInheritsNoDescriptorsAndNoSignalHandling)
 {
     const int ours = open("/dev/null", O_RDONLY); // Opened without close-on-exec.
     const auto before = std::signal(SIGUSR1, SIG_IGN);
-    ProducerProcess process;
+    HostProcess process;
     ASSERT_EQ(startScript("ls -m /proc/self/fd >&3; kill -USR1 $$; exit 0", process), "");
     std::signal(SIGUSR1, before);
     close(ours);
@@ -79,10 +79,10 @@ TEST_F(ProducerProcessTest, hostInheritsNoDescriptorsAndNoSignalHandling)
         << "other programs do not inherit the socket";
 }
 
-TEST_F(ProducerProcessTest, killEndsTheHostAndItsChildren)
+TEST_F(HostProcessTest, killEndsTheHostAndItsChildren)
 {
     {
-        ProducerProcess process;
+        HostProcess process;
         ASSERT_EQ(startScript("sleep 1000 & echo >&3; sleep 1000", process), "");
         nextLine();
         process.kill();
@@ -99,9 +99,9 @@ TEST_F(ProducerProcessTest, killEndsTheHostAndItsChildren)
     EXPECT_TRUE(waitUntil([] { return waitpid(-1, nullptr, WNOHANG) < 0; })) << "nothing is left to reap";
 }
 
-TEST_F(ProducerProcessTest, startReportsTheReasonOfAFailure)
+TEST_F(HostProcessTest, startReportsTheReasonOfAFailure)
 {
-    ProducerProcess process;
+    HostProcess process;
     EXPECT_EQ(process.start("/nowhere/host", "a.cti").failure,
         "cannot start /nowhere/host: No such file or directory");
     EXPECT_FALSE(process.isStarted());

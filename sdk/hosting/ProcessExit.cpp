@@ -1,4 +1,4 @@
-#include "sdk/producerhost/ProcessExit.h"
+#include "sdk/hosting/ProcessExit.h"
 
 #include <cstdio>
 #include <unistd.h>
