@@ -52,11 +52,13 @@ void AravisImages::start(BufferQueue &queue)
     if (!stream)
         throw error.toGenTl("The stream cannot be started");
     setUp(*stream);
+    const FilledImage configured = configuredImage(m_device);
 
     const std::lock_guard lock(m_mutex);
     m_isStreaming = true;
     m_stream = std::move(stream);
     m_queue = &queue;
+    m_configured = configured;
     m_gaps = {};
     m_packetsWithoutBuffer = 0;
     pushFreeBuffers();
@@ -121,7 +123,7 @@ void AravisImages::bufferDone(ArvBuffer *buffer)
     std::unique_lock lock(m_mutex);
     const auto taken = m_taken.extract(buffer);
     BufferQueue *const queue = m_queue;
-    const FilledImage image = toFilledImage(buffer, taken.mapped().size, m_byteOrder);
+    const FilledImage image = toFilledImage(buffer, taken.mapped().size, m_byteOrder, m_configured);
     const std::uint64_t underruns = countMissing(image.frameId);
     // libaravis has put the buffer into its output queue. A stream that ends releases this queue itself.
     const GObjectPointer<ArvBuffer> output(
