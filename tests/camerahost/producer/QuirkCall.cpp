@@ -67,6 +67,8 @@ GC_ERROR call(const char *function, const std::string &detail,
     const std::function<GC_ERROR(std::unique_lock<std::mutex> &)> &body)
 {
     currentAction = QuirkScript::actionFor(function, detail);
+    if (currentAction == "crash" || currentAction == "hang")
+        QuirkScript::log(currentAction + " in " + function);
     lastCode = perform(currentAction);
     if (lastCode == continueCall) {
         std::unique_lock lock(mutex);
