@@ -8,7 +8,7 @@ import subprocess
 
 from frames import BOUND
 from listing import Installation
-from networks import Machine, inside, started_and_ready
+from networks import Machine
 from pairs import Figure, at_least_times, at_most, at_most_beyond, in_pairs
 
 LARGE, SMALL = "SIM-LARGE", "SIM-SMALL"
@@ -20,12 +20,22 @@ NETWORK_SECONDS = 60
 MEBIBYTE = 1 << 20
 
 
+def installation(bench, name, producer):
+    """Returns the directory of an installation with the programs of an opened camera and one producer."""
+    root = Installation(bench, name).root
+    for file in "CvxCameraHost", "cvxctl":
+        shutil.copy(f"{bench.place}/shipped/bin/{file}", f"{root}/bin")
+    os.makedirs(os.path.dirname(f"{root}/cti/{producer}"), exist_ok=True)
+    shutil.copy(f"{bench.place}/shipped/cti/{producer}", f"{root}/cti/{producer}")
+    return root
+
+
 class Cameras:
     """An installation whose simulator has a large and a small camera that stream as fast as they can."""
 
     def __init__(self, bench):
         self.bench = bench
-        self.root = Installation(bench, "streaming").root
+        self.root = installation(bench, "streaming", "CorvixCameraSimulator.cti")
         self.producer = f"{self.root}/cti/CorvixCameraSimulator.cti"
         with open(f"{self.root}/cti/CorvixCameraSimulator.json", "w", encoding="utf-8") as file:
             json.dump({"interfaces": [{"id": "Sim", "tlType": "GEV", "devices": CAMERAS}]}, file)
@@ -75,16 +85,11 @@ def simulated(bench):
 
 def on_network(bench):
     """Streams from a GigE Vision camera at its full rate over the loopback interface."""
-    root = Installation(bench, "streaming-gige").root
-    os.mkdir(f"{root}/cti/fallback")
-    shutil.copy(f"{bench.place}/shipped/cti/fallback/UniversalGEV.cti", f"{root}/cti/fallback")
-    os.remove(f"{root}/cti/CorvixCameraSimulator.cti")
+    root = installation(bench, "streaming-gige", "fallback/UniversalGEV.cti")
     with Machine("") as machine:
-        with inside(machine.process):
-            camera = subprocess.Popen(["arv-fake-gv-camera-0.8", "-i", "127.0.0.1", "-s", "BENCH"])
-            machine.processes.callback(camera.kill)
-            printed = subprocess.run([f"{root}/bin/cvxctl", "watch", "BENCH", "--seconds", str(NETWORK_SECONDS), "--json"],
-                                     stdout=subprocess.PIPE, check=True, text=True, timeout=NETWORK_SECONDS + 5 * BOUND).stdout
+        machine.start("arv-fake-gv-camera-0.8", "-i", "127.0.0.1", "-s", "BENCH")
+        printed = machine.output(f"{root}/bin/cvxctl", "watch", "BENCH", "--seconds", str(NETWORK_SECONDS), "--json",
+                                 bound=NETWORK_SECONDS + 5 * BOUND)
     counters = json.loads(printed.splitlines()[-1])
     missing = counters["lost"] + counters["incomplete"] + counters["underruns"]
     yield Figure(f"images lost of {counters['images']} from a simulated GigE Vision camera in {NETWORK_SECONDS} s", "",
