@@ -31,7 +31,7 @@ private:
     void bufferStarted();
     void bufferDone(ArvBuffer *buffer);
     void pushFreeBuffers();
-    std::uint64_t countMissing(std::uint64_t frameId);
+    std::uint64_t takeUnderruns(std::uint64_t frameId);
 
     ArvDevice &m_device;
     const ChunkByteOrder m_byteOrder;

@@ -5,8 +5,8 @@
 
 #include <arv.h>
 
-/// Returns size, position and pixel format of the images that the camera is set up for. A value that the camera
-/// does not report is 0.
+/// Returns size, position and pixel format of the images that the camera is set up for. A value that the
+/// camera does not report is 0.
 FilledImage configuredImage(ArvDevice &device);
 
 /// Returns what libaravis reports about a buffer that its stream has filled. Of several parts, only the first

@@ -1,8 +1,8 @@
 // These tests open the fake camera that libaravis has in the process itself.
 
 #include "sdk/aravis/AravisCamera.h"
-#include "tests/aravis/BufferPool.h"
 #include "tests/aravis/FakeCameraRegisters.h"
+#include "tests/aravis/TestBuffers.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +60,7 @@ TEST_F(AravisCameraTest, descriptionIsReadThroughThePort)
 TEST_F(AravisCameraTest, imagesArriveInTheBuffersOfTheQueue)
 {
     ASSERT_EQ(source.payloadSize(), 64U * 32U);
-    BufferPool pool(3, source.payloadSize());
+    TestBuffers pool(3, source.payloadSize());
     for (std::uint64_t round = 1; round <= 3; ++round) {
         source.start(pool);
         writeNumber(camera, FakeCameraRegister::acquisition, 1);

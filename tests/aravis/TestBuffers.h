@@ -13,7 +13,7 @@
 #include <vector>
 
 /// The buffers of a stream. Fails the test if the source misuses a buffer.
-class BufferPool final : public BufferQueue
+class TestBuffers final : public BufferQueue
 {
 public:
     struct Delivered
@@ -22,7 +22,7 @@ public:
         FilledImage image;
     };
 
-    BufferPool(std::size_t count, std::size_t size)
+    TestBuffers(std::size_t count, std::size_t size)
     {
         for (std::size_t index = 0; index < count; ++index) {
             auto &memory = m_memory.emplace_back(size);
