@@ -4,6 +4,7 @@
 #include "sdk/aravis/DeliveredBuffer.h"
 
 #include <chrono>
+#include <sys/resource.h>
 #include <utility>
 
 namespace {
@@ -12,13 +13,24 @@ namespace {
 /// libaravis gives up after 0.1 seconds without a packet.
 constexpr std::chrono::milliseconds lastImageTimeout{500};
 
+/// The receive buffer of a network stream, in bytes. The system reduces it to what net.core.rmem_max permits.
+constexpr int socketBufferSize = 32 << 20;
+
 /// Sets the options that only a network stream has.
 void setUp(ArvStream &stream)
 {
     if (!ARV_IS_GV_STREAM(&stream))
         return;
     g_object_set(&stream, "packet-resend", ARV_GV_STREAM_PACKET_RESEND_ALWAYS, "socket-buffer",
-        ARV_GV_STREAM_SOCKET_BUFFER_AUTO, nullptr);
+        ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size", socketBufferSize, nullptr);
+}
+
+/// Lets the calling thread run before others, because packets that nobody receives in time are lost. Without
+/// the permission of the system, nothing changes.
+void raisePriority()
+{
+    constexpr int callingThread = 0, niceness = -10;
+    setpriority(PRIO_PROCESS, callingThread, niceness);
 }
 
 } // namespace
@@ -106,6 +118,8 @@ std::uint64_t AravisImages::lostImages() const
 void AravisImages::handleEvent(void *self, ArvStreamCallbackType type, ArvBuffer *buffer)
 {
     auto *const images = static_cast<AravisImages *>(self);
+    if (type == ARV_STREAM_CALLBACK_TYPE_INIT)
+        raisePriority();
     if (type == ARV_STREAM_CALLBACK_TYPE_START_BUFFER)
         images->bufferStarted();
     if (type == ARV_STREAM_CALLBACK_TYPE_BUFFER_DONE)
