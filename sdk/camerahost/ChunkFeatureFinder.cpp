@@ -9,8 +9,6 @@ using namespace CvxCPP;
 
 namespace {
 
-constexpr const char *chunkSwitch = "ChunkModeActive";
-
 /// Parses an ID as descriptions write it: hexadecimal digits, with or without "0x".
 std::optional<std::uint64_t> parseChunkId(std::string_view text)
 {
@@ -35,8 +33,6 @@ std::optional<Value> valueOf(const AccessResult<Value> &result)
 std::vector<ChunkFeature> ChunkFeatureFinder::find()
 {
     std::vector<ChunkFeature> features;
-    if (isSwitchedOff())
-        return features;
     for (const NodeIndex node : m_list.indices()) {
         if (!m_references.isUsable(node) || !m_references.usesImage(node))
             continue;
@@ -44,12 +40,6 @@ std::vector<ChunkFeature> ChunkFeatureFinder::find()
             features.push_back(*std::move(feature));
     }
     return features;
-}
-
-bool ChunkFeatureFinder::isSwitchedOff()
-{
-    const auto node = m_description.find(chunkSwitch);
-    return node && valueOf(m_engine.readInteger(*node)) == std::int64_t(0);
 }
 
 std::optional<ChunkFeature> ChunkFeatureFinder::makeFeature(NodeIndex index)

@@ -12,18 +12,16 @@ class ChunkFeatureFinder
 {
 public:
     /// All must exist as long as this object.
-    ChunkFeatureFinder(const Description &description, const NodeReferences &references,
-        const NodeList &list, NodeEngine &engine)
+    ChunkFeatureFinder(const Description &description, const NodeReferences &references, const NodeList &list,
+        NodeEngine &engine)
         : m_description(description), m_references(references), m_list(list), m_engine(engine)
-    {
-    }
+    { }
 
-    /// Returns nothing if the camera has switched the chunks off. Leaves out features whose value is computed
-    /// by a formula.
+    /// Returns the features, whether or not the camera appends the chunks at present. Leaves out features
+    /// whose value is computed by a formula.
     std::vector<ChunkFeature> find();
 
 private:
-    bool isSwitchedOff();
     std::optional<ChunkFeature> makeFeature(NodeIndex node);
     std::optional<std::uint64_t> chunkId(const NodeDescription &reg);
 

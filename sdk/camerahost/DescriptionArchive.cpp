@@ -71,8 +71,8 @@ std::optional<ArchivedFile> findXmlFile(std::string_view archive)
         const std::string_view header = archive.substr(*at);
         const std::size_t nameSize = numberAt<2>(header, 28);
         const ArchivedFile file{header.substr(directoryHeaderSize, nameSize), numberAt<2>(header, 8),
-            numberAt<2>(header, 10), numberAt<4>(header, 16), numberAt<4>(header, 20), numberAt<4>(header, 24),
-            numberAt<4>(header, 42)};
+            numberAt<2>(header, 10), numberAt<4>(header, 16), numberAt<4>(header, 20),
+            numberAt<4>(header, 24), numberAt<4>(header, 42)};
         if (hasXmlName(file.name))
             return file;
         *at += directoryHeaderSize + nameSize + numberAt<2>(header, 30) + numberAt<2>(header, 32);

@@ -45,7 +45,8 @@ public:
         if (!m_problem.empty())
             return; // A stopped parser still calls the handlers of the current element.
         if (++m_elements > maxElements || m_levels.size() >= maxDepth) {
-            fail(m_elements > maxElements ? "it has too many elements" : "its elements are nested too deeply");
+            fail(
+                m_elements > maxElements ? "it has too many elements" : "its elements are nested too deeply");
             return;
         }
         m_text.clear();
@@ -247,8 +248,8 @@ std::variant<Description, DescriptionProblem> parseEncoded(const std::string &xm
     // Some descriptions contain characters such as the degree sign in another encoding than they declare.
     if (!encoding && (error == XML_ERROR_INVALID_TOKEN || error == XML_ERROR_UNKNOWN_ENCODING))
         return parseEncoded(xml, "ISO-8859-1");
-    return DescriptionProblem{"line " + std::to_string(XML_GetCurrentLineNumber(parser.get())) + ": "
-        + XML_ErrorString(error)};
+    return DescriptionProblem{
+        "line " + std::to_string(XML_GetCurrentLineNumber(parser.get())) + ": " + XML_ErrorString(error)};
 }
 
 } // namespace

@@ -69,8 +69,8 @@ void appendProperty(std::string &xml, const NodeDescription &node, const NodePro
     if (offsetNode)
         appendAttribute(xml, "pOffset", offsetNode->text);
     xml += '>';
-    appendEscaped(xml,
-        isVerbatim(node, property.kind) ? property.text : engineText(property.text, property.kind));
+    appendEscaped(
+        xml, isVerbatim(node, property.kind) ? property.text : engineText(property.text, property.kind));
     xml.append("</").append(element).append(">");
 }
 

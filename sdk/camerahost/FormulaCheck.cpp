@@ -16,8 +16,8 @@ struct FormulaElement
     PropertyKind kind;
     const char *input; // The variable that is not a reference.
 };
-constexpr std::array<FormulaElement, 3> formulaElements{{{PropertyKind::Formula, nullptr},
-    {PropertyKind::FormulaFrom, "TO"}, {PropertyKind::FormulaTo, "FROM"}}};
+constexpr std::array<FormulaElement, 3> formulaElements{
+    {{PropertyKind::Formula, nullptr}, {PropertyKind::FormulaFrom, "TO"}, {PropertyKind::FormulaTo, "FROM"}}};
 
 using Evaluator = std::unique_ptr<ArvEvaluator, void (*)(void *)>;
 

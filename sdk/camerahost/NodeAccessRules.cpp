@@ -119,8 +119,8 @@ bool NodeAccessRules::isAvailable(const EntryDescription &entry)
 NodeAccess NodeAccessRules::mode(const std::vector<NodeIndex> &chain) const
 {
     const auto excludes = [&](const char *mode) {
-        return std::any_of(chain.begin(), chain.end(),
-            [&](NodeIndex link) { return hasMode(m_description[link], mode); });
+        return std::any_of(
+            chain.begin(), chain.end(), [&](NodeIndex link) { return hasMode(m_description[link], mode); });
     };
     const bool isReadOnly = excludes("RO") || std::any_of(chain.begin(), chain.end(), [this](NodeIndex link) {
         return isComputed(m_description[link].kind);

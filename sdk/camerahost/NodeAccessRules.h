@@ -29,8 +29,7 @@ public:
     NodeAccessRules(const Description &description, const NodeReferences &references, const NodeList &list,
         NodeEngine &engine)
         : m_description(description), m_references(references), m_list(list), m_engine(engine)
-    {
-    }
+    { }
 
     CurrentAccess evaluate(NodeIndex node);
 

@@ -79,12 +79,12 @@ bool isNumberProperty(Kind kind, NodeKind node)
 /// Returns the text of the first property that should be a number but is none, or null.
 const std::string *findMalformedNumber(const NodeDescription &node)
 {
-    const auto found = std::find_if(
-        node.properties.begin(), node.properties.end(), [&node](const NodeProperty &property) {
-            if (!isNumberProperty(property.kind, node.kind))
-                return false;
-            return isFloat(node.kind) ? !parseFloat(property.text) : !parseInteger(property.text);
-        });
+    const auto found
+        = std::find_if(node.properties.begin(), node.properties.end(), [&node](const NodeProperty &property) {
+              if (!isNumberProperty(property.kind, node.kind))
+                  return false;
+              return isFloat(node.kind) ? !parseFloat(property.text) : !parseInteger(property.text);
+          });
     return found == node.properties.end() ? nullptr : &found->text;
 }
 

@@ -29,10 +29,7 @@ bool isEvaluated(ReferenceRole role)
 
 NodeDependents::NodeDependents(
     const Description &description, const NodeReferences &references, const NodeList &list)
-    : m_description(description)
-    , m_references(references)
-    , m_list(list)
-    , m_referrers(description.size())
+    : m_description(description), m_references(references), m_list(list), m_referrers(description.size())
 {
     for (NodeIndex node = 0; node < description.size(); ++node) {
         for (const NodeReferences::Reference &reference : references.of(node)) {

@@ -47,11 +47,11 @@ std::string AccessProblem::sentence() const
 }
 
 NodeEngine::NodeEngine(RegisterPort &port, const Description &description, const NodeReferences &references)
-    : m_description(description)
-    , m_references(references)
-    , m_device(makeRegisterDevice(port, m_lastProblem))
-    , m_engine(makeEngine(m_device.get(), makeEngineDocument(description, references)))
-    , m_nodes(description.size())
+    : m_description(description),
+      m_references(references),
+      m_device(makeRegisterDevice(port, m_lastProblem)),
+      m_engine(makeEngine(m_device.get(), makeEngineDocument(description, references))),
+      m_nodes(description.size())
 {
     // The policies stay off: the register cache returns outdated values, and the checks of limits and access
     // reject valid values of some registers. The callers check both.
@@ -251,8 +251,8 @@ std::optional<NodeIndex> NodeEngine::valueTarget(NodeIndex node)
     if (!index)
         return std::nullopt;
     for (const NodeProperty &property : properties) {
-        const bool isIndexed = property.kind == PropertyKind::PValueIndexed
-            || property.kind == PropertyKind::ValueIndexed;
+        const bool isIndexed
+            = property.kind == PropertyKind::PValueIndexed || property.kind == PropertyKind::ValueIndexed;
         if (isIndexed && parseInteger(property.attribute) == *index)
             return m_description.find(property.text); // Nothing if the value is a constant.
     }

@@ -83,7 +83,8 @@ std::optional<long double> NodeLimits::stated(
         : AccessProblem{"the register description is wrong: there is no node \"" + target->text + '"'};
     if (const auto *const failure = std::get_if<AccessProblem>(&result)) {
         if (problem.empty())
-            problem = AccessProblem{"a limit of \"" + node.name + "\" cannot be read: " + failure->text}.sentence();
+            problem = AccessProblem{"a limit of \"" + node.name + "\" cannot be read: " + failure->text}
+                          .sentence();
         return std::nullopt;
     }
     return toLongDouble(std::get<Number>(result));

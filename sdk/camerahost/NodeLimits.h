@@ -25,8 +25,7 @@ public:
     /// All must exist as long as this object.
     NodeLimits(const Description &description, NodeEngine &engine)
         : m_description(description), m_engine(engine)
-    {
-    }
+    { }
 
     Limits read(NodeIndex node);
 

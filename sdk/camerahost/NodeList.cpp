@@ -62,10 +62,10 @@ std::vector<EnumerationEntry> entriesOf(const NodeDescription &node)
 } // namespace
 
 NodeList::NodeList(const Description &description, const NodeReferences &references)
-    : m_description(description)
-    , m_references(references)
-    , m_isListed(description.size(), false)
-    , m_features(description.size())
+    : m_description(description),
+      m_references(references),
+      m_isListed(description.size(), false),
+      m_features(description.size())
 {
     collect();
     addSelectors();
@@ -120,7 +120,8 @@ NodeInfo NodeList::makeInfo(NodeIndex index, const std::string &category) const
         representations, inherited(index, PropertyKind::Representation), NodeRepresentation::Undefined);
     info.isStreamable = properties.text(PropertyKind::Streamable) == "Yes";
     const auto pollingTime = parseInteger(inherited(index, PropertyKind::PollingTime));
-    info.pollingTime = static_cast<std::uint32_t>(std::clamp<std::int64_t>(pollingTime.value_or(0), 0, UINT32_MAX));
+    info.pollingTime
+        = static_cast<std::uint32_t>(std::clamp<std::int64_t>(pollingTime.value_or(0), 0, UINT32_MAX));
     info.entries = entriesOf(node);
     return info;
 }
@@ -143,7 +144,8 @@ std::vector<NodeIndex> NodeList::valueChain(NodeIndex node) const
     std::vector<NodeIndex> chain{node};
     if (!m_references.isUsable(node))
         return chain; // The chain of an unusable node may have no end.
-    while (const NodeProperty *const value = m_description[chain.back()].properties.find(PropertyKind::PValue))
+    while (
+        const NodeProperty *const value = m_description[chain.back()].properties.find(PropertyKind::PValue))
         chain.push_back(*m_description.find(value->text));
     return chain;
 }

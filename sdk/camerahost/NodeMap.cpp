@@ -16,17 +16,16 @@ class ArvNodeMap : public NodeMap
 {
 public:
     ArvNodeMap(RegisterPort &port, Description description)
-        : m_description(std::move(description))
-        , m_references(m_description)
-        , m_list(m_description, m_references)
-        , m_engine(port, m_description, m_references)
-        , m_rules(m_description, m_references, m_list, m_engine)
-        , m_reader(m_description, m_engine, m_rules)
-        , m_writer(m_description, m_engine, m_rules, m_reader)
-        , m_dependents(m_description, m_references, m_list)
-        , m_chunkFinder(m_description, m_references, m_list, m_engine)
-    {
-    }
+        : m_description(std::move(description)),
+          m_references(m_description),
+          m_list(m_description, m_references),
+          m_engine(port, m_description, m_references),
+          m_rules(m_description, m_references, m_list, m_engine),
+          m_reader(m_description, m_engine, m_rules),
+          m_writer(m_description, m_engine, m_rules, m_reader),
+          m_dependents(m_description, m_references, m_list),
+          m_chunkFinder(m_description, m_references, m_list, m_engine)
+    { }
 
     const std::vector<NodeInfo> &nodes() const override { return m_list.infos(); }
 
@@ -73,8 +72,7 @@ public:
     std::optional<std::int64_t> readInteger(const std::string &name) override
     {
         const auto node = m_description.find(name);
-        const auto result
-            = node ? m_engine.readInteger(*node) : AccessResult<std::int64_t>(AccessProblem{});
+        const auto result = node ? m_engine.readInteger(*node) : AccessResult<std::int64_t>(AccessProblem{});
         const auto *const value = std::get_if<std::int64_t>(&result);
         return value ? std::optional(*value) : std::nullopt;
     }

@@ -15,8 +15,7 @@ public:
     /// All must exist as long as this object.
     NodeReader(const Description &description, NodeEngine &engine, NodeAccessRules &rules)
         : m_description(description), m_engine(engine), m_rules(rules), m_limits(description, engine)
-    {
-    }
+    { }
 
     CvxCPP::NodeState readState(NodeIndex node);
 

@@ -184,8 +184,8 @@ std::optional<AccessProblem> NodeWriter::writeNumber(NodeIndex node, Number valu
 {
     auto problem = m_engine.writeNumber(node, value);
     for (const NodeProperty &property : m_description[node].properties) {
-        const auto copy = property.kind == PropertyKind::PValueCopy ? m_description.find(property.text)
-                                                                    : std::nullopt;
+        const auto copy
+            = property.kind == PropertyKind::PValueCopy ? m_description.find(property.text) : std::nullopt;
         if (!problem && copy)
             problem = m_engine.writeNumber(*copy, value);
     }
@@ -204,6 +204,6 @@ NodeWriter::Failure NodeWriter::finish(NodeIndex node, const std::optional<Acces
 {
     if (!problem)
         return std::nullopt;
-    return RequestFailedReply{DeviceFailure::Device,
-        feature(m_description[node]) + " cannot be written: " + problem->text + '.'};
+    return RequestFailedReply{
+        DeviceFailure::Device, feature(m_description[node]) + " cannot be written: " + problem->text + '.'};
 }

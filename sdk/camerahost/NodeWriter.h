@@ -11,11 +11,9 @@ class NodeWriter
 {
 public:
     /// All must exist as long as this object.
-    NodeWriter(
-        const Description &description, NodeEngine &engine, NodeAccessRules &rules, NodeReader &reader)
+    NodeWriter(const Description &description, NodeEngine &engine, NodeAccessRules &rules, NodeReader &reader)
         : m_description(description), m_engine(engine), m_rules(rules), m_reader(reader)
-    {
-    }
+    { }
 
     /// Writes a value, or executes a command if there is no value. Returns the failure.
     std::optional<RequestFailedReply> write(NodeIndex node, const CvxCPP::NodeValue &value);

@@ -41,8 +41,8 @@ std::optional<Problem> PortFileReader::readBlock(
     std::uint64_t address, char *data, std::size_t size, std::size_t &done) const
 {
     done = size;
-    auto problem = m_library.call("GCReadPort", m_library.GCReadPort, m_port, address,
-        static_cast<void *>(data), &done);
+    auto problem = m_library.call(
+        "GCReadPort", m_library.GCReadPort, m_port, address, static_cast<void *>(data), &done);
     if (problem && size % registerSize != 0 && !readAligned(address, data, size, done))
         problem.reset();
     done = std::min(done, size);
@@ -54,8 +54,8 @@ std::optional<Problem> PortFileReader::readAligned(
 {
     std::string registers((size + registerSize - 1) / registerSize * registerSize, '\0');
     done = registers.size();
-    auto problem = m_library.call("GCReadPort", m_library.GCReadPort, m_port, address,
-        static_cast<void *>(registers.data()), &done);
+    auto problem = m_library.call(
+        "GCReadPort", m_library.GCReadPort, m_port, address, static_cast<void *>(registers.data()), &done);
     if (!problem)
         std::copy_n(registers.begin(), size, data);
     return problem;

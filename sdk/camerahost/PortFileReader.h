@@ -18,8 +18,7 @@ public:
     /// `library` and `port` must exist as long as the reader.
     PortFileReader(const DeviceLibrary &library, GenTL::PORT_HANDLE port, TimePoint deadline)
         : m_library(library), m_port(port), m_deadline(deadline)
-    {
-    }
+    { }
 
     /// Returns `length` bytes. Bytes after the last one that the camera has are 0.
     std::variant<std::string, DescriptionProblem> read(std::uint64_t address, std::size_t length);

@@ -46,12 +46,8 @@ class DescriptionFetcher
 public:
     DescriptionFetcher(const DeviceLibrary &library, GenTL::PORT_HANDLE port,
         std::filesystem::path producerFolder, PortFileReader::TimePoint deadline)
-        : m_library(library)
-        , m_port(port)
-        , m_producerFolder(std::move(producerFolder))
-        , m_deadline(deadline)
-    {
-    }
+        : m_library(library), m_port(port), m_producerFolder(std::move(producerFolder)), m_deadline(deadline)
+    { }
 
     std::variant<std::string, RequestFailedReply> fetch()
     {

@@ -67,7 +67,8 @@ std::optional<std::string> checkFloat(double &value, const Limits &limits)
     const long double steps = (value - origin) / *limits.increment;
     const long double nearest = origin + std::round(steps) * *limits.increment;
     if (!isNear(value, nearest) && std::abs(steps - std::round(steps)) > floatPrecision)
-        return neighboursText(origin + std::floor(steps) * *limits.increment, *limits.increment, limits, false);
+        return neighboursText(
+            origin + std::floor(steps) * *limits.increment, *limits.increment, limits, false);
     return std::nullopt;
 }
 
