@@ -33,6 +33,13 @@ enum class BinningMode
     Average
 };
 
+/// Size of the picture of all pixels, after binning.
+struct PictureSize
+{
+    int width;
+    int height;
+};
+
 /// Everything that influences one picture.
 struct RenderSettings
 {
