@@ -6,7 +6,7 @@ using Id = RegisterId;
 
 namespace {
 
-constexpr double perSecond = 1e9; // Nanoseconds.
+constexpr double clockTicksPerSecond = 1e9; // Nanoseconds.
 
 } // namespace
 
@@ -25,7 +25,7 @@ std::int64_t transferTime(const RegisterBank &bank)
 {
     if (!bank.isOn(Id::DeviceLinkThroughputLimitMode))
         return 0;
-    return static_cast<std::int64_t>(perSecond * static_cast<double>(bank.integer(Id::PayloadSize))
+    return static_cast<std::int64_t>(clockTicksPerSecond * static_cast<double>(bank.integer(Id::PayloadSize))
         / static_cast<double>(bank.integer(Id::DeviceLinkThroughputLimit)));
 }
 
@@ -33,9 +33,10 @@ std::int64_t imagePeriod(const RegisterBank &bank)
 {
     double period = 0;
     if (bank.isOn(Id::AcquisitionFrameRateEnable))
-        period = perSecond / bank.real(Id::AcquisitionFrameRate);
+        period = clockTicksPerSecond / bank.real(Id::AcquisitionFrameRate);
     if (bank.isOn(Id::AcquisitionLineRateEnable))
         period = std::max(period,
-            perSecond * static_cast<double>(bank.integer(Id::Height)) / bank.real(Id::AcquisitionLineRate));
+            clockTicksPerSecond * static_cast<double>(bank.integer(Id::Height))
+                / bank.real(Id::AcquisitionLineRate));
     return std::max(static_cast<std::int64_t>(period), transferTime(bank));
 }

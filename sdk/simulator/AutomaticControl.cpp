@@ -115,8 +115,7 @@ void adjustWhite(RegisterBank &bank, const std::array<double, 3> &colors)
     bool isChanged = false;
     for (const std::size_t color : {std::size_t{0}, std::size_t{2}}) { // Green stays as it is.
         const double old = bank.real(Id::BalanceRatio, color);
-        const double wanted
-            = std::clamp(old * correction(colors[color], colors[1]), limits.min, limits.max);
+        const double wanted = std::clamp(old * correction(colors[color], colors[1]), limits.min, limits.max);
         bank.setReal(Id::BalanceRatio, wanted, color);
         isChanged = isChanged || wanted != old;
     }

@@ -39,7 +39,8 @@ void reset(RegisterFile &registers, const CameraModel &model)
     registers.restart(powerOn);
 }
 
-void changeRegisters(RegisterId command, RegisterBank &bank, RegisterFile &registers, const CameraModel &model)
+void changeRegisters(
+    RegisterId command, RegisterBank &bank, RegisterFile &registers, const CameraModel &model)
 {
     switch (command) {
     case Id::AcquisitionStart:

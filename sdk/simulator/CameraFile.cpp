@@ -30,7 +30,8 @@ constexpr std::chrono::seconds maxWait{2};
 
 bool tryLock(int descriptor, off_t byte, short type)
 {
-    struct flock lock{};
+    struct flock lock
+    { };
     lock.l_type = type;
     lock.l_whence = SEEK_SET;
     lock.l_start = byte;
@@ -56,7 +57,8 @@ bool succeedsInTime(Attempt attempt)
     throw GenTlError(GenTL::GC_ERR_IO, "The registers of the simulated camera in " + path + " " + reason);
 }
 
-/// Returns an ID as part of a file name: all bytes but letters, digits, "-" and "_" become "%" and two digits.
+/// Returns an ID as part of a file name: all bytes but letters, digits, "-" and "_" become "%" and two
+/// digits.
 std::string asFileName(const std::string &id)
 {
     std::string name;
@@ -94,7 +96,8 @@ bool CameraFile::tryOpen(const std::string &path)
     m_descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
     if (m_descriptor < 0)
         failToOpen(path, std::string("cannot be opened: ") + std::strerror(errno));
-    struct stat status{};
+    struct stat status
+    { };
     fstat(m_descriptor, &status);
     const bool isOurs = S_ISREG(status.st_mode) && status.st_uid == geteuid()
         && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
@@ -112,8 +115,10 @@ bool CameraFile::tryOpen(const std::string &path)
 /// The last user may have removed the file between our open() and our lock.
 bool CameraFile::isStillAt(const std::string &path) const
 {
-    struct stat opened{};
-    struct stat named{};
+    struct stat opened
+    { };
+    struct stat named
+    { };
     return fstat(m_descriptor, &opened) == 0 && stat(path.c_str(), &named) == 0
         && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }

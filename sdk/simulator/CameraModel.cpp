@@ -146,10 +146,10 @@ std::uint64_t fingerprint(const CameraModel &model)
 {
     const SensorModel &sensor = model.sensor;
     std::uint64_t hash = hashOf(model.record.model + '\n' + model.record.vendor + '\n' + model.record.tlType);
-    for (const std::uint64_t value : {static_cast<std::uint64_t>(sensor.width),
-             static_cast<std::uint64_t>(sensor.height), static_cast<std::uint64_t>(sensor.isColor),
-             static_cast<std::uint64_t>(sensor.isLineScan), static_cast<std::uint64_t>(sensor.taps),
-             sensor.seed, static_cast<std::uint64_t>(registersSize)})
+    for (const std::uint64_t value :
+        {static_cast<std::uint64_t>(sensor.width), static_cast<std::uint64_t>(sensor.height),
+            static_cast<std::uint64_t>(sensor.isColor), static_cast<std::uint64_t>(sensor.isLineScan),
+            static_cast<std::uint64_t>(sensor.taps), sensor.seed, static_cast<std::uint64_t>(registersSize)})
         hash = hashOf({reinterpret_cast<const char *>(&value), sizeof value}, hash);
     return hash;
 }

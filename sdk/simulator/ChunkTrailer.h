@@ -7,7 +7,8 @@
 #include <cstdint>
 #include <vector>
 
-// Chunk data: the image is the first chunk. Each chunk is its data, then its ID and its length in 4 bytes each.
+// Chunk data: the image is the first chunk. Each chunk is its data, then its ID and its length in 4 bytes
+// each.
 
 /// What the chunks of one image contain.
 struct ChunkValues

@@ -30,8 +30,8 @@ std::string hexadecimal(std::uint64_t value)
 
 std::string enumEntry(const std::string &name, std::uint64_t value)
 {
-    return "<EnumEntry Name=\"" + name + "\" NameSpace=\"Standard\">" + element("Value", std::to_string(value))
-        + "</EnumEntry>\n";
+    return "<EnumEntry Name=\"" + name + "\" NameSpace=\"Standard\">"
+        + element("Value", std::to_string(value)) + "</EnumEntry>\n";
 }
 
 std::string pixelFormatEntries(bool isColor)
@@ -133,8 +133,8 @@ std::string chunkRegisters(bool isBigEndian)
         const std::string tag = node.isFloat ? "FloatReg" : "IntReg";
         nodes += "<Port Name=\"" + name + "Port\">" + element("ChunkID", hexadecimal(chunkId(node.chunk)))
             + "</Port>\n<" + tag + " Name=\"" + name + "Reg\">"
-            + "<Address>0</Address><Length>8</Length><AccessMode>RO</AccessMode>" + element("pPort", name + "Port")
-            + (node.isFloat ? "" : "<Sign>Unsigned</Sign>")
+            + "<Address>0</Address><Length>8</Length><AccessMode>RO</AccessMode>"
+            + element("pPort", name + "Port") + (node.isFloat ? "" : "<Sign>Unsigned</Sign>")
             + element("Endianess", isBigEndian ? "BigEndian" : "LittleEndian") + "</" + tag + ">\n";
     }
     return nodes;
@@ -177,8 +177,8 @@ std::string rootNode(const DescriptionKind &kind)
 std::string openingTag(const DescriptionKind &kind)
 {
     const std::string schema = "http://www.genicam.org/GenApi/Version_1_1";
-    const auto code = static_cast<unsigned>(kind.isColor | kind.isLineScan << 1 | kind.hasBigEndianChunks << 2
-        | kind.taps << 4);
+    const auto code = static_cast<unsigned>(
+        kind.isColor | kind.isLineScan << 1 | kind.hasBigEndianChunks << 2 | kind.taps << 4);
     char guid[40];
     std::snprintf(guid, sizeof guid, "7A0C51D2-93B4-4E6F-8D15-2F60B7E9%04X", code);
     return "<RegisterDescription ModelName=\"" + descriptionName(kind)
@@ -200,8 +200,8 @@ bool operator==(const DescriptionKind &left, const DescriptionKind &right)
 
 std::string descriptionName(const DescriptionKind &kind)
 {
-    return std::string("Simulated") + (kind.isLineScan ? "LineScan" : "AreaScan") + (kind.isColor ? "Color" : "")
-        + (kind.taps > 1 ? std::to_string(kind.taps) + "Taps" : "");
+    return std::string("Simulated") + (kind.isLineScan ? "LineScan" : "AreaScan")
+        + (kind.isColor ? "Color" : "") + (kind.taps > 1 ? std::to_string(kind.taps) + "Taps" : "");
 }
 
 std::string descriptionText(const DescriptionKind &kind)

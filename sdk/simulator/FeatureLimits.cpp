@@ -81,7 +81,9 @@ constexpr DependentRule dependentRules[] = {
             return IntegerLimits{1'000'000, bank.integer(Id::DeviceLinkSpeed), 1};
         }},
     {Id::BinningVertical,
-        [](const RegisterBank &bank) { return IntegerLimits{1, isLineScan(bank) ? 1 : 4, 1}; }},
+        [](const RegisterBank &bank) {
+            return IntegerLimits{1, isLineScan(bank) ? 1 : 4, 1};
+        }},
     {Id::Width,
         [](const RegisterBank &bank) {
             return IntegerLimits{minWidth, widthMax(bank) - bank.integer(Id::OffsetX), widthIncrement};
@@ -100,11 +102,18 @@ constexpr DependentRule dependentRules[] = {
             return IntegerLimits{
                 0, isLineScan(bank) ? 0 : heightMax(bank) - bank.integer(Id::Height), heightIncrement(bank)};
         }},
-    {Id::ReverseY, [](const RegisterBank &bank) { return IntegerLimits{0, isLineScan(bank) ? 0 : 1, 1}; }},
+    {Id::ReverseY,
+        [](const RegisterBank &bank) {
+            return IntegerLimits{0, isLineScan(bank) ? 0 : 1, 1};
+        }},
     {Id::TriggerSelector,
-        [](const RegisterBank &bank) { return IntegerLimits{0, isLineScan(bank) ? 2 : 1, 1}; }},
+        [](const RegisterBank &bank) {
+            return IntegerLimits{0, isLineScan(bank) ? 2 : 1, 1};
+        }},
     {Id::TriggerSource,
-        [](const RegisterBank &bank) { return IntegerLimits{0, isLineScan(bank) ? 3 : 2, 1}; }},
+        [](const RegisterBank &bank) {
+            return IntegerLimits{0, isLineScan(bank) ? 3 : 2, 1};
+        }},
     {Id::GainSelector,
         [](const RegisterBank &bank) {
             const std::int64_t taps = bank.integer(Id::TapCount);
@@ -129,8 +138,8 @@ constexpr RealRule realRules[] = {
 template <typename Rule, std::size_t size>
 const Rule *ruleOf(const Rule (&rules)[size], RegisterId id)
 {
-    const Rule *const found = std::find_if(
-        std::begin(rules), std::end(rules), [id](const Rule &rule) { return rule.id == id; });
+    const Rule *const found
+        = std::find_if(std::begin(rules), std::end(rules), [id](const Rule &rule) { return rule.id == id; });
     return found != std::end(rules) ? found : nullptr;
 }
 

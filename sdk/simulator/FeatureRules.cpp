@@ -44,7 +44,8 @@ void checkLocks(const RegisterBank &bank, const RegisterInfo &info, std::size_t 
         refuse(GenTL::GC_ERR_ACCESS_DENIED, info, "is always on for the image");
 }
 
-bool isAllowed(const RegisterBank &bank, const RegisterInfo &info, const RegisterBank &wanted, std::size_t element)
+bool isAllowed(
+    const RegisterBank &bank, const RegisterInfo &info, const RegisterBank &wanted, std::size_t element)
 {
     switch (info.type) {
     case RegisterType::Text:
@@ -75,12 +76,10 @@ void scaleRegion(RegisterBank &bank, const Region &region, std::int64_t oldBinni
 {
     const std::int64_t binning = bank.integer(region.binning);
     const std::int64_t increment = integerLimits(bank, region.size).increment;
-    const auto scaled = [&](RegisterId id) {
-        return bank.integer(id) * oldBinning / binning / increment * increment;
-    };
+    const auto scaled
+        = [&](RegisterId id) { return bank.integer(id) * oldBinning / binning / increment * increment; };
     const std::int64_t sizeMax = region.size == Id::Width ? widthMax(bank) : heightMax(bank);
-    const std::int64_t size
-        = std::clamp(scaled(region.size), integerLimits(bank, region.size).min, sizeMax);
+    const std::int64_t size = std::clamp(scaled(region.size), integerLimits(bank, region.size).min, sizeMax);
     bank.setInteger(region.size, size);
     bank.setInteger(region.offset, std::min(scaled(region.offset), sizeMax - size));
 }
@@ -104,8 +103,7 @@ void writeRegister(
 {
     checkLocks(bank, info, element);
     RegisterBank changed = bank;
-    std::memcpy(
-        changed.bytes() + info.offset + element * info.elementSize(), value, info.elementSize());
+    std::memcpy(changed.bytes() + info.offset + element * info.elementSize(), value, info.elementSize());
     if (!isAllowed(bank, info, changed, element))
         refuse(GenTL::GC_ERR_INVALID_VALUE, info, "does not accept this value");
     for (const Region &region : regions)

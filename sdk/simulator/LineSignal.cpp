@@ -8,20 +8,21 @@ using Id = RegisterId;
 
 namespace {
 
-constexpr double perSecond = 1e9; // Nanoseconds.
+constexpr double nanosecondsPerSecond = 1e9; // Nanoseconds.
 
 } // namespace
 
 bool LineSignal::isHigh(std::int64_t now) const
 {
-    const double periods = static_cast<double>(now) * frequency / perSecond;
+    const double periods = static_cast<double>(now) * frequency / nanosecondsPerSecond;
     return frequency > 0 && periods - std::floor(periods) < 0.5;
 }
 
 std::int64_t LineSignal::edgesBetween(std::int64_t from, std::int64_t to) const
 {
     const auto edgesUntil = [this](std::int64_t time) {
-        return static_cast<std::int64_t>(std::floor(static_cast<double>(time) * frequency / perSecond));
+        return static_cast<std::int64_t>(
+            std::floor(static_cast<double>(time) * frequency / nanosecondsPerSecond));
     };
     return edgesUntil(to) - edgesUntil(from);
 }
@@ -30,7 +31,7 @@ std::int64_t LineSignal::edgeTime(std::int64_t activation, std::int64_t from, st
 {
     const double edgeFrequency = activation == anyEdge ? 2 * frequency : frequency;
     const double phase = activation == fallingEdge ? 0.5 : 0; // In periods.
-    const double period = perSecond / edgeFrequency;
+    const double period = nanosecondsPerSecond / edgeFrequency;
     const double first = std::ceil(static_cast<double>(from) / period - phase);
     const double time = (first + static_cast<double>(count - 1) + phase) * period;
     return std::max(from, static_cast<std::int64_t>(time));

@@ -25,8 +25,8 @@ struct Place
 Place placeAt(std::size_t offset)
 {
     const auto &table = registerTable();
-    const auto *const found = std::find_if(table.begin(), table.end(),
-        [offset](const RegisterInfo &info) { return offset < info.end(); });
+    const auto *const found = std::find_if(
+        table.begin(), table.end(), [offset](const RegisterInfo &info) { return offset < info.end(); });
     return {*found, (offset - found->offset) / found->elementSize()};
 }
 
@@ -36,8 +36,8 @@ bool isTriggerSetting(RegisterId id)
     return id == Id::TriggerMode || id == Id::TriggerSource;
 }
 
-void writeElement(RegisterFile &registers, const CameraModel &model, const Place &place,
-    std::size_t offset, const std::uint8_t *data, std::size_t size)
+void writeElement(RegisterFile &registers, const CameraModel &model, const Place &place, std::size_t offset,
+    const std::uint8_t *data, std::size_t size)
 {
     if (place.info.isIn({RegisterUse::Command, RegisterUse::LockedCommand}))
         return executeCommand(place.info, place.element, registers, model);
@@ -53,8 +53,8 @@ void writeElement(RegisterFile &registers, const CameraModel &model, const Place
 
 } // namespace
 
-void writeRegisters(RegisterFile &registers, const CameraModel &model, std::size_t offset, const void *data,
-    std::size_t size)
+void writeRegisters(
+    RegisterFile &registers, const CameraModel &model, std::size_t offset, const void *data, std::size_t size)
 {
     const auto *bytes = static_cast<const std::uint8_t *>(data);
     const std::size_t end = offset + size;

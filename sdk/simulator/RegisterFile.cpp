@@ -14,13 +14,13 @@ constexpr std::int64_t restartDuration = 1'000'000'000; // Nanoseconds.
 
 void *mapFile(int descriptor, std::size_t size)
 {
-    struct stat status{};
+    struct stat status
+    { };
     fstat(descriptor, &status);
-    const bool isLongEnough
-        = static_cast<std::size_t>(status.st_size) >= size || ftruncate(descriptor, static_cast<off_t>(size)) == 0;
-    void *const memory = isLongEnough
-        ? mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0)
-        : MAP_FAILED;
+    const bool isLongEnough = static_cast<std::size_t>(status.st_size) >= size
+        || ftruncate(descriptor, static_cast<off_t>(size)) == 0;
+    void *const memory
+        = isLongEnough ? mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0) : MAP_FAILED;
     if (memory == MAP_FAILED)
         throw GenTlError(GenTL::GC_ERR_IO,
             std::string("The registers of the simulated camera cannot be mapped: ") + std::strerror(errno));
@@ -31,8 +31,7 @@ void *mapFile(int descriptor, std::size_t size)
 
 RegisterFile::RegisterFile(
     const std::string &path, GenTL::DEVICE_ACCESS_FLAGS access, const CameraModel &model)
-    : m_file(path, access),
-      m_memory(static_cast<Memory *>(mapFile(m_file.descriptor(), sizeof(Memory))))
+    : m_file(path, access), m_memory(static_cast<Memory *>(mapFile(m_file.descriptor(), sizeof(Memory))))
 {
     const bool isSameModel = m_memory->fingerprint == fingerprint(model);
     if (isSameModel && isRestarting()) {

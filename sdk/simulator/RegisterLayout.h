@@ -179,7 +179,7 @@ const RegisterInfo &registerInfo(RegisterId id);
 /// Number of bytes that all registers use.
 constexpr std::size_t registersSize = [] {
     std::size_t size = 0;
-#define CORVIX_REGISTER_SIZE(name, type, elements, ...) \
+#define CORVIX_REGISTER_SIZE(name, type, elements, ...)                                                      \
     size += (RegisterType::type == RegisterType::Text ? 64U : 8U) * (elements);
     CORVIX_SIMULATOR_REGISTERS(CORVIX_REGISTER_SIZE)
 #undef CORVIX_REGISTER_SIZE

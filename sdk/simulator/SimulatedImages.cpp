@@ -71,7 +71,8 @@ void SimulatedImages::run(BufferQueue &queue)
         const std::optional<std::int64_t> due = m_isLost ? std::nullopt : m_sequence.nextImage();
         const bool isDue = due && *due <= now;
         if (!isDue || !takeImage(queue, now))
-            m_registers.wakeCounter().wait(wakeCounter, isDue ? now + idleWait : due.value_or(now + idleWait));
+            m_registers.wakeCounter().wait(
+                wakeCounter, isDue ? now + idleWait : due.value_or(now + idleWait));
     }
 }
 

@@ -68,8 +68,8 @@ std::unique_ptr<OpenCamera> SimulatedSource::openCamera(
     const std::optional<CameraModel> model = findModel(*m_file->current(), interfaceId, deviceId);
     if (!model)
         throw GenTlError(GenTL::GC_ERR_INVALID_ID, "The camera is not connected any more");
-    return std::make_unique<SimulatedCamera>(cameraFilePath(interfaceId, deviceId), access, *model,
-        [file = m_file, interfaceId, deviceId] {
+    return std::make_unique<SimulatedCamera>(
+        cameraFilePath(interfaceId, deviceId), access, *model, [file = m_file, interfaceId, deviceId] {
             return findModel(*file->current(), interfaceId, deviceId).has_value();
         });
 }

@@ -57,7 +57,8 @@ std::optional<Integer> optionalInteger(
     const auto value = object.find(key);
     if (value == object.end())
         return std::nullopt;
-    const bool isInRange = value->is_number_unsigned() && value->get<std::uint64_t>() >= static_cast<std::uint64_t>(min)
+    const bool isInRange = value->is_number_unsigned()
+        && value->get<std::uint64_t>() >= static_cast<std::uint64_t>(min)
         && value->get<std::uint64_t>() <= static_cast<std::uint64_t>(max);
     if (!isInRange)
         throw std::runtime_error(place + ": \"" + key + "\" is not an integer from " + std::to_string(min)
@@ -86,8 +87,8 @@ SensorKeys parseSensor(const Json &object, const std::string &place)
     keys.isColor = optionalBoolean(object, "color", place);
     keys.isLineScan = optionalBoolean(object, "lineScan", place);
     keys.taps = optionalInteger(object, "taps", 1, 8, place);
-    keys.seed = optionalInteger<std::uint64_t>(
-        object, "seed", 0, std::numeric_limits<std::uint64_t>::max(), place);
+    keys.seed
+        = optionalInteger<std::uint64_t>(object, "seed", 0, std::numeric_limits<std::uint64_t>::max(), place);
     return keys;
 }
 
