@@ -24,7 +24,8 @@
 /// buffer), chunk-order big, technology GEV, interval 2000 (microseconds between images), images NUMBER (then
 /// none any more), frame-ids NUMBER…, streams 1, min-buffers 2, alignment 1, event-size 16, max-read BYTES,
 /// short-read 0 (bytes that are missing), behind-description 0 (NULs), url URL…, no-urls, stale-payload
-/// (until TLParamsLocked is 1), start-needs-lock, incomplete-infos-fail.
+/// (until TLParamsLocked is 1), start-needs-lock, free-running
+/// (no AcquisitionStart is needed), incomplete-infos-fail.
 ///
 /// The producer writes its calls to "name.log". The description of the cameras is in "name.xml".
 namespace QuirkScript {

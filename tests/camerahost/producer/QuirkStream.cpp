@@ -116,7 +116,8 @@ void acquire(Stream &stream)
     const auto interval = std::chrono::microseconds(QuirkScript::number("interval", 2000));
     while (!changed.wait_for(lock, interval, isStopped)) {
         const bool isDone = stream.images >= QuirkScript::number("images", ~std::uint64_t(0));
-        if (!stream.camera->isAcquiring || isDone || isGone(stream.camera->id))
+        const bool isStarted = stream.camera->isAcquiring || QuirkScript::has("free-running");
+        if (!isStarted || isDone || isGone(stream.camera->id))
             continue;
         lock.unlock();
         const std::string action = QuirkScript::actionFor("image");
