@@ -1,6 +1,5 @@
 #include "sdk/cvxcpp/CameraObject.h"
 
-#include "CvxCPP/Device.h"
 #include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/TextValue.h"
 #include "sdk/cvxcpp/TransportLayerName.h"
@@ -58,9 +57,9 @@ CvxError CameraObject::GetInterface(std::shared_ptr<Interface> &iface) const
     return CvxErrorSuccess;
 }
 
-CvxResult CameraObject::Open(CvxAccess, std::shared_ptr<Device> &)
+CvxResult CameraObject::Open(CvxAccess access, std::shared_ptr<Device> &opened)
 {
-    return {CvxErrorNotAvailable, "not yet"};
+    return m_interface->openDevice(device(), access, opened);
 }
 
 CvxError CameraObject::readString(const std::string &value, char *buffer, unsigned &size) const

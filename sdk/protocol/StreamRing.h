@@ -76,6 +76,9 @@ public:
     // pop() takes the oldest filled buffer; several threads may call it. The result may be any number,
     // because the host may have damaged the memory.
 
+    /// Returns false if the queue contains more entries than it can have, so that the host has damaged it.
+    bool isPlausible() const;
+
     /// Waits until the queue is not empty or wakeProgram() is called, at most for `timeout`. May return
     /// early. If `signals` differs from the number of calls of wakeProgram(), returns at once.
     void waitForImage(Milliseconds timeout, std::uint32_t signals);
