@@ -17,7 +17,7 @@
 /// Actions of every function: error CODE, crash, hang, slow MILLISECONDS and the others of
 /// tests/sdk/producer/Misbehaviour.cpp. Info functions also accept "value VALUE" and "bytes LENGTH" (of the
 /// value), "image" accepts cut-short, twice (one buffer in two events), foreign (an additional event with an
-/// unknown handle) and silent (no event).
+/// unknown handle), silent (no event) and scribble (damages the shared memory).
 ///
 /// Settings, with their defaults: cameras A1 (several IDs are possible), gone ID (this camera is unplugged),
 /// width 64, height 48, format 0x01080001, image-offset 0, line-padding 0 (bytes), parts 0 (of a multi-part
