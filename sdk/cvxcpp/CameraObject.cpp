@@ -37,6 +37,11 @@ CvxError CameraObject::GetSerialNumber(char *buffer, unsigned &size) const
     return readString(device().serial, buffer, size);
 }
 
+CvxError CameraObject::GetUserName(char *buffer, unsigned &size) const
+{
+    return readString(device().userName, buffer, size);
+}
+
 CvxError CameraObject::GetInterfaceType(CvxTransportLayerType &type) const
 {
     if (!m_interface->isRunning())

@@ -24,6 +24,7 @@ struct ImageRecord
     std::uint64_t imageOffset = 0; ///< Start of the picture in the buffer.
     std::uint64_t imageSize = 0; ///< Received bytes of the picture.
     std::uint64_t timestamp = 0; ///< Nanoseconds.
+    std::uint64_t receivedAt = 0; ///< Nanoseconds of CLOCK_MONOTONIC after EventGetData returned the buffer.
     std::uint64_t frameId = 0;
     std::uint32_t width = 0;
     std::uint32_t height = 0;

@@ -1,0 +1,258 @@
+#include "sdk/simulator/SceneRenderer.h"
+
+#include "sdk/simulator/SceneDemosaic.h"
+#include "sdk/simulator/SceneKernels.h"
+#include "sdk/simulator/TestPattern.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr double flatFieldReflectance = 0.8;
+
+/// Returns the index of the sensor pixel that is part `part` of a binned pixel. Pixels of a colour mosaic are
+/// combined with the next ones of their colour.
+int sensorIndex(int pixel, int part, int binning, int step)
+{
+    return pixel / step * step * binning + pixel % step + part * step;
+}
+
+bool isLiveWithoutOverlay(TestPattern pattern)
+{
+    return pattern == TestPattern::Off;
+}
+
+bool isLive(TestPattern pattern)
+{
+    return isLiveWithoutOverlay(pattern) || pattern == TestPattern::FrameCounter;
+}
+
+/// Returns the nearest line of the same colour inside the picture.
+int mirroredLine(int y, int height)
+{
+    if (y < 0)
+        return -y;
+    return y < height ? y : 2 * height - 2 - y;
+}
+} // namespace
+
+std::size_t imageSize(const RenderSettings &settings)
+{
+    return pixelFormat(settings.pixelFormat).lineSize(settings.width)
+        * static_cast<std::size_t>(settings.height);
+}
+
+SceneRenderer::SceneRenderer(const SensorModel &model)
+    : m_model(model),
+      m_step(model.isColor ? 2 : 1),
+      m_flaws(model),
+      m_canvas(model, m_flaws),
+      m_readout(model, m_flaws),
+      m_evenScene(static_cast<std::size_t>(model.width),
+          static_cast<std::uint16_t>(std::lround(std::sqrt(flatFieldReflectance) * SceneCanvas::fullScale)))
+{ }
+
+PictureSize SceneRenderer::pictureSize(const RenderSettings &settings) const
+{
+    const int width = m_model.width / (m_step * settings.binningX) * m_step;
+    if (m_model.isLineScan)
+        return {width, settings.height};
+    return {width, m_model.height / (m_step * settings.binningY) * m_step};
+}
+
+SceneRenderer::Shift SceneRenderer::sceneShift(std::uint64_t frameNumber) const
+{
+    const int radius = SceneCanvas::margin(m_model);
+    if (radius == 0)
+        return {0, 0};
+    // The scene moves on a circle, by about one pixel from picture to picture.
+    const double angle = static_cast<double>(frameNumber) / radius;
+    const auto rounded
+        = [&](double position) { return static_cast<int>(std::lround(position / m_step)) * m_step; };
+    return {rounded(radius * std::cos(angle)), rounded(radius * std::sin(angle))};
+}
+
+void SceneRenderer::render(const RenderSettings &settings, std::uint8_t *buffer)
+{
+    const PixelFormat &format = pixelFormat(settings.pixelFormat);
+    m_size = pictureSize(settings);
+    m_quantized.resize(static_cast<std::size_t>(settings.width) * 3);
+    if (!isLive(settings.testPattern)) {
+        for (int y = 0; y < settings.height; ++y, buffer += format.lineSize(settings.width)) {
+            testPatternLine(settings, format, m_size, settings.offsetY + y, m_quantized.data());
+            packLine(format, m_quantized.data(), settings.width, buffer);
+        }
+        return;
+    }
+    prepareGamma(settings.gamma, format);
+    if (format.colors == PixelFormat::Colors::Rgb)
+        renderRgb(settings, format, buffer);
+    else
+        renderMosaic(settings, format, buffer);
+}
+
+void SceneRenderer::prepare(const RenderSettings &settings, int x, int width, int y, int height)
+{
+    m_firstX = x;
+    m_columnCount = width;
+    m_columns = sensorRange(x, width, m_size.width, settings.binningX, settings.isReversedX);
+    m_sensorLine.resize(static_cast<std::size_t>(m_columns.count));
+    m_pictureLine.resize(static_cast<std::size_t>(width) * 3);
+
+    const int mosaicX = m_model.isColor && settings.isReversedX ? 1 : 0;
+    const int mosaicY = m_model.isColor && settings.isReversedY ? 1 : 0;
+    m_readout.beginPicture(settings, m_columns.first, m_columns.count, mosaicX, mosaicY);
+    if (settings.target != SceneTarget::Chart)
+        return;
+    SceneArea area{m_columns.first, 0, m_columns.count, SceneCanvas::lineScanPeriod(m_model)};
+    if (!m_model.isLineScan) {
+        const SensorRange lines
+            = sensorRange(y, height, m_size.height, settings.binningY, settings.isReversedY);
+        const int margin = SceneCanvas::margin(m_model);
+        area = {m_columns.first - margin, lines.first - margin, m_columns.count + 2 * margin,
+            lines.count + 2 * margin};
+    }
+    m_canvas.prepare({settings.focusPosition, mosaicX, mosaicY}, area);
+    m_shift = sceneShift(settings.frameNumber);
+}
+
+SceneRenderer::SensorRange SceneRenderer::sensorRange(
+    int first, int count, int size, int binning, bool isReversed) const
+{
+    const int firstPixel = isReversed ? size - first - count : first;
+    const int begin = firstPixel / m_step * m_step * binning;
+    const int end = ((firstPixel + count - 1) / m_step + 1) * m_step * binning;
+    return {begin, end - begin};
+}
+
+void SceneRenderer::renderMosaic(
+    const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
+{
+    prepare(settings, settings.offsetX, settings.width, settings.offsetY, settings.height);
+    for (int y = 0; y < settings.height; ++y, buffer += format.lineSize(settings.width)) {
+        readPictureLine(settings, settings.offsetY + y, m_pictureLine.data());
+        finishLine(settings, format, y, m_pictureLine.data(), buffer);
+    }
+}
+
+void SceneRenderer::renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
+{
+    const int left = std::max(0, settings.offsetX - 1);
+    const int right = std::min(m_size.width, settings.offsetX + settings.width + 1);
+    const int top = std::max(0, settings.offsetY - 1);
+    const int bottom = std::min(m_size.height, settings.offsetY + settings.height + 1);
+    prepare(settings, left, right - left, top, bottom - top);
+    for (MosaicLine &line : m_mosaicLines)
+        line.y = -1;
+    for (int y = 0; y < settings.height; ++y, buffer += format.lineSize(settings.width)) {
+        const int line = settings.offsetY + y;
+        const float *above = mosaicLine(settings, mirroredLine(line - 1, m_size.height));
+        const float *center = mosaicLine(settings, line);
+        const float *below = mosaicLine(settings, mirroredLine(line + 1, m_size.height));
+        demosaicLine(above, center, below, settings.width, line % 2 == 0, m_pictureLine.data());
+        finishLine(settings, format, y, m_pictureLine.data(), buffer);
+    }
+}
+
+const float *SceneRenderer::mosaicLine(const RenderSettings &settings, int y)
+{
+    MosaicLine &line = m_mosaicLines[static_cast<std::size_t>(y % 3)];
+    const auto width = static_cast<std::size_t>(settings.width);
+    if (line.y != y) {
+        line.y = y;
+        line.values.resize(width + 2);
+        const int missing = m_firstX - (settings.offsetX - 1); // Pixels that lie outside the picture.
+        readPictureLine(settings, y, line.values.data() + missing);
+        if (missing > 0)
+            line.values[0] = line.values[2];
+        if (m_firstX + m_columnCount < settings.offsetX + settings.width + 1)
+            line.values[width + 1] = line.values[width - 1];
+    }
+    return line.values.data() + 1;
+}
+
+void SceneRenderer::finishLine(const RenderSettings &settings, const PixelFormat &format, int y,
+    const float *values, std::uint8_t *buffer)
+{
+    const int count = settings.width * (format.colors == PixelFormat::Colors::Rgb ? 3 : 1);
+    const auto scale = static_cast<float>(std::ldexp(1, format.depth - 12));
+    const auto black = static_cast<float>(settings.blackLevel);
+    quantize(values, count, scale, black * scale, static_cast<float>(format.maxValue()), m_quantized.data());
+    if (!m_gammaTable.empty())
+        for (int i = 0; i < count; ++i)
+            m_quantized[static_cast<std::size_t>(i)] = m_gammaTable[m_quantized[static_cast<std::size_t>(i)]];
+    if (settings.testPattern == TestPattern::FrameCounter)
+        addFrameCounter(settings, format, y, m_quantized.data());
+    packLine(format, m_quantized.data(), settings.width, buffer);
+}
+
+void SceneRenderer::readPictureLine(const RenderSettings &settings, int y, float *values)
+{
+    if (settings.binningX > 1 || (settings.binningY > 1 && !m_model.isLineScan))
+        readBinnedLine(settings, y, values);
+    else if (m_model.isLineScan)
+        readSensorLine(settings, 0, y, values);
+    else
+        readSensorLine(settings, settings.isReversedY ? m_size.height - 1 - y : y, y, values);
+    if (settings.isReversedX)
+        std::reverse(values, values + m_columnCount);
+}
+
+void SceneRenderer::readBinnedLine(const RenderSettings &settings, int y, float *values)
+{
+    const int binningY = m_model.isLineScan ? 1 : settings.binningY;
+    const int line = settings.isReversedY && !m_model.isLineScan ? m_size.height - 1 - y : y;
+    const int first = settings.isReversedX ? m_size.width - m_firstX - m_columnCount : m_firstX;
+    std::fill_n(values, m_columnCount, 0.0F);
+    for (int part = 0; part < binningY; ++part) {
+        const int sensorLine = m_model.isLineScan ? 0 : sensorIndex(line, part, binningY, m_step);
+        readSensorLine(settings, sensorLine, m_model.isLineScan ? y : sensorLine, m_sensorLine.data());
+        for (int i = 0; i < m_columnCount; ++i)
+            for (int column = 0; column < settings.binningX; ++column)
+                values[i] += m_sensorLine[static_cast<std::size_t>(
+                    sensorIndex(first + i, column, settings.binningX, m_step) - m_columns.first)];
+    }
+    if (settings.binningMode == BinningMode::Sum)
+        return;
+    const float share = 1 / static_cast<float>(settings.binningX * binningY);
+    for (int i = 0; i < m_columnCount; ++i)
+        values[i] *= share;
+}
+
+void SceneRenderer::readSensorLine(
+    const RenderSettings &settings, int sensorLine, int pictureLine, float *values)
+{
+    const std::uint16_t *scene = m_evenScene.data();
+    if (settings.target == SceneTarget::Chart && m_model.isLineScan)
+        scene = m_canvas.line(m_columns.first, lineScanRow(settings, pictureLine));
+    else if (settings.target == SceneTarget::Chart)
+        scene = m_canvas.line(m_columns.first + m_shift.x, sensorLine + m_shift.y);
+    m_readout.readLine(scene, sensorLine, pictureLine, values);
+}
+
+int SceneRenderer::lineScanRow(const RenderSettings &settings, int line) const
+{
+    const std::uint64_t key
+        = scrambled(m_model.seed + settings.frameNumber) + static_cast<std::uint64_t>(line);
+    // The mean of two numbers is a sufficient bell curve here; its standard deviation is 0.2.
+    const double jitter = (uniformRandom(key) + uniformRandom(~key) - 1) / 0.408;
+    const double position = settings.linePosition + settings.lineStep * line + settings.lineJitter * jitter;
+    const double period = SceneCanvas::lineScanPeriod(m_model);
+    const double row = std::floor(position - std::floor(position / period) * period);
+    return std::min(static_cast<int>(row), SceneCanvas::lineScanPeriod(m_model) - 1);
+}
+
+void SceneRenderer::prepareGamma(double gamma, const PixelFormat &format)
+{
+    if (gamma == m_gamma && format.depth == m_gammaDepth)
+        return;
+    m_gamma = gamma;
+    m_gammaDepth = format.depth;
+    m_gammaTable.clear();
+    if (gamma == 1)
+        return;
+    const double maxValue = format.maxValue();
+    for (int value = 0; value <= format.maxValue(); ++value)
+        m_gammaTable.push_back(
+            static_cast<std::uint16_t>(std::lround(maxValue * std::pow(value / maxValue, gamma))));
+}

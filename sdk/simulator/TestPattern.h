@@ -1,0 +1,14 @@
+#pragma once
+
+#include "sdk/simulator/PixelPacking.h"
+#include "sdk/simulator/RenderSettings.h"
+
+#include <cstdint>
+
+/// Writes one line of a test pattern other than Off and FrameCounter. `y` is the line in the picture without
+/// a region.
+void testPatternLine(const RenderSettings &settings, const PixelFormat &format, PictureSize size, int y,
+    std::uint16_t *values);
+
+/// Writes the part of the frame number that lies in line `y` of the region.
+void addFrameCounter(const RenderSettings &settings, const PixelFormat &format, int y, std::uint16_t *values);
