@@ -75,7 +75,7 @@ void SceneChart::addCard(Card card, float height)
     m_shapes.push_back(
         textLine(middle - 28 * unit, top + 80 * unit, 2.6F * unit, "0123456789 ABCDEFGHIJ", ink));
     m_shapes.push_back(
-        textLine(middle + 20 * unit, top + 80.6F * unit, 1.4F * unit, "KLMNOPQRSTUVWXYZ", ink));
+        textLine(middle + 20.3F * unit, top + 81.4F * unit, 0.56F * unit, "KLMNOPQRSTUVWXYZ", ink));
 
     const float columnWidth = 18 * unit;
     const float rightColumn = left + width - 3 * unit - columnWidth;
@@ -147,7 +147,7 @@ void SceneChart::addGratings(float left, float top, float width, float height)
     m_shapes.push_back(box(left, top, width, height, paper));
     for (std::size_t i = 0; i < periods.size(); ++i) {
         // Bars of even periods are aligned to the pixels, or the finest ones would be grey.
-        const float x = std::floor(left + pitch * static_cast<float>(i)) + 0.5F;
+        const float x = std::floor(left + pitch * static_cast<float>(i)) - 0.5F;
         m_shapes.push_back(verticalBars(x, top, pitch * 0.9F, height, periods[i], ink));
     }
 }

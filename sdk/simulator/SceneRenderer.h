@@ -56,6 +56,7 @@ private:
     };
 
     void prepare(const RenderSettings &settings, int x, int width, int y, int height);
+    void renderPattern(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
     void renderMosaic(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
     void renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
     void finishLine(const RenderSettings &settings, const PixelFormat &format, int y, const float *values,
@@ -73,7 +74,7 @@ private:
     const SensorFlaws m_flaws;
     SceneCanvas m_canvas;
     SceneReadout m_readout;
-    std::vector<std::uint16_t> m_evenScene; // A line of the flat field.
+    std::vector<std::uint8_t> m_evenScene; // A line of the flat field.
 
     // Of the picture that is being rendered.
     Shift m_shift{};
