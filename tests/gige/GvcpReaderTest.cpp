@@ -93,13 +93,13 @@ TEST(GvcpReader, lostCommandIsRepeated)
 
 TEST(GvcpReader, busyCameraIsWaitedFor)
 {
-    const RegisterResponder *responder = nullptr;
+    std::atomic<const RegisterResponder *> responder{nullptr};
     const RegisterResponder camera([&](const Bytes &command, const Send &send) {
         constexpr std::uint16_t pendingAnswer = 0x0089;
         const Bytes tenSeconds{0, 0, 0x27, 0x10};
         send(RegisterResponder::datagram(
             0, pendingAnswer, static_cast<std::uint16_t>(number(command, 6, 2)), tenSeconds));
-        EXPECT_FALSE(responder->hasCommandWithin(2 * GvcpReader::answerTimeout));
+        EXPECT_FALSE(responder.load()->hasCommandWithin(2 * GvcpReader::answerTimeout));
         send(goodAnswer(command));
     });
     responder = &camera;
