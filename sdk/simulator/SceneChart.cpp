@@ -127,22 +127,20 @@ void SceneChart::addColorPatches(float left, float top, float width, float heigh
 
 void SceneChart::addBarGroups(float left, float top, float width, float height)
 {
-    // Groups of vertical and horizontal bars, each smaller than the one above.
+    // Groups of three vertical and three horizontal bars, each smaller than the one above.
     m_shapes.push_back(box(left, top, width, height, paper));
-    float size = width * 0.4F;
-    for (float y = top + height * 0.03F; size >= 4; size *= 0.72F) {
-        const float period = size / 3;
+    float y = top + height * 0.03F;
+    for (float size = width * 0.4F; size >= 4 && y + size <= top + height; size *= 0.72F) {
+        const float period = size / 2.5F;
         m_shapes.push_back(verticalBars(left + width * 0.03F, y, size, size, period, ink));
         m_shapes.push_back(horizontalBars(left + width * 0.53F, y, size, size, period, ink));
         y += size * 1.15F;
-        if (y + size * 0.72F > top + height)
-            break;
     }
 }
 
 void SceneChart::addGratings(float left, float top, float width, float height)
 {
-    constexpr std::array<float, 8> periods{16, 12, 8, 6, 5, 4, 3, 2}; // Pixels.
+    constexpr std::array<float, 8> periods{24, 16, 12, 8, 6, 5, 4, 3}; // Pixels.
     const float pitch = width / static_cast<float>(periods.size());
     m_shapes.push_back(box(left, top, width, height, paper));
     for (std::size_t i = 0; i < periods.size(); ++i) {

@@ -118,14 +118,18 @@ float barCoverage(float position, float period)
 void coverVerticalBars(const SceneShape &shape, float, float x, int count, float *coverage)
 {
     const float left = shape.left;
+    const float right = shape.right();
     const float period = shape.parameter;
-    for (int i = 0; i < count; ++i)
-        coverage[i] = barCoverage(x + static_cast<float>(i) - left, period);
+    for (int i = 0; i < count; ++i) {
+        const float column = x + static_cast<float>(i);
+        coverage[i] = barCoverage(column - left, period) * clampedToShare(right - column);
+    }
 }
 
 void coverHorizontalBars(const SceneShape &shape, float y, float, int count, float *coverage)
 {
-    std::fill_n(coverage, count, barCoverage(y - shape.top, shape.parameter));
+    const float bar = barCoverage(y - shape.top, shape.parameter) * clampedToShare(shape.bottom() - y);
+    std::fill_n(coverage, count, bar);
 }
 
 void coverText(const SceneShape &shape, float y, float x, int count, float *coverage)
