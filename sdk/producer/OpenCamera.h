@@ -98,8 +98,8 @@ public:
     /// was delivered or given back. If `isImmediate`, an image in progress is not waited for.
     virtual void stop(bool isImmediate) = 0;
 
-    /// Called after buffers were put into the input pool while the source is started. A call may still come
-    /// during stop() and shortly after it.
+    /// Called after buffers were put into the input pool while the source is started. A call may also come
+    /// during start() and stop(), and shortly after stop().
     virtual void bufferQueued() { }
 
     /// Returns the number of images that the source has begun since it was created, and the number of images
