@@ -106,8 +106,9 @@ private:
                     number("bufferSize", ScriptedStream::bufferSize), 64, ScriptedStream::chunkFeatures()});
         } else if (const auto start = message.content<StartStreamRequest>()) {
             log(std::string("startStream ") + (start->onlyNewest ? "newest" : "every"));
+            const auto descriptors = m_channel.takeDescriptors();
             if (!misbehaves("startStream")) {
-                if (!m_stream.start(*start, m_channel.takeDescriptors()))
+                if (!m_stream.start(*start, descriptors))
                     std::abort();
                 reply(StreamStartedReply());
             }
