@@ -50,8 +50,9 @@ void FailingDevice::close()
 {
     image = nullptr;
     stream = nullptr;
-    if (device)
+    if (device) {
         EXPECT_TRUE(device->Close());
+    }
     device = nullptr;
     devices = nullptr;
 }
