@@ -4,6 +4,7 @@
 #include "tests/protocol/WaitForLine.h"
 #include "tests/sdk/support/Waiting.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -63,16 +64,17 @@ protected:
 TEST_F(HostServer, writtenNodeAndItsDependentsAreReportedAfterTheReply)
 {
     open();
-    send(WriteValueRequest{"Width", std::int64_t(32)});
+    send(WriteValueRequest{"TLParamsLocked", std::int64_t(1)});
     EXPECT_TRUE(receive<NodeValueReply>());
     const auto changed = receive<NodesChangedNotice>();
     ASSERT_TRUE(changed && !changed->names.empty());
-    EXPECT_EQ(changed->names.front(), "Width");
+    EXPECT_EQ(changed->names.front(), "TLParamsLocked");
+    EXPECT_EQ(std::count(changed->names.begin(), changed->names.end(), "Width"), 1) << "is locked now";
 
-    send(WriteValueRequest{"Width", std::int64_t(-1)});
+    send(WriteValueRequest{"TLParamsLocked", std::int64_t(-1)});
     EXPECT_TRUE(receive<RequestFailedReply>());
-    send(ReadValueRequest{"Width"}); // Its reply follows at once: nothing was changed.
-    EXPECT_EQ(receive<NodeValueReply>()->value, NodeValue(std::int64_t(32)));
+    send(ReadValueRequest{"TLParamsLocked"}); // Its reply follows at once: nothing was changed.
+    EXPECT_EQ(receive<NodeValueReply>()->value, NodeValue(std::int64_t(1)));
 }
 
 TEST_F(HostServer, statesOfUnknownNodesAreLeftOut)
