@@ -20,6 +20,10 @@ std::string hexadecimal(std::uint64_t number)
     return text;
 }
 
+// Locked while a handler is connected, because the thread that calls the handler runs already. GLib has a
+// lock too, but ThreadSanitizer does not know that lock.
+std::mutex connectionMutex;
+
 /// Returns the size for a call of libaravis.
 guint32 toAravisSize(std::size_t size)
 {
@@ -45,6 +49,7 @@ AravisCamera::AravisCamera(GObjectPointer<ArvDevice> device, std::string name, C
       m_device(std::move(device)),
       m_images(*m_device, byteOrder, [this] { prepareStream(); })
 {
+    const std::lock_guard lock(connectionMutex);
     g_signal_connect(m_device.get(), "control-lost", G_CALLBACK(&AravisCamera::handleControlLost), this);
 }
 
@@ -127,6 +132,8 @@ void AravisCamera::fail(const AravisError &error, std::uint64_t address, const c
 /// Called by a thread of libaravis, or by the thread that waits for a register.
 void AravisCamera::handleControlLost(ArvDevice *, void *self)
 {
+    connectionMutex.lock();
+    connectionMutex.unlock(); // The object is complete now.
     static_cast<AravisCamera *>(self)->noteLoss();
 }
 

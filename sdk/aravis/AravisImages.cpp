@@ -4,6 +4,7 @@
 #include "sdk/aravis/DeliveredBuffer.h"
 
 #include <chrono>
+#include <sys/resource.h>
 #include <utility>
 
 namespace {
@@ -12,13 +13,24 @@ namespace {
 /// libaravis gives up after 0.1 seconds without a packet.
 constexpr std::chrono::milliseconds lastImageTimeout{500};
 
+/// The receive buffer of a network stream, in bytes. The system reduces it to what net.core.rmem_max permits.
+constexpr int socketBufferSize = 32 << 20;
+
 /// Sets the options that only a network stream has.
 void setUp(ArvStream &stream)
 {
     if (!ARV_IS_GV_STREAM(&stream))
         return;
     g_object_set(&stream, "packet-resend", ARV_GV_STREAM_PACKET_RESEND_ALWAYS, "socket-buffer",
-        ARV_GV_STREAM_SOCKET_BUFFER_AUTO, nullptr);
+        ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size", socketBufferSize, nullptr);
+}
+
+/// Lets the calling thread run before others, because packets that nobody receives in time are lost. Without
+/// the permission of the system, nothing changes.
+void raisePriority()
+{
+    constexpr int callingThread = 0, niceness = -10;
+    setpriority(PRIO_PROCESS, callingThread, niceness);
 }
 
 } // namespace
@@ -52,11 +64,13 @@ void AravisImages::start(BufferQueue &queue)
     if (!stream)
         throw error.toGenTl("The stream cannot be started");
     setUp(*stream);
+    const FilledImage configured = configuredImage(m_device);
 
     const std::lock_guard lock(m_mutex);
     m_isStreaming = true;
     m_stream = std::move(stream);
     m_queue = &queue;
+    m_configured = configured;
     m_gaps = {};
     m_packetsWithoutBuffer = 0;
     pushFreeBuffers();
@@ -104,6 +118,8 @@ std::uint64_t AravisImages::lostImages() const
 void AravisImages::handleEvent(void *self, ArvStreamCallbackType type, ArvBuffer *buffer)
 {
     auto *const images = static_cast<AravisImages *>(self);
+    if (type == ARV_STREAM_CALLBACK_TYPE_INIT)
+        raisePriority();
     if (type == ARV_STREAM_CALLBACK_TYPE_START_BUFFER)
         images->bufferStarted();
     if (type == ARV_STREAM_CALLBACK_TYPE_BUFFER_DONE)
@@ -121,8 +137,8 @@ void AravisImages::bufferDone(ArvBuffer *buffer)
     std::unique_lock lock(m_mutex);
     const auto taken = m_taken.extract(buffer);
     BufferQueue *const queue = m_queue;
-    const FilledImage image = toFilledImage(buffer, taken.mapped().size, m_byteOrder);
-    const std::uint64_t underruns = countMissing(image.frameId);
+    const FilledImage image = toFilledImage(buffer, taken.mapped().size, m_byteOrder, m_configured);
+    const std::uint64_t underruns = takeUnderruns(image.frameId);
     // libaravis has put the buffer into its output queue. A stream that ends releases this queue itself.
     const GObjectPointer<ArvBuffer> output(
         m_isStreaming ? arv_stream_try_pop_buffer(m_stream.get()) : nullptr);
@@ -147,17 +163,16 @@ void AravisImages::pushFreeBuffers()
     }
 }
 
-/// Counts the images that are missing before this one. Returns how many of them found no free buffer.
-/// libaravis counts the packets of such images. Called with the mutex locked.
-std::uint64_t AravisImages::countMissing(std::uint64_t frameId)
+/// Returns how many images are missing before this one because there was no free buffer. Counts images that
+/// are missing for another reason as lost. Called with the mutex locked.
+std::uint64_t AravisImages::takeUnderruns(std::uint64_t frameId)
 {
     const std::uint64_t missing = m_gaps.missingBefore(frameId);
+    guint64 packetsWithoutBuffer = m_packetsWithoutBuffer; // libaravis does not count whole images.
+    if (m_isStreaming)
+        arv_stream_get_statistics(m_stream.get(), nullptr, nullptr, &packetsWithoutBuffer);
+    if (std::exchange(m_packetsWithoutBuffer, packetsWithoutBuffer) != packetsWithoutBuffer)
+        return missing;
     m_lost += missing;
-    if (!m_isStreaming)
-        return 0;
-    guint64 packetsWithoutBuffer = 0;
-    arv_stream_get_statistics(m_stream.get(), nullptr, nullptr, &packetsWithoutBuffer);
-    const bool hasUnderrun
-        = std::exchange(m_packetsWithoutBuffer, packetsWithoutBuffer) != packetsWithoutBuffer;
-    return hasUnderrun ? missing : 0;
+    return 0;
 }

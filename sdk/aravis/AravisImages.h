@@ -31,7 +31,7 @@ private:
     void bufferStarted();
     void bufferDone(ArvBuffer *buffer);
     void pushFreeBuffers();
-    std::uint64_t countMissing(std::uint64_t frameId);
+    std::uint64_t takeUnderruns(std::uint64_t frameId);
 
     ArvDevice &m_device;
     const ChunkByteOrder m_byteOrder;
@@ -48,6 +48,7 @@ private:
     std::uint64_t m_started = 0; // Images.
     std::uint64_t m_done = 0; // Of the started images.
     std::condition_variable m_imageDone;
+    FilledImage m_configured; // At the last start.
     FrameGaps m_gaps;
     std::uint64_t m_lost = 0; // Images.
     std::uint64_t m_packetsWithoutBuffer = 0; // As of the previous image.

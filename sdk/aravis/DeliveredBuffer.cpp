@@ -1,5 +1,7 @@
 #include "sdk/aravis/DeliveredBuffer.h"
 
+#include "sdk/aravis/AravisError.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -74,32 +76,61 @@ void describePicture(ArvBuffer *buffer, FilledImage &image)
 /// Returns the bytes up to the end of the picture.
 std::size_t pictureEnd(const FilledImage &image)
 {
-    if (image.width == 0)
-        return 0;
     const std::size_t bitsPerPixel = image.pixelFormat >> 16 & 0xFF; // This is so in every PFNC code.
-    const std::size_t lineSize = (image.width * bitsPerPixel + 7) / 8 + image.paddingX;
-    return image.imageOffset + image.height * lineSize + image.paddingY;
+    return image.imageOffset + (image.width * image.height * bitsPerPixel + 7) / 8;
+}
+
+std::uint64_t featureValue(ArvDevice &device, const char *feature)
+{
+    AravisError error;
+    const gint64 value = arv_device_get_integer_feature_value(&device, feature, error.receiver());
+    return error.isSet() || value < 0 ? 0 : static_cast<std::uint64_t>(value);
+}
+
+/// Describes an incomplete buffer. libaravis neither describes the picture nor reports which parts of it have
+/// arrived.
+FilledImage incompleteImage(const FilledImage &configured, std::size_t bufferSize)
+{
+    FilledImage image = configured;
+    image.isIncomplete = true;
+    image.dataSize = pictureEnd(image);
+    image.sizeFilled = std::min(image.dataSize, bufferSize);
+    return image;
+}
+
+FilledImage completeImage(ArvBuffer *buffer, ChunkByteOrder byteOrder)
+{
+    FilledImage image;
+    const auto *const data
+        = static_cast<const std::uint8_t *>(arv_buffer_get_data(buffer, &image.sizeFilled));
+    image.dataSize = image.sizeFilled;
+    describePicture(buffer, image);
+    if (arv_buffer_has_chunks(buffer))
+        image.chunks = parseChunks(data, image.sizeFilled, byteOrder);
+    return image;
 }
 
 } // namespace
 
-FilledImage toFilledImage(ArvBuffer *buffer, std::size_t bufferSize, ChunkByteOrder byteOrder)
+FilledImage configuredImage(ArvDevice &device)
 {
     FilledImage image;
+    image.width = featureValue(device, "Width");
+    image.height = featureValue(device, "Height");
+    image.offsetX = featureValue(device, "OffsetX");
+    image.offsetY = featureValue(device, "OffsetY");
+    image.pixelFormat = featureValue(device, "PixelFormat");
+    return image;
+}
+
+FilledImage toFilledImage(
+    ArvBuffer *buffer, std::size_t bufferSize, ChunkByteOrder byteOrder, const FilledImage &configured)
+{
+    const bool isComplete = arv_buffer_get_status(buffer) == ARV_BUFFER_STATUS_SUCCESS;
+    FilledImage image
+        = isComplete ? completeImage(buffer, byteOrder) : incompleteImage(configured, bufferSize);
     image.frameId = arv_buffer_get_frame_id(buffer);
     image.timestamp = arv_buffer_get_timestamp(buffer);
     image.payloadType = toGenTl(arv_buffer_get_payload_type(buffer));
-    image.isIncomplete = arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS;
-    describePicture(buffer, image);
-    if (image.isIncomplete) {
-        image.dataSize = pictureEnd(image);
-        image.sizeFilled = std::min(image.dataSize, bufferSize);
-        return image;
-    }
-    const auto *const data
-        = static_cast<const std::uint8_t *>(arv_buffer_get_data(buffer, &image.sizeFilled));
-    image.dataSize = image.sizeFilled;
-    if (arv_buffer_has_chunks(buffer))
-        image.chunks = parseChunks(data, image.sizeFilled, byteOrder);
     return image;
 }

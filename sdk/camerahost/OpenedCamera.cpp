@@ -29,22 +29,31 @@ std::optional<OpenedCamera::Failure> OpenedCamera::open(
     return std::nullopt;
 }
 
-/// Builds the node map. A camera whose description cannot be used has no features, but may stream. Returns a
-/// failure only if the camera does not answer.
+/// Builds the node map. A camera without one has no features, but is opened nevertheless if it can stream.
 std::optional<OpenedCamera::Failure> OpenedCamera::createNodes(const std::string &producerFile)
 {
     auto fetched = fetchRegisterDescription(m_device.library(), m_device.port(), producerFile);
-    if (const auto *const description = std::get_if<std::string>(&fetched)) {
-        auto created = NodeMap::create(*m_port, *description);
-        if (auto *const nodes = std::get_if<std::unique_ptr<NodeMap>>(&created))
-            m_nodes = std::move(*nodes);
-        else
-            m_nodes = std::make_unique<MissingNodeMap>(std::get<Failure>(created).text);
-        return std::nullopt;
-    }
-    const auto &failure = std::get<Failure>(fetched);
+    if (const auto *const failure = std::get_if<Failure>(&fetched))
+        return doWithoutNodes(*failure);
+    auto created = NodeMap::create(*m_port, std::get<std::string>(fetched));
+    if (const auto *const failure = std::get_if<Failure>(&created))
+        return doWithoutNodes(*failure);
+    m_nodes = std::get<std::unique_ptr<NodeMap>>(std::move(created));
+    return std::nullopt;
+}
+
+/// Returns the failure if the camera is useless without features.
+std::optional<OpenedCamera::Failure> OpenedCamera::doWithoutNodes(const Failure &failure)
+{
     std::array<std::uint8_t, 4> bytes{};
-    if (m_port->read(0, bytes.data(), bytes.size()) && m_port->lossFailures() > 0)
+    m_port->read(0, bytes.data(), bytes.size());
+    const bool isAnswering = m_port->lossFailures() == 0;
+    DataStream stream(m_device.library());
+    if (!isAnswering || m_device.library().checkStreamFunctions() || stream.open(m_device.device()))
+        return failure;
+    const bool definesSize = stream.number(GenTL::STREAM_INFO_DEFINES_PAYLOADSIZE).valueOr(0) != 0;
+    stream.close();
+    if (!definesSize)
         return failure;
     m_nodes = std::make_unique<MissingNodeMap>(failure.text);
     return std::nullopt;

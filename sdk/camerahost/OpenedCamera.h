@@ -46,6 +46,7 @@ public:
 
 private:
     std::optional<Failure> createNodes(const std::string &producerFile);
+    std::optional<Failure> doWithoutNodes(const Failure &failure);
 
     OpenedDevice m_device;
     std::unique_ptr<ProducerPort> m_port;

@@ -31,7 +31,8 @@ bool isFlagUnknown(const Problem &problem)
     return problem.code == GenTL::GC_ERR_NOT_IMPLEMENTED || problem.code == GenTL::GC_ERR_INVALID_PARAMETER;
 }
 
-std::optional<Problem> checkHandle(std::optional<Problem> problem, const char *call, const void *handle)
+/// @param handle A reference, because the call that writes the handle is an argument too.
+std::optional<Problem> checkHandle(std::optional<Problem> problem, const char *call, void *const &handle)
 {
     if (!problem && !handle)
         return Problem{call, 0, "returned no handle"};

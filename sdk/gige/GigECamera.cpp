@@ -18,7 +18,6 @@ constexpr std::uint32_t exclusiveAccess = 1;
 constexpr std::uint32_t capabilityRegister = 0x0934;
 constexpr std::uint32_t writeMemoryCapability = 2;
 constexpr std::uint32_t packetSizeRegister = 0x0D04;
-constexpr std::size_t registerSize = 4;
 
 GenTlError controlledElsewhere(const std::string &name)
 {

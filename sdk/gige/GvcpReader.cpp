@@ -21,7 +21,6 @@ constexpr std::uint16_t readRegisterCommand = 0x0080;
 constexpr std::uint16_t readMemoryCommand = 0x0084;
 constexpr std::uint16_t pendingAnswer = 0x0089;
 constexpr std::size_t headerSize = 8;
-constexpr std::size_t registerSize = 4;
 constexpr std::size_t maxBlockSize = 512; // Bytes of memory in one answer.
 
 struct StatusMeaning

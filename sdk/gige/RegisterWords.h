@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The registers of a GigE Vision camera that contain a range of bytes. A register has four bytes, and a
-/// camera only permits access to whole registers.
+constexpr std::size_t registerSize = 4; ///< Bytes of every register of a GigE Vision camera.
+
+/// The registers of a GigE Vision camera that contain a range of bytes. A camera only permits access
+/// to whole registers.
 struct RegisterWords
 {
     std::uint32_t start = 0; ///< The address of the first register.

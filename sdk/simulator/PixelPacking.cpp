@@ -13,39 +13,42 @@ void packBytes(const std::uint16_t *values, std::size_t count, std::uint8_t *lin
         line[i] = static_cast<std::uint8_t>(values[i]);
 }
 
-void packBitStream(const std::uint16_t *values, std::size_t count, int depth, std::uint8_t *line)
+/// Stores up to four values in the first bytes, first value in the lowest bits.
+template <int depth>
+void packFour(const std::uint16_t *values, std::size_t count, std::uint8_t *bytes)
 {
-    unsigned bits = 0; // Values that were taken but not yet written, first one lowest.
-    int used = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        bits |= static_cast<unsigned>(values[i]) << used;
-        for (used += depth; used >= 8; used -= 8) {
-            *line++ = static_cast<std::uint8_t>(bits);
-            bits >>= 8;
-        }
+    std::uint64_t bits = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        bits |= static_cast<std::uint64_t>(values[i]) << (depth * i);
+    const std::size_t size = (count * depth + 7) / 8;
+    for (std::size_t i = 0; i < size; ++i)
+        bytes[i] = static_cast<std::uint8_t>(bits >> (8 * i));
+}
+
+template <int depth>
+void packBitStream(const std::uint16_t *values, std::size_t count, std::uint8_t *line)
+{
+    std::size_t i = 0;
+    for (; i + 4 <= count; i += 4, line += depth / 2)
+        packFour<depth>(values + i, 4, line);
+    packFour<depth>(values + i, count - i, line);
+}
+
+/// Stores two values in three bytes: the high bits of the first one, the low bits of both, and the high bits
+/// of the second one.
+template <int depth>
+void packPairs(const std::uint16_t *values, std::size_t count, std::uint8_t *line)
+{
+    constexpr int lowBits = depth - 8;
+    constexpr unsigned mask = (1U << lowBits) - 1;
+    for (std::size_t i = 0; i < count; i += 2, line += 3) {
+        line[0] = static_cast<std::uint8_t>(values[i] >> lowBits);
+        line[1] = static_cast<std::uint8_t>(values[i] & mask);
+        if (i + 1 == count)
+            return;
+        line[1] = static_cast<std::uint8_t>(line[1] | (values[i + 1] & mask) << 4);
+        line[2] = static_cast<std::uint8_t>(values[i + 1] >> lowBits);
     }
-    if (used > 0)
-        *line = static_cast<std::uint8_t>(bits);
-}
-
-void packPair(unsigned first, unsigned second, int lowBits, std::uint8_t *bytes)
-{
-    const unsigned mask = (1U << lowBits) - 1;
-    bytes[0] = static_cast<std::uint8_t>(first >> lowBits);
-    bytes[1] = static_cast<std::uint8_t>((first & mask) | (second & mask) << 4);
-    bytes[2] = static_cast<std::uint8_t>(second >> lowBits);
-}
-
-void packPairs(const std::uint16_t *values, std::size_t count, int depth, std::uint8_t *line)
-{
-    const int lowBits = depth - 8;
-    for (std::size_t i = 0; i + 1 < count; i += 2, line += 3)
-        packPair(values[i], values[i + 1], lowBits, line);
-    if (count % 2 == 0)
-        return;
-    std::uint8_t last[3];
-    packPair(values[count - 1], 0, lowBits, last);
-    std::copy_n(last, 2, line);
 }
 } // namespace
 
@@ -89,8 +92,9 @@ void packLine(const PixelFormat &format, const std::uint16_t *values, int width,
         std::memcpy(line, values, count * sizeof *values);
         return;
     case Layout::BitStream:
-        return packBitStream(values, count, format.depth, line);
+        return format.depth == 10 ? packBitStream<10>(values, count, line)
+                                  : packBitStream<12>(values, count, line);
     case Layout::Packed:
-        return packPairs(values, count, format.depth, line);
+        return format.depth == 10 ? packPairs<10>(values, count, line) : packPairs<12>(values, count, line);
     }
 }

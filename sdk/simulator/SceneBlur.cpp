@@ -23,12 +23,15 @@ const std::uint32_t *SceneBlur::sums(int linesBack) const
 void SceneBlur::addLine(const float *values)
 {
     std::uint32_t *line = m_sums.data() + m_next % m_lines * m_length;
+    for (std::size_t x = 0; x < m_length; ++x)
+        line[x] = static_cast<std::uint32_t>(static_cast<int>(values[x] * unitsPerValue));
     const auto step = static_cast<std::size_t>(m_step);
-    std::uint32_t columnSums[2]{};
-    for (std::size_t x = 0; x < m_length; ++x) {
-        std::uint32_t &sum = columnSums[x % step];
-        sum += static_cast<std::uint32_t>(static_cast<int>(values[x] * unitsPerValue));
-        line[x] = sum;
+    for (std::size_t start = 0; start < step; ++start) {
+        std::uint32_t sum = 0;
+        for (std::size_t x = start; x < m_length; x += step) {
+            sum += line[x];
+            line[x] = sum;
+        }
     }
     ++m_next;
     if (m_next <= step)

@@ -15,10 +15,10 @@ int sceneHeight(const SensorModel &model)
 }
 
 /// Converts reflectances into what SceneCanvas::line() returns.
-void storeRoots(const float *reflectance, int count, std::uint16_t *pixels)
+void storeRoots(const float *reflectance, int count, std::uint8_t *pixels)
 {
     for (int i = 0; i < count; ++i)
-        pixels[i] = static_cast<std::uint16_t>(
+        pixels[i] = static_cast<std::uint8_t>(
             static_cast<int>(std::sqrt(reflectance[i]) * SceneCanvas::fullScale + 0.5F));
 }
 } // namespace
@@ -111,7 +111,7 @@ void SceneCanvas::prepare(const View &view, const SceneArea &area)
     }
 }
 
-const std::uint16_t *SceneCanvas::line(int x, int y) const
+const std::uint8_t *SceneCanvas::line(int x, int y) const
 {
     return m_pixels.data() + static_cast<std::size_t>(y - m_area.top) * static_cast<std::size_t>(m_area.width)
         + (x - m_area.left);

@@ -48,8 +48,8 @@ public:
     void prepare(const View &view, const SceneArea &area);
 
     /// Returns the pixels from (x, y) on: the square root of the reflectance times fullScale.
-    const std::uint16_t *line(int x, int y) const;
-    static constexpr float fullScale = 60000; // Leaves room for surfaces that are brighter than white.
+    const std::uint8_t *line(int x, int y) const;
+    static constexpr float fullScale = 240; // Leaves room for surfaces that are brighter than white.
 
 private:
     SceneChart::LineFilter filterOfLine(const View &view, int y) const;
@@ -59,5 +59,5 @@ private:
     SceneChart m_chart;
     std::optional<View> m_view; // Empty if nothing was prepared yet.
     SceneArea m_area;
-    std::vector<std::uint16_t> m_pixels;
+    std::vector<std::uint8_t> m_pixels;
 };

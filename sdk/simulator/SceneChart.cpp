@@ -75,7 +75,7 @@ void SceneChart::addCard(Card card, float height)
     m_shapes.push_back(
         textLine(middle - 28 * unit, top + 80 * unit, 2.6F * unit, "0123456789 ABCDEFGHIJ", ink));
     m_shapes.push_back(
-        textLine(middle + 20 * unit, top + 80.6F * unit, 1.4F * unit, "KLMNOPQRSTUVWXYZ", ink));
+        textLine(middle + 20.3F * unit, top + 81.4F * unit, 0.56F * unit, "KLMNOPQRSTUVWXYZ", ink));
 
     const float columnWidth = 18 * unit;
     const float rightColumn = left + width - 3 * unit - columnWidth;
@@ -127,27 +127,25 @@ void SceneChart::addColorPatches(float left, float top, float width, float heigh
 
 void SceneChart::addBarGroups(float left, float top, float width, float height)
 {
-    // Groups of vertical and horizontal bars, each smaller than the one above.
+    // Groups of three vertical and three horizontal bars, each smaller than the one above.
     m_shapes.push_back(box(left, top, width, height, paper));
-    float size = width * 0.4F;
-    for (float y = top + height * 0.03F; size >= 4; size *= 0.72F) {
-        const float period = size / 3;
+    float y = top + height * 0.03F;
+    for (float size = width * 0.4F; size >= 4 && y + size <= top + height; size *= 0.72F) {
+        const float period = size / 2.5F;
         m_shapes.push_back(verticalBars(left + width * 0.03F, y, size, size, period, ink));
         m_shapes.push_back(horizontalBars(left + width * 0.53F, y, size, size, period, ink));
         y += size * 1.15F;
-        if (y + size * 0.72F > top + height)
-            break;
     }
 }
 
 void SceneChart::addGratings(float left, float top, float width, float height)
 {
-    constexpr std::array<float, 8> periods{16, 12, 8, 6, 5, 4, 3, 2}; // Pixels.
+    constexpr std::array<float, 8> periods{24, 16, 12, 8, 6, 5, 4, 3}; // Pixels.
     const float pitch = width / static_cast<float>(periods.size());
     m_shapes.push_back(box(left, top, width, height, paper));
     for (std::size_t i = 0; i < periods.size(); ++i) {
         // Bars of even periods are aligned to the pixels, or the finest ones would be grey.
-        const float x = std::floor(left + pitch * static_cast<float>(i)) + 0.5F;
+        const float x = std::floor(left + pitch * static_cast<float>(i)) - 0.5F;
         m_shapes.push_back(verticalBars(x, top, pitch * 0.9F, height, periods[i], ink));
     }
 }

@@ -18,17 +18,32 @@ void computeSignal(const SignalLine &input, int count, float *__restrict values)
         // Shot noise is the square root of the electrons, which the scene provides.
         const float root = static_cast<float>(line.scene[i]) * line.columnLight[i] * line.lineLight;
         const float light = root * line.response[i] * (root + line.shotNoise[i]);
-        const float dark = line.darkNoise[i] * line.darkDeviation + line.darkSignal[i];
-        values[i] = (light + dark) * line.gain[i] + line.offset[i];
+        const float dark = line.darkNoise[i] * line.darkDeviation + (line.darkSignal[i] + line.darkMean);
+        values[i] = (light + dark) * line.gain[i] + line.offset;
     }
 }
 
-SCENE_PROCESSOR_VERSIONS
-void quantize(const float *values, int count, float scale, float offset, float maxValue,
-    std::uint16_t *__restrict quantized)
+namespace {
+template <typename Result>
+inline __attribute__((always_inline)) void quantizeTo(
+    const float *values, int count, const Quantization &quantization, Result *__restrict results)
 {
+    const auto [scale, offset, maxValue] = quantization;
     for (int i = 0; i < count; ++i) {
-        const float value = std::min(std::max(values[i] * scale + offset + 0.5F, 0.0F), maxValue);
-        quantized[i] = static_cast<std::uint16_t>(static_cast<int>(value));
+        const float value = std::min(std::max(values[i] * scale + (offset + 0.5F), 0.0F), maxValue);
+        results[i] = static_cast<Result>(static_cast<int>(value));
     }
+}
+} // namespace
+
+SCENE_PROCESSOR_VERSIONS
+void quantize(const float *values, int count, const Quantization &quantization, std::uint16_t *results)
+{
+    quantizeTo(values, count, quantization, results);
+}
+
+SCENE_PROCESSOR_VERSIONS
+void quantizeBytes(const float *values, int count, const Quantization &quantization, std::uint8_t *results)
+{
+    quantizeTo(values, count, quantization, results);
 }

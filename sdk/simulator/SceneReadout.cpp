@@ -34,9 +34,25 @@ void SceneReadout::beginPicture(
     m_frameKey = scrambled(scrambled(m_model.seed) + settings.frameNumber);
     m_darkSeconds = settings.exposureTime * 1e-6 * SensorFlaws::darkFactor(settings.temperature);
     const double darkElectrons = m_model.darkCurrent * m_darkSeconds;
-    m_darkNoise = static_cast<float>(std::sqrt(m_model.readNoise * m_model.readNoise + darkElectrons));
+    m_darkMean = static_cast<float>(darkElectrons);
+    m_darkDeviation = static_cast<float>(std::sqrt(m_model.readNoise * m_model.readNoise + darkElectrons));
+    prepareTaps(settings);
     for (int row = 0; row < (m_model.isColor ? 2 : 1); ++row)
         prepareColumns(settings, row, mosaicX);
+}
+
+void SceneReadout::prepareTaps(const RenderSettings &settings)
+{
+    const double unitsPerElectron = maxValue12 / m_model.fullWell * settings.gain;
+    m_taps.clear();
+    for (int i = 0; i < m_count;) {
+        const int number = m_flaws.tap(m_firstColumn + i);
+        const int end = std::min(m_count, m_flaws.tapEnd(number) - m_firstColumn);
+        const auto tap = static_cast<std::size_t>(number);
+        m_taps.push_back({i, end - i, unitsPerElectron * m_flaws.tapGain(number) * settings.tapGain.at(tap),
+            static_cast<float>(m_flaws.tapOffset(number) + settings.tapBlackLevel.at(tap))});
+        i = end;
+    }
 }
 
 void SceneReadout::prepareColumns(const RenderSettings &settings, int row, int mosaicX)
@@ -44,7 +60,6 @@ void SceneReadout::prepareColumns(const RenderSettings &settings, int row, int m
     Columns &columns = m_columns.at(static_cast<std::size_t>(row));
     columns.light.resize(static_cast<std::size_t>(m_count));
     columns.gain.resize(columns.light.size());
-    columns.offset.resize(columns.light.size());
 
     const double white = settings.exposureTime * m_model.sensitivity * brightness(settings.target);
     std::array<float, 2> light{};
@@ -64,39 +79,32 @@ void SceneReadout::prepareColumns(const RenderSettings &settings, int row, int m
         columns.light[i] = light[x % 2] * m_columnShading[x];
     }
 
-    const double darkElectrons = m_model.darkCurrent * m_darkSeconds;
-    const double unitsPerElectron = maxValue12 / m_model.fullWell * settings.gain;
-    const int end = m_firstColumn + m_count;
-    for (int x = m_firstColumn; x < end;) {
-        const int tapNumber = m_flaws.tap(x);
-        const auto tap = static_cast<std::size_t>(tapNumber);
-        const double gain = unitsPerElectron * m_flaws.tapGain(tapNumber) * settings.tapGain.at(tap);
-        const double offset = m_flaws.tapOffset(tapNumber) + settings.tapBlackLevel.at(tap);
-        for (; x < end && m_flaws.tap(x) == tapNumber; ++x) {
-            const double pixelGain = gain * balance[static_cast<std::size_t>(x & 1)];
-            const auto i = static_cast<std::size_t>(x - m_firstColumn);
-            columns.gain[i] = static_cast<float>(pixelGain);
-            columns.offset[i] = static_cast<float>(pixelGain * darkElectrons + offset);
-        }
+    for (const TapColumns &tap : m_taps) {
+        for (int i = tap.first; i < tap.first + tap.count; ++i)
+            columns.gain[static_cast<std::size_t>(i)]
+                = static_cast<float>(tap.gain * balance[static_cast<std::size_t>((m_firstColumn + i) & 1)]);
     }
 }
 
-void SceneReadout::readLine(const std::uint16_t *scene, int sensorLine, int pictureLine, float *values) const
+void SceneReadout::readLine(const std::uint8_t *scene, int sensorLine, int pictureLine, float *values) const
 {
     const auto row = static_cast<std::size_t>(m_model.isColor ? (sensorLine + m_mosaicY) & 1 : 0);
     const std::uint64_t lineKey = scrambled(m_frameKey + static_cast<std::uint64_t>(pictureLine));
-    SignalLine line{};
-    line.scene = scene;
-    line.columnLight = m_columns[row].light.data();
-    line.lineLight = m_lineShading[static_cast<std::size_t>(sensorLine)];
-    line.response = m_flaws.photoResponseLine(sensorLine) + m_firstColumn;
-    line.shotNoise = m_noise.line(lineKey);
-    line.darkNoise = m_noise.line(lineKey >> 32);
-    line.darkDeviation = m_darkNoise;
-    line.darkSignal = m_flaws.darkSignalLine(sensorLine) + m_firstColumn;
-    line.gain = m_columns[row].gain.data();
-    line.offset = m_columns[row].offset.data();
-    computeSignal(line, m_count, values);
+    for (const TapColumns &tap : m_taps) {
+        SignalLine line{};
+        line.scene = scene + tap.first;
+        line.columnLight = m_columns[row].light.data() + tap.first;
+        line.lineLight = m_lineShading[static_cast<std::size_t>(sensorLine)];
+        line.response = m_flaws.photoResponseLine(sensorLine) + m_firstColumn + tap.first;
+        line.shotNoise = m_noise.line(lineKey) + m_firstColumn + tap.first;
+        line.darkNoise = m_noise.line(lineKey >> 32) + m_firstColumn + tap.first;
+        line.darkDeviation = m_darkDeviation;
+        line.darkMean = m_darkMean;
+        line.darkSignal = m_flaws.darkSignalLine(sensorLine) + m_firstColumn + tap.first;
+        line.gain = m_columns[row].gain.data() + tap.first;
+        line.offset = tap.offset;
+        computeSignal(line, tap.count, values + tap.first);
+    }
     addDefects(sensorLine, values);
 }
 

@@ -8,7 +8,9 @@
 #include <cmath>
 
 namespace {
-constexpr double flatFieldReflectance = 0.8;
+constexpr double flatFieldReflectance = 0.81; // Its square root is a whole number of SceneCanvas::fullScale.
+
+constexpr int mosaicBorder = 2; // Even, so that lines begin with the same colour.
 
 /// Returns the index of the sensor pixel that is part `part` of a binned pixel. Pixels of a colour mosaic are
 /// combined with the next ones of their colour.
@@ -17,14 +19,9 @@ int sensorIndex(int pixel, int part, int binning, int step)
     return pixel / step * step * binning + pixel % step + part * step;
 }
 
-bool isLiveWithoutOverlay(TestPattern pattern)
-{
-    return pattern == TestPattern::Off;
-}
-
 bool isLive(TestPattern pattern)
 {
-    return isLiveWithoutOverlay(pattern) || pattern == TestPattern::FrameCounter;
+    return pattern == TestPattern::Off || pattern == TestPattern::FrameCounter;
 }
 
 /// Returns the nearest line of the same colour inside the picture.
@@ -49,7 +46,7 @@ SceneRenderer::SceneRenderer(const SensorModel &model)
       m_canvas(model, m_flaws),
       m_readout(model, m_flaws),
       m_evenScene(static_cast<std::size_t>(model.width),
-          static_cast<std::uint16_t>(std::lround(std::sqrt(flatFieldReflectance) * SceneCanvas::fullScale)))
+          static_cast<std::uint8_t>(std::lround(std::sqrt(flatFieldReflectance) * SceneCanvas::fullScale)))
 { }
 
 PictureSize SceneRenderer::pictureSize(const RenderSettings &settings) const
@@ -65,11 +62,11 @@ SceneRenderer::Shift SceneRenderer::sceneShift(std::uint64_t frameNumber) const
     const int radius = SceneCanvas::margin(m_model);
     if (radius == 0)
         return {0, 0};
-    // The scene moves on a circle, by about one pixel from picture to picture.
+    // The scene moves on a figure of eight, by about one pixel from picture to picture.
     const double angle = static_cast<double>(frameNumber) / radius;
     const auto rounded
         = [&](double position) { return static_cast<int>(std::lround(position / m_step)) * m_step; };
-    return {rounded(radius * std::cos(angle)), rounded(radius * std::sin(angle))};
+    return {rounded(radius * std::sin(angle)), rounded(radius * std::sin(2 * angle) / 2)};
 }
 
 void SceneRenderer::render(const RenderSettings &settings, std::uint8_t *buffer)
@@ -77,18 +74,27 @@ void SceneRenderer::render(const RenderSettings &settings, std::uint8_t *buffer)
     const PixelFormat &format = pixelFormat(settings.pixelFormat);
     m_size = pictureSize(settings);
     m_quantized.resize(static_cast<std::size_t>(settings.width) * 3);
-    if (!isLive(settings.testPattern)) {
-        for (int y = 0; y < settings.height; ++y, buffer += format.lineSize(settings.width)) {
-            testPatternLine(settings, format, m_size, settings.offsetY + y, m_quantized.data());
-            packLine(format, m_quantized.data(), settings.width, buffer);
-        }
-        return;
-    }
+    if (!isLive(settings.testPattern))
+        return renderPattern(settings, format, buffer);
     prepareGamma(settings.gamma, format);
     if (format.colors == PixelFormat::Colors::Rgb)
         renderRgb(settings, format, buffer);
     else
         renderMosaic(settings, format, buffer);
+}
+
+void SceneRenderer::renderPattern(
+    const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
+{
+    const std::size_t lineSize = format.lineSize(settings.width);
+    for (int y = 0; y < settings.height; ++y, buffer += lineSize) {
+        if (y >= 2 && !changesVertically(settings.testPattern)) { // Lines of a mosaic repeat after two.
+            std::copy_n(buffer - 2 * lineSize, lineSize, buffer);
+            continue;
+        }
+        testPatternLine(settings, format, m_size, settings.offsetY + y, m_quantized.data());
+        packLine(format, m_quantized.data(), settings.width, buffer);
+    }
 }
 
 void SceneRenderer::prepare(const RenderSettings &settings, int x, int width, int y, int height)
@@ -137,8 +143,8 @@ void SceneRenderer::renderMosaic(
 
 void SceneRenderer::renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
 {
-    const int left = std::max(0, settings.offsetX - 1);
-    const int right = std::min(m_size.width, settings.offsetX + settings.width + 1);
+    const int left = std::max(0, settings.offsetX - mosaicBorder);
+    const int right = std::min(m_size.width, settings.offsetX + settings.width + mosaicBorder);
     const int top = std::max(0, settings.offsetY - 1);
     const int bottom = std::min(m_size.height, settings.offsetY + settings.height + 1);
     prepare(settings, left, right - left, top, bottom - top);
@@ -158,17 +164,18 @@ const float *SceneRenderer::mosaicLine(const RenderSettings &settings, int y)
 {
     MosaicLine &line = m_mosaicLines[static_cast<std::size_t>(y % 3)];
     const auto width = static_cast<std::size_t>(settings.width);
-    if (line.y != y) {
-        line.y = y;
-        line.values.resize(width + 2);
-        const int missing = m_firstX - (settings.offsetX - 1); // Pixels that lie outside the picture.
-        readPictureLine(settings, y, line.values.data() + missing);
-        if (missing > 0)
-            line.values[0] = line.values[2];
-        if (m_firstX + m_columnCount < settings.offsetX + settings.width + 1)
-            line.values[width + 1] = line.values[width - 1];
-    }
-    return line.values.data() + 1;
+    line.values.resize(width + 2 * mosaicBorder);
+    float *pixels = line.values.data() + mosaicBorder;
+    if (line.y == y)
+        return pixels;
+    line.y = y;
+    readPictureLine(settings, y, pixels + (m_firstX - settings.offsetX));
+    // Outside the picture, the next pixel of the same colour is used.
+    if (m_firstX == settings.offsetX)
+        pixels[-1] = pixels[1];
+    if (m_firstX + m_columnCount == settings.offsetX + settings.width)
+        pixels[width] = pixels[width - 2];
+    return pixels;
 }
 
 void SceneRenderer::finishLine(const RenderSettings &settings, const PixelFormat &format, int y,
@@ -176,8 +183,12 @@ void SceneRenderer::finishLine(const RenderSettings &settings, const PixelFormat
 {
     const int count = settings.width * (format.colors == PixelFormat::Colors::Rgb ? 3 : 1);
     const auto scale = static_cast<float>(std::ldexp(1, format.depth - 12));
-    const auto black = static_cast<float>(settings.blackLevel);
-    quantize(values, count, scale, black * scale, static_cast<float>(format.maxValue()), m_quantized.data());
+    const Quantization quantization{
+        scale, scale * static_cast<float>(settings.blackLevel), static_cast<float>(format.maxValue())};
+    const bool isPlain = m_gammaTable.empty() && settings.testPattern == TestPattern::Off;
+    if (isPlain && format.layout == PixelFormat::Layout::Bytes) // The usual case is the fastest one.
+        return quantizeBytes(values, count, quantization, buffer);
+    quantize(values, count, quantization, m_quantized.data());
     if (!m_gammaTable.empty())
         for (int i = 0; i < count; ++i)
             m_quantized[static_cast<std::size_t>(i)] = m_gammaTable[m_quantized[static_cast<std::size_t>(i)]];
@@ -190,10 +201,9 @@ void SceneRenderer::readPictureLine(const RenderSettings &settings, int y, float
 {
     if (settings.binningX > 1 || (settings.binningY > 1 && !m_model.isLineScan))
         readBinnedLine(settings, y, values);
-    else if (m_model.isLineScan)
-        readSensorLine(settings, 0, y, values);
     else
-        readSensorLine(settings, settings.isReversedY ? m_size.height - 1 - y : y, y, values);
+        readSensorLine(
+            settings, settings.isReversedY && !m_model.isLineScan ? m_size.height - 1 - y : y, values);
     if (settings.isReversedX)
         std::reverse(values, values + m_columnCount);
 }
@@ -205,8 +215,7 @@ void SceneRenderer::readBinnedLine(const RenderSettings &settings, int y, float 
     const int first = settings.isReversedX ? m_size.width - m_firstX - m_columnCount : m_firstX;
     std::fill_n(values, m_columnCount, 0.0F);
     for (int part = 0; part < binningY; ++part) {
-        const int sensorLine = m_model.isLineScan ? 0 : sensorIndex(line, part, binningY, m_step);
-        readSensorLine(settings, sensorLine, m_model.isLineScan ? y : sensorLine, m_sensorLine.data());
+        readSensorLine(settings, sensorIndex(line, part, binningY, m_step), m_sensorLine.data());
         for (int i = 0; i < m_columnCount; ++i)
             for (int column = 0; column < settings.binningX; ++column)
                 values[i] += m_sensorLine[static_cast<std::size_t>(
@@ -219,15 +228,14 @@ void SceneRenderer::readBinnedLine(const RenderSettings &settings, int y, float 
         values[i] *= share;
 }
 
-void SceneRenderer::readSensorLine(
-    const RenderSettings &settings, int sensorLine, int pictureLine, float *values)
+void SceneRenderer::readSensorLine(const RenderSettings &settings, int line, float *values)
 {
-    const std::uint16_t *scene = m_evenScene.data();
+    const std::uint8_t *scene = m_evenScene.data();
     if (settings.target == SceneTarget::Chart && m_model.isLineScan)
-        scene = m_canvas.line(m_columns.first, lineScanRow(settings, pictureLine));
+        scene = m_canvas.line(m_columns.first, lineScanRow(settings, line));
     else if (settings.target == SceneTarget::Chart)
-        scene = m_canvas.line(m_columns.first + m_shift.x, sensorLine + m_shift.y);
-    m_readout.readLine(scene, sensorLine, pictureLine, values);
+        scene = m_canvas.line(m_columns.first + m_shift.x, line + m_shift.y);
+    m_readout.readLine(scene, m_model.isLineScan ? 0 : line, line, values);
 }
 
 int SceneRenderer::lineScanRow(const RenderSettings &settings, int line) const

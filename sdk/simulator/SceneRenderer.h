@@ -48,7 +48,7 @@ private:
         int first;
         int count;
     };
-    /// A line of a colour picture before the colours are separated, with one more pixel on each side.
+    /// A line of a colour picture before the colours are separated, with more pixels on both sides.
     struct MosaicLine
     {
         int y = -1; // Line of the picture; -1 if there is none yet.
@@ -56,6 +56,7 @@ private:
     };
 
     void prepare(const RenderSettings &settings, int x, int width, int y, int height);
+    void renderPattern(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
     void renderMosaic(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
     void renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
     void finishLine(const RenderSettings &settings, const PixelFormat &format, int y, const float *values,
@@ -63,7 +64,8 @@ private:
     const float *mosaicLine(const RenderSettings &settings, int y);
     void readPictureLine(const RenderSettings &settings, int y, float *values);
     void readBinnedLine(const RenderSettings &settings, int y, float *values);
-    void readSensorLine(const RenderSettings &settings, int sensorLine, int pictureLine, float *values);
+    /// `line` is a line of the sensor, or for line scan sensors of the picture.
+    void readSensorLine(const RenderSettings &settings, int line, float *values);
     SensorRange sensorRange(int first, int count, int size, int binning, bool isReversed) const;
     int lineScanRow(const RenderSettings &settings, int line) const;
     void prepareGamma(double gamma, const PixelFormat &format);
@@ -73,7 +75,7 @@ private:
     const SensorFlaws m_flaws;
     SceneCanvas m_canvas;
     SceneReadout m_readout;
-    std::vector<std::uint16_t> m_evenScene; // A line of the flat field.
+    std::vector<std::uint8_t> m_evenScene; // A line of the flat field.
 
     // Of the picture that is being rendered.
     Shift m_shift{};

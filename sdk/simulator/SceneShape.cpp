@@ -10,7 +10,7 @@ constexpr float pi = 3.14159265F;
 
 float clampedToShare(float value)
 {
-    return std::clamp(value, 0.0F, 1.0F);
+    return std::min(std::max(value, 0.0F), 1.0F); // Unlike std::clamp(), without branches.
 }
 
 /// Returns an angle from 0 to 2 pi with an error below 0.001. Unlike std::atan2(), the compiler can compute
@@ -24,24 +24,27 @@ float approximateAngle(float x, float y)
     const float arc
         = ((-0.0464964749F * square + 0.15931422F) * square - 0.327622764F) * square * ratio + ratio;
     const float octant = absoluteY > absoluteX ? pi / 2 - arc : arc;
-    const float half = x < 0 ? pi - octant : octant;
-    return y < 0 ? 2 * pi - half : half;
+    const float half = pi / 2 + std::copysign(pi / 2 - octant, -x);
+    return pi + std::copysign(pi - half, -y);
 }
 
-/// Returns the distance from the next multiple of the period, 0 to period / 2.
-float distanceFromMultiple(float value, float period)
+/// Returns the distance from the nearest integer, 0 to 0.5. The value must be greater than -1.
+float distanceFromInteger(float value)
 {
-    const float cycles = value / period;
-    return std::abs(cycles - static_cast<float>(static_cast<int>(cycles + 0.5F))) * period;
+    return std::abs(value - static_cast<float>(static_cast<int>(value + 0.5F)));
 }
+
+// The functions copy everything that they need from the shape, because the coverage could overlap with the
+// shape as far as the compiler knows. Then it can compute several pixels at once.
 
 void coverBox(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     const float vertical = clampedToShare(y - shape.top + 1) * clampedToShare(shape.bottom() - y);
+    const float left = shape.left;
+    const float right = shape.right();
     for (int i = 0; i < count; ++i) {
         const float column = x + static_cast<float>(i);
-        coverage[i]
-            = vertical * clampedToShare(column - shape.left + 1) * clampedToShare(shape.right() - column);
+        coverage[i] = vertical * clampedToShare(column - left + 1) * clampedToShare(right - column);
     }
 }
 
@@ -50,8 +53,9 @@ void coverRing(const SceneShape &shape, float y, float x, int count, float *cove
     const float radius = shape.width / 2;
     const float innerRadius = radius - shape.parameter;
     const float down = y - shape.centerY();
+    const float centerX = shape.centerX();
     for (int i = 0; i < count; ++i) {
-        const float right = x + static_cast<float>(i) - shape.centerX();
+        const float right = x + static_cast<float>(i) - centerX;
         const float distance = std::sqrt(right * right + down * down);
         coverage[i]
             = clampedToShare(radius - distance + 0.5F) * clampedToShare(distance - innerRadius + 0.5F);
@@ -61,13 +65,15 @@ void coverRing(const SceneShape &shape, float y, float x, int count, float *cove
 void coverStar(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     const float radius = shape.width / 2;
-    const float period = 2 * pi / shape.parameter;
+    const float cycles = shape.parameter;
+    const float quarterPeriod = pi / 2 / cycles;
     const float down = y - shape.centerY();
+    const float centerX = shape.centerX();
     for (int i = 0; i < count; ++i) {
-        const float right = x + static_cast<float>(i) - shape.centerX();
+        const float right = x + static_cast<float>(i) - centerX;
         const float distance = std::sqrt(right * right + down * down);
-        const float fromDarkCenter = distanceFromMultiple(approximateAngle(right, down), period);
-        const float sector = clampedToShare((period / 4 - fromDarkCenter) * distance + 0.5F);
+        const float fromDarkCenter = distanceFromInteger(approximateAngle(right, down) * cycles / (2 * pi));
+        const float sector = clampedToShare((1 - 4 * fromDarkCenter) * quarterPeriod * distance + 0.5F);
         coverage[i] = sector * clampedToShare(radius - distance + 0.5F);
     }
 }
@@ -76,12 +82,13 @@ void coverZonePlate(const SceneShape &shape, float y, float x, int count, float 
 {
     const float radius = shape.width / 2;
     const float down = y - shape.centerY();
+    const float centerX = shape.centerX();
     for (int i = 0; i < count; ++i) {
-        const float right = x + static_cast<float>(i) - shape.centerX();
+        const float right = x + static_cast<float>(i) - centerX;
         const float square = right * right + down * down;
         // The phase grows by half a cycle per two pixels at the border. A triangle wave looks like a sine
         // here.
-        const float wave = distanceFromMultiple(square / (8 * radius), 1) * 2;
+        const float wave = distanceFromInteger(square / (8 * radius)) * 2;
         coverage[i] = wave * clampedToShare((radius * radius - square) / (2 * radius) + 0.5F);
     }
 }
@@ -92,27 +99,37 @@ void coverSlantedSquare(const SceneShape &shape, float y, float x, int count, fl
     constexpr float cosine = 0.9961947F;
     const float half = shape.parameter / 2;
     const float down = y - shape.centerY();
+    const float centerX = shape.centerX();
     for (int i = 0; i < count; ++i) {
-        const float right = x + static_cast<float>(i) - shape.centerX();
+        const float right = x + static_cast<float>(i) - centerX;
         const float across = std::abs(right * cosine + down * sine);
         const float along = std::abs(down * cosine - right * sine);
         coverage[i] = clampedToShare(half - std::max(across, along) + 0.5F);
     }
 }
 
+/// Returns how much of a pixel is dark, `position` pixels from the beginning of bars.
+float barCoverage(float position, float period)
+{
+    const float fromDarkCenter = distanceFromInteger(position / period - 0.25F);
+    return clampedToShare((0.25F - fromDarkCenter) * period + 0.5F);
+}
+
 void coverVerticalBars(const SceneShape &shape, float, float x, int count, float *coverage)
 {
+    const float left = shape.left;
+    const float right = shape.right();
+    const float period = shape.parameter;
     for (int i = 0; i < count; ++i) {
-        const float fromDarkCenter
-            = distanceFromMultiple(x + static_cast<float>(i) - shape.left, shape.parameter);
-        coverage[i] = clampedToShare(shape.parameter / 4 - fromDarkCenter + 0.5F);
+        const float column = x + static_cast<float>(i);
+        coverage[i] = barCoverage(column - left, period) * clampedToShare(right - column);
     }
 }
 
 void coverHorizontalBars(const SceneShape &shape, float y, float, int count, float *coverage)
 {
-    const float fromDarkCenter = distanceFromMultiple(y - shape.top, shape.parameter);
-    std::fill_n(coverage, count, clampedToShare(shape.parameter / 4 - fromDarkCenter + 0.5F));
+    const float bar = barCoverage(y - shape.top, shape.parameter) * clampedToShare(shape.bottom() - y);
+    std::fill_n(coverage, count, bar);
 }
 
 void coverText(const SceneShape &shape, float y, float x, int count, float *coverage)

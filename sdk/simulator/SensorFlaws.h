@@ -60,6 +60,9 @@ public:
     /// Returns the tap that reads out the column.
     int tap(int x) const { return x * m_model.taps / m_model.width; }
 
+    /// Returns the column after the last one of the tap.
+    int tapEnd(int tap) const { return ((tap + 1) * m_model.width + m_model.taps - 1) / m_model.taps; }
+
     /// Returns a tap's gain, about 1, and its offset in units of a 12-bit pixel.
     double tapGain(int tap) const;
     double tapOffset(int tap) const;

@@ -13,7 +13,7 @@ struct SensorModel
     int taps = 1; ///< Vertical stripes of equal width that are read out separately; at most maxTaps.
     std::uint64_t seed = 1; ///< Two cameras of one model differ by their seed, for example the serial number.
 
-    double sensitivity = 0.8; ///< Electrons per microsecond that a white surface generates in a pixel.
+    double sensitivity = 1; ///< Electrons per microsecond that a white surface generates in a pixel.
     double fullWell = 10000; ///< Electrons that reach the maximum pixel value with gain 1.
     double readNoise = 5; ///< Standard deviation in electrons.
     double darkCurrent = 4; ///< Electrons per second at 25 °C. Doubles every 8 K.

@@ -41,33 +41,43 @@ std::uint16_t colorBarValue(const PixelFormat &format, PictureSize size, int x, 
 }
 } // namespace
 
+bool changesVertically(TestPattern pattern)
+{
+    return pattern == TestPattern::GreyVerticalRamp || pattern == TestPattern::GreyVerticalRampMoving;
+}
+
 void testPatternLine(
     const RenderSettings &settings, const PixelFormat &format, PictureSize size, int y, std::uint16_t *values)
 {
     const int maxValue = format.maxValue();
     const int components = format.colors == PixelFormat::Colors::Rgb ? 3 : 1;
-    const auto valueAt = [&](int x, int component) -> std::uint16_t {
-        const auto step = static_cast<std::int64_t>(settings.frameNumber % 0x7FFFFFFF);
-        switch (settings.testPattern) {
-        case TestPattern::White:
-            return static_cast<std::uint16_t>(maxValue);
-        case TestPattern::GreyHorizontalRamp:
-            return rampValue(x, size.width, maxValue);
-        case TestPattern::GreyVerticalRamp:
-            return rampValue(y, size.height, maxValue);
-        case TestPattern::GreyHorizontalRampMoving:
-            return rampValue(x + step, size.width, maxValue);
-        case TestPattern::GreyVerticalRampMoving:
-            return rampValue(y + step, size.height, maxValue);
-        case TestPattern::ColorBar:
-            return colorBarValue(format, size, x, y, component);
-        default:
-            return 0;
+    const auto step = static_cast<std::int64_t>(settings.frameNumber % 0x7FFFFFFF);
+    for (int x = settings.offsetX; x < settings.offsetX + settings.width; ++x) {
+        for (int component = 0; component < components; ++component, ++values) {
+            switch (settings.testPattern) {
+            case TestPattern::White:
+                *values = static_cast<std::uint16_t>(maxValue);
+                break;
+            case TestPattern::GreyHorizontalRamp:
+                *values = rampValue(x, size.width, maxValue);
+                break;
+            case TestPattern::GreyVerticalRamp:
+                *values = rampValue(y, size.height, maxValue);
+                break;
+            case TestPattern::GreyHorizontalRampMoving:
+                *values = rampValue(x + step, size.width, maxValue);
+                break;
+            case TestPattern::GreyVerticalRampMoving:
+                *values = rampValue(y + step, size.height, maxValue);
+                break;
+            case TestPattern::ColorBar:
+                *values = colorBarValue(format, size, x, y, component);
+                break;
+            default:
+                *values = 0;
+            }
         }
-    };
-    for (int x = 0; x < settings.width; ++x)
-        for (int component = 0; component < components; ++component)
-            *values++ = valueAt(settings.offsetX + x, component);
+    }
 }
 
 void addFrameCounter(const RenderSettings &settings, const PixelFormat &format, int y, std::uint16_t *values)

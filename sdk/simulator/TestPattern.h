@@ -5,6 +5,9 @@
 
 #include <cstdint>
 
+/// Returns true if lines of the pattern differ, apart from the mosaic of colours.
+bool changesVertically(TestPattern pattern);
+
 /// Writes one line of a test pattern other than Off and FrameCounter. `y` is the line in the picture without
 /// a region.
 void testPatternLine(const RenderSettings &settings, const PixelFormat &format, PictureSize size, int y,

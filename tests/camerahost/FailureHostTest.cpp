@@ -62,6 +62,7 @@ const OpenRow openRows[] = {
     {{"accessNotOffered", "IFOpenDevice error -1003\n"}, DeviceFailure::NotAvailable},
     {{"openFails", "IFOpenDevice error -1001\n"}},
     {{"portFails", "DevGetPort error -1001\n"}},
+    {{"cameraDoesNotAnswer", "GCReadPort error -1010\n"}},
     {{"noDeviceFunctions", "", {"IFOpenDevice", "DevGetPort"}}, DeviceFailure::Device,
         "IFOpenDevice, DevGetPort"},
     {{"initFails", "GCInitLib error -1001\n"}},

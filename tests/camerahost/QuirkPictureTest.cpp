@@ -20,6 +20,7 @@ struct Expected
     std::uint32_t height = 48;
     std::uint32_t format = mono8;
     std::uint32_t padding = 0;
+    bool isComplete = true;
 
     std::size_t lineBytes() const { return width * (format >> 16 & 0xFF) / 8; }
 };
@@ -37,7 +38,7 @@ void expectPicture(const ReceivedImage &image, const Expected &expected)
     EXPECT_EQ(record.height, expected.height);
     EXPECT_EQ(record.pixelFormat, expected.format);
     EXPECT_EQ(record.paddingX, expected.padding);
-    EXPECT_TRUE(record.isComplete);
+    EXPECT_EQ(record.isComplete != 0, expected.isComplete);
     const std::size_t line = expected.lineBytes() + expected.padding;
     ASSERT_GE(image.picture.size(), line * expected.height - expected.padding);
     for (std::size_t y = 0; y < expected.height; ++y) {
@@ -139,7 +140,7 @@ const PictureRow pictureRows[] = {
         {64, 48, mono16, 0}},
     {{"otherNamespace", buffer(BUFFER_INFO_PIXELFORMAT_NAMESPACE, "value 1")}},
     // Sizes and positions that do not fit.
-    {{"filledTooMuch", buffer(BUFFER_INFO_SIZE_FILLED, "value 1000000000000")}},
+    {{"filledTooMuch", buffer(BUFFER_INFO_SIZE_FILLED, "value 1000000000000")}, {64, 48, mono8, 0, false}},
     {{"offsetTooLarge", buffer(BUFFER_INFO_IMAGEOFFSET, "value 1000000000000")}},
     {{"widthTooLarge", buffer(BUFFER_INFO_WIDTH, "value 1000000000000")}},
     {{"heightTooLarge",

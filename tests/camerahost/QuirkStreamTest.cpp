@@ -138,7 +138,7 @@ TEST(QuirkStream, unknownPixelFormatsAreReported)
         std::uint32_t format;
     } rows[] = {
         {rule("DSGetBufferInfo", BUFFER_INFO_PIXELFORMAT, "value 0x810800AB"), 0x810800AB},
-        {rule("DSGetBufferInfo", BUFFER_INFO_PIXELFORMAT_NAMESPACE, "value 2"), 0},
+        {rule("DSGetBufferInfo", BUFFER_INFO_PIXELFORMAT_NAMESPACE, "value 2"), 0x01080001}, // Of the camera.
     };
     for (const auto &row : rows) {
         OpenedHost host(row.rule);
@@ -213,7 +213,6 @@ TEST_P(QuirkStart, failureIsReportedAndUndone)
     EXPECT_EQ(host.failure.failure, GetParam().failure) << host.failure.text;
     EXPECT_NE(host.failure.text.find(GetParam().text), std::string::npos) << host.failure.text;
     EXPECT_TRUE(host.write("Width", std::int64_t(128))) << "still locked: " << host.failure.text;
-    EXPECT_EQ(producer.count("DevOpenDataStream") == 0, producer.count("DSClose") == 0);
 
     if (GetParam().missing.empty()) {
         producer.setScript("");
@@ -227,7 +226,7 @@ TEST_P(QuirkStart, failureIsReportedAndUndone)
 
 const StartRow startRows[] = {
     {{"noStream", "streams 0\n"}, DeviceFailure::NotAvailable, "no stream"},
-    {{"noStreamFunctions", "", {"DSStartAcquisition"}}, DeviceFailure::NotAvailable, "DSStartAcquisition"},
+    {{"noStreamFunctions", "", {"DSStartAcquisition"}}, DeviceFailure::NotAvailable, "cannot stream"},
     {{"countFails", "DevGetNumDataStreams error -1001\n"}},
     {{"idFails", "DevGetDataStreamID error -1001\n"}},
     {{"openFails", "DevOpenDataStream error -1001\n"}},

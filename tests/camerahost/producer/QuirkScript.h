@@ -17,14 +17,15 @@
 /// Actions of every function: error CODE, crash, hang, slow MILLISECONDS and the others of
 /// tests/sdk/producer/Misbehaviour.cpp. Info functions also accept "value VALUE" and "bytes LENGTH" (of the
 /// value), "image" accepts cut-short, twice (one buffer in two events), foreign (an additional event with an
-/// unknown handle) and silent (no event).
+/// unknown handle), silent (no event) and scribble (damages the shared memory).
 ///
 /// Settings, with their defaults: cameras A1 (several IDs are possible), gone ID (this camera is unplugged),
 /// width 64, height 48, format 0x01080001, image-offset 0, line-padding 0 (bytes), parts 0 (of a multi-part
 /// buffer), chunk-order big, technology GEV, interval 2000 (microseconds between images), images NUMBER (then
 /// none any more), frame-ids NUMBER…, streams 1, min-buffers 2, alignment 1, event-size 16, max-read BYTES,
 /// short-read 0 (bytes that are missing), behind-description 0 (NULs), url URL…, no-urls, stale-payload
-/// (until TLParamsLocked is 1), start-needs-lock, incomplete-infos-fail.
+/// (until TLParamsLocked is 1), start-needs-lock, free-running
+/// (no AcquisitionStart is needed), incomplete-infos-fail.
 ///
 /// The producer writes its calls to "name.log". The description of the cameras is in "name.xml".
 namespace QuirkScript {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <fstream>
 
 using namespace GenTL;
 
@@ -89,6 +90,20 @@ void fill(Buffer &buffer, const Camera &camera, std::uint64_t number, bool isCut
     buffer.isNew = true;
 }
 
+/// Damages the memory that the host shares with the library, like a wild pointer of a producer.
+void scribble()
+{
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; std::getline(maps, line);) {
+        const auto dash = line.find('-');
+        if (line.find("CvxCPP ring") == std::string::npos)
+            continue;
+        const auto begin = std::stoull(line, nullptr, 16);
+        const auto end = std::stoull(line.substr(dash + 1), nullptr, 16);
+        std::memset(reinterpret_cast<void *>(begin), 0xFF, end - begin);
+    }
+}
+
 /// Delivers the next image as the action of the script demands.
 void deliver(Stream &stream, const std::string &action)
 {
@@ -101,6 +116,8 @@ void deliver(Stream &stream, const std::string &action)
     stream.input.pop_front();
     fill(*buffer, *stream.camera, number, action == "cut-short");
     buffer->state = Buffer::State::Output;
+    if (action == "scribble")
+        scribble();
     if (action != "silent")
         stream.output.push_back(buffer);
     if (action == "twice")
@@ -116,7 +133,8 @@ void acquire(Stream &stream)
     const auto interval = std::chrono::microseconds(QuirkScript::number("interval", 2000));
     while (!changed.wait_for(lock, interval, isStopped)) {
         const bool isDone = stream.images >= QuirkScript::number("images", ~std::uint64_t(0));
-        if (!stream.camera->isAcquiring || isDone || isGone(stream.camera->id))
+        const bool isStarted = stream.camera->isAcquiring || QuirkScript::has("free-running");
+        if (!isStarted || isDone || isGone(stream.camera->id))
             continue;
         lock.unlock();
         const std::string action = QuirkScript::actionFor("image");
