@@ -35,6 +35,7 @@ SensorModel sensorWithFlaws()
     model.tapMismatch = 0.06;
     model.shading = 0.3;
     model.hotPixels = 300;
+    model.focusTilt = 60;
     return model;
 }
 
@@ -179,15 +180,26 @@ TEST(SceneColors, ReversedPictureShowsTheSameColors)
 {
     const SensorModel model = colorSensor(noiselessSensor(320, 240));
     RenderSettings settings = wholeSensor(model, rgb8);
-    settings.focusPosition += 100; // Edges would differ by the interpolation.
+    settings.focusPosition += 100; // Without blur, edges have false colours.
     const RenderedPicture picture = render(model, settings);
     settings.isReversedX = settings.isReversedY = true;
     const RenderedPicture reversed = render(model, settings);
-    for (int y = 0; y < 240; ++y)
-        for (int x = 0; x < 320; ++x)
-            for (int channel = 0; channel < 3; ++channel)
-                EXPECT_NEAR(
-                    channelAt(picture, x, y, channel), channelAt(reversed, 319 - x, 239 - y, channel), 20);
+    const auto redOverBlue = [](const RenderedPicture &rgb, int x, int y) {
+        return channelAt(rgb, x, y, 0) - channelAt(rgb, x, y, 2);
+    };
+    int coloredPixels = 0;
+    int differentPixels = 0;
+    for (int y = 0; y < 240; ++y) {
+        for (int x = 0; x < 320; ++x) {
+            const int color = redOverBlue(picture, x, y);
+            if (std::abs(color) < 30)
+                continue;
+            ++coloredPixels;
+            differentPixels += std::abs(color - redOverBlue(reversed, 319 - x, 239 - y)) > 30 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(coloredPixels, 500);
+    EXPECT_LT(differentPixels, coloredPixels / 20);
 }
 
 TEST(SceneColors, BalanceMakesAGreySurfaceGrey)
