@@ -21,10 +21,11 @@ import plugging
 import querying
 import size
 import starting
+import streaming
 from frames import BOUND, Screen
 
 GROUPS = {"starting": starting, "listing": listing, "clicking": clicking, "querying": querying, "plugging": plugging,
-          "discovering": discovering, "idling": idling, "size": size}
+          "discovering": discovering, "streaming": streaming, "idling": idling, "size": size}
 
 
 class Bench:

@@ -85,6 +85,16 @@ def at_most(limit, unit):
     return f"≤ {limit} {unit}".rstrip(), lambda figure: figure.median() <= limit
 
 
+def at_least_times(limit):
+    return f"≥ {limit} ×", lambda figure: figure.ratio() >= limit
+
+
+def at_most_beyond(limit, unit):
+    """Returns a target for the difference between a figure and its floor."""
+    return (f"≤ floor + {limit} {unit}",
+            lambda figure: statistics.median(ours - floor for ours, floor in zip(figure.ours, figure.floor)) <= limit)
+
+
 def at_most_on_average(limit, unit):
     """Returns a target for rare events, which a median would ignore."""
     return f"≤ {limit} {unit}", lambda figure: statistics.mean(figure.ours) <= limit

@@ -1,7 +1,9 @@
 #include "sdk/aravis/AravisDevices.h"
 
+#include "sdk/aravis/AravisError.h"
+#include "sdk/aravis/AravisLibrary.h"
+
 #include <arv.h>
-#include <dlfcn.h>
 #include <memory>
 #include <mutex>
 
@@ -14,14 +16,9 @@ std::string toUtf8(const char *text)
     return valid.get();
 }
 
-/// Keeps libaravis loaded after the producer was unloaded. GLib keeps pointers into libaravis, and libusb,
-/// which libaravis uses, keeps a thread until the process ends.
-void keepAravisLoaded()
-{
-    Dl_info library{};
-    if (dladdr(reinterpret_cast<const void *>(&arv_interface_get_type), &library) != 0)
-        dlopen(library.dli_fname, RTLD_NOW); // This reference is never released.
-}
+// libaravis has one object per process for USB, and two device sources can use this object: a closed source
+// may still be searching when the next source starts.
+std::mutex interfaceMutex;
 
 FoundDevice readDevice(ArvInterface *interface, unsigned index)
 {
@@ -32,6 +29,8 @@ FoundDevice readDevice(ArvInterface *interface, unsigned index)
     device.serial = toUtf8(arv_interface_get_device_serial_nbr(interface, index));
     return device;
 }
+
+} // namespace
 
 std::string displayName(const FoundDevice &device)
 {
@@ -44,16 +43,10 @@ std::string displayName(const FoundDevice &device)
     return name.empty() ? device.id : name;
 }
 
-} // namespace
-
 std::vector<FoundDevice> findDevices()
 {
-    // The mutex is static, because Aravis has one object per process, and two device sources can use this
-    // object: a closed source may still be searching when the next source starts.
-    static std::mutex interfaceMutex;
+    keepAravisLoaded();
     const std::lock_guard lock(interfaceMutex);
-    static std::once_flag once;
-    std::call_once(once, keepAravisLoaded);
     // arv_update_device_list() is not used, because its list belongs to the whole process, which may also
     // contain a producer for another protocol.
     ArvInterface *const interface = arv_uv_interface_get_instance();
@@ -63,6 +56,18 @@ std::vector<FoundDevice> findDevices()
     for (unsigned index = 0; index < count; ++index)
         found.push_back(readDevice(interface, index));
     return found;
+}
+
+GObjectPointer<ArvDevice> openDevice(const FoundDevice &device)
+{
+    keepAravisLoaded();
+    const std::lock_guard lock(interfaceMutex);
+    AravisError error;
+    GObjectPointer<ArvDevice> opened(
+        arv_interface_open_device(arv_uv_interface_get_instance(), device.id.c_str(), error.receiver()));
+    if (!opened)
+        throw error.toGenTl(displayName(device) + " cannot be opened");
+    return opened;
 }
 
 DeviceRecord toRecord(const FoundDevice &device)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/aravis/GObjectPointer.h"
 #include "sdk/producer/DeviceSource.h"
 
 #include <string>
@@ -19,6 +20,11 @@ struct FoundDevice
 /// searches run one after another.
 std::vector<FoundDevice> findDevices();
 
-/// Returns the record of a device. The display name consists of vendor, model and serial number; if all of
-/// them are empty, the display name is the ID.
+/// Opens a device that was found. Throws GenTlError. Any thread may call openDevice(); it runs when no search
+/// runs.
+GObjectPointer<ArvDevice> openDevice(const FoundDevice &device);
+
+/// Returns vendor, model and serial number. If all of them are empty, returns the ID.
+std::string displayName(const FoundDevice &device);
+
 DeviceRecord toRecord(const FoundDevice &device);

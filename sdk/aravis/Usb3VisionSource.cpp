@@ -1,5 +1,7 @@
 #include "sdk/aravis/Usb3VisionSource.h"
 
+#include "sdk/aravis/AravisCamera.h"
+
 #include <cstdio>
 #include <libusb.h>
 
@@ -29,6 +31,22 @@ std::vector<DeviceRecord> Usb3VisionSource::updateDevices(
     for (const FoundDevice &device : m_search.devices())
         devices.push_back(toRecord(device));
     return devices;
+}
+
+std::unique_ptr<OpenCamera> Usb3VisionSource::openCamera(
+    const std::string &interfaceId, const std::string &deviceId, GenTL::DEVICE_ACCESS_FLAGS access)
+{
+    if (access == GenTL::DEVICE_ACCESS_READONLY)
+        throw GenTlError(GenTL::GC_ERR_NOT_IMPLEMENTED,
+            "A USB3 Vision camera cannot be watched, because only one program at a time can open it.");
+    if (interfaceId == hostId && isUsbReady()) {
+        for (const FoundDevice &device : m_search.devices()) {
+            if (device.id == deviceId)
+                return std::make_unique<AravisCamera>(
+                    openDevice(device), displayName(device), ChunkByteOrder::LittleEndian);
+        }
+    }
+    throw GenTlError(GenTL::GC_ERR_INVALID_ID, "The camera " + deviceId + " is not connected any more.");
 }
 
 bool Usb3VisionSource::isUsbReady()

@@ -1,6 +1,5 @@
 #include "sdk/cvxcpp/CameraObject.h"
 
-#include "CvxCPP/Device.h"
 #include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/TextValue.h"
 #include "sdk/cvxcpp/TransportLayerName.h"
@@ -38,6 +37,11 @@ CvxError CameraObject::GetSerialNumber(char *buffer, unsigned &size) const
     return readString(device().serial, buffer, size);
 }
 
+CvxError CameraObject::GetUserName(char *buffer, unsigned &size) const
+{
+    return readString(device().userName, buffer, size);
+}
+
 CvxError CameraObject::GetInterfaceType(CvxTransportLayerType &type) const
 {
     if (!m_interface->isRunning())
@@ -58,9 +62,9 @@ CvxError CameraObject::GetInterface(std::shared_ptr<Interface> &iface) const
     return CvxErrorSuccess;
 }
 
-CvxResult CameraObject::Open(CvxAccess, std::shared_ptr<Device> &)
+CvxResult CameraObject::Open(CvxAccess access, std::shared_ptr<Device> &opened)
 {
-    return {CvxErrorNotAvailable, "not yet"};
+    return m_interface->openDevice(device(), access, opened);
 }
 
 CvxError CameraObject::readString(const std::string &value, char *buffer, unsigned &size) const

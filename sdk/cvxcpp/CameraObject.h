@@ -19,6 +19,7 @@ public:
     CvxCPP::CvxError GetModel(char *buffer, unsigned &size) const override;
     CvxCPP::CvxError GetName(char *buffer, unsigned &size) const override;
     CvxCPP::CvxError GetSerialNumber(char *buffer, unsigned &size) const override;
+    CvxCPP::CvxError GetUserName(char *buffer, unsigned &size) const override;
     CvxCPP::CvxError GetInterfaceType(CvxCPP::CvxTransportLayerType &type) const override;
     CvxCPP::CvxError GetInterface(std::shared_ptr<CvxCPP::Interface> &iface) const override;
     CvxCPP::CvxResult Open(CvxCPP::CvxAccess access, std::shared_ptr<CvxCPP::Device> &device) override;

@@ -2,24 +2,17 @@
 
 #include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/CtiSearchPath.h"
+#include "sdk/device/DeviceNotifier.h"
+#include "sdk/process/ExecutableFile.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 using namespace CvxCPP;
 
 namespace {
-
-bool isExecutableFile(const std::string &path)
-{
-    struct stat file
-    { };
-    return stat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && access(path.c_str(), X_OK) == 0;
-}
 
 std::vector<std::string> ctiDirectories(const SystemOptions &options)
 {
@@ -27,6 +20,12 @@ std::vector<std::string> ctiDirectories(const SystemOptions &options)
     for (std::string &directory : searchPathDirectories(std::getenv("GENICAM_GENTL64_PATH")))
         directories.push_back(std::move(directory));
     return directories;
+}
+
+/// Returns true if an observer makes the call. Shutdown() waits for all observers.
+bool isCallingObservers()
+{
+    return ObserverNotifier::isCallingObservers() || DeviceNotifier::isCallingObservers();
 }
 
 } // namespace
@@ -41,7 +40,7 @@ CameraSystem::~CameraSystem()
 CvxError CameraSystem::Startup()
 {
     // An observer must not wait for a running Shutdown(), because Shutdown() waits for the observer.
-    if (ObserverNotifier::isCallingObservers())
+    if (isCallingObservers())
         return CvxErrorAlreadyStarted;
     const std::lock_guard lifeLock(m_lifeMutex);
     if (session())
@@ -65,7 +64,7 @@ void CameraSystem::startSession()
 
 CvxError CameraSystem::Shutdown()
 {
-    if (ObserverNotifier::isCallingObservers())
+    if (isCallingObservers())
         return CvxErrorFailed; // Shutdown() would wait for its own caller.
     const std::lock_guard lifeLock(m_lifeMutex);
     std::shared_ptr<DiscoverySession> ending;

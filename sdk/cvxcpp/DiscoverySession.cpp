@@ -3,6 +3,8 @@
 #include "sdk/cvxcpp/PollSchedule.h"
 #include "sdk/cvxcpp/ProducerSearch.h"
 #include "sdk/cvxcpp/StandstillRule.h"
+#include "sdk/device/CameraLabel.h"
+#include "sdk/device/DeviceCore.h"
 #include "sdk/text/Utf8.h"
 
 #include <algorithm>
@@ -26,10 +28,13 @@ void blockBrokenPipeSignal()
 } // namespace
 
 DiscoverySession::DiscoverySession(const SystemOptions &options, std::vector<std::string> ctiDirectories)
-    : m_options(options), m_ctiDirectories(std::move(ctiDirectories)), m_notifier([this] {
+    : m_options(options),
+      m_ctiDirectories(std::move(ctiDirectories)),
+      m_notifier([this] {
           const std::lock_guard lock(m_mutex);
           return m_catalogue.takeChange();
-      })
+      }),
+      m_devices(m_options.device)
 { }
 
 DiscoverySession::~DiscoverySession()
@@ -47,9 +52,11 @@ void DiscoverySession::stop()
 {
     markEnded();
     m_wakeEvent.signal();
+    m_devices.beginClose(); // The cameras and the producers are closed at the same time.
     m_notifier.stop();
     if (m_thread.joinable())
         m_thread.join();
+    m_devices.close();
 }
 
 void DiscoverySession::markEnded()
@@ -168,6 +175,17 @@ DiscoverySession::SearchResult DiscoverySession::searchInterface(
     return {search.isResponsive() ? CvxErrorNotAvailable : CvxErrorTimeout, nullptr};
 }
 
+CvxResult DiscoverySession::openDevice(std::size_t producer, const std::string &interfaceId,
+    const DeviceRecord &device, CvxAccess access, std::shared_ptr<Device> &opened)
+{
+    DeviceTarget target{{}, interfaceId, device.id, access, cameraLabel(device)};
+    {
+        const std::lock_guard lock(m_mutex);
+        target.producerPath = m_producerPaths.at(producer);
+    }
+    return m_devices.open(target, opened);
+}
+
 // ---- The session's thread ----------------------------------------------------------------------------
 
 void DiscoverySession::run()
@@ -212,6 +230,7 @@ std::vector<std::string> DiscoverySession::findProducerPaths()
             m_catalogue.addProducer(weak_from_this(), path);
         const SearchState::Intervals intervals{m_options.pollInterval, m_options.listReuse,
             m_options.interfaceReuse, m_options.shortSearch < m_options.backgroundSearch};
+        m_producerPaths = paths;
         m_searches.resize(paths.size(), SearchState(intervals));
         m_areProducersKnown = true;
     }

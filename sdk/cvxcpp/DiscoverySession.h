@@ -6,6 +6,7 @@
 #include "sdk/cvxcpp/ObserverNotifier.h"
 #include "sdk/cvxcpp/SearchState.h"
 #include "sdk/cvxcpp/SystemOptions.h"
+#include "sdk/device/OpenDevices.h"
 #include "sdk/process/WakeEvent.h"
 
 #include <atomic>
@@ -29,7 +30,8 @@ public:
     ~DiscoverySession() override;
 
     void start(); ///< Throws std::system_error if no thread can be started.
-    void stop(); ///< Wakes all callers, ends the hosts, and blocks until no observer is being called.
+    /// Wakes all callers, closes all devices, ends the hosts, and blocks until no observer is being called.
+    void stop();
 
     /// Starts a short search, unless the last list is very new or a search is running, and returns all known
     /// cameras. Blocks for at most SystemOptions::refreshTimeout if the background searches have kept the
@@ -39,6 +41,9 @@ public:
 
     RunningFlag runningFlag() const override { return m_isRunning; }
     SearchResult searchInterface(std::size_t producer, const std::string &interfaceId) override;
+    CvxCPP::CvxResult openDevice(std::size_t producer, const std::string &interfaceId,
+        const DeviceRecord &device, CvxCPP::CvxAccess access,
+        std::shared_ptr<CvxCPP::Device> &opened) override;
 
     ObserverNotifier &notifier() { return m_notifier; }
 
@@ -83,11 +88,13 @@ private:
     const WakeEvent m_wakeEvent; // Wakes the session's thread when there is a request or the session ends.
     std::thread m_thread;
     ObserverNotifier m_notifier;
+    OpenDevices m_devices;
     const std::shared_ptr<std::atomic<bool>> m_isRunning = std::make_shared<std::atomic<bool>>(true);
 
     std::mutex m_mutex; // Guards all members below, and changes of m_isRunning.
     std::condition_variable m_changed; // Wakes the waiting callers when a reply arrives.
     CameraCatalogue m_catalogue;
+    std::vector<std::string> m_producerPaths; // Contains one element for each producer.
     std::vector<SearchState> m_searches; // Contains one element for each producer.
     unsigned m_stepCount = 0; // Number of times that the thread has read all messages of the hosts.
     bool m_areProducersKnown = false;

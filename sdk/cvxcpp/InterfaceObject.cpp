@@ -2,6 +2,7 @@
 
 #include "sdk/cvxcpp/ApiBoundary.h"
 #include "sdk/cvxcpp/TextValue.h"
+#include "sdk/device/CameraLabel.h"
 
 #include <algorithm>
 #include <string_view>
@@ -89,4 +90,13 @@ CvxError InterfaceObject::selectedField(std::string DeviceRecord::*field, char *
     if (m_record->devices.empty())
         return CvxErrorNotAvailable;
     return copyText(m_record->devices[m_selected].*field, buffer, size);
+}
+
+CvxResult InterfaceObject::openDevice(
+    const DeviceRecord &device, CvxAccess access, std::shared_ptr<Device> &opened)
+{
+    const auto source = m_source.lock();
+    if (!source)
+        return {CvxErrorNotStarted, cameraLabel(device) + ": The camera system does not run."};
+    return source->openDevice(m_producer, m_id, device, access, opened);
 }

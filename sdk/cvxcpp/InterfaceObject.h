@@ -32,6 +32,10 @@ public:
     CvxCPP::CvxError select(long index);
     CvxCPP::CvxError selectedField(std::string DeviceRecord::*field, char *buffer, unsigned &size) const;
 
+    /// Opens a device of this interface for CvxCPP::Camera::Open().
+    CvxCPP::CvxResult openDevice(
+        const DeviceRecord &device, CvxCPP::CvxAccess access, std::shared_ptr<CvxCPP::Device> &opened);
+
 private:
     const std::weak_ptr<InterfaceSource> m_source;
     const InterfaceSource::RunningFlag m_isRunning;

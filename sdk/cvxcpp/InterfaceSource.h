@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CvxCPP/CvxCPP.h"
+#include "CvxCPP/Device.h"
 #include "sdk/protocol/CameraRecords.h"
 
 #include <atomic>
@@ -28,6 +28,11 @@ public:
     /// Searches one interface of a producer, unless a search of this interface has ended very recently. If
     /// the producer does not reply in time, returns the result of the previous search.
     virtual SearchResult searchInterface(std::size_t producer, const std::string &interfaceId) = 0;
+
+    /// Opens a device of this producer; see CvxCPP::Camera::Open().
+    virtual CvxCPP::CvxResult openDevice(std::size_t producer, const std::string &interfaceId,
+        const DeviceRecord &device, CvxCPP::CvxAccess access, std::shared_ptr<CvxCPP::Device> &opened)
+        = 0;
 
 protected:
     InterfaceSource() = default;

@@ -31,6 +31,7 @@ SystemOptions SystemOptions::forLibraryDirectory(const std::string &libraryDirec
     const std::filesystem::path directory(libraryDirectory);
     SystemOptions options;
     options.hostProgram = (directory / "CvxProducerHost").string();
+    options.device.hostProgram = (directory / "CvxCameraHost").string();
     options.installRoot = directory.parent_path().string();
     options.configurationFile = (directory / "CvxC.xml").string();
     options.report = reportOnStandardError;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/device/DeviceOptions.h"
 #include "sdk/process/Timing.h"
 
 #include <functional>
@@ -27,6 +28,8 @@ struct SystemOptions
     Milliseconds closeTimeout{1500}; ///< Time that a host has to close its producer and exit.
     Milliseconds searchEndTimeout{150}; ///< At the end, time that a running search has to end.
     Milliseconds notificationHold{250}; ///< Delay after a camera list was returned; see NotificationHold.
+
+    DeviceOptions device; ///< The options of opened cameras.
 
     /// Called with one line about a failing producer, on a thread of the system.
     std::function<void(const std::string &)> report;

@@ -175,6 +175,9 @@ constexpr std::size_t PAYLOAD_TYPE_IMAGE = 1;
 constexpr std::size_t PAYLOAD_TYPE_RAW_DATA = 2;
 constexpr std::size_t PAYLOAD_TYPE_FILE = 3;
 constexpr std::size_t PAYLOAD_TYPE_CHUNK_DATA = 4; // Often an image with chunks; deprecated in 1.5.
+constexpr std::size_t PAYLOAD_TYPE_JPEG = 5; // since 1.4
+constexpr std::size_t PAYLOAD_TYPE_JPEG2000 = 6; // since 1.4
+constexpr std::size_t PAYLOAD_TYPE_H264 = 7; // since 1.4
 constexpr std::size_t PAYLOAD_TYPE_CHUNK_ONLY = 8; // since 1.4
 constexpr std::size_t PAYLOAD_TYPE_MULTI_PART = 10; // since 1.5
 

@@ -1,5 +1,10 @@
 #include "sdk/gige/GigEVisionSource.h"
 
+#include "sdk/gige/GigECamera.h"
+
+#include <algorithm>
+#include <arpa/inet.h>
+
 namespace {
 
 /// Returns vendor, model and serial number. If all of them are empty, returns the ID.
@@ -55,6 +60,22 @@ std::vector<DeviceRecord> GigEVisionSource::updateDevices(
     for (const ListedCamera &camera : m_discovery.cameras(interfaceId, timeout))
         devices.push_back(toRecord(camera));
     return devices;
+}
+
+std::unique_ptr<OpenCamera> GigEVisionSource::openCamera(
+    const std::string &interfaceId, const std::string &deviceId, GenTL::DEVICE_ACCESS_FLAGS access)
+{
+    const std::vector<ListedCamera> cameras = m_discovery.cameras(interfaceId, {});
+    const auto camera = std::find_if(cameras.begin(), cameras.end(),
+        [&deviceId](const ListedCamera &candidate) { return candidate.id == deviceId; });
+    if (camera == cameras.end())
+        throw GenTlError(GenTL::GC_ERR_INVALID_ID, "The camera " + deviceId + " does not answer any more.");
+    const std::string name = displayName(*camera);
+    if (!camera->isReachable)
+        throw GenTlError(GenTL::GC_ERR_ACCESS_DENIED,
+            name + " cannot be reached: its address " + ipv4ToString(camera->data.address)
+                + " is not in the subnet of " + interfaceId + '.');
+    return openGigECamera({name, ntohl(inet_addr(interfaceId.c_str())), camera->data.address}, access);
 }
 
 int GigEVisionSource::listChangedDescriptor() const

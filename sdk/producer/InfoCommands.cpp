@@ -6,10 +6,6 @@ using namespace GenTL;
 
 namespace {
 
-// The version of the GenTL standard that each of our producers reports.
-constexpr std::uint32_t genTlMajor = 1;
-constexpr std::uint32_t genTlMinor = 5;
-
 GC_ERROR failOnlyWhenOpen()
 {
     return fail(GC_ERR_NOT_AVAILABLE, "Only an open device reports this.");

@@ -36,6 +36,40 @@ GC_ERROR InfoOutput::writeUint32(std::uint32_t value) const
     return write(INFO_DATATYPE_UINT32, &value, sizeof value);
 }
 
+GC_ERROR InfoOutput::writeUint64(std::uint64_t value) const
+{
+    return write(INFO_DATATYPE_UINT64, &value, sizeof value);
+}
+
+GC_ERROR InfoOutput::writeSize(std::size_t value) const
+{
+    return write(INFO_DATATYPE_SIZET, &value, sizeof value);
+}
+
+GC_ERROR InfoOutput::writePointer(void *value) const
+{
+    return write(INFO_DATATYPE_PTR, &value, sizeof value);
+}
+
+GC_ERROR InfoOutput::writeBool8(bool value) const
+{
+    const bool8_t byte = value ? 1 : 0;
+    return write(INFO_DATATYPE_BOOL8, &byte, sizeof byte);
+}
+
+GC_ERROR InfoOutput::writeBytes(const void *data, std::size_t size) const
+{
+    return write(INFO_DATATYPE_BUFFER, data, size);
+}
+
+GC_ERROR InfoOutput::writeStringList(const std::vector<std::string> &values) const
+{
+    std::string list;
+    for (const std::string &value : values)
+        list.append(value.c_str(), std::strlen(value.c_str()) + 1);
+    return write(INFO_DATATYPE_STRINGLIST, list.c_str(), list.size() + 1);
+}
+
 GC_ERROR InfoOutput::write(INFO_DATATYPE type, const void *value, std::size_t size) const
 {
     if (m_buffer && *m_size < size)

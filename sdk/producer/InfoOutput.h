@@ -3,6 +3,7 @@
 #include "sdk/gentl/GenTL.h"
 
 #include <string>
+#include <vector>
 
 /// The output arguments of an "ID" or "Info" function. The class implements the two-call protocol of GenTL: a
 /// call without a buffer returns the size of the value, a call with a buffer returns the value itself. The
@@ -25,6 +26,13 @@ public:
     GenTL::GC_ERROR writeString(const std::string &value) const;
     GenTL::GC_ERROR writeInt32(std::int32_t value) const;
     GenTL::GC_ERROR writeUint32(std::uint32_t value) const;
+    GenTL::GC_ERROR writeUint64(std::uint64_t value) const;
+    GenTL::GC_ERROR writeSize(std::size_t value) const;
+    GenTL::GC_ERROR writePointer(void *value) const;
+    GenTL::GC_ERROR writeBool8(bool value) const;
+    GenTL::GC_ERROR writeBytes(const void *data, std::size_t size) const;
+    /// Writes the strings one after another, each with its NUL, and one more NUL.
+    GenTL::GC_ERROR writeStringList(const std::vector<std::string> &values) const;
 
 private:
     GenTL::GC_ERROR write(GenTL::INFO_DATATYPE type, const void *value, std::size_t size) const;

@@ -31,8 +31,8 @@ private:
 struct FilledImage
 {
     std::size_t sizeFilled = 0; ///< Bytes that were written.
-    std::size_t dataSize
-        = 0; ///< Bytes that the camera has sent; more than the buffer holds if it is too small.
+    /// Bytes that the camera has sent; more than the buffer holds if it is too small.
+    std::size_t dataSize = 0;
     std::size_t imageOffset = 0;
     std::size_t width = 0;
     std::size_t height = 0;
@@ -74,7 +74,8 @@ public:
     virtual void countUnderrun(std::uint64_t images) = 0;
 };
 
-/// The images of one camera. Only one stream uses a source at a time.
+/// The images of one camera. Only one stream uses a source at a time. Any thread may call the functions, also
+/// while another thread accesses registers; start() and stop() are called in turns, one at a time.
 class ImageSource
 {
 public:
@@ -86,6 +87,9 @@ public:
     /// Returns the smallest number of buffers that have to be announced before start().
     virtual std::size_t minBuffers() const { return 1; }
 
+    /// Returns the largest number of chunks that a buffer can contain, or nothing if it is unknown.
+    virtual std::optional<std::size_t> maxChunks() const { return std::nullopt; }
+
     /// Begins to fill buffers of the queue, on threads of the source, until stop(). `queue` exists until
     /// then. May throw GenTlError.
     virtual void start(BufferQueue &queue) = 0;
@@ -94,7 +98,8 @@ public:
     /// was delivered or given back. If `isImmediate`, an image in progress is not waited for.
     virtual void stop(bool isImmediate) = 0;
 
-    /// Called after a buffer was put into the input pool while the source is started.
+    /// Called after buffers were put into the input pool while the source is started. A call may also come
+    /// during start() and stop(), and shortly after stop().
     virtual void bufferQueued() { }
 
     /// Returns the number of images that the source has begun since it was created, and the number of images
@@ -103,8 +108,9 @@ public:
     virtual std::uint64_t lostImages() const = 0;
 };
 
-/// A camera that the consumer has opened. The consumer may call the functions from several threads, one at a
-/// time. The destructor closes the camera.
+/// A camera that the consumer has opened. read() and write() are called from several threads, one at a time.
+/// accessStatus() is called at any time. The other functions are called once, before the first access. The
+/// destructor closes the camera.
 class OpenCamera
 {
 public:

@@ -2,11 +2,12 @@
 
 #include "sdk/producer/InfoCommands.h"
 #include "sdk/producer/LastError.h"
+#include "sdk/producer/SystemModule.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <dlfcn.h>
 #include <new>
+#include <utility>
 
 using namespace GenTL;
 
@@ -50,12 +51,15 @@ GC_ERROR Producer::initialise()
 
 GC_ERROR Producer::close()
 {
-    const std::lock_guard lock(m_mutex);
-    if (!m_source)
-        return failNotInitialised();
-    closeModules();
-    m_source.reset();
-    std::filesystem::path().swap(m_file); // An assignment would keep the memory, which unloading would leak.
+    std::shared_ptr<DeviceSource> source;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!m_source)
+            return failNotInitialised();
+        source = std::move(m_source);
+        std::filesystem::path().swap(m_file); // An assignment would keep memory, which unloading would leak.
+    }
+    m_handles.closeAll();
     return GC_ERR_SUCCESS;
 }
 
@@ -83,98 +87,22 @@ int Producer::listChangedDescriptor() const
 
 GC_ERROR Producer::openSystem(TL_HANDLE *handle)
 {
-    const std::lock_guard lock(m_mutex);
-    if (!m_source)
-        return failNotInitialised();
-    if (!handle)
-        return failMissingArgument();
-    if (m_system)
-        return fail(GC_ERR_RESOURCE_IN_USE, "The system module is open already.");
-    m_system = std::make_shared<SystemModule>(m_source);
-    m_systemHandle = newHandle();
-    *handle = m_systemHandle;
-    return GC_ERR_SUCCESS;
+    std::shared_ptr<DeviceSource> source;
+    std::filesystem::path file;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!m_source)
+            return failNotInitialised();
+        source = m_source;
+        file = m_file;
+    }
+    return m_handles.open(
+        nullptr, "The system", handle, [&] { return std::make_shared<SystemModule>(source, file); });
 }
 
-GC_ERROR Producer::closeSystem(TL_HANDLE handle)
+GC_ERROR Producer::failHandle(const char *expected) const
 {
-    const std::lock_guard lock(m_mutex);
-    if (!m_source)
-        return failNotInitialised();
-    if (!m_system || handle != m_systemHandle)
-        return fail(GC_ERR_INVALID_HANDLE, "This is not the handle of the open system module.");
-    closeModules();
-    return GC_ERR_SUCCESS;
-}
-
-GC_ERROR Producer::openInterface(
-    const std::string &id, const std::optional<InterfaceRecord> &record, IF_HANDLE *handle)
-{
-    const std::lock_guard lock(m_mutex);
-    if (!m_source)
-        return failNotInitialised();
-    if (!handle)
-        return failMissingArgument();
-    if (isOpen(id))
-        return fail(GC_ERR_RESOURCE_IN_USE, "The interface \"" + id + "\" is open already.");
-    if (!record)
-        return failUnknownId(id);
-    const IF_HANDLE opened = newHandle();
-    m_interfaces.emplace(opened, std::make_shared<InterfaceModule>(m_source, *record));
-    *handle = opened;
-    return GC_ERR_SUCCESS;
-}
-
-GC_ERROR Producer::closeInterface(IF_HANDLE handle)
-{
-    const std::lock_guard lock(m_mutex);
-    if (!m_source)
-        return failNotInitialised();
-    if (m_interfaces.erase(handle) == 0)
-        return fail(GC_ERR_INVALID_HANDLE, "This is not the handle of an open interface.");
-    return GC_ERR_SUCCESS;
-}
-
-std::shared_ptr<SystemModule> Producer::openedSystem() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_system;
-}
-
-TL_HANDLE Producer::systemHandle() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_systemHandle;
-}
-
-std::shared_ptr<SystemModule> Producer::system(TL_HANDLE handle) const
-{
-    const std::lock_guard lock(m_mutex);
-    return handle == m_systemHandle ? m_system : nullptr;
-}
-
-std::shared_ptr<InterfaceModule> Producer::interface(IF_HANDLE handle) const
-{
-    const std::lock_guard lock(m_mutex);
-    const auto entry = m_interfaces.find(handle);
-    return entry != m_interfaces.end() ? entry->second : nullptr;
-}
-
-bool Producer::isOpen(const std::string &interfaceId) const
-{
-    return std::any_of(m_interfaces.begin(), m_interfaces.end(),
-        [&](const auto &entry) { return entry.second->openedAs.id == interfaceId; });
-}
-
-void *Producer::newHandle()
-{
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the handle is never dereferenced.
-    return reinterpret_cast<void *>(++m_lastHandle);
-}
-
-void Producer::closeModules()
-{
-    m_interfaces.clear();
-    m_system.reset();
-    m_systemHandle = GENTL_INVALID_HANDLE;
+    if (const GC_ERROR error = requireInitialised())
+        return error;
+    return fail(GC_ERR_INVALID_HANDLE, std::string("This is not the handle of ") + expected + ".");
 }

@@ -31,7 +31,7 @@ public:
 
     /// Returns null if there is no entry with this index. The pointer is valid as long as the snapshot
     /// exists.
-    const Record *at(std::uint32_t index) const
+    const Record *at(std::uint64_t index) const
     {
         return index < m_records.size() ? &m_records[index] : nullptr;
     }

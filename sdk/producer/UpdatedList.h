@@ -80,6 +80,21 @@ public:
         return record ? std::optional(*record) : std::nullopt;
     }
 
+    /// Returns the number of entries, which is 0 before the first update.
+    std::uint32_t size() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_records.count();
+    }
+
+    /// Returns a copy of the entry with this index, or nothing if there is no such entry.
+    std::optional<Record> at(std::uint64_t index) const
+    {
+        const std::lock_guard lock(m_mutex);
+        const Record *const record = m_records.at(index);
+        return record ? std::optional(*record) : std::nullopt;
+    }
+
 private:
     mutable std::mutex m_mutex; // Guards the members below.
     bool m_isUpdated = false;

@@ -82,7 +82,8 @@ std::optional<DeviceRecord> DeviceReader::readDevice(std::string id)
         if (isGone(*problem))
             return std::nullopt;
     }
-    // A missing serial number is not a problem, because many producers do not report one.
+    // A missing value is not a problem, because many producers do not report these two.
     m_strings.readDeviceInfo(m_interface, device.id, GenTL::DEVICE_INFO_SERIAL_NUMBER, device.serial);
+    m_strings.readDeviceInfo(m_interface, device.id, GenTL::DEVICE_INFO_USER_DEFINED_NAME, device.userName);
     return device;
 }

@@ -8,7 +8,8 @@ namespace {
 
 auto fieldsOf(const DeviceRecord &device)
 {
-    return std::tie(device.id, device.vendor, device.model, device.serial, device.name, device.type);
+    return std::tie(
+        device.id, device.vendor, device.model, device.serial, device.name, device.type, device.userName);
 }
 
 auto fieldsOf(const InterfaceRecord &interface)
@@ -33,5 +34,5 @@ bool operator<(const DeviceRecord &a, const DeviceRecord &b)
     return fieldsOf(a) < fieldsOf(b);
 }
 
-CORVIX_JSON_CONVERSIONS(DeviceRecord, id, vendor, model, serial, name, type)
+CORVIX_JSON_CONVERSIONS(DeviceRecord, id, vendor, model, serial, name, type, userName)
 CORVIX_JSON_CONVERSIONS(InterfaceRecord, number, id, name, type, devices)

@@ -15,6 +15,7 @@ struct DeviceRecord
     std::string serial;
     std::string name;
     std::string type; ///< GenTL transport layer type, for example "GEV".
+    std::string userName{}; ///< The name that a user has stored in the camera.
 };
 
 /// One interface of a producer, with its devices.

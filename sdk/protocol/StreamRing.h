@@ -24,6 +24,7 @@ struct ImageRecord
     std::uint64_t imageOffset = 0; ///< Start of the picture in the buffer.
     std::uint64_t imageSize = 0; ///< Received bytes of the picture.
     std::uint64_t timestamp = 0; ///< Nanoseconds.
+    std::uint64_t receivedAt = 0; ///< Nanoseconds of CLOCK_MONOTONIC after EventGetData returned the buffer.
     std::uint64_t frameId = 0;
     std::uint32_t width = 0;
     std::uint32_t height = 0;
@@ -75,6 +76,10 @@ public:
 
     // pop() takes the oldest filled buffer; several threads may call it. The result may be any number,
     // because the host may have damaged the memory.
+
+    /// Returns false if the queue has numbers of entries that it cannot have, so that the host has damaged
+    /// it.
+    bool isPlausible() const;
 
     /// Waits until the queue is not empty or wakeProgram() is called, at most for `timeout`. May return
     /// early. If `signals` differs from the number of calls of wakeProgram(), returns at once.

@@ -3,8 +3,10 @@
 #include "sdk/producer/DeviceSource.h"
 #include "sdk/simulator/ConfigurationFile.h"
 
+#include <memory>
+
 /// Reports the interfaces and devices of the configuration file. Every update reads the file again if the
-/// file has changed.
+/// file has changed. An open camera is lost when it disappears from the file.
 class SimulatedSource final : public DeviceSource
 {
 public:
@@ -14,7 +16,9 @@ public:
     std::vector<InterfaceRecord> updateInterfaces() override;
     std::vector<DeviceRecord> updateDevices(
         const std::string &interfaceId, std::chrono::milliseconds timeout) override;
+    std::unique_ptr<OpenCamera> openCamera(const std::string &interfaceId, const std::string &deviceId,
+        GenTL::DEVICE_ACCESS_FLAGS access) override;
 
 private:
-    ConfigurationFile m_file;
+    const std::shared_ptr<ConfigurationFile> m_file; // Open cameras use the file too.
 };

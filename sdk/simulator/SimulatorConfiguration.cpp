@@ -1,5 +1,6 @@
 #include "sdk/simulator/SimulatorConfiguration.h"
 
+#include <limits>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
@@ -46,6 +47,49 @@ std::string joinedDisplayName(const DeviceRecord &device)
         name += *part;
     }
     return name;
+}
+
+/// Returns the integer under a key, or nothing if the key is absent.
+template <typename Integer>
+std::optional<Integer> optionalInteger(
+    const Json &object, const char *key, Integer min, Integer max, const std::string &place)
+{
+    const auto value = object.find(key);
+    if (value == object.end())
+        return std::nullopt;
+    const bool isInRange = value->is_number_unsigned()
+        && value->get<std::uint64_t>() >= static_cast<std::uint64_t>(min)
+        && value->get<std::uint64_t>() <= static_cast<std::uint64_t>(max);
+    if (!isInRange)
+        throw std::runtime_error(place + ": \"" + key + "\" is not an integer from " + std::to_string(min)
+            + " to " + std::to_string(max));
+    return value->get<Integer>();
+}
+
+/// Returns the Boolean value under a key, or nothing if the key is absent.
+std::optional<bool> optionalBoolean(const Json &object, const char *key, const std::string &place)
+{
+    const auto value = object.find(key);
+    if (value == object.end())
+        return std::nullopt;
+    if (!value->is_boolean())
+        throw std::runtime_error(place + ": \"" + key + "\" is neither true nor false");
+    return value->get<bool>();
+}
+
+SensorKeys parseSensor(const Json &object, const std::string &place)
+{
+    constexpr int minSize = 64; // Pixels.
+    constexpr int maxSize = 32768;
+    SensorKeys keys;
+    keys.width = optionalInteger(object, "sensorWidth", minSize, maxSize, place);
+    keys.height = optionalInteger(object, "sensorHeight", minSize, maxSize, place);
+    keys.isColor = optionalBoolean(object, "color", place);
+    keys.isLineScan = optionalBoolean(object, "lineScan", place);
+    keys.taps = optionalInteger(object, "taps", 1, 8, place);
+    keys.seed
+        = optionalInteger<std::uint64_t>(object, "seed", 0, std::numeric_limits<std::uint64_t>::max(), place);
+    return keys;
 }
 
 DeviceRecord parseDevice(const Json &object, const std::string &interfaceTlType, const std::string &place)
@@ -103,6 +147,7 @@ SimulatedInterface parseInterface(const Json &object, const std::string &place)
         forEachElement(
             object, "devices", place + ".", [&](const Json &device, const std::string &devicePlace) {
                 parsed.devices.push_back(parseDevice(device, record.tlType, devicePlace));
+                parsed.sensors.emplace(parsed.devices.back().id, parseSensor(device, devicePlace));
                 return parsed.devices.back().id;
             });
     return parsed;

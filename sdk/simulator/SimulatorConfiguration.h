@@ -2,14 +2,29 @@
 
 #include "sdk/producer/DeviceSource.h"
 
+#include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
+
+/// What the configuration file says about the sensor of a device.
+struct SensorKeys
+{
+    std::optional<int> width; ///< Pixels.
+    std::optional<int> height;
+    std::optional<bool> isColor;
+    std::optional<bool> isLineScan;
+    std::optional<int> taps;
+    std::optional<std::uint64_t> seed; ///< Decides where the flaws of the sensor are.
+};
 
 /// A simulated interface and the devices that are connected to it.
 struct SimulatedInterface
 {
     InterfaceRecord record;
     std::vector<DeviceRecord> devices;
+    std::map<std::string, SensorKeys> sensors = {}; ///< By the ID of the device.
 };
 
 /// Everything that the simulator reports.
@@ -34,13 +49,19 @@ SimulatorConfiguration defaultConfiguration();
 ///                         "serial": "…",
 ///                         "userName": "…",
 ///                         "displayName": "…",  if empty: user name, else vendor, model and ID
-///                         "tlType": "…"        the interface's tlType if absent or empty
+///                         "tlType": "…",       the interface's tlType if absent or empty
+///                         "sensorWidth": 2448, pixels; this and the next five follow from the model's name
+///                         "sensorHeight": 2048,     and from tlType if absent
+///                         "color": false,      true for a sensor with colour filters
+///                         "lineScan": false,   true for a sensor of one line
+///                         "taps": 1,           number of stripes that are read out separately, 1 to 8
+///                         "seed": 1            decides where the flaws of the sensor are
 ///                     }
 ///                 ]
 ///             }
 ///         ]
 ///     }
 ///
-/// All values are strings, even serial numbers. Other keys are ignored. Throws std::runtime_error if the text
+/// Serial numbers are strings. Other keys are ignored. Throws std::runtime_error if the text
 /// is invalid; the message names the place of the error. Any thread may call this function.
 SimulatorConfiguration parseConfiguration(const std::string &text);

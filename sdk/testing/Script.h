@@ -51,6 +51,7 @@ struct CameraRecord
     StringField name;
     StringField serialNumber;
     StringField extendedId{};
+    StringField userName{};
     std::uint32_t type = CvxCPP::CvxTransportLayerUnknown; ///< May be a value that the SDK does not define.
     std::shared_ptr<InterfaceRecord> iface{}; ///< If null, GetInterface() succeeds and returns null.
     bool nullHandle = false; ///< GetCameras() writes a null pointer for this camera.
@@ -70,6 +71,7 @@ enum class Function
     GetModel,
     GetName,
     GetSerialNumber,
+    GetUserName,
     GetInterfaceType,
     GetInterface,
     GetFeatureByName,

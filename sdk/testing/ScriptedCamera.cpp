@@ -101,6 +101,11 @@ public:
         return read(Function::GetSerialNumber, buffer, size);
     }
 
+    CvxError GetUserName(char *buffer, unsigned &size) const override
+    {
+        return read(Function::GetUserName, buffer, size);
+    }
+
     CvxError GetInterfaceType(CvxTransportLayerType &type) const override
     {
         if (const CvxError error = answer({Function::GetInterfaceType, m_record.id.value}))
@@ -128,7 +133,8 @@ private:
         static const std::map<Function, StringField CameraRecord::*> fields{
             {Function::GetId, &CameraRecord::id}, {Function::GetExtendedId, &CameraRecord::extendedId},
             {Function::GetModel, &CameraRecord::model}, {Function::GetName, &CameraRecord::name},
-            {Function::GetSerialNumber, &CameraRecord::serialNumber}};
+            {Function::GetSerialNumber, &CameraRecord::serialNumber},
+            {Function::GetUserName, &CameraRecord::userName}};
         return readString(function, m_record.id.value, m_record.*fields.at(function), buffer, size);
     }
 

@@ -2,6 +2,7 @@
 
 #include "sdk/aravis/Usb3VisionSource.h"
 
+#include "tests/aravis/FakeCameraRegisters.h"
 #include "tests/support/DescriptorLimit.h"
 
 #include <algorithm>
@@ -21,6 +22,20 @@ TEST(Usb3VisionSource, camerasAreReportedOnTheUsbHost)
     EXPECT_EQ(source.updateDevices("usb", {}),
         (std::vector<DeviceRecord>{{"Fake_1", "Aravis", "Fake", "U3V", "Aravis Fake 1", "", "1",
             GenTL::DEVICE_ACCESS_STATUS_UNKNOWN, ""}}));
+}
+
+TEST(Usb3VisionSource, cameraOfTheListIsOpened)
+{
+    Usb3VisionSource source;
+    const auto camera = source.openCamera("usb", "Fake_1", GenTL::DEVICE_ACCESS_CONTROL);
+    writeNumber(*camera, FakeCameraRegister::width, 200);
+    EXPECT_EQ(source.updateDevices("usb", {}).size(), 1U);
+    EXPECT_EQ(readNumber(*camera, FakeCameraRegister::width), 200U) << "a search does not disturb the camera";
+    const auto open = [&](const char *id, GenTL::DEVICE_ACCESS_FLAGS access) {
+        return errorOf([&] { source.openCamera("usb", id, access); });
+    };
+    EXPECT_EQ(open("Fake_2", GenTL::DEVICE_ACCESS_CONTROL), GenTL::GC_ERR_INVALID_ID);
+    EXPECT_EQ(open("Fake_1", GenTL::DEVICE_ACCESS_READONLY), GenTL::GC_ERR_NOT_IMPLEMENTED);
 }
 
 TEST(Usb3VisionSource, listIsEmptyWhileUsbCannotBeSearched)

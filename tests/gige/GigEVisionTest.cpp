@@ -2,17 +2,15 @@
 // namespace that contains only lo, the CameraNetworks tests in a namespace that with-camera-networks sets up.
 
 #include "sdk/gentl/ListChangeExtension.h"
+#include "tests/gige/FakeCamera.h"
 #include "tests/producer/ProducerSession.h"
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <map>
 #include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace GenTL;
@@ -94,34 +92,6 @@ private:
     std::map<std::string, std::string> m_interfaces; // The interface ID of every serial number.
 };
 
-/// Runs Aravis's fake GigE Vision camera as a process with the address 127.0.0.1 and the serial number LOOP1.
-class FakeCamera
-{
-public:
-    FakeCamera()
-    {
-        const char *const arguments[] = {"setpriv", "--pdeathsig", "KILL", FAKE_CAMERA_PROGRAM, "--interface",
-            "127.0.0.1", "--serial", "LOOP1", nullptr};
-        const int error = posix_spawnp(
-            &m_process, arguments[0], nullptr, nullptr, const_cast<char *const *>(arguments), environ);
-        EXPECT_EQ(error, 0);
-        if (error != 0)
-            m_process = -1;
-    }
-    ~FakeCamera()
-    {
-        if (m_process < 0)
-            return;
-        kill(m_process, SIGKILL);
-        waitpid(m_process, nullptr, 0);
-    }
-    FakeCamera(const FakeCamera &) = delete;
-    FakeCamera &operator=(const FakeCamera &) = delete;
-
-private:
-    pid_t m_process = -1; // Negative if the program could not be started.
-};
-
 const Cameras loopbackCamera{{"127.0.0.1", "LOOP1"}};
 const Cameras allCameras{{"10.77.1.1", "CARD1"}, {"10.77.2.1", "CARD2"}, {anyInterface, "STRAY"}};
 
@@ -132,7 +102,7 @@ TEST(GigEVision, reconnectedCameraHasTheSameId)
     CameraLister lister;
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(lister.await({}), Cameras{});
-        const FakeCamera camera;
+        const FakeCamera camera({"--serial", "LOOP1"});
         ASSERT_EQ(lister.await(loopbackCamera), loopbackCamera);
         // The hardware address of the fake camera is all zeros, so the ID consists of other fields.
         EXPECT_EQ(lister.session().deviceIds(lister.handle("127.0.0.1")).at(0), "Aravis-Fake-LOOP1");

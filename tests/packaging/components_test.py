@@ -14,14 +14,14 @@ BUILD, STAGE = sys.argv[1:]
 # For each component, the patterns of the required files, followed by the patterns of the optional files.
 COMPONENTS = {
     "launcher": (
-        [r"bin/CorvixLauncher", r"bin/CvxProducerHost", r"bin/libCvxCPP\.so[.\d]*", r"bin/CvxC\.xml",
+        [r"bin/CorvixLauncher", r"bin/cvxctl", r"bin/CvxProducerHost", r"bin/CvxCameraHost", r"bin/libCvxCPP\.so[.\d]*", r"bin/CvxC\.xml",
          r"doc/index\.html", r"doc/LICENSE", r"doc/THIRD-PARTY\.md", r"doc/CHANGELOG\.md",
          r"lib/udev/rules\.d/60-corvix-usb3-vision\.rules", r"share/applications/[^/]*\.desktop",
          r"share/metainfo/[^/]*\.metainfo\.xml", r"share/icons/hicolor/scalable/apps/[^/]*\.svg"],
         [r"cti/fallback/Universal(GEV|U3V)\.cti", r"doc/.*", r"share/icons/hicolor/[^/]*/apps/[^/]*"]),
     "simulator": ([r"cti/CorvixCameraSimulator\.cti", r"cti/CorvixCameraSimulator\.json"], []),
     "sdk-dev": (
-        [r"api/include/CvxCPP/CvxCPP\.h", r"api/examples/list-cameras/(main\.cpp|CMakeLists\.txt)",
+        [r"api/include/CvxCPP/CvxCPP\.h", r"api/examples/(list-cameras|save-image)/(main\.cpp|CMakeLists\.txt)",
          r"api/lib/cmake/CvxCPP/CvxCPPConfig\.cmake", r"api/lib/cmake/CvxCPP/CvxCPPTargets\.cmake"],
         [r"api/include/CvxCPP/[^/]*\.h", r"api/lib/cmake/CvxCPP/[^/]*\.cmake", r"bin/libCvxCPP\.so"]),
     "demo": ([r"bin/CvxToolStandIn", r"bin/ImageViewer"], [r"bin/[A-Z]\w+"]),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/gentl/GenTL.h"
+#include "sdk/gentl/GenTLDevice.h"
 
 #include <dlfcn.h>
 #include <filesystem>
@@ -14,6 +14,16 @@
     X(TLUpdateInterfaceList) X(TLGetNumInterfaces) X(TLGetInterfaceID) X(TLGetInterfaceInfo) X(TLOpenInterface) \
     X(IFClose) X(IFGetInfo) X(IFUpdateDeviceList) X(IFGetNumDevices) X(IFGetDeviceID) X(IFGetDeviceInfo) \
     X(IFGetParentTL)
+
+/// Calls X(name) for each function that opened devices need.
+#define CORVIX_DEVICE_FUNCTIONS(X) \
+    X(GCReadPort) X(GCWritePort) X(GCGetPortURL) X(GCGetPortInfo) X(GCGetNumPortURLs) X(GCGetPortURLInfo) \
+    X(GCReadPortStacked) X(GCWritePortStacked) X(GCRegisterEvent) X(GCUnregisterEvent) X(EventGetData) \
+    X(EventGetDataInfo) X(EventGetInfo) X(EventFlush) X(EventKill) X(IFOpenDevice) X(DevGetPort) \
+    X(DevGetNumDataStreams) X(DevGetDataStreamID) X(DevOpenDataStream) X(DevGetInfo) X(DevClose) X(DevGetParentIF) \
+    X(DSAnnounceBuffer) X(DSAllocAndAnnounceBuffer) X(DSFlushQueue) X(DSStartAcquisition) X(DSStopAcquisition) \
+    X(DSGetInfo) X(DSGetBufferID) X(DSClose) X(DSRevokeBuffer) X(DSQueueBuffer) X(DSGetBufferInfo) \
+    X(DSGetBufferChunkData) X(DSGetParentDev) X(DSGetNumBufferParts) X(DSGetBufferPartInfo)
 // clang-format on
 
 /// Loads a producer by its path and finds each function by its name, as any consumer does.
@@ -45,7 +55,9 @@ private:
     void *const m_library; // Declared before the functions, which are found in the library.
 
 public:
-#define CORVIX_MEMBER(name) const GenTL::P##name name = reinterpret_cast<GenTL::P##name>(symbol(#name));
+#define CORVIX_MEMBER(name)                                                                                  \
+    decltype(&GenTL::name) const name = reinterpret_cast<decltype(&GenTL::name)>(symbol(#name));
     CORVIX_DISCOVERY_FUNCTIONS(CORVIX_MEMBER)
+    CORVIX_DEVICE_FUNCTIONS(CORVIX_MEMBER)
 #undef CORVIX_MEMBER
 };

@@ -68,6 +68,15 @@ std::string withoutNul(const std::string &bytes)
     return bytes.substr(0, bytes.find('\0'));
 }
 
+template <typename Value>
+Value toValue(const std::string &bytes)
+{
+    Value value{};
+    EXPECT_EQ(bytes.size(), sizeof value);
+    std::memcpy(&value, bytes.data(), std::min(bytes.size(), sizeof value));
+    return value;
+}
+
 } // namespace
 
 std::string readId(const InfoCall &call)
@@ -80,13 +89,40 @@ std::string readString(const InfoCall &call)
     return withoutNul(readBytes(call, INFO_DATATYPE_STRING));
 }
 
+std::vector<std::string> readStringList(const InfoCall &call)
+{
+    const std::string bytes = readBytes(call, INFO_DATATYPE_UNKNOWN);
+    std::vector<std::string> strings;
+    std::size_t start = 0;
+    for (std::size_t end = bytes.find('\0'); end != start && end != std::string::npos;
+         end = bytes.find('\0', start)) {
+        strings.push_back(bytes.substr(start, end - start));
+        start = end + 1;
+    }
+    EXPECT_EQ(start + 1, bytes.size()) << "one more NUL, at the end";
+    return strings;
+}
+
 std::int32_t readNumber(const InfoCall &call, INFO_DATATYPE type)
 {
-    const std::string bytes = readBytes(call, type);
-    std::int32_t number = 0;
-    EXPECT_EQ(bytes.size(), sizeof number);
-    std::memcpy(&number, bytes.data(), std::min(bytes.size(), sizeof number));
-    return number;
+    return toValue<std::int32_t>(readBytes(call, type));
+}
+
+std::uint64_t readLong(const InfoCall &call, INFO_DATATYPE type)
+{
+    return toValue<std::uint64_t>(readBytes(call, type));
+}
+
+bool readBool(const InfoCall &call)
+{
+    const auto byte = toValue<bool8_t>(readBytes(call, INFO_DATATYPE_BOOL8));
+    EXPECT_LE(byte, 1);
+    return byte != 0;
+}
+
+std::string readBuffer(const InfoCall &call)
+{
+    return readBytes(call, INFO_DATATYPE_BUFFER);
 }
 
 GC_ERROR codeOf(const InfoCall &call)

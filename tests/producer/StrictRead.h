@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 /// A callable that calls an "ID" or "Info" function with these outputs. An "ID" function ignores the type.
 using InfoCall = std::function<GenTL::GC_ERROR(GenTL::INFO_DATATYPE *type, void *buffer, std::size_t *size)>;
@@ -34,7 +35,11 @@ InfoCall idCall(Function function, Arguments... arguments)
 // A broken rule is a test failure.
 std::string readId(const InfoCall &call);
 std::string readString(const InfoCall &call);
+std::vector<std::string> readStringList(const InfoCall &call); ///< An "ID" function.
 std::int32_t readNumber(const InfoCall &call, GenTL::INFO_DATATYPE type); ///< The type has 32 bits.
+std::uint64_t readLong(const InfoCall &call, GenTL::INFO_DATATYPE type); ///< The type has 64 bits.
+bool readBool(const InfoCall &call);
+std::string readBuffer(const InfoCall &call);
 
 /// Calls without a buffer, which requests only the size, and returns the error code.
 GenTL::GC_ERROR codeOf(const InfoCall &call);

@@ -104,7 +104,8 @@ TEST_P(MalformedLine, malformedLineIsRefused)
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, MalformedLine,
-    testing::Values("", "text", "{", "[]", "null", "{}", "\xFF\xFE", std::string(100000, '['),
-        R"({"id":1,"kind":"cameraList"})", R"({"id":1,"body":{}})", R"({"kind":"cameraList","body":{}})",
+    testing::Values(R"({"id":1,"kind":"producerClosed","body":{"problems":[1e300]}})", "", "text", "{", "[]",
+        "null", "{}", "\xFF\xFE", std::string(100000, '['), R"({"id":1,"kind":"cameraList"})",
+        R"({"id":1,"body":{}})", R"({"kind":"cameraList","body":{}})",
         R"({"id":"1","kind":"cameraList","body":{}})", R"({"id":1,"kind":2,"body":{}})",
         R"({"id":1,"kind":"cameraList","body":{}} x)", "{\"id\":1,\"kind\":\"\xFF\",\"body\":{}}"));

@@ -189,6 +189,10 @@ public:
     /// Reads the serial number, which is empty if the producer reports none.
     virtual CvxError GetSerialNumber(char *buffer, unsigned &size) const = 0;
 
+    /// Reads the name that a user has stored in the camera, which is empty if there is none or if the
+    /// producer does not report it.
+    virtual CvxError GetUserName(char *buffer, unsigned &size) const = 0;
+
     /// Stores the technology that connects the camera, or CvxTransportLayerUnknown if the producer reports
     /// a technology that CvxTransportLayerType does not contain. Returns CvxErrorFailed if memory is
     /// exhausted.

@@ -24,6 +24,8 @@ struct ImageInfo
     bool isBigEndian = false; ///< True if words of 16 bits and more have their highest byte first.
     bool isComplete = true; ///< False if data of the image was lost.
     std::uint64_t timestamp = 0; ///< Nanoseconds of the camera's clock, or of ours if the camera has none.
+    /// Nanoseconds of this machine's CLOCK_MONOTONIC when the producer reported the image.
+    std::uint64_t receivedAt = 0;
     std::uint64_t frameId = 0; ///< Number of the image as the camera or the producer counts.
 };
 

@@ -1,63 +1,19 @@
 // This file defines the exported C functions that discovery needs. Each function finds the module that its
-// handle identifies and calls the list of this module. The functions that open or close a module call the
-// Producer. GenTL.h names the standard that defines what each function returns.
+// handle identifies and calls the list of this module. GenTL.h names the standard that defines what each
+// function returns.
 
 #include "sdk/gentl/ListChangeExtension.h"
+#include "sdk/producer/DeviceModule.h"
+#include "sdk/producer/Guarded.h"
 #include "sdk/producer/InfoCommands.h"
-#include "sdk/producer/LastError.h"
-#include "sdk/producer/Producer.h"
 
 #include <algorithm>
 #include <chrono>
-#include <exception>
-#include <new>
 #include <type_traits>
 
 using namespace GenTL;
 
 namespace {
-
-/// Runs the body of an exported function. Converts every exception to an error code, because the consumer may
-/// be written in C.
-template <typename Body>
-GC_ERROR guarded(Body &&body) noexcept
-{
-    try {
-        return body();
-    } catch (const std::bad_alloc &) {
-        return fail(GC_ERR_OUT_OF_MEMORY, "Out of memory.");
-    } catch (const std::exception &exception) {
-        return fail(GC_ERR_ERROR, exception.what());
-    } catch (...) {
-        return fail(GC_ERR_ERROR, "Unknown exception.");
-    }
-}
-
-/// Runs the body with the system module that the handle identifies.
-template <typename Body>
-GC_ERROR withSystem(TL_HANDLE handle, Body &&body) noexcept
-{
-    return guarded([&] {
-        if (const GC_ERROR error = Producer::instance().requireInitialised())
-            return error;
-        const std::shared_ptr<SystemModule> module = Producer::instance().system(handle);
-        return module ? body(*module)
-                      : fail(GC_ERR_INVALID_HANDLE, "This is not the handle of the open system module.");
-    });
-}
-
-/// Runs the body with the interface module that the handle identifies.
-template <typename Body>
-GC_ERROR withInterface(IF_HANDLE handle, Body &&body) noexcept
-{
-    return guarded([&] {
-        if (const GC_ERROR error = Producer::instance().requireInitialised())
-            return error;
-        const std::shared_ptr<InterfaceModule> module = Producer::instance().interface(handle);
-        return module ? body(*module)
-                      : fail(GC_ERR_INVALID_HANDLE, "This is not the handle of an open interface.");
-    });
-}
 
 /// Limits the timeout to a minute, because GENTL_INFINITE and other large values cannot be added to a time.
 std::chrono::milliseconds toTimeout(std::uint64_t milliseconds)
@@ -66,12 +22,11 @@ std::chrono::milliseconds toTimeout(std::uint64_t milliseconds)
     return std::chrono::milliseconds(std::min(milliseconds, maxTimeout));
 }
 
-/// Returns the interface's current entry in the system's list. If the list no longer contains the interface,
-/// returns the entry with which the interface was opened.
-InterfaceRecord currentRecord(const InterfaceModule &module)
+/// Returns the device that is open below the interface, or null.
+std::shared_ptr<DeviceModule> openDevice(IF_HANDLE interface, const std::string &deviceId)
 {
-    const std::shared_ptr<SystemModule> system = Producer::instance().openedSystem();
-    return (system ? system->interfaces.find(module.openedAs.id) : std::nullopt).value_or(module.openedAs);
+    const HandleTable &handles = Producer::instance().handles();
+    return handles.find<DeviceModule>(handles.child(interface, deviceId));
 }
 
 GC_ERROR writeLastError(
@@ -125,13 +80,13 @@ GENTL_FUNCTION TLOpen(TL_HANDLE *phTL)
 
 GENTL_FUNCTION TLClose(TL_HANDLE hTL)
 {
-    return guarded([&] { return Producer::instance().closeSystem(hTL); });
+    return closeHandle<SystemModule>(hTL);
 }
 
 GENTL_FUNCTION TLGetInfo(
     TL_HANDLE hTL, TL_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    return withSystem(hTL, [&](SystemModule &) {
+    return with<SystemModule>(hTL, [&](SystemModule &) {
         return Producer::instance().info(iInfoCmd, InfoOutput(piType, pBuffer, piSize));
     });
 }
@@ -139,26 +94,25 @@ GENTL_FUNCTION TLGetInfo(
 // The timeout is ignored, because no source waits for interfaces.
 GENTL_FUNCTION TLUpdateInterfaceList(TL_HANDLE hTL, bool8_t *pbChanged, std::uint64_t)
 {
-    return withSystem(hTL, [&](SystemModule &system) {
-        return system.interfaces.update([&] { return system.source->updateInterfaces(); }, pbChanged);
-    });
+    return with<SystemModule>(hTL, [&](SystemModule &system) { return system.updateInterfaces(pbChanged); });
 }
 
 GENTL_FUNCTION TLGetNumInterfaces(TL_HANDLE hTL, std::uint32_t *piNumIfaces)
 {
-    return withSystem(hTL, [&](SystemModule &system) { return system.interfaces.count(piNumIfaces); });
+    return with<SystemModule>(
+        hTL, [&](SystemModule &system) { return system.interfaces.count(piNumIfaces); });
 }
 
 GENTL_FUNCTION TLGetInterfaceID(TL_HANDLE hTL, std::uint32_t iIndex, char *sID, std::size_t *piSize)
 {
-    return withSystem(
+    return with<SystemModule>(
         hTL, [&](SystemModule &system) { return system.interfaces.id(iIndex, InfoOutput(sID, piSize)); });
 }
 
 GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE hTL, const char *sIfaceID, INTERFACE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    return withSystem(hTL, [&](SystemModule &system) {
+    return with<SystemModule>(hTL, [&](SystemModule &system) {
         return system.interfaces.info(
             sIfaceID, iInfoCmd, InfoOutput(piType, pBuffer, piSize), writeInterfaceInfo);
     });
@@ -166,62 +120,69 @@ GENTL_FUNCTION TLGetInterfaceInfo(TL_HANDLE hTL, const char *sIfaceID, INTERFACE
 
 GENTL_FUNCTION TLOpenInterface(TL_HANDLE hTL, const char *sIfaceID, IF_HANDLE *phIface)
 {
-    return withSystem(hTL, [&](SystemModule &system) {
-        return sIfaceID
-            ? Producer::instance().openInterface(sIfaceID, system.interfaces.find(sIfaceID), phIface)
-            : failMissingArgument();
+    return guarded([&] {
+        HandleTable &handles = Producer::instance().handles();
+        const auto system = handles.find<SystemModule>(hTL);
+        if (!system)
+            return Producer::instance().failHandle(SystemModule::handleName);
+        if (!sIfaceID)
+            return failMissingArgument();
+        return handles.open(hTL, sIfaceID, phIface, [&] {
+            return std::make_shared<InterfaceModule>(system, listedRecord(system->interfaces, sIfaceID));
+        });
     });
 }
 
 GENTL_FUNCTION IFClose(IF_HANDLE hIface)
 {
-    return guarded([&] { return Producer::instance().closeInterface(hIface); });
+    return closeHandle<InterfaceModule>(hIface);
 }
 
 GENTL_FUNCTION IFGetInfo(
     IF_HANDLE hIface, INTERFACE_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    return withInterface(hIface, [&](InterfaceModule &module) {
+    return with<InterfaceModule>(hIface, [&](InterfaceModule &module) {
         const InfoOutput output(piType, pBuffer, piSize);
-        return output.isComplete() ? writeInterfaceInfo(currentRecord(module), iInfoCmd, output)
+        return output.isComplete() ? writeInterfaceInfo(module.record(), iInfoCmd, output)
                                    : failMissingArgument();
     });
 }
 
 GENTL_FUNCTION IFUpdateDeviceList(IF_HANDLE hIface, bool8_t *pbChanged, std::uint64_t iTimeout)
 {
-    return withInterface(hIface, [&](InterfaceModule &module) {
-        return module.devices.update(
-            [&] { return module.source->updateDevices(module.openedAs.id, toTimeout(iTimeout)); }, pbChanged);
-    });
+    return with<InterfaceModule>(hIface,
+        [&](InterfaceModule &module) { return module.updateDevices(pbChanged, toTimeout(iTimeout)); });
 }
 
 GENTL_FUNCTION IFGetNumDevices(IF_HANDLE hIface, std::uint32_t *piNumDevices)
 {
-    return withInterface(hIface, [&](InterfaceModule &module) { return module.devices.count(piNumDevices); });
+    return with<InterfaceModule>(
+        hIface, [&](InterfaceModule &module) { return module.devices.count(piNumDevices); });
 }
 
 GENTL_FUNCTION IFGetDeviceID(IF_HANDLE hIface, std::uint32_t iIndex, char *sIDeviceID, std::size_t *piSize)
 {
-    return withInterface(hIface,
+    return with<InterfaceModule>(hIface,
         [&](InterfaceModule &module) { return module.devices.id(iIndex, InfoOutput(sIDeviceID, piSize)); });
 }
 
 GENTL_FUNCTION IFGetDeviceInfo(IF_HANDLE hIface, const char *sDeviceID, DEVICE_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize)
 {
-    return withInterface(hIface, [&](InterfaceModule &module) {
-        return module.devices.info(sDeviceID, iInfoCmd, InfoOutput(piType, pBuffer, piSize), writeDeviceInfo);
+    return with<InterfaceModule>(hIface, [&](InterfaceModule &module) {
+        const auto write
+            = [&](const DeviceRecord &record, DEVICE_INFO_CMD command, const InfoOutput &output) {
+                  const auto open = openDevice(hIface, record.id);
+                  return open ? open->info(command, output) : writeDeviceInfo(record, command, output);
+              };
+        return module.devices.info(sDeviceID, iInfoCmd, InfoOutput(piType, pBuffer, piSize), write);
     });
 }
 
 GENTL_FUNCTION IFGetParentTL(IF_HANDLE hIface, TL_HANDLE *phSystem)
 {
-    return withInterface(hIface, [&](InterfaceModule &) {
-        if (!phSystem)
-            return failMissingArgument();
-        *phSystem = Producer::instance().systemHandle();
-        return GC_ERR_SUCCESS;
+    return with<InterfaceModule>(hIface, [&](InterfaceModule &) {
+        return writeHandle(Producer::instance().handles().parent(hIface), phSystem);
     });
 }
 

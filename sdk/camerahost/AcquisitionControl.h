@@ -1,0 +1,39 @@
+#pragma once
+
+#include "sdk/camerahost/NodeMap.h"
+#include "sdk/camerahost/PictureReader.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+/// The features of a camera that a stream needs. Tolerates cameras that lack some of them.
+class AcquisitionControl
+{
+public:
+    explicit AcquisitionControl(NodeMap &nodes) : m_nodes(nodes) { }
+
+    /// Locks the features that must not change during a stream, or unlocks them.
+    void lock();
+    void unlock();
+
+    /// Lets the camera send images. Returns a text for people if it refuses.
+    std::optional<std::string> start();
+    void stop();
+
+    /// Returns the number of bytes that an image needs; 0 if the camera does not tell.
+    std::uint64_t payloadSize() const;
+
+    /// Returns the picture that the camera is configured for.
+    PictureLayout configuredPicture() const;
+
+    /// Returns the features whose values are sent with the images.
+    std::vector<ChunkFeature> chunkFeatures() const;
+
+private:
+    std::uint64_t number(const char *name) const;
+    bool hasNode(const char *name) const;
+    bool isTransferControlled() const;
+
+    NodeMap &m_nodes;
+};

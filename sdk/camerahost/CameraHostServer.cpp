@@ -1,0 +1,207 @@
+#include "sdk/camerahost/CameraHostServer.h"
+
+#include "sdk/protocol/HostContract.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <poll.h>
+#include <utility>
+#include <variant>
+
+namespace {
+
+using Milliseconds = OpenedCamera::Milliseconds;
+
+constexpr Milliseconds tickInterval(200); // Between two looks at events and the stream.
+
+// For each call of the producer.
+constexpr Milliseconds stopTimeout(500);
+constexpr Milliseconds closeTimeout(150); // All of them have to fit into the time that SocketWatch grants.
+
+} // namespace
+
+CameraHostServer::CameraHostServer(int socket, std::string producerFile)
+    : m_channel(socket),
+      m_producerFile(std::move(producerFile)),
+      m_watch(socket, [this] { m_camera.abandon(); })
+{
+    m_channel.acceptDescriptors();
+}
+
+int CameraHostServer::run()
+{
+    std::string line;
+    while (!m_isFinished && (m_connection = waitForRequest(line)) == LineChannel::Status::Line)
+        serve(line);
+    m_watch.noteShutdown();
+    m_camera.close(closeTimeout);
+    return m_connection == LineChannel::Status::Lost ? connectionLostStatus : EXIT_SUCCESS;
+}
+
+LineChannel::Status CameraHostServer::waitForRequest(std::string &line)
+{
+    for (;;) {
+        const auto status = m_channel.tryReadLine(line);
+        watchCamera();
+        if (status != LineChannel::Status::Pending)
+            return status;
+        const bool isWatching = m_camera.isOpen() && !m_isLost;
+        const auto timeout
+            = std::chrono::ceil<Milliseconds>(std::max(m_nextTick - Clock::now(), Clock::duration(0)));
+        pollfd end{m_channel.descriptor(), POLLIN, 0};
+        poll(&end, 1, isWatching ? static_cast<int>(timeout.count()) : -1);
+    }
+}
+
+void CameraHostServer::watchCamera()
+{
+    if (!m_camera.isOpen() || m_isLost || Clock::now() < m_nextTick)
+        return;
+    if (const auto reason = m_camera.tick(Clock::now()))
+        reportLoss(*reason);
+    m_nextTick = Clock::now() + tickInterval;
+}
+
+void CameraHostServer::reportLoss(const std::string &reason)
+{
+    if (!std::exchange(m_isLost, true))
+        notify(DeviceLostNotice{reason});
+}
+
+void CameraHostServer::serve(const std::string &line)
+{
+    const auto message = Message::fromLine(line);
+    const bool isServed = message
+        && (tryServe<ReadStatesRequest>(*message) || tryServe<ReadValueRequest>(*message)
+            || tryServe<WriteValueRequest>(*message) || tryServe<OpenDeviceRequest>(*message)
+            || tryServe<PrepareStreamRequest>(*message) || tryServe<StartStreamRequest>(*message)
+            || tryServe<StopStreamRequest>(*message) || tryServe<CloseDeviceRequest>(*message));
+    if (!isServed) // This does not happen, because library and host are installed together.
+        m_isFinished = true;
+}
+
+template <typename Request>
+bool CameraHostServer::tryServe(const Message &message)
+{
+    const auto request = message.content<Request>();
+    if (!request)
+        return false;
+    m_request = message.id();
+    handle(*request);
+    return true;
+}
+
+void CameraHostServer::handle(const OpenDeviceRequest &request)
+{
+    const auto failure = m_camera.open(m_producerFile, request);
+    if (!failure)
+        return reply(DeviceOpenedReply{m_camera.nodes().nodes()});
+    m_isFinished = true;
+    fail(*failure);
+}
+
+void CameraHostServer::handle(const ReadStatesRequest &request)
+{
+    NodeStatesReply states;
+    for (const std::string &name : request.names) {
+        auto state = m_camera.nodes().state(name);
+        if (auto *const known = std::get_if<CvxCPP::NodeState>(&state)) {
+            states.states.push_back(std::move(*known));
+        } else if (const auto &failure = std::get<RequestFailedReply>(state);
+                   failure.failure != DeviceFailure::NotFound) {
+            CvxCPP::NodeState unknown;
+            unknown.name = name;
+            unknown.problem = failure.text;
+            states.states.push_back(std::move(unknown));
+        }
+    }
+    reply(states);
+}
+
+void CameraHostServer::handle(const ReadValueRequest &request)
+{
+    auto value = m_camera.nodes().read(request.name);
+    if (const auto *const failure = std::get_if<RequestFailedReply>(&value))
+        fail(*failure);
+    else
+        reply(NodeValueReply{std::get<CvxCPP::NodeValue>(std::move(value))});
+}
+
+void CameraHostServer::handle(const WriteValueRequest &request)
+{
+    if (const auto failure = m_camera.nodes().write(request.name, request.value))
+        return fail(*failure);
+    reply(NodeValueReply());
+    NodesChangedNotice changed{{request.name}};
+    for (std::string &name : m_camera.nodes().dependents(request.name))
+        changed.names.push_back(std::move(name));
+    notify(changed);
+}
+
+void CameraHostServer::handle(const PrepareStreamRequest &request)
+{
+    CameraStream *const stream = m_camera.stream();
+    if (!stream)
+        return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
+    auto prepared = stream->prepare(request);
+    if (const auto *const failure = std::get_if<RequestFailedReply>(&prepared))
+        fail(*failure);
+    else
+        reply(std::get<StreamPreparedReply>(std::move(prepared)));
+    endIfStuck();
+}
+
+void CameraHostServer::handle(const StartStreamRequest &request)
+{
+    CameraStream *const stream = m_camera.stream();
+    if (!stream)
+        return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
+    if (const auto failure = stream->start(request, m_channel.takeDescriptors()))
+        fail(*failure);
+    else
+        reply(StreamStartedReply());
+    endIfStuck();
+}
+
+void CameraHostServer::handle(const StopStreamRequest &)
+{
+    if (CameraStream *const stream = m_camera.stream())
+        stream->stop(stopTimeout);
+    reply(StreamStoppedReply());
+    endIfStuck();
+}
+
+void CameraHostServer::handle(const CloseDeviceRequest &)
+{
+    m_isFinished = true;
+    m_watch.noteShutdown();
+    m_camera.close(stopTimeout);
+    reply(DeviceClosedReply());
+}
+
+/// Ends the service if a call of the producer hangs, so that no later call can hang too.
+void CameraHostServer::endIfStuck()
+{
+    if (!m_camera.stream() || !m_camera.stream()->isStuck())
+        return;
+    reportLoss("The producer does not end the stream.");
+    m_isFinished = true;
+}
+
+template <typename Content>
+void CameraHostServer::reply(const Content &content)
+{
+    m_connection = m_channel.send(Message(m_request, content).toLine());
+}
+
+void CameraHostServer::fail(const RequestFailedReply &failure)
+{
+    m_isFinished = m_isFinished || failure.failure == DeviceFailure::Lost;
+    reply(failure);
+}
+
+template <typename Content>
+void CameraHostServer::notify(const Content &content)
+{
+    m_connection = m_channel.send(Message(Message::noRequest, content).toLine());
+}

@@ -1,0 +1,74 @@
+#include "sdk/device/DeviceRestore.h"
+
+#include "sdk/device/StreamStart.h"
+
+using namespace CvxCPP;
+
+namespace {
+
+/// Lets the journal read and write the nodes of a camera.
+class HostTarget final : public JournalTarget
+{
+public:
+    HostTarget(HostChannel &host, Milliseconds timeout) : m_host(host), m_timeout(timeout) { }
+
+    std::optional<NodeValue> read(const std::string &name) override { return ask(ReadValueRequest{name}); }
+
+    bool write(const std::string &name, const NodeValue &value) override
+    {
+        return ask(WriteValueRequest{name, value}).has_value();
+    }
+
+    bool isLost() const override { return m_breakdown.has_value(); }
+    const std::string &reason() const { return m_breakdown->reason; }
+
+private:
+    template <typename Request>
+    std::optional<NodeValue> ask(const Request &request)
+    {
+        if (m_breakdown)
+            return std::nullopt;
+        const auto answer = m_host.ask<NodeValueReply>(request, SteadyClock::now() + m_timeout);
+        if (const auto *reply = std::get_if<NodeValueReply>(&answer))
+            return reply->value;
+        if (const auto *breakdown = std::get_if<Breakdown>(&answer))
+            m_breakdown = *breakdown;
+        return std::nullopt;
+    }
+
+    HostChannel &m_host;
+    const Milliseconds m_timeout;
+    std::optional<Breakdown> m_breakdown;
+};
+
+/// Continues the stream with new memory. Returns the reason if that fails, otherwise an empty string.
+std::string continueStream(
+    StreamCore &stream, HostChannel &host, std::uint64_t hostNumber, Milliseconds timeout)
+{
+    const auto started = startStream(host, stream.buffers(), stream.policy(), SteadyClock::now() + timeout);
+    if (const auto *failed = std::get_if<RequestFailedReply>(&started))
+        return failed->text;
+    if (const auto *breakdown = std::get_if<Breakdown>(&started))
+        return breakdown->reason;
+    stream.started(std::get<std::shared_ptr<const ImageQueue>>(started), hostNumber);
+    return {};
+}
+
+} // namespace
+
+std::variant<RestoredDevice, std::string> restoreDevice(
+    const DeviceCore &core, HostChannel &host, std::uint64_t hostNumber)
+{
+    RestoredDevice restored;
+    HostTarget target(host, core.options.requestTimeout);
+    restored.refused = core.journal.replay(target);
+    if (target.isLost())
+        return target.reason();
+    restored.stream = core.gate.stream();
+    if (!restored.stream)
+        return restored;
+    std::string reason = continueStream(*restored.stream, host, hostNumber, core.options.startTimeout);
+    if (!reason.empty())
+        return reason;
+    return restored;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "sdk/producer/OpenCamera.h"
+#include "sdk/simulator/AcquisitionSequence.h"
+#include "sdk/simulator/PictureSource.h"
+#include "sdk/simulator/RegisterFile.h"
+
+#include <atomic>
+#include <cstdint>
+#include <thread>
+
+/// The stream of a simulated camera. One thread takes the images and writes them into the consumer's buffers.
+class SimulatedImages final : public ImageSource
+{
+public:
+    SimulatedImages(RegisterFile &registers, const CameraModel &model);
+    ~SimulatedImages() override;
+
+    std::size_t payloadSize() const override;
+    std::optional<std::size_t> maxChunks() const override;
+    void start(BufferQueue &queue) override;
+    void stop(bool isImmediate) override;
+    void bufferQueued() override { m_registers.wakeCounter().wake(); }
+    std::uint64_t startedImages() const override { return m_started; }
+    std::uint64_t lostImages() const override { return m_lost; }
+
+    /// Called when the camera is lost: no more images are taken.
+    void cameraLost();
+
+private:
+    void run(BufferQueue &queue);
+    void updateSettings(std::int64_t now);
+    bool takeImage(BufferQueue &queue, std::int64_t now);
+    FilledImage fill(const BufferQueue::Buffer &buffer, std::int64_t now);
+    FilledImage describe(std::uint64_t timestamp) const;
+    void finishAcquisition();
+
+    RegisterFile &m_registers;
+    const bool m_isBigEndianLink;
+    std::thread m_thread;
+    std::atomic<bool> m_isStopping{false};
+    std::atomic<bool> m_isLost{false};
+    std::atomic<std::uint64_t> m_started{0};
+    std::atomic<std::uint64_t> m_lost{0};
+
+    // Used only by the thread.
+    AcquisitionSequence m_sequence;
+    PictureSource m_pictures;
+    std::optional<std::uint32_t> m_changes; // Of the registers, when m_bank was read.
+    RegisterBank m_bank;
+};

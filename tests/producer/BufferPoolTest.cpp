@@ -1,0 +1,399 @@
+// These tests check the states of announced buffers and the queues between them.
+
+#include "sdk/producer/BufferPool.h"
+
+#include <future>
+#include <gtest/gtest.h>
+#include <numeric>
+
+using namespace GenTL;
+
+/// Provides a pool whose buffers are named by letters.
+class BufferPoolTest : public testing::Test
+{
+protected:
+    /// Announces one buffer for each letter.
+    void announce(const std::string &letters)
+    {
+        for (const char letter : letters)
+            EXPECT_EQ(pool.announce(&memory[letter], sizeof memory[letter], nullptr, &handles[letter]),
+                GC_ERR_SUCCESS);
+    }
+
+    void queue(const std::string &letters)
+    {
+        for (const char letter : letters)
+            EXPECT_EQ(pool.queue(handles[letter]), GC_ERR_SUCCESS);
+    }
+
+    GC_ERROR start(std::uint64_t images = GENTL_INFINITE) { return pool.start(images, 1, 1); }
+
+    /// Takes a buffer and returns its letter, or '-' if there is none.
+    char take()
+    {
+        const auto buffer = pool.take();
+        if (!buffer)
+            return '-';
+        const char letter = letterOf(buffer->handle);
+        taken[letter] = *buffer;
+        return letter;
+    }
+
+    void deliver(char letter) { pool.deliver(taken[letter], image); }
+
+    /// Fetches a buffer and returns its letter, or '-' if there is none.
+    char fetch(std::uint64_t timeout = 0)
+    {
+        EVENT_NEW_BUFFER_DATA data{};
+        std::size_t size = sizeof data;
+        const GC_ERROR error = pool.fetch(*event, &data, &size, timeout);
+        EXPECT_TRUE(error == GC_ERR_SUCCESS || error == GC_ERR_TIMEOUT) << error;
+        return error ? '-' : letterOf(data.BufferHandle);
+    }
+
+    GC_ERROR fetchCode(std::uint64_t timeout)
+    {
+        std::size_t size = 0;
+        return pool.fetch(*event, nullptr, &size, timeout);
+    }
+
+    char letterOf(BUFFER_HANDLE handle) const
+    {
+        for (const auto &[letter, known] : handles)
+            if (known == handle)
+                return letter;
+        return '?';
+    }
+
+    bool flag(char letter, BUFFER_INFO_CMD command)
+    {
+        bool8_t value = 2;
+        INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
+        std::size_t size = sizeof value;
+        EXPECT_EQ(pool.info(handles[letter], command, InfoOutput(&type, &value, &size)), GC_ERR_SUCCESS);
+        return value != 0;
+    }
+
+    /// Returns the state of a buffer: u(nqueued), i(nput or output) or f(illing), and n(ew) or o(ld) data.
+    std::string state(char letter)
+    {
+        const bool isFilling = flag(letter, BUFFER_INFO_IS_ACQUIRING);
+        const bool isQueued = flag(letter, BUFFER_INFO_IS_QUEUED);
+        EXPECT_TRUE(isQueued || !isFilling);
+        return std::string(isFilling ? "f"
+                       : isQueued    ? "q"
+                                     : "u")
+            + (flag(letter, BUFFER_INFO_NEW_DATA) ? "n" : "o");
+    }
+
+    /// Returns the letters that remain in the input pool and in the output queue.
+    std::string drain()
+    {
+        std::string letters;
+        for (char letter = take(); letter != '-'; letter = take())
+            letters += letter;
+        letters += '/';
+        for (char letter = fetch(); letter != '-'; letter = fetch())
+            letters += letter;
+        return letters;
+    }
+
+    BufferPool pool{StreamTraits{TLTypeGEVName, 1000}};
+    std::map<char, std::array<std::uint8_t, 16>> memory;
+    std::map<char, BUFFER_HANDLE> handles;
+    std::map<char, BufferQueue::Buffer> taken;
+    std::shared_ptr<EventState> event = pool.registerEvent();
+    FilledImage image;
+};
+
+TEST_F(BufferPoolTest, bufferGoesFromTheConsumerThroughBothQueuesAndBack)
+{
+    announce("a");
+    EXPECT_EQ(state('a'), "uo");
+    queue("a");
+    EXPECT_EQ(state('a'), "qo");
+    EXPECT_EQ(take(), '-') << "not started";
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    EXPECT_EQ(take(), 'a');
+    EXPECT_EQ(state('a'), "fo");
+    pool.giveBack(taken['a']);
+    EXPECT_EQ(state('a'), "qo");
+    EXPECT_EQ(take(), 'a');
+    deliver('a');
+    EXPECT_EQ(state('a'), "qn");
+    EXPECT_EQ(fetch(), 'a');
+    EXPECT_EQ(state('a'), "un");
+    EXPECT_EQ(fetch(), '-');
+    queue("a");
+    EXPECT_EQ(state('a'), "qo");
+}
+
+TEST_F(BufferPoolTest, onlyTheConsumersBuffersCanBeQueuedAndRevoked)
+{
+    announce("uiof");
+    queue("fo");
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    EXPECT_EQ(take(), 'f');
+    EXPECT_EQ(take(), 'o');
+    deliver('o');
+    queue("i");
+    for (const char letter : {'i', 'o', 'f'}) {
+        EXPECT_EQ(pool.queue(handles[letter]), GC_ERR_RESOURCE_IN_USE) << letter;
+        EXPECT_EQ(pool.revoke(handles[letter], nullptr, nullptr), GC_ERR_BUSY) << letter;
+    }
+    void *memoryOutput = nullptr;
+    void *userPointer = this;
+    EXPECT_EQ(pool.revoke(handles['u'], &memoryOutput, &userPointer), GC_ERR_SUCCESS);
+    EXPECT_EQ(memoryOutput, &memory['u']);
+    EXPECT_EQ(userPointer, nullptr);
+    for (void *const handle : {handles['u'], static_cast<void *>(nullptr), static_cast<void *>(this)}) {
+        EXPECT_EQ(pool.queue(handle), GC_ERR_INVALID_HANDLE);
+        EXPECT_EQ(pool.revoke(handle, nullptr, nullptr), GC_ERR_INVALID_HANDLE);
+        EXPECT_EQ(pool.parts(handle), GC_ERR_INVALID_HANDLE);
+    }
+}
+
+TEST_F(BufferPoolTest, announcingChecksItsArguments)
+{
+    announce("a");
+    BUFFER_HANDLE handle = nullptr;
+    std::uint8_t byte = 0;
+    EXPECT_EQ(pool.announce(&memory['a'], 4, nullptr, &handle), GC_ERR_RESOURCE_IN_USE);
+    EXPECT_EQ(pool.announce(nullptr, 4, nullptr, &handle), GC_ERR_INVALID_PARAMETER);
+    EXPECT_EQ(pool.announce(&byte, 1, nullptr, nullptr), GC_ERR_INVALID_PARAMETER);
+    EXPECT_EQ(pool.announce(&byte, 0, nullptr, &handle), GC_ERR_INVALID_BUFFER);
+    EXPECT_EQ(pool.allocate(0, nullptr, &handle), GC_ERR_INVALID_BUFFER);
+    EXPECT_EQ(pool.allocate(SIZE_MAX, nullptr, &handle), GC_ERR_OUT_OF_MEMORY);
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    EXPECT_EQ(pool.announce(&byte, 1, nullptr, &handle), GC_ERR_BUSY);
+    EXPECT_EQ(pool.allocate(1, nullptr, &handle), GC_ERR_BUSY);
+    pool.stop();
+    EXPECT_EQ(pool.allocate(1, this, &handle), GC_ERR_SUCCESS);
+    void *memoryOutput = this;
+    void *userPointer = nullptr;
+    EXPECT_EQ(pool.revoke(handle, &memoryOutput, &userPointer), GC_ERR_SUCCESS);
+    EXPECT_EQ(memoryOutput, nullptr) << "the memory is the pool's";
+    EXPECT_EQ(userPointer, this);
+}
+
+TEST_F(BufferPoolTest, buffersAreListedInTheOrderOfAnnouncing)
+{
+    announce("abc");
+    queue("b");
+    EXPECT_EQ(pool.revoke(handles['a'], nullptr, nullptr), GC_ERR_SUCCESS);
+    BUFFER_HANDLE handle = nullptr;
+    for (const auto &[index, letter] : {std::pair(0U, 'b'), {1U, 'c'}}) {
+        EXPECT_EQ(pool.handleAt(index, &handle), GC_ERR_SUCCESS);
+        EXPECT_EQ(letterOf(handle), letter);
+    }
+    EXPECT_EQ(pool.handleAt(2, &handle), GC_ERR_INVALID_INDEX);
+    EXPECT_EQ(pool.handleAt(0, nullptr), GC_ERR_INVALID_PARAMETER);
+}
+
+TEST_F(BufferPoolTest, flushMovesBuffersBetweenTheQueues)
+{
+    struct Row
+    {
+        ACQ_QUEUE_TYPE operation;
+        const char *states; // Of u, i, o, f.
+        const char
+            *drained; // Input pool / output queue, after the buffer that is being filled was delivered.
+    };
+    const Row rows[] = {
+        {ACQ_QUEUE_INPUT_TO_OUTPUT, "uo qo qn fo", "/oif"},
+        {ACQ_QUEUE_OUTPUT_DISCARD, "uo qo un fo", "i/f"},
+        {ACQ_QUEUE_ALL_TO_INPUT, "qo qo qo fo", "iouf/"},
+        {ACQ_QUEUE_UNQUEUED_TO_INPUT, "qo qo qn fo", "iu/of"},
+        {ACQ_QUEUE_ALL_DISCARD, "uo uo un fo", "/f"},
+    };
+    announce("uiof");
+    for (const Row &row : rows) {
+        queue("fo");
+        EXPECT_EQ(start(), GC_ERR_SUCCESS);
+        EXPECT_EQ(take(), 'f');
+        EXPECT_EQ(take(), 'o');
+        deliver('o');
+        queue("i");
+        EXPECT_EQ(pool.flush(row.operation), GC_ERR_SUCCESS);
+        EXPECT_EQ(state('u') + ' ' + state('i') + ' ' + state('o') + ' ' + state('f'), row.states);
+        deliver('f');
+        EXPECT_EQ(drain(), row.drained) << row.operation;
+        for (const auto &[letter, buffer] : taken)
+            if (state(letter) == "fo")
+                pool.giveBack(buffer);
+        pool.stop();
+        EXPECT_EQ(pool.flush(ACQ_QUEUE_ALL_DISCARD), GC_ERR_SUCCESS);
+    }
+    EXPECT_EQ(pool.flush(5), GC_ERR_NOT_IMPLEMENTED);
+    EXPECT_EQ(pool.flush(-1), GC_ERR_NOT_IMPLEMENTED);
+}
+
+TEST_F(BufferPoolTest, acquisitionEndsAfterTheRequestedImages)
+{
+    announce("abc");
+    queue("abc");
+    EXPECT_EQ(start(2), GC_ERR_SUCCESS);
+    EXPECT_EQ(take(), 'a');
+    pool.giveBack(taken['a']); // Does not count.
+    EXPECT_EQ(take(), 'b');
+    EXPECT_EQ(take(), 'c');
+    EXPECT_EQ(take(), '-');
+    pool.countUnderrun(1); // Not an underrun, because no more images are wanted.
+    deliver('b');
+    EXPECT_TRUE(pool.counts().isAcquiring);
+    deliver('c');
+    EXPECT_FALSE(pool.counts().isAcquiring);
+    EXPECT_EQ(pool.counts().underruns, 0U);
+    EXPECT_EQ(start(), GC_ERR_RESOURCE_IN_USE) << "the stop is missing";
+    pool.stop();
+    EXPECT_EQ(fetch(), 'b') << "the stop moves nothing";
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    EXPECT_EQ(pool.counts().fetched, 0U) << "counted since the start";
+    EXPECT_EQ(fetch(), 'c');
+    EXPECT_EQ(pool.counts().fetched, 1U);
+}
+
+TEST_F(BufferPoolTest, startChecksTheBuffers)
+{
+    EXPECT_EQ(pool.start(1, 1, 16), GC_ERR_INVALID_BUFFER);
+    announce("ab");
+    EXPECT_EQ(pool.start(0, 1, 16), GC_ERR_INVALID_PARAMETER);
+    EXPECT_EQ(pool.start(1, 3, 16), GC_ERR_INVALID_BUFFER);
+    EXPECT_EQ(pool.start(1, 2, 17), GC_ERR_BUFFER_TOO_SMALL);
+    EXPECT_EQ(pool.start(1, 2, 16), GC_ERR_SUCCESS);
+}
+
+TEST_F(BufferPoolTest, countsFollowTheBuffers)
+{
+    announce("abcd");
+    queue("abc");
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    take();
+    take();
+    deliver('a');
+    pool.countUnderrun(3);
+    const BufferPool::Counts counts = pool.counts();
+    EXPECT_EQ(counts.announced, 4U);
+    EXPECT_EQ(counts.queued, 2U) << "one that waits and one that is being filled";
+    EXPECT_EQ(counts.awaitingDelivery, 1U);
+    EXPECT_EQ(counts.fetched, 0U);
+    EXPECT_EQ(counts.underruns, 3U);
+    pool.stop();
+    pool.countUnderrun(1);
+    EXPECT_EQ(pool.counts().underruns, 3U);
+}
+
+TEST_F(BufferPoolTest, filledBuffersWaitForAnEvent)
+{
+    pool.unregisterEvent();
+    announce("ab");
+    queue("ab");
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    take();
+    deliver('a');
+    event = pool.registerEvent();
+    EXPECT_EQ(pool.fired(*event), 1U);
+    take();
+    deliver('b');
+    EXPECT_EQ(pool.fired(*event), 2U);
+    EXPECT_EQ(fetch(), 'a');
+    pool.unregisterEvent();
+    EXPECT_EQ(state('b'), "un") << "discarded with the event";
+}
+
+TEST_F(BufferPoolTest, fetchThatFailsLeavesTheBuffer)
+{
+    announce("a");
+    queue("a");
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    take();
+    deliver('a');
+    char data[15];
+    std::size_t size = sizeof data;
+    EXPECT_EQ(pool.fetch(*event, data, &size, 0), GC_ERR_BUFFER_TOO_SMALL);
+    size = 0;
+    EXPECT_EQ(pool.fetch(*event, nullptr, &size, 0), GC_ERR_SUCCESS) << "without output, only removes it";
+    EXPECT_EQ(size, 16U);
+    EXPECT_EQ(fetch(), '-');
+}
+
+TEST_F(BufferPoolTest, killEndsExactlyOneFetch)
+{
+    std::vector<std::future<GC_ERROR>> waits;
+    for (int i = 0; i < 3; ++i)
+        waits.push_back(std::async(std::launch::async, [this] { return fetchCode(60000); }));
+    pool.kill(*event);
+    announce("ab");
+    queue("ab");
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    take();
+    take();
+    deliver('a');
+    deliver('b');
+    std::map<GC_ERROR, int> codes;
+    for (std::future<GC_ERROR> &wait : waits)
+        ++codes[wait.get()];
+    EXPECT_EQ(codes, (std::map<GC_ERROR, int>{{GC_ERR_ABORT, 1}, {GC_ERR_SUCCESS, 2}}));
+}
+
+TEST_F(BufferPoolTest, killWithoutAWaitEndsTheNextFetch)
+{
+    announce("a");
+    queue("a");
+    EXPECT_EQ(start(), GC_ERR_SUCCESS);
+    take();
+    deliver('a');
+    pool.kill(*event);
+    EXPECT_EQ(fetchCode(0), GC_ERR_ABORT);
+    EXPECT_EQ(fetch(), 'a');
+    pool.kill(*event);
+    pool.unregisterEvent();
+    event = pool.registerEvent();
+    EXPECT_EQ(fetchCode(0), GC_ERR_TIMEOUT) << "forgotten with the event";
+}
+
+TEST_F(BufferPoolTest, unregisteringEndsAllFetches)
+{
+    std::vector<std::future<GC_ERROR>> waits;
+    for (const std::uint64_t timeout : {std::uint64_t(60000), GENTL_INFINITE})
+        waits.push_back(std::async(std::launch::async, [this, timeout, state = event] {
+            std::size_t size = 0;
+            return pool.fetch(*state, nullptr, &size, timeout);
+        }));
+    pool.unregisterEvent();
+    event = pool.registerEvent();
+    for (std::future<GC_ERROR> &wait : waits)
+        EXPECT_EQ(wait.get(), GC_ERR_ABORT);
+    EXPECT_EQ(fetchCode(1), GC_ERR_TIMEOUT);
+}
+
+TEST_F(BufferPoolTest, imagesPassBetweenTwoThreads)
+{
+    constexpr std::uint64_t images = 2000;
+    announce("abc");
+    queue("abc");
+    EXPECT_EQ(start(images), GC_ERR_SUCCESS);
+    std::thread source([this] {
+        for (image.frameId = 0; image.frameId < images;) {
+            const auto buffer = pool.take();
+            if (!buffer) {
+                std::this_thread::yield();
+                continue;
+            }
+            pool.deliver(*buffer, image);
+            ++image.frameId;
+        }
+    });
+    for (std::uint64_t frame = 0; frame < images; ++frame) {
+        const char letter = fetch(60000);
+        std::uint64_t found = 0;
+        INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
+        std::size_t size = sizeof found;
+        ASSERT_EQ(pool.info(handles[letter], BUFFER_INFO_FRAMEID, InfoOutput(&type, &found, &size)),
+            GC_ERR_SUCCESS);
+        ASSERT_EQ(found, frame);
+        queue(std::string(1, letter));
+    }
+    source.join();
+    EXPECT_FALSE(pool.counts().isAcquiring);
+}
