@@ -27,8 +27,8 @@ CameraStream::CameraStream(const DeviceLibrary &library, GenTL::DEV_HANDLE devic
 std::variant<StreamPreparedReply, CameraStream::Failure> CameraStream::prepare(
     const PrepareStreamRequest &request)
 {
-    if (!m_library.canStream())
-        return Failure{DeviceFailure::NotAvailable, "The producer cannot stream images."};
+    if (const auto problem = m_library.checkStreamFunctions())
+        return toFailure(*problem);
     if (m_stream.handle())
         return Failure{DeviceFailure::InvalidParameter, "The stream is open already."};
     if (const auto problem = m_stream.open(m_device))

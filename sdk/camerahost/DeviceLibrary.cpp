@@ -49,9 +49,26 @@ std::optional<Problem> DeviceLibrary::resolveDeviceFunctions()
     return Problem{"dlsym", 0, "the library lacks " + missing + ", so it cannot open cameras"};
 }
 
-bool DeviceLibrary::canStream() const
+std::optional<Problem> DeviceLibrary::checkStreamFunctions() const
 {
-    return DevGetNumDataStreams && DevGetDataStreamID && DevOpenDataStream && DSClose && DSQueueBuffer
-        && DSStartAcquisition && DSStopAcquisition && DSRevokeBuffer && GCRegisterEvent && EventGetData
-        && (DSAnnounceBuffer || DSAllocAndAnnounceBuffer);
+    std::string missing;
+    const auto require = [&](const char *name, bool exists) {
+        if (!exists)
+            missing += missing.empty() ? name : std::string(", ") + name;
+    };
+    require("DevGetNumDataStreams", DevGetNumDataStreams);
+    require("DevGetDataStreamID", DevGetDataStreamID);
+    require("DevOpenDataStream", DevOpenDataStream);
+    require("DSClose", DSClose);
+    require("DSQueueBuffer", DSQueueBuffer);
+    require("DSStartAcquisition", DSStartAcquisition);
+    require("DSStopAcquisition", DSStopAcquisition);
+    require("DSRevokeBuffer", DSRevokeBuffer);
+    require("GCRegisterEvent", GCRegisterEvent);
+    require("EventGetData", EventGetData);
+    require("DSAnnounceBuffer", DSAnnounceBuffer || DSAllocAndAnnounceBuffer);
+    if (missing.empty())
+        return std::nullopt;
+    return Problem{"dlsym", GenTL::GC_ERR_NOT_IMPLEMENTED,
+        "the library lacks " + missing + ", so it cannot stream images"};
 }

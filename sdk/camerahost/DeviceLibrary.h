@@ -12,8 +12,9 @@ public:
     /// which a device cannot be opened.
     std::optional<Problem> resolveDeviceFunctions();
 
-    /// Returns true if the producer has every function that a stream needs.
-    bool canStream() const;
+    /// Returns a problem that names the functions without which no stream is possible, or nothing if the
+    /// producer has all of them.
+    std::optional<Problem> checkStreamFunctions() const;
 
     // Without these functions, a device cannot be opened.
     decltype(&GenTL::IFOpenDevice) IFOpenDevice = nullptr;

@@ -31,12 +31,11 @@ std::optional<std::uint64_t> ImageReader::read(std::uint32_t buffer, ImageRecord
     std::uint64_t filled = info.number(GenTL::BUFFER_INFO_SIZE_FILLED);
     if (filled == 0 && !isIncomplete)
         filled = info.number(GenTL::BUFFER_INFO_DATA_SIZE);
-    const bool isTooLarge = filled > capacity;
-    if (filled == 0 || isTooLarge)
+    if (filled == 0 || filled > capacity)
         filled = capacity;
 
     record.frameId = frameId.valueOr(0);
-    record.isComplete = !isIncomplete && !isTooLarge;
+    record.isComplete = !isIncomplete;
     record.chunkCount = 0;
     record.timestamp = timestamp(isIncomplete ? std::nullopt : cameraTime(info));
     if (!isIncomplete)

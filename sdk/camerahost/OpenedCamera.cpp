@@ -49,7 +49,7 @@ std::optional<OpenedCamera::Failure> OpenedCamera::doWithoutNodes(const Failure 
     m_port->read(0, bytes.data(), bytes.size());
     const bool isAnswering = m_port->lossFailures() == 0;
     DataStream stream(m_device.library());
-    if (!isAnswering || !m_device.library().canStream() || stream.open(m_device.device()))
+    if (!isAnswering || m_device.library().checkStreamFunctions() || stream.open(m_device.device()))
         return failure;
     const bool definesSize = stream.number(GenTL::STREAM_INFO_DEFINES_PAYLOADSIZE).valueOr(0) != 0;
     stream.close();

@@ -81,7 +81,7 @@ PictureLayout PictureReader::readSingle(const BufferInfo &info, std::uint64_t fi
     const std::uint64_t delivered = info.number(GenTL::BUFFER_INFO_DELIVERED_IMAGEHEIGHT);
     if (delivered > 0 && delivered < reported.height)
         reported.height = static_cast<std::uint32_t>(delivered);
-    layout.picture = choosePicture(reported, m_configured.picture, layout.received);
+    layout.picture = m_isPfnc ? choosePicture(reported, m_configured.picture, layout.received) : reported;
     return layout;
 }
 
@@ -91,11 +91,12 @@ void PictureReader::readFormatDetails(const BufferInfo &info)
     m_hasDetails = true;
     m_details.paddingX = toUint32(info.number(GenTL::BUFFER_INFO_XPADDING));
     m_details.paddingY = toUint32(info.number(GenTL::BUFFER_INFO_YPADDING));
-    m_details.pixelFormat = isPfnc(info.read(GenTL::BUFFER_INFO_PIXELFORMAT_NAMESPACE))
-        ? toPixelFormat(m_format.pixelFormat)
-        : 0;
+    m_isPfnc = isPfnc(info.read(GenTL::BUFFER_INFO_PIXELFORMAT_NAMESPACE));
+    m_details.pixelFormat = toPixelFormat(m_format.pixelFormat);
     if (m_details.pixelFormat == 0)
         m_details.pixelFormat = m_configured.picture.pixelFormat;
+    if (!m_isPfnc)
+        m_details.pixelFormat = 0;
     m_isBigEndian = info.number(GenTL::BUFFER_INFO_PIXEL_ENDIANNESS) == GenTL::PIXELENDIANNESS_BIG;
 }
 

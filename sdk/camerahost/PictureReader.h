@@ -45,6 +45,7 @@ private:
     const PictureLayout m_configured;
     Format m_format; // Of the previous picture.
     Picture m_details; // Its padding and its pixel format.
+    bool m_isPfnc = true; // The codes of pixel formats are PFNC codes.
     bool m_isBigEndian = false;
     bool m_hasDetails = false;
 };

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr std::size_t registerSize = 4; // Many cameras transfer only whole registers.
-constexpr std::array<std::size_t, 3> blockSizes{64 << 10, 4096, 512};
+constexpr std::array<std::size_t, 5> blockSizes{64 << 10, 4096, 512, 64, registerSize};
 
 } // namespace
 
@@ -25,12 +25,14 @@ std::variant<std::string, DescriptionProblem> PortFileReader::read(std::uint64_t
         if (const auto problem = readBlock(address + offset, bytes.data() + offset, size, done)) {
             while (blockSize < blockSizes.size() && blockSizes[blockSize] >= size)
                 ++blockSize; // A larger block would be the same one again.
-            if (blockSize == blockSizes.size())
-                return DescriptionProblem{toText(*problem)};
-            continue;
+            if (blockSize < blockSizes.size())
+                continue;
+            if (offset > 0 && problem->code == GenTL::GC_ERR_INVALID_ADDRESS)
+                break; // The stated length is larger than the file.
+            return DescriptionProblem{toText(*problem)};
         }
         if (done == 0)
-            break; // The stated length is larger than the file.
+            break; // The same.
         offset += done;
     }
     return bytes;

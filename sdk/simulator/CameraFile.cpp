@@ -28,15 +28,22 @@ constexpr off_t watcherOffset = 4;
 
 constexpr std::chrono::seconds maxWait{2};
 
-bool tryLock(int descriptor, off_t byte, short type)
+bool tryLock(int descriptor, off_t byte, int type, off_t length = 1)
 {
     struct flock lock
     { };
-    lock.l_type = type;
+    lock.l_type = static_cast<short>(type);
     lock.l_whence = SEEK_SET;
     lock.l_start = byte;
-    lock.l_len = 1;
+    lock.l_len = length;
     return fcntl(descriptor, F_OFD_SETLK, &lock) == 0;
+}
+
+/// Releases all locks at once. Closing the descriptor is not enough while the file is mapped.
+void unlock(int descriptor)
+{
+    constexpr off_t toTheEnd = 0;
+    tryLock(descriptor, 0, F_UNLCK, toTheEnd);
 }
 
 /// Calls attempt() every millisecond until it returns true, at most for maxWait.
@@ -160,6 +167,7 @@ void CameraFile::close(bool isKept)
         && tryLock(m_descriptor, userByte, F_WRLCK);
     if (isAlone && !isKept)
         unlink(m_path.c_str());
+    unlock(m_descriptor);
     ::close(std::exchange(m_descriptor, -1));
 }
 

@@ -128,8 +128,8 @@ CameraModel cameraModel(const DeviceRecord &record, const SensorKeys &keys)
     SensorModel &sensor = model.sensor;
     sensor.isLineScan = keys.isLineScan.value_or(isLineScanName(record.model));
     const SensorSize size = sizeByName(record.model, sensor.isLineScan);
-    sensor.width = keys.width.value_or(size.width);
-    sensor.height = sensor.isLineScan ? 1 : keys.height.value_or(size.height);
+    sensor.width = roundedDown(keys.width.value_or(size.width), 2); // Colours need even numbers.
+    sensor.height = sensor.isLineScan ? 1 : roundedDown(keys.height.value_or(size.height), 2);
     sensor.isColor = keys.isColor.value_or(link.isColor || endsWith(record.model, "-C"));
     sensor.taps = keys.taps.value_or(link.taps);
     sensor.seed = keys.seed.value_or(hashOf(record.serial.empty() ? record.id : record.serial));

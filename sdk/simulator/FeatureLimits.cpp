@@ -175,14 +175,14 @@ IntegerLimits integerLimits(const RegisterBank &bank, RegisterId id)
 RealLimits realLimits(const RegisterBank &bank, RegisterId id)
 {
     // A line or a frame cannot be shorter than its exposure.
-    const double shortestPeriod = bank.real(Id::ExposureTime) / 1e6;
+    const double highestRate = 1e6 / bank.real(Id::ExposureTime);
     switch (id) {
     case Id::ExposureTime:
         return {1, maxExposureTime};
     case Id::AcquisitionFrameRate:
-        return {0.01, isLineScan(bank) ? maxFrameRate : std::min(maxFrameRate, 1 / shortestPeriod)};
+        return {0.01, isLineScan(bank) ? maxFrameRate : std::min(maxFrameRate, highestRate)};
     case Id::AcquisitionLineRate:
-        return {0.1, std::min(maxLineRate, 1 / shortestPeriod)};
+        return {0.1, std::min(maxLineRate, highestRate)};
     default:
         break;
     }

@@ -2,6 +2,7 @@
 #include "sdk/simulator/CameraTemperature.h"
 #include "sdk/simulator/EnumerationValues.h"
 #include "sdk/simulator/FeatureLimits.h"
+#include "sdk/simulator/FeatureRules.h"
 
 #include <algorithm>
 
@@ -85,5 +86,6 @@ RegisterBank powerOnRegisters(const CameraModel &model)
     bank.setReal(Id::EncoderSpeed, 10'000);
     for (std::size_t chunk = 0; chunk < chunkCount; ++chunk)
         bank.setInteger(Id::ChunkEnable, 1, chunk);
+    updatePayloadSize(bank);
     return bank;
 }

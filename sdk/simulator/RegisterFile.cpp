@@ -35,15 +35,12 @@ RegisterFile::RegisterFile(
 {
     const bool isSameModel = m_memory->fingerprint == fingerprint(model);
     if (isSameModel && isRestarting()) {
-        close();
-        munmap(m_memory, sizeof(Memory));
+        m_file.close(true);
         throw GenTlError(GenTL::GC_ERR_IO, "The camera is restarting");
     }
-    if (!isSameModel && !m_file.isFirstUser()) {
-        munmap(m_memory, sizeof(Memory));
+    if (!isSameModel && !m_file.isFirstUser())
         throw GenTlError(GenTL::GC_ERR_ACCESS_DENIED,
             "Another process uses a simulated camera of a different model with the same ID");
-    }
     if (m_file.isFirstUser() && !(isSameModel && m_memory->restartEnd != 0))
         powerOn(model);
     m_memory->restartEnd = 0;
@@ -54,13 +51,17 @@ RegisterFile::RegisterFile(
 RegisterFile::~RegisterFile()
 {
     close();
-    munmap(m_memory, sizeof(Memory));
+}
+
+void RegisterFile::Unmap::operator()(Memory *memory) const
+{
+    munmap(memory, sizeof(Memory));
 }
 
 /// What a killed last user has left behind is overwritten.
 void RegisterFile::powerOn(const CameraModel &model)
 {
-    auto *const start = reinterpret_cast<std::uint8_t *>(m_memory);
+    auto *const start = reinterpret_cast<std::uint8_t *>(m_memory.get());
     std::memset(start + CameraFile::reservedSize, 0, sizeof(Memory) - CameraFile::reservedSize);
     storeTo(m_memory->registers, powerOnRegisters(model));
     m_memory->fingerprint = fingerprint(model);

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <atomic>
+#include <memory>
 #include <mutex>
 #include <optional>
 
@@ -83,8 +84,13 @@ private:
     static RegisterBank loadFrom(const Words &words);
     static void storeTo(Words &words, const RegisterBank &bank);
 
+    struct Unmap
+    {
+        void operator()(Memory *memory) const;
+    };
+
     CameraFile m_file;
-    Memory *const m_memory;
+    const std::unique_ptr<Memory, Unmap> m_memory;
     std::mutex m_mutex; // One thread at a time changes registers.
     std::uint32_t m_restarts = 0;
 };

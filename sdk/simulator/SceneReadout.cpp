@@ -96,8 +96,8 @@ void SceneReadout::readLine(const std::uint8_t *scene, int sensorLine, int pictu
         line.columnLight = m_columns[row].light.data() + tap.first;
         line.lineLight = m_lineShading[static_cast<std::size_t>(sensorLine)];
         line.response = m_flaws.photoResponseLine(sensorLine) + m_firstColumn + tap.first;
-        line.shotNoise = m_noise.line(lineKey) + tap.first;
-        line.darkNoise = m_noise.line(lineKey >> 32) + tap.first;
+        line.shotNoise = m_noise.line(lineKey) + m_firstColumn + tap.first;
+        line.darkNoise = m_noise.line(lineKey >> 32) + m_firstColumn + tap.first;
         line.darkDeviation = m_darkDeviation;
         line.darkMean = m_darkMean;
         line.darkSignal = m_flaws.darkSignalLine(sensorLine) + m_firstColumn + tap.first;

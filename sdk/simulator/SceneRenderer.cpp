@@ -10,6 +10,8 @@
 namespace {
 constexpr double flatFieldReflectance = 0.81; // Its square root is a whole number of SceneCanvas::fullScale.
 
+constexpr int mosaicBorder = 2; // Even, so that lines begin with the same colour.
+
 /// Returns the index of the sensor pixel that is part `part` of a binned pixel. Pixels of a colour mosaic are
 /// combined with the next ones of their colour.
 int sensorIndex(int pixel, int part, int binning, int step)
@@ -141,8 +143,8 @@ void SceneRenderer::renderMosaic(
 
 void SceneRenderer::renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
 {
-    const int left = std::max(0, settings.offsetX - 1);
-    const int right = std::min(m_size.width, settings.offsetX + settings.width + 1);
+    const int left = std::max(0, settings.offsetX - mosaicBorder);
+    const int right = std::min(m_size.width, settings.offsetX + settings.width + mosaicBorder);
     const int top = std::max(0, settings.offsetY - 1);
     const int bottom = std::min(m_size.height, settings.offsetY + settings.height + 1);
     prepare(settings, left, right - left, top, bottom - top);
@@ -162,17 +164,18 @@ const float *SceneRenderer::mosaicLine(const RenderSettings &settings, int y)
 {
     MosaicLine &line = m_mosaicLines[static_cast<std::size_t>(y % 3)];
     const auto width = static_cast<std::size_t>(settings.width);
-    if (line.y != y) {
-        line.y = y;
-        line.values.resize(width + 2);
-        const int missing = m_firstX - (settings.offsetX - 1); // Pixels that lie outside the picture.
-        readPictureLine(settings, y, line.values.data() + missing);
-        if (missing > 0)
-            line.values[0] = line.values[2];
-        if (m_firstX + m_columnCount < settings.offsetX + settings.width + 1)
-            line.values[width + 1] = line.values[width - 1];
-    }
-    return line.values.data() + 1;
+    line.values.resize(width + 2 * mosaicBorder);
+    float *pixels = line.values.data() + mosaicBorder;
+    if (line.y == y)
+        return pixels;
+    line.y = y;
+    readPictureLine(settings, y, pixels + (m_firstX - settings.offsetX));
+    // Outside the picture, the next pixel of the same colour is used.
+    if (m_firstX == settings.offsetX)
+        pixels[-1] = pixels[1];
+    if (m_firstX + m_columnCount == settings.offsetX + settings.width)
+        pixels[width] = pixels[width - 2];
+    return pixels;
 }
 
 void SceneRenderer::finishLine(const RenderSettings &settings, const PixelFormat &format, int y,
@@ -198,10 +201,9 @@ void SceneRenderer::readPictureLine(const RenderSettings &settings, int y, float
 {
     if (settings.binningX > 1 || (settings.binningY > 1 && !m_model.isLineScan))
         readBinnedLine(settings, y, values);
-    else if (m_model.isLineScan)
-        readSensorLine(settings, 0, y, values);
     else
-        readSensorLine(settings, settings.isReversedY ? m_size.height - 1 - y : y, y, values);
+        readSensorLine(
+            settings, settings.isReversedY && !m_model.isLineScan ? m_size.height - 1 - y : y, values);
     if (settings.isReversedX)
         std::reverse(values, values + m_columnCount);
 }
@@ -213,8 +215,7 @@ void SceneRenderer::readBinnedLine(const RenderSettings &settings, int y, float 
     const int first = settings.isReversedX ? m_size.width - m_firstX - m_columnCount : m_firstX;
     std::fill_n(values, m_columnCount, 0.0F);
     for (int part = 0; part < binningY; ++part) {
-        const int sensorLine = m_model.isLineScan ? 0 : sensorIndex(line, part, binningY, m_step);
-        readSensorLine(settings, sensorLine, m_model.isLineScan ? y : sensorLine, m_sensorLine.data());
+        readSensorLine(settings, sensorIndex(line, part, binningY, m_step), m_sensorLine.data());
         for (int i = 0; i < m_columnCount; ++i)
             for (int column = 0; column < settings.binningX; ++column)
                 values[i] += m_sensorLine[static_cast<std::size_t>(
@@ -227,15 +228,14 @@ void SceneRenderer::readBinnedLine(const RenderSettings &settings, int y, float 
         values[i] *= share;
 }
 
-void SceneRenderer::readSensorLine(
-    const RenderSettings &settings, int sensorLine, int pictureLine, float *values)
+void SceneRenderer::readSensorLine(const RenderSettings &settings, int line, float *values)
 {
     const std::uint8_t *scene = m_evenScene.data();
     if (settings.target == SceneTarget::Chart && m_model.isLineScan)
-        scene = m_canvas.line(m_columns.first, lineScanRow(settings, pictureLine));
+        scene = m_canvas.line(m_columns.first, lineScanRow(settings, line));
     else if (settings.target == SceneTarget::Chart)
-        scene = m_canvas.line(m_columns.first + m_shift.x, sensorLine + m_shift.y);
-    m_readout.readLine(scene, sensorLine, pictureLine, values);
+        scene = m_canvas.line(m_columns.first + m_shift.x, line + m_shift.y);
+    m_readout.readLine(scene, m_model.isLineScan ? 0 : line, line, values);
 }
 
 int SceneRenderer::lineScanRow(const RenderSettings &settings, int line) const

@@ -48,7 +48,7 @@ private:
         int first;
         int count;
     };
-    /// A line of a colour picture before the colours are separated, with one more pixel on each side.
+    /// A line of a colour picture before the colours are separated, with more pixels on both sides.
     struct MosaicLine
     {
         int y = -1; // Line of the picture; -1 if there is none yet.
@@ -64,7 +64,8 @@ private:
     const float *mosaicLine(const RenderSettings &settings, int y);
     void readPictureLine(const RenderSettings &settings, int y, float *values);
     void readBinnedLine(const RenderSettings &settings, int y, float *values);
-    void readSensorLine(const RenderSettings &settings, int sensorLine, int pictureLine, float *values);
+    /// `line` is a line of the sensor, or for line scan sensors of the picture.
+    void readSensorLine(const RenderSettings &settings, int line, float *values);
     SensorRange sensorRange(int first, int count, int size, int binning, bool isReversed) const;
     int lineScanRow(const RenderSettings &settings, int line) const;
     void prepareGamma(double gamma, const PixelFormat &format);

@@ -83,7 +83,7 @@ SensorKeys parseSensor(const Json &object, const std::string &place)
     constexpr int maxSize = 32768;
     SensorKeys keys;
     keys.width = optionalInteger(object, "sensorWidth", minSize, maxSize, place);
-    keys.height = optionalInteger(object, "sensorHeight", 1, maxSize, place);
+    keys.height = optionalInteger(object, "sensorHeight", minSize, maxSize, place);
     keys.isColor = optionalBoolean(object, "color", place);
     keys.isLineScan = optionalBoolean(object, "lineScan", place);
     keys.taps = optionalInteger(object, "taps", 1, 8, place);

@@ -76,7 +76,6 @@ const Quirk usable[] = {
 const Quirk unusable[] = {
     {"noUrls", "no-urls\n"},
     {"unreadableUrl", unreadable},
-    {"shortReads", "short-read 2\n"},
     {"truncated", local(descriptionSize() - 30)},
     {"huge", local(std::size_t(1) << 40)},
     {"empty", local(0)},
@@ -125,6 +124,16 @@ TEST_P(UnusableDescription, cameraOnlyStreams)
     ASSERT_TRUE(image);
     EXPECT_EQ(image->record.width, 64U);
     EXPECT_TRUE(host.close());
+}
+
+TEST(ShortRead, isAFailureOfTheFeature)
+{
+    const QuirkProducer producer("short-read 2\n");
+    HostClient host(producer.ctiPath());
+    ASSERT_TRUE(host.open()) << host.failure.text;
+    EXPECT_EQ(host.read("Gain"), CvxCPP::NodeValue());
+    EXPECT_EQ(host.failure.failure, DeviceFailure::Device) << host.failure.text;
+    EXPECT_NE(host.failure.text.find("Gain"), std::string::npos) << host.failure.text;
 }
 
 INSTANTIATE_TEST_SUITE_P(, UsableDescription, testing::ValuesIn(usable), nameOf);

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
-#include <cstring>
 #include <fstream>
 #include <future>
 
@@ -57,15 +56,18 @@ TEST_P(CrashInCall, doesNotReachTheProgram)
     producer.setScript(function + " crash\n");
     options.reopenInterval = 1h;
     CvxResult result = open();
-    if (result)
+    if (result) {
         result = useCamera(*device);
-    if (result) // Nothing is left to fail for the program.
-        close();
-    else
-        EXPECT_TRUE(result.code == CvxErrorDevice || result.code == CvxErrorDeviceLost) << result.text;
-    EXPECT_EQ(producer.count("crash in " + function), 1U);
-    if (!result)
+        const auto isReported = [&] { return recorder->reasons().find("SIGSEGV") != std::string::npos; };
+        EXPECT_TRUE(result || waitUntil(isReported)) << recorder->reasons();
+    } else {
         EXPECT_NE(result.text.find("SIGSEGV"), std::string::npos) << result.text;
+    }
+    if (!result) { // A crash while the camera is being closed is no failure.
+        EXPECT_TRUE(result.code == CvxErrorDevice || result.code == CvxErrorDeviceLost) << result.text;
+    }
+    close();
+    EXPECT_EQ(producer.count("crash in " + function), 1U);
     expectUsable();
 }
 
@@ -180,9 +182,7 @@ TEST_F(FailingDevice, lostStreamGoesOn)
         StreamStatistics statistics;
         EXPECT_TRUE(stream->GetStatistics(statistics));
         EXPECT_GE(statistics.reopenCount, 1U);
-        if (std::strcmp(row.script, "image scribble\n") != 0) // The pixels are the producer's to damage.
-            EXPECT_TRUE(std::equal(before.begin(), before.end(), held->GetData()))
-                << "a held image stays valid";
+        EXPECT_TRUE(std::equal(before.begin(), before.end(), held->GetData())) << "a held image stays valid";
     }
 }
 

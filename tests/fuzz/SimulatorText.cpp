@@ -32,12 +32,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     try {
         std::set<std::string> ids;
-        for (const auto &[record, devices] : parseConfiguration(textOf(data, size))) {
+        for (const SimulatedInterface &interface : parseConfiguration(textOf(data, size))) {
+            const InterfaceRecord &record = interface.record;
             requireNoNul({record.id, record.displayName, record.tlType});
             require(!record.id.empty() && !record.displayName.empty() && !record.tlType.empty(),
                 "an interface has an ID, a display name and a technology");
             require(ids.insert(record.id).second, "an interface ID is unique");
-            requireDevices(devices);
+            requireDevices(interface.devices);
         }
     } catch (const std::runtime_error &error) { // parseConfiguration() may throw only this type.
         require(*error.what() != '\0', "an error has a message");

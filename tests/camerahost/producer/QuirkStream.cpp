@@ -96,7 +96,7 @@ void scribble()
     std::ifstream maps("/proc/self/maps");
     for (std::string line; std::getline(maps, line);) {
         const auto dash = line.find('-');
-        if (line.find("CvxCPP") == std::string::npos)
+        if (line.find("CvxCPP ring") == std::string::npos)
             continue;
         const auto begin = std::stoull(line, nullptr, 16);
         const auto end = std::stoull(line.substr(dash + 1), nullptr, 16);
