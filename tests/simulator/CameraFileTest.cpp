@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr auto watch = GenTL::DEVICE_ACCESS_READONLY;
-constexpr auto control = GenTL::DEVICE_ACCESS_CONTROL;
 constexpr auto exclusive = GenTL::DEVICE_ACCESS_EXCLUSIVE;
 
 /// Opens the file and lets others in. Returns an empty text, or the text of the failure.
