@@ -53,6 +53,9 @@ public:
     /// Waits for the right to send requests. Returns why the device cannot be used instead.
     std::variant<DeviceGate::Turn, CvxCPP::CvxResult> takeTurn();
 
+    /// Returns why the device cannot be used now.
+    CvxCPP::CvxResult refusal() const;
+
     /// Sends a request and returns the reply or the error. An error that makes the host useless also loses
     /// the device.
     template <typename Reply, typename Request>
@@ -85,7 +88,6 @@ public:
     void setDirectory(std::shared_ptr<const NodeDirectory> directory);
 
 private:
-    CvxCPP::CvxResult refusal() const;
     CvxCPP::CvxResult failure(const DeviceGate::Turn &turn, const RequestFailedReply &failed);
     CvxCPP::CvxResult failure(const DeviceGate::Turn &turn, const Breakdown &breakdown);
 

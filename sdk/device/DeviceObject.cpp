@@ -21,6 +21,8 @@ DeviceObject::~DeviceObject()
 CvxResult DeviceObject::GetNodes(std::vector<NodeInfo> &nodes) const
 {
     return m_core->results.guarded([&]() -> CvxResult {
+        if (m_core->gate.state() == DeviceState::Closed)
+            return m_core->refusal();
         nodes = m_core->directory()->nodes();
         return {};
     });
@@ -70,6 +72,8 @@ CvxResult DeviceObject::AddObserver(const std::shared_ptr<IDeviceObserver> &obse
     return m_core->results.guarded([&]() -> CvxResult {
         if (!observer)
             return m_core->results.result(CvxErrorInvalidParameter, "The observer is null.");
+        if (m_core->gate.state() == DeviceState::Closed)
+            return m_core->refusal();
         m_core->notifier.add(observer);
         return {};
     });

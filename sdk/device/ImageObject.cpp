@@ -19,6 +19,7 @@ ImageInfo infoOf(const ImageRecord &record)
     info.isBigEndian = record.isBigEndian != 0;
     info.isComplete = record.isComplete != 0;
     info.timestamp = record.timestamp;
+    info.receivedAt = record.receivedAt;
     info.frameId = record.frameId;
     return info;
 }

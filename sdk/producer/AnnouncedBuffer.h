@@ -3,9 +3,9 @@
 #include "sdk/producer/InfoOutput.h"
 #include "sdk/producer/OpenCamera.h"
 
-#include <cstdlib>
 #include <memory>
 #include <string>
+#include <sys/mman.h>
 
 /// One announced buffer of a data stream.
 struct AnnouncedBuffer
@@ -18,11 +18,12 @@ struct AnnouncedBuffer
         Filling, ///< The image source.
         Output ///< It waits in the output queue.
     };
-    struct Free
+    struct Unmap
     {
-        void operator()(void *memory) const { std::free(memory); }
+        std::size_t size; // Bytes.
+        void operator()(void *memory) const { munmap(memory, size); }
     };
-    using Memory = std::unique_ptr<void, Free>;
+    using Memory = std::unique_ptr<void, Unmap>;
 
     GenTL::BUFFER_HANDLE handle;
     void *data;

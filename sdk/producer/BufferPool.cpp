@@ -14,6 +14,11 @@ GC_ERROR failUnknownBuffer()
     return fail(GC_ERR_INVALID_HANDLE, "This is not the handle of a buffer of this stream.");
 }
 
+GC_ERROR failEmptyBuffer()
+{
+    return fail(GC_ERR_INVALID_BUFFER, "A buffer cannot have 0 bytes.");
+}
+
 void clearData(AnnouncedBuffer &buffer)
 {
     buffer.hasNewData = false;
@@ -32,12 +37,14 @@ GC_ERROR BufferPool::announce(void *memory, std::size_t size, void *userPointer,
 
 GC_ERROR BufferPool::allocate(std::size_t size, void *userPointer, BUFFER_HANDLE *handle)
 {
-    AnnouncedBuffer::Memory memory(std::calloc(1, std::max(size, std::size_t(1))));
-    if (!memory)
+    if (size == 0)
+        return failEmptyBuffer();
+    void *const mapped = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (mapped == MAP_FAILED)
         return fail(
             GC_ERR_OUT_OF_MEMORY, "There is no memory for a buffer of " + std::to_string(size) + " bytes.");
-    void *const data = memory.get();
-    return add({nullptr, data, size, userPointer, std::move(memory)}, handle);
+    AnnouncedBuffer::Memory memory(mapped, {size});
+    return add({nullptr, mapped, size, userPointer, std::move(memory)}, handle);
 }
 
 GC_ERROR BufferPool::add(AnnouncedBuffer buffer, BUFFER_HANDLE *handle)
@@ -45,7 +52,7 @@ GC_ERROR BufferPool::add(AnnouncedBuffer buffer, BUFFER_HANDLE *handle)
     if (!handle)
         return failMissingArgument();
     if (buffer.size == 0)
-        return fail(GC_ERR_INVALID_BUFFER, "A buffer cannot have 0 bytes.");
+        return failEmptyBuffer();
     const std::lock_guard lock(m_mutex);
     if (m_acquisition != Acquisition::Stopped)
         return fail(GC_ERR_BUSY, "Buffers cannot be announced while images are acquired.");
