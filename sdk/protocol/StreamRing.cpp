@@ -53,7 +53,8 @@ bool StreamRing::isPlausible() const
     // In this order: entries that are pushed or popped meanwhile make the difference smaller.
     const std::uint64_t pushed = m_pushed.load(std::memory_order_acquire);
     const std::uint64_t popped = m_popped.load(std::memory_order_acquire);
-    return pushed <= popped || pushed - popped <= capacity;
+    constexpr std::uint64_t maxCount = std::uint64_t(1) << 62U; // No stream lasts that long.
+    return pushed <= maxCount && popped <= maxCount && (pushed <= popped || pushed - popped <= capacity);
 }
 
 void StreamRing::waitForImage(Milliseconds timeout, std::uint32_t signals)

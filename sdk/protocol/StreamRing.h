@@ -77,7 +77,8 @@ public:
     // pop() takes the oldest filled buffer; several threads may call it. The result may be any number,
     // because the host may have damaged the memory.
 
-    /// Returns false if the queue contains more entries than it can have, so that the host has damaged it.
+    /// Returns false if the queue has numbers of entries that it cannot have, so that the host has damaged
+    /// it.
     bool isPlausible() const;
 
     /// Waits until the queue is not empty or wakeProgram() is called, at most for `timeout`. May return

@@ -1,28 +1,52 @@
 #include "sdk/simulator/SceneBlur.h"
 
+#include "sdk/simulator/ProcessorVersions.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace {
 constexpr float unitsPerValue = 1 << 14; // A square of 255 × 255 values of 2 fits into an int.
+
+/// Squares around neighbouring pixels.
+struct Squares
+{
+    const std::uint32_t
+        *top; // Prefix sums of the line above the squares, and of their last line, at the pixel.
+    const std::uint32_t *bottom;
+    int before; // Distance of the column on the left of a square, and of its last column.
+    int after;
+    float weight;
+};
+
+CORVIX_PROCESSOR_VERSIONS
+void addSquares(const Squares &squares, int count, float *__restrict sums)
+{
+    const auto [top, bottom, before, after, weight] = squares;
+    for (int i = 0; i < count; ++i) {
+        const std::uint32_t sum = bottom[i + after] - bottom[i - before] - top[i + after] + top[i - before];
+        sums[i] += static_cast<float>(static_cast<std::int32_t>(sum)) * weight;
+    }
 }
+} // namespace
 
 SceneBlur::SceneBlur(int width, int maxRadius, int step)
     : m_border(step * (maxRadius + 2)),
       m_step(step),
       m_length(static_cast<std::size_t>(width + 2 * m_border)),
       m_lines(static_cast<std::size_t>(2 * m_border + 1)),
-      m_sums(m_length * m_lines)
+      m_prefixSums(m_length * m_lines)
 { }
 
-const std::uint32_t *SceneBlur::sums(int linesBack) const
+const std::uint32_t *SceneBlur::prefixSums(int linesBack) const
 {
-    return m_sums.data() + (m_next + m_lines - 1 - static_cast<std::size_t>(linesBack)) % m_lines * m_length;
+    return m_prefixSums.data()
+        + (m_next + m_lines - 1 - static_cast<std::size_t>(linesBack)) % m_lines * m_length;
 }
 
 void SceneBlur::addLine(const float *values)
 {
-    std::uint32_t *line = m_sums.data() + m_next % m_lines * m_length;
+    std::uint32_t *line = m_prefixSums.data() + m_next % m_lines * m_length;
     for (std::size_t x = 0; x < m_length; ++x)
         line[x] = static_cast<std::uint32_t>(static_cast<int>(values[x] * unitsPerValue));
     const auto step = static_cast<std::size_t>(m_step);
@@ -36,12 +60,12 @@ void SceneBlur::addLine(const float *values)
     ++m_next;
     if (m_next <= step)
         return;
-    const std::uint32_t *above = sums(m_step);
+    const std::uint32_t *above = prefixSums(m_step);
     for (std::size_t x = 0; x < m_length; ++x)
         line[x] += above[x];
 }
 
-void SceneBlur::blur(int x, int count, double radius, float *values) const
+void SceneBlur::addBlurred(int x, int count, double radius, float *sums) const
 {
     // The mean of a square with a whole number of steps, mixed with that of the next larger one.
     const double steps = radius / m_step;
@@ -59,16 +83,10 @@ void SceneBlur::blur(int x, int count, double radius, float *values) const
     const int smallBefore = smallAfter + m_step; // Offset of the line and column in front of it, negative.
     const int largeAfter = smallAfter + m_step;
     const int largeBefore = smallBefore + m_step;
-    const std::uint32_t *smallTop = sums(m_border + smallBefore) + center;
-    const std::uint32_t *smallBottom = sums(m_border - smallAfter) + center;
-    const std::uint32_t *largeTop = sums(m_border + largeBefore) + center;
-    const std::uint32_t *largeBottom = sums(m_border - largeAfter) + center;
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t smallSum = smallBottom[i + smallAfter] - smallBottom[i - smallBefore]
-            - smallTop[i + smallAfter] + smallTop[i - smallBefore];
-        const std::uint32_t largeSum = largeBottom[i + largeAfter] - largeBottom[i - largeBefore]
-            - largeTop[i + largeAfter] + largeTop[i - largeBefore];
-        values[i] = static_cast<float>(static_cast<std::int32_t>(smallSum)) * smallWeight
-            + static_cast<float>(static_cast<std::int32_t>(largeSum)) * largeWeight;
-    }
+    addSquares({prefixSums(m_border + smallBefore) + center, prefixSums(m_border - smallAfter) + center,
+                   smallBefore, smallAfter, smallWeight},
+        count, sums);
+    addSquares({prefixSums(m_border + largeBefore) + center, prefixSums(m_border - largeAfter) + center,
+                   largeBefore, largeAfter, largeWeight},
+        count, sums);
 }

@@ -11,7 +11,7 @@ class SceneBlur
 {
 public:
     /// Columns for which one radius is used.
-    static constexpr int tileWidth = 16;
+    static constexpr int tileWidth = 32;
 
     /// Radii are at most `maxRadius` steps.
     SceneBlur(int width, int maxRadius, int step);
@@ -19,20 +19,20 @@ public:
     /// Number of pixels that addLine() needs on each side of the blurred ones, and of lines above and below.
     int border() const { return m_border; }
 
-    /// Adds the next line: width + 2 * border() values of at least 0, about 1 at most.
+    /// Adds the next line: width + 2 * border() values between -2 and 2.
     void addLine(const float *values);
 
-    /// Computes `count` blurred values of the line that was added border() lines before the last one,
-    /// starting at column `x`. The radius is in pixels and at most the maximum.
-    void blur(int x, int count, double radius, float *values) const;
+    /// Adds `count` blurred values, of the line that was added border() lines before the last one, from
+    /// column `x` on, to the sums. The radius is in pixels and at most the maximum.
+    void addBlurred(int x, int count, double radius, float *sums) const;
 
 private:
-    const std::uint32_t *sums(int linesBack) const;
+    const std::uint32_t *prefixSums(int linesBack) const;
 
     int m_border;
     int m_step;
     std::size_t m_length; // Values in a line.
     std::size_t m_lines; // Lines that are kept.
     std::size_t m_next = 0; // Number of lines added.
-    std::vector<std::uint32_t> m_sums; // Sums of everything above and to the left; they may overflow.
+    std::vector<std::uint32_t> m_prefixSums; // Sums of everything above and to the left; they may overflow.
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/simulator/SceneBlur.h"
 #include "sdk/simulator/SceneChart.h"
 #include "sdk/simulator/SensorFlaws.h"
 #include "sdk/simulator/SensorModel.h"
@@ -52,7 +53,20 @@ public:
     static constexpr float fullScale = 240; // Leaves room for surfaces that are brighter than white.
 
 private:
-    SceneChart::LineFilter filterOfLine(const View &view, int y) const;
+    /// Something that is painted and blurred line by line.
+    struct Layer
+    {
+        Layer(const SceneArea &area, double maxRadius, int step);
+
+        SceneBlur blur;
+        int left; ///< Where painted lines begin.
+        int nextLine; ///< That will be painted.
+        std::vector<float> painted;
+    };
+    void paintUntil(Layer &layer, int lastLine, bool isTint);
+    void blurLine(const Layer &layer, int y, float *values) const;
+    double blurRadius(int x, int y) const;
+    SceneChart::LineFilter tintFilter(const View &view, int y) const;
 
     const SensorModel m_model;
     const SensorFlaws &m_flaws;

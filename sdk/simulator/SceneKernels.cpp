@@ -1,16 +1,10 @@
 #include "sdk/simulator/SceneKernels.h"
 
+#include "sdk/simulator/ProcessorVersions.h"
+
 #include <algorithm>
 
-// The program chooses between the versions when it starts. Sanitizers do not support this.
-#if defined(__x86_64__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)                   \
-    && !defined(__clang__)
-#define SCENE_PROCESSOR_VERSIONS __attribute__((target_clones("avx2", "default")))
-#else
-#define SCENE_PROCESSOR_VERSIONS
-#endif
-
-SCENE_PROCESSOR_VERSIONS
+CORVIX_PROCESSOR_VERSIONS
 void computeSignal(const SignalLine &input, int count, float *__restrict values)
 {
     const SignalLine line = input; // Local copies cannot change in the loop.
@@ -25,7 +19,7 @@ void computeSignal(const SignalLine &input, int count, float *__restrict values)
 
 namespace {
 template <typename Result>
-inline __attribute__((always_inline)) void quantizeTo(
+CORVIX_PROCESSOR_INLINE void quantizeTo(
     const float *values, int count, const Quantization &quantization, Result *__restrict results)
 {
     const auto [scale, offset, maxValue] = quantization;
@@ -36,13 +30,13 @@ inline __attribute__((always_inline)) void quantizeTo(
 }
 } // namespace
 
-SCENE_PROCESSOR_VERSIONS
+CORVIX_PROCESSOR_VERSIONS
 void quantize(const float *values, int count, const Quantization &quantization, std::uint16_t *results)
 {
     quantizeTo(values, count, quantization, results);
 }
 
-SCENE_PROCESSOR_VERSIONS
+CORVIX_PROCESSOR_VERSIONS
 void quantizeBytes(const float *values, int count, const Quantization &quantization, std::uint8_t *results)
 {
     quantizeTo(values, count, quantization, results);

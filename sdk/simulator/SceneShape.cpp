@@ -1,5 +1,6 @@
 #include "sdk/simulator/SceneShape.h"
 
+#include "sdk/simulator/ProcessorVersions.h"
 #include "sdk/simulator/SceneFont.h"
 
 #include <algorithm>
@@ -8,14 +9,14 @@
 namespace {
 constexpr float pi = 3.14159265F;
 
-float clampedToShare(float value)
+CORVIX_PROCESSOR_INLINE float clampedToShare(float value)
 {
     return std::min(std::max(value, 0.0F), 1.0F); // Unlike std::clamp(), without branches.
 }
 
 /// Returns an angle from 0 to 2 pi with an error below 0.001. Unlike std::atan2(), the compiler can compute
 /// several of them at once.
-float approximateAngle(float x, float y)
+CORVIX_PROCESSOR_INLINE float approximateAngle(float x, float y)
 {
     const float absoluteX = std::abs(x) + 1e-6F;
     const float absoluteY = std::abs(y);
@@ -29,7 +30,7 @@ float approximateAngle(float x, float y)
 }
 
 /// Returns the distance from the nearest integer, 0 to 0.5. The value must be greater than -1.
-float distanceFromInteger(float value)
+CORVIX_PROCESSOR_INLINE float distanceFromInteger(float value)
 {
     return std::abs(value - static_cast<float>(static_cast<int>(value + 0.5F)));
 }
@@ -37,6 +38,7 @@ float distanceFromInteger(float value)
 // The functions copy everything that they need from the shape, because the coverage could overlap with the
 // shape as far as the compiler knows. Then it can compute several pixels at once.
 
+CORVIX_PROCESSOR_VERSIONS
 void coverBox(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     const float vertical = clampedToShare(y - shape.top + 1) * clampedToShare(shape.bottom() - y);
@@ -48,6 +50,7 @@ void coverBox(const SceneShape &shape, float y, float x, int count, float *cover
     }
 }
 
+CORVIX_PROCESSOR_VERSIONS
 void coverRing(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     const float radius = shape.width / 2;
@@ -62,6 +65,7 @@ void coverRing(const SceneShape &shape, float y, float x, int count, float *cove
     }
 }
 
+CORVIX_PROCESSOR_VERSIONS
 void coverStar(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     const float radius = shape.width / 2;
@@ -78,6 +82,7 @@ void coverStar(const SceneShape &shape, float y, float x, int count, float *cove
     }
 }
 
+CORVIX_PROCESSOR_VERSIONS
 void coverZonePlate(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     const float radius = shape.width / 2;
@@ -93,6 +98,7 @@ void coverZonePlate(const SceneShape &shape, float y, float x, int count, float 
     }
 }
 
+CORVIX_PROCESSOR_VERSIONS
 void coverSlantedSquare(const SceneShape &shape, float y, float x, int count, float *coverage)
 {
     constexpr float sine = 0.0871557F;
@@ -109,12 +115,13 @@ void coverSlantedSquare(const SceneShape &shape, float y, float x, int count, fl
 }
 
 /// Returns how much of a pixel is dark, `position` pixels from the beginning of bars.
-float barCoverage(float position, float period)
+CORVIX_PROCESSOR_INLINE float barCoverage(float position, float period)
 {
     const float fromDarkCenter = distanceFromInteger(position / period - 0.25F);
     return clampedToShare((0.25F - fromDarkCenter) * period + 0.5F);
 }
 
+CORVIX_PROCESSOR_VERSIONS
 void coverVerticalBars(const SceneShape &shape, float, float x, int count, float *coverage)
 {
     const float left = shape.left;

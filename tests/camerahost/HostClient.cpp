@@ -126,7 +126,7 @@ bool HostClient::startStream(bool isOnlyNewest)
 std::optional<ReceivedImage> HostClient::nextImage(std::chrono::milliseconds timeout)
 {
     std::optional<std::uint32_t> buffer;
-    waitUntil([&] { return (buffer = m_ring->pop()).has_value(); }, timeout);
+    waitUntil([&] { return m_isDisconnected || (buffer = m_ring->pop()).has_value(); }, timeout);
     if (!buffer)
         return std::nullopt;
     const std::uint8_t *start = m_pixels + *buffer * prepared.bufferSize;
@@ -143,6 +143,7 @@ std::optional<ReceivedImage> HostClient::nextImage(std::chrono::milliseconds tim
 
 void HostClient::disconnect()
 {
+    m_isDisconnected = true;
     shutdown(m_channel.descriptor(), SHUT_RDWR);
 }
 

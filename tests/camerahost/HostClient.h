@@ -6,6 +6,7 @@
 #include "sdk/protocol/Message.h"
 #include "sdk/protocol/StreamRing.h"
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -76,6 +77,7 @@ private:
     LineChannel m_channel;
     Message::Id m_lastId = Message::noRequest;
     std::optional<std::string> m_loss;
+    std::atomic<bool> m_isDisconnected{false};
     StreamRing *m_ring = nullptr;
     const std::uint8_t *m_pixels = nullptr;
     std::size_t m_pixelBytes = 0;

@@ -22,7 +22,11 @@ CvxResult FailingDevice::open(CvxAccess access, const std::string &camera)
 {
     if (!devices)
         devices = std::make_unique<OpenDevices>(options);
-    return devices->open({producer.ctiPath(), "net0", camera, access, "Camera"}, device);
+    const CvxResult result = devices->open({producer.ctiPath(), "net0", camera, access, "Camera"}, device);
+    if (result) {
+        EXPECT_TRUE(device->AddObserver(recorder));
+    }
+    return result;
 }
 
 void FailingDevice::openAndStream()

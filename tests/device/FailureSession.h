@@ -8,6 +8,28 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <mutex>
+
+/// Collects the reasons of all changes of a device's state.
+class StateRecorder : public CvxCPP::IDeviceObserver
+{
+public:
+    void NodesChanged(const std::vector<std::string> &) override { }
+    void StateChanged(CvxCPP::DeviceState, const std::string &reason) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_reasons += reason + '\n';
+    }
+    std::string reasons() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_reasons;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::string m_reasons;
+};
 
 /// Opens the camera of a quirk producer as a program does. The destructor fails the test if a process or a
 /// descriptor is left, or if the host has broken a rule.
@@ -36,6 +58,7 @@ protected:
     std::shared_ptr<CvxCPP::Device> device;
     std::shared_ptr<CvxCPP::Stream> stream;
     std::shared_ptr<const CvxCPP::Image> image;
+    std::shared_ptr<StateRecorder> recorder = std::make_shared<StateRecorder>();
 
 private:
     const std::size_t m_descriptors = openDescriptors();

@@ -113,3 +113,41 @@ TEST_F(LineChannelTest, channelIsLostIfOtherCodeClosesItsDescriptor)
     dup2(file, descriptor); // The destructor closes this descriptor.
     close(file);
 }
+
+TEST_F(LineChannelTest, descriptorsArriveWithTheirLine)
+{
+    m_near.acceptDescriptors();
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
+    EXPECT_EQ(m_far.send("two\n", {pipe[0], pipe[1]}), Status::Line);
+    close(pipe[0]);
+    close(pipe[1]);
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Line);
+    EXPECT_EQ(m_line, "two");
+    const auto descriptors = m_near.takeDescriptors();
+    ASSERT_EQ(descriptors.size(), 2U);
+    EXPECT_EQ(write(descriptors[1], "x", 1), 1);
+    char byte = 0;
+    EXPECT_EQ(read(descriptors[0], &byte, 1), 1);
+    EXPECT_EQ(fcntl(descriptors[0], F_GETFD), FD_CLOEXEC);
+    EXPECT_TRUE(m_near.takeDescriptors().empty());
+    close(descriptors[0]);
+    close(descriptors[1]);
+}
+
+TEST_F(LineChannelTest, descriptorsThatNobodyTakesAreClosed)
+{
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    m_far.send("refused\n", {pipe[1]}); // The channel does not accept descriptors.
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Line);
+    m_near.acceptDescriptors();
+    m_far.send("accepted\n", {pipe[1]});
+    EXPECT_EQ(m_near.tryReadLine(m_line), Status::Line);
+    close(pipe[1]);
+    char byte = 0;
+    EXPECT_EQ(read(pipe[0], &byte, 1), -1) << "the descriptor is still open";
+    m_near.close();
+    EXPECT_EQ(read(pipe[0], &byte, 1), 0) << "nobody can write any more";
+    close(pipe[0]);
+}
