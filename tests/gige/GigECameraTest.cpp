@@ -134,7 +134,7 @@ TEST(GigECamera, imagesArriveInTheBuffersOfTheQueue)
     EXPECT_EQ(source.lostImages(), 0U);
 }
 
-TEST(GigECamera, packetSizeOfTheConsumerIsKept)
+TEST(GigECamera, packetsOf60000BytesArrive)
 {
     const FakeCamera fake;
     const OpenedCamera camera = openStarted();
