@@ -6,7 +6,7 @@
 #include <cstring>
 
 AnnouncedBuffers::AnnouncedBuffers(
-    const DeviceLibrary &library, GenTL::DS_HANDLE stream, const StreamMemory &memory)
+    const DeviceLibrary &library, GenTL::DS_HANDLE stream, const StreamMapping &memory)
     : m_library(library), m_stream(stream), m_memory(memory)
 { }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sdk/camerahost/DeviceLibrary.h"
-#include "sdk/camerahost/StreamMemory.h"
+#include "sdk/camerahost/StreamMapping.h"
 
 #include <array>
 #include <atomic>
@@ -15,7 +15,7 @@
 class AnnouncedBuffers
 {
 public:
-    AnnouncedBuffers(const DeviceLibrary &library, GenTL::DS_HANDLE stream, const StreamMemory &memory);
+    AnnouncedBuffers(const DeviceLibrary &library, GenTL::DS_HANDLE stream, const StreamMapping &memory);
 
     /// Announces the buffers, at least `minimum` of them; fewer than all if the producer has no more memory.
     std::optional<Problem> announce(std::uint32_t minimum);
@@ -63,7 +63,7 @@ private:
 
     const DeviceLibrary &m_library;
     const GenTL::DS_HANDLE m_stream;
-    const StreamMemory &m_memory;
+    const StreamMapping &m_memory;
     std::array<Buffer, StreamRing::maxBuffers> m_buffers;
     std::uint32_t m_size = 0;
     std::uint32_t m_lastTaken = 0; // Producers fill their buffers in turn, so the search starts here.

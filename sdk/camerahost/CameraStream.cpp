@@ -12,8 +12,8 @@ constexpr CameraStream::Milliseconds undoTimeout(500); // For each call after a 
 
 } // namespace
 
-CameraStream::Run::Run(
-    DataStream &stream, std::unique_ptr<StreamMemory> streamMemory, const ImageSetup &images, bool onlyNewest)
+CameraStream::Run::Run(DataStream &stream, std::unique_ptr<StreamMapping> streamMemory,
+    const ImageSetup &images, bool onlyNewest)
     : memory(std::move(streamMemory)),
       buffers(stream.library(), stream.handle(), *memory),
       requeue(buffers, memory->ring()),
@@ -62,7 +62,7 @@ BufferNeeds CameraStream::readNeeds() const
 std::optional<CameraStream::Failure> CameraStream::start(
     const StartStreamRequest &request, const std::vector<int> &descriptors)
 {
-    auto memory = StreamMemory::map(descriptors, request.buffers, request.bufferSize);
+    auto memory = StreamMapping::map(descriptors, request.buffers, request.bufferSize);
     if (!m_stream.handle() || m_run)
         return Failure{DeviceFailure::InvalidParameter, "The stream is not prepared."};
     std::optional<Failure> failure;

@@ -6,7 +6,7 @@
 #include "sdk/camerahost/DataStream.h"
 #include "sdk/camerahost/FetchLoop.h"
 #include "sdk/camerahost/Requeue.h"
-#include "sdk/camerahost/StreamMemory.h"
+#include "sdk/camerahost/StreamMapping.h"
 #include "sdk/protocol/DeviceMessages.h"
 
 #include <chrono>
@@ -56,10 +56,10 @@ private:
     /// What exists from the start to the stop of a stream.
     struct Run
     {
-        Run(DataStream &stream, std::unique_ptr<StreamMemory> streamMemory, const ImageSetup &images,
+        Run(DataStream &stream, std::unique_ptr<StreamMapping> streamMemory, const ImageSetup &images,
             bool onlyNewest);
 
-        std::unique_ptr<StreamMemory> memory;
+        std::unique_ptr<StreamMapping> memory;
         AnnouncedBuffers buffers;
         Requeue requeue;
         FetchLoop fetch;

@@ -9,6 +9,13 @@
 #include <array>
 #include <utility>
 
+namespace {
+
+/// For stopping the stream, so that there is time left to close the device if that call hangs too.
+constexpr OpenedCamera::Milliseconds abandonTimeout(200);
+
+} // namespace
+
 OpenedCamera::OpenedCamera() : m_nodes(std::make_unique<MissingNodeMap>("The camera is not open.")) { }
 
 std::optional<OpenedCamera::Failure> OpenedCamera::open(
@@ -72,6 +79,6 @@ void OpenedCamera::close(Milliseconds timeout)
 void OpenedCamera::abandon()
 {
     if (CameraStream *const stream = m_stream)
-        stream->abandon();
+        callWithin(abandonTimeout, [stream] { stream->abandon(); });
     m_device.abandon();
 }

@@ -77,9 +77,6 @@ const std::vector<std::int32_t> sizeInfos{BUFFER_INFO_SIZE_FILLED, BUFFER_INFO_W
     BUFFER_INFO_IMAGEOFFSET, BUFFER_INFO_PAYLOADTYPE, BUFFER_INFO_PIXELFORMAT, BUFFER_INFO_IMAGEPRESENT,
     BUFFER_INFO_PIXELFORMAT_NAMESPACE, BUFFER_INFO_DELIVERED_IMAGEHEIGHT, BUFFER_INFO_DATA_SIZE,
     BUFFER_INFO_IS_INCOMPLETE, BUFFER_INFO_NEW_DATA, BUFFER_INFO_CONTAINS_CHUNKDATA};
-const std::vector<std::int32_t> flagInfos{BUFFER_INFO_IMAGEPRESENT, BUFFER_INFO_IS_INCOMPLETE,
-    BUFFER_INFO_NEW_DATA, BUFFER_INFO_CONTAINS_CHUNKDATA};
-
 std::vector<std::int32_t> infosFrom(std::int32_t first, std::int32_t last)
 {
     std::vector<std::int32_t> infos;
@@ -91,6 +88,7 @@ std::vector<std::int32_t> infosFrom(std::int32_t first, std::int32_t last)
 const std::vector<std::string> functionsSince15{"DSGetNumBufferParts", "DSGetBufferPartInfo"};
 const std::vector<std::string> functionsSince11{"DSGetNumBufferParts", "DSGetBufferPartInfo",
     "DSGetBufferChunkData", "GCGetNumPortURLs", "GCGetPortURLInfo"};
+const std::string wide = "width 640\n"; // Larger than a page, to which the size of a buffer is rounded up.
 const std::string withoutPayloadSize = rule("DSGetInfo", STREAM_INFO_DEFINES_PAYLOADSIZE, "value 0");
 
 std::string buffer(std::int32_t command, const std::string &action)
@@ -133,8 +131,9 @@ const PictureRow pictureRows[] = {
     {{"payloadUnknown", buffer(BUFFER_INFO_PAYLOADTYPE, "value 0")}},
     {{"payloadChunkData",
         buffer(BUFFER_INFO_PAYLOADTYPE, "value 4") + buffer(BUFFER_INFO_IMAGEPRESENT, "value 0")}},
-    {{"sizesOfFourBytes", rules("DSGetBufferInfo", sizeInfos, "bytes 4")}},
-    {{"flagsOfEightBytes", rules("DSGetBufferInfo", flagInfos, "bytes 8")}},
+    {{"sizesOfFourBytes",
+         "line-padding 12\nimage-offset 256\n" + rules("DSGetBufferInfo", sizeInfos, "bytes 4")},
+        {64, 48, mono8, 12}},
     {{"oldPixelFormat", "format 0x01100007\n" + buffer(BUFFER_INFO_PIXELFORMAT, "value 0x01080001")},
         {64, 48, mono16, 0}},
     {{"otherNamespace", buffer(BUFFER_INFO_PIXELFORMAT_NAMESPACE, "value 1")}},
@@ -155,13 +154,16 @@ const PictureRow pictureRows[] = {
              + rule("DSGetBufferPartInfo", BUFFER_PART_INFO_XPADDING, "value 4")},
         {64, 48, mono16, 8}},
     // Size of the buffers.
-    {{"payloadTooSmall", rule("DSGetInfo", STREAM_INFO_PAYLOAD_SIZE, "value 100")}},
-    {{"payloadOfCamera", withoutPayloadSize}},
-    {{"payloadOfCameraStale", withoutPayloadSize + "stale-payload\n"}},
-    {{"payloadOfCameraZero", withoutPayloadSize, {},
-        [](const std::string &text) { return replaced(text, "<Address>0x18<", "<Address>0x80<"); }}},
-    {{"payloadOfCameraMissing", withoutPayloadSize, {},
-        [](const std::string &text) { return replaced(text, "\"PayloadSize\"", "\"OtherSize\""); }}},
+    {{"payloadTooSmall", wide + rule("DSGetInfo", STREAM_INFO_PAYLOAD_SIZE, "value 100")},
+        {640, 48, mono8, 0}},
+    {{"payloadOfCamera", wide + withoutPayloadSize}, {640, 48, mono8, 0}},
+    {{"payloadOfCameraStale", wide + withoutPayloadSize + "stale-payload\n"}, {640, 48, mono8, 0}},
+    {{"payloadOfCameraZero", wide + withoutPayloadSize, {},
+         [](const std::string &text) { return replaced(text, "<Address>0x18<", "<Address>0x80<"); }},
+        {640, 48, mono8, 0}},
+    {{"payloadOfCameraMissing", wide + withoutPayloadSize, {},
+         [](const std::string &text) { return replaced(text, "\"PayloadSize\"", "\"OtherSize\""); }},
+        {640, 48, mono8, 0}},
     {{"minimumFails", rule("DSGetInfo", STREAM_INFO_BUF_ANNOUNCE_MIN, "error -1003")}},
     {{"minimumZero", rule("DSGetInfo", STREAM_INFO_BUF_ANNOUNCE_MIN, "value 0")}},
     {{"minimumLarge", "min-buffers 6\n"}},

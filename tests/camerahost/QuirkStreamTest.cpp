@@ -96,8 +96,10 @@ INSTANTIATE_TEST_SUITE_P(, QuirkChunks, testing::ValuesIn(chunkRows), nameOf);
 
 TEST(QuirkStream, incompleteImagesAreMarked)
 {
-    for (const char *infos : {"", "incomplete-infos-fail\n"}) {
-        OpenedHost host(std::string("image@2 cut-short\n") + infos);
+    for (const std::string &infos : {std::string(), std::string("incomplete-infos-fail\n"),
+             rule("DSGetBufferInfo", BUFFER_INFO_IS_INCOMPLETE, "bytes 4"),
+             rule("DSGetBufferInfo", BUFFER_INFO_IS_INCOMPLETE, "bytes 8")}) {
+        OpenedHost host("image@2 cut-short\n" + infos);
         const auto images = host.stream(4);
         ASSERT_EQ(images.size(), 4U);
         EXPECT_TRUE(images[0].record.isComplete);

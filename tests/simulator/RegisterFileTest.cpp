@@ -10,8 +10,6 @@
 namespace {
 
 using Id = RegisterId;
-constexpr auto watch = GenTL::DEVICE_ACCESS_READONLY;
-constexpr auto control = GenTL::DEVICE_ACCESS_CONTROL;
 
 /// Opens the camera in a child process, where it stays open, and changes the exposure time.
 std::string setExposureForever(const std::string &path, double exposure)

@@ -72,8 +72,6 @@ void compute(Camera &camera)
 /// Performs what a written register starts or stops.
 GC_ERROR execute(Camera &camera, std::uint64_t address)
 {
-    if (address == AcquisitionStopRegister)
-        camera.isAcquiring = false;
     if (address != AcquisitionStartRegister)
         return GC_ERR_SUCCESS;
     if (!camera.stream.isGrabbing)

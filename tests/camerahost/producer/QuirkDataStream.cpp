@@ -208,6 +208,8 @@ GENTL_FUNCTION DSStopAcquisition(DS_HANDLE hDataStream, ACQ_STOP_FLAGS iStopFlag
         return withStream(hDataStream, [&](Stream &stream) {
             if (!stream.isGrabbing)
                 return GC_ERR_RESOURCE_IN_USE;
+            if (stream.camera->isAcquiring && iStopFlags == ACQ_STOP_FLAGS_DEFAULT)
+                logViolation("the stream is stopped before the camera");
             stopThread(stream, lock);
             return GC_ERR_SUCCESS;
         });

@@ -40,6 +40,14 @@ Info urlInfo(std::uint32_t index, URL_INFO_CMD command)
                                    : noInfo(GC_ERR_NOT_IMPLEMENTED);
 }
 
+/// Notes the attempt to stop the camera, which counts even if the script makes it fail.
+void noteStop(void *port, std::uint64_t address)
+{
+    const Lock lock(mutex);
+    if (Camera *const camera = address == AcquisitionStopRegister ? cameraOfPort(port) : nullptr)
+        camera->isAcquiring = false;
+}
+
 } // namespace
 
 namespace GenTL {
@@ -122,6 +130,7 @@ GENTL_FUNCTION GCReadPort(PORT_HANDLE hPort, std::uint64_t iAddress, void *pBuff
 GENTL_FUNCTION GCWritePort(
     PORT_HANDLE hPort, std::uint64_t iAddress, const void *pBuffer, std::size_t *piSize)
 {
+    noteStop(hPort, iAddress);
     return loggedCall("GCWritePort", hexadecimal(iAddress), [&](const Lock &) {
         Camera *const camera = cameraOfPort(hPort);
         return camera ? writePort(*camera, iAddress, pBuffer, *piSize) : GC_ERR_INVALID_HANDLE;

@@ -1,4 +1,4 @@
-#include "sdk/camerahost/StreamMemory.h"
+#include "sdk/camerahost/StreamMapping.h"
 
 #include <limits>
 #include <sys/mman.h>
@@ -20,12 +20,12 @@ void *mapFile(int descriptor, std::size_t size)
 
 } // namespace
 
-std::unique_ptr<StreamMemory> StreamMemory::map(
+std::unique_ptr<StreamMapping> StreamMapping::map(
     const std::vector<int> &descriptors, std::uint32_t buffers, std::size_t bufferSize)
 {
     const bool isValid = descriptors.size() == 2 && buffers > 0 && buffers <= StreamRing::maxBuffers
         && bufferSize > 0 && bufferSize <= std::numeric_limits<std::size_t>::max() / buffers;
-    std::unique_ptr<StreamMemory> memory(isValid ? new StreamMemory(buffers, bufferSize) : nullptr);
+    std::unique_ptr<StreamMapping> memory(isValid ? new StreamMapping(buffers, bufferSize) : nullptr);
     if (memory) {
         memory->m_pixels = static_cast<std::uint8_t *>(mapFile(descriptors[0], buffers * bufferSize));
         memory->m_ring = static_cast<StreamRing *>(mapFile(descriptors[1], sizeof(StreamRing)));
@@ -35,7 +35,7 @@ std::unique_ptr<StreamMemory> StreamMemory::map(
     return memory && memory->m_pixels && memory->m_ring ? std::move(memory) : nullptr;
 }
 
-StreamMemory::~StreamMemory()
+StreamMapping::~StreamMapping()
 {
     if (m_pixels)
         munmap(m_pixels, m_buffers * m_bufferSize);
