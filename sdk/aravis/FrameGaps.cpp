@@ -37,3 +37,10 @@ std::uint64_t FrameGaps::missingBefore(std::uint64_t frameId)
     const std::uint64_t missing = stepsAcrossWrap(*last, frameId) - 1;
     return missing <= maxGapAtWrap ? missing : 0;
 }
+
+std::uint64_t FrameGaps::expectedId() const
+{
+    if (!m_last)
+        return 0;
+    return *m_last == maxShortId ? 1 : *m_last + 1;
+}

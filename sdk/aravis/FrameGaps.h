@@ -13,6 +13,9 @@ public:
     /// number is a restart of the camera.
     std::uint64_t missingBefore(std::uint64_t frameId);
 
+    /// Returns the number that the next image has if no image is missing, or 0 if there was no image yet.
+    std::uint64_t expectedId() const;
+
 private:
     std::optional<std::uint64_t> m_last; // Of the images that were not late.
 };

@@ -34,3 +34,13 @@ TEST(FrameGaps, missingImagesAreCounted)
         EXPECT_EQ(missing, testCase.missing) << testCase.description;
     }
 }
+
+TEST(FrameGaps, nextNumberIsExpected)
+{
+    FrameGaps gaps;
+    EXPECT_EQ(gaps.expectedId(), 0U);
+    for (const auto &[frameId, expected] : {std::pair{1000U, 1001U}, {65535U, 1U}, {70000U, 70001U}}) {
+        gaps.missingBefore(frameId);
+        EXPECT_EQ(gaps.expectedId(), expected);
+    }
+}
