@@ -115,7 +115,8 @@ TEST_F(DescriptionFetchTest, onlyTheXmlRemains)
 TEST_F(DescriptionFetchTest, cameraMayRefuseLargeBlocksAndOddSizes)
 {
     const std::string document = std::string(xml).insert(30, 150'001, ' ');
-    for (const std::size_t maxBlock : {std::size_t(1) << 20, std::size_t(4096), std::size_t(512)}) {
+    for (const std::size_t maxBlock :
+        {std::size_t(1) << 20, std::size_t(4096), std::size_t(512), std::size_t(60)}) {
         setMemory(document, document.size());
         camera.maxBlock = maxBlock;
         camera.needsWholeRegisters = true;
