@@ -10,11 +10,8 @@
 namespace {
 
 using Id = RegisterId;
-<<<<<<< HEAD
-=======
 constexpr auto watching = GenTL::DEVICE_ACCESS_READONLY;
 constexpr auto controlling = GenTL::DEVICE_ACCESS_CONTROL;
->>>>>>> simcam
 
 /// Opens the camera in a child process, where it stays open, and changes the exposure time.
 std::string setExposureForever(const std::string &path, double exposure)
