@@ -31,6 +31,6 @@ TEST_P(CameraChoiceTest, exactNamesWinOverParts)
 INSTANTIATE_TEST_SUITE_P(Names, CameraChoiceTest,
     testing::Values(Choice{"CAM-1", {0}}, // Also a part of another ID.
         Choice{"2403", {1}}, // Also a part of another serial number.
-        Choice{"24030", {0}}, Choice{"cam-3", {2}}, Choice{"b.cti/usb/CAM-3", {2}}, Choice{"conveyor TOP", {0}},
-        Choice{"Conveyor", {0, 2}}, Choice{"kx200", {0, 1}}, Choice{"Pro", {1}}, Choice{"net/", {0, 1}},
-        Choice{"none", {}}));
+        Choice{"24030", {0}}, Choice{"cam-3", {2}}, Choice{"b.cti/usb/CAM-3", {2}},
+        Choice{"conveyor TOP", {0}}, Choice{"Conveyor", {0, 2}}, Choice{"kx200", {0, 1}}, Choice{"Pro", {1}},
+        Choice{"net/", {0, 1}}, Choice{"none", {}}));

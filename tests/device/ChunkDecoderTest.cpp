@@ -56,9 +56,11 @@ INSTANTIATE_TEST_SUITE_P(Cases, ChunkValueTest,
     testing::Values(
         ChunkCase{"LittleEndian", NodeType::Integer, 0, 4, false, false, 0, 63, std::int64_t(0x04030281)},
         ChunkCase{"BigEndian", NodeType::Integer, 0, 4, true, false, 0, 63, std::int64_t(0x81020304)},
-        ChunkCase{"Signed", NodeType::Integer, 0, 4, true, true, 0, 63, std::int64_t(0x81020304) - (1LL << 32)},
+        ChunkCase{
+            "Signed", NodeType::Integer, 0, 4, true, true, 0, 63, std::int64_t(0x81020304) - (1LL << 32)},
         ChunkCase{"SignedByte", NodeType::Integer, 0, 1, false, true, 0, 63, std::int64_t(-127)},
-        ChunkCase{"EightBytes", NodeType::Integer, 0, 8, false, false, 0, 63, std::int64_t(0x4120000004030281)},
+        ChunkCase{
+            "EightBytes", NodeType::Integer, 0, 8, false, false, 0, 63, std::int64_t(0x4120000004030281)},
         ChunkCase{"Bits", NodeType::Integer, 0, 4, true, false, 8, 11, std::int64_t(3)},
         ChunkCase{"SignedBits", NodeType::Integer, 0, 1, true, true, 4, 7, std::int64_t(-8)},
         ChunkCase{"ReversedBits", NodeType::Integer, 0, 4, true, false, 8, 4, {}},
@@ -72,7 +74,8 @@ INSTANTIATE_TEST_SUITE_P(Cases, ChunkValueTest,
         ChunkCase{"UnknownEntry", NodeType::Enumeration, 1, 1, false, false, 0, 63, {}},
         ChunkCase{"String", NodeType::String, 8, 4, false, false, 0, 63, std::string("On")},
         ChunkCase{"WholeString", NodeType::String, 8, 2, false, false, 0, 63, std::string("On")},
-        ChunkCase{"MalformedString", NodeType::String, 0, 1, false, false, 0, 63, std::string("\xEF\xBF\xBD")},
+        ChunkCase{
+            "MalformedString", NodeType::String, 0, 1, false, false, 0, 63, std::string("\xEF\xBF\xBD")},
         ChunkCase{"EndsAtTheEnd", NodeType::Integer, 11, 1, false, false, 0, 63, std::int64_t('x')},
         ChunkCase{"EndsBehindTheChunk", NodeType::Integer, 11, 2, false, false, 0, 63, {}},
         ChunkCase{"BeginsBehindTheChunk", NodeType::Integer, 13, 1, false, false, 0, 63, {}},
