@@ -15,7 +15,9 @@ struct IntegerLimits
 
     bool contains(std::int64_t value) const
     {
-        return value >= min && value <= max && (value - min) % increment == 0;
+        // Without limits, the difference of two integers may only fit into an unsigned one.
+        const std::uint64_t distance = static_cast<std::uint64_t>(value) - static_cast<std::uint64_t>(min);
+        return value >= min && value <= max && distance % static_cast<std::uint64_t>(increment) == 0;
     }
 };
 
