@@ -10,11 +10,15 @@
 namespace {
 
 /// Limit for the image that is in progress when the stream is stopped. An incomplete image ends earlier:
-/// libaravis gives up after 0.1 seconds without a packet.
+/// see frameRetention.
 constexpr std::chrono::milliseconds lastImageTimeout{500};
 
 /// The receive buffer of a network stream, in bytes. The system reduces it to what net.core.rmem_max permits.
 constexpr int socketBufferSize = 32 << 20;
+
+/// Time in microseconds after which an image without further packets is incomplete. The images after it wait
+/// meanwhile. A computer under full load may pause for longer than the 0.1 seconds that are usual.
+constexpr guint frameRetention = 200'000;
 
 /// Sets the options that only a network stream has.
 void setUp(ArvStream &stream)
@@ -22,7 +26,8 @@ void setUp(ArvStream &stream)
     if (!ARV_IS_GV_STREAM(&stream))
         return;
     g_object_set(&stream, "packet-resend", ARV_GV_STREAM_PACKET_RESEND_ALWAYS, "socket-buffer",
-        ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size", socketBufferSize, nullptr);
+        ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size", socketBufferSize, "frame-retention",
+        frameRetention, nullptr);
 }
 
 /// Lets the calling thread run before others, because packets that nobody receives in time are lost. Without
@@ -137,7 +142,9 @@ void AravisImages::bufferDone(ArvBuffer *buffer)
     std::unique_lock lock(m_mutex);
     const auto taken = m_taken.extract(buffer);
     BufferQueue *const queue = m_queue;
-    const FilledImage image = toFilledImage(buffer, taken.mapped().size, m_byteOrder, m_configured);
+    FilledImage image = toFilledImage(buffer, taken.mapped().size, m_byteOrder, m_configured);
+    if (image.isIncomplete && image.frameId == 0)
+        image.frameId = m_gaps.expectedId(); // The packet with the number is missing.
     const std::uint64_t underruns = takeUnderruns(image.frameId);
     // libaravis has put the buffer into its output queue. A stream that ends releases this queue itself.
     const GObjectPointer<ArvBuffer> output(

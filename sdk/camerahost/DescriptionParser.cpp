@@ -16,20 +16,11 @@ constexpr std::size_t maxDepth = 64;
 
 constexpr const char *rootElement = "RegisterDescription";
 
-std::string withoutBlanks(const std::string &text)
-{
-    constexpr const char *blanks = " \t\r\n";
-    const std::size_t start = text.find_first_not_of(blanks);
-    if (start == std::string::npos)
-        return {};
-    return text.substr(start, text.find_last_not_of(blanks) + 1 - start);
-}
-
 std::string attributeOf(const char **attributes, const char *name)
 {
     for (; *attributes; attributes += 2) {
         if (std::strcmp(attributes[0], name) == 0)
-            return withoutBlanks(attributes[1]);
+            return std::string(withoutBlanks(attributes[1]));
     }
     return {};
 }
@@ -153,7 +144,7 @@ private:
         PropertyList &properties = parent == LevelKind::Structure ? m_structure
             : parent == LevelKind::Entry                          ? m_open.back().entries.back().properties
                                                                   : m_open.back().properties;
-        properties.add({level.property, withoutBlanks(m_text), level.attribute});
+        properties.add({level.property, std::string(withoutBlanks(m_text)), level.attribute});
         if (!level.offsetNode.empty())
             properties.add({PropertyKind::POffset, level.offsetNode, {}});
     }

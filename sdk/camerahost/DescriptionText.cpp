@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <string_view>
 
 namespace {
 
@@ -28,6 +27,15 @@ std::size_t findEnd(const std::string &bytes)
 }
 
 } // namespace
+
+std::string_view withoutBlanks(std::string_view text)
+{
+    constexpr const char *blanks = " \t\r\n";
+    const std::size_t start = text.find_first_not_of(blanks);
+    if (start == std::string_view::npos)
+        return {};
+    return text.substr(start, text.find_last_not_of(blanks) + 1 - start);
+}
 
 std::variant<std::string, DescriptionProblem> tidyDescription(std::string bytes)
 {

@@ -1,20 +1,13 @@
 #include "sdk/camerahost/DescriptionUrl.h"
 
+#include "sdk/camerahost/DescriptionText.h"
+
 #include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <strings.h>
 
 namespace {
-
-std::string_view withoutBlanks(std::string_view text)
-{
-    constexpr const char *blanks = " \t\r\n";
-    const std::size_t start = text.find_first_not_of(blanks);
-    if (start == std::string_view::npos)
-        return {};
-    return text.substr(start, text.find_last_not_of(blanks) + 1 - start);
-}
 
 bool equalsIgnoringCase(std::string_view left, std::string_view right)
 {

@@ -76,7 +76,7 @@ CvxResult DeviceCore::refusal() const
         return results.result(CvxErrorTimeout, "Other calls have occupied the camera for too long.");
     case DeviceState::Lost:
     case DeviceState::Reopening:
-        return results.result(CvxErrorDeviceLost, "The camera was lost; it is being opened again.");
+        return lostResult();
     case DeviceState::Closed:
         break;
     }
@@ -95,8 +95,15 @@ CvxResult DeviceCore::failure(const DeviceGate::Turn &turn, const Breakdown &bre
     gate.lose(turn.hostNumber(), breakdown);
     if (gate.state() == DeviceState::Closed)
         return refusal(); // The host was ended because the device was closed during the request.
-    const bool isLate = breakdown.kind == Breakdown::Kind::Timeout;
-    return results.result(isLate ? CvxErrorTimeout : CvxErrorDeviceLost, breakdown.reason);
+    if (breakdown.kind == Breakdown::Kind::Timeout)
+        return results.result(CvxErrorTimeout, breakdown.reason);
+    return lostResult();
+}
+
+CvxResult DeviceCore::lostResult() const
+{
+    const std::string reason = gate.lossReason(SteadyClock::now() + DeviceThread::maxExitTime);
+    return results.result(CvxErrorDeviceLost, reason + " The camera is being opened again.");
 }
 
 // ---- The stream --------------------------------------------------------------------------------------
@@ -116,9 +123,9 @@ std::variant<std::shared_ptr<StreamCore>, CvxResult> DeviceCore::startStream(
         return failure(taken, *failed);
     if (const auto *breakdown = std::get_if<Breakdown>(&started))
         return failure(taken, *breakdown);
-    const auto reportDamage = [core = weak_from_this()](std::uint64_t host, const std::string &damage) {
+    const auto reportDamage = [core = weak_from_this()](std::uint64_t host, const std::string &reason) {
         if (const auto device = core.lock())
-            device->gate.lose(host, {Breakdown::Kind::Protocol, "The process of the camera " + damage + '.'});
+            device->gate.lose(host, {Breakdown::Kind::Protocol, reason});
     };
     auto stream = std::make_shared<StreamCore>(buffers, policy, results, reportDamage);
     stream->started(std::get<std::shared_ptr<const ImageQueue>>(started), taken.hostNumber());

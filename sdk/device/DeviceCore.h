@@ -88,6 +88,7 @@ public:
     void setDirectory(std::shared_ptr<const NodeDirectory> directory);
 
 private:
+    CvxCPP::CvxResult lostResult() const;
     CvxCPP::CvxResult failure(const DeviceGate::Turn &turn, const RequestFailedReply &failed);
     CvxCPP::CvxResult failure(const DeviceGate::Turn &turn, const Breakdown &breakdown);
 

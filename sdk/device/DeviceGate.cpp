@@ -68,7 +68,8 @@ void DeviceGate::lose(std::uint64_t host, const Breakdown &reason)
         if (host != m_hostNumber || !isOpen())
             return;
         m_life.lost();
-        m_lossReason = reason;
+        m_loss = reason;
+        m_isLossExplained = reason.kind != Breakdown::Kind::Ended;
         m_host->abort(); // Another thread may wait for a reply of this host.
     }
     m_changed.notify_all();
@@ -101,9 +102,10 @@ bool DeviceGate::opened(const std::shared_ptr<StreamCore> &stream)
     return true;
 }
 
-bool DeviceGate::reopeningFailed()
+bool DeviceGate::reopeningFailed(const std::string &reason)
 {
     const std::lock_guard lock(m_mutex);
+    m_loss.reason = reason;
     return m_life.lost();
 }
 
@@ -119,10 +121,27 @@ TimePoint DeviceGate::nextReopening() const
     return m_life.nextReopening();
 }
 
-Breakdown DeviceGate::lossReason() const
+Breakdown DeviceGate::loss() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_lossReason;
+    return m_loss;
+}
+
+void DeviceGate::explainLoss(const std::string &reason)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_loss.reason = reason;
+        m_isLossExplained = true;
+    }
+    m_changed.notify_all();
+}
+
+std::string DeviceGate::lossReason(TimePoint deadline) const
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait_until(lock, deadline, [this] { return m_isLossExplained; });
+    return m_loss.reason;
 }
 
 TimePoint DeviceGate::closeDeadline() const

@@ -10,6 +10,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <string>
 
 /// Coordinates the threads of the program, which send requests to the host of a device, with the thread of
 /// the device, which starts, watches and ends the host. Every function may be called from any thread unless
@@ -50,6 +51,9 @@ public:
 
     /// Reports that this host cannot be used any more. The first report counts.
     void lose(std::uint64_t host, const Breakdown &reason);
+    /// Returns why the device was last lost, as a sentence for people. Waits until the thread of the device
+    /// knows how the host has ended, but not beyond the deadline.
+    std::string lossReason(TimePoint deadline) const;
     /// Returns the number of the host that was started last.
     std::uint64_t hostNumber() const;
 
@@ -76,7 +80,7 @@ public:
     /// Lets the program use the host. Returns false if the device was closed, or if the running stream is
     /// not `stream` any more.
     bool opened(const std::shared_ptr<StreamCore> &stream);
-    bool reopeningFailed();
+    bool reopeningFailed(const std::string &reason);
     bool beginReopening(TimePoint now);
     TimePoint nextReopening() const;
 
@@ -85,7 +89,9 @@ public:
     /// Waits until no thread uses the host. Returns false at the deadline.
     bool waitIdle(TimePoint deadline);
 
-    Breakdown lossReason() const;
+    Breakdown loss() const;
+    /// Replaces the reason of the loss by one that tells how the host has ended.
+    void explainLoss(const std::string &reason);
     TimePoint closeDeadline() const;
 
 private:
@@ -96,13 +102,14 @@ private:
     const WakeEvent m_wakeEvent; // Wakes the thread of the device.
 
     mutable std::mutex m_mutex; // Guards all members below.
-    std::condition_variable m_changed;
+    mutable std::condition_variable m_changed;
     DeviceLife m_life;
     std::shared_ptr<HostChannel> m_host;
     std::uint64_t m_hostNumber = 0;
     bool m_isBusy = false; // Whether a turn exists.
     std::uint64_t m_turnCount = 0;
-    Breakdown m_lossReason;
+    Breakdown m_loss;
+    bool m_isLossExplained = true;
     std::shared_ptr<StreamCore> m_stream;
     TimePoint m_closeDeadline{};
 };

@@ -9,23 +9,19 @@
 
 using namespace CvxCPP;
 
-namespace {
-
-struct Event
-{
-    std::set<std::string> names; // Changed nodes; empty if the state has changed.
-    DeviceState state = DeviceState::Open;
-    std::string reason;
-};
-
-} // namespace
-
 using Observer = std::shared_ptr<IDeviceObserver>;
 
 /// The events that were not delivered yet, and the observers.
 class DeviceNotifier::Queue
 {
 public:
+    struct Event
+    {
+        std::set<std::string> names; ///< Changed nodes; empty if the state has changed.
+        DeviceState state = DeviceState::Open;
+        std::string reason;
+    };
+
     /// Adds an observer and, with the first one, starts the thread, which keeps `self`.
     void add(const Observer &observer, const std::shared_ptr<Queue> &self);
     void remove(const Observer &observer);

@@ -41,23 +41,9 @@ private:
     std::optional<Breakdown> m_breakdown;
 };
 
-/// Continues the stream with new memory. Returns the reason if that fails, otherwise an empty string.
-std::string continueStream(
-    StreamCore &stream, HostChannel &host, std::uint64_t hostNumber, Milliseconds timeout)
-{
-    const auto started = startStream(host, stream.buffers(), stream.policy(), SteadyClock::now() + timeout);
-    if (const auto *failed = std::get_if<RequestFailedReply>(&started))
-        return failed->text;
-    if (const auto *breakdown = std::get_if<Breakdown>(&started))
-        return breakdown->reason;
-    stream.started(std::get<std::shared_ptr<const ImageQueue>>(started), hostNumber);
-    return {};
-}
-
 } // namespace
 
-std::variant<RestoredDevice, std::string> restoreDevice(
-    const DeviceCore &core, HostChannel &host, std::uint64_t hostNumber)
+std::variant<RestoredDevice, std::string> restoreDevice(const DeviceCore &core, HostChannel &host)
 {
     RestoredDevice restored;
     HostTarget target(host, core.options.requestTimeout);
@@ -67,8 +53,12 @@ std::variant<RestoredDevice, std::string> restoreDevice(
     restored.stream = core.gate.stream();
     if (!restored.stream)
         return restored;
-    std::string reason = continueStream(*restored.stream, host, hostNumber, core.options.startTimeout);
-    if (!reason.empty())
-        return reason;
+    auto started = startStream(host, restored.stream->buffers(), restored.stream->policy(),
+        SteadyClock::now() + core.options.startTimeout);
+    if (auto *failed = std::get_if<RequestFailedReply>(&started))
+        return std::move(failed->text);
+    if (auto *breakdown = std::get_if<Breakdown>(&started))
+        return std::move(breakdown->reason);
+    restored.images = std::get<std::shared_ptr<const ImageQueue>>(std::move(started));
     return restored;
 }

@@ -2,7 +2,6 @@
 
 #include "sdk/device/DeviceCore.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <variant>
@@ -12,10 +11,10 @@
 struct RestoredDevice
 {
     std::shared_ptr<StreamCore> stream; ///< The stream that continues; null if there is none.
+    std::shared_ptr<const ImageQueue> images; ///< Where its images arrive.
     std::vector<std::string> refused; ///< Names of the nodes whose values the camera has refused.
 };
 
-/// Writes back what the program has written, and continues the running stream. Returns a sentence with the
-/// reason if the host fails or the stream cannot be started.
-std::variant<RestoredDevice, std::string> restoreDevice(
-    const DeviceCore &core, HostChannel &host, std::uint64_t hostNumber);
+/// Writes back what the program has written, and starts the host's part of the running stream. Returns a
+/// sentence with the reason if the host fails or the stream cannot be started.
+std::variant<RestoredDevice, std::string> restoreDevice(const DeviceCore &core, HostChannel &host);

@@ -23,8 +23,8 @@ constexpr Milliseconds checkInterval = 250ms;
 // interval, so that it does not wake up for every reply.
 constexpr Milliseconds busyInterval = 20ms;
 
-constexpr Milliseconds exitGrace = 500ms; // Time that a host has to exit after its connection has ended.
-constexpr Milliseconds failedExitGrace = 1s; // The same for a host that could not open its camera.
+// Time that a host has to exit after its connection has ended. A host closes its camera in this time.
+constexpr Milliseconds exitTime = DeviceThread::maxExitTime;
 
 int waitingTime(TimePoint until)
 {
@@ -69,7 +69,9 @@ void DeviceThread::run(std::promise<CvxResult> opened)
 {
     bool isOpening = true;
     try {
-        const CvxResult result = openFirst();
+        CvxResult result = openFirst();
+        if (!result)
+            result.text = m_core.results.text(result.text);
         isOpening = false;
         opened.set_value(result);
         if (result)
@@ -92,7 +94,7 @@ CvxResult DeviceThread::openFirst()
         const TimePoint begin = SteadyClock::now();
         const CvxResult result = openHost();
         if (m_core.gate.state() == DeviceState::Closed)
-            return m_core.results.result(CvxErrorClosed, "The camera was closed while it was being opened.");
+            return {CvxErrorClosed, "The camera was closed while it was being opened."};
         if (result) {
             m_core.gate.opened(nullptr);
             return result;
@@ -109,7 +111,7 @@ CvxResult DeviceThread::openHost()
 {
     auto started = m_runner.start(m_core.target.producerPath);
     if (!started.failure.empty())
-        return m_core.results.result(CvxErrorFailed, "The camera " + started.failure);
+        return {CvxErrorFailed, "The camera " + started.failure + '.'};
     const auto host = std::make_shared<HostChannel>(std::move(started.channel), m_core.options.requestTimeout,
         [this](std::vector<std::string> names) { m_core.notifier.nodesChanged(std::move(names)); });
     m_hostNumber = m_core.gate.setHost(host);
@@ -123,8 +125,8 @@ CvxResult DeviceThread::openHost()
     }
     if (const auto *failed = std::get_if<RequestFailedReply>(&answer)) {
         host->abort();
-        endHost(SteadyClock::now() + failedExitGrace);
-        return m_core.results.result(*failed);
+        endHost(SteadyClock::now() + exitTime);
+        return {errorOf(failed->failure), failed->text};
     }
     return openFailure(std::get<Breakdown>(answer));
 }
@@ -133,11 +135,10 @@ CvxResult DeviceThread::openFailure(const Breakdown &breakdown)
 {
     const bool isEnded = breakdown.kind == Breakdown::Kind::Ended;
     // If the device was closed, the host ends by itself, so that it does not leave its camera locked.
-    const auto exited = isEnded ? m_runner.awaitExit(SteadyClock::now() + failedExitGrace) : std::nullopt;
+    const auto exited = isEnded ? m_runner.awaitExit(SteadyClock::now() + exitTime) : std::nullopt;
     endHost(SteadyClock::now());
     const bool isLate = breakdown.kind == Breakdown::Kind::Timeout;
-    return m_core.results.result(
-        isLate ? CvxErrorTimeout : CvxErrorDevice, exited.value_or(breakdown.reason));
+    return {isLate ? CvxErrorTimeout : CvxErrorDevice, exited.value_or(breakdown.reason)};
 }
 
 // ---- Watching ----------------------------------------------------------------------------------------
@@ -206,21 +207,22 @@ void DeviceThread::waitForWake(TimePoint until)
 
 void DeviceThread::handleLoss()
 {
+    const std::string reason = lossSentence();
+    m_core.gate.explainLoss(reason);
     // DeviceGate::lose() has ended the connection, so a caller that waits for a reply returns soon.
     m_core.gate.waitIdle(SteadyClock::now() + m_core.options.requestTimeout);
     if (const auto stream = m_core.gate.stream())
-        stream->lost(m_hostNumber);
-    const std::string reason = lossSentence();
+        stream->lost(m_hostNumber, reason);
     endHost(SteadyClock::now());
     m_core.notifier.stateChanged(DeviceState::Lost, m_core.results.text(reason));
 }
 
 std::string DeviceThread::lossSentence()
 {
-    const Breakdown breakdown = m_core.gate.lossReason();
+    const Breakdown breakdown = m_core.gate.loss();
     if (breakdown.kind != Breakdown::Kind::Ended)
         return breakdown.reason;
-    return m_runner.awaitExit(SteadyClock::now() + exitGrace).value_or(breakdown.reason);
+    return m_runner.awaitExit(SteadyClock::now() + exitTime).value_or(breakdown.reason);
 }
 
 void DeviceThread::reopen()
@@ -230,23 +232,26 @@ void DeviceThread::reopen()
     const CvxResult opened = openHost();
     if (!opened)
         return reopeningFailed(opened.text);
-    auto restored = restoreDevice(m_core, *m_core.gate.host(), m_hostNumber);
+    auto restored = restoreDevice(m_core, *m_core.gate.host());
     if (const auto *reason = std::get_if<std::string>(&restored))
-        return reopeningFailed(m_core.results.text(*reason));
+        return reopeningFailed(*reason);
     const auto &device = std::get<RestoredDevice>(restored);
-    if (!finishReopening(device.stream))
-        return reopeningFailed(m_core.results.text("The stream cannot be stopped."));
+    if (!finishReopening(device))
+        return reopeningFailed("The stream cannot be stopped.");
     m_core.notifier.stateChanged(DeviceState::Open, m_core.results.text(openSentence(device.refused)));
     m_core.notifier.nodesChanged(m_core.directory()->names());
 }
 
 /// Lets the program use the camera. If the program has stopped the stream meanwhile, stops it first. Returns
 /// false if the host fails.
-bool DeviceThread::finishReopening(const std::shared_ptr<StreamCore> &stream)
+bool DeviceThread::finishReopening(const RestoredDevice &restored)
 {
     DeviceGate &gate = m_core.gate;
-    if (gate.opened(stream))
+    if (gate.opened(restored.stream)) {
+        if (restored.stream)
+            restored.stream->started(restored.images, m_hostNumber);
         return true;
+    }
     const TimePoint deadline = SteadyClock::now() + m_core.options.stopTimeout;
     const auto stopped = gate.host()->ask<StreamStoppedReply>(StopStreamRequest(), deadline);
     return std::holds_alternative<StreamStoppedReply>(stopped) && gate.opened(nullptr);
@@ -254,12 +259,10 @@ bool DeviceThread::finishReopening(const std::shared_ptr<StreamCore> &stream)
 
 void DeviceThread::reopeningFailed(const std::string &reason)
 {
-    if (const auto stream = m_core.gate.stream())
-        stream->lost(m_hostNumber);
-    if (!m_core.gate.reopeningFailed())
+    if (!m_core.gate.reopeningFailed(reason))
         return; // The device was closed.
     endHost(SteadyClock::now());
-    m_core.notifier.stateChanged(DeviceState::Lost, reason);
+    m_core.notifier.stateChanged(DeviceState::Lost, m_core.results.text(reason));
 }
 
 // ---- The end -----------------------------------------------------------------------------------------

@@ -7,12 +7,11 @@
 
 #include <cstdint>
 #include <future>
-#include <memory>
 #include <string>
 #include <thread>
 
 class DeviceCore;
-class StreamCore;
+struct RestoredDevice;
 
 /// The thread of an opened camera: starts its host, waits for notices and failures while the program sends
 /// the requests, opens a lost camera again, and ends the host.
@@ -28,6 +27,9 @@ public:
     /// no thread can be started.
     CvxCPP::CvxResult open();
 
+    /// The longest time after which DeviceGate::lossReason() tells how a host has ended.
+    static constexpr Milliseconds maxExitTime{1000};
+
     /// Waits until the thread has ended, which is soon after DeviceGate::close(). Any thread may call this
     /// function.
     void join();
@@ -36,6 +38,7 @@ private:
     // All these functions run on the thread.
     void run(std::promise<CvxCPP::CvxResult> opened);
     CvxCPP::CvxResult openFirst();
+    // The texts of these results do not name the camera.
     CvxCPP::CvxResult openHost();
     CvxCPP::CvxResult openFailure(const Breakdown &breakdown);
     void serve();
@@ -45,7 +48,7 @@ private:
     void handleLoss();
     std::string lossSentence();
     void reopen();
-    bool finishReopening(const std::shared_ptr<StreamCore> &stream);
+    bool finishReopening(const RestoredDevice &restored);
     void reopeningFailed(const std::string &reason);
     void waitForWake(TimePoint until);
     void closeHost();

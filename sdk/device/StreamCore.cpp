@@ -54,7 +54,7 @@ void StreamCore::started(std::shared_ptr<const ImageQueue> queue, std::uint64_t 
     m_changed.notify_all();
 }
 
-void StreamCore::lost(std::uint64_t host)
+void StreamCore::lost(std::uint64_t host, const std::string &reason)
 {
     std::shared_ptr<const ImageQueue> queue;
     {
@@ -63,6 +63,7 @@ void StreamCore::lost(std::uint64_t host)
             return;
         m_state = State::Lost;
         ++m_losses;
+        m_lossReason = reason;
         queue = std::move(m_queue);
         addTo(m_base, queue->memory().ring().counters);
     }
@@ -135,8 +136,9 @@ std::shared_ptr<const Image> StreamCore::take(const Snapshot &known)
 {
     ImageQueue::Taken taken = known.queue->take();
     if (!taken.damage.empty()) {
-        lost(known.host);
-        m_reportDamage(known.host, taken.damage);
+        const std::string reason = "The process of the camera " + taken.damage + '.';
+        lost(known.host, reason);
+        m_reportDamage(known.host, reason);
     }
     if (taken.skipped > 0) {
         const std::lock_guard lock(m_mutex);
@@ -158,7 +160,8 @@ void StreamCore::waitForChange(const Snapshot &known, TimePoint deadline)
 
 CvxResult StreamCore::lostResult() const
 {
-    return m_results.result(CvxErrorDeviceLost, "The camera was lost; it is being opened again.");
+    const std::lock_guard lock(m_mutex);
+    return m_results.result(CvxErrorDeviceLost, m_lossReason + " The camera is being opened again.");
 }
 
 StreamStatistics StreamCore::statistics() const

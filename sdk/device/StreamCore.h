@@ -18,8 +18,8 @@
 class StreamCore
 {
 public:
-    /// Called when the host of this number has damaged the shared memory.
-    using ReportDamage = std::function<void(std::uint64_t host, const std::string &damage)>;
+    /// Called with a sentence when the host of this number has damaged the shared memory.
+    using ReportDamage = std::function<void(std::uint64_t host, const std::string &reason)>;
 
     StreamCore(
         std::uint32_t buffers, CvxCPP::StreamPolicy policy, ResultMaker results, ReportDamage reportDamage);
@@ -29,8 +29,9 @@ public:
 
     /// Begins, or continues after a loss, with the images of this host. Has no effect after stopped().
     void started(std::shared_ptr<const ImageQueue> queue, std::uint64_t host);
-    /// This host is gone: wakes the waiting threads and discards the images that were not fetched.
-    void lost(std::uint64_t host);
+    /// This host is gone: wakes the waiting threads and discards the images that were not fetched. `reason`
+    /// is a sentence for people.
+    void lost(std::uint64_t host, const std::string &reason);
     /// The stream was stopped for good: wakes the waiting threads.
     void stopped();
 
@@ -77,6 +78,7 @@ private:
     std::uint64_t m_host = 0; // Number of the host that fills the queue.
     std::uint64_t m_losses = 0;
     std::uint64_t m_reportedLosses = 0; // The value of m_losses when a loss was last reported.
+    std::string m_lossReason;
     CvxCPP::StreamStatistics m_base; // The counters of earlier hosts.
     RateMeter m_rates;
 };

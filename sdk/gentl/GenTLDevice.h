@@ -2,8 +2,8 @@
 
 #include "sdk/gentl/GenTL.h"
 
-/// The part of the GenICam GenTL C interface that opened devices need: ports, events, devices, data streams and
-/// buffers. GenTL.h describes the source and the notation.
+/// The part of the GenICam GenTL C interface that opened devices need: ports, events, devices, data streams
+/// and buffers. GenTL.h describes the source and the notation.
 namespace GenTL {
 
 // ---- Used Data Types ---------------------------------------------------------------------------------
@@ -223,8 +223,8 @@ GENTL_FUNCTION GCReadPort(PORT_HANDLE hPort, std::uint64_t iAddress, void *pBuff
 GENTL_FUNCTION GCWritePort(
     PORT_HANDLE hPort, std::uint64_t iAddress, const void *pBuffer, std::size_t *piSize);
 GENTL_FUNCTION GCGetPortURL(PORT_HANDLE hPort, char *sURL, std::size_t *piSize);
-GENTL_FUNCTION GCGetPortInfo(PORT_HANDLE hPort, PORT_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer,
-    std::size_t *piSize);
+GENTL_FUNCTION GCGetPortInfo(
+    PORT_HANDLE hPort, PORT_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize);
 GENTL_FUNCTION GCGetNumPortURLs(PORT_HANDLE hPort, std::uint32_t *piNumURLs); // since 1.1
 GENTL_FUNCTION GCGetPortURLInfo(PORT_HANDLE hPort, std::uint32_t iURLIndex, URL_INFO_CMD iInfoCmd,
     INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize); // since 1.1
@@ -236,12 +236,11 @@ GENTL_FUNCTION GCWritePortStacked(
 // Event functions.
 GENTL_FUNCTION GCRegisterEvent(EVENTSRC_HANDLE hEventSrc, EVENT_TYPE iEventID, EVENT_HANDLE *phEvent);
 GENTL_FUNCTION GCUnregisterEvent(EVENTSRC_HANDLE hEventSrc, EVENT_TYPE iEventID);
-GENTL_FUNCTION EventGetData(
-    EVENT_HANDLE hEvent, void *pBuffer, std::size_t *piSize, std::uint64_t iTimeout);
+GENTL_FUNCTION EventGetData(EVENT_HANDLE hEvent, void *pBuffer, std::size_t *piSize, std::uint64_t iTimeout);
 GENTL_FUNCTION EventGetDataInfo(EVENT_HANDLE hEvent, const void *pInBuffer, std::size_t iInSize,
     EVENT_DATA_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pOutBuffer, std::size_t *piOutSize);
-GENTL_FUNCTION EventGetInfo(EVENT_HANDLE hEvent, EVENT_INFO_CMD iInfoCmd, INFO_DATATYPE *piType,
-    void *pBuffer, std::size_t *piSize);
+GENTL_FUNCTION EventGetInfo(
+    EVENT_HANDLE hEvent, EVENT_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize);
 GENTL_FUNCTION EventFlush(EVENT_HANDLE hEvent);
 GENTL_FUNCTION EventKill(EVENT_HANDLE hEvent);
 
@@ -253,8 +252,8 @@ GENTL_FUNCTION DevGetNumDataStreams(DEV_HANDLE hDevice, std::uint32_t *piNumData
 GENTL_FUNCTION DevGetDataStreamID(
     DEV_HANDLE hDevice, std::uint32_t iIndex, char *sDataStreamID, std::size_t *piSize);
 GENTL_FUNCTION DevOpenDataStream(DEV_HANDLE hDevice, const char *sDataStreamID, DS_HANDLE *phDataStream);
-GENTL_FUNCTION DevGetInfo(DEV_HANDLE hDevice, DEVICE_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer,
-    std::size_t *piSize);
+GENTL_FUNCTION DevGetInfo(
+    DEV_HANDLE hDevice, DEVICE_INFO_CMD iInfoCmd, INFO_DATATYPE *piType, void *pBuffer, std::size_t *piSize);
 GENTL_FUNCTION DevClose(DEV_HANDLE hDevice);
 GENTL_FUNCTION DevGetParentIF(DEV_HANDLE hDevice, IF_HANDLE *phIface); // since 1.4
 

@@ -3,6 +3,7 @@
 #include "sdk/aravis/AravisLibrary.h"
 #include "sdk/gige/CameraData.h"
 #include "sdk/gige/DescriptionUrls.h"
+#include "sdk/gige/Descriptor.h"
 #include "sdk/gige/GvcpReader.h"
 #include "sdk/gige/RegisterWords.h"
 #include "sdk/gige/WatchedCamera.h"
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <arpa/inet.h>
 #include <cstring>
+#include <sys/socket.h>
 
 namespace {
 
@@ -29,6 +31,18 @@ GObjectPointer<GInetAddress> toGlib(std::uint32_t address)
     return GObjectPointer<GInetAddress>(g_inet_address_new_from_string(ipv4ToString(address).c_str()));
 }
 
+/// Returns true if the system permits a receive buffer that holds the packets of several milliseconds.
+bool permitsLargeReceiveBuffer()
+{
+    constexpr int largeSize = 2 << 20; // Bytes.
+    const Descriptor probe(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0));
+    setsockopt(probe.number(), SOL_SOCKET, SO_RCVBUF, &largeSize, sizeof largeSize);
+    int size = 0;
+    socklen_t length = sizeof size;
+    getsockopt(probe.number(), SOL_SOCKET, SO_RCVBUF, &size, &length);
+    return size / 2 >= largeSize; // The system doubles the number for its own overhead.
+}
+
 /// Opens the camera with libaravis, which tries to take the control.
 GObjectPointer<ArvDevice> openWithAravis(const CameraPlace &place)
 {
@@ -45,8 +59,14 @@ GObjectPointer<ArvDevice> openWithAravis(const CameraPlace &place)
         throw error.toGenTl(place.name + " cannot be opened");
     if (!arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
         throw controlledElsewhere(place.name);
+    ArvGvDevice *const gigeDevice = ARV_GV_DEVICE(device.get());
     arv_gv_device_set_packet_size_adjustment(
-        ARV_GV_DEVICE(device.get()), ARV_GV_PACKET_SIZE_ADJUSTMENT_NEVER); // prepareStream() does it.
+        gigeDevice, ARV_GV_PACKET_SIZE_ADJUSTMENT_NEVER); // prepareStream() does it.
+    // A packet socket, which only privileged processes can have, needs no such buffer. But it takes 0.1
+    // seconds to set up, and passes small images on in bursts, for which there may be too few announced
+    // buffers.
+    if (permitsLargeReceiveBuffer())
+        arv_gv_device_set_stream_options(gigeDevice, ARV_GV_STREAM_OPTION_PACKET_SOCKET_DISABLED);
     return device;
 }
 

@@ -31,8 +31,8 @@ std::size_t chunkPayloadSize(const FilledImage &image)
 
 bool isInside(const SINGLE_CHUNK_DATA &chunk, std::size_t size)
 {
-    const auto offset = static_cast<std::size_t>(chunk.ChunkOffset);
-    return chunk.ChunkOffset >= 0 && offset <= size && chunk.ChunkLength <= size - offset;
+    const auto offset = static_cast<std::size_t>(chunk.ChunkOffset); // A negative offset becomes very large.
+    return offset <= size && chunk.ChunkLength <= size - offset;
 }
 
 /// Writes what describes the picture in the buffer, which must have one.

@@ -174,7 +174,7 @@ void CameraFile::close(bool isKept)
 std::string cameraFilePath(const std::string &interfaceId, const std::string &deviceId)
 {
     const char *const runtime = std::getenv("XDG_RUNTIME_DIR");
-    const std::string folder = runtime && *runtime == '/'
+    const std::string folder = runtime && access(runtime, W_OK | X_OK) == 0
         ? std::string(runtime) + "/corvix-camera-"
         : "/tmp/corvix-camera-" + std::to_string(geteuid()) + '-';
     // A file name has at most 255 bytes.

@@ -47,7 +47,7 @@ double numberBefore(const std::string &text, std::string_view unit)
     return std::strtod(text.substr(start, end - start).c_str(), nullptr);
 }
 
-int roundedDown(double value, int step)
+int multipleBelow(double value, int step)
 {
     return static_cast<int>(value) / step * step;
 }
@@ -60,12 +60,12 @@ bool isLineScanName(const std::string &model)
 SensorSize sizeByName(const std::string &model, bool isLineScan)
 {
     if (isLineScan)
-        return {std::clamp(roundedDown(numberBefore(model, "k") * 1024, 16), 2048, 32768), 1};
+        return {std::clamp(multipleBelow(numberBefore(model, "k") * 1024, 16), 2048, 32768), 1};
     const double megapixels = std::clamp(numberBefore(model, "MP"), 0.0, 200.0);
     if (megapixels <= 0)
         return {1280, 1024};
     const double width = std::sqrt(megapixels * 1e6 * 5 / 4);
-    return {std::max(64, roundedDown(width, 16)), std::max(64, roundedDown(width * 4 / 5, 16))};
+    return {std::max(64, multipleBelow(width, 16)), std::max(64, multipleBelow(width * 4 / 5, 16))};
 }
 
 /// What follows from the technology of the link.
@@ -128,8 +128,8 @@ CameraModel cameraModel(const DeviceRecord &record, const SensorKeys &keys)
     SensorModel &sensor = model.sensor;
     sensor.isLineScan = keys.isLineScan.value_or(isLineScanName(record.model));
     const SensorSize size = sizeByName(record.model, sensor.isLineScan);
-    sensor.width = roundedDown(keys.width.value_or(size.width), 2); // Colours need even numbers.
-    sensor.height = sensor.isLineScan ? 1 : roundedDown(keys.height.value_or(size.height), 2);
+    sensor.width = multipleBelow(keys.width.value_or(size.width), 2); // Colours need even numbers.
+    sensor.height = sensor.isLineScan ? 1 : multipleBelow(keys.height.value_or(size.height), 2);
     sensor.isColor = keys.isColor.value_or(link.isColor || endsWith(record.model, "-C"));
     sensor.taps = keys.taps.value_or(link.taps);
     sensor.seed = keys.seed.value_or(hashOf(record.serial.empty() ? record.id : record.serial));

@@ -74,12 +74,14 @@ NodeKind nodeKind(RegisterType type)
     return {"IntReg", "<Sign>Unsigned</Sign><Endianess>LittleEndian</Endianess>"};
 }
 
-std::string invalidators(const RegisterInfo &info)
+/// Returns the elements that say when a value that was read before is not valid any more.
+std::string caching(const RegisterInfo &info)
 {
-    std::string elements;
-    std::istringstream names{std::string(info.invalidators)};
-    for (std::string name; names >> name;)
-        elements += element("pInvalidator", name + "Reg");
+    if (info.isChangedByCamera())
+        return element("Cachable", "NoCache");
+    std::string elements = element("Cachable", "WriteThrough");
+    if (!info.invalidator.empty())
+        elements += element("pInvalidator", std::string(info.invalidator) + "Reg");
     if (info.isInUserSet())
         elements += element("pInvalidator", "UserSetLoadReg");
     return elements;
@@ -89,8 +91,6 @@ std::string registerNode(const RegisterInfo &info)
 {
     const NodeKind kind = nodeKind(info.type);
     const bool isReadOnly = info.isIn({RegisterUse::Constant, RegisterUse::Status});
-    const bool isVolatile
-        = info.isIn({RegisterUse::Status, RegisterUse::Command, RegisterUse::LockedCommand});
     std::string node = '<' + std::string(kind.tag) + " Name=\"" + std::string(info.name) + "Reg\">";
     node += element("Address", "0x" + hexadecimal(registersAddress + info.offset));
     if (!info.selector.empty())
@@ -98,8 +98,7 @@ std::string registerNode(const RegisterInfo &info)
             + "Reg</pIndex>";
     node += element("Length", std::to_string(info.valueSize()));
     node += element("AccessMode", isReadOnly ? "RO" : "RW") + element("pPort", "Device");
-    node += element("Cachable", isVolatile ? "NoCache" : "WriteThrough");
-    return node + invalidators(info) + std::string(kind.ending) + "</" + std::string(kind.tag) + ">\n";
+    return node + caching(info) + std::string(kind.ending) + "</" + std::string(kind.tag) + ">\n";
 }
 
 std::string registerNodes()

@@ -56,14 +56,14 @@ void writeElement(RegisterFile &registers, const CameraModel &model, const Place
 void writeRegisters(
     RegisterFile &registers, const CameraModel &model, std::size_t offset, const void *data, std::size_t size)
 {
-    const auto *bytes = static_cast<const std::uint8_t *>(data);
+    const auto *next = static_cast<const std::uint8_t *>(data);
     const std::size_t end = offset + size;
     while (offset < end) {
         const Place place = placeAt(offset);
         const std::size_t part = std::min(end, place.start() + place.info.elementSize()) - offset;
-        writeElement(registers, model, place, offset, bytes, part);
+        writeElement(registers, model, place, offset, next, part);
         offset += part;
-        bytes += part;
+        next += part;
     }
 }
 

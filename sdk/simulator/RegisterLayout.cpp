@@ -4,8 +4,8 @@ const std::array<RegisterInfo, registerCount> &registerTable()
 {
     static const std::array<RegisterInfo, registerCount> table = [] {
         std::array<RegisterInfo, registerCount> registers{{
-#define CORVIX_REGISTER_INFO(name, type, elements, use, selector, invalidators)                              \
-    {RegisterId::name, #name, RegisterType::type, elements, RegisterUse::use, selector, invalidators},
+#define CORVIX_REGISTER_INFO(name, type, elements, use, selector, invalidator)                               \
+    {RegisterId::name, #name, RegisterType::type, elements, RegisterUse::use, selector, invalidator},
             CORVIX_SIMULATOR_REGISTERS(CORVIX_REGISTER_INFO)
 #undef CORVIX_REGISTER_INFO
         }};

@@ -31,7 +31,8 @@ enum class RegisterUse
     Internal ///< The camera; not in the register description.
 };
 
-// X(name, type, elements, use, selector, registers whose change may change this one)
+// X(name, type, elements, use, selector, register whose change may change this one)
+// The camera may change registers with "*" at any time.
 // The elements of a register are selected by the value of the selector's register.
 // clang-format off
 #define CORVIX_SIMULATOR_REGISTERS(X) \
@@ -91,20 +92,20 @@ enum class RegisterUse
     X(TriggerActivation, Integer, 3, Setting, "TriggerSelector", "") \
     X(TriggerDelay, Float, 3, Setting, "TriggerSelector", "") \
     X(TriggerSoftware, Integer, 3, Command, "TriggerSelector", "") \
-    X(ExposureAuto, Integer, 1, Setting, "", "") \
-    X(ExposureTime, Float, 1, Setting, "", "ExposureAuto") \
+    X(ExposureAuto, Integer, 1, Setting, "", "*") \
+    X(ExposureTime, Float, 1, Setting, "", "*") \
     X(LineSelector, Integer, 1, Free, "", "") \
     X(LineStatus, Integer, 2, Status, "LineSelector", "") \
     X(LineSignalFrequency, Float, 2, Setting, "LineSelector", "") \
     X(GainSelector, Integer, 1, Free, "", "") \
-    X(GainRaw, Integer, 9, Setting, "GainSelector", "GainAuto") \
-    X(GainAuto, Integer, 1, Setting, "", "") \
+    X(GainRaw, Integer, 9, Setting, "GainSelector", "*") \
+    X(GainAuto, Integer, 1, Setting, "", "*") \
     X(BlackLevelSelector, Integer, 1, Free, "", "") \
     X(BlackLevelRaw, Integer, 9, Setting, "BlackLevelSelector", "") \
     X(Gamma, Float, 1, Setting, "", "") \
     X(BalanceRatioSelector, Integer, 1, Free, "", "") \
-    X(BalanceRatio, Float, 3, Setting, "BalanceRatioSelector", "BalanceWhiteAuto") \
-    X(BalanceWhiteAuto, Integer, 1, Setting, "", "") \
+    X(BalanceRatio, Float, 3, Setting, "BalanceRatioSelector", "*") \
+    X(BalanceWhiteAuto, Integer, 1, Setting, "", "*") \
     X(LensFocusPosition, Integer, 1, Setting, "", "") \
     X(EncoderSelector, Integer, 1, Free, "", "") \
     X(EncoderSourceA, Integer, 1, Setting, "", "") \
@@ -143,7 +144,7 @@ struct RegisterInfo
     std::size_t elements;
     RegisterUse use;
     std::string_view selector; ///< Name of the register that selects the element; empty if there is none.
-    std::string_view invalidators; ///< Names of registers, separated by blanks.
+    std::string_view invalidator; ///< Name of a register; "*" if the camera changes the register.
     std::size_t offset = 0; ///< Of the first element, in bytes from the start of the registers.
 
     std::size_t elementSize() const { return type == RegisterType::Text ? 64 : 8; } ///< With padding.
@@ -155,6 +156,11 @@ struct RegisterInfo
             if (candidate == use)
                 return true;
         return false;
+    }
+    bool isChangedByCamera() const
+    {
+        return isIn({RegisterUse::Status, RegisterUse::Command, RegisterUse::LockedCommand})
+            || invalidator == "*";
     }
     bool isInUserSet() const { return isIn({RegisterUse::Setting, RegisterUse::Locked}); }
 };

@@ -9,7 +9,7 @@ namespace {
 constexpr Reflectance table{0.16F, 0.125F, 0.10F};
 constexpr Reflectance paper = Reflectance::grey(0.79F);
 constexpr Reflectance graphLines{0.62F, 0.70F, 0.72F};
-constexpr Reflectance ink = Reflectance::grey(0.045F);
+constexpr Reflectance chartInk = Reflectance::grey(0.045F);
 constexpr float grain = 0.025F; // Standard deviation of the surface's brightness, relative.
 constexpr float cardAspect = 1.25F;
 
@@ -71,33 +71,33 @@ void SceneChart::addCard(Card card, float height)
     const float width = card.width - 8 * unit;
     addTinted(box(left, top + 4 * unit, width, 92 * unit, paper));
     addGraphPaper(m_shapes.back(), std::max(2 * unit, 12.0F));
-    add(box(left + unit, top + 5 * unit, width - 2 * unit, 0.4F * unit, ink));
-    add(box(left + unit, top + 94.6F * unit, width - 2 * unit, 0.4F * unit, ink));
+    add(box(left + unit, top + 5 * unit, width - 2 * unit, 0.4F * unit, chartInk));
+    add(box(left + unit, top + 94.6F * unit, width - 2 * unit, 0.4F * unit, chartInk));
 
     addTinted(disc(middle, top + 50 * unit, 28.5F * unit, paper));
-    add(ring(middle, top + 50 * unit, 28.5F * unit, 0.5F * unit, ink));
-    add(star(middle, top + 50 * unit, 26 * unit, 36, ink));
+    add(ring(middle, top + 50 * unit, 28.5F * unit, 0.5F * unit, chartInk));
+    add(star(middle, top + 50 * unit, 26 * unit, 36, chartInk));
     for (const float x : {left + 12 * unit, left + width - 12 * unit}) {
         for (const float y : {top + 17 * unit, top + 83 * unit}) {
             addTinted(disc(x, y, 9.5F * unit, paper));
-            add(ring(x, y, 9.5F * unit, 0.4F * unit, ink));
-            add(star(x, y, 8.5F * unit, 18, ink));
+            add(ring(x, y, 9.5F * unit, 0.4F * unit, chartInk));
+            add(star(x, y, 8.5F * unit, 18, chartInk));
         }
     }
 
     addGreyWedge(middle - 28 * unit, top + 8 * unit, 56 * unit, 7 * unit);
-    add(textLine(middle - 25.5F * unit, top + 16.4F * unit, 3.8F * unit, "CORVIX SIMULATOR", ink));
+    add(textLine(middle - 25.5F * unit, top + 16.4F * unit, 3.8F * unit, "CORVIX SIMULATOR", chartInk));
     addGratings(middle - 28 * unit, top + 85 * unit, 56 * unit, 7.5F * unit);
-    add(textLine(middle - 28 * unit, top + 80 * unit, 2.6F * unit, "0123456789 ABCDEFGHIJ", ink));
-    add(textLine(middle + 20.3F * unit, top + 81.4F * unit, 0.56F * unit, "KLMNOPQRSTUVWXYZ", ink));
+    add(textLine(middle - 28 * unit, top + 80 * unit, 2.6F * unit, "0123456789 ABCDEFGHIJ", chartInk));
+    add(textLine(middle + 20.3F * unit, top + 81.4F * unit, 0.56F * unit, "KLMNOPQRSTUVWXYZ", chartInk));
 
     const float columnWidth = 18 * unit;
     const float rightColumn = left + width - 3 * unit - columnWidth;
     addBarGroups(left + 3 * unit, top + 29 * unit, columnWidth, 24 * unit);
-    add(slantedSquare(left + 6 * unit, top + 57 * unit, 12 * unit, ink));
+    add(slantedSquare(left + 6 * unit, top + 57 * unit, 12 * unit, chartInk));
     addColorPatches(rightColumn, top + 29 * unit, columnWidth, 24 * unit);
     addTinted(disc(rightColumn + columnWidth / 2, top + 63 * unit, 8.2F * unit, paper));
-    add(zonePlate(rightColumn + columnWidth / 2, top + 63 * unit, 8 * unit, ink));
+    add(zonePlate(rightColumn + columnWidth / 2, top + 63 * unit, 8 * unit, chartInk));
 }
 
 void SceneChart::addGraphPaper(const SceneShape &card, float pitch)
@@ -125,7 +125,7 @@ void SceneChart::addColorPatches(float left, float top, float width, float heigh
 {
     constexpr int columns = 4;
     constexpr int rows = 6;
-    addTinted(box(left, top, width, height, ink));
+    addTinted(box(left, top, width, height, chartInk));
     const float pitchX = width / columns;
     const float pitchY = height / rows;
     for (int row = 0; row < rows; ++row) {
@@ -146,8 +146,8 @@ void SceneChart::addBarGroups(float left, float top, float width, float height)
     float y = top + height * 0.03F;
     for (float size = width * 0.4F; size >= 4 && y + size <= top + height; size *= 0.72F) {
         const float period = size / 2.5F;
-        add(verticalBars(left + width * 0.03F, y, size, size, period, ink));
-        add(horizontalBars(left + width * 0.53F, y, size, size, period, ink));
+        add(verticalBars(left + width * 0.03F, y, size, size, period, chartInk));
+        add(horizontalBars(left + width * 0.53F, y, size, size, period, chartInk));
         y += size * 1.15F;
     }
 }
@@ -160,7 +160,7 @@ void SceneChart::addGratings(float left, float top, float width, float height)
     for (std::size_t i = 0; i < periods.size(); ++i) {
         // Bars of even periods are aligned to the pixels, or the finest ones would be grey.
         const float x = std::floor(left + pitch * static_cast<float>(i)) - 0.5F;
-        add(verticalBars(x, top, pitch * 0.9F, height, periods[i], ink));
+        add(verticalBars(x, top, pitch * 0.9F, height, periods[i], chartInk));
     }
 }
 

@@ -51,10 +51,10 @@ struct CameraRecord
     StringField name;
     StringField serialNumber;
     StringField extendedId{};
-    StringField userName{};
     std::uint32_t type = CvxCPP::CvxTransportLayerUnknown; ///< May be a value that the SDK does not define.
     std::shared_ptr<InterfaceRecord> iface{}; ///< If null, GetInterface() succeeds and returns null.
     bool nullHandle = false; ///< GetCameras() writes a null pointer for this camera.
+    StringField userName{};
 };
 
 /// The SDK functions whose calls are recorded.

@@ -17,6 +17,9 @@ TEST(FrameGaps, missingImagesAreCounted)
         {{7, 8, 9}, 0, "nothing is missing"},
         {{7, 10, 11, 13}, 3, "gaps"},
         {{7, 7}, 0, "the same number again"},
+        {{7, 9, 8, 10}, 1, "a late image"},
+        {{65534, 1, 65535, 2}, 1, "a late image when a short number starts again"},
+        {{5, 65000}, 64994, "a wide gap"},
         {{65535, 1, 2}, 0, "a short number starts again at 1"},
         {{65534, 2}, 2, "65535 and 1 are missing"},
         {{200, 1}, 0, "a restart of the camera"},
@@ -29,5 +32,15 @@ TEST(FrameGaps, missingImagesAreCounted)
         for (const std::uint64_t frameId : testCase.frameIds)
             missing += gaps.missingBefore(frameId);
         EXPECT_EQ(missing, testCase.missing) << testCase.description;
+    }
+}
+
+TEST(FrameGaps, nextNumberIsExpected)
+{
+    FrameGaps gaps;
+    EXPECT_EQ(gaps.expectedId(), 0U);
+    for (const auto &[frameId, expected] : {std::pair{1000U, 1001U}, {65535U, 1U}, {70000U, 70001U}}) {
+        gaps.missingBefore(frameId);
+        EXPECT_EQ(gaps.expectedId(), expected);
     }
 }

@@ -12,13 +12,13 @@ const std::vector<CameraNames> cameras{
     {"CAM-3", "b.cti/usb/CAM-3", "Ilvo", "K1", "Ilvo (K1)", "Conveyor side"},
 };
 
-struct Row
+struct Choice
 {
     const char *text;
     Indexes expected;
 };
 
-class CameraChoiceTest : public testing::TestWithParam<Row>
+class CameraChoiceTest : public testing::TestWithParam<Choice>
 { };
 
 } // namespace
@@ -29,8 +29,8 @@ TEST_P(CameraChoiceTest, exactNamesWinOverParts)
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, CameraChoiceTest,
-    testing::Values(Row{"CAM-1", {0}}, // Also a part of another ID.
-        Row{"2403", {1}}, // Also a part of another serial number.
-        Row{"24030", {0}}, Row{"cam-3", {2}}, Row{"b.cti/usb/CAM-3", {2}}, Row{"conveyor TOP", {0}},
-        Row{"Conveyor", {0, 2}}, Row{"kx200", {0, 1}}, Row{"Pro", {1}}, Row{"net/", {0, 1}},
-        Row{"none", {}}));
+    testing::Values(Choice{"CAM-1", {0}}, // Also a part of another ID.
+        Choice{"2403", {1}}, // Also a part of another serial number.
+        Choice{"24030", {0}}, Choice{"cam-3", {2}}, Choice{"b.cti/usb/CAM-3", {2}},
+        Choice{"conveyor TOP", {0}}, Choice{"Conveyor", {0, 2}}, Choice{"kx200", {0, 1}}, Choice{"Pro", {1}},
+        Choice{"net/", {0, 1}}, Choice{"none", {}}));

@@ -62,6 +62,16 @@ TEST_F(HostFailureTest, killedHostLosesTheDevice)
     fail("die", CvxErrorDeviceLost);
 }
 
+TEST_F(HostFailureTest, callDuringWhichTheHostDiesTellsTheReason)
+{
+    const auto device = opened();
+    setScript("readValue die\n");
+    NodeValue value;
+    EXPECT_EQ(device->Read("Width", value).text,
+        "Orvelle Kx200 (24030117): The process of the camera was ended by SIGKILL (Killed). The camera is "
+        "being opened again.");
+}
+
 TEST_F(HostFailureTest, nonsenseLosesTheDevice)
 {
     for (const char *nonsense : {"garbage", "wrongId", "wrongKind"})
@@ -148,7 +158,9 @@ TEST_F(HostFailureTest, callsFailAtOnceWhileTheDeviceIsLost)
     NodeValue value;
     const CvxResult result = device->Read("Width", value);
     EXPECT_EQ(result.code, CvxErrorDeviceLost);
-    EXPECT_EQ(result.text, "Orvelle Kx200 (24030117): The camera was lost; it is being opened again.");
+    EXPECT_EQ(result.text,
+        "Orvelle Kx200 (24030117): The process of the camera was ended by SIGKILL (Killed). The camera is "
+        "being opened again.");
     std::vector<NodeInfo> nodes;
     EXPECT_TRUE(device->GetNodes(nodes));
     std::uint32_t reopenCount = 0;

@@ -18,10 +18,10 @@ protected:
         addProducer("producer", "interface net0|Net|GEV\ndevice net0|D7|Orvelle|Kx200|24030117|Left|GEV\n");
     }
 
-    std::shared_ptr<Device> opened(Camera &camera)
+    std::shared_ptr<Device> opened(Camera &listed)
     {
         std::shared_ptr<Device> device;
-        const CvxResult result = camera.Open(CvxAccessControl, device);
+        const CvxResult result = listed.Open(CvxAccessControl, device);
         EXPECT_TRUE(result) << result.text;
         return device;
     }

@@ -72,7 +72,7 @@ TEST(GvcpReader, onlyTheAnswerToTheCommandCounts)
 {
     const RegisterResponder camera([](const Bytes &command, const Send &send) {
         Bytes wrongId = goodAnswer(command), wrongCode = wrongId;
-        wrongId[7] ^= 1;
+        wrongId[7] ^= 2;
         wrongCode[3] ^= 4;
         wrongId.back() = wrongCode.back() = 0xEE;
         for (const Bytes &datagram : {Bytes(3), wrongId, wrongCode, goodAnswer(command)})

@@ -2,7 +2,7 @@
 // consumer with a node map sees them, and the registers below.
 
 #include "tests/producer/CameraSession.h"
-#include "tests/producer/ModuleNodes.h"
+#include "tests/producer/PortNodes.h"
 
 #include <set>
 
@@ -14,7 +14,7 @@ class ModulePorts : public CameraSession
 protected:
     ModulePorts() { openStream(); }
 
-    ModuleNodes nodes(PORT_HANDLE module) const { return ModuleNodes(producer, module); }
+    PortNodes nodes(PORT_HANDLE module) const { return PortNodes(producer, module); }
 
     GC_ERROR read(PORT_HANDLE module, std::uint64_t address, std::size_t size) const
     {
@@ -38,7 +38,7 @@ protected:
 
 TEST_F(ModulePorts, systemModuleDescribesTheProducer)
 {
-    const ModuleNodes system = nodes(session.system());
+    const PortNodes system = nodes(session.system());
     EXPECT_EQ(system.dump(),
         (Lines{
             "SystemInformation.TLID: TestProducer",
@@ -61,7 +61,7 @@ TEST_F(ModulePorts, systemModuleDescribesTheProducer)
 
 TEST_F(ModulePorts, interfaceModuleListsItsDevices)
 {
-    const ModuleNodes one = nodes(interface);
+    const PortNodes one = nodes(interface);
     EXPECT_TRUE(one.write("DeviceSelector", "2"));
     EXPECT_EQ(one.dump(),
         (Lines{
@@ -82,7 +82,7 @@ TEST_F(ModulePorts, interfaceModuleListsItsDevices)
 TEST_F(ModulePorts, emptyListHasNoSelectedEntry)
 {
     const IF_HANDLE two = session.open("two");
-    const ModuleNodes interfaceTwo = nodes(two);
+    const PortNodes interfaceTwo = nodes(two);
     EXPECT_EQ(interfaceTwo.dump(),
         (Lines{
             "InterfaceInformation.InterfaceID: two",
@@ -143,7 +143,7 @@ TEST_F(ModulePorts, streamModuleCountsItsBuffers)
     writeRegister(Registers::deliver, 3);
     BUFFER_HANDLE buffer = nullptr;
     EXPECT_EQ(fetch(event, &buffer), GC_ERR_SUCCESS);
-    const ModuleNodes nodesOfStream = nodes(stream);
+    const PortNodes nodesOfStream = nodes(stream);
     EXPECT_EQ(nodesOfStream.dump(),
         (Lines{
             "StreamInformation.StreamID: " + streamId(),

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
+#include <future>
 #include <gtest/gtest.h>
 
 using Ids = std::vector<std::string>;
@@ -105,4 +106,21 @@ TEST_F(SimulatedSourceTest, unreadableFileKeepsTheLastValidConfiguration)
     std::filesystem::remove(file);
     std::filesystem::create_directory(file); // A folder can be opened, but not read.
     expectProblem({"one"}, "Is a directory");
+}
+
+TEST_F(SimulatedSourceTest, cameraThatDisappearsFromTheFileIsLost)
+{
+    setenv("XDG_RUNTIME_DIR", folder.c_str(), 1); // The registers are in a file there.
+    const auto open = [this] { return source->openCamera("net", "one", GenTL::DEVICE_ACCESS_CONTROL); };
+    write(withDevice("one"), 1);
+    const std::unique_ptr<OpenCamera> camera = open();
+    std::promise<void> loss;
+    camera->setLossHandler([&loss] { loss.set_value(); });
+    EXPECT_THROW(open(), GenTlError); // It is in use.
+    write(withDevice("two"), 2);
+    ASSERT_EQ(loss.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
+    EXPECT_EQ(camera->accessStatus(), GenTL::DEVICE_ACCESS_STATUS_NOACCESS);
+    EXPECT_THROW(open(), GenTlError); // It is not connected.
+    write(withDevice("one"), 3);
+    EXPECT_EQ(open()->accessStatus(), GenTL::DEVICE_ACCESS_STATUS_OPEN_READWRITE);
 }

@@ -236,11 +236,13 @@ TEST_F(StreamFunctions, chunksOutsideTheBufferAreRefused)
     EXPECT_EQ(start(), GC_ERR_SUCCESS);
     writeRegister(Registers::chunks, 1);
     std::size_t count = 0;
-    const std::pair<std::int64_t, GC_ERROR> expected[]
-        = {{60, GC_ERR_SUCCESS}, {61, GC_ERR_PARSING_CHUNK_DATA}, {64, GC_ERR_PARSING_CHUNK_DATA},
-            {-1, GC_ERR_PARSING_CHUNK_DATA}, {INT64_MAX, GC_ERR_PARSING_CHUNK_DATA}};
-    for (const auto &[offset, code] : expected) {
+    const std::tuple<std::int64_t, std::uint64_t, GC_ERROR> expected[]
+        = {{60, 4, GC_ERR_SUCCESS}, {61, 4, GC_ERR_PARSING_CHUNK_DATA}, {64, 1, GC_ERR_PARSING_CHUNK_DATA},
+            {65, 0, GC_ERR_PARSING_CHUNK_DATA}, {-1, 1, GC_ERR_PARSING_CHUNK_DATA},
+            {60, UINT64_MAX - 30, GC_ERR_PARSING_CHUNK_DATA}};
+    for (const auto &[offset, length, code] : expected) {
         writeRegister(Registers::chunkOffset, static_cast<std::uint64_t>(offset));
+        writeRegister(Registers::chunkLength, length);
         EXPECT_EQ(nextBuffer(), buffer);
         EXPECT_EQ(producer.DSGetBufferChunkData(stream, buffer, nullptr, &count), code) << offset;
         EXPECT_EQ(producer.DSQueueBuffer(stream, buffer), GC_ERR_SUCCESS);

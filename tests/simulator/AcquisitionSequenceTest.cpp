@@ -10,8 +10,8 @@
 namespace {
 
 using Id = RegisterId;
-constexpr std::int64_t millisecond = 1'000'000;
-constexpr std::int64_t second = 1000 * millisecond;
+constexpr std::int64_t oneMillisecond = 1'000'000;
+constexpr std::int64_t oneSecond = 1000 * oneMillisecond;
 
 /// Returns registers after power-on with some integers and floats changed.
 RegisterBank registersWith(const std::vector<std::pair<RegisterId, std::int64_t>> &integers,
@@ -47,40 +47,40 @@ TEST(AcquisitionClock, imagesFollowTheirScheduleWithoutDrift)
 
 TEST(AcquisitionClock, periodIsTheLongestOfAllLimits)
 {
-    EXPECT_EQ(imagePeriod(registersWith({}, {{Id::AcquisitionFrameRate, 50}})), second / 50);
+    EXPECT_EQ(imagePeriod(registersWith({}, {{Id::AcquisitionFrameRate, 50}})), oneSecond / 50);
     EXPECT_EQ(imagePeriod(registersWith({{Id::AcquisitionFrameRateEnable, 0}})), 0);
     const std::vector<std::pair<RegisterId, std::int64_t>> limited{{Id::AcquisitionFrameRateEnable, 0},
         {Id::DeviceLinkThroughputLimitMode, 1}, {Id::DeviceLinkThroughputLimit, 1'000'000}};
-    EXPECT_EQ(imagePeriod(registersWith(limited)), 64 * 48 * second / 1'000'000);
+    EXPECT_EQ(imagePeriod(registersWith(limited)), 64 * 48 * oneSecond / 1'000'000);
     EXPECT_EQ(imagePeriod(registersWith({{Id::Height, 100}}, {{Id::AcquisitionLineRate, 1000}}, true)),
-        second / 10);
+        oneSecond / 10);
 }
 
 TEST(LineSignal, edgesAreAtMultiplesOfThePeriod)
 {
     const LineSignal signal{10}; // A period of 100 ms, high in its first half.
-    EXPECT_TRUE(signal.isHigh(1049 * millisecond));
-    EXPECT_FALSE(signal.isHigh(1051 * millisecond));
+    EXPECT_TRUE(signal.isHigh(1049 * oneMillisecond));
+    EXPECT_FALSE(signal.isHigh(1051 * oneMillisecond));
     EXPECT_FALSE(LineSignal{0}.isHigh(0));
-    EXPECT_EQ(signal.edgeTime(risingEdge, 1001 * millisecond, 1), 1100 * millisecond);
-    EXPECT_EQ(signal.edgeTime(risingEdge, 1001 * millisecond, 3), 1300 * millisecond);
-    EXPECT_EQ(signal.edgeTime(fallingEdge, 1001 * millisecond, 1), 1050 * millisecond);
-    EXPECT_EQ(signal.edgeTime(anyEdge, 1051 * millisecond, 2), 1150 * millisecond);
-    EXPECT_EQ(signal.edgesBetween(1000 * millisecond, 1200 * millisecond), 2);
+    EXPECT_EQ(signal.edgeTime(risingEdge, 1001 * oneMillisecond, 1), 1100 * oneMillisecond);
+    EXPECT_EQ(signal.edgeTime(risingEdge, 1001 * oneMillisecond, 3), 1300 * oneMillisecond);
+    EXPECT_EQ(signal.edgeTime(fallingEdge, 1001 * oneMillisecond, 1), 1050 * oneMillisecond);
+    EXPECT_EQ(signal.edgeTime(anyEdge, 1051 * oneMillisecond, 2), 1150 * oneMillisecond);
+    EXPECT_EQ(signal.edgesBetween(1000 * oneMillisecond, 1200 * oneMillisecond), 2);
 }
 
 TEST(CameraTemperature, approachesTheRunningTemperatureExponentially)
 {
     RegisterBank bank = registersWith({}, {{Id::TemperatureTimeConstant, 100}});
-    EXPECT_NEAR(sensorTemperature(bank, 50 * second), idleTemperature, 1e-9);
-    setAcquisitionActive(bank, true, 50 * second);
-    EXPECT_NEAR(sensorTemperature(bank, 50 * second), idleTemperature, 1e-9);
+    EXPECT_NEAR(sensorTemperature(bank, 50 * oneSecond), idleTemperature, 1e-9);
+    setAcquisitionActive(bank, true, 50 * oneSecond);
+    EXPECT_NEAR(sensorTemperature(bank, 50 * oneSecond), idleTemperature, 1e-9);
     const double rise = runningTemperature - idleTemperature;
-    EXPECT_NEAR(sensorTemperature(bank, 150 * second), idleTemperature + rise * 0.632, 0.01);
-    EXPECT_NEAR(sensorTemperature(bank, 5000 * second), runningTemperature, 1e-6);
-    setAcquisitionActive(bank, false, 150 * second);
-    EXPECT_NEAR(sensorTemperature(bank, 150 * second), idleTemperature + rise * 0.632, 0.01);
-    EXPECT_NEAR(sensorTemperature(bank, 250 * second), idleTemperature + rise * 0.632 * 0.368, 0.01);
+    EXPECT_NEAR(sensorTemperature(bank, 150 * oneSecond), idleTemperature + rise * 0.632, 0.01);
+    EXPECT_NEAR(sensorTemperature(bank, 5000 * oneSecond), runningTemperature, 1e-6);
+    setAcquisitionActive(bank, false, 150 * oneSecond);
+    EXPECT_NEAR(sensorTemperature(bank, 150 * oneSecond), idleTemperature + rise * 0.632, 0.01);
+    EXPECT_NEAR(sensorTemperature(bank, 250 * oneSecond), idleTemperature + rise * 0.632 * 0.368, 0.01);
 }
 
 /// Starts a sequence with the registers of a camera that nobody else changes.
@@ -102,7 +102,7 @@ protected:
 
 TEST_F(AcquisitionSequenceTest, nothingHappensBeforeTheStart)
 {
-    sequence.update(registersWith({}), second);
+    sequence.update(registersWith({}), oneSecond);
     EXPECT_EQ(sequence.nextImage(), std::nullopt);
 }
 
@@ -113,17 +113,17 @@ TEST_F(AcquisitionSequenceTest, modeLimitsTheNumberOfImages)
         RegisterBank bank = registersWith({{Id::AcquisitionMode, mode}, {Id::AcquisitionFrameCount, 3}});
         bank.setInteger(Id::AcquisitionActive, 1);
         bank.setInteger(Id::AcquisitionStarts, 1);
-        limited.update(bank, second);
+        limited.update(bank, oneSecond);
         for (int image = 0; image < count; ++image) {
             EXPECT_FALSE(limited.isFinished());
-            EXPECT_EQ(limited.nextImage(), second + image * second / 25);
-            limited.imageTaken(second + image * second / 25);
+            EXPECT_EQ(limited.nextImage(), oneSecond + image * oneSecond / 25);
+            limited.imageTaken(oneSecond + image * oneSecond / 25);
         }
         EXPECT_TRUE(limited.isFinished());
         EXPECT_EQ(limited.nextImage(), std::nullopt);
         bank.setInteger(Id::AcquisitionStarts, 2);
-        limited.update(bank, 2 * second);
-        EXPECT_EQ(limited.nextImage(), 2 * second);
+        limited.update(bank, 2 * oneSecond);
+        EXPECT_EQ(limited.nextImage(), 2 * oneSecond);
     }
 }
 
@@ -134,22 +134,22 @@ TEST_F(AcquisitionSequenceTest, triggeredImageIsCompleteAfterDelayAndExposure)
     bank.setInteger(Id::TriggerSource, line0Source, frameStartTrigger);
     bank.setReal(Id::TriggerDelay, 5'000, frameStartTrigger);
     bank.setReal(Id::LineSignalFrequency, 10, 0);
-    update(bank, 1001 * millisecond);
-    EXPECT_EQ(sequence.nextImage(), 1125 * millisecond);
-    sequence.imageTaken(1125 * millisecond);
-    EXPECT_EQ(sequence.nextImage(), 1225 * millisecond);
+    update(bank, 1001 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 1125 * oneMillisecond);
+    sequence.imageTaken(1125 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 1225 * oneMillisecond);
 }
 
 TEST_F(AcquisitionSequenceTest, triggerDuringAnImageIsIgnored)
 {
     RegisterBank bank = registersWith({});
     bank.setInteger(Id::TriggerMode, 1, frameStartTrigger);
-    update(bank, second);
+    update(bank, oneSecond);
     EXPECT_EQ(sequence.nextImage(), std::nullopt);
     registers.addPulse(frameStartTrigger);
     EXPECT_TRUE(sequence.nextImage().has_value());
     registers.addPulse(frameStartTrigger);
-    sequence.imageTaken(second);
+    sequence.imageTaken(oneSecond);
     EXPECT_EQ(sequence.nextImage(), std::nullopt);
 }
 
@@ -157,13 +157,13 @@ TEST_F(AcquisitionSequenceTest, triggerOfTheAcquisitionReleasesAllImages)
 {
     RegisterBank bank = registersWith({});
     bank.setInteger(Id::TriggerMode, 1, acquisitionStartTrigger);
-    update(bank, second);
+    update(bank, oneSecond);
     EXPECT_EQ(sequence.nextImage(), std::nullopt);
     registers.addPulse(acquisitionStartTrigger);
     const std::optional<std::int64_t> first = sequence.nextImage();
     ASSERT_TRUE(first.has_value());
     sequence.imageTaken(*first);
-    EXPECT_EQ(sequence.nextImage(), *first + second / 25);
+    EXPECT_EQ(sequence.nextImage(), *first + oneSecond / 25);
 }
 
 TEST_F(AcquisitionSequenceTest, imageOfALineScanCameraNeedsATriggerForEachLine)
@@ -173,12 +173,12 @@ TEST_F(AcquisitionSequenceTest, imageOfALineScanCameraNeedsATriggerForEachLine)
     bank.setInteger(Id::TriggerMode, 1, lineStartTrigger);
     bank.setInteger(Id::TriggerSource, encoderSource, lineStartTrigger);
     bank.setInteger(Id::AcquisitionLineRateEnable, 0);
-    update(bank, 1001 * millisecond); // The encoder sends 100 pulses per second.
-    EXPECT_EQ(sequence.nextImage(), 1100 * millisecond);
+    update(bank, 1001 * oneMillisecond); // The encoder sends 100 pulses per oneSecond.
+    EXPECT_EQ(sequence.nextImage(), 1100 * oneMillisecond);
     bank.setInteger(Id::TriggerSource, softwareSource, lineStartTrigger);
     bank.setInteger(Id::AcquisitionStarts, 2);
     bank.setInteger(Id::AcquisitionActive, 1);
-    sequence.update(bank, second);
+    sequence.update(bank, oneSecond);
     for (int line = 0; line < 10; ++line) {
         EXPECT_EQ(sequence.nextImage(), std::nullopt);
         registers.addPulse(lineStartTrigger);

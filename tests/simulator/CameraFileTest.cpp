@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr auto watch = GenTL::DEVICE_ACCESS_READONLY;
-constexpr auto control = GenTL::DEVICE_ACCESS_CONTROL;
 constexpr auto exclusive = GenTL::DEVICE_ACCESS_EXCLUSIVE;
 
 /// Opens the file and lets others in. Returns an empty text, or the text of the failure.
@@ -138,11 +136,15 @@ TEST_F(CameraFileTest, fileOfSomebodyElseIsNotUsed)
     EXPECT_THROW(CameraFile(folder.file("link"), watch), GenTlError);
 }
 
-TEST(CameraFilePath, namesTheCameraInTheFolderOfTheSession)
+TEST_F(CameraFileTest, nameOfTheFileNamesTheCamera)
 {
-    setenv("XDG_RUNTIME_DIR", "/run/test", 1);
-    EXPECT_EQ(cameraFilePath("net/0", "00:11 é"), "/run/test/corvix-camera-00%3A11%20%C3%A9.net%2F0");
+    const std::string session = folder.file("");
+    setenv("XDG_RUNTIME_DIR", session.c_str(), 1);
+    EXPECT_EQ(cameraFilePath("net/0", "00:11 é"), session + "/corvix-camera-00%3A11%20%C3%A9.net%2F0");
+    const std::string fallback = "/tmp/corvix-camera-" + std::to_string(geteuid()) + "-a.n";
+    setenv("XDG_RUNTIME_DIR", folder.file("missing").c_str(), 1);
+    EXPECT_EQ(cameraFilePath("n", "a"), fallback);
     unsetenv("XDG_RUNTIME_DIR");
-    EXPECT_EQ(cameraFilePath("n", "a"), "/tmp/corvix-camera-" + std::to_string(geteuid()) + "-a.n");
+    EXPECT_EQ(cameraFilePath("n", "a"), fallback);
     EXPECT_LT(cameraFilePath(std::string(300, 'n'), std::string(300, '/')).size(), 255U);
 }

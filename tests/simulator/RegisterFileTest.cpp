@@ -10,13 +10,13 @@
 namespace {
 
 using Id = RegisterId;
-constexpr auto watch = GenTL::DEVICE_ACCESS_READONLY;
-constexpr auto control = GenTL::DEVICE_ACCESS_CONTROL;
+constexpr auto watching = GenTL::DEVICE_ACCESS_READONLY;
+constexpr auto controlling = GenTL::DEVICE_ACCESS_CONTROL;
 
 /// Opens the camera in a child process, where it stays open, and changes the exposure time.
 std::string setExposureForever(const std::string &path, double exposure)
 {
-    static RegisterFile file(path, control, smallModel());
+    static RegisterFile file(path, controlling, smallModel());
     file.update([exposure](RegisterBank &bank) { bank.setReal(Id::ExposureTime, exposure); });
     return {};
 }
@@ -24,7 +24,7 @@ std::string setExposureForever(const std::string &path, double exposure)
 GenTL::GC_ERROR errorOf(const std::string &path, const CameraModel &model)
 {
     try {
-        const RegisterFile file(path, watch, model);
+        const RegisterFile file(path, watching, model);
         return GenTL::GC_ERR_SUCCESS;
     } catch (const GenTlError &error) {
         return error.code();
@@ -43,7 +43,7 @@ protected:
 
 TEST_F(RegisterFileTest, processesSeeTheSameRegisters)
 {
-    RegisterFile file(path, watch, model);
+    RegisterFile file(path, watching, model);
     EXPECT_EQ(file.load().real(Id::ExposureTime), model.exposureTime);
     const std::uint32_t changes = file.changes();
     const ChildProcess child([this] { return setExposureForever(path, 1234); });
@@ -55,16 +55,16 @@ TEST_F(RegisterFileTest, registersEndWithTheLastUser)
 {
     ChildProcess child([this] { return setExposureForever(path, 1234); });
     child.kill(); // The process cannot remove the file.
-    EXPECT_EQ(RegisterFile(path, control, model).load().real(Id::ExposureTime), model.exposureTime);
+    EXPECT_EQ(RegisterFile(path, controlling, model).load().real(Id::ExposureTime), model.exposureTime);
     EXPECT_TRUE(folder.isEmpty());
 }
 
 TEST_F(RegisterFileTest, pulseOfAnotherProcessEndsTheWait)
 {
-    RegisterFile file(path, control, model);
+    RegisterFile file(path, controlling, model);
     const std::uint32_t seen = file.wakeCounter().value();
     const ChildProcess child([this] {
-        RegisterFile(path, watch, smallModel()).addPulse(lineInput);
+        RegisterFile(path, watching, smallModel()).addPulse(lineInput);
         return std::string();
     });
     while (file.pulses(lineInput) == 0)
@@ -74,7 +74,7 @@ TEST_F(RegisterFileTest, pulseOfAnotherProcessEndsTheWait)
 
 TEST_F(RegisterFileTest, anotherModelWithTheSameIdCannotUseTheRegisters)
 {
-    RegisterFile file(path, control, model);
+    RegisterFile file(path, controlling, model);
     SensorKeys keys;
     keys.width = 128;
     EXPECT_EQ(errorOf(path, smallModel(keys)), GenTL::GC_ERR_ACCESS_DENIED);
@@ -86,7 +86,7 @@ TEST_F(RegisterFileTest, cameraThatRestartsCannotBeOpened)
     RegisterBank registers = powerOnRegisters(model);
     registers.setText(Id::DeviceUserID, "New name");
     {
-        RegisterFile file(path, control, model);
+        RegisterFile file(path, controlling, model);
         EXPECT_FALSE(file.hasRestarted());
         file.restart(registers);
         EXPECT_TRUE(file.hasRestarted());
@@ -99,14 +99,14 @@ TEST_F(RegisterFileTest, cameraThatRestartsCannotBeOpened)
 
 TEST_F(RegisterFileTest, restartKeepsWhatTheCameraStores)
 {
-    RegisterFile file(path, control, model);
+    RegisterFile file(path, controlling, model);
     RegisterBank registers = powerOnRegisters(model);
     registers.setText(Id::DeviceUserID, "New name");
     file.restart(registers);
     file.close();
     for (;;) {
         try {
-            const RegisterFile reopened(path, control, model);
+            const RegisterFile reopened(path, controlling, model);
             EXPECT_EQ(reopened.load().text(Id::DeviceUserID), "New name");
             EXPECT_FALSE(reopened.hasRestarted());
             return;

@@ -214,6 +214,32 @@ TEST(SceneColors, BalanceMakesAGreySurfaceGrey)
         *std::max_element(picture.values.begin(), picture.values.end()));
 }
 
+TEST(SceneColors, RgbIsInterpolatedFromTheMosaic)
+{
+    const SensorModel model = colorSensor(sensorWithFlaws());
+    const RenderedPicture rgb = render(model, wholeSensor(model, rgb8));
+    const RenderedPicture mosaic = render(model, wholeSensor(model, bayerRG8));
+    const auto meanOf = [&](std::initializer_list<std::pair<int, int>> pixels) {
+        int sum = 0;
+        for (const auto &[x, y] : pixels)
+            sum += mosaic.at(x, y);
+        return static_cast<double>(sum) / static_cast<double>(pixels.size());
+    };
+    for (int y = 2; y < 190; y += 2) {
+        for (int x = 2; x < 254; x += 2) {
+            // Of the pixel with the red filter.
+            EXPECT_EQ(channelAt(rgb, x, y, 0), mosaic.at(x, y));
+            EXPECT_NEAR(channelAt(rgb, x, y, 1), meanOf({{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}}), 1);
+            EXPECT_NEAR(channelAt(rgb, x, y, 2),
+                meanOf({{x - 1, y - 1}, {x + 1, y - 1}, {x - 1, y + 1}, {x + 1, y + 1}}), 1);
+            // Of the two pixels with a green filter.
+            EXPECT_NEAR(channelAt(rgb, x + 1, y, 0), meanOf({{x, y}, {x + 2, y}}), 1);
+            EXPECT_NEAR(channelAt(rgb, x + 1, y, 2), meanOf({{x + 1, y - 1}, {x + 1, y + 1}}), 1);
+            EXPECT_NEAR(channelAt(rgb, x, y + 1, 0), meanOf({{x, y}, {x, y + 2}}), 1);
+        }
+    }
+}
+
 TEST(SceneColors, RegionOfRgbIsPartOfTheWholePicture)
 {
     const SensorModel model = colorSensor(sensorWithFlaws());

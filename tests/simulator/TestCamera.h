@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+constexpr GenTL::DEVICE_ACCESS_FLAGS watch = GenTL::DEVICE_ACCESS_READONLY;
+constexpr GenTL::DEVICE_ACCESS_FLAGS control = GenTL::DEVICE_ACCESS_CONTROL;
+
 /// A folder that is removed with the object.
 class TestFolder
 {

@@ -9,7 +9,7 @@ using namespace CvxCPP;
 
 namespace {
 
-struct Options
+struct FeaturesOptions
 {
     std::string camera;
     std::string category;
@@ -35,7 +35,7 @@ bool isInCategory(const NodeInfo &node, const std::string &category,
     return category.empty();
 }
 
-std::vector<NodeInfo> selectNodes(const std::vector<NodeInfo> &nodes, const Options &options)
+std::vector<NodeInfo> selectNodes(const std::vector<NodeInfo> &nodes, const FeaturesOptions &options)
 {
     std::unordered_map<std::string, std::string> parents; // The category of each category.
     for (const NodeInfo &node : nodes) {
@@ -83,7 +83,7 @@ void printNodes(const std::vector<NodeInfo> &nodes, const std::vector<NodeState>
     printTable(rows);
 }
 
-ExitStatus run(const Options &options)
+ExitStatus run(const FeaturesOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessWatch))
@@ -119,7 +119,7 @@ ExitStatus run(const Options &options)
 
 void addFeaturesCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<FeaturesOptions>();
     CLI::App *const command
         = program.add_subcommand("features", "List the features of a camera with their values");
     command->add_option("CAMERA", options->camera, cameraHelp)->required();

@@ -9,14 +9,14 @@ using namespace CvxCPP;
 
 namespace {
 
-struct Options
+struct GetOptions
 {
     std::string camera;
     std::vector<std::string> names;
     bool isJson = false;
 };
 
-ExitStatus run(const Options &options)
+ExitStatus run(const GetOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessWatch))
@@ -44,7 +44,7 @@ ExitStatus run(const Options &options)
 
 void addGetCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<GetOptions>();
     CLI::App *const command = program.add_subcommand("get",
         "Print the values of features: the value of one feature, or a line NAME=VALUE for each of several");
     command->add_option("CAMERA", options->camera, cameraHelp)->required();

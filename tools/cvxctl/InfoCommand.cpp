@@ -6,7 +6,7 @@ using namespace CvxCPP;
 
 namespace {
 
-struct Options
+struct InfoOptions
 {
     std::string camera;
     bool isJson = false;
@@ -18,7 +18,7 @@ constexpr const char *features[] = {"DeviceVendorName", "DeviceModelName", "Devi
     "Width", "Height", "OffsetX", "OffsetY", "PixelFormat", "ExposureTime", "Gain", "AcquisitionFrameRate",
     "TriggerMode", "DeviceTemperature", "PayloadSize"};
 
-ExitStatus run(const Options &options)
+ExitStatus run(const InfoOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessWatch))
@@ -50,7 +50,7 @@ ExitStatus run(const Options &options)
 
 void addInfoCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<InfoOptions>();
     CLI::App *const command = program.add_subcommand("info", "Show the most important data of a camera");
     command->add_option("CAMERA", options->camera, cameraHelp)->required();
     command->add_flag("--json", options->isJson, "Print JSON");

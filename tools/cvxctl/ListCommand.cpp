@@ -4,7 +4,7 @@
 
 namespace {
 
-struct Options
+struct ListOptions
 {
     bool isJson = false;
 };
@@ -32,7 +32,7 @@ nlohmann::ordered_json toJson(const std::vector<ListedCamera> &cameras)
     return json;
 }
 
-ExitStatus run(const Options &options)
+ExitStatus run(const ListOptions &options)
 {
     CameraSession session;
     std::vector<ListedCamera> cameras;
@@ -51,7 +51,7 @@ ExitStatus run(const Options &options)
 
 void addListCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<ListOptions>();
     CLI::App *const command = program.add_subcommand("list", "List all cameras, which takes a second");
     command->add_flag("--json", options->isJson, "Print JSON");
     command->callback([options, &status] { status = run(*options); });

@@ -10,14 +10,14 @@ using namespace CvxCPP;
 
 namespace {
 
-struct Options
+struct RunOptions
 {
     std::string camera;
     std::string name;
     double timeout = 10; // Seconds.
 };
 
-ExitStatus run(const Options &options)
+ExitStatus run(const RunOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
@@ -49,7 +49,7 @@ ExitStatus run(const Options &options)
 
 void addRunCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<RunOptions>();
     CLI::App *const command
         = program.add_subcommand("run", "Execute a command of the camera and wait until it is done");
     command->add_option("CAMERA", options->camera, cameraHelp)->required();

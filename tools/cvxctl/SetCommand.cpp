@@ -9,14 +9,14 @@ using namespace CvxCPP;
 
 namespace {
 
-struct Options
+struct SetOptions
 {
     std::string camera;
     std::vector<std::string> assignments;
     bool isJson = false;
 };
 
-ExitStatus run(const Options &options)
+ExitStatus run(const SetOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
@@ -51,7 +51,7 @@ std::string checkAssignment(const std::string &text)
 
 void addSetCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<SetOptions>();
     CLI::App *const command = program.add_subcommand("set",
         "Write features in the given order, and print what the camera made of each value. Ends at the first "
         "failure");

@@ -10,7 +10,7 @@ using namespace CvxCPP;
 
 namespace {
 
-struct Options
+struct SnapshotOptions
 {
     std::string camera;
     std::string file;
@@ -53,7 +53,7 @@ nlohmann::ordered_json toJson(const Image &image, const std::string &file)
         {"timestamp", info.timestamp}, {"frameId", info.frameId}, {"bytes", image.GetSize()}};
 }
 
-ExitStatus run(const Options &options)
+ExitStatus run(const SnapshotOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
@@ -82,7 +82,7 @@ ExitStatus run(const Options &options)
 
 void addSnapshotCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<SnapshotOptions>();
     CLI::App *const command = program.add_subcommand("snapshot",
         "Save one image: as 8-bit PNG (Mono8, BayerRG8, RGB8) if the name of the file ends in .png, "
         "otherwise the "

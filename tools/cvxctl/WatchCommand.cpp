@@ -12,7 +12,7 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-struct Options
+struct WatchOptions
 {
     std::string camera;
     double seconds = 0; // 0 is without end.
@@ -48,7 +48,7 @@ void print(const StreamStatistics &counters, bool isJson)
 }
 
 /// Takes images until the time is over or Ctrl-C is pressed, and prints the counters every second.
-ExitStatus watch(Stream &stream, const Options &options)
+ExitStatus watch(Stream &stream, const WatchOptions &options)
 {
     using namespace std::chrono_literals;
     const auto start = Clock::now();
@@ -81,7 +81,7 @@ ExitStatus watch(Stream &stream, const Options &options)
     return isLost ? exitLost : exitSuccess;
 }
 
-ExitStatus run(const Options &options)
+ExitStatus run(const WatchOptions &options)
 {
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
@@ -100,7 +100,7 @@ ExitStatus run(const Options &options)
 
 void addWatchCommand(CLI::App &program, ExitStatus &status)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<WatchOptions>();
     CLI::App *const command = program.add_subcommand("watch",
         "Stream images without keeping them, and print the counters every second until Ctrl-C. Exit status 6 "
         "means "

@@ -1,4 +1,4 @@
-// Saves one 8-bit grey image of the first camera as image.pgm.
+// Saves one image of the first camera, whose pixel format has 8 bits, as the grey image image.pgm.
 
 #include <CvxCPP/Device.h>
 
@@ -21,8 +21,6 @@ int main()
     std::shared_ptr<Stream> stream;
     std::shared_ptr<const Image> image;
     CvxResult result = camera->Open(CvxAccessControl, device);
-    if (result)
-        result = device->WriteString("PixelFormat", "Mono8");
     if (result)
         result = device->StartStream(3, StreamPolicy::NewestImage, stream);
     if (result)

@@ -24,7 +24,7 @@ struct Line
 
 using Version = std::tuple<ino_t, off_t, time_t, long>;
 
-std::mutex mutex; // Guards the variables below.
+std::mutex scriptMutex; // Guards the variables below.
 std::vector<Line> lines;
 Version known;
 
@@ -71,7 +71,7 @@ namespace QuirkScript {
 
 std::string actionFor(const std::string &function, const std::string &detail)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(scriptMutex);
     update();
     std::string action;
     for (Line &line : lines) {
@@ -86,7 +86,7 @@ std::string actionFor(const std::string &function, const std::string &detail)
 
 std::vector<std::string> words(const std::string &setting)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(scriptMutex);
     update();
     std::vector<std::string> result;
     for (const Line &line : lines) {
@@ -98,7 +98,7 @@ std::vector<std::string> words(const std::string &setting)
 
 bool has(const std::string &setting)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(scriptMutex);
     update();
     for (const Line &line : lines) {
         if (line.name == setting)

@@ -1,6 +1,7 @@
 #include "tests/producer/camera/TestCamera.h"
 
 #include <cstring>
+#include <thread>
 
 using namespace GenTL;
 namespace Registers = TestCameraRegisters;
@@ -44,15 +45,13 @@ void TestCamera::read(std::uint64_t address, void *data, std::size_t size)
         std::memcpy(data, &value, std::min(size, sizeof value));
         return;
     }
-    requireMemory(address, size);
-    std::memcpy(data, m_memory.data() + address, size);
+    copyMemory(address, size, [&](const char *memory) { std::memcpy(data, memory, size); });
 }
 
 void TestCamera::write(std::uint64_t address, const void *data, std::size_t size)
 {
     if (address < Registers::memorySize) {
-        requireMemory(address, size);
-        std::memcpy(m_memory.data() + address, data, size);
+        copyMemory(address, size, [&](char *memory) { std::memcpy(memory, data, size); });
         return;
     }
     std::uint64_t value = 0;
@@ -79,6 +78,8 @@ std::uint64_t TestCamera::readRegister(std::uint64_t address)
 {
     if (address == Registers::openCameras)
         return openCameras;
+    if (address == Registers::overlaps)
+        return m_overlaps;
     if (address == Registers::gate) {
         m_status = DEVICE_ACCESS_STATUS_CUSTOM_ID;
         m_gate.wait();
@@ -87,6 +88,16 @@ std::uint64_t TestCamera::readRegister(std::uint64_t address)
     std::uint64_t value = 0;
     return m_images.read(address, value) ? value
                                          : throw GenTlError(GC_ERR_INVALID_ADDRESS, "There is no register.");
+}
+
+void TestCamera::copyMemory(std::uint64_t address, std::size_t size, const std::function<void(char *)> &copy)
+{
+    requireMemory(address, size);
+    if (m_accesses.fetch_add(1) != 0)
+        ++m_overlaps;
+    std::this_thread::yield();
+    copy(m_memory.data() + address);
+    m_accesses.fetch_sub(1);
 }
 
 void TestCamera::requireMemory(std::uint64_t address, std::size_t size) const

@@ -39,6 +39,7 @@ public:
 
 private:
     std::uint64_t readRegister(std::uint64_t address);
+    void copyMemory(std::uint64_t address, std::size_t size, const std::function<void(char *)> &copy);
     void requireMemory(std::uint64_t address, std::size_t size) const;
 
     TestGate &m_gate;
@@ -46,6 +47,8 @@ private:
     std::atomic<GenTL::DEVICE_ACCESS_STATUS> m_status;
     std::function<void()> m_lossHandler;
     std::array<char, TestCameraRegisters::memorySize> m_memory{};
+    std::atomic<int> m_accesses{0}; // Accesses to the memory that are running.
+    std::atomic<std::uint64_t> m_overlaps{0};
     GenTL::GC_ERROR m_failure = GenTL::GC_ERR_SUCCESS;
     TestImages m_images;
 };

@@ -25,13 +25,16 @@ constexpr std::uint64_t startFailure = 0x2018; ///< Code with which the start fa
 
 // These registers set what is reported for the next images.
 constexpr std::uint64_t width = 0x2020; ///< 0 is no picture.
-constexpr std::uint64_t chunks = 0x2028; ///< Number of chunks of 4 bytes.
+constexpr std::uint64_t chunks = 0x2028; ///< Number of chunks, one after another.
 constexpr std::uint64_t chunkOffset = 0x2030; ///< Of the first chunk.
+constexpr std::uint64_t chunkLength = 0x2048;
 constexpr std::uint64_t isIncomplete = 0x2038;
 constexpr std::uint64_t dataSize = 0x2040;
 
 // These registers can only be read.
 constexpr std::uint64_t queuedNotices = 0x3000; ///< Calls of ImageSource::bufferQueued().
+constexpr std::uint64_t isStarted = 0x3018; ///< Whether the image source is started.
+constexpr std::uint64_t overlaps = 0x3020; ///< Accesses to the memory that began during another one.
 constexpr std::uint64_t openCameras = 0x3008; ///< Cameras of the producer that exist.
 /// The read blocks until the device list is updated. Meanwhile, the access status is
 /// DEVICE_ACCESS_STATUS_CUSTOM_ID.

@@ -10,17 +10,22 @@ namespace Registers = TestCameraRegisters;
 TestImages::TestImages()
     : m_settings{{Registers::payloadSize, 64}, {Registers::minBuffers, 1}, {Registers::maxChunks, 0},
         {Registers::startFailure, 0}, {Registers::width, 4}, {Registers::chunks, 0},
-        {Registers::chunkOffset, 8}, {Registers::isIncomplete, 0}, {Registers::dataSize, 8}}
+        {Registers::chunkOffset, 8}, {Registers::chunkLength, 4}, {Registers::isIncomplete, 0},
+        {Registers::dataSize, 8}}
 { }
 
 bool TestImages::read(std::uint64_t address, std::uint64_t &value) const
 {
     const std::lock_guard lock(m_mutex);
     const auto found = m_settings.find(address);
-    const bool isNotices = address == Registers::queuedNotices;
-    if (found == m_settings.end() && !isNotices)
+    if (address == Registers::queuedNotices)
+        value = m_notices;
+    else if (address == Registers::isStarted)
+        value = m_queue ? 1 : 0;
+    else if (found != m_settings.end())
+        value = found->second;
+    else
         return false;
-    value = isNotices ? m_notices : found->second;
     return true;
 }
 
@@ -119,9 +124,10 @@ FilledImage TestImages::nextImage()
     image.frameId = ++m_frames;
     image.timestamp = 1500 * m_frames;
     image.isIncomplete = m_settings[Registers::isIncomplete] != 0;
+    const std::uint64_t length = m_settings[Registers::chunkLength];
     for (std::uint64_t i = 0; i < m_settings[Registers::chunks]; ++i)
         image.chunks.push_back(
-            {100 + i, static_cast<std::ptrdiff_t>(m_settings[Registers::chunkOffset] + 4 * i), 4});
+            {100 + i, static_cast<std::ptrdiff_t>(m_settings[Registers::chunkOffset] + length * i), length});
     return image;
 }
 

@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-/// The features of a module, which libaravis evaluates over the module's port.
-class ModuleNodes
+/// The features of a module or a camera, which libaravis evaluates over the port.
+class PortNodes
 {
 public:
     /// Reads the register description. A failure is a test failure.
-    ModuleNodes(const LoadedProducer &producer, GenTL::PORT_HANDLE port);
-    ~ModuleNodes();
+    PortNodes(const LoadedProducer &producer, GenTL::PORT_HANDLE port);
+    ~PortNodes();
 
     /// Returns a line for each feature below "Root": category, name, access and value.
     std::vector<std::string> dump() const;

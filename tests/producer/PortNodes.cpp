@@ -1,6 +1,6 @@
 #include <arv.h>
 
-#include "tests/producer/ModuleNodes.h"
+#include "tests/producer/PortNodes.h"
 #include "tests/producer/StrictRead.h"
 
 #include <gtest/gtest.h>
@@ -55,6 +55,19 @@ void port_device_class_init(PortDeviceClass *type)
     ARV_DEVICE_CLASS(type)->write_memory = writeMemory;
 }
 
+/// Returns the first file of a zip archive.
+std::string unzipped(const std::string &archive)
+{
+    ArvZip *const zip = arv_zip_new(archive.data(), archive.size());
+    auto *const first = static_cast<ArvZipFile *>(arv_zip_get_file_list(zip)->data);
+    std::size_t size = 0;
+    char *const content = static_cast<char *>(arv_zip_get_file(zip, arv_zip_file_get_name(first), &size));
+    std::string xml(content, size);
+    g_free(content);
+    arv_zip_free(zip);
+    return xml;
+}
+
 /// Fetches the register description from the place that the first URL of the port names.
 std::string readXml(const LoadedProducer &producer, PORT_HANDLE port)
 {
@@ -66,10 +79,10 @@ std::string readXml(const LoadedProducer &producer, PORT_HANDLE port)
     EXPECT_EQ(producer.GCReadPort(port, readLong(info(URL_INFO_FILE_REGISTER_ADDRESS), INFO_DATATYPE_UINT64),
                   xml.data(), &size),
         GC_ERR_SUCCESS);
-    return xml;
+    return xml.rfind("PK", 0) == 0 ? unzipped(xml) : xml;
 }
 
-/// Ends with a test failure if an access has failed.
+/// Returns whether there is no error, and frees the error.
 bool succeeds(GError *error)
 {
     if (error)
@@ -89,7 +102,7 @@ std::vector<std::string> featuresOf(ArvGc *tree, const std::string &category)
 
 } // namespace
 
-struct ModuleNodes::Tree
+struct PortNodes::Tree
 {
     ArvDevice *device;
     ArvGc *nodes;
@@ -100,7 +113,7 @@ struct ModuleNodes::Tree
     }
 };
 
-ModuleNodes::ModuleNodes(const LoadedProducer &producer, PORT_HANDLE port)
+PortNodes::PortNodes(const LoadedProducer &producer, PORT_HANDLE port)
     : m_xml(readXml(producer, port)), m_tree(std::make_unique<Tree>())
 {
     auto *const device = static_cast<PortDevice *>(g_object_new(port_device_get_type(), nullptr));
@@ -112,13 +125,13 @@ ModuleNodes::ModuleNodes(const LoadedProducer &producer, PORT_HANDLE port)
     arv_gc_set_access_check_policy(m_tree->nodes, ARV_ACCESS_CHECK_POLICY_ENABLE);
 }
 
-ModuleNodes::~ModuleNodes()
+PortNodes::~PortNodes()
 {
     g_object_unref(m_tree->nodes);
     g_object_unref(m_tree->device);
 }
 
-std::vector<std::string> ModuleNodes::dump() const
+std::vector<std::string> PortNodes::dump() const
 {
     std::vector<std::string> lines;
     for (const std::string &category : featuresOf(m_tree->nodes, "Root"))
@@ -133,21 +146,21 @@ std::vector<std::string> ModuleNodes::dump() const
     return lines;
 }
 
-bool ModuleNodes::write(const std::string &name, const std::string &value) const
+bool PortNodes::write(const std::string &name, const std::string &value) const
 {
     GError *error = nullptr;
     arv_gc_feature_node_set_value_from_string(m_tree->feature(name), value.c_str(), &error);
     return succeeds(error);
 }
 
-bool ModuleNodes::execute(const std::string &name) const
+bool PortNodes::execute(const std::string &name) const
 {
     GError *error = nullptr;
     arv_gc_command_execute(ARV_GC_COMMAND(m_tree->feature(name)), &error);
     return succeeds(error);
 }
 
-std::optional<std::string> ModuleNodes::read(const std::string &name) const
+std::optional<std::string> PortNodes::read(const std::string &name) const
 {
     ArvGcFeatureNode *const feature = m_tree->feature(name);
     if (!arv_gc_feature_node_is_available(feature, nullptr))
