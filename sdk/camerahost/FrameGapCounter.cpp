@@ -3,7 +3,7 @@
 namespace {
 
 constexpr std::uint64_t maxSixteenBitId = 65535;
-constexpr std::uint64_t maxGap = 1000000; // A larger gap is certainly no gap, but a wrong ID.
+constexpr std::uint64_t maxGap = 1000000; // A larger gap means that an ID is wrong.
 constexpr std::uint64_t maxGapAtWrap = 1000; // A larger one is more likely a camera that counts anew.
 
 } // namespace

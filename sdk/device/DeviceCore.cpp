@@ -62,10 +62,12 @@ void DeviceCore::setDirectory(std::shared_ptr<const NodeDirectory> directory)
 
 // ---- Requests ----------------------------------------------------------------------------------------
 
-std::variant<DeviceGate::Turn, CvxResult> DeviceCore::takeTurn()
+std::variant<DeviceGate::Turn, CvxResult> DeviceCore::takeTurn(TimePoint deadline)
 {
-    if (auto turn = gate.takeTurn(SteadyClock::now() + options.requestTimeout))
-        return std::move(*turn);
+    do {
+        if (auto turn = gate.takeTurn(deadline))
+            return std::move(*turn);
+    } while (gate.state() == DeviceState::Open && SteadyClock::now() < deadline); // Opened again meanwhile.
     return refusal();
 }
 
@@ -111,14 +113,14 @@ CvxResult DeviceCore::lostResult() const
 std::variant<std::shared_ptr<StreamCore>, CvxResult> DeviceCore::startStream(
     unsigned buffers, StreamPolicy policy)
 {
-    auto turn = takeTurn();
+    const TimePoint deadline = SteadyClock::now() + options.startTimeout;
+    auto turn = takeTurn(deadline);
     if (const auto *refused = std::get_if<CvxResult>(&turn))
         return *refused;
     const auto &taken = std::get<DeviceGate::Turn>(turn);
     if (gate.stream())
         return results.result(CvxErrorAlreadyStarted, "The stream is running already.");
-    const auto started
-        = ::startStream(taken.host(), buffers, policy, SteadyClock::now() + options.startTimeout);
+    const auto started = ::startStream(taken.host(), buffers, policy, deadline);
     if (const auto *failed = std::get_if<RequestFailedReply>(&started))
         return failure(taken, *failed);
     if (const auto *breakdown = std::get_if<Breakdown>(&started))
@@ -138,8 +140,12 @@ std::variant<std::shared_ptr<StreamCore>, CvxResult> DeviceCore::startStream(
 CvxResult DeviceCore::stopStream(const std::shared_ptr<StreamCore> &stream)
 {
     const TimePoint deadline = SteadyClock::now() + options.stopTimeout;
-    const auto turn = gate.takeTurn(deadline);
+    auto turn = gate.takeTurn(deadline);
     const bool wasRunning = gate.removeStream(stream);
+    if (!turn && wasRunning) { // The device may have been opened again with the stream meanwhile.
+        if (auto next = gate.takeTurn(deadline))
+            turn.emplace(std::move(*next));
+    }
     CvxResult result;
     if (turn && wasRunning) {
         auto answer = ask<StreamStoppedReply>(*turn, StopStreamRequest(), deadline);

@@ -51,7 +51,7 @@ public:
     bool isForked() const;
 
     /// Waits for the right to send requests. Returns why the device cannot be used instead.
-    std::variant<DeviceGate::Turn, CvxCPP::CvxResult> takeTurn();
+    std::variant<DeviceGate::Turn, CvxCPP::CvxResult> takeTurn(TimePoint deadline);
 
     /// Returns why the device cannot be used now.
     CvxCPP::CvxResult refusal() const;

@@ -213,7 +213,9 @@ void DeviceThread::handleLoss()
     m_core.gate.waitIdle(SteadyClock::now() + m_core.options.requestTimeout);
     if (const auto stream = m_core.gate.stream())
         stream->lost(m_hostNumber, reason);
-    endHost(SteadyClock::now());
+    // A host that works ends by itself when the connection ends, so that its camera does not stay locked.
+    const bool isHanging = m_core.gate.loss().kind == Breakdown::Kind::Timeout;
+    endHost(SteadyClock::now() + (isHanging ? Milliseconds(0) : exitTime));
     m_core.notifier.stateChanged(DeviceState::Lost, m_core.results.text(reason));
 }
 
@@ -261,7 +263,9 @@ void DeviceThread::reopeningFailed(const std::string &reason)
 {
     if (!m_core.gate.reopeningFailed(reason))
         return; // The device was closed.
-    endHost(SteadyClock::now());
+    if (const auto host = m_core.gate.host())
+        host->abort();
+    endHost(SteadyClock::now() + exitTime);
     m_core.notifier.stateChanged(DeviceState::Lost, m_core.results.text(reason));
 }
 

@@ -1,5 +1,7 @@
 #include "sdk/device/HostChannel.h"
 
+#include "sdk/protocol/DiscoveryMessages.h"
+
 #include <algorithm>
 #include <poll.h>
 #include <sys/socket.h>
@@ -127,6 +129,9 @@ HostChannel::Received HostChannel::check(const std::string &line)
     }
     if (auto lost = message->content<DeviceLostNotice>())
         return Breakdown{Breakdown::Kind::CameraLost, std::move(lost->reason)};
+    if (const auto failed = message->content<ProducerFailedReply>()) // From a thread of the producer.
+        return Breakdown{Breakdown::Kind::CameraLost,
+            "The process of the camera ended: " + failed->problem.call + ' ' + failed->problem.text + '.'};
     return unreadable();
 }
 

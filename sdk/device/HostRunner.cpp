@@ -2,17 +2,20 @@
 
 #include "sdk/process/ExitReason.h"
 
+#include <algorithm>
 #include <poll.h>
 
 HostProcess::StartResult HostRunner::start(const std::string &producerPath)
 {
     m_exitSentence.reset();
-    m_process.emplace();
+    reapKilled();
+    m_process = std::make_unique<HostProcess>();
     return m_process->start(m_program, producerPath);
 }
 
 std::optional<std::string> HostRunner::exitSentence()
 {
+    reapKilled();
     if (!m_process || !m_process->isStarted())
         return m_exitSentence;
     if (const auto status = m_process->tryReap())
@@ -38,5 +41,15 @@ void HostRunner::kill()
         return;
     m_process->kill();
     awaitExit(SteadyClock::now() + killTimeout);
-    m_process.reset(); // A process that is stuck in the kernel is left to itself.
+    if (m_process->isStarted()) // The kernel needs longer to end the process.
+        m_killed.push_back(std::move(m_process));
+    m_process.reset();
+    reapKilled();
+}
+
+void HostRunner::reapKilled()
+{
+    m_killed.erase(std::remove_if(m_killed.begin(), m_killed.end(),
+                       [](const auto &process) { return process->tryReap().has_value(); }),
+        m_killed.end());
 }

@@ -3,8 +3,10 @@
 #include "sdk/process/HostProcess.h"
 #include "sdk/process/Timing.h"
 
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// Runs the host of a device, one process after the other. Use a runner on one thread only, which must
 /// outlive the hosts.
@@ -27,7 +29,10 @@ public:
     static constexpr Milliseconds killTimeout{200};
 
 private:
+    void reapKilled();
+
     const std::string m_program;
-    std::optional<HostProcess> m_process; // Nothing if there is no host.
+    std::unique_ptr<HostProcess> m_process; // Null if there is no host.
+    std::vector<std::unique_ptr<HostProcess>> m_killed; // Hosts that were killed and have not ended yet.
     std::optional<std::string> m_exitSentence; // How the last host has ended.
 };

@@ -22,10 +22,11 @@ constexpr char hasNoValue[] = "has no value.";
 template <typename Reply, typename Request>
 std::variant<Reply, CvxResult> NodeRequests::ask(const Request &request)
 {
-    const auto turn = m_core.takeTurn();
+    const TimePoint end = deadline();
+    const auto turn = m_core.takeTurn(end);
     if (const auto *refused = std::get_if<CvxResult>(&turn))
         return *refused;
-    return m_core.ask<Reply>(std::get<DeviceGate::Turn>(turn), request, deadline());
+    return m_core.ask<Reply>(std::get<DeviceGate::Turn>(turn), request, end);
 }
 
 CvxResult NodeRequests::error(CvxError code, const std::string &name, const char *reason) const
@@ -43,7 +44,11 @@ CvxResult NodeRequests::readStates(const std::vector<std::string> &names, std::v
     auto answer = ask<NodeStatesReply>(ReadStatesRequest{names});
     if (auto *failed = std::get_if<CvxResult>(&answer))
         return std::move(*failed);
-    states = std::get<NodeStatesReply>(std::move(answer)).states;
+    auto &found = std::get<NodeStatesReply>(answer).states;
+    // A camera that was opened again may have other features.
+    if (found.size() != names.size())
+        return error(CvxErrorNotFound, names[std::min(found.size(), names.size() - 1)], notFound);
+    states = std::move(found);
     return {};
 }
 
@@ -71,13 +76,14 @@ CvxResult NodeRequests::write(const std::string &name, const NodeValue &value)
     // A request without a value would execute a command.
     if (!hasValue(*node) || std::holds_alternative<std::monostate>(value))
         return error(CvxErrorWrongType, name, "cannot be written: there is no value.");
-    const auto turn = m_core.takeTurn();
+    const TimePoint end = deadline();
+    const auto turn = m_core.takeTurn(end);
     if (const auto *refused = std::get_if<CvxResult>(&turn))
         return *refused;
     const auto &taken = std::get<DeviceGate::Turn>(turn);
     const auto selectors = directory->selectorsOf(*node);
-    learnSelectors(taken, selectors);
-    auto answer = m_core.ask<NodeValueReply>(taken, WriteValueRequest{name, value}, deadline());
+    learnSelectors(taken, selectors, end);
+    auto answer = m_core.ask<NodeValueReply>(taken, WriteValueRequest{name, value}, end);
     if (auto *failed = std::get_if<CvxResult>(&answer))
         return std::move(*failed);
     m_core.journal.written(name, value, selectors, !node->selected.empty());
@@ -85,12 +91,13 @@ CvxResult NodeRequests::write(const std::string &name, const NodeValue &value)
 }
 
 /// Reads the selectors whose values the journal does not know yet.
-void NodeRequests::learnSelectors(const DeviceGate::Turn &turn, const std::vector<std::string> &selectors)
+void NodeRequests::learnSelectors(
+    const DeviceGate::Turn &turn, const std::vector<std::string> &selectors, TimePoint end)
 {
     for (const std::string &selector : selectors) {
         if (m_core.journal.knowsSelector(selector))
             continue;
-        const auto answer = m_core.ask<NodeValueReply>(turn, ReadValueRequest{selector}, deadline());
+        const auto answer = m_core.ask<NodeValueReply>(turn, ReadValueRequest{selector}, end);
         if (const auto *reply = std::get_if<NodeValueReply>(&answer))
             m_core.journal.selectorRead(selector, reply->value);
     }

@@ -22,7 +22,8 @@ public:
 
 private:
     CvxCPP::CvxResult error(CvxCPP::CvxError code, const std::string &name, const char *reason) const;
-    void learnSelectors(const DeviceGate::Turn &turn, const std::vector<std::string> &selectors);
+    void learnSelectors(
+        const DeviceGate::Turn &turn, const std::vector<std::string> &selectors, TimePoint end);
     TimePoint deadline() const { return SteadyClock::now() + m_core.options.requestTimeout; }
 
     template <typename Reply, typename Request>

@@ -18,7 +18,7 @@ public:
     virtual std::optional<CvxCPP::NodeValue> read(const std::string &name) = 0;
     /// Returns false if the camera refuses the value.
     virtual bool write(const std::string &name, const CvxCPP::NodeValue &value) = 0;
-    /// Returns true if the camera was lost, so that further calls are in vain.
+    /// Returns true if the camera was lost, so that further calls would fail too.
     virtual bool isLost() const = 0;
 };
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <sys/types.h>
 
-/// Starts, kills and reaps one CvxProducerHost. Start and reap the host on the same thread, which must
-/// outlive the host: the kernel kills the host when the thread that started it ends.
+/// Starts, kills and reaps one host program. Start and reap the host on the same thread, which must outlive
+/// the host: the kernel kills a producer host when the thread that started it ends.
 class HostProcess
 {
 public:

@@ -10,7 +10,7 @@
 
 // This file defines the messages between the library and a camera host. The library sends one request at a
 // time, and the host sends the reply that the request names, or a RequestFailedReply. Images do not travel in
-// messages; see StreamMemory.h.
+// messages; see StreamRing.h.
 
 /// Why a request failed. The library has one error code for each value.
 enum class DeviceFailure : std::uint8_t
@@ -200,7 +200,7 @@ struct NodesChangedNotice
 void to_json(nlohmann::json &json, const NodesChangedNotice &value);
 void from_json(const nlohmann::json &json, NodesChangedNotice &value);
 
-/// Reports that the camera is gone. Sent without a request; the host then waits to be closed or killed.
+/// Reports that the camera is gone. Sent without a request; the host then ends, or waits until it is closed.
 struct DeviceLostNotice
 {
     static constexpr const char *kind = "deviceLost";

@@ -16,7 +16,7 @@ struct ChunkPosition
 };
 
 /// What the host knows about the image in one buffer; see CvxCPP::ImageInfo. The library checks all values
-/// before it uses them, because a producer that writes to a wild address may have damaged them.
+/// before it uses them, because a faulty producer may have overwritten them.
 struct ImageRecord
 {
     static constexpr std::size_t maxChunks = 32;

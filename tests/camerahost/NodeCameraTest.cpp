@@ -33,15 +33,15 @@ void expectReadable(NodeMap &map, std::size_t minNodes)
 }
 
 /// The fake camera of libaravis, which is part of the library.
-class FakeCamera : public RegisterPort
+class EngineFakeCamera : public RegisterPort
 {
 public:
-    FakeCamera()
+    EngineFakeCamera()
     {
         arv_enable_interface("Fake");
         m_device = arv_open_device("Fake_1", nullptr);
     }
-    ~FakeCamera() override { g_clear_object(&m_device); }
+    ~EngineFakeCamera() override { g_clear_object(&m_device); }
 
     std::string description() const
     {
@@ -75,7 +75,7 @@ private:
 
 TEST(NodeCameraTest, fakeCameraOfAnotherProjectIsUnderstood)
 {
-    FakeCamera camera;
+    EngineFakeCamera camera;
     const auto created = NodeMap::create(camera, camera.description());
     ASSERT_TRUE(std::holds_alternative<std::unique_ptr<NodeMap>>(created));
     NodeMap &map = *std::get<std::unique_ptr<NodeMap>>(created);

@@ -21,6 +21,9 @@
 /// Errors: every function returns a CvxResult. A function that fails does not change its output parameters.
 /// No function throws, except that every function may throw std::bad_alloc.
 ///
+/// Times: if the process of the camera ends during a call, the call may take one second longer than the
+/// function says, because the library waits for the reason.
+///
 /// Threads: every function may be called from any thread at any time. Calls for one device are processed one
 /// after the other; WaitForImage() and the functions of Image do not wait for them.
 namespace CvxCPP {
@@ -45,6 +48,8 @@ enum class DeviceState : std::uint8_t
 /// The library calls this observer for changes of one device. All observers of a device are called on one
 /// thread of the library, one call at a time. No lock is held during a call. An observer may call every
 /// function of the device except Close(), which would wait for its own caller. Exceptions are ignored.
+/// Close(), RemoveObserver() and CvxSystem::Shutdown() wait for a running call, so an observer must not wait
+/// for a thread that calls one of them.
 class CVXCPP_API IDeviceObserver
 {
 public:
