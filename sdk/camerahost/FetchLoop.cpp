@@ -11,6 +11,12 @@ constexpr std::chrono::milliseconds pauseTime(10);
 constexpr std::chrono::milliseconds updateInterval(100);
 constexpr auto relaxed = std::memory_order_relaxed;
 
+std::uint64_t toNanoseconds(std::chrono::steady_clock::time_point time)
+{
+    const std::chrono::nanoseconds sinceStart = time.time_since_epoch();
+    return static_cast<std::uint64_t>(sinceStart.count());
+}
+
 } // namespace
 
 FetchLoop::FetchLoop(DataStream &stream, AnnouncedBuffers &buffers, Requeue &requeue, StreamRing &ring,
@@ -68,6 +74,7 @@ EventAction FetchLoop::waitForEvent(GenTL::BUFFER_HANDLE &buffer)
     alignas(GenTL::BUFFER_HANDLE) std::array<std::uint8_t, 4096> data;
     std::size_t size = data.size(); // More than any event needs, because some producers return more data.
     const GenTL::GC_ERROR code = m_stream.waitForEvent(data.data(), size, waitSlice);
+    m_receivedAt = Clock::now();
     const EventAction action = m_rule.next(code, size);
     if (action == EventAction::TakeBuffer)
         std::memcpy(&buffer, data.data(), sizeof(buffer));
@@ -107,6 +114,7 @@ bool FetchLoop::deliver(GenTL::BUFFER_HANDLE handle)
     if (!buffer)
         return false;
     ImageRecord &record = m_ring.record(*buffer);
+    record.receivedAt = toNanoseconds(m_receivedAt);
     const auto frameId = m_reader.read(*buffer, record);
     StreamRing::Counters &counters = m_ring.counters;
     counters.delivered.fetch_add(1, relaxed);

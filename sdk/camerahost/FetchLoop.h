@@ -54,6 +54,7 @@ private:
     const bool m_onlyNewest;
     EventRule m_rule;
     FrameGapCounter m_gaps;
+    Clock::time_point m_receivedAt; // When EventGetData returned.
     Clock::time_point m_nextUpdate; // Of the underruns.
     std::uint64_t m_underrunsBefore = 0; // The producer counts since the stream was opened.
     std::atomic<bool> m_isStopping{false};

@@ -154,6 +154,26 @@ TEST(StreamPolicy, newestImageSkipsTheOlderOnesAndCountsThem)
     EXPECT_TRUE(host.stopStream() && host.close());
 }
 
+TEST(StreamPolicy, timeOfReceptionIsOnTheMonotonicClock)
+{
+    const auto now = [] {
+        const std::chrono::nanoseconds time = std::chrono::steady_clock::now().time_since_epoch();
+        return static_cast<std::uint64_t>(time.count());
+    };
+    QuirkProducer producer;
+    HostClient host(producer.ctiPath());
+    ASSERT_TRUE(host.open() && host.prepareStream()) << host.failure.text;
+    const std::uint64_t before = now();
+    ASSERT_TRUE(host.startStream()) << host.failure.text;
+    const auto first = host.nextImage();
+    const auto second = host.nextImage();
+    ASSERT_TRUE(first && second);
+    EXPECT_LT(before, first->record.receivedAt);
+    EXPECT_LT(first->record.receivedAt, second->record.receivedAt);
+    EXPECT_LT(second->record.receivedAt, now());
+    EXPECT_TRUE(host.stopStream() && host.close());
+}
+
 TEST(StreamPolicy, everyImageStaysUntilTheProgramTakesIt)
 {
     QuirkProducer producer("images 60\n");
