@@ -130,6 +130,18 @@ TEST_F(HostServer, cameraIsLostIfAnotherProgramTakesItsControl)
     EXPECT_TRUE(receive<DeviceLostNotice>());
 }
 
+TEST(HostAccess, watchingNeverTakesControl)
+{
+    for (const char *script : {"IFOpenDevice:READONLY error -1003\n", "IFOpenDevice:READONLY error -1009\n"}) {
+        QuirkProducer producer(script);
+        HostClient host(producer.ctiPath());
+        EXPECT_FALSE(host.open(CvxAccessWatch));
+        EXPECT_EQ(host.failure.failure, DeviceFailure::NotAvailable) << host.failure.text;
+        EXPECT_NE(host.failure.text.find("watching only"), std::string::npos) << host.failure.text;
+        EXPECT_EQ(producer.count("IFOpenDevice"), 1U);
+    }
+}
+
 TEST(HostProgram, refusesToRunWithoutTheLibrary)
 {
     const int status = std::system(CVX_CAMERA_HOST " /nothing.cti 3<&- 2>/dev/null");
