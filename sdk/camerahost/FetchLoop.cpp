@@ -9,6 +9,7 @@ namespace {
 constexpr std::uint64_t waitSlice = 100; // Milliseconds; some producers ignore a wish to end a longer wait.
 constexpr std::chrono::milliseconds pauseTime(10);
 constexpr std::chrono::milliseconds updateInterval(100);
+constexpr std::chrono::seconds maxFailureTime(3);
 constexpr auto relaxed = std::memory_order_relaxed;
 
 std::uint64_t toNanoseconds(std::chrono::steady_clock::time_point time)
@@ -46,6 +47,8 @@ bool FetchLoop::stop(std::chrono::milliseconds timeout)
 
 FetchLoop::Health FetchLoop::takeHealth()
 {
+    if (m_calls.look() >= Requeue::maxLooks || m_requeue.isHanging())
+        return Health::Broken;
     Health health = Health::Suspicious;
     m_health.compare_exchange_strong(health, Health::Good);
     return m_requeue.takeFailure() && health == Health::Good ? Health::Suspicious : health;
@@ -54,6 +57,7 @@ FetchLoop::Health FetchLoop::takeHealth()
 void FetchLoop::run()
 {
     while (!m_isStopping) {
+        const CallWatch::Call call(m_calls);
         GenTL::BUFFER_HANDLE buffer = nullptr;
         const EventAction action = waitForEvent(buffer);
         if (m_isStopping && action != EventAction::TakeBuffer)
@@ -84,6 +88,8 @@ EventAction FetchLoop::waitForEvent(GenTL::BUFFER_HANDLE &buffer)
 /// Returns false if the stream is broken.
 bool FetchLoop::handle(EventAction action, GenTL::BUFFER_HANDLE buffer)
 {
+    if (action != EventAction::PauseAndCheck)
+        m_failingSince.reset();
     switch (action) {
     case EventAction::TakeBuffer:
         if (!deliver(buffer))
@@ -94,7 +100,8 @@ bool FetchLoop::handle(EventAction action, GenTL::BUFFER_HANDLE buffer)
     case EventAction::PauseAndCheck:
         m_health = Health::Suspicious;
         pause();
-        return true;
+        m_failingSince = m_failingSince.value_or(m_receivedAt);
+        return m_receivedAt - *m_failingSince < maxFailureTime;
     case EventAction::Pause:
         pause();
         return true;
