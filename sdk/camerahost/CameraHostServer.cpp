@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <poll.h>
 #include <utility>
 #include <variant>
@@ -57,7 +58,12 @@ void CameraHostServer::watchCamera()
 {
     if (!m_camera.isOpen() || m_isLost || Clock::now() < m_nextTick)
         return;
-    if (const auto reason = m_camera.tick(Clock::now()))
+    std::optional<std::string> reason;
+    {
+        const CallWatch::Call call(m_watch.calls());
+        reason = m_camera.tick(Clock::now());
+    }
+    if (reason)
         reportLoss(*reason);
     m_nextTick = Clock::now() + tickInterval;
 }

@@ -119,14 +119,17 @@ void CameraStream::stop(Milliseconds timeout)
         attempt(timeout, [this] { release(); });
 }
 
-/// Stops the camera, then the stream, then the threads.
+/// Stops the camera, then the stream, then the threads. Leaves the rest out once a call hangs, because each
+/// further call could hang too and take the time that is needed to close the device.
 void CameraStream::stopRun(Milliseconds timeout)
 {
     if (m_run->isAcquiring) {
         attempt(timeout, [this] { m_control.stop(); });
-        stopAcquisition(timeout);
+        if (!m_isStuck)
+            stopAcquisition(timeout);
     }
-    endThreads(timeout);
+    if (!m_isStuck)
+        endThreads(timeout);
 }
 
 void CameraStream::stopAcquisition(Milliseconds timeout)
@@ -147,10 +150,9 @@ void CameraStream::endThreads(Milliseconds timeout)
     bool hasEnded = m_run->fetch.stop(timeout);
     if (!hasEnded) { // The end of the registration ends the wait too.
         attempt(timeout, [this] { m_stream.unregisterEvent(); });
-        hasEnded = m_run->fetch.stop(timeout);
+        hasEnded = !m_isStuck && m_run->fetch.stop(timeout);
     }
-    hasEnded = m_run->requeue.stop(timeout) && hasEnded;
-    m_isStuck = m_isStuck || !hasEnded;
+    m_isStuck = !hasEnded || !m_run->requeue.stop(timeout);
 }
 
 /// Takes the buffers back from the producer and closes the stream.

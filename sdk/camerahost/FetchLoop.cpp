@@ -9,7 +9,14 @@ namespace {
 constexpr std::uint64_t waitSlice = 100; // Milliseconds; some producers ignore a wish to end a longer wait.
 constexpr std::chrono::milliseconds pauseTime(10);
 constexpr std::chrono::milliseconds updateInterval(100);
+constexpr std::chrono::seconds maxFailureTime(3);
 constexpr auto relaxed = std::memory_order_relaxed;
+
+std::uint64_t toNanoseconds(std::chrono::steady_clock::time_point time)
+{
+    const std::chrono::nanoseconds sinceStart = time.time_since_epoch();
+    return static_cast<std::uint64_t>(sinceStart.count());
+}
 
 } // namespace
 
@@ -40,6 +47,8 @@ bool FetchLoop::stop(std::chrono::milliseconds timeout)
 
 FetchLoop::Health FetchLoop::takeHealth()
 {
+    if (m_calls.look() >= Requeue::maxLooks || m_requeue.isHanging())
+        return Health::Broken;
     Health health = Health::Suspicious;
     m_health.compare_exchange_strong(health, Health::Good);
     return m_requeue.takeFailure() && health == Health::Good ? Health::Suspicious : health;
@@ -48,6 +57,7 @@ FetchLoop::Health FetchLoop::takeHealth()
 void FetchLoop::run()
 {
     while (!m_isStopping) {
+        const CallWatch::Call call(m_calls);
         GenTL::BUFFER_HANDLE buffer = nullptr;
         const EventAction action = waitForEvent(buffer);
         if (m_isStopping && action != EventAction::TakeBuffer)
@@ -68,6 +78,7 @@ EventAction FetchLoop::waitForEvent(GenTL::BUFFER_HANDLE &buffer)
     alignas(GenTL::BUFFER_HANDLE) std::array<std::uint8_t, 4096> data;
     std::size_t size = data.size(); // More than any event needs, because some producers return more data.
     const GenTL::GC_ERROR code = m_stream.waitForEvent(data.data(), size, waitSlice);
+    m_receivedAt = Clock::now();
     const EventAction action = m_rule.next(code, size);
     if (action == EventAction::TakeBuffer)
         std::memcpy(&buffer, data.data(), sizeof(buffer));
@@ -77,6 +88,8 @@ EventAction FetchLoop::waitForEvent(GenTL::BUFFER_HANDLE &buffer)
 /// Returns false if the stream is broken.
 bool FetchLoop::handle(EventAction action, GenTL::BUFFER_HANDLE buffer)
 {
+    if (action != EventAction::PauseAndCheck)
+        m_failingSince.reset();
     switch (action) {
     case EventAction::TakeBuffer:
         if (!deliver(buffer))
@@ -87,7 +100,8 @@ bool FetchLoop::handle(EventAction action, GenTL::BUFFER_HANDLE buffer)
     case EventAction::PauseAndCheck:
         m_health = Health::Suspicious;
         pause();
-        return true;
+        m_failingSince = m_failingSince.value_or(m_receivedAt);
+        return m_receivedAt - *m_failingSince < maxFailureTime;
     case EventAction::Pause:
         pause();
         return true;
@@ -107,6 +121,7 @@ bool FetchLoop::deliver(GenTL::BUFFER_HANDLE handle)
     if (!buffer)
         return false;
     ImageRecord &record = m_ring.record(*buffer);
+    record.receivedAt = toNanoseconds(m_receivedAt);
     const auto frameId = m_reader.read(*buffer, record);
     StreamRing::Counters &counters = m_ring.counters;
     counters.delivered.fetch_add(1, relaxed);

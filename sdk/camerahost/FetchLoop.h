@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/camerahost/CallWatch.h"
 #include "sdk/camerahost/DataStream.h"
 #include "sdk/camerahost/EventRule.h"
 #include "sdk/camerahost/FrameGapCounter.h"
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 /// The thread that fetches the images of one stream: waits for filled buffers, describes each image, and
 /// hands it over to the program.
@@ -21,7 +23,7 @@ public:
     {
         Good,
         Suspicious, ///< The camera may be lost.
-        Broken ///< The thread has ended, because the producer cannot go on.
+        Broken ///< The producer cannot go on, or hangs.
     };
 
     FetchLoop(DataStream &stream, AnnouncedBuffers &buffers, Requeue &requeue, StreamRing &ring,
@@ -32,7 +34,8 @@ public:
     /// Ends the thread. Returns false if it still runs after `timeout`, because the producer does not return.
     bool stop(std::chrono::milliseconds timeout);
 
-    /// Returns whether the stream works; a suspicion is reported once.
+    /// Returns whether the stream works; a suspicion is reported once. Call it five times per second, because
+    /// it counts how often a call of the producer was running.
     Health takeHealth();
 
 private:
@@ -54,8 +57,11 @@ private:
     const bool m_onlyNewest;
     EventRule m_rule;
     FrameGapCounter m_gaps;
+    Clock::time_point m_receivedAt; // When EventGetData returned.
+    std::optional<Clock::time_point> m_failingSince; // While the producer reports nothing but failures.
     Clock::time_point m_nextUpdate; // Of the underruns.
     std::uint64_t m_underrunsBefore = 0; // The producer counts since the stream was opened.
+    CallWatch m_calls;
     std::atomic<bool> m_isStopping{false};
     std::atomic<Health> m_health{Health::Good};
     std::unique_ptr<Worker> m_worker;

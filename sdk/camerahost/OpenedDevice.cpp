@@ -17,8 +17,8 @@ constexpr std::uint64_t secondTimeout = 2000; // If the device was not found in 
 std::vector<GenTL::DEVICE_ACCESS_FLAGS> flagsFor(std::uint32_t access)
 {
     switch (access) {
-    case CvxCPP::CvxAccessWatch:
-        return {GenTL::DEVICE_ACCESS_READONLY, GenTL::DEVICE_ACCESS_CONTROL, GenTL::DEVICE_ACCESS_EXCLUSIVE};
+    case CvxCPP::CvxAccessWatch: // Anything else would take the control from the program that has it.
+        return {GenTL::DEVICE_ACCESS_READONLY};
     case CvxCPP::CvxAccessExclusive: // Anything else would break the promise that nobody else can open it.
         return {GenTL::DEVICE_ACCESS_EXCLUSIVE};
     default:
@@ -48,9 +48,7 @@ std::optional<OpenedDevice::Failure> OpenedDevice::open(
         return Failure{DeviceFailure::Device, describe(*problem)};
     if (const auto problem = openInterface(request.interfaceId))
         return toFailure(*problem);
-    if (const auto problem = openDevice(request))
-        return toFailure(*problem);
-    return std::nullopt;
+    return openDevice(request);
 }
 
 std::optional<Problem> OpenedDevice::openProducer(const std::string &producerFile)
@@ -87,7 +85,7 @@ std::optional<Problem> OpenedDevice::openInterface(const std::string &id)
     return problem;
 }
 
-std::optional<Problem> OpenedDevice::openDevice(const OpenDeviceRequest &request)
+std::optional<OpenedDevice::Failure> OpenedDevice::openDevice(const OpenDeviceRequest &request)
 {
     updateDevices(firstTimeout);
     bool isUpdated = false;
@@ -101,7 +99,12 @@ std::optional<Problem> OpenedDevice::openDevice(const OpenDeviceRequest &request
         if (!problem || !isFlagUnknown(*problem))
             break;
     }
-    return problem ? std::move(problem) : findPort();
+    if (problem && isFlagUnknown(*problem) && request.access == CvxCPP::CvxAccessWatch)
+        return Failure{DeviceFailure::NotAvailable,
+            "The producer cannot open a camera for watching only. " + describe(*problem)};
+    if (!problem)
+        problem = findPort();
+    return problem ? std::optional(toFailure(*problem)) : std::nullopt;
 }
 
 std::optional<Problem> OpenedDevice::openWith(GenTL::DEVICE_ACCESS_FLAGS flags, const std::string &id)

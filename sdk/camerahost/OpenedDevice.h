@@ -36,7 +36,7 @@ public:
 private:
     std::optional<Problem> openProducer(const std::string &producerFile);
     std::optional<Problem> openInterface(const std::string &id);
-    std::optional<Problem> openDevice(const OpenDeviceRequest &request);
+    std::optional<Failure> openDevice(const OpenDeviceRequest &request);
     std::optional<Problem> openWith(GenTL::DEVICE_ACCESS_FLAGS flags, const std::string &id);
     std::optional<Problem> findPort();
     void updateInterfaces(std::uint64_t timeout);

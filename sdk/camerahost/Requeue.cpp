@@ -27,6 +27,7 @@ bool Requeue::stop(std::chrono::milliseconds timeout)
 void Requeue::run()
 {
     while (waitUntilShort()) {
+        const CallWatch::Call call(m_calls);
         m_ring.waitForRelease(waitSlice);
         queueReleased();
         if (m_hasFailed)

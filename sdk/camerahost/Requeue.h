@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sdk/camerahost/AnnouncedBuffers.h"
+#include "sdk/camerahost/CallWatch.h"
 #include "sdk/camerahost/Worker.h"
 #include "sdk/protocol/StreamRing.h"
 
@@ -29,6 +30,12 @@ public:
     /// Queues one buffer, which then counts as released if the producer does not accept it.
     void queue(std::uint32_t buffer);
 
+    /// Returns true if the thread hangs in a call of the producer. Call it five times per second.
+    bool isHanging() { return m_calls.look() >= maxLooks; }
+
+    /// A call that is seen running so often in a row takes two seconds, and does not count as slow any more.
+    static constexpr int maxLooks = 10;
+
     /// Returns true if the producer has refused a buffer since the last call.
     bool takeFailure() { return m_hasFailed.exchange(false); }
 
@@ -41,6 +48,7 @@ private:
 
     AnnouncedBuffers &m_buffers;
     StreamRing &m_ring;
+    CallWatch m_calls;
     std::atomic<bool> m_hasFailed{false};
     std::atomic<bool> m_isStopping{false};
     std::mutex m_mutex; // Only for waiting; the state is atomic.

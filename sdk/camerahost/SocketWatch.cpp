@@ -1,10 +1,13 @@
 #include "sdk/camerahost/SocketWatch.h"
 
+#include <array>
 #include <chrono>
 #include <condition_variable>
 #include <cstdlib>
 #include <mutex>
 #include <poll.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -16,10 +19,29 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds abandonAfter(300); // The main thread is probably in a call that hangs.
 constexpr std::chrono::milliseconds exitAfter(900);
 
-void waitForEnd(int socket)
+constexpr int lookInterval = 1000; // Milliseconds, between two looks at the calls of the main thread.
+constexpr int maxLooks = 5; // A call that is seen running so often in a row hangs.
+
+/// Returns a descriptor that becomes readable when the library's process ends, or -1 if there is none.
+int openLibraryProcess(int socket)
 {
-    pollfd end{socket, POLLRDHUP, 0};
-    while (poll(&end, 1, -1) < 1) { } // Only a signal interrupts the wait.
+    ucred library{};
+    socklen_t size = sizeof library;
+    if (getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &library, &size) != 0)
+        return -1;
+    return static_cast<int>(syscall(SYS_pidfd_open, library.pid, 0));
+}
+
+/// Waits until the library closes the socket, its process ends, or the main thread hangs.
+void waitForEnd(int socket, CallWatch &calls)
+{
+    // A child of the library's process may have inherited the socket, which then stays open.
+    std::array<pollfd, 2> ends{{{socket, POLLRDHUP, 0}, {openLibraryProcess(socket), POLLIN, 0}}};
+    for (;;) {
+        const int ready = poll(ends.data(), ends.size(), lookInterval);
+        if (ready > 0 || (ready == 0 && calls.look() >= maxLooks))
+            return;
+    }
 }
 
 } // namespace
@@ -28,6 +50,7 @@ struct SocketWatch::State
 {
     int socket;
     std::function<void()> abandon;
+    CallWatch calls;
     std::mutex mutex;
     std::condition_variable change;
     bool isShuttingDown = false;
@@ -37,8 +60,9 @@ struct SocketWatch::State
 
 void SocketWatch::State::run()
 {
-    waitForEnd(socket);
+    waitForEnd(socket, calls);
     const auto end = Clock::now();
+    shutdown(socket, SHUT_RDWR); // The main thread sees the end even if another process has the socket.
     std::unique_lock lock(mutex);
     if (!change.wait_until(lock, end + abandonAfter, [this] { return isShuttingDown; }))
         std::thread(abandon).detach();
@@ -59,4 +83,9 @@ void SocketWatch::noteShutdown()
     const std::lock_guard lock(m_state->mutex);
     m_state->isShuttingDown = true;
     m_state->change.notify_one();
+}
+
+CallWatch &SocketWatch::calls()
+{
+    return m_state->calls;
 }

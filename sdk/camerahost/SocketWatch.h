@@ -1,10 +1,13 @@
 #pragma once
 
+#include "sdk/camerahost/CallWatch.h"
+
 #include <functional>
 
-/// Ends the process soon after the library has closed its end of the socket, even if a call of the producer
-/// hangs: a camera must not stay locked for the next program. The thread of a watch runs until the process
-/// ends.
+/// Ends the process soon after the library has closed its end of the socket or its process has ended, even if
+/// a call of the producer hangs: a camera must not stay locked for the next program. Also ends the process if
+/// the main thread hangs in a call for which the library does not wait. The thread of a watch runs until the
+/// process ends.
 class SocketWatch
 {
 public:
@@ -14,6 +17,9 @@ public:
 
     /// Notes that the main thread itself closes the camera.
     void noteShutdown();
+
+    /// Returns where the main thread notes calls for which the library does not wait.
+    CallWatch &calls();
 
 private:
     struct State;

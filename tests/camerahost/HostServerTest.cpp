@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 using namespace CvxCPP;
 using Strings = std::vector<std::string>;
@@ -130,6 +131,78 @@ TEST_F(HostServer, cameraIsLostIfAnotherProgramTakesItsControl)
     EXPECT_TRUE(receive<DeviceLostNotice>());
 }
 
+TEST(HostAccess, watchingNeverTakesControl)
+{
+    for (const char *script :
+        {"IFOpenDevice:READONLY error -1003\n", "IFOpenDevice:READONLY error -1009\n"}) {
+        QuirkProducer producer(script);
+        HostClient host(producer.ctiPath());
+        EXPECT_FALSE(host.open(CvxAccessWatch));
+        EXPECT_EQ(host.failure.failure, DeviceFailure::NotAvailable) << host.failure.text;
+        EXPECT_NE(host.failure.text.find("watching only"), std::string::npos) << host.failure.text;
+        EXPECT_EQ(producer.count("IFOpenDevice"), 1U);
+    }
+}
+
+TEST_F(HostServer, hangingCheckOfTheCameraEndsTheHost)
+{
+    open();
+    producer.setScript("GCReadPort hang\n");
+    EXPECT_TRUE(waitForEnd());
+    EXPECT_EQ(producer.count("closed A1"), 1U);
+}
+
+TEST(HostStream, producerThatHangsOrOnlyFailsIsALoss)
+{
+    for (const char *script : {"EventGetData hang\n", "DSGetBufferInfo hang\n", "DSQueueBuffer hang\n",
+             "EventGetData error -1010\n", "EventGetData error -1001\n"}) {
+        SCOPED_TRACE(script);
+        QuirkProducer producer;
+        HostClient host(producer.ctiPath());
+        ASSERT_TRUE(host.open() && host.prepareStream() && host.startStream() && host.nextImage());
+        producer.setScript(script);
+        while (host.nextImage(std::chrono::seconds(1))) { } // Releases all buffers.
+        EXPECT_TRUE(host.waitForLoss());
+    }
+}
+
+TEST(HostStream, noOtherCallIsMadeOnceTheStopOfTheCameraHangs)
+{
+    QuirkProducer producer;
+    HostClient host(producer.ctiPath());
+    ASSERT_TRUE(host.open() && host.prepareStream() && host.startStream() && host.nextImage());
+    producer.setScript("GCWritePort:30 hang\n"); // AcquisitionStop.
+    EXPECT_TRUE(host.stopStream());
+    EXPECT_TRUE(host.waitForEnd());
+    EXPECT_EQ(producer.count("DSStopAcquisition"), 0U);
+    EXPECT_EQ(producer.count("closed A1"), 1U);
+}
+
+TEST(HostStream, cameraIsClosedWhenTheLibrarysProcessEndsAlthoughItsChildHasTheSocket)
+{
+    QuirkProducer producer;
+    int childLives[2];
+    ASSERT_EQ(pipe(childLives), 0);
+    const pid_t library = fork();
+    if (library == 0) {
+        HostClient host(producer.ctiPath());
+        const bool isStreaming = host.open() && host.prepareStream() && host.startStream();
+        if (fork() == 0) {
+            close(childLives[1]);
+            char end = 0;
+            _exit(static_cast<int>(read(childLives[0], &end, 1))); // Until the test closes the pipe.
+        }
+        _exit(isStreaming ? 0 : 1);
+    }
+    int status = -1;
+    EXPECT_EQ(waitpid(library, &status, 0), library);
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(waitUntil([&] { return producer.count("closed A1") == 1; }));
+    EXPECT_EQ(producer.count("violation"), 0U) << testing::PrintToString(producer.log());
+    close(childLives[0]);
+    close(childLives[1]);
+}
+
 TEST(HostProgram, refusesToRunWithoutTheLibrary)
 {
     const int status = std::system(CVX_CAMERA_HOST " /nothing.cti 3<&- 2>/dev/null");
@@ -151,6 +224,26 @@ TEST(StreamPolicy, newestImageSkipsTheOlderOnesAndCountsThem)
     EXPECT_EQ(counters.lost, 0U);
     EXPECT_EQ(counters.underruns, 0U);
     EXPECT_EQ(counters.bytes, 60U * 64U * 48U);
+    EXPECT_TRUE(host.stopStream() && host.close());
+}
+
+TEST(StreamPolicy, timeOfReceptionIsOnTheMonotonicClock)
+{
+    const auto now = [] {
+        const std::chrono::nanoseconds time = std::chrono::steady_clock::now().time_since_epoch();
+        return static_cast<std::uint64_t>(time.count());
+    };
+    QuirkProducer producer;
+    HostClient host(producer.ctiPath());
+    ASSERT_TRUE(host.open() && host.prepareStream()) << host.failure.text;
+    const std::uint64_t before = now();
+    ASSERT_TRUE(host.startStream()) << host.failure.text;
+    const auto first = host.nextImage();
+    const auto second = host.nextImage();
+    ASSERT_TRUE(first && second);
+    EXPECT_LT(before, first->record.receivedAt);
+    EXPECT_LT(first->record.receivedAt, second->record.receivedAt);
+    EXPECT_LT(second->record.receivedAt, now());
     EXPECT_TRUE(host.stopStream() && host.close());
 }
 
