@@ -101,8 +101,10 @@ NodeAccessRules::Answer NodeAccessRules::ask(const NodeProperty &reference, std:
         problem = '"' + reference.text + "\" cannot be read: " + failure->text + '.';
         return Answer::Unknown;
     }
-    const bool isTrue
-        = std::visit([](auto number) { return number < 0 || number > 0; }, std::get<Number>(result));
+    const Number &number = std::get<Number>(result);
+    const bool isTrue = m_description[*node].kind == NodeKind::Boolean
+        ? number == Number(onValue(m_description[*node]))
+        : std::visit([](auto value) { return value < 0 || value > 0; }, number);
     return isTrue ? Answer::Yes : Answer::No;
 }
 

@@ -22,6 +22,16 @@ std::int64_t EntryDescription::value() const
     return parseInteger(properties.text(PropertyKind::Value)).value_or(0);
 }
 
+std::int64_t onValue(const NodeDescription &boolean)
+{
+    return parseInteger(boolean.properties.text(PropertyKind::OnValue)).value_or(1);
+}
+
+std::int64_t offValue(const NodeDescription &boolean)
+{
+    return parseInteger(boolean.properties.text(PropertyKind::OffValue)).value_or(0);
+}
+
 void Description::add(NodeDescription node)
 {
     if (m_indices.emplace(node.name, size()).second)

@@ -133,6 +133,10 @@ struct NodeDescription
     std::vector<EntryDescription> entries;
 };
 
+/// Returns the number that stands for true, or for false, in the register of a boolean.
+std::int64_t onValue(const NodeDescription &boolean);
+std::int64_t offValue(const NodeDescription &boolean);
+
 using NodeIndex = std::uint32_t;
 
 /// The nodes of a register description: what the camera's maker has written, without any value of the camera.

@@ -27,6 +27,12 @@ long double toLongDouble(const Number &number)
     return std::visit([](auto value) { return static_cast<long double>(value); }, number);
 }
 
+/// Infinity is no limit.
+std::optional<long double> finite(long double number)
+{
+    return std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
 bool isConverter(NodeKind kind)
 {
     return kind == NodeKind::Converter || kind == NodeKind::IntConverter;
@@ -70,9 +76,7 @@ std::optional<long double> NodeLimits::stated(
     if (const NodeProperty *const text = node.properties.find(constant)) {
         const auto integer = parseInteger(text->text);
         const auto number = parseFloat(text->text);
-        return integer ? std::optional<long double>(*integer)
-            : number   ? std::optional<long double>(*number)
-                       : std::nullopt;
+        return integer ? std::optional<long double>(*integer) : number ? finite(*number) : std::nullopt;
     }
     const NodeProperty *const target = node.properties.find(reference);
     if (!target)
@@ -87,7 +91,7 @@ std::optional<long double> NodeLimits::stated(
                           .sentence();
         return std::nullopt;
     }
-    return toLongDouble(std::get<Number>(result));
+    return finite(toLongDouble(std::get<Number>(result)));
 }
 
 void NodeLimits::addRegisterLimits(Limits &limits, const NodeDescription &node)
@@ -110,9 +114,7 @@ void NodeLimits::addConverterLimits(Limits &limits, NodeIndex node)
 {
     const auto number = [](const AccessResult<Number> &result) -> std::optional<long double> {
         const auto *const value = std::get_if<Number>(&result);
-        if (!value || !std::isfinite(toLongDouble(*value)))
-            return std::nullopt; // The formula is not defined there.
-        return toLongDouble(*value);
+        return value ? finite(toLongDouble(*value)) : std::nullopt; // The formula may be undefined there.
     };
     raise(limits.minimum, number(m_engine.readMinimum(node)));
     lower(limits.maximum, number(m_engine.readMaximum(node)));

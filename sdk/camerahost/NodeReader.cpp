@@ -99,8 +99,7 @@ AccessResult<NodeValue> NodeReader::readBoolean(NodeIndex node)
     const auto result = m_engine.readInteger(node);
     if (const auto *const problem = std::get_if<AccessProblem>(&result))
         return *problem;
-    const auto onValue = parseInteger(m_description[node].properties.text(PropertyKind::OnValue));
-    return NodeValue(std::get<std::int64_t>(result) == onValue.value_or(1));
+    return NodeValue(std::get<std::int64_t>(result) == onValue(m_description[node]));
 }
 
 AccessResult<NodeValue> NodeReader::readEntry(NodeIndex node)

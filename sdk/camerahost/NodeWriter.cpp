@@ -111,9 +111,7 @@ NodeWriter::Failure NodeWriter::writeChecked(NodeIndex index, const NodeValue &v
         const auto *const isOn = std::get_if<bool>(&value);
         if (!isOn)
             return wrongType(node, "true or false");
-        const auto onValue = parseInteger(node.properties.text(PropertyKind::OnValue)).value_or(1);
-        const auto offValue = parseInteger(node.properties.text(PropertyKind::OffValue)).value_or(0);
-        return finish(index, writeNumber(index, *isOn ? onValue : offValue));
+        return finish(index, writeNumber(index, *isOn ? onValue(node) : offValue(node)));
     }
     case NodeType::Enumeration:
         return text ? writeEntry(index, *text) : wrongType(node, "the name of an entry");

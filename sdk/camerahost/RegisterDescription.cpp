@@ -16,6 +16,7 @@ constexpr std::size_t maxTransferredSize = 16 << 20; // In bytes; real descripti
 constexpr std::size_t maxDescriptionSize = 64 << 20;
 constexpr std::uint32_t maxUrls = 16;
 constexpr std::size_t maxUrlListSize = 64 << 10;
+constexpr std::size_t maxUrlInText = 200;
 
 using Bytes = std::variant<std::string, DescriptionProblem>;
 
@@ -56,7 +57,7 @@ public:
             Bytes description = read(url);
             if (const auto *xml = std::get_if<std::string>(&description))
                 return *xml;
-            reasons += (reasons.empty() ? " " : "; ") + toPrintable(url) + ": "
+            reasons += (reasons.empty() ? " " : "; ") + toPrintable(url.substr(0, maxUrlInText)) + ": "
                 + std::get<DescriptionProblem>(description).text;
         }
         if (reasons.empty())

@@ -11,8 +11,9 @@ constexpr long double floatPrecision = 1e-6L; // Relative; a float of 32 bits ha
 
 std::string numberText(long double number, bool isInteger)
 {
-    return isInteger ? std::to_string(static_cast<std::int64_t>(number))
-                     : ::numberText(static_cast<double>(number));
+    const bool fits = number >= -0x1p63L && number < 0x1p63L;
+    return isInteger && fits ? std::to_string(static_cast<std::int64_t>(number))
+                             : ::numberText(static_cast<double>(number));
 }
 
 std::string neighboursText(long double lower, long double step, const Limits &limits, bool isInteger)

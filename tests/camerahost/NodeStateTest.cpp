@@ -237,6 +237,8 @@ TEST(NodeStateTest, accessIsThatOfTheWholeWayToTheRegister)
             "Mode"},
         {"<pIsAvailable>Yes</pIsAvailable>", "<AccessMode>RW</AccessMode><pIsLocked>Formula2</pIsLocked>",
             NodeAccess::ReadWrite, LockReason::LockedByNode, "Mode"},
+        {"<pIsLocked>OffSwitch</pIsLocked>", "<AccessMode>RW</AccessMode>", NodeAccess::ReadWrite,
+            LockReason::None, ""},
         {"<pIsLocked>No</pIsLocked>", "<AccessMode>RW</AccessMode>", NodeAccess::ReadWrite, LockReason::None,
             ""},
     };
@@ -245,6 +247,7 @@ TEST(NodeStateTest, accessIsThatOfTheWholeWayToTheRegister)
             + element("IntReg", "Reg",
                 "<Address>0</Address><Length>4</Length><pPort>Device</pPort>" + std::string(c.reg))
             + condition("Yes", "1") + condition("No", "0")
+            + element("Boolean", "OffSwitch", "<OnValue>1</OnValue><OffValue>2</OffValue><Value>2</Value>")
             + element("Integer", "Mode", "<pValue>ModeReg</pValue>")
             + element("IntReg", "ModeReg", registerAt(8))
             + element("IntSwissKnife", "Formula",

@@ -72,6 +72,7 @@ struct NodeInfo
     std::vector<std::string> selected; ///< Names of the nodes that this node selects.
 };
 
+/// What a node allows at present, apart from locks; see LockReason.
 enum class NodeAccess : std::uint8_t
 {
     NotImplemented, ///< The camera does not have the node.
