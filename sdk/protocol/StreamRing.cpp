@@ -50,11 +50,11 @@ std::optional<std::uint32_t> StreamRing::pop()
 
 bool StreamRing::isPlausible() const
 {
-    // In this order: entries that are pushed or popped meanwhile make the difference smaller.
+    const std::uint64_t before = m_popped.load(std::memory_order_acquire);
     const std::uint64_t pushed = m_pushed.load(std::memory_order_acquire);
     const std::uint64_t popped = m_popped.load(std::memory_order_acquire);
-    constexpr std::uint64_t maxCount = std::uint64_t(1) << 62U; // No stream lasts that long.
-    return pushed <= maxCount && popped <= maxCount && (pushed <= popped || pushed - popped <= capacity);
+    // If another thread has popped meanwhile, the numbers do not belong together.
+    return popped != before || (popped <= pushed && pushed - popped <= capacity);
 }
 
 void StreamRing::waitForImage(Milliseconds timeout, std::uint32_t signals)

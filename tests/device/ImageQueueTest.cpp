@@ -1,5 +1,6 @@
 #include "sdk/device/ImageQueue.h"
 
+#include <cstring>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -128,6 +129,13 @@ TEST_F(ImageQueueTest, queueWithTooManyEntriesIsNoticed)
 {
     for (std::uint32_t i = 0; i <= StreamRing::maxBuffers; ++i)
         memory->ring().push(0);
+    EXPECT_EQ(queue().take().damage, "has damaged the queue of the images");
+}
+
+TEST_F(ImageQueueTest, overwrittenQueueIsNoticed)
+{
+    std::memset(static_cast<void *>(&memory->ring()), 0xFF, sizeof(StreamRing));
+    memory->ring().push(0);
     EXPECT_EQ(queue().take().damage, "has damaged the queue of the images");
 }
 

@@ -16,7 +16,8 @@
 /// Each device is a process of its own, so neither a crash nor a hang of a producer reaches the program. If
 /// the process ends, or the camera is unplugged, the device is lost: the library opens the camera with the
 /// same ID again, once a second until the device is closed, writes back the features that the program has
-/// written, in their order, and continues a running stream.
+/// written, in their order and with the selectors for which they were written, and continues a running
+/// stream. Commands are not executed again.
 ///
 /// Errors: every function returns a CvxResult. A function that fails does not change its output parameters.
 /// No function throws, except that every function may throw std::bad_alloc.
@@ -59,7 +60,7 @@ public:
     /// the written one; after a loss, all nodes.
     virtual void NodesChanged(const std::vector<std::string> &names) = 0;
 
-    /// `reason` is a text for people.
+    /// `reason` is a text for people. The state Closed is the last call.
     virtual void StateChanged(DeviceState state, const std::string &reason) = 0;
 };
 
@@ -104,8 +105,10 @@ public:
     virtual CvxResult GetStatistics(StreamStatistics &statistics) const = 0;
 
     /// Stops the camera and the stream. Images that the program holds stay valid. Also succeeds if the stream
-    /// is stopped already. Blocks for at most 3 s; if the producer has not stopped by then, its process is
-    /// killed and the device is opened again.
+    /// is stopped already, or if the camera is lost. Returns CvxErrorDevice if the camera or the producer
+    /// reports a failure; the stream has ended nevertheless. Blocks for at most 3 s; if the producer has not
+    /// stopped by then, its process is killed, the device is opened again without the stream, and the
+    /// function returns CvxErrorTimeout.
     virtual CvxResult Stop() = 0;
 };
 
@@ -190,8 +193,9 @@ public:
     virtual DeviceState GetState(std::uint32_t &reopenCount) const = 0;
 
     /// Stops the stream, closes the camera and releases the observers. Also succeeds if the device is closed
-    /// already. Blocks for at most 3 s; a producer that has not closed the camera by then is killed. Returns
-    /// CvxErrorFailed, without any effect, if an observer of this device makes the call.
+    /// already. Blocks for at most 3 s; a producer that has not closed the camera by then is killed. An
+    /// observer that blocks delays the function. Returns CvxErrorFailed, without any effect, if an observer
+    /// of this device makes the call.
     virtual CvxResult Close() = 0;
 
 private:
