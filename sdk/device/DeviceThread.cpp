@@ -76,12 +76,14 @@ void DeviceThread::run(std::promise<CvxResult> opened)
         opened.set_value(result);
         if (result)
             serve();
+        m_core.beginClose();
+        closeHost();
     } catch (const std::exception &exception) { // No memory or descriptor is left.
         if (isOpening)
             opened.set_value(m_core.results.result(CvxErrorFailed, exception.what()));
+        m_core.beginClose();
+        endHost(SteadyClock::now());
     }
-    m_core.beginClose();
-    closeHost();
 }
 
 // ---- Opening -----------------------------------------------------------------------------------------
