@@ -76,7 +76,9 @@ std::optional<long double> NodeLimits::stated(
     if (const NodeProperty *const text = node.properties.find(constant)) {
         const auto integer = parseInteger(text->text);
         const auto number = parseFloat(text->text);
-        return integer ? std::optional<long double>(*integer) : number ? finite(*number) : std::nullopt;
+        if (integer)
+            return static_cast<long double>(*integer);
+        return number ? finite(*number) : std::nullopt;
     }
     const NodeProperty *const target = node.properties.find(reference);
     if (!target)
