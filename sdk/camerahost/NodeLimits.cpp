@@ -28,7 +28,7 @@ long double toLongDouble(const Number &number)
 }
 
 /// Infinity is no limit.
-std::optional<long double> finite(long double number)
+std::optional<long double> ifFinite(long double number)
 {
     return std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
@@ -78,7 +78,7 @@ std::optional<long double> NodeLimits::stated(
         const auto number = parseFloat(text->text);
         if (integer)
             return static_cast<long double>(*integer);
-        return number ? finite(*number) : std::nullopt;
+        return number ? ifFinite(*number) : std::nullopt;
     }
     const NodeProperty *const target = node.properties.find(reference);
     if (!target)
@@ -93,7 +93,7 @@ std::optional<long double> NodeLimits::stated(
                           .sentence();
         return std::nullopt;
     }
-    return finite(toLongDouble(std::get<Number>(result)));
+    return ifFinite(toLongDouble(std::get<Number>(result)));
 }
 
 void NodeLimits::addRegisterLimits(Limits &limits, const NodeDescription &node)
@@ -116,7 +116,7 @@ void NodeLimits::addConverterLimits(Limits &limits, NodeIndex node)
 {
     const auto number = [](const AccessResult<Number> &result) -> std::optional<long double> {
         const auto *const value = std::get_if<Number>(&result);
-        return value ? finite(toLongDouble(*value)) : std::nullopt; // The formula may be undefined there.
+        return value ? ifFinite(toLongDouble(*value)) : std::nullopt; // The formula may be undefined there.
     };
     raise(limits.minimum, number(m_engine.readMinimum(node)));
     lower(limits.maximum, number(m_engine.readMaximum(node)));
