@@ -119,8 +119,8 @@ void CameraStream::stop(Milliseconds timeout)
         attempt(timeout, [this] { release(); });
 }
 
-/// Stops the camera, then the stream, then the threads. Leaves the rest out once a call hangs, because each
-/// further call could hang too and take the time that is needed to close the device.
+/// Stops the camera, then the stream, then the threads. Leaves out the other calls once one hangs, because each
+/// of them could hang too and take the time that is needed to close the device.
 void CameraStream::stopRun(Milliseconds timeout)
 {
     if (m_run->isAcquiring) {
@@ -128,7 +128,9 @@ void CameraStream::stopRun(Milliseconds timeout)
         if (!m_isStuck)
             stopAcquisition(timeout);
     }
-    if (!m_isStuck)
+    if (m_isStuck)
+        m_run->fetch.stop(timeout); // A device must not be closed while a thread waits for its events.
+    else
         endThreads(timeout);
 }
 
