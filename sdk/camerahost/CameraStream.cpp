@@ -119,8 +119,8 @@ void CameraStream::stop(Milliseconds timeout)
         attempt(timeout, [this] { release(); });
 }
 
-/// Stops the camera, then the stream, then the threads. Leaves out the other calls once one hangs, because each
-/// of them could hang too and take the time that is needed to close the device.
+/// Stops the camera, then the stream, then the threads. Leaves out the other calls once one hangs, because
+/// each of them could hang too and take the time that is needed to close the device.
 void CameraStream::stopRun(Milliseconds timeout)
 {
     if (m_run->isAcquiring) {
