@@ -1,4 +1,4 @@
-#include "programs/BareCamera.h"
+#include "bench/programs/BareCamera.h"
 
 #include "sdk/camerahost/RegisterDescription.h"
 

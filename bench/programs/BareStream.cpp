@@ -6,8 +6,8 @@
 //        exposure time bench_bare_stream PRODUCER CAMERA memory            bytes of memory while streaming,
 //        without the buffers
 
-#include "programs/BareCamera.h"
-#include "programs/Timing.h"
+#include "bench/programs/BareCamera.h"
+#include "bench/programs/Timing.h"
 
 #include <cstdio>
 #include <cstdlib>

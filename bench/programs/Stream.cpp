@@ -8,7 +8,7 @@
 //        without the buffers
 
 #include "CvxCPP/Device.h"
-#include "programs/Timing.h"
+#include "bench/programs/Timing.h"
 
 #include <cstdio>
 #include <cstdlib>
