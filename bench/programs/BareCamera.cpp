@@ -39,7 +39,8 @@ void BareCamera::require(const char *name, Function function, Arguments... argum
 
 BareCamera::BareCamera(const std::string &producerFile, const std::string &deviceId)
 {
-    if (m_library.load(producerFile.c_str()) || m_library.resolveDeviceFunctions() || !m_library.canStream())
+    if (m_library.load(producerFile.c_str()) || m_library.resolveDeviceFunctions()
+        || m_library.checkStreamFunctions())
         fail("the producer cannot be loaded");
     require("GCInitLib", m_library.GCInitLib);
     require("TLOpen", m_library.TLOpen, &m_system);
