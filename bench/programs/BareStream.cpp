@@ -15,6 +15,7 @@
 namespace {
 
 constexpr std::size_t buffers = 8;
+constexpr double shortExposure = 20; // Microseconds.
 
 void measureStream(BareCamera &camera, double seconds)
 {
@@ -60,6 +61,8 @@ int main(int argc, char *argv[])
     const auto start = Clock::now();
     const std::string mode = argv[3];
     BareCamera camera(argv[1], argv[2]);
+    camera.nodes().write("AcquisitionFrameRateEnable", false); // As fast as possible.
+    camera.nodes().write("ExposureTime", shortExposure);
     if (mode == "first") {
         camera.start(buffers);
         camera.takeImage();

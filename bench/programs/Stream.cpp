@@ -21,6 +21,7 @@ using namespace CvxCPP;
 namespace {
 
 constexpr unsigned buffers = 8;
+constexpr double shortExposure = 20; // Microseconds.
 constexpr std::chrono::seconds patience{5};
 
 void require(const CvxResult &result)
@@ -148,6 +149,8 @@ int main(int argc, char *argv[])
     const auto start = Clock::now();
     std::shared_ptr<Device> device;
     require(camera->Open(CvxAccessControl, device));
+    require(device->WriteBoolean("AcquisitionFrameRateEnable", mode == "latency")); // As fast as possible.
+    require(device->WriteFloat("ExposureTime", shortExposure));
     std::shared_ptr<Stream> stream;
     if (mode == "access") {
         measureAccess(*device, std::atoi(argv[3]));
