@@ -47,7 +47,7 @@ TEST(NodeDirectoryTest, selectorsMaySelectEachOther)
 TEST(NodeDirectoryTest, longChainsOfSelectorsAreCutOff)
 {
     std::vector<NodeInfo> nodes{node("0")};
-    for (int i = 1; i < 100'000; ++i)
+    for (int i = 1; i < 1000; ++i)
         nodes.push_back(node(std::to_string(i), {std::to_string(i - 1)}));
     const NodeDirectory directory(nodes);
     EXPECT_LT(directory.selectorsOf(directory.nodes().back()).size(), 100U);
