@@ -178,14 +178,16 @@ void DeviceNotifier::remove(const Observer &observer)
 
 void DeviceNotifier::nodesChanged(std::vector<std::string> names)
 {
-    if (!names.empty())
-        m_queue->push(
-            {{std::make_move_iterator(names.begin()), std::make_move_iterator(names.end())}, {}, {}});
+    if (names.empty())
+        return;
+    const auto queue = m_queue; // An observer may destroy this object before push() returns.
+    queue->push({{std::make_move_iterator(names.begin()), std::make_move_iterator(names.end())}, {}, {}});
 }
 
 void DeviceNotifier::stateChanged(DeviceState state, std::string reason)
 {
-    m_queue->push({{}, state, std::move(reason)});
+    const auto queue = m_queue;
+    queue->push({{}, state, std::move(reason)});
 }
 
 void DeviceNotifier::close()

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <fstream>
 #include <sstream>
+#include <thread>
 
 using namespace CvxCPP;
 using namespace std::chrono_literals;
@@ -48,6 +49,12 @@ DeviceTest::DeviceTest()
     options.closeTimeout = 20s;
     options.inUseTimeout = 0ms;
     options.inUseInterval = options.reopenInterval = 20ms;
+}
+
+std::size_t DeviceTest::threadsBefore()
+{
+    std::thread([] {}).join(); // With the first thread, ThreadSanitizer starts one of its own.
+    return threadCount();
 }
 
 DeviceTest::~DeviceTest()

@@ -67,8 +67,10 @@ protected:
 private:
     std::string path(const std::string &name) const { return directory.path() / name; }
 
+    static std::size_t threadsBefore();
+
     const std::size_t m_descriptors = openDescriptors();
-    const std::size_t m_threads = threadCount();
+    const std::size_t m_threads = threadsBefore();
 };
 
 /// Returns the number of mappings of this process that belong to streams.
