@@ -5,6 +5,19 @@
 #include <algorithm>
 #include <poll.h>
 
+namespace {
+
+constexpr int checkInterval = 2; // Milliseconds.
+
+} // namespace
+
+HostRunner::~HostRunner()
+{
+    const TimePoint deadline = SteadyClock::now() + std::chrono::seconds(1);
+    for (reapKilled(); !m_killed.empty() && SteadyClock::now() < deadline; reapKilled())
+        poll(nullptr, 0, checkInterval);
+}
+
 HostProcess::StartResult HostRunner::start(const std::string &producerPath)
 {
     m_exitSentence.reset();
@@ -25,7 +38,6 @@ std::optional<std::string> HostRunner::exitSentence()
 
 std::optional<std::string> HostRunner::awaitExit(TimePoint deadline)
 {
-    constexpr int checkInterval = 2; // Milliseconds.
     for (;;) {
         const bool isOver = SteadyClock::now() >= deadline;
         auto sentence = exitSentence();

@@ -14,6 +14,10 @@ class HostRunner
 {
 public:
     explicit HostRunner(std::string program) : m_program(std::move(program)) { }
+    /// Waits for killed hosts that the kernel has not ended yet, for at most a second.
+    ~HostRunner();
+    HostRunner(const HostRunner &) = delete;
+    HostRunner &operator=(const HostRunner &) = delete;
 
     /// Starts a host. The previous one must have been ended.
     HostProcess::StartResult start(const std::string &producerPath);
