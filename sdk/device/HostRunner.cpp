@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int checkInterval = 2; // Milliseconds.
+constexpr int reapInterval = 2; // Milliseconds.
 
 } // namespace
 
@@ -15,7 +15,7 @@ HostRunner::~HostRunner()
 {
     const TimePoint deadline = SteadyClock::now() + std::chrono::seconds(1);
     for (reapKilled(); !m_killed.empty() && SteadyClock::now() < deadline; reapKilled())
-        poll(nullptr, 0, checkInterval);
+        poll(nullptr, 0, reapInterval);
 }
 
 HostProcess::StartResult HostRunner::start(const std::string &producerPath)
@@ -43,7 +43,7 @@ std::optional<std::string> HostRunner::awaitExit(TimePoint deadline)
         auto sentence = exitSentence();
         if (sentence || isOver || !m_process || !m_process->isStarted())
             return sentence;
-        poll(nullptr, 0, checkInterval);
+        poll(nullptr, 0, reapInterval);
     }
 }
 
