@@ -1,0 +1,55 @@
+#pragma once
+
+#include "sdk/image/PixelFormat.h"
+#include "sdk/image/RawImage.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+/// How the missing colours of a Bayer picture are found.
+enum class Demosaicing : std::uint8_t
+{
+    Bilinear,
+    EdgeAware ///< Interpolates along edges; slower, with fewer colour fringes.
+};
+
+/// Converts pictures. One object serves one thread; its working memory grows with the largest picture and is
+/// then reused, so a conversion allocates nothing. Pixels that an incomplete picture lacks become 0.
+/// A format that is not in the table is shown as grey bytes.
+class ImageConverter
+{
+public:
+    /// What toScreen() converts: the region of the picture, scaled to `width` x `height` output pixels.
+    struct ScreenRequest
+    {
+        Region region; ///< Inside the picture.
+        std::uint32_t width = 0;
+        std::uint32_t height = 0;
+        Demosaicing demosaicing = Demosaicing::Bilinear;
+    };
+
+    /// Returns the channels of toScreen() for a format: 1 (grey) or 3 (red, green, blue).
+    static unsigned screenChannels(std::uint32_t pixelFormat);
+
+    /// Converts to 8 bits per channel for the screen: the highest 8 significant bits of each component.
+    /// `output` has `height` lines of `stride` bytes.
+    void toScreen(const RawImage &picture, const ScreenRequest &request, std::uint8_t *output,
+        std::size_t stride);
+
+    /// Returns the values per pixel of toWords() for a format: 1 to 4.
+    static unsigned wordChannels(std::uint32_t pixelFormat);
+
+    /// Unpacks a region to words of 16 bits without changing the values: Bayer pictures keep their pattern,
+    /// RGB gets the order red, green, blue (alpha), luma and chroma stay what they are. `output` has one line
+    /// of `stride` words per line of the region.
+    void toWords(const RawImage &picture, const Region &region, std::uint16_t *output, std::size_t stride);
+
+    /// Converts a region to red, green and blue of 16 bits with the range of the component's depth, with
+    /// demosaicing for Bayer pictures. `output` has one line of `stride` words per line of the region.
+    void toColorWords(const RawImage &picture, const Region &region, Demosaicing demosaicing,
+        std::uint16_t *output, std::size_t stride);
+
+private:
+    std::vector<std::uint16_t> m_lines; // Unpacked lines that the current output line needs.
+};
