@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 using namespace GenTL;
 
@@ -93,10 +94,16 @@ void BareCamera::start(std::size_t buffers)
     require("DevOpenDataStream", m_library.DevOpenDataStream, m_device, id.c_str(), &m_stream);
     m_nodes->writeInteger("TLParamsLocked", 1);
     const auto payload = static_cast<std::size_t>(m_nodes->readInteger("PayloadSize").value_or(0));
-    m_memory.assign(buffers, std::vector<std::uint8_t>(payload));
-    for (auto &memory : m_memory) {
+    constexpr std::size_t pageSize = 4096; // Copying to aligned memory is faster.
+    const std::size_t size = (payload + pageSize - 1) / pageSize * pageSize;
+    std::size_t space = buffers * size + pageSize;
+    m_memory.resize(space);
+    void *memory = m_memory.data();
+    std::align(pageSize, buffers * size, memory, space);
+    for (std::size_t number = 0; number < buffers; ++number) {
         BUFFER_HANDLE buffer = nullptr;
-        require("DSAnnounceBuffer", m_library.DSAnnounceBuffer, m_stream, memory.data(), payload, nullptr,
+        require("DSAnnounceBuffer", m_library.DSAnnounceBuffer, m_stream,
+            static_cast<void *>(static_cast<std::uint8_t *>(memory) + number * size), payload, nullptr,
             &buffer);
         require("DSQueueBuffer", m_library.DSQueueBuffer, m_stream, buffer);
     }

@@ -41,5 +41,5 @@ private:
     GenTL::DS_HANDLE m_stream = nullptr;
     GenTL::EVENT_HANDLE m_event = nullptr;
     std::unique_ptr<NodeMap> m_nodes;
-    std::vector<std::vector<std::uint8_t>> m_memory;
+    std::vector<std::uint8_t> m_memory;
 };

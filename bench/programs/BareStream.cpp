@@ -1,10 +1,9 @@
 // Measures a camera that is opened in this process, as a floor for the SDK. Prints one number per line.
 //
-// usage: bench_bare_stream PRODUCER CAMERA first             milliseconds from the start to the first image
-//        bench_bare_stream PRODUCER CAMERA stream SECONDS    images per second, and µs of processor time per
-//        image bench_bare_stream PRODUCER CAMERA access COUNT      median µs to read and to write the
-//        exposure time bench_bare_stream PRODUCER CAMERA memory            bytes of memory while streaming,
-//        without the buffers
+// usage: bench_bare_stream PRODUCER CAMERA first             ms from the start to the first image
+//        bench_bare_stream PRODUCER CAMERA stream SECONDS    images/s, and µs of processor time per image
+//        bench_bare_stream PRODUCER CAMERA access COUNT      median µs to read, and write, the exposure time
+//        bench_bare_stream PRODUCER CAMERA memory            bytes while streaming, minus the buffers
 
 #include "bench/programs/BareCamera.h"
 #include "bench/programs/Timing.h"

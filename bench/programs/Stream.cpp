@@ -1,11 +1,10 @@
 // Measures a camera that the SDK has opened. Prints one number per line.
 //
-// usage: bench_stream CAMERA first             milliseconds from the call of Open() to the first image
-//        bench_stream CAMERA stream SECONDS    images per second, and µs of processor time per image in all
-//        processes bench_stream CAMERA access COUNT      median µs to read and to write the exposure time
-//        bench_stream CAMERA latency COUNT     median µs from the event in the host to the image in the
-//        program bench_stream CAMERA memory            bytes of memory of both processes while streaming,
-//        without the buffers
+// usage: bench_stream CAMERA first             ms from the call of Open() to the first image
+//        bench_stream CAMERA stream SECONDS    images/s, and µs of processor time per image in all processes
+//        bench_stream CAMERA access COUNT      median µs to read, and to write, the exposure time
+//        bench_stream CAMERA latency COUNT     median µs from the event in the host to the image
+//        bench_stream CAMERA memory            bytes of both processes while streaming, minus the buffers
 
 #include "CvxCPP/Device.h"
 #include "bench/programs/Timing.h"

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr CameraStream::Milliseconds undoTimeout(500); // For each call after a failed start.
+constexpr int accessAttempts = 3; // A call that accesses the camera may have to repeat the access.
 
 } // namespace
 
@@ -116,7 +117,7 @@ void CameraStream::stop(Milliseconds timeout)
     if (m_run)
         stopRun(timeout);
     if (!m_isStuck)
-        attempt(timeout, [this] { release(); });
+        attempt(accessAttempts * timeout, [this] { release(); });
 }
 
 /// Stops the camera, then the stream, then the threads. Leaves out the other calls once one hangs, because
@@ -124,7 +125,7 @@ void CameraStream::stop(Milliseconds timeout)
 void CameraStream::stopRun(Milliseconds timeout)
 {
     if (m_run->isAcquiring) {
-        attempt(timeout, [this] { m_control.stop(); });
+        attempt(accessAttempts * timeout, [this] { m_control.stop(); });
         if (!m_isStuck)
             stopAcquisition(timeout);
     }

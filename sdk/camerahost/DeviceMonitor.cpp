@@ -74,6 +74,8 @@ bool DeviceMonitor::takeEvents()
 
 bool DeviceMonitor::hasFailed()
 {
+    if (m_feature.empty() && !m_hasStartRegister)
+        return hasLostAccess(); // There is nothing that could be read.
     const std::uint64_t before = m_port.lossFailures();
     readSomething();
     return m_port.lossFailures() > before || hasLostAccess();

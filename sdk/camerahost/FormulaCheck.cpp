@@ -39,7 +39,7 @@ Evaluator makeEvaluator(const NodeDescription &node, const std::string &formula)
 std::unique_ptr<GError, void (*)(GError *)> evaluate(ArvEvaluator *evaluator, NodeKind kind)
 {
     GError *error = nullptr;
-    if (isInteger(kind))
+    if (kind == NodeKind::IntSwissKnife) // The engine computes an IntConverter with doubles.
         arv_evaluator_evaluate_as_int64(evaluator, &error);
     else
         arv_evaluator_evaluate_as_double(evaluator, &error);

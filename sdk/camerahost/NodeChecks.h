@@ -8,7 +8,7 @@
 // Lengths in bytes that registers may have.
 constexpr std::int64_t maxIntegerLength = 8;
 constexpr std::int64_t maxTextLength = 64 << 10;
-constexpr std::int64_t maxRegisterLength = 16 << 20;
+constexpr std::int64_t maxRegisterLength = 1 << 20; // A message holds several of them as text.
 
 /// Returns true if a register of this kind may have the length.
 bool isValidLength(NodeKind kind, std::int64_t length);

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr char tooLarge[] = "the number is too large to be converted exactly";
+
 /// Parses the document. The parser of the engine has a state that all threads share.
 ArvGc *makeEngine(ArvRegisterDevice *device, const std::string &document)
 {
@@ -25,6 +27,14 @@ ArvGc *makeEngine(ArvRegisterDevice *device, const std::string &document)
 bool isZero(const Number &number)
 {
     return std::visit([](auto value) { return !(value < 0) && !(value > 0); }, number);
+}
+
+/// Returns true if the number is an integer that a double holds exactly; the converters compute with doubles.
+bool isExactAsDouble(const Number &number)
+{
+    constexpr std::int64_t limit = std::int64_t(1) << 53;
+    const auto *const integer = std::get_if<std::int64_t>(&number);
+    return !integer || (*integer >= -limit && *integer <= limit);
 }
 
 std::int64_t rounded(double value)
@@ -143,10 +153,15 @@ AccessResult<Number> NodeEngine::readUnchecked(NodeIndex node)
         return call<Number>(node, [](ArvGcNode *found, GError **error) -> Number {
             return arv_gc_float_get_value(ARV_GC_FLOAT(found), error);
         });
-    if (isInteger(m_description[node].kind))
-        return call<Number>(node, [](ArvGcNode *found, GError **error) -> Number {
+    if (isInteger(m_description[node].kind)) {
+        auto number = call<Number>(node, [](ArvGcNode *found, GError **error) -> Number {
             return std::int64_t(arv_gc_integer_get_value(ARV_GC_INTEGER(found), error));
         });
+        const auto *const value = std::get_if<Number>(&number);
+        if (value && m_description[node].kind == NodeKind::IntConverter && !isExactAsDouble(*value))
+            return AccessProblem{tooLarge};
+        return number;
+    }
     return AccessProblem{'"' + m_description[node].name + "\" is no number"};
 }
 
@@ -198,6 +213,8 @@ std::optional<AccessProblem> NodeEngine::writeNumber(NodeIndex node, Number valu
         const NodeKind kind = m_description[link].kind;
         if (kind == NodeKind::SwissKnife || kind == NodeKind::IntSwissKnife)
             return AccessProblem{'"' + m_description[link].name + "\" is computed from other values"};
+        if (kind == NodeKind::IntConverter && !isExactAsDouble(value))
+            return AccessProblem{tooLarge};
     }
     if (isFloat(m_description[node].kind)) {
         const double number = std::visit([](auto n) { return static_cast<double>(n); }, value);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -36,6 +37,20 @@ std::optional<long double> ifFinite(long double number)
 bool isConverter(NodeKind kind)
 {
     return kind == NodeKind::Converter || kind == NodeKind::IntConverter;
+}
+
+/// Returns a limit of a converter. The engine returns the largest numbers for a limit that does not exist.
+std::optional<long double> converterLimit(const AccessResult<Number> &result)
+{
+    const auto *const number = std::get_if<Number>(&result);
+    if (!number) // The formula may be undefined there.
+        return std::nullopt;
+    using Integers = std::numeric_limits<std::int64_t>;
+    const auto *const integer = std::get_if<std::int64_t>(number);
+    if (integer && (*integer == Integers::min() || *integer == Integers::max()))
+        return std::nullopt;
+    const long double limit = toLongDouble(*number);
+    return std::abs(limit) < std::numeric_limits<double>::max() ? std::optional(limit) : std::nullopt;
 }
 
 } // namespace
@@ -114,10 +129,6 @@ void NodeLimits::addRegisterLimits(Limits &limits, const NodeDescription &node)
 
 void NodeLimits::addConverterLimits(Limits &limits, NodeIndex node)
 {
-    const auto number = [](const AccessResult<Number> &result) -> std::optional<long double> {
-        const auto *const value = std::get_if<Number>(&result);
-        return value ? ifFinite(toLongDouble(*value)) : std::nullopt; // The formula may be undefined there.
-    };
-    raise(limits.minimum, number(m_engine.readMinimum(node)));
-    lower(limits.maximum, number(m_engine.readMaximum(node)));
+    raise(limits.minimum, converterLimit(m_engine.readMinimum(node)));
+    lower(limits.maximum, converterLimit(m_engine.readMaximum(node)));
 }

@@ -145,8 +145,12 @@ std::vector<NodeIndex> NodeList::valueChain(NodeIndex node) const
     if (!m_references.isUsable(node))
         return chain; // The chain of an unusable node may have no end.
     while (
-        const NodeProperty *const value = m_description[chain.back()].properties.find(PropertyKind::PValue))
-        chain.push_back(*m_description.find(value->text));
+        const NodeProperty *const value = m_description[chain.back()].properties.find(PropertyKind::PValue)) {
+        const auto target = m_description.find(value->text);
+        if (!target) // The references of a category are not checked.
+            break;
+        chain.push_back(*target);
+    }
     return chain;
 }
 

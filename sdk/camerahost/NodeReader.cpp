@@ -171,5 +171,8 @@ AccessResult<std::int64_t> readCommandValue(
 {
     if (const NodeProperty *const value = command.properties.find(PropertyKind::CommandValue))
         return parseInteger(value->text).value_or(0);
-    return engine.readInteger(*description.find(command.properties.text(PropertyKind::PCommandValue)));
+    const auto node = description.find(command.properties.text(PropertyKind::PCommandValue));
+    if (!node)
+        return AccessProblem{"the command \"" + command.name + "\" has no command value"};
+    return engine.readInteger(*node);
 }

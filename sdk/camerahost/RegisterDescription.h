@@ -13,4 +13,4 @@
 /// @param producerFile The path of the .cti file, whose folder is searched for files that a URL names.
 std::variant<std::string, RequestFailedReply> fetchRegisterDescription(const DeviceLibrary &library,
     GenTL::PORT_HANDLE port, const std::string &producerFile,
-    std::chrono::milliseconds timeout = std::chrono::seconds(10));
+    std::chrono::milliseconds timeout = std::chrono::seconds(7));

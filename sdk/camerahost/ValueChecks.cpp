@@ -37,11 +37,11 @@ std::optional<std::string> checkInteger(std::int64_t value, const Limits &limits
         return "the largest value is " + numberText(std::floor(*limits.maximum), true);
     if (!limits.increment || *limits.increment < 1)
         return std::nullopt;
-    const long double origin = limits.minimum.value_or(0);
-    const long double steps = std::floor((number - origin) / *limits.increment);
-    const long double lower = origin + steps * *limits.increment;
+    const long double origin = std::ceil(limits.minimum.value_or(0)); // A formula may compute the limits.
+    const long double step = std::round(*limits.increment);
+    const long double lower = origin + std::floor((number - origin) / step) * step;
     if (lower < number || lower > number)
-        return neighboursText(lower, *limits.increment, limits, true);
+        return neighboursText(lower, step, limits, true);
     return std::nullopt;
 }
 

@@ -114,7 +114,7 @@ CvxResult DeviceThread::openHost()
     auto started = m_runner.start(m_core.target.producerPath);
     if (!started.failure.empty())
         return {CvxErrorFailed, "The camera " + started.failure + '.'};
-    const auto host = std::make_shared<HostChannel>(std::move(started.channel), m_core.options.requestTimeout,
+    const auto host = std::make_shared<HostChannel>(std::move(started.channel),
         [this](std::vector<std::string> names) { m_core.notifier.nodesChanged(std::move(names)); });
     m_hostNumber = m_core.gate.setHost(host);
     const DeviceTarget &target = m_core.target;

@@ -39,14 +39,9 @@ Breakdown lateReply()
     return {Breakdown::Kind::Timeout, "The camera has not answered in time."};
 }
 
-HostChannel::HostChannel(LineChannel channel, Milliseconds maxSend, NodesChanged nodesChanged)
+HostChannel::HostChannel(LineChannel channel, NodesChanged nodesChanged)
     : m_channel(std::move(channel)), m_nodesChanged(std::move(nodesChanged))
-{
-    const auto microseconds = std::chrono::microseconds(maxSend);
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(microseconds);
-    const timeval time{seconds.count(), (microseconds - seconds).count()};
-    setsockopt(m_channel.descriptor(), SOL_SOCKET, SO_SNDTIMEO, &time, sizeof time);
-}
+{ }
 
 void HostChannel::abort() const
 {
@@ -56,7 +51,7 @@ void HostChannel::abort() const
 std::variant<Message, Breakdown> HostChannel::exchange(
     const Message &request, TimePoint deadline, const std::vector<int> &descriptors)
 {
-    if (!send(request.toLine(), descriptors))
+    if (!send(request.toLine(), deadline, descriptors))
         return SteadyClock::now() < deadline ? ended() : lateReply();
     bool isReadable = waitReadable(descriptor(), deadline);
     for (int notices = 0; notices < maxNotices;) {
@@ -79,9 +74,11 @@ std::variant<Message, Breakdown> HostChannel::exchange(
     return unreadable();
 }
 
-bool HostChannel::send(const std::string &line, const std::vector<int> &descriptors)
+bool HostChannel::send(const std::string &line, TimePoint deadline, const std::vector<int> &descriptors)
 {
-    const auto status = descriptors.empty() ? m_channel.send(line) : m_channel.send(line, descriptors);
+    // A request with descriptors always fits into the socket's buffer.
+    const auto status
+        = descriptors.empty() ? m_channel.sendUntil(deadline, line) : m_channel.send(line, descriptors);
     return status == LineChannel::Status::Line;
 }
 

@@ -37,8 +37,7 @@ class HostChannel
 public:
     using NodesChanged = std::function<void(std::vector<std::string> names)>;
 
-    /// `maxSend` limits the time for which a host that does not read can block the caller.
-    HostChannel(LineChannel channel, Milliseconds maxSend, NodesChanged nodesChanged);
+    HostChannel(LineChannel channel, NodesChanged nodesChanged);
 
     template <typename Reply>
     using Answer = std::variant<Reply, RequestFailedReply, Breakdown>;
@@ -76,7 +75,7 @@ private:
 
     std::variant<Message, Breakdown> exchange(
         const Message &request, TimePoint deadline, const std::vector<int> &descriptors);
-    bool send(const std::string &line, const std::vector<int> &descriptors);
+    bool send(const std::string &line, TimePoint deadline, const std::vector<int> &descriptors);
     Received receive();
     Received check(const std::string &line);
     static Breakdown unreadable();

@@ -126,8 +126,14 @@ CvxResult NodeRequests::execute(const std::string &name)
         return error(CvxErrorNotFound, name, notFound);
     if (node->type != NodeType::Command)
         return error(CvxErrorWrongType, name, "is not a command.");
-    auto answer = ask<NodeValueReply>(WriteValueRequest{name, {}});
+    const TimePoint end = deadline();
+    const auto turn = m_core.takeTurn(end);
+    if (const auto *refused = std::get_if<CvxResult>(&turn))
+        return *refused;
+    auto answer
+        = m_core.ask<NodeValueReply>(std::get<DeviceGate::Turn>(turn), WriteValueRequest{name, {}}, end);
     if (auto *failed = std::get_if<CvxResult>(&answer))
         return std::move(*failed);
+    m_core.journal.doubtSelectors();
     return {};
 }

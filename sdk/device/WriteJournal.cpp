@@ -38,6 +38,18 @@ private:
     std::map<std::string, NodeValue> m_current;
 };
 
+bool WriteJournal::knowsSelector(const std::string &selector) const
+{
+    const auto found = m_selectors.find(selector);
+    return found != m_selectors.end() && found->second.isCertain;
+}
+
+void WriteJournal::doubtSelectors()
+{
+    for (auto &[name, selector] : m_selectors)
+        selector.isCertain = false;
+}
+
 void WriteJournal::selectorRead(const std::string &selector, const NodeValue &value)
 {
     m_selectors[selector] = {value, ++m_count};
@@ -48,6 +60,7 @@ void WriteJournal::written(const std::string &name, const NodeValue &value,
 {
     const std::uint64_t number = ++m_count;
     if (isSelector) {
+        doubtSelectors(); // A selector may select the value of another one.
         m_selectors[name] = {value, number};
         return;
     }

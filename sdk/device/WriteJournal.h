@@ -27,8 +27,11 @@ public:
 class WriteJournal
 {
 public:
-    /// Returns true if the value of this selector is known.
-    bool knowsSelector(const std::string &selector) const { return m_selectors.count(selector) > 0; }
+    /// Returns true if the value of this selector is known and has not been doubted since.
+    bool knowsSelector(const std::string &selector) const;
+
+    /// Remembers that the camera may have changed its selectors, for example by loading a user set.
+    void doubtSelectors();
 
     /// Records the value that a selector has without being written by the program.
     void selectorRead(const std::string &selector, const CvxCPP::NodeValue &value);
@@ -67,6 +70,7 @@ private:
     {
         CvxCPP::NodeValue value;
         std::uint64_t number = 0; // Position in the order of the writes.
+        bool isCertain = true;
     };
 
     class Replay;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <utility>
@@ -135,6 +136,29 @@ LineChannel::Status LineChannel::send(const std::string &text)
         if (count < 0)
             return statusOfError(errno);
         sent += static_cast<std::size_t>(count);
+    }
+    return Status::Line;
+}
+
+LineChannel::Status LineChannel::sendUntil(
+    std::chrono::steady_clock::time_point deadline, const std::string &text)
+{
+    std::size_t sent = 0;
+    while (sent < text.size()) {
+        const ssize_t count = TEMP_FAILURE_RETRY(
+            ::send(m_descriptor, text.data() + sent, text.size() - sent, MSG_NOSIGNAL | MSG_DONTWAIT));
+        if (count >= 0) {
+            sent += static_cast<std::size_t>(count);
+            continue;
+        }
+        if (errno != EAGAIN)
+            return statusOfError(errno);
+        const auto remaining
+            = std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (remaining.count() <= 0)
+            return Status::Pending;
+        pollfd writable{m_descriptor, POLLOUT, 0};
+        poll(&writable, 1, static_cast<int>(remaining.count()));
     }
     return Status::Line;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <sys/types.h>
@@ -17,7 +18,7 @@ public:
     enum class Status
     {
         Line, ///< A whole line was read.
-        Pending, ///< The rest of the line has not arrived yet.
+        Pending, ///< The rest of the line has not arrived, or has not been sent, yet.
         Closed, ///< The other end has closed the connection, or this end is closed.
         Lost, ///< The descriptor is no longer a socket, because other code in this process closed it.
         TooLong ///< The line exceeds the limit.
@@ -48,6 +49,9 @@ public:
     /// Sends the whole text and blocks until the socket has accepted it. Returns Line on success, otherwise
     /// Closed or Lost.
     Status send(const std::string &text);
+
+    /// Like send(), but returns Pending if the socket has not accepted the whole text by the deadline.
+    Status sendUntil(std::chrono::steady_clock::time_point deadline, const std::string &text);
 
     /// Sends the text, which must not be empty, and duplicates of the descriptors, at most `maxDescriptors`.
     Status send(const std::string &text, const std::vector<int> &descriptors);

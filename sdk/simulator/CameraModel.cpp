@@ -103,13 +103,14 @@ void addFlaws(SensorModel &sensor, const DeviceRecord &record)
     sensor.stuckPixels = 4 + 12 * share(16);
     sensor.blinkingPixels = 2 + 6 * share(24);
     sensor.tapMismatch = sensor.taps > 1 ? 0.02 + 0.04 * share(32) : 0;
-    sensor.focusPosition = 400 + 200 * share(40);
+    sensor.focusPosition = 470 + 60 * share(40); // Near 500, where the lens is after power-on.
     sensor.focusTilt = 20 * share(48);
     sensor.focusTiltAngle = 360 * share(56);
     if (contains(record.model, "SWIR")) { // InGaAs sensors have much more dark current and defects.
         sensor.darkCurrent = 4000;
         sensor.hotPixels *= 10;
         sensor.fullWell = 40000;
+        sensor.sensitivity = 4; // A picture is as bright as those of other cameras.
     }
 }
 
@@ -130,7 +131,8 @@ CameraModel cameraModel(const DeviceRecord &record, const SensorKeys &keys)
     const SensorSize size = sizeByName(record.model, sensor.isLineScan);
     sensor.width = multipleBelow(keys.width.value_or(size.width), 2); // Colours need even numbers.
     sensor.height = sensor.isLineScan ? 1 : multipleBelow(keys.height.value_or(size.height), 2);
-    sensor.isColor = keys.isColor.value_or(link.isColor || endsWith(record.model, "-C"));
+    sensor.isColor
+        = !sensor.isLineScan && keys.isColor.value_or(link.isColor || endsWith(record.model, "-C"));
     sensor.taps = keys.taps.value_or(link.taps);
     sensor.seed = keys.seed.value_or(hashOf(record.serial.empty() ? record.id : record.serial));
     addFlaws(sensor, record);

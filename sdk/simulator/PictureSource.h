@@ -3,6 +3,8 @@
 #include "sdk/simulator/SceneRenderer.h"
 
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 #include <vector>
 
 /// Fills buffers with the pictures of one camera. A picture is rendered if there is time for it; otherwise
@@ -23,12 +25,19 @@ public:
     std::size_t imageSize() const { return m_imageSize; }
 
 private:
+    struct Release
+    {
+        void operator()(std::uint8_t *bytes) const { std::free(bytes); }
+    };
+    using Picture = std::unique_ptr<std::uint8_t, Release>;
+
+    Picture makePicture() const;
     void render(std::uint64_t frame, std::uint8_t *buffer);
 
     SceneRenderer m_renderer;
     RenderSettings m_settings;
     std::size_t m_imageSize = 0;
     std::int64_t m_renderTime = 0; // Of the last rendered picture, in nanoseconds.
-    std::vector<std::vector<std::uint8_t>> m_pictures;
+    std::vector<Picture> m_pictures;
     std::size_t m_pictureCount = 0; // How many pictures are repeated.
 };

@@ -3,8 +3,10 @@
 #include "sdk/simulator/EnumerationValues.h"
 #include "sdk/simulator/FeatureLimits.h"
 #include "sdk/simulator/FeatureRules.h"
+#include "sdk/simulator/SensorFlaws.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -80,8 +82,9 @@ RegisterBank powerOnRegisters(const CameraModel &model)
     for (std::size_t trigger = 0; trigger < triggerCount; ++trigger)
         bank.setInteger(Id::TriggerSource, softwareSource, trigger);
     bank.setReal(Id::Gamma, 1);
-    for (std::size_t color = 0; color < 3; ++color)
-        bank.setReal(Id::BalanceRatio, 1, color);
+    const std::array<double, 3> response = SensorFlaws::colorResponse();
+    for (std::size_t color = 0; color < response.size(); ++color)
+        bank.setReal(Id::BalanceRatio, 1 / response[color], color); // White is white.
     bank.setReal(Id::EncoderResolution, 0.01);
     bank.setReal(Id::EncoderSpeed, 10'000);
     for (std::size_t chunk = 0; chunk < chunkCount; ++chunk)

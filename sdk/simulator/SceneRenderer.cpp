@@ -242,7 +242,7 @@ int SceneRenderer::lineScanRow(const RenderSettings &settings, int line) const
 {
     const std::uint64_t key
         = scrambled(m_model.seed + settings.frameNumber) + static_cast<std::uint64_t>(line);
-    // The mean of two numbers is a sufficient bell curve here; its standard deviation is 0.2.
+    // The sum of two numbers is close enough to a normal distribution; its standard deviation is 0.408.
     const double jitter = (uniformRandom(key) + uniformRandom(~key) - 1) / 0.408;
     const double position = settings.linePosition + settings.lineStep * line + settings.lineJitter * jitter;
     const double period = SceneCanvas::lineScanPeriod(m_model);

@@ -98,6 +98,14 @@ TEST(NodeErrorTest, nodesWithErrorsAreNotAvailable)
     }
 }
 
+TEST(NodeErrorTest, missingNodesDoNotEndTheProcess)
+{
+    NodeMapHarness camera({"Group", "Start"},
+        element("Category", "Group", "<pValue>Nowhere</pValue>")
+            + element("Command", "Start", "<pValue>Reg</pValue>") + element("IntReg", "Reg", registerAt(0)));
+    EXPECT_FALSE(camera.map->execute("Start")) << "there is no command value";
+}
+
 TEST(NodeErrorTest, cyclesAmongConditionsLimitsAndSelectorsAreHarmless)
 {
     const char *const references[]

@@ -182,6 +182,35 @@ TEST(NodeStateTest, limitsAreTheNarrowestOnTheWayToTheRegister)
     EXPECT_EQ(camera.state("Free").increment, NodeValue());
 }
 
+TEST(NodeStateTest, converterOfAnUnlimitedValueHasNoLimits)
+{
+    const std::string formulas = "<FormulaTo>FROM * 2</FormulaTo><FormulaFrom>TO / 2</FormulaFrom>";
+    NodeMapHarness camera({"Real", "Whole"},
+        element("Converter", "Real", formulas + "<pValue>Float</pValue>")
+            + element("IntConverter", "Whole", formulas + "<pValue>Integer</pValue>")
+            + element("Float", "Float", "<Value>3</Value>")
+            + element("Integer", "Integer", "<Value>3</Value>"));
+    for (const char *name : {"Real", "Whole"}) {
+        const NodeState state = camera.state(name);
+        EXPECT_EQ(state.minimum, NodeValue()) << name;
+        EXPECT_EQ(state.maximum, NodeValue()) << name;
+    }
+}
+
+TEST(NodeStateTest, integerConverterComputesWithDoubles)
+{
+    NodeMapHarness camera({"Converter"},
+        element("IntConverter", "Converter",
+            "<FormulaTo>FROM</FormulaTo><FormulaFrom>FLOOR(TO * 1.5)</FormulaFrom><pValue>Reg</pValue>")
+            + element("IntReg", "Reg", registerAt(0, 8)));
+    camera.port.bytes[0] = 3;
+    EXPECT_EQ(camera.read("Converter"), integer(4));
+    camera.port.bytes[7] = 0x40; // A double does not hold all digits of such a number.
+    EXPECT_NE(camera.state("Converter").problem.find("too large"), std::string::npos);
+    EXPECT_NE(camera.writeFailure("Converter", integer((std::int64_t(1) << 53) + 1)).text.find("too large"),
+        std::string::npos);
+}
+
 TEST(NodeStateTest, limitThatCannotBeReadDoesNotHideTheValue)
 {
     const std::string nodes = element("Integer", "Width", "<pMax>Broken</pMax><Value>3</Value>")

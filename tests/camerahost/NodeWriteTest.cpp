@@ -121,6 +121,16 @@ TEST(NodeWriteTest, acceptedValuesReachTheRegisters)
     }
 }
 
+TEST(NodeWriteTest, limitBetweenTwoIntegersIsRounded)
+{
+    NodeMapHarness camera({"Width"},
+        element("Integer", "Width", "<pMin>Min</pMin><Inc>2</Inc><pValue>Reg</pValue>")
+            + element("Float", "Min", "<Value>15.5</Value>") + element("IntReg", "Reg", registerAt(0)));
+    camera.write("Width", integer(18));
+    EXPECT_EQ(camera.port.bytes[0], 18);
+    EXPECT_NE(camera.writeFailure("Width", integer(17)).text.find("16 and 18"), std::string::npos);
+}
+
 TEST(NodeWriteTest, floatsMayDeviateByThePrecisionOfTheRegister)
 {
     const std::string nodes = element("Float", "Gain", "<pMin>Limit</pMin><pMax>Limit</pMax><Value>0</Value>")

@@ -74,8 +74,9 @@ TEST_F(DeviceNotifierTest, slowObserverGetsChangedNodesTogether)
     notifier.add(observer);
     for (int i = 0; i < 100; ++i)
         notifier.nodesChanged({"Width", "Height"});
-    std::thread([&] { notifier.remove(slow); }).detach();
+    std::thread removing([&] { notifier.remove(slow); });
     mayReturn.set_value();
+    removing.join();
     notifier.close();
     EXPECT_EQ(observer->calls(), (Lines{"nodes Height Width", "state 3 "}));
 }

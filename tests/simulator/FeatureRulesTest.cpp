@@ -146,6 +146,8 @@ TEST(AutomaticControl, gainHelpsWhenTheExposureIsAsLongAsTheFrame)
 TEST(AutomaticControl, whiteBalanceMakesTheColorsEqual)
 {
     RegisterBank bank = powerOnRegisters(smallModel());
+    bank.setReal(Id::BalanceRatio, 1, 0);
+    bank.setReal(Id::BalanceRatio, 1, 2);
     bank.setInteger(Id::BalanceWhiteAuto, autoOnce);
     adjustAutomatics(bank, {0.3, {0.2, 0.3, 0.6}});
     EXPECT_DOUBLE_EQ(bank.real(Id::BalanceRatio, 0), 1.5);

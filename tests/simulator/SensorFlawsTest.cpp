@@ -166,7 +166,7 @@ double sharpestPosition(SceneRenderer &renderer, RenderSettings settings, int x,
 {
     double best = 0;
     double bestSharpness = 0;
-    for (settings.focusPosition = 400; settings.focusPosition <= 600; settings.focusPosition += 10) {
+    for (settings.focusPosition = 440; settings.focusPosition <= 560; settings.focusPosition += 10) {
         const double value = sharpness(render(renderer, settings), x, y, width, height);
         if (value > bestSharpness) {
             best = settings.focusPosition;

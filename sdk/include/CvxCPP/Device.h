@@ -105,10 +105,10 @@ public:
     virtual CvxResult GetStatistics(StreamStatistics &statistics) const = 0;
 
     /// Stops the camera and the stream. Images that the program holds stay valid. Also succeeds if the stream
-    /// is stopped already, or if the camera is lost. Returns CvxErrorDevice if the camera or the producer
-    /// reports a failure; the stream has ended nevertheless. Blocks for at most 3 s; if the producer has not
-    /// stopped by then, its process is killed, the device is opened again without the stream, and the
-    /// function returns CvxErrorTimeout.
+    /// is stopped already, or if the camera is lost. Failures of the camera and of the producer are ignored,
+    /// because the stream has ended nevertheless. Blocks for at most 3 s. If the producer hangs, its process
+    /// is ended, and the device is opened again without the stream; if the hang was not noticed before the
+    /// 3 s were over, the function returns CvxErrorTimeout.
     virtual CvxResult Stop() = 0;
 };
 
@@ -119,7 +119,7 @@ public:
 /// - CvxErrorNotFound if there is no node of this name;
 /// - CvxErrorDevice if the camera or the producer reports a failure;
 /// - CvxErrorTimeout if the camera has not answered within 5 s: its process is killed, and the device is
-/// lost.
+///   lost; or, without any further effect, if other calls have occupied the camera for so long.
 class CVXCPP_API Device
 {
 public:
@@ -139,13 +139,15 @@ public:
 
     /// Writes the value of a node. Integers are accepted for floats. Returns CvxErrorWrongType if the value
     /// is of another type, CvxErrorOutOfRange if it is beyond the limits, between two increments, not an
-    /// available entry or too long, or CvxErrorNotWritable if the node is read-only or locked; the text says
-    /// why. Blocks for at most 5 s. The observers are then notified of all nodes that depend on this one.
+    /// available entry or of the wrong length, CvxErrorInvalidParameter for a string with a zero byte,
+    /// CvxErrorNotAvailable if the camera does not have the node at present, or CvxErrorNotWritable if the
+    /// node is read-only or locked; the text says why. Blocks for at most 5 s. The observers are then
+    /// notified of all nodes that depend on this one.
     virtual CvxResult Write(const std::string &name, const NodeValue &value) = 0;
 
     /// Executes a command and returns when the camera has accepted it; NodeState::isCommandDone tells when it
-    /// is done. Returns CvxErrorWrongType if the node is no command, or CvxErrorNotWritable. Blocks for at
-    /// most 5 s.
+    /// is done. Returns CvxErrorWrongType if the node is no command, CvxErrorNotAvailable if the camera does
+    /// not have it at present, or CvxErrorNotWritable. Blocks for at most 5 s.
     virtual CvxResult Execute(const std::string &name) = 0;
 
     /// Reads a value as text, or writes a text as the value: integers decimal or, with "0x", hexadecimal;
@@ -178,8 +180,10 @@ public:
     /// Starts the stream with this number of buffers, 2 to 256, or more if the producer needs more. Locks the
     /// features that must not change during a stream, then starts the camera. Returns CvxErrorAlreadyStarted
     /// if a stream of this device runs, CvxErrorNotWritable if the device was opened with CvxAccessWatch,
-    /// CvxErrorNotAvailable if the camera has no stream, CvxErrorInvalidParameter, CvxErrorDevice, or
-    /// CvxErrorFailed if there is no memory for the buffers. Blocks for at most 10 s.
+    /// CvxErrorNotAvailable if the camera has no stream, CvxErrorInUse if another program uses the stream,
+    /// CvxErrorNotFound if the producer does not know the stream any more, CvxErrorInvalidParameter,
+    /// CvxErrorDevice, CvxErrorFailed if there is no memory for the buffers, or CvxErrorTimeout if the camera
+    /// has not answered in time: its process is killed, and the device is lost. Blocks for at most 10 s.
     virtual CvxResult StartStream(unsigned buffers, StreamPolicy policy, std::shared_ptr<Stream> &stream) = 0;
 
     /// Registers an observer, which the device keeps until it is removed or the device is closed. Returns
