@@ -157,6 +157,8 @@ void AravisImages::bufferDone(ArvBuffer *buffer)
 
     lock.lock();
     ++m_done;
+    if (m_isStreaming)
+        pushFreeBuffers(); // A flush may have sent the buffer back to the input pool.
     m_imageDone.notify_all();
 }
 

@@ -87,6 +87,18 @@ TEST_F(AravisCameraTest, imagesArriveInTheBuffersOfTheQueue)
     }
 }
 
+TEST_F(AravisCameraTest, flushedBuffersAreFilledAgain)
+{
+    TestBuffers pool(3, source.payloadSize());
+    source.start(pool);
+    ASSERT_EQ(pool.taken(), 3U);
+    pool.flushTaken();
+    writeNumber(camera, FakeCameraRegister::acquisition, 1);
+    EXPECT_TRUE(pool.await());
+    source.stop(true);
+    EXPECT_EQ(pool.taken(), 0U);
+}
+
 TEST_F(AravisCameraTest, lossIsReportedOnce)
 {
     int losses = 0;
