@@ -13,7 +13,8 @@
 class SimulatedImages final : public ImageSource
 {
 public:
-    SimulatedImages(RegisterFile &registers, const CameraModel &model);
+    /// @param access How the consumer has opened the camera.
+    SimulatedImages(RegisterFile &registers, const CameraModel &model, GenTL::DEVICE_ACCESS_FLAGS access);
     ~SimulatedImages() override;
 
     std::size_t payloadSize() const override;
@@ -37,6 +38,7 @@ private:
 
     RegisterFile &m_registers;
     const bool m_isBigEndianLink;
+    const bool m_isController; // Only the controller may change registers.
     std::thread m_thread;
     std::atomic<bool> m_isStopping{false};
     std::atomic<bool> m_isLost{false};

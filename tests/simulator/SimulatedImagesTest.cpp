@@ -95,6 +95,22 @@ TEST_F(SimulatedImagesTest, acquisitionEndsAfterItsImages)
     EXPECT_EQ(next().info.frameId, 1U);
 }
 
+TEST_F(SimulatedImagesTest, streamOfAWatcherChangesNoRegisters)
+{
+    camera.set(Id::AcquisitionMode, multiFrame);
+    camera.set(Id::AcquisitionFrameCount, 2);
+    camera.setReal(Id::ExposureTime, 50);
+    camera.set(Id::ExposureAuto, autoOnce);
+    TestCamera watcher(folder, smallModel(), watch);
+    watcher.images().start(queue);
+    camera.execute(Id::AcquisitionStart);
+    queue.next(watcher.images());
+    queue.next(watcher.images());
+    watcher.images().stop(false);
+    EXPECT_EQ(camera.real(Id::ExposureTime), 50);
+    EXPECT_EQ(camera.integer(Id::AcquisitionActive), 1);
+}
+
 TEST_F(SimulatedImagesTest, eachSoftwareTriggerTakesOneImage)
 {
     camera.set(Id::TriggerMode, 1, frameStartTrigger);
