@@ -101,7 +101,6 @@ bool SimulatedImages::takeImage(BufferQueue &queue, std::int64_t now)
         queue.deliver(*buffer, image);
     } else {
         m_sequence.imageTaken(now);
-        ++m_lost;
         queue.countUnderrun(1);
     }
     if (m_isController && m_sequence.isFinished())

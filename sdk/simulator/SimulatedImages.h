@@ -23,7 +23,7 @@ public:
     void stop(bool isImmediate) override;
     void bufferQueued() override { m_registers.wakeCounter().wake(); }
     std::uint64_t startedImages() const override { return m_started; }
-    std::uint64_t lostImages() const override { return m_lost; }
+    std::uint64_t lostImages() const override { return 0; } // Missing images are underruns.
 
     /// Called when the camera is lost: no more images are taken.
     void cameraLost();
@@ -43,7 +43,6 @@ private:
     std::atomic<bool> m_isStopping{false};
     std::atomic<bool> m_isLost{false};
     std::atomic<std::uint64_t> m_started{0};
-    std::atomic<std::uint64_t> m_lost{0};
 
     // Used only by the thread.
     AcquisitionSequence m_sequence;

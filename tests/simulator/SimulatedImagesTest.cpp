@@ -189,7 +189,7 @@ TEST_F(SimulatedImagesTest, missingBuffersAreUnderruns)
     while (empty.underruns() < 3) // The test has a time limit.
         std::this_thread::yield();
     camera.images().stop(false);
-    EXPECT_EQ(camera.images().lostImages(), empty.underruns());
+    EXPECT_EQ(camera.images().lostImages(), 0U);
     EXPECT_EQ(camera.images().startedImages(), empty.underruns());
     camera.images().start(queue);
     EXPECT_GT(next().info.frameId, 3U);
