@@ -82,6 +82,9 @@ void SimulatedImages::updateSettings(std::int64_t now)
 {
     m_changes = m_registers.changes();
     const RegisterBank bank = m_registers.load();
+    // Half of a change may have been read. The thread is woken after the change, and reads again.
+    if (*m_changes % 2 != 0 || *m_changes != m_registers.changes())
+        return;
     if (!hasSameSettings(bank, m_bank))
         m_pictures.update(sceneSettings(bank));
     m_bank = bank;
