@@ -33,7 +33,7 @@ const KindOfCamera kindsOfCameras[] = {
     {"AreaScan", keysOf(false, false, 1), "U3V"},
     {"AreaScanColor", keysOf(true, false, 1), "GEV"},
     {"LineScan", keysOf(false, true, 1), "CLHS"},
-    {"LineScanColorTaps", keysOf(true, true, 2), "CL"},
+    {"LineScanTaps", keysOf(false, true, 2), "CL"},
     {"AreaScanTaps", keysOf(false, false, 4), "CL"},
 };
 
