@@ -119,6 +119,17 @@ TEST_P(DescriptionTest, limitsOfTheRegionDependOnBinningAndOffset)
     EXPECT_EQ(nodes.value("OffsetX"), "16");
 }
 
+TEST_P(DescriptionTest, binningComesBeforeTheRegionThatItScales)
+{
+    const std::vector<std::string> features = nodes.features();
+    const auto position = [&](const char *name) { return std::find(features.begin(), features.end(), name); };
+    EXPECT_LT(position("BinningHorizontal"), position("Width"));
+    EXPECT_EQ(position("BinningVertical") == features.end(), GetParam().keys.isLineScan);
+    if (!*GetParam().keys.isLineScan) {
+        EXPECT_LT(position("BinningVertical"), position("Width"));
+    }
+}
+
 TEST_P(DescriptionTest, lockedFeaturesAreLockedInBoth)
 {
     EXPECT_TRUE(nodes.setNumber("TLParamsLocked", 1));
