@@ -40,15 +40,14 @@ AcquisitionSequence::AcquisitionSequence(const RegisterFile &registers)
 
 void AcquisitionSequence::update(const RegisterBank &bank, std::int64_t now)
 {
-    const bool hadTriggers = hasTriggers();
     m_startTrigger.update(bank);
-    m_frameTrigger.update(bank);
-    m_lineTrigger.update(bank);
+    const bool isFrameChanged = m_frameTrigger.update(bank);
+    const bool isLineChanged = m_lineTrigger.update(bank);
     m_imageLimit = imageLimit(bank);
     m_lines = static_cast<std::uint32_t>(bank.integer(Id::Height));
     m_imageTime = imageTime(bank);
     m_clock.setPeriod(imagePeriod(bank), now);
-    if (!hadTriggers || !hasTriggers()) { // A trigger that was taken keeps its image.
+    if (isFrameChanged || isLineChanged || !hasTriggers()) { // Otherwise, a taken trigger keeps its image.
         m_frameStart.reset();
         m_imageEnd.reset();
     }

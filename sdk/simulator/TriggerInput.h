@@ -12,8 +12,9 @@ public:
     /// @param trigger One of the values of TriggerSelector.
     TriggerInput(const RegisterFile &registers, std::size_t trigger);
 
-    /// Takes over the settings.
-    void update(const RegisterBank &bank);
+    /// Takes over the settings. Returns true if the triggers are on or were on, and come from another
+    /// signal than before.
+    bool update(const RegisterBank &bank);
 
     bool isOn() const { return m_isOn; }
 
@@ -26,6 +27,8 @@ public:
     void discard();
 
 private:
+    void updateSource(const RegisterBank &bank);
+
     const RegisterFile &m_registers;
     const std::size_t m_trigger;
     bool m_isOn = false;
