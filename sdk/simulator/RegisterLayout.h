@@ -80,9 +80,9 @@ enum class RegisterUse
     X(AcquisitionStop, Integer, 1, Command, "", "") \
     X(AcquisitionFrameCount, Integer, 1, Setting, "", "") \
     X(AcquisitionFrameRateEnable, Integer, 1, Setting, "", "") \
-    X(AcquisitionFrameRate, Float, 1, Setting, "", "ExposureTime") \
+    X(AcquisitionFrameRate, Float, 1, Setting, "", "*") \
     X(AcquisitionLineRateEnable, Integer, 1, Setting, "", "") \
-    X(AcquisitionLineRate, Float, 1, Setting, "", "ExposureTime") \
+    X(AcquisitionLineRate, Float, 1, Setting, "", "*") \
     X(AcquisitionActive, Integer, 1, Status, "", "") \
     X(AcquisitionStarts, Long, 1, Internal, "", "") \
     X(UsedPulses, Integer, 5, Internal, "", "") \
