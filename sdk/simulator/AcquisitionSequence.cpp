@@ -40,7 +40,7 @@ AcquisitionSequence::AcquisitionSequence(const RegisterFile &registers)
 
 void AcquisitionSequence::update(const RegisterBank &bank, std::int64_t now)
 {
-    m_startTrigger.update(bank);
+    const bool isStartChanged = m_startTrigger.update(bank);
     const bool isFrameChanged = m_frameTrigger.update(bank);
     const bool isLineChanged = m_lineTrigger.update(bank);
     m_imageLimit = imageLimit(bank);
@@ -52,7 +52,8 @@ void AcquisitionSequence::update(const RegisterBank &bank, std::int64_t now)
         m_imageEnd.reset();
     }
     m_isActive = bank.isOn(Id::AcquisitionActive);
-    if (m_isActive && m_starts != bank.integer(Id::AcquisitionStarts))
+    const bool isStartOutdated = isStartChanged && m_images == 0 && m_readyTime > now;
+    if (m_isActive && (isStartOutdated || m_starts != bank.integer(Id::AcquisitionStarts)))
         restart(now);
     m_starts = bank.integer(Id::AcquisitionStarts);
 }

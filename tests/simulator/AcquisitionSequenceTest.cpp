@@ -185,6 +185,19 @@ TEST_F(AcquisitionSequenceTest, triggerOfTheAcquisitionReleasesAllImages)
     EXPECT_EQ(sequence.nextImage(), *first + oneSecond / 25);
 }
 
+TEST_F(AcquisitionSequenceTest, acquisitionStartsWithoutTheEdgeOfAnOldSignal)
+{
+    RegisterBank bank = registersWith({}, {{Id::ExposureTime, 20'000}});
+    bank.setInteger(Id::TriggerMode, 1, acquisitionStartTrigger);
+    bank.setInteger(Id::TriggerSource, line0Source, acquisitionStartTrigger);
+    bank.setReal(Id::LineSignalFrequency, 0.01, 0);
+    update(bank, 1001 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 100 * oneSecond);
+    bank.setInteger(Id::TriggerMode, 0, acquisitionStartTrigger);
+    update(bank, 1002 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 1002 * oneMillisecond);
+}
+
 TEST_F(AcquisitionSequenceTest, imageOfALineScanCameraNeedsATriggerForEachLine)
 {
     RegisterBank bank
