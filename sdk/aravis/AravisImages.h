@@ -16,7 +16,9 @@ class AravisImages final : public ImageSource
 public:
     /// @param device Outlives this object.
     /// @param prepare Called at each start, before the stream is set up.
-    AravisImages(ArvDevice &device, ChunkByteOrder byteOrder, std::function<void()> prepare);
+    /// @param requireConnection Called before the camera is asked; throws if it is lost.
+    AravisImages(ArvDevice &device, ChunkByteOrder byteOrder, std::function<void()> prepare,
+        std::function<void()> requireConnection);
     ~AravisImages() override;
 
     std::size_t payloadSize() const override;
@@ -36,6 +38,7 @@ private:
     ArvDevice &m_device;
     const ChunkByteOrder m_byteOrder;
     const std::function<void()> m_prepare;
+    const std::function<void()> m_requireConnection;
     mutable std::mutex m_featureMutex; // libaravis evaluates the features of a device without a lock.
 
     // Guards the members below. It is locked while buffers are taken from the queue, so a queue must not call

@@ -109,6 +109,7 @@ TEST_F(AravisCameraTest, lossIsReportedOnce)
     EXPECT_EQ(losses, 1);
     EXPECT_EQ(camera.accessStatus(), DEVICE_ACCESS_STATUS_NOACCESS);
     EXPECT_EQ(errorOf([&] { readNumber(camera, FakeCameraRegister::width); }), GC_ERR_IO);
+    EXPECT_EQ(errorOf([&] { source.payloadSize(); }), GC_ERR_IO);
 }
 
 TEST_F(AravisCameraTest, lossBeforeTheHandlerIsSetIsReported)
