@@ -62,7 +62,7 @@ enum class RegisterUse
     X(SensorWidth, Integer, 1, Constant, "", "") \
     X(SensorHeight, Integer, 1, Constant, "", "") \
     X(IsColor, Integer, 1, Internal, "", "") \
-    X(TapCount, Integer, 1, Constant, "", "") \
+    X(TapCount, Integer, 1, Internal, "", "") \
     X(BinningHorizontalMode, Integer, 1, Setting, "", "") \
     X(BinningHorizontal, Integer, 1, Locked, "", "") \
     X(BinningVertical, Integer, 1, Locked, "", "") \
