@@ -49,10 +49,10 @@ private:
     BufferQueue *m_queue = nullptr;
     std::map<const ArvBuffer *, BufferQueue::Buffer> m_taken; // The buffers that libaravis has.
     std::uint64_t m_started = 0; // Images.
-    std::uint64_t m_done = 0; // Of the started images.
+    std::uint64_t m_done = 0; // Number of started images that have ended.
     std::condition_variable m_imageDone;
     FilledImage m_configured; // At the last start.
     FrameGaps m_gaps;
     std::uint64_t m_lost = 0; // Images.
-    std::uint64_t m_packetsWithoutBuffer = 0; // As of the previous image.
+    std::uint64_t m_packetsWithoutBuffer = 0; // libaravis's count when the previous image arrived.
 };

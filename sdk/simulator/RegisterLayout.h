@@ -145,7 +145,7 @@ struct RegisterInfo
     RegisterUse use;
     std::string_view selector; ///< Name of the register that selects the element; empty if there is none.
     std::string_view invalidator; ///< Name of a register; "*" if the camera changes the register.
-    std::size_t offset = 0; ///< Of the first element, in bytes from the start of the registers.
+    std::size_t offset = 0; ///< Offset of the first element, in bytes from the start of the registers.
 
     std::size_t elementSize() const { return type == RegisterType::Text ? 64 : 8; } ///< With padding.
     std::size_t valueSize() const { return type == RegisterType::Integer ? 4 : elementSize(); }

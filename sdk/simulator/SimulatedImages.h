@@ -47,6 +47,6 @@ private:
     // Used only by the thread.
     AcquisitionSequence m_sequence;
     PictureSource m_pictures;
-    std::optional<std::uint32_t> m_changes; // Of the registers, when m_bank was read.
+    std::optional<std::uint32_t> m_changes; // RegisterFile::changes() when m_bank was read.
     RegisterBank m_bank;
 };
