@@ -47,7 +47,8 @@ void awaitSoleOwnership(ArvDevice *device)
 AravisCamera::AravisCamera(GObjectPointer<ArvDevice> device, std::string name, ChunkByteOrder byteOrder)
     : m_name(std::move(name)),
       m_device(std::move(device)),
-      m_images(*m_device, byteOrder, [this] { prepareStream(); })
+      m_images(
+          *m_device, byteOrder, [this] { prepareStream(); }, [this] { requireConnection(); })
 {
     const std::lock_guard lock(connectionMutex);
     g_signal_connect(m_device.get(), "control-lost", G_CALLBACK(&AravisCamera::handleControlLost), this);

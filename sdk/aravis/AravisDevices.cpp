@@ -62,6 +62,7 @@ GObjectPointer<ArvDevice> openDevice(const FoundDevice &device)
 {
     keepAravisLoaded();
     const std::lock_guard lock(interfaceMutex);
+    const std::lock_guard parserLock(aravisParserMutex());
     AravisError error;
     GObjectPointer<ArvDevice> opened(
         arv_interface_open_device(arv_uv_interface_get_instance(), device.id.c_str(), error.receiver()));

@@ -40,8 +40,12 @@ void raisePriority()
 
 } // namespace
 
-AravisImages::AravisImages(ArvDevice &device, ChunkByteOrder byteOrder, std::function<void()> prepare)
-    : m_device(device), m_byteOrder(byteOrder), m_prepare(std::move(prepare))
+AravisImages::AravisImages(ArvDevice &device, ChunkByteOrder byteOrder, std::function<void()> prepare,
+    std::function<void()> requireConnection)
+    : m_device(device),
+      m_byteOrder(byteOrder),
+      m_prepare(std::move(prepare)),
+      m_requireConnection(std::move(requireConnection))
 { }
 
 AravisImages::~AravisImages()
@@ -51,6 +55,7 @@ AravisImages::~AravisImages()
 
 std::size_t AravisImages::payloadSize() const
 {
+    m_requireConnection();
     const std::lock_guard lock(m_featureMutex);
     AravisError error;
     const gint64 size = arv_device_get_integer_feature_value(&m_device, "PayloadSize", error.receiver());
@@ -157,6 +162,8 @@ void AravisImages::bufferDone(ArvBuffer *buffer)
 
     lock.lock();
     ++m_done;
+    if (m_isStreaming)
+        pushFreeBuffers(); // A flush may have sent the buffer back to the input pool.
     m_imageDone.notify_all();
 }
 

@@ -16,7 +16,9 @@ class AravisImages final : public ImageSource
 public:
     /// @param device Outlives this object.
     /// @param prepare Called at each start, before the stream is set up.
-    AravisImages(ArvDevice &device, ChunkByteOrder byteOrder, std::function<void()> prepare);
+    /// @param requireConnection Called before the camera is asked; throws if it is lost.
+    AravisImages(ArvDevice &device, ChunkByteOrder byteOrder, std::function<void()> prepare,
+        std::function<void()> requireConnection);
     ~AravisImages() override;
 
     std::size_t payloadSize() const override;
@@ -36,6 +38,7 @@ private:
     ArvDevice &m_device;
     const ChunkByteOrder m_byteOrder;
     const std::function<void()> m_prepare;
+    const std::function<void()> m_requireConnection;
     mutable std::mutex m_featureMutex; // libaravis evaluates the features of a device without a lock.
 
     // Guards the members below. It is locked while buffers are taken from the queue, so a queue must not call
@@ -46,10 +49,10 @@ private:
     BufferQueue *m_queue = nullptr;
     std::map<const ArvBuffer *, BufferQueue::Buffer> m_taken; // The buffers that libaravis has.
     std::uint64_t m_started = 0; // Images.
-    std::uint64_t m_done = 0; // Of the started images.
+    std::uint64_t m_done = 0; // Number of started images that have ended.
     std::condition_variable m_imageDone;
     FilledImage m_configured; // At the last start.
     FrameGaps m_gaps;
     std::uint64_t m_lost = 0; // Images.
-    std::uint64_t m_packetsWithoutBuffer = 0; // As of the previous image.
+    std::uint64_t m_packetsWithoutBuffer = 0; // libaravis's count when the previous image arrived.
 };

@@ -17,5 +17,5 @@ public:
     std::uint64_t expectedId() const;
 
 private:
-    std::optional<std::uint64_t> m_last; // Of the images that were not late.
+    std::optional<std::uint64_t> m_last; // ID of the last image that was not late.
 };

@@ -49,9 +49,7 @@ GObjectPointer<ArvDevice> openWithAravis(const CameraPlace &place)
     keepAravisLoaded();
     const auto interfaceAddress = toGlib(place.interfaceAddress);
     const auto cameraAddress = toGlib(place.cameraAddress);
-    // libaravis parses the register description, which it cannot do in two threads at the same time.
-    static std::mutex parserMutex;
-    const std::lock_guard lock(parserMutex);
+    const std::lock_guard lock(aravisParserMutex());
     AravisError error;
     GObjectPointer<ArvDevice> device(
         arv_gv_device_new(interfaceAddress.get(), cameraAddress.get(), error.receiver()));

@@ -11,7 +11,7 @@
 struct CameraPlace
 {
     std::string name; ///< The camera's name in the texts of errors.
-    std::uint32_t interfaceAddress = 0; ///< Of this machine.
+    std::uint32_t interfaceAddress = 0; ///< Address of this machine.
     std::uint32_t cameraAddress = 0;
 };
 

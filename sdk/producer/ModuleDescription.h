@@ -13,7 +13,7 @@ std::size_t registerSize(const ModuleFeature &feature);
 
 struct RegisterPlace
 {
-    std::size_t index; ///< Of the feature.
+    std::size_t index; ///< Index of the feature.
     std::uint64_t offset; ///< From the start of the register; may be past its end.
 };
 

@@ -10,7 +10,7 @@
 class ModulePort final : public Port
 {
 public:
-    /// `describe` returns what the module is; the version is that of the producer.
+    /// `description` says what the module is; its version is that of the producer.
     ModulePort(PortDescription description, std::vector<ModuleFeature> features);
 
     PortDescription description() const override { return m_description; }

@@ -61,7 +61,8 @@ public:
         std::size_t size; ///< Bytes.
     };
 
-    /// Takes the next buffer from the input pool for filling. Returns nothing if the pool is empty.
+    /// Takes the next buffer from the input pool for filling. Returns nothing if the pool is empty. A source
+    /// may take buffers ahead; a flush reaches them only when they are filled, or after stop().
     virtual std::optional<Buffer> take() = 0;
 
     /// Passes a filled buffer on to the consumer.

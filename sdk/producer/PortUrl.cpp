@@ -1,6 +1,7 @@
 #include "sdk/producer/PortUrl.h"
 
 #include <charconv>
+#include <cstdio>
 #include <cstring>
 #include <strings.h>
 #include <utility>
@@ -24,6 +25,15 @@ std::optional<std::uint64_t> parseHexadecimal(const std::string &text)
     return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
 }
 
+/// Reads a suffix like "?SchemaVersion=1.1.0".
+std::optional<PortUrl::Version> parseSchemaVersion(const char *suffix)
+{
+    int major = 0, minor = 0, subminor = 0;
+    if (std::sscanf(suffix, "%*[^=]=%d.%d.%d", &major, &minor, &subminor) < 2)
+        return std::nullopt;
+    return PortUrl::Version{major, minor, subminor};
+}
+
 std::vector<std::string> split(const std::string &text, char separator)
 {
     std::vector<std::string> parts(1);
@@ -41,13 +51,16 @@ std::vector<std::string> split(const std::string &text, char separator)
 PortUrl PortUrl::parse(const std::string &url)
 {
     PortUrl result;
-    result.url = url;
-    std::string place = url;
+    const char *const suffix = strcasestr(url.c_str(), "?SchemaVersion=");
+    result.url = suffix ? std::string(url.c_str(), suffix) : url;
+    if (suffix)
+        result.schemaVersion = parseSchemaVersion(suffix);
+    std::string place = result.url;
     for (const auto &[prefix, scheme] : schemes) {
         if (strncasecmp(url.c_str(), prefix, std::strlen(prefix)) != 0)
             continue;
         result.scheme = scheme;
-        place = url.substr(std::strlen(prefix));
+        place = result.url.substr(std::strlen(prefix));
     }
     const std::vector<std::string> parts = split(place, ';');
     result.fileName = parts[0].substr(parts[0].find_last_of('/') + 1);

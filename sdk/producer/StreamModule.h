@@ -7,8 +7,7 @@
 
 #include <atomic>
 
-/// An open data stream, which a DS_HANDLE identifies. No function waits for an access to the camera's
-/// registers.
+/// An open data stream, which a DS_HANDLE identifies. start() and info() may wait for the camera.
 class StreamModule final : public Module
 {
 public:

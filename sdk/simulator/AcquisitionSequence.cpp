@@ -40,20 +40,20 @@ AcquisitionSequence::AcquisitionSequence(const RegisterFile &registers)
 
 void AcquisitionSequence::update(const RegisterBank &bank, std::int64_t now)
 {
-    const bool hadTriggers = hasTriggers();
-    m_startTrigger.update(bank);
-    m_frameTrigger.update(bank);
-    m_lineTrigger.update(bank);
+    const bool isStartChanged = m_startTrigger.update(bank);
+    const bool isFrameChanged = m_frameTrigger.update(bank);
+    const bool isLineChanged = m_lineTrigger.update(bank);
     m_imageLimit = imageLimit(bank);
     m_lines = static_cast<std::uint32_t>(bank.integer(Id::Height));
     m_imageTime = imageTime(bank);
     m_clock.setPeriod(imagePeriod(bank), now);
-    if (!hadTriggers || !hasTriggers()) { // A trigger that was taken keeps its image.
+    if (isFrameChanged || isLineChanged || !hasTriggers()) { // Otherwise, a taken trigger keeps its image.
         m_frameStart.reset();
         m_imageEnd.reset();
     }
     m_isActive = bank.isOn(Id::AcquisitionActive);
-    if (m_isActive && m_starts != bank.integer(Id::AcquisitionStarts))
+    const bool isStartOutdated = isStartChanged && m_images == 0 && m_readyTime > now;
+    if (m_isActive && (isStartOutdated || m_starts != bank.integer(Id::AcquisitionStarts)))
         restart(now);
     m_starts = bank.integer(Id::AcquisitionStarts);
 }

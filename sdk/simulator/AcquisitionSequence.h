@@ -47,9 +47,9 @@ private:
     AcquisitionClock m_clock;
 
     bool m_isActive = false;
-    std::int64_t m_starts = 0; // Of acquisitions, since power-on.
+    std::int64_t m_starts = 0; // Number of acquisitions since power-on.
     std::uint64_t m_imageLimit = 0; // 0: no limit.
-    std::uint32_t m_lines = 1; // Of an image.
+    std::uint32_t m_lines = 1; // Lines in an image.
     std::int64_t m_imageTime = 0; // From the start of a triggered image to its end.
 
     std::uint64_t m_images = 0;

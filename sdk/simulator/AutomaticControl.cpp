@@ -2,6 +2,7 @@
 
 #include "sdk/simulator/EnumerationValues.h"
 #include "sdk/simulator/FeatureLimits.h"
+#include "sdk/simulator/FeatureRules.h"
 #include "sdk/simulator/PixelPacking.h"
 
 #include <algorithm>
@@ -84,6 +85,7 @@ bool adjustExposure(RegisterBank &bank, double factor)
     const double wanted
         = std::clamp(old * factor, realLimits(bank, Id::ExposureTime).min, longestExposure(bank));
     bank.setReal(Id::ExposureTime, wanted);
+    limitRates(bank);
     return wanted != old;
 }
 

@@ -34,7 +34,7 @@ std::size_t chunkOverhead(const RegisterBank &bank)
 {
     if (!bank.isOn(RegisterId::ChunkModeActive))
         return 0;
-    std::size_t size = trailerSize; // Of the image.
+    std::size_t size = trailerSize; // The trailer of the image.
     for (std::size_t chunk = chunkImage + 1; chunk < chunkCount; ++chunk)
         if (bank.isOn(RegisterId::ChunkEnable, chunk))
             size += valueSize + trailerSize;

@@ -84,13 +84,6 @@ void scaleRegion(RegisterBank &bank, const Region &region, std::int64_t oldBinni
     bank.setInteger(region.offset, std::min(scaled(region.offset), sizeMax - size));
 }
 
-/// Reduces rates that the exposure time does not allow any more.
-void limitRates(RegisterBank &bank)
-{
-    for (const RegisterId id : {Id::AcquisitionFrameRate, Id::AcquisitionLineRate})
-        bank.setReal(id, std::min(bank.real(id), realLimits(bank, id).max));
-}
-
 } // namespace
 
 void checkCommand(const RegisterBank &bank, const RegisterInfo &info)
@@ -113,6 +106,12 @@ void writeRegister(
         limitRates(changed);
     updatePayloadSize(changed);
     bank = changed;
+}
+
+void limitRates(RegisterBank &bank)
+{
+    for (const RegisterId id : {Id::AcquisitionFrameRate, Id::AcquisitionLineRate})
+        bank.setReal(id, std::min(bank.real(id), realLimits(bank, id).max));
 }
 
 void updatePayloadSize(RegisterBank &bank)

@@ -17,5 +17,8 @@ void writeRegister(
 /// Throws GenTlError if a command must not be executed now.
 void checkCommand(const RegisterBank &bank, const RegisterInfo &info);
 
+/// Reduces rates that the exposure time does not allow any more.
+void limitRates(RegisterBank &bank);
+
 /// Updates PayloadSize.
 void updatePayloadSize(RegisterBank &bank);

@@ -37,7 +37,7 @@ private:
     SceneRenderer m_renderer;
     RenderSettings m_settings;
     std::size_t m_imageSize = 0;
-    std::int64_t m_renderTime = 0; // Of the last rendered picture, in nanoseconds.
+    std::int64_t m_renderTime = 0; // Time that rendering the last picture took, in nanoseconds.
     std::vector<Picture> m_pictures;
     std::size_t m_pictureCount = 0; // How many pictures are repeated.
 };

@@ -41,7 +41,7 @@ void setTexts(RegisterBank &bank, const DeviceRecord &record)
     bank.setText(Id::DeviceVendorName, record.vendor);
     bank.setText(Id::DeviceModelName, record.model);
     bank.setText(Id::DeviceManufacturerInfo, "Simulated camera");
-    bank.setText(Id::DeviceVersion, "1.0");
+    bank.setText(Id::DeviceVersion, record.version);
     bank.setText(Id::DeviceFirmwareVersion, "1.0.0");
     bank.setText(Id::DeviceSerialNumber, record.serial);
     bank.setText(Id::DeviceID, record.id);

@@ -71,7 +71,7 @@ RegisterBank RegisterFile::loadFrom(const Words &words)
 {
     RegisterBank bank;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::uint64_t word = words[i].load(std::memory_order_relaxed);
+        const std::uint64_t word = words[i].load(std::memory_order_acquire);
         std::memcpy(bank.bytes() + i * sizeof word, &word, sizeof word);
     }
     return bank;
@@ -83,17 +83,19 @@ void RegisterFile::storeTo(Words &words, const RegisterBank &bank)
         std::uint64_t word = 0;
         std::memcpy(&word, bank.bytes() + i * sizeof word, sizeof word);
         if (words[i].load(std::memory_order_relaxed) != word)
-            words[i].store(word, std::memory_order_relaxed);
+            words[i].store(word, std::memory_order_release);
     }
 }
 
 RegisterBank RegisterFile::load() const
 {
+    const std::lock_guard lock(m_mutex);
     return loadFrom(m_memory->registers);
 }
 
 void RegisterFile::store(const RegisterBank &bank)
 {
+    m_memory->changes.fetch_or(1); // A killed process may have left an odd number behind.
     storeTo(m_memory->registers, bank);
     ++m_memory->changes;
     m_memory->wakeCounter.wake();

@@ -24,21 +24,22 @@ public:
     RegisterFile(const RegisterFile &) = delete;
     RegisterFile &operator=(const RegisterFile &) = delete;
 
-    /// Returns all registers.
+    /// Returns all registers. If another process changes registers meanwhile, the result may contain a part
+    /// of the changes; see changes().
     RegisterBank load() const;
 
     /// Calls change(registers) and stores the result, if it does not throw. One thread of the process at a
-    /// time.
+    /// time. `change` must not call load().
     template <typename Change>
     void update(Change change)
     {
         const std::lock_guard lock(m_mutex);
-        RegisterBank bank = load();
+        RegisterBank bank = loadFrom(m_memory->registers);
         change(bank);
         store(bank);
     }
 
-    /// Returns a number that changes with every update().
+    /// Returns a number that changes with every update(), and is odd while registers are stored.
     std::uint32_t changes() const { return m_memory->changes; }
 
     /// Returns a stored user set; nothing if it was never saved.
@@ -91,6 +92,6 @@ private:
 
     CameraFile m_file;
     const std::unique_ptr<Memory, Unmap> m_memory;
-    std::mutex m_mutex; // One thread at a time changes registers.
+    mutable std::mutex m_mutex; // One thread at a time changes registers, or loads them.
     std::uint32_t m_restarts = 0;
 };

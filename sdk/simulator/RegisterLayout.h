@@ -62,7 +62,7 @@ enum class RegisterUse
     X(SensorWidth, Integer, 1, Constant, "", "") \
     X(SensorHeight, Integer, 1, Constant, "", "") \
     X(IsColor, Integer, 1, Internal, "", "") \
-    X(TapCount, Integer, 1, Constant, "", "") \
+    X(TapCount, Integer, 1, Internal, "", "") \
     X(BinningHorizontalMode, Integer, 1, Setting, "", "") \
     X(BinningHorizontal, Integer, 1, Locked, "", "") \
     X(BinningVertical, Integer, 1, Locked, "", "") \
@@ -80,9 +80,9 @@ enum class RegisterUse
     X(AcquisitionStop, Integer, 1, Command, "", "") \
     X(AcquisitionFrameCount, Integer, 1, Setting, "", "") \
     X(AcquisitionFrameRateEnable, Integer, 1, Setting, "", "") \
-    X(AcquisitionFrameRate, Float, 1, Setting, "", "ExposureTime") \
+    X(AcquisitionFrameRate, Float, 1, Setting, "", "*") \
     X(AcquisitionLineRateEnable, Integer, 1, Setting, "", "") \
-    X(AcquisitionLineRate, Float, 1, Setting, "", "ExposureTime") \
+    X(AcquisitionLineRate, Float, 1, Setting, "", "*") \
     X(AcquisitionActive, Integer, 1, Status, "", "") \
     X(AcquisitionStarts, Long, 1, Internal, "", "") \
     X(UsedPulses, Integer, 5, Internal, "", "") \
@@ -145,7 +145,7 @@ struct RegisterInfo
     RegisterUse use;
     std::string_view selector; ///< Name of the register that selects the element; empty if there is none.
     std::string_view invalidator; ///< Name of a register; "*" if the camera changes the register.
-    std::size_t offset = 0; ///< Of the first element, in bytes from the start of the registers.
+    std::size_t offset = 0; ///< Offset of the first element, in bytes from the start of the registers.
 
     std::size_t elementSize() const { return type == RegisterType::Text ? 64 : 8; } ///< With padding.
     std::size_t valueSize() const { return type == RegisterType::Integer ? 4 : elementSize(); }

@@ -50,6 +50,6 @@ private:
     int m_margin;
     SceneNoise m_grain;
     Shapes m_shapes; // Later shapes lie on top of earlier ones.
-    Shapes m_tintedShapes; // Those that are not grey, and those that cover them.
-    std::vector<float> m_coverage; // Of the shape that is being painted.
+    Shapes m_tintedShapes; // Shapes that are not grey, and shapes that cover them.
+    std::vector<float> m_coverage; // Coverage by the shape that is being painted.
 };

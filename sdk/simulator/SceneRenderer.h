@@ -77,7 +77,7 @@ private:
     SceneReadout m_readout;
     std::vector<std::uint8_t> m_evenScene; // A line of the flat field.
 
-    // Of the picture that is being rendered.
+    // These members describe the picture that is being rendered.
     Shift m_shift{};
     PictureSize m_size{};
     SensorRange m_columns{};

@@ -26,7 +26,7 @@ SimulatedCamera::SimulatedCamera(const std::string &registerFile, GenTL::DEVICE_
       m_model(model),
       m_description(registerDescription(model)),
       m_registers(registerFile, access, model),
-      m_images(m_registers, model),
+      m_images(m_registers, model, access),
       m_isConnected(std::move(isConnected)),
       m_watch([this] { watchConnection(); })
 {

@@ -18,9 +18,11 @@ constexpr std::int64_t idleWait = 1'000'000'000; // Nanoseconds; everything that
 
 } // namespace
 
-SimulatedImages::SimulatedImages(RegisterFile &registers, const CameraModel &model)
+SimulatedImages::SimulatedImages(
+    RegisterFile &registers, const CameraModel &model, GenTL::DEVICE_ACCESS_FLAGS access)
     : m_registers(registers),
       m_isBigEndianLink(model.isBigEndianLink()),
+      m_isController(access != GenTL::DEVICE_ACCESS_READONLY),
       m_sequence(registers),
       m_pictures(model.sensor)
 { }
@@ -80,6 +82,9 @@ void SimulatedImages::updateSettings(std::int64_t now)
 {
     m_changes = m_registers.changes();
     const RegisterBank bank = m_registers.load();
+    // Half of a change may have been read. The thread is woken after the change, and reads again.
+    if (*m_changes % 2 != 0 || *m_changes != m_registers.changes())
+        return;
     if (!hasSameSettings(bank, m_bank))
         m_pictures.update(sceneSettings(bank));
     m_bank = bank;
@@ -99,10 +104,9 @@ bool SimulatedImages::takeImage(BufferQueue &queue, std::int64_t now)
         queue.deliver(*buffer, image);
     } else {
         m_sequence.imageTaken(now);
-        ++m_lost;
         queue.countUnderrun(1);
     }
-    if (m_sequence.isFinished())
+    if (m_isController && m_sequence.isFinished())
         finishAcquisition();
     return true;
 }
@@ -138,7 +142,7 @@ FilledImage SimulatedImages::fill(const BufferQueue::Buffer &buffer, std::int64_
     image.chunks = writeChunks(m_bank,
         {image.timestamp, m_bank.real(Id::ExposureTime), image.frameId, gainDecibels(m_bank)}, buffer.data,
         m_pictures.imageSize(), m_isBigEndianLink);
-    if (isAnyAutomaticOn(m_bank)) {
+    if (m_isController && isAnyAutomaticOn(m_bank)) {
         const Brightness brightness = measureBrightness(m_bank, buffer.data);
         m_registers.update([&](RegisterBank &bank) { adjustAutomatics(bank, brightness); });
     }

@@ -13,7 +13,8 @@
 class SimulatedImages final : public ImageSource
 {
 public:
-    SimulatedImages(RegisterFile &registers, const CameraModel &model);
+    /// @param access How the consumer has opened the camera.
+    SimulatedImages(RegisterFile &registers, const CameraModel &model, GenTL::DEVICE_ACCESS_FLAGS access);
     ~SimulatedImages() override;
 
     std::size_t payloadSize() const override;
@@ -22,7 +23,7 @@ public:
     void stop(bool isImmediate) override;
     void bufferQueued() override { m_registers.wakeCounter().wake(); }
     std::uint64_t startedImages() const override { return m_started; }
-    std::uint64_t lostImages() const override { return m_lost; }
+    std::uint64_t lostImages() const override { return 0; } // Missing images are underruns.
 
     /// Called when the camera is lost: no more images are taken.
     void cameraLost();
@@ -37,15 +38,15 @@ private:
 
     RegisterFile &m_registers;
     const bool m_isBigEndianLink;
+    const bool m_isController; // Only the controller may change registers.
     std::thread m_thread;
     std::atomic<bool> m_isStopping{false};
     std::atomic<bool> m_isLost{false};
     std::atomic<std::uint64_t> m_started{0};
-    std::atomic<std::uint64_t> m_lost{0};
 
     // Used only by the thread.
     AcquisitionSequence m_sequence;
     PictureSource m_pictures;
-    std::optional<std::uint32_t> m_changes; // Of the registers, when m_bank was read.
+    std::optional<std::uint32_t> m_changes; // RegisterFile::changes() when m_bank was read.
     RegisterBank m_bank;
 };

@@ -9,6 +9,8 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr char simulatedVersion[] = "1.0";
+
 /// Returns the string under a key, or an empty string if the key is absent.
 std::string optionalString(const Json &object, const char *key, const std::string &place)
 {
@@ -104,6 +106,7 @@ DeviceRecord parseDevice(const Json &object, const std::string &interfaceTlType,
     device.userName = optionalString(object, "userName", place);
     device.tlType = orElse(optionalString(object, "tlType", place), interfaceTlType);
     device.displayName = orElse(optionalString(object, "displayName", place), joinedDisplayName(device));
+    device.version = simulatedVersion;
     device.accessStatus = GenTL::DEVICE_ACCESS_STATUS_READWRITE;
     return device;
 }
@@ -165,6 +168,7 @@ SimulatorConfiguration defaultConfiguration()
         device.tlType = GenTL::TLTypeCustomName;
         device.serial = "SIM" + number;
         device.displayName = joinedDisplayName(device);
+        device.version = simulatedVersion;
         device.accessStatus = GenTL::DEVICE_ACCESS_STATUS_READWRITE;
         return device;
     };

@@ -52,7 +52,7 @@ SimulatorConfiguration defaultConfiguration();
 ///                         "tlType": "…",       the interface's tlType if absent or empty
 ///                         "sensorWidth": 2448, pixels; this and the next five follow from the model's name
 ///                         "sensorHeight": 2048,     and from tlType if absent
-///                         "color": false,      true for a sensor with colour filters
+///                         "color": false,      true for a sensor with colour filters; ignored for line scan
 ///                         "lineScan": false,   true for a sensor of one line
 ///                         "taps": 1,           number of stripes that are read out separately, 1 to 8
 ///                         "seed": 1            decides where the flaws of the sensor are

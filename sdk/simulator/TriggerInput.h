@@ -12,8 +12,9 @@ public:
     /// @param trigger One of the values of TriggerSelector.
     TriggerInput(const RegisterFile &registers, std::size_t trigger);
 
-    /// Takes over the settings.
-    void update(const RegisterBank &bank);
+    /// Takes over the settings. Returns true if the triggers are on or were on, and come from another
+    /// signal than before.
+    bool update(const RegisterBank &bank);
 
     bool isOn() const { return m_isOn; }
 
@@ -26,12 +27,14 @@ public:
     void discard();
 
 private:
+    void updateSource(const RegisterBank &bank);
+
     const RegisterFile &m_registers;
     const std::size_t m_trigger;
     bool m_isOn = false;
-    double m_frequency = 0; // Of the signal; 0 if the source counts pulses.
+    double m_frequency = 0; // Frequency of the signal; 0 if the source counts pulses.
     std::int64_t m_activation = 0;
     std::int64_t m_delay = 0; // Nanoseconds.
-    std::optional<std::size_t> m_input; // Of the pulses; nothing for the encoder.
+    std::optional<std::size_t> m_input; // Input that counts the pulses; nothing for the encoder.
     std::uint32_t m_usedPulses = 0;
 };

@@ -87,6 +87,18 @@ TEST_F(AravisCameraTest, imagesArriveInTheBuffersOfTheQueue)
     }
 }
 
+TEST_F(AravisCameraTest, flushedBuffersAreFilledAgain)
+{
+    TestBuffers pool(3, source.payloadSize());
+    source.start(pool);
+    ASSERT_EQ(pool.taken(), 3U);
+    pool.flushTaken();
+    writeNumber(camera, FakeCameraRegister::acquisition, 1);
+    EXPECT_TRUE(pool.await());
+    source.stop(true);
+    EXPECT_EQ(pool.taken(), 0U);
+}
+
 TEST_F(AravisCameraTest, lossIsReportedOnce)
 {
     int losses = 0;
@@ -97,6 +109,7 @@ TEST_F(AravisCameraTest, lossIsReportedOnce)
     EXPECT_EQ(losses, 1);
     EXPECT_EQ(camera.accessStatus(), DEVICE_ACCESS_STATUS_NOACCESS);
     EXPECT_EQ(errorOf([&] { readNumber(camera, FakeCameraRegister::width); }), GC_ERR_IO);
+    EXPECT_EQ(errorOf([&] { source.payloadSize(); }), GC_ERR_IO);
 }
 
 TEST_F(AravisCameraTest, lossBeforeTheHandlerIsSetIsReported)

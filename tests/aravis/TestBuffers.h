@@ -45,6 +45,8 @@ public:
     {
         const std::lock_guard lock(m_mutex);
         EXPECT_EQ(m_taken.erase(buffer.handle), 1U);
+        if (m_flushed.erase(buffer.handle) == 1U)
+            return m_input.push_back(buffer);
         m_output.push_back({buffer, image});
         m_isDelivered.notify_all();
     }
@@ -82,6 +84,13 @@ public:
         source.bufferQueued();
     }
 
+    /// Sends the buffers that the source has back to the input as soon as they are filled.
+    void flushTaken()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_flushed = m_taken;
+    }
+
     /// Returns the number of buffers that the source has.
     std::size_t taken() const
     {
@@ -107,6 +116,7 @@ private:
     mutable std::mutex m_mutex; // Guards the members below.
     std::deque<Buffer> m_input;
     std::set<void *> m_taken;
+    std::set<void *> m_flushed; // Taken buffers that return to the input.
     std::deque<Delivered> m_output;
     std::uint64_t m_underruns = 0;
     std::condition_variable m_isDelivered;

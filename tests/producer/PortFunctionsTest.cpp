@@ -130,6 +130,8 @@ TEST_F(PortFunctions, placesOfTheDescriptionAreTakenApart)
         {"gopher:test.xml", {}, "gopher:test.xml", {}, {}},
         {"local:/folder/test.xml;12;3x", URL_SCHEME_LOCAL, "test.xml", 0x12, {}},
         {"LOCAL:test.xml;1", URL_SCHEME_LOCAL, "test.xml", {}, {}},
+        {"Local:v.xml;10;20", URL_SCHEME_LOCAL, "v.xml", 0x10, 0x20},
+        {"File:v.zip", URL_SCHEME_FILE, "v.zip", {}, {}},
     };
     std::uint32_t count = 0;
     EXPECT_EQ(producer.GCGetNumPortURLs(port, &count), GC_ERR_SUCCESS);
@@ -156,13 +158,24 @@ TEST_F(PortFunctions, placesOfTheDescriptionAreTakenApart)
     EXPECT_EQ(readStringList(idCall(producer.GCGetPortURL, port)), urls);
 }
 
+TEST_F(PortFunctions, versionOfTheSchemaIsReportedApartFromTheUrl)
+{
+    const auto version = [this](std::uint32_t index, URL_INFO_CMD command) {
+        return readNumber(urlInfo(index, command), INFO_DATATYPE_INT32);
+    };
+    EXPECT_EQ(version(6, URL_INFO_SCHEMA_VER_MAJOR), 1);
+    EXPECT_EQ(version(6, URL_INFO_SCHEMA_VER_MINOR), 2);
+    EXPECT_EQ(version(7, URL_INFO_SCHEMA_VER_MAJOR), 2);
+    EXPECT_EQ(version(7, URL_INFO_SCHEMA_VER_MINOR), 4);
+}
+
 TEST_F(PortFunctions, unknownPartsOfTheDescriptionAreNotInvented)
 {
     for (URL_INFO_CMD command = URL_INFO_SCHEMA_VER_MAJOR; command <= URL_INFO_FILE_SHA1_HASH; ++command)
         EXPECT_EQ(codeOf(urlInfo(0, command)), GC_ERR_NOT_AVAILABLE) << command;
     for (const URL_INFO_CMD command : {-1, 11, 1000})
         EXPECT_EQ(codeOf(urlInfo(0, command)), GC_ERR_NOT_IMPLEMENTED) << command;
-    EXPECT_EQ(codeOf(urlInfo(6, URL_INFO_URL)), GC_ERR_INVALID_INDEX);
+    EXPECT_EQ(codeOf(urlInfo(8, URL_INFO_URL)), GC_ERR_INVALID_INDEX);
     EXPECT_EQ(producer.GCGetNumPortURLs(port, nullptr), GC_ERR_INVALID_PARAMETER);
     port = portOf(openDevice("control only"));
     std::uint32_t count = 1;

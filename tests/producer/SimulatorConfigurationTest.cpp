@@ -39,9 +39,9 @@ TEST(SimulatorConfiguration, defaultConfigurationHasTwoCameras)
     EXPECT_EQ(defaultConfiguration(),
         (SimulatorConfiguration{{{"simulator", "Camera Simulator", "Custom"},
             {{"corvix-simulator-0001", "Orvelle", "Camera Simulator", "Custom",
-                 "Orvelle Camera Simulator corvix-simulator-0001", "", "SIM0001", readWrite, ""},
+                 "Orvelle Camera Simulator corvix-simulator-0001", "", "SIM0001", readWrite, "1.0"},
                 {"corvix-simulator-0002", "Orvelle", "Camera Simulator", "Custom",
-                    "Orvelle Camera Simulator corvix-simulator-0002", "", "SIM0002", readWrite, ""}}}}));
+                    "Orvelle Camera Simulator corvix-simulator-0002", "", "SIM0002", readWrite, "1.0"}}}}));
 }
 
 TEST(SimulatorConfiguration, everyKeyIsRead)
@@ -55,9 +55,9 @@ TEST(SimulatorConfiguration, everyKeyIsRead)
             {"id": "none", "name": "", "tlType": ""}]})"),
         (SimulatorConfiguration{
             {{"net", "Network", "GEV"},
-                {{"a", "Vendor", u8"カメラ \U0001F4F7", "U3V", "Shown", "tab\t", "0042", readWrite, ""},
-                    {"b", "", "", "GEV", "b", "", "", readWrite, ""}}},
-            {{"usb", "usb", "Custom"}, {{"a", "", "", "Custom", "a", "", "", readWrite, ""}}},
+                {{"a", "Vendor", u8"カメラ \U0001F4F7", "U3V", "Shown", "tab\t", "0042", readWrite, "1.0"},
+                    {"b", "", "", "GEV", "b", "", "", readWrite, "1.0"}}},
+            {{"usb", "usb", "Custom"}, {{"a", "", "", "Custom", "a", "", "", readWrite, "1.0"}}},
             {{"none", "none", "Custom"}, {}}}));
     EXPECT_TRUE(parseConfiguration(R"({"interfaces": []})").empty());
 }

@@ -78,6 +78,8 @@ protected:
                 GC_ERR_SUCCESS);
             EXPECT_TRUE(camera.execute("AcquisitionStart"));
             expectImages(stream, event, camera, 3);
+            EXPECT_EQ(producer().DSFlushQueue(stream, ACQ_QUEUE_ALL_TO_INPUT), GC_ERR_SUCCESS);
+            expectImages(stream, event, camera, 3);
             EXPECT_TRUE(camera.execute("AcquisitionStop"));
             EXPECT_EQ(producer().DSStopAcquisition(stream, ACQ_STOP_FLAGS_DEFAULT), GC_ERR_SUCCESS);
             EXPECT_EQ(producer().DSFlushQueue(stream, ACQ_QUEUE_ALL_TO_INPUT), GC_ERR_SUCCESS);

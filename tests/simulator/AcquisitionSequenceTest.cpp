@@ -140,6 +140,25 @@ TEST_F(AcquisitionSequenceTest, triggeredImageIsCompleteAfterDelayAndExposure)
     EXPECT_EQ(sequence.nextImage(), 1225 * oneMillisecond);
 }
 
+TEST_F(AcquisitionSequenceTest, edgeOfAnOldSignalIsNotAwaited)
+{
+    RegisterBank bank = registersWith({}, {{Id::ExposureTime, 20'000}});
+    bank.setInteger(Id::TriggerMode, 1, frameStartTrigger);
+    bank.setInteger(Id::TriggerSource, line0Source, frameStartTrigger);
+    bank.setReal(Id::LineSignalFrequency, 0.01, 0);
+    update(bank, 1001 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 100 * oneSecond + 20 * oneMillisecond);
+    bank.setReal(Id::Gamma, 2); // Has nothing to do with the trigger.
+    update(bank, 1002 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 100 * oneSecond + 20 * oneMillisecond);
+    bank.setReal(Id::LineSignalFrequency, 20, 0);
+    update(bank, 1003 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 1070 * oneMillisecond);
+    bank.setInteger(Id::TriggerSource, softwareSource, frameStartTrigger);
+    update(bank, 1004 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), std::nullopt);
+}
+
 TEST_F(AcquisitionSequenceTest, triggerDuringAnImageIsIgnored)
 {
     RegisterBank bank = registersWith({});
@@ -164,6 +183,19 @@ TEST_F(AcquisitionSequenceTest, triggerOfTheAcquisitionReleasesAllImages)
     ASSERT_TRUE(first.has_value());
     sequence.imageTaken(*first);
     EXPECT_EQ(sequence.nextImage(), *first + oneSecond / 25);
+}
+
+TEST_F(AcquisitionSequenceTest, acquisitionStartsWithoutTheEdgeOfAnOldSignal)
+{
+    RegisterBank bank = registersWith({}, {{Id::ExposureTime, 20'000}});
+    bank.setInteger(Id::TriggerMode, 1, acquisitionStartTrigger);
+    bank.setInteger(Id::TriggerSource, line0Source, acquisitionStartTrigger);
+    bank.setReal(Id::LineSignalFrequency, 0.01, 0);
+    update(bank, 1001 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 100 * oneSecond);
+    bank.setInteger(Id::TriggerMode, 0, acquisitionStartTrigger);
+    update(bank, 1002 * oneMillisecond);
+    EXPECT_EQ(sequence.nextImage(), 1002 * oneMillisecond);
 }
 
 TEST_F(AcquisitionSequenceTest, imageOfALineScanCameraNeedsATriggerForEachLine)

@@ -79,6 +79,14 @@ TEST(CameraModel, keysOfTheConfigurationFileDecide)
     EXPECT_EQ(sensor.seed, ~std::uint64_t{0});
 }
 
+TEST(CameraModel, lineScanSensorHasNoColorFilters)
+{
+    SensorKeys keys;
+    keys.isColor = true;
+    keys.isLineScan = true;
+    EXPECT_FALSE(cameraModel(deviceOf("Kx200", "GEV"), keys).sensor.isColor);
+}
+
 TEST(CameraModel, mistakeInAKeyIsReported)
 {
     const std::string place = "interfaces[0].devices[0]: ";

@@ -33,7 +33,7 @@ const KindOfCamera kindsOfCameras[] = {
     {"AreaScan", keysOf(false, false, 1), "U3V"},
     {"AreaScanColor", keysOf(true, false, 1), "GEV"},
     {"LineScan", keysOf(false, true, 1), "CLHS"},
-    {"LineScanColorTaps", keysOf(true, true, 2), "CL"},
+    {"LineScanTaps", keysOf(false, true, 2), "CL"},
     {"AreaScanTaps", keysOf(false, false, 4), "CL"},
 };
 
@@ -117,6 +117,17 @@ TEST_P(DescriptionTest, limitsOfTheRegionDependOnBinningAndOffset)
     EXPECT_EQ(nodes.value("WidthMax"), "32");
     EXPECT_EQ(nodes.value("Width"), "16"); // The smallest width; half of it would be 8.
     EXPECT_EQ(nodes.value("OffsetX"), "16");
+}
+
+TEST_P(DescriptionTest, binningComesBeforeTheRegionThatItScales)
+{
+    const std::vector<std::string> features = nodes.features();
+    const auto position = [&](const char *name) { return std::find(features.begin(), features.end(), name); };
+    EXPECT_LT(position("BinningHorizontal"), position("Width"));
+    EXPECT_EQ(position("BinningVertical") == features.end(), GetParam().keys.isLineScan);
+    if (!*GetParam().keys.isLineScan) {
+        EXPECT_LT(position("BinningVertical"), position("Width"));
+    }
 }
 
 TEST_P(DescriptionTest, lockedFeaturesAreLockedInBoth)

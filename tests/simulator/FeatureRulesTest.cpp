@@ -143,6 +143,18 @@ TEST(AutomaticControl, gainHelpsWhenTheExposureIsAsLongAsTheFrame)
     EXPECT_EQ(bank.integer(Id::GainRaw), 602);
 }
 
+TEST(AutomaticControl, longExposureReducesTheRatesThatAreNotEnabled)
+{
+    RegisterBank bank = powerOnRegisters(smallModel());
+    bank.setInteger(Id::AcquisitionFrameRateEnable, 0);
+    bank.setInteger(Id::ExposureAuto, autoOnce);
+    for (int image = 0; image < 4; ++image) // 16 ms, 32 ms, 64 ms, 128 ms.
+        adjustAutomatics(bank, {0.1, {}});
+    EXPECT_EQ(bank.real(Id::ExposureTime), 128'000);
+    EXPECT_EQ(bank.real(Id::AcquisitionFrameRate), 1e6 / 128'000);
+    EXPECT_EQ(bank.real(Id::AcquisitionLineRate), 1e6 / 128'000);
+}
+
 TEST(AutomaticControl, whiteBalanceMakesTheColorsEqual)
 {
     RegisterBank bank = powerOnRegisters(smallModel());

@@ -95,6 +95,22 @@ TEST_F(SimulatedImagesTest, acquisitionEndsAfterItsImages)
     EXPECT_EQ(next().info.frameId, 1U);
 }
 
+TEST_F(SimulatedImagesTest, streamOfAWatcherChangesNoRegisters)
+{
+    camera.set(Id::AcquisitionMode, multiFrame);
+    camera.set(Id::AcquisitionFrameCount, 2);
+    camera.setReal(Id::ExposureTime, 50);
+    camera.set(Id::ExposureAuto, autoOnce);
+    TestCamera watcher(folder, smallModel(), watch);
+    watcher.images().start(queue);
+    camera.execute(Id::AcquisitionStart);
+    queue.next(watcher.images());
+    queue.next(watcher.images());
+    watcher.images().stop(false);
+    EXPECT_EQ(camera.real(Id::ExposureTime), 50);
+    EXPECT_EQ(camera.integer(Id::AcquisitionActive), 1);
+}
+
 TEST_F(SimulatedImagesTest, eachSoftwareTriggerTakesOneImage)
 {
     camera.set(Id::TriggerMode, 1, frameStartTrigger);
@@ -173,7 +189,7 @@ TEST_F(SimulatedImagesTest, missingBuffersAreUnderruns)
     while (empty.underruns() < 3) // The test has a time limit.
         std::this_thread::yield();
     camera.images().stop(false);
-    EXPECT_EQ(camera.images().lostImages(), empty.underruns());
+    EXPECT_EQ(camera.images().lostImages(), 0U);
     EXPECT_EQ(camera.images().startedImages(), empty.underruns());
     camera.images().start(queue);
     EXPECT_GT(next().info.frameId, 3U);

@@ -31,6 +31,7 @@ CameraModel smallModel(const SensorKeys &keys, const std::string &tlType)
     record.model = "Model";
     record.serial = "1";
     record.userName = "Name";
+    record.version = "1.0";
     record.tlType = tlType;
     SensorKeys small = keys;
     small.width = keys.width.value_or(64);

@@ -71,7 +71,8 @@ std::vector<std::string> TestCamera::descriptionUrls() const
     if (!m_hasStream)
         return {};
     return {"Local:test.xml;1A0;2F", "File:///usr/share/cameras/test.zip", "Http://host/test.xml",
-        "gopher:test.xml", "local:/folder/test.xml;12;3x", "LOCAL:test.xml;1"};
+        "gopher:test.xml", "local:/folder/test.xml;12;3x", "LOCAL:test.xml;1",
+        "Local:v.xml;10;20?SchemaVersion=1.2.3", "File:v.zip?schemaversion=2.4"};
 }
 
 std::uint64_t TestCamera::readRegister(std::uint64_t address)
