@@ -37,6 +37,13 @@ function(complete_desktop_entries root)
     endforeach()
 endfunction()
 
+function(compress_man_pages root)
+    file(GLOB pages ${root}/usr/share/man/man1/*.1)
+    foreach(page IN LISTS pages)
+        execute_process(COMMAND gzip --best --no-name --force ${page} COMMAND_ERROR_IS_FATAL ANY)
+    endforeach()
+endfunction()
+
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} key)
     set(package ${CPACK_DEBIAN_${key}_PACKAGE_NAME})
@@ -46,6 +53,11 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     move_to_system(${root} lib/udev usr/lib/udev)
     file(REMOVE_RECURSE ${root}/opt/corvix-x/lib) # This directory is empty now.
     complete_desktop_entries(${root})
+    compress_man_pages(${root})
+    if(EXISTS ${root}/opt/corvix-x/bin/cvxctl) # A shell does not search /opt/corvix-x/bin.
+        file(MAKE_DIRECTORY ${root}/usr/bin)
+        file(CREATE_LINK ../../opt/corvix-x/bin/cvxctl ${root}/usr/bin/cvxctl SYMBOLIC)
+    endif()
 
     set(documents ${root}/usr/share/doc/${package})
     file(MAKE_DIRECTORY ${documents} ${root}/usr/share/lintian/overrides)

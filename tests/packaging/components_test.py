@@ -17,8 +17,10 @@ COMPONENTS = {
         [r"bin/CorvixLauncher", r"bin/cvxctl", r"bin/CvxProducerHost", r"bin/CvxCameraHost", r"bin/libCvxCPP\.so[.\d]*", r"bin/CvxC\.xml",
          r"doc/index\.html", r"doc/LICENSE", r"doc/THIRD-PARTY\.md", r"doc/CHANGELOG\.md",
          r"lib/udev/rules\.d/60-corvix-usb3-vision\.rules", r"share/applications/[^/]*\.desktop",
+         r"share/man/man1/cvxctl\.1", r"share/bash-completion/completions/cvxctl",
          r"share/metainfo/[^/]*\.metainfo\.xml", r"share/icons/hicolor/scalable/apps/[^/]*\.svg"],
-        [r"cti/fallback/Universal(GEV|U3V)\.cti", r"doc/.*", r"share/icons/hicolor/[^/]*/apps/[^/]*"]),
+        [r"cti/fallback/Universal(GEV|U3V)\.cti", r"doc/.*", r"share/man/man1/cvxctl-[a-z]+\.1",
+         r"share/icons/hicolor/[^/]*/apps/[^/]*"]),
     "simulator": ([r"cti/CorvixCameraSimulator\.cti", r"cti/CorvixCameraSimulator\.json"], []),
     "sdk-dev": (
         [r"api/include/CvxCPP/CvxCPP\.h", r"api/examples/(list-cameras|save-image)/(main\.cpp|CMakeLists\.txt)",
