@@ -1,5 +1,6 @@
 // This program uses the library. Each argument is one step:
 //   start, stop, list     calls Startup(), Shutdown() or GetCameras()
+//   search                waits until four cameras are listed
 //   fork                  forks a child that exits at once, and waits for it
 //   wait                  waits until standard input is closed
 //   closedStandardError   makes standard error a pipe whose other end is closed
@@ -8,6 +9,7 @@
 #include "CvxCPP/CvxCPP.h"
 #include "tests/sdk/support/CameraText.h"
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -33,6 +35,18 @@ void list(CvxSystem &system)
         system.GetCameras(cameras.data(), count);
     for (const auto &camera : cameras)
         std::printf("camera %s\n", extendedId(*camera).c_str());
+}
+
+/// Waits until four cameras are listed. The producers of a busy machine answer later than a list waits.
+void search(CvxSystem &system)
+{
+    constexpr std::chrono::seconds limit(60); // Only a hang takes so long.
+    const auto end = std::chrono::steady_clock::now() + limit;
+    unsigned count = 0;
+    while (count < 4 && std::chrono::steady_clock::now() < end) {
+        system.GetCameras(nullptr, count);
+        usleep(1000);
+    }
 }
 
 /// Makes standard error a pipe that nobody reads.
@@ -82,6 +96,8 @@ int main(int argc, char *argv[])
             std::printf("stop %d\n", system.Shutdown());
         else if (step == "list")
             list(system);
+        else if (step == "search")
+            search(system);
         else if (step == "closedStandardError")
             replaceStandardError(false);
         else if (step == "fullStandardError")
