@@ -116,7 +116,8 @@ TEST_F(LibraryTest, producerMayUseTheTerminalOfTheProgram)
     addProducer("printing", "fault load print\ninterface net|Net|GEV\ndevice net|D2|V|M|S2|N|GEV\n");
     ClientProcess process(
         "/usr/bin/script", // Runs the program on a terminal that stops background processes when they use it.
-        {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start search list stop", "/dev/null"});
+        {"--quiet", "--return", "--command", "stty tostop; '" + client() + "' start search list stop",
+            "/dev/null"});
     EXPECT_EQ(process.exitStatus(), 0);
     EXPECT_EQ(process.count("list 0 4"), 1U) << process.output().substr(0, 1000);
     EXPECT_GT(process.count("xxxx"), 0U) << "the output of the producer appears";
