@@ -77,6 +77,7 @@ class Guide(unittest.TestCase):
     def setUp(self):
         self.emulate(width=1280)
         self.browser.get(GUIDE.as_uri())
+        self.browser.execute_script("document.querySelectorAll('details').forEach(fold => fold.open = true)")
 
     def emulate(self, width, scheme="light"):
         self.browser.execute_cdp_cmd("Emulation.setDeviceMetricsOverride",
