@@ -52,6 +52,17 @@ bool isControl(char character)
     return (byte < 0x20 && character != '\t') || byte == 0x7F;
 }
 
+bool isCleanText(std::string_view text)
+{
+    return std::none_of(text.begin(), text.end(), isControl) && toValidUtf8(text) == text;
+}
+
+/// Returns true if the text starts with selectors in braces. A text in braces without "=" is a value.
+bool startsWithSelectors(std::string_view text)
+{
+    return !text.empty() && text.front() == '{' && text.substr(0, text.find('}')).find('=') != text.npos;
+}
+
 /// A line that cannot be used.
 struct BadLine
 {
@@ -82,21 +93,22 @@ std::optional<std::vector<SelectorSetting>> parseSelectors(std::string_view text
         if (part.empty())
             continue;
         const std::size_t equals = part.find('=');
-        if (equals == part.npos || !isName(part.substr(0, equals)) || equals + 1 == part.size())
+        if (equals == part.npos || !isName(part.substr(0, equals))
+            || !fitsFeatureFile(part.substr(equals + 1)))
             return std::nullopt;
         selectors.push_back({std::string(part.substr(0, equals)), std::string(part.substr(equals + 1))});
     }
     return selectors;
 }
 
-/// Parses the value of a setting, which selectors in braces may precede. A text in braces without "=" is a
-/// value.
+/// Parses the value of a setting, which selectors in braces may precede.
 ParsedLine parseValue(FeatureSetting setting, std::string_view rest)
 {
-    const std::size_t end = rest.find('}');
-    const bool hasSelectors
-        = !rest.empty() && rest.front() == '{' && rest.substr(0, end).find('=') != rest.npos;
-    if (hasSelectors) {
+    if (!isCleanText(rest))
+        return BadLine{"The value of " + quoted(setting.name)
+            + " contains control characters or bytes that are not UTF-8."};
+    if (startsWithSelectors(rest)) {
+        const std::size_t end = rest.find('}');
         auto selectors = end == rest.npos ? std::nullopt : parseSelectors(rest.substr(1, end - 1));
         if (!selectors)
             return BadLine{"The selectors of " + quoted(setting.name)
@@ -106,9 +118,8 @@ ParsedLine parseValue(FeatureSetting setting, std::string_view rest)
     }
     if (trimmed(rest).empty())
         return BadLine{quoted(setting.name) + " has no value."};
-    if (!fitsFeatureFile(rest))
-        return BadLine{"The value of " + quoted(setting.name)
-            + " contains control characters or bytes that are not UTF-8."};
+    if (startsWithSelectors(rest))
+        return BadLine{quoted(setting.name) + " has selectors in two places."};
     setting.value = rest;
     return setting;
 }
@@ -191,6 +202,6 @@ std::string formatFeatureFile(const std::vector<FeatureSetting> &settings, const
 
 bool fitsFeatureFile(std::string_view value)
 {
-    return !trimmed(value).empty() && std::none_of(value.begin(), value.end(), isControl)
-        && toValidUtf8(value) == value;
+    return !trimmed(value).empty() && value.front() != '\t' && isCleanText(value)
+        && !startsWithSelectors(value);
 }
