@@ -23,15 +23,16 @@ CvxResult readDirectory(Device &device, FeatureDirectory &directory)
 /// Reads all settings that loading may change: also features that the file lacks, because cameras change
 /// some features together with others.
 CvxResult readSnapshot(Device &device, const FeatureDirectory &directory, const FeatureFile &file,
-    const FeatureProgress &progress, std::vector<FeatureSetting> &snapshot, bool &isCancelled)
+    const FeatureProgress &progress, SavedFeatures &snapshot)
 {
     FeatureReader reader(device, directory, progress);
     CvxResult result = reader.read(settingNames(directory, file.settings));
-    isCancelled = reader.isCancelled();
+    snapshot.isCancelled = reader.isCancelled();
     for (FeatureReading &reading : reader.readings()) {
         const NodeState &state = reading.state;
         if (state.access == NodeAccess::ReadWrite && state.value.index() != 0)
-            snapshot.push_back({std::move(reading.selectors), state.name, settingText(state.value), 0});
+            snapshot.settings.push_back(
+                {std::move(reading.selectors), state.name, settingText(state.value), 0});
     }
     return result;
 }
@@ -99,18 +100,17 @@ CvxResult loadAllFeatures(
         return result;
     LoadRun run(device, directory, directory.resolve(file.settings), progress);
     CvxResult result = run.readBefore();
-    std::vector<FeatureSetting> snapshot;
-    bool isCancelled = false;
+    SavedFeatures snapshot;
     const bool canStart = result && file.problems.empty() && !run.isHopeless() && !run.isCancelled();
     if (canStart)
-        result = readSnapshot(device, directory, file, progress, snapshot, isCancelled);
-    const bool isStarted = canStart && result && !isCancelled;
+        result = readSnapshot(device, directory, file, progress, snapshot);
+    const bool isStarted = canStart && result && !snapshot.isCancelled;
     if (isStarted)
         result = run.apply();
     report = run.finish(result);
-    report.isCancelled = report.isCancelled || isCancelled;
+    report.isCancelled = report.isCancelled || snapshot.isCancelled;
     const bool isComplete = !report.isCancelled && report.count(FeatureOutcome::Failed) == 0;
     if (!result || !isStarted || isComplete)
         return result;
-    return restore(device, directory, snapshot, report);
+    return restore(device, directory, snapshot.settings, report);
 }

@@ -118,8 +118,12 @@ void LoadItem::judge(const LoadItem *lock)
         change.reason = lockText(state);
     } else {
         change.outcome = FeatureOutcome::Failed;
-        change.reason = !error.empty() ? error
-            : change.after.empty()     ? "The value cannot be read back. " + state.problem
-                                       : "The camera made " + change.after + " of it.";
+        change.reason = !error.empty() ? error : isPending ? "The setting was not written." : readBackText();
     }
+}
+
+std::string LoadItem::readBackText() const
+{
+    return state.value.index() == 0 ? "The value cannot be read back. " + state.problem
+                                    : "The camera made " + settingText(state.value) + " of it.";
 }

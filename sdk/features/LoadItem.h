@@ -37,6 +37,9 @@ struct LoadItem
     bool isRepeated = false; ///< A later setting of the file replaces this one.
     bool isPending = false; ///< Has to be written.
 
+    /// Returns what the camera has made of the setting, as a sentence.
+    std::string readBackText() const;
+
 private:
     std::string convert(const FeatureDirectory &directory);
 };

@@ -54,8 +54,10 @@ CvxResult LoadRun::readBefore()
     if (CvxResult result = checkStream(); !result)
         return result;
     for (const Group &group : m_groups) {
-        if (!reportProgress(0))
+        if (!reportProgress(0)) {
+            m_items.clear(); // Nothing is known about them.
             return {};
+        }
         if (CvxResult result = readGroup(group); !result)
             return result;
     }
@@ -222,6 +224,7 @@ std::size_t LoadRun::findLostValues()
         if (!item.counts() || wasPending || !canBeWritten || item.hasWantedValue())
             continue;
         item.isPending = true;
+        item.error = item.readBackText();
         ++count;
     }
     return count;
