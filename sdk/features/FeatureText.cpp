@@ -232,7 +232,7 @@ std::variant<NodeValue, std::string> settingValue(NodeType type, std::string_vie
 {
     const TypeRule &rule = typeRules[static_cast<std::size_t>(type)];
     if (!rule.expected)
-        return "This feature has no value.";
+        return std::string("This feature has no value.");
     if (type != NodeType::String)
         text = withoutBlanks(text);
     if (auto value = rule.parse(text))

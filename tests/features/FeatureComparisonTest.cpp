@@ -82,7 +82,7 @@ TEST(FeatureComparisonTest, cameraAndItsFileAreEqual)
     TestCamera camera;
     SavedFeatures saved;
     ASSERT_TRUE(saveFeatures(camera, saved));
-    const ComparedSide file = sideOf(formatFeatureFile(saved.settings, "").substr(43));
+    const ComparedSide file = sideOf(formatFeatureFile(saved.settings, "").substr(41));
     EXPECT_EQ(differences(sideOf(camera), file), "");
     EXPECT_EQ(compareFeatures(file, sideOf(camera)).size(), 11U);
     camera.set("ExposureTime", 10000.5);

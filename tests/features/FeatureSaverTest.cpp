@@ -40,9 +40,9 @@ protected:
 
 TEST_F(FeatureSaverTest, savesEachSelectorValueAndRestoresTheSelectors)
 {
-    const auto before = m_camera.storedValues();
+    const auto before = m_camera.changedValues();
     EXPECT_EQ(savedLines(m_camera), savedCamera);
-    EXPECT_EQ(m_camera.storedValues(), before);
+    EXPECT_EQ(m_camera.changedValues(), before);
 }
 
 TEST_F(FeatureSaverTest, lockedFeaturesAreSavedAndOthersAreLeftOut)
@@ -123,7 +123,7 @@ TEST_F(FeatureSaverTest, lossAtAnyCallIsReturned)
 
 TEST_F(FeatureSaverTest, cancellingRestoresTheSelectors)
 {
-    const auto before = m_camera.storedValues();
+    const auto before = m_camera.changedValues();
     for (unsigned count = 0; count < 8; ++count) {
         unsigned calls = 0;
         SavedFeatures saved;
@@ -132,6 +132,6 @@ TEST_F(FeatureSaverTest, cancellingRestoresTheSelectors)
             return calls++ < count;
         }));
         EXPECT_TRUE(saved.isCancelled);
-        EXPECT_EQ(m_camera.storedValues(), before);
+        EXPECT_EQ(m_camera.changedValues(), before);
     }
 }

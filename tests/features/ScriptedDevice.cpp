@@ -54,11 +54,14 @@ void ScriptedDevice::select(const std::string &selector, const std::vector<std::
         m_features.at(name).info.selectors.push_back(selector);
 }
 
-std::map<std::string, NodeValue> ScriptedDevice::storedValues()
+std::map<std::string, NodeValue> ScriptedDevice::changedValues() const
 {
-    for (const std::string &name : m_order)
-        storedValue(name);
-    return m_values;
+    std::map<std::string, NodeValue> changed;
+    for (const auto &[key, value] : m_values) {
+        if (value != m_features.at(key.substr(0, key.find('/'))).state.value)
+            changed[key] = value;
+    }
+    return changed;
 }
 
 NodeValue &ScriptedDevice::storedValue(const std::string &name)

@@ -31,8 +31,8 @@ public:
     CvxCPP::NodeValue value(const std::string &name) { return storedValue(name); }
     void set(const std::string &name, const CvxCPP::NodeValue &value) { storedValue(name) = value; }
 
-    /// Returns a copy of everything that the camera stores, to compare it with a later one.
-    std::map<std::string, CvxCPP::NodeValue> storedValues();
+    /// Returns the values that differ from the initial ones, for example "TriggerMode/TriggerSelector=Start".
+    std::map<std::string, CvxCPP::NodeValue> changedValues() const;
 
     std::vector<std::string> writes; ///< Names of the features that were written, and of the commands.
     std::size_t callsUntilLoss = std::numeric_limits<std::size_t>::max();
