@@ -16,10 +16,10 @@ constexpr double exactIntegers = 9007199254740992.0; // A double holds every int
 
 std::string_view withoutBlanks(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
+    constexpr const char *blankCharacters = " \t";
+    const std::size_t first = text.find_first_not_of(blankCharacters);
     return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+                              : text.substr(first, text.find_last_not_of(blankCharacters) + 1 - first);
 }
 
 std::string lowered(std::string_view text)

@@ -3,6 +3,8 @@
 usage: cvxctl_test.py BUILD
 """
 
+import contextlib
+import fcntl
 import json
 import os
 import shutil
@@ -81,6 +83,18 @@ class CvxctlTest(unittest.TestCase):
     def run_json(self, *arguments):
         return json.loads(self.run_well(*arguments, "--json"))
 
+    @contextlib.contextmanager
+    def power(self, number):
+        """Keeps a camera on, so that its settings outlive a command: a camera that nobody uses loses them."""
+        process = self.start("watch", str(number))
+        self.assertIn("images", process.stdout.readline())
+        with open(f"{self.root}/corvix-camera-SIM-{number}.Sim", "r+b") as file:
+            user_lock = struct.pack("hhqqi4x", fcntl.F_RDLCK, os.SEEK_SET, 0, 1, 0)
+            fcntl.fcntl(file, fcntl.F_OFD_SETLK, user_lock)
+            process.send_signal(signal.SIGINT)
+            process.communicate(timeout=LIMIT)
+            yield
+
     def test_list(self):
         listed = self.run_json("list")
         self.assertEqual([(entry["id"], entry["userName"], entry["type"]) for entry in listed],
@@ -128,6 +142,10 @@ class CvxctlTest(unittest.TestCase):
         self.assertIn("NoFeature", self.run_failing(7, "get", "2001", "Width", "NoFeature")[1])
 
     def test_save_change_load_compare(self):
+        with self.power(1001):
+            self.check_save_change_load_compare()
+
+    def check_save_change_load_compare(self):
         path = f"{self.root}/left.txt"
         self.assertRegex(self.run_well("save", "1001", path), r"^\d+ settings saved\n$")
         with open(path, encoding="utf-8") as file:
@@ -156,6 +174,10 @@ class CvxctlTest(unittest.TestCase):
         self.assertRegex(self.run_well("compare", path, "1001", "--all"), r"(?m)^  Width +320 +320 +\(equal\)$")
 
     def test_load_file_of_another_program(self):
+        with self.power(1002):
+            self.check_load_file_of_another_program()
+
+    def check_load_file_of_another_program(self):
         path = f"{self.root}/other"
         with open(path, "w", encoding="utf-8", newline="") as file:
             file.write("\ufeff# {05D8C294-F295-4dfb-9D01-096BD04049F4}\r\n# GenApi persistence file\r\n"
@@ -166,7 +188,7 @@ class CvxctlTest(unittest.TestCase):
                          "Width=160\nExposureTime=12.5\nGain=3\n")
         self.assertEqual([line.split(": ")[1] for line in messages.splitlines()],
                          [f"{path}:7", f"{path}:6", f"{path}:9"])
-        self.run_well("set", "1002", "Width=320", "ExposureTime=1000")
+        self.run_well("set", "1002", "OffsetX=0", "Width=320", "ExposureTime=1000")
         self.assertIn("Nothing was changed", self.run_failing(7, "load", "1002", path, "--all-or-nothing")[0])
         with open(path, "w", encoding="utf-8") as file:
             file.write("# {05D8C294-F295-4dfb-9D01-096BD04049F4}\nWidth 160\nOffsetX 60000\n")
