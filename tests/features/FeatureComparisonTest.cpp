@@ -64,6 +64,11 @@ const FilesRow filesRows[] = {
     {"NestedSelectors", "LSelector\tR\nIIndex\t0\nV\t1\nIIndex\t1\nV\t2\nLSelector\tG\nIIndex\t0\nV\t3",
         "LSelector\tG\nIIndex\t0\nV\t4\nLSelector\tR\nIIndex\t1\nV\t2\nIIndex\t0\nV\t1",
         "V[IIndex=0][LSelector=G]:3|4"},
+    {"OneSideWithoutSelectorButOneLine", "M\t{GSelector=A}\t1", "M\t1", ""},
+    {"ContradictingSelectors", "M\t{GSelector=A}\t1", "M\t{GSelector=B}\t1",
+        "M[GSelector=A]:1| M[GSelector=B]:|1"},
+    {"FeatureBesideSelectors", "GSelector\tA\nM\t1\nGSelector\tB\nM\t2\nW\t1\nW\t1",
+        "GSelector\tA\nW\t1\nM\t1\nGSelector\tB\nM\t2", ""},
     {"LastRepeatCounts", "A\t1\nA\t2", "A\t2", ""},
 };
 

@@ -1,9 +1,9 @@
 #include "sdk/features/FeatureFile.h"
 #include "sdk/features/FeatureFileStorage.h"
 
-#include <fstream>
+#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -27,6 +27,20 @@ std::string describe(const std::string &text)
     for (const FeatureFileProblem &problem : file.problems)
         description += '!' + std::to_string(problem.line) + ' ' + problem.text;
     return description;
+}
+
+/// Writes a file that is larger than the system allows, as on a full disk.
+std::string writeBeyondLimit(const std::string &path)
+{
+    rlimit previous{};
+    getrlimit(RLIMIT_FSIZE, &previous);
+    const rlimit small{100, previous.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    const std::string problem = writeFeatureFile(path, std::string(1000, 'x'));
+    setrlimit(RLIMIT_FSIZE, &previous);
+    std::signal(SIGXFSZ, handler);
+    return problem;
 }
 
 struct ParserRow
@@ -114,6 +128,8 @@ TEST(FeatureFileStorageTest, fileIsReplacedAsAWholeOrNotAtAll)
     ASSERT_TRUE(std::holds_alternative<FeatureFile>(file));
     EXPECT_EQ(std::get<FeatureFile>(file).settings.size(), 1U);
     EXPECT_NE(writeFeatureFile(directory, "x"), "");
+    EXPECT_NE(writeBeyondLimit(path), "");
+    EXPECT_TRUE(std::holds_alternative<FeatureFile>(readFeatureFile(path)));
     EXPECT_NE(writeFeatureFile(path + "/b", "x").find("a.txt/b"), std::string::npos);
     EXPECT_NE(std::get<std::string>(readFeatureFile(path + "x")).find("a.txtx"), std::string::npos);
     EXPECT_NE(std::get<std::string>(readFeatureFile("/dev/zero")).find("not a file"), std::string::npos);

@@ -139,6 +139,17 @@ TEST_F(FeatureLoaderTest, lastOfRepeatedLinesWins)
     m_camera.set("Width", std::int64_t(300));
     EXPECT_EQ(load("Width\t100\nWidth\t300"), "Width:unchanged");
     EXPECT_EQ(integer("Width"), 300);
+    m_camera.set("OffsetX", std::int64_t(640));
+    m_camera.writes.clear();
+    EXPECT_EQ(load("Width\t1000\nWidth\t200\nOffsetX\t0"), "Width:changed OffsetX:changed");
+    EXPECT_EQ(m_camera.writes, (std::vector<std::string>{"Width", "OffsetX"}));
+}
+
+TEST_F(FeatureLoaderTest, valuesThatTheCameraHasAreNotWritten)
+{
+    EXPECT_EQ(load("Width\t640\nTriggerSelector\tFrameStart\nTriggerMode\tOff"),
+        "Width:unchanged TriggerMode:unchanged");
+    EXPECT_TRUE(m_camera.writes.empty());
 }
 
 TEST_F(FeatureLoaderTest, planWritesNothing)
@@ -225,6 +236,7 @@ TEST_F(FeatureLoaderTest, cancelledAllOrNothingRestores)
         isEverApplied = isEverApplied || m_report.isApplied;
         if (!m_report.isCancelled)
             break;
+        EXPECT_TRUE(count > 0 || m_report.changes.empty());
         EXPECT_EQ(m_camera.changedValues(), before) << count;
     }
     EXPECT_TRUE(isEverApplied);

@@ -45,6 +45,29 @@ TEST_F(FeatureSaverTest, savesEachSelectorValueAndRestoresTheSelectors)
     EXPECT_EQ(m_camera.changedValues(), before);
 }
 
+TEST(FeatureSaverOrderTest, unselectedFeaturesComeFirst)
+{
+    ScriptedDevice camera;
+    camera.addEntries("GainSelector", {"All"});
+    camera.add("Gain", 0.1);
+    camera.add("Width", std::int64_t(8));
+    camera.select("GainSelector", {"Gain"});
+    EXPECT_EQ(savedLines(camera), "Width\t8\nGainSelector\tAll\nGain\t0.1\n");
+}
+
+TEST(FeatureDirectoryTest, outerSelectorsComeFirst)
+{
+    ScriptedDevice camera;
+    for (const char *const name : {"LUTValue", "LUTIndex", "LUTSelector"})
+        camera.add(name, std::int64_t(0));
+    camera.select("LUTIndex", {"LUTValue", "LUTSelector"}); // A wrong description may contain a circle.
+    camera.select("LUTSelector", {"LUTIndex"});
+    std::vector<NodeInfo> nodes;
+    ASSERT_TRUE(camera.GetNodes(nodes));
+    EXPECT_EQ(FeatureDirectory(nodes).selectorsOf("LUTValue"),
+        (std::vector<std::string>{"LUTSelector", "LUTIndex"}));
+}
+
 TEST_F(FeatureSaverTest, lockedFeaturesAreSavedAndOthersAreLeftOut)
 {
     m_camera.set("ExposureAuto", std::string("Continuous"));
@@ -73,6 +96,8 @@ TEST_F(FeatureSaverTest, watchingSavesOnlyThePresentSelectorValues)
     SavedFeatures saved;
     ASSERT_TRUE(saveFeatures(m_camera, saved));
     EXPECT_EQ(saved.notes.size(), 3U);
+    for (const FeatureNote &note : saved.notes)
+        EXPECT_NE(note.text.find("only its present value"), std::string::npos) << note.text;
     EXPECT_TRUE(m_camera.writes.empty());
     const std::string text = formatFeatureFile(saved.settings, "");
     EXPECT_NE(text.find("\nTriggerSelector\tFrameStart\nTriggerMode\tOn\nLUTSelector\tGreen\nLUTIndex\t0\n"
