@@ -7,6 +7,13 @@
 
 using namespace CvxCPP;
 
+void addNote(std::vector<FeatureNote> &notes, const std::string &name, const std::string &text)
+{
+    const auto isSame = [&name](const FeatureNote &other) { return other.name == name; };
+    if (std::none_of(notes.begin(), notes.end(), isSame))
+        notes.push_back({name, text});
+}
+
 bool isDeviceGone(const CvxResult &result)
 {
     constexpr CvxError errors[]

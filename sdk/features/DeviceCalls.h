@@ -18,6 +18,9 @@ struct FeatureNote
     std::string text; ///< A sentence.
 };
 
+/// Adds the first note about a feature. Later ones would repeat it for other values of a selector.
+void addNote(std::vector<FeatureNote> &notes, const std::string &name, const std::string &text);
+
 /// Returns true if no further call for this device can succeed at present: the camera is lost or closed.
 bool isDeviceGone(const CvxCPP::CvxResult &result);
 

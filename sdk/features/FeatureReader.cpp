@@ -64,7 +64,7 @@ CvxResult FeatureReader::read(const std::vector<std::string> &names)
     }
     CvxResult restored = m_selectors.restore();
     if (result && !restored && !isDeviceGone(restored))
-        note("", "A selector cannot be restored: " + restored.text);
+        addNote(m_notes, "", "A selector cannot be restored: " + restored.text);
     return result && isDeviceGone(restored) ? restored : result;
 }
 
@@ -98,7 +98,8 @@ CvxResult FeatureReader::readGroup(
         if (CvxResult result = isThere ? m_selectors.select(name, value) : CvxResult(); !result) {
             if (isDeviceGone(result))
                 return result;
-            note(name, "The value " + settingText(value) + " of " + name + " was left out: " + result.text);
+            addNote(m_notes, name,
+                "The value " + settingText(value) + " of " + name + " was left out: " + result.text);
             continue;
         }
         if (isThere)
@@ -124,7 +125,8 @@ std::vector<NodeValue> FeatureReader::selectorValues(const NodeState &state)
         return values;
     const std::string reason = values.empty() ? "The values of " + state.name + " are unknown or too many"
                                               : state.name + " cannot be written at present";
-    note(state.name, reason + ", so only its present value " + settingText(state.value) + " is used.");
+    addNote(m_notes, state.name,
+        reason + ", so only its present value " + settingText(state.value) + " is used.");
     return {state.value};
 }
 
@@ -133,7 +135,7 @@ CvxResult FeatureReader::readSelected(const Group &group, const std::vector<Sele
     if (!reportProgress())
         return {};
     if (m_readings.size() >= maxReadings) {
-        note(group.names.front(), "There are too many values of " + group.names.front() + ".");
+        addNote(m_notes, group.names.front(), "There are too many values of " + group.names.front() + ".");
         return {};
     }
     std::vector<NodeState> states;
@@ -142,14 +144,6 @@ CvxResult FeatureReader::readSelected(const Group &group, const std::vector<Sele
     for (NodeState &state : states)
         m_readings.push_back({selected, std::move(state)});
     return {};
-}
-
-/// Adds the first note about a feature. Later ones would repeat it for other values of a selector.
-void FeatureReader::note(const std::string &name, const std::string &text)
-{
-    const auto isSame = [&name](const FeatureNote &other) { return other.name == name; };
-    if (std::none_of(m_notes.begin(), m_notes.end(), isSame))
-        m_notes.push_back({name, text});
 }
 
 bool FeatureReader::reportProgress()

@@ -39,7 +39,6 @@ private:
         const Group &group, std::vector<SelectorSetting> &selected, std::size_t depth);
     CvxCPP::CvxResult readSelected(const Group &group, const std::vector<SelectorSetting> &selected);
     std::vector<CvxCPP::NodeValue> selectorValues(const CvxCPP::NodeState &state);
-    void note(const std::string &name, const std::string &text);
     bool reportProgress();
 
     CvxCPP::Device &m_device;

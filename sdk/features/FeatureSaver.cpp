@@ -20,11 +20,11 @@ void takeReadings(FeatureReader &reader, bool (*isWanted)(NodeAccess), SavedFeat
             continue;
         std::string value = settingText(state.value);
         if (state.value.index() == 0)
-            saved.notes.push_back({state.name, state.name + " cannot be read: " + state.problem});
+            addNote(saved.notes, state.name, state.name + " cannot be read: " + state.problem);
         else if (!fitsFeatureFile(value))
-            saved.notes.push_back({state.name,
+            addNote(saved.notes, state.name,
                 value.empty() ? state.name + " is an empty text, which settings files cannot hold."
-                              : state.name + " contains characters that settings files cannot hold."});
+                              : state.name + " contains characters that settings files cannot hold.");
         else
             saved.settings.push_back({std::move(reading.selectors), state.name, std::move(value), 0});
     }
