@@ -113,14 +113,14 @@ ExitStatus readArguments(ComparedArgument &left, ComparedArgument &right)
     return right.isFile ? exitSuccess : readCamera(right, left.file);
 }
 
-void printTexts(const std::vector<ComparedFeature> &features, const CompareOptions &options)
+void printTexts(const std::vector<ComparedFeature> &features)
 {
     std::vector<std::vector<std::string>> rows{{"FEATURE", "LEFT", "RIGHT", ""}};
     std::string category;
     for (const ComparedFeature &feature : features) {
         if (feature.category != category) {
             category = feature.category;
-            rows.push_back({printable(category) + ':'});
+            rows.push_back({(category.empty() ? "Unknown" : printable(category)) + ':'});
         }
         const auto side = [&feature](const std::string &text, FeatureDifference missing) {
             return feature.difference == missing ? "-" : printable(text);
@@ -128,9 +128,9 @@ void printTexts(const std::vector<ComparedFeature> &features, const CompareOptio
         rows.push_back({"  " + settingLabel(feature.name, feature.selectors),
             side(feature.left, FeatureDifference::OnlyRight),
             side(feature.right, FeatureDifference::OnlyLeft),
-            feature.isIgnorable                                                        ? "(ignored)"
-                : feature.difference == FeatureDifference::Equal && options.isComplete ? "(equal)"
-                                                                                       : ""});
+            feature.isIgnorable                                  ? "(ignored)"
+                : feature.difference == FeatureDifference::Equal ? "(equal)"
+                                                                 : ""});
     }
     printTable(rows);
 }
@@ -171,7 +171,7 @@ ExitStatus run(const CompareOptions &options)
         printAsJson(features);
     } else {
         if (!features.empty())
-            printTexts(features, options);
+            printTexts(features);
         std::printf("%zu of %zu settings differ\n", majorCount, allCount);
     }
     const bool isEverythingRead = left.file.problems.empty() && right.file.problems.empty();
