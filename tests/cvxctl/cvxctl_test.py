@@ -3,6 +3,8 @@
 usage: cvxctl_test.py BUILD
 """
 
+import contextlib
+import fcntl
 import json
 import os
 import shutil
@@ -81,6 +83,18 @@ class CvxctlTest(unittest.TestCase):
     def run_json(self, *arguments):
         return json.loads(self.run_well(*arguments, "--json"))
 
+    @contextlib.contextmanager
+    def power(self, number):
+        """Keeps a camera on, so that its settings outlive a command: a camera that nobody uses loses them."""
+        process = self.start("watch", str(number))
+        self.assertIn("images", process.stdout.readline())
+        with open(f"{self.root}/corvix-camera-SIM-{number}.Sim", "r+b") as file:
+            user_lock = struct.pack("hhqqi4x", fcntl.F_RDLCK, os.SEEK_SET, 0, 1, 0)
+            fcntl.fcntl(file, fcntl.F_OFD_SETLK, user_lock)
+            process.send_signal(signal.SIGINT)
+            process.communicate(timeout=LIMIT)
+            yield
+
     def test_list(self):
         listed = self.run_json("list")
         self.assertEqual([(entry["id"], entry["userName"], entry["type"]) for entry in listed],
@@ -126,6 +140,86 @@ class CvxctlTest(unittest.TestCase):
                                     (("PixelFormat=None",), "PixelFormat"), (("Width=many",), "Width")):
             self.assertIn(expected, self.run_failing(7, "set", "2001", *arguments)[1])
         self.assertIn("NoFeature", self.run_failing(7, "get", "2001", "Width", "NoFeature")[1])
+
+    def test_save_change_load_compare(self):
+        with self.power(1001):
+            self.check_save_change_load_compare()
+
+    def check_save_change_load_compare(self):
+        path = f"{self.root}/left.txt"
+        self.assertRegex(self.run_well("save", "1001", path), r"^\d+ settings saved\n$")
+        with open(path, encoding="utf-8") as file:
+            lines = file.read().splitlines()
+        self.assertEqual(lines[0], "# {05D8C294-F295-4dfb-9D01-096BD04049F4}")
+        for line in ("Width\t320", "TriggerSelector\tFrameStart", "ReverseX\t0"):
+            self.assertIn(line, lines)
+        self.assertEqual([name for name in os.listdir(self.root) if name.endswith(".part")], [])
+        self.assertIn("0 of", self.run_well("compare", "1001", path))
+
+        self.run_well("set", "1001", "OffsetX=0", "Width=160", "OffsetX=100", "TriggerSelector=AcquisitionStart",
+                      "TriggerMode=On", "ExposureTime=1234.5", "ExposureAuto=Continuous", "ReverseX=true")
+        output, _ = self.run_failing(9, "compare", path, "1001", "--json")
+        differences = {entry["name"]: entry for entry in json.loads(output)}
+        self.assertEqual((differences["Width"]["left"], differences["Width"]["right"]), ("320", "160"))
+        self.assertEqual(differences["TriggerMode"]["selectors"], {"TriggerSelector": "AcquisitionStart"})
+
+        plan = self.run_well("load", "1001", path, "--dry-run")
+        self.assertRegex(plan, r"(?m)^Width: 160 -> 320$")
+        self.assertEqual(self.run_well("get", "1001", "Width"), "160\n")
+        output = self.run_well("load", "1001", path)
+        self.assertRegex(output, r"(?m)^TriggerMode \[TriggerSelector=AcquisitionStart\]: On -> Off$")
+        self.assertRegex(output, r"(?m) 0 failed$")
+        self.assertEqual(self.run_well("get", "1001", "TriggerSelector"), "AcquisitionStart\n")
+        self.run_well("compare", path, "1001")
+        self.assertRegex(self.run_well("compare", path, "1001", "--all"), r"(?m)^  Width +320 +320 +\(equal\)$")
+
+    def test_load_file_of_another_program(self):
+        with self.power(1002):
+            self.check_load_file_of_another_program()
+
+    def check_load_file_of_another_program(self):
+        path = f"{self.root}/other"
+        with open(path, "w", encoding="utf-8", newline="") as file:
+            file.write("\ufeff# {05D8C294-F295-4dfb-9D01-096BD04049F4}\r\n# GenApi persistence file\r\n"
+                       "Width   160\r\nOffsetX   100\r\nExposureTime\t12,5\r\nNoFeature\t1\r\nrubbish\r\n"
+                       "Gain\t{GainSelector=All}\t3\r\nOffsetX\t60000\r\n")
+        output, messages = self.run_failing(7, "load", "1002", path)
+        self.assertEqual(self.run_well("get", "1002", "Width", "ExposureTime", "Gain"),
+                         "Width=160\nExposureTime=12.5\nGain=3\n")
+        self.assertEqual([line.split(": ")[1] for line in messages.splitlines()],
+                         [f"{path}:7", f"{path}:6", f"{path}:9"])
+        self.run_well("set", "1002", "OffsetX=0", "Width=320", "ExposureTime=1000")
+        self.assertIn("Nothing was changed", self.run_failing(7, "load", "1002", path, "--all-or-nothing")[0])
+        with open(path, "w", encoding="utf-8") as file:
+            file.write("# {05D8C294-F295-4dfb-9D01-096BD04049F4}\nWidth 160\nOffsetX 60000\n")
+        output, _ = self.run_failing(7, "load", "1002", path, "--all-or-nothing", "--json")
+        self.assertTrue(json.loads(output)["restored"])
+        self.assertEqual(self.run_well("get", "1002", "Width"), "320\n")
+
+    def test_settings_of_a_camera_in_use(self):
+        process = self.start("watch", "2001")
+        self.assertIn("images", process.stdout.readline())
+        path = f"{self.root}/watched.txt"
+        output, messages = self.start("save", "2001", path).communicate(timeout=LIMIT)
+        self.assertIn("settings saved", output)
+        self.assertIn("TriggerSelector", messages)
+        self.run_failing(5, "load", "2001", path)
+        process.send_signal(signal.SIGINT)
+        process.communicate(timeout=LIMIT)
+
+    def test_compare_finds_files_and_cameras(self):
+        names = [entry["name"] for entry in json.loads(self.run_failing(9, "compare", "1001", "1002", "--json")[0])]
+        self.assertIn("BalanceRatio", names)
+        camera_id = "CorvixCameraSimulator.cti/Sim/SIM-1001"
+        self.run_well("compare", camera_id, "1001")
+        self.assertIn("missing.txt", self.run_failing(1, "compare", "missing.txt", "1001")[1])
+        path = f"{self.root}/1001"
+        self.run_well("save", "1001", path)
+        process = self.start("compare", "1001", "1001", cwd=self.root)
+        self.assertIn("./1001", process.communicate(timeout=LIMIT)[1])
+        self.assertEqual(process.returncode, 4)
+        self.run_well("compare", path, "1001")
+        self.assertIn("not a settings file", self.run_failing(1, "load", "1001", f"{self.root}/bin/cvxctl")[1])
 
     def test_run(self):
         self.run_well("run", "1001", "TimestampLatch")

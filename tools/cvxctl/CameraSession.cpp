@@ -50,6 +50,18 @@ ListedCamera describe(const std::shared_ptr<Camera> &camera)
     return listed;
 }
 
+/// Prints the error of a failed Camera::Open().
+ExitStatus reportOpening(const CvxResult &result)
+{
+    if (result)
+        return exitSuccess;
+    printError(result.text);
+    if (result.code == CvxErrorNotFound)
+        return exitNoCamera;
+    return result.code == CvxErrorInUse || result.code == CvxErrorTimeout ? exitStatus(result.code)
+                                                                          : exitFailure;
+}
+
 } // namespace
 
 CameraSession::~CameraSession()
@@ -144,14 +156,18 @@ ExitStatus CameraSession::open(const std::string &text, CvxAccess access)
 {
     if (const ExitStatus status = find(text, m_camera))
         return status;
-    const CvxResult result = m_camera.camera->Open(access, m_device);
-    if (result)
-        return exitSuccess;
-    printError(result.text);
-    if (result.code == CvxErrorNotFound)
-        return exitNoCamera;
-    return result.code == CvxErrorInUse || result.code == CvxErrorTimeout ? exitStatus(result.code)
-                                                                          : exitFailure;
+    return reportOpening(m_camera.camera->Open(access, m_device));
+}
+
+ExitStatus CameraSession::openToRead(const std::string &text)
+{
+    if (const ExitStatus status = find(text, m_camera))
+        return status;
+    const CvxResult result = m_camera.camera->Open(CvxAccessControl, m_device);
+    if (result.code != CvxErrorInUse)
+        return reportOpening(result);
+    printError(result.text + " Settings are read only for the present values of the selectors.");
+    return reportOpening(m_camera.camera->Open(CvxAccessWatch, m_device));
 }
 
 ExitStatus reportFailure(const CvxResult &result)

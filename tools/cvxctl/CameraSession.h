@@ -38,6 +38,10 @@ public:
     /// Finds and opens a camera. Prints an error on failure.
     ExitStatus open(const std::string &text, CvxCPP::CvxAccess access);
 
+    /// Finds a camera and opens it for a command that only writes selectors: with control if possible,
+    /// otherwise for watching, after a message. Prints an error on failure.
+    ExitStatus openToRead(const std::string &text);
+
     const ListedCamera &camera() const { return m_camera; }
     CvxCPP::Device &device() { return *m_device; }
 

@@ -18,6 +18,9 @@ int main(int argc, char *argv[])
     addRunCommand(program, status);
     addWatchCommand(program, status);
     addSnapshotCommand(program, status);
+    addSaveCommand(program, status);
+    addLoadCommand(program, status);
+    addCompareCommand(program, status);
 
     catchInterruption();
     try {
