@@ -5,7 +5,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
+
+struct PixelKernels;
 
 /// How the missing colours of a Bayer picture are found.
 enum class Demosaicing : std::uint8_t
@@ -20,6 +22,16 @@ enum class Demosaicing : std::uint8_t
 class ImageConverter
 {
 public:
+    /// Uses the fastest code that this processor can run.
+    ImageConverter();
+
+    /// Uses the given code, which the processor must be able to run.
+    explicit ImageConverter(const PixelKernels &kernels);
+
+    ImageConverter(ImageConverter &&) noexcept;
+    ImageConverter &operator=(ImageConverter &&) noexcept;
+    ~ImageConverter();
+
     /// What toScreen() converts: the region of the picture, scaled to `width` x `height` output pixels.
     struct ScreenRequest
     {
@@ -51,5 +63,6 @@ public:
         std::uint16_t *output, std::size_t stride);
 
 private:
-    std::vector<std::uint16_t> m_lines; // Unpacked lines that the current output line needs.
+    class Workspace;
+    std::unique_ptr<Workspace> m_workspace;
 };
