@@ -10,6 +10,13 @@
 // as the compiler vectorises them for its instructions.
 #define CVX_INLINE [[gnu::always_inline]] inline
 
+// Before a loop whose outputs do not overlap its inputs, so that it can be vectorised without a check.
+#if defined(__clang__)
+#define CVX_INDEPENDENT _Pragma("clang loop vectorize(assume_safety)")
+#else
+#define CVX_INDEPENDENT _Pragma("GCC ivdep")
+#endif
+
 namespace pixelloops {
 
 /// Returns a value of `bits` bits as a sample: itself for 16 bits, otherwise scaled to 8 bits.
@@ -77,6 +84,18 @@ CVX_INLINE void interleave(
     }
 }
 
+/// Returns -1 for pixels with the parity of `firstGreen`, otherwise 0.
+CVX_INLINE std::int32_t greenMask(std::size_t index, unsigned firstGreen)
+{
+    return static_cast<std::int32_t>((static_cast<unsigned>(index) ^ firstGreen) & 1U) - 1;
+}
+
+/// Returns `first` if the mask is -1, and `second` if it is 0. A conditional could become a jump.
+CVX_INLINE std::int32_t choose(std::int32_t mask, std::int32_t first, std::int32_t second)
+{
+    return second ^ ((first ^ second) & mask);
+}
+
 template <typename Sample>
 CVX_INLINE void demosaicBilinear(const BayerLines<Sample> &lines, std::size_t count, unsigned firstGreen,
     const BayerColors<Sample> &colors)
@@ -84,22 +103,23 @@ CVX_INLINE void demosaicBilinear(const BayerLines<Sample> &lines, std::size_t co
     const Sample *const above = lines.above;
     const Sample *const line = lines.line;
     const Sample *const below = lines.below;
-    Sample *__restrict const own = colors.own;
-    Sample *__restrict const green = colors.green;
-    Sample *__restrict const other = colors.other;
+    Sample *const own = colors.own;
+    Sample *const green = colors.green;
+    Sample *const other = colors.other;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         // Pointers, because the neighbour before the first pixel has the index -1.
         const Sample *const up = above + i;
         const Sample *const here = line + i;
         const Sample *const down = below + i;
-        const auto vertical = static_cast<Sample>((*up + *down + 1) >> 1);
-        const auto horizontal = static_cast<Sample>((here[-1] + here[1] + 1) >> 1);
-        const auto cross = static_cast<Sample>((*up + *down + here[-1] + here[1] + 2) >> 2);
-        const auto diagonal = static_cast<Sample>((up[-1] + up[1] + down[-1] + down[1] + 2) >> 2);
-        const bool isGreen = i % 2 == firstGreen;
-        own[i] = isGreen ? horizontal : *here;
-        green[i] = isGreen ? *here : cross;
-        other[i] = isGreen ? vertical : diagonal;
+        const std::int32_t vertical = (*up + *down + 1) >> 1;
+        const std::int32_t horizontal = (here[-1] + here[1] + 1) >> 1;
+        const std::int32_t cross = (*up + *down + here[-1] + here[1] + 2) >> 2;
+        const std::int32_t diagonal = (up[-1] + up[1] + down[-1] + down[1] + 2) >> 2;
+        const std::int32_t mask = greenMask(i, firstGreen);
+        own[i] = static_cast<Sample>(choose(mask, horizontal, *here));
+        green[i] = static_cast<Sample>(choose(mask, *here, cross));
+        other[i] = static_cast<Sample>(choose(mask, vertical, diagonal));
     }
 }
 
@@ -108,9 +128,10 @@ CVX_INLINE void demosaicBilinear(const BayerLines<Sample> &lines, std::size_t co
 /// colour, along the direction in which both vary less; along both if they vary alike.
 template <typename Sample>
 CVX_INLINE void findGreen(const std::array<const Sample *, 5> &lines, std::size_t count, unsigned firstGreen,
-    std::int32_t maximum, Sample *__restrict green)
+    std::int32_t maximum, Sample *green)
 {
     const auto [above2, above, line, below, below2] = lines;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         const Sample *const here = line + i;
         const std::int32_t center = *here;
@@ -126,7 +147,7 @@ CVX_INLINE void findGreen(const std::array<const Sample *, 5> &lines, std::size_
         const std::int32_t second = variationY <= variationX ? alongY : alongX;
         const std::int32_t value = (first + second + 4) >> 3;
         const std::int32_t valid = std::min(std::max(value, 0), maximum);
-        green[i] = static_cast<Sample>(i % 2 == firstGreen ? center : valid);
+        green[i] = static_cast<Sample>(choose(greenMask(i, firstGreen), center, valid));
     }
 }
 
@@ -138,9 +159,10 @@ CVX_INLINE void findColors(const BayerLines<Sample> &lines, const BayerLines<Sam
 {
     const auto [above, line, below] = lines;
     const auto [greenAbove, greenLine, greenBelow] = greens;
-    Sample *__restrict const ownOutput = colors.own;
-    Sample *__restrict const greenOutput = colors.green;
-    Sample *__restrict const otherOutput = colors.other;
+    Sample *const ownOutput = colors.own;
+    Sample *const greenOutput = colors.green;
+    Sample *const otherOutput = colors.other;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         const Sample *const up = above + i;
         const Sample *const here = line + i;
@@ -159,12 +181,13 @@ CVX_INLINE void findColors(const BayerLines<Sample> &lines, const BayerLines<Sam
             = std::abs(up[1] - down[-1]) + std::abs(2 * green - greenUp[1] - greenDown[-1]);
         const std::int32_t first = falling <= rising ? fallingSum : risingSum;
         const std::int32_t second = rising <= falling ? risingSum : fallingSum;
-        const bool isGreen = i % 2 == firstGreen;
+        const std::int32_t mask = greenMask(i, firstGreen);
         const std::int32_t own = green + ((rowSum + 1) >> 1);
-        const std::int32_t other = green + (isGreen ? (columnSum + 1) >> 1 : (first + second + 2) >> 2);
+        const std::int32_t vertical = (columnSum + 1) >> 1;
+        const std::int32_t diagonal = (first + second + 2) >> 2;
+        const std::int32_t other = green + choose(mask, vertical, diagonal);
         const std::int32_t validOwn = std::min(std::max(own, 0), maximum);
-        const std::int32_t here32 = *here;
-        ownOutput[i] = static_cast<Sample>(isGreen ? validOwn : here32);
+        ownOutput[i] = static_cast<Sample>(choose(mask, validOwn, *here));
         greenOutput[i] = static_cast<Sample>(green);
         otherOutput[i] = static_cast<Sample>(std::min(std::max(other, 0), maximum));
     }
@@ -176,13 +199,14 @@ CVX_INLINE void convertYuv(const std::array<const Sample *, 3> &yuv, std::size_t
 {
     const YuvWeights w = weights; // A copy, which the outputs cannot overlap.
     const auto [lumas, us, vs] = yuv;
-    Sample *__restrict const red = rgb[0];
-    Sample *__restrict const green = rgb[1];
-    Sample *__restrict const blue = rgb[2];
+    Sample *const red = rgb[0];
+    Sample *const green = rgb[1];
+    Sample *const blue = rgb[2];
     const std::int32_t half = 1 << (yuvFractionBits - 1);
     const auto valid = [&w](std::int32_t sum) {
         return static_cast<Sample>(std::min(std::max(sum >> yuvFractionBits, 0), w.maximum));
     };
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         const std::int32_t luma = (lumas[i] - w.lumaOffset) * w.luma + half;
         const std::int32_t u = us[i] - w.chromaOffset;
@@ -196,6 +220,7 @@ CVX_INLINE void convertYuv(const std::array<const Sample *, 3> &yuv, std::size_t
 CVX_INLINE void average(
     const std::uint8_t *first, const std::uint8_t *second, std::size_t count, std::uint8_t *output)
 {
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i)
         output[i] = static_cast<std::uint8_t>((first[i] + second[i] + 1) >> 1);
 }
@@ -204,6 +229,7 @@ CVX_INLINE void blend(const std::uint8_t *first, const std::uint8_t *second, int
     std::uint8_t *output)
 {
     const int rest = weightUnit - weight;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i)
         output[i] = static_cast<std::uint8_t>(
             (first[i] * rest + second[i] * weight + weightUnit / 2) >> weightBits);
@@ -211,6 +237,7 @@ CVX_INLINE void blend(const std::uint8_t *first, const std::uint8_t *second, int
 
 CVX_INLINE void halve(const std::uint8_t *input, std::size_t count, std::uint8_t *output)
 {
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count / 2; ++i)
         output[i] = static_cast<std::uint8_t>((input[2 * i] + input[2 * i + 1]) >> 1);
     if (count % 2 != 0)
