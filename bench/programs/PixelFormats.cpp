@@ -4,12 +4,12 @@
 //
 // usage: bench_pixel_formats ROUNDS [NAME]   with NAME: only the conversions whose names contain it
 
-#include "bench/programs/Timing.h"
 #include "sdk/image/ImageConverter.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -68,6 +68,14 @@ const std::vector<Conversion> conversions = {
     {"YCbCr420_8 semiplanar to RGB", "YCbCr420_8_YY_CbCr_Semiplanar", Output::Screen, width, height,
         AV_PIX_FMT_NV12},
 };
+
+/// Returns the processor time of this thread in microseconds.
+double threadTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e6 + static_cast<double>(time.tv_nsec) / 1e3;
+}
 
 /// The buffers of one conversion.
 class Measurement
@@ -149,11 +157,11 @@ void Measurement::convertTheirs(std::size_t index)
 /// Returns gigabytes of output per second.
 double Measurement::speed(const std::function<void(std::size_t)> &convert) const
 {
-    const double start = processorTime(RUSAGE_THREAD);
+    const double start = threadTime();
     for (std::size_t index = 0; index < ringSize; ++index)
         convert(index);
     const auto bytes = static_cast<double>(ringSize * m_lineBytes * m_conversion.outputHeight);
-    return bytes / (processorTime(RUSAGE_THREAD) - start) / 1000;
+    return bytes / (threadTime() - start) / 1000;
 }
 
 void Measurement::measureRound()

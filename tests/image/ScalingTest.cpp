@@ -36,13 +36,19 @@ Plane transposed(const Plane &plane)
     return result;
 }
 
-/// Scales the width as ScreenScaler promises. Means of two pixels are rounded by `rounding`.
-Plane withWidth(Plane plane, std::size_t width, int rounding)
+/// Returns how often the width is halved before two pixels are interpolated.
+int halvings(std::size_t from, std::size_t to)
 {
-    const double factor = static_cast<double>(plane.width) / static_cast<double>(width);
-    const bool isEnlarged = factor <= 1;
-    double halvings = 1;
-    for (; factor >= 2 * halvings; halvings *= 2) {
+    int result = 0;
+    while (from >= to << static_cast<unsigned>(result + 1))
+        ++result;
+    return result;
+}
+
+/// Halves the width. Means of two pixels are rounded by `rounding`.
+Plane halved(Plane plane, int times, int rounding)
+{
+    for (; times > 0; --times) {
         Plane half = {(plane.width + 1) / 2, plane.height, {}};
         for (std::size_t y = 0; y < plane.height; ++y)
             for (std::size_t x = 0; x < plane.width; x += 2)
@@ -51,16 +57,22 @@ Plane withWidth(Plane plane, std::size_t width, int rounding)
                         : (plane.at(x, y) + plane.at(x + 1, y) + rounding) / 2);
         plane = half;
     }
+    return plane;
+}
+
+/// Returns the plane with a new width, where one of its pixels takes `factor` pixels of the plane.
+Plane interpolated(const Plane &plane, std::size_t width, double factor)
+{
     Plane result = {width, plane.height, {}};
     for (std::size_t y = 0; y < plane.height; ++y) {
         for (std::size_t x = 0; x < width; ++x) {
-            const double center = (static_cast<double>(x) + 0.5) * factor / halvings;
-            if (isEnlarged) {
+            const double center = (static_cast<double>(x) + 0.5) * factor;
+            if (factor <= 1) {
                 result.pixels.push_back(plane.at(static_cast<std::size_t>(center + 1e-9), y));
                 continue;
             }
             // Positions have a precision of 1/64 of a pixel.
-            const double last = static_cast<double>(plane.width - 1);
+            const auto last = static_cast<double>(plane.width - 1);
             const double position = std::min(std::max(std::floor(center * 64 + 1e-6) / 64 - 0.5, 0.0), last);
             const auto first = static_cast<std::size_t>(position);
             const std::size_t second = std::min(first + 1, plane.width - 1);
@@ -72,9 +84,17 @@ Plane withWidth(Plane plane, std::size_t width, int rounding)
     return result;
 }
 
+/// Scales as ScreenScaler promises: both axes are halved before both are interpolated.
 Plane scaled(const Plane &plane, std::size_t width, std::size_t height)
 {
-    return withWidth(transposed(withWidth(transposed(plane), height, 1)), width, 0);
+    const int timesX = halvings(plane.width, width);
+    const int timesY = halvings(plane.height, height);
+    const double factorX
+        = static_cast<double>(plane.width) / static_cast<double>(width << static_cast<unsigned>(timesX));
+    const double factorY
+        = static_cast<double>(plane.height) / static_cast<double>(height << static_cast<unsigned>(timesY));
+    const Plane half = halved(transposed(halved(transposed(plane), timesY, 1)), timesX, 0);
+    return interpolated(transposed(interpolated(transposed(half), height, factorY)), width, factorX);
 }
 
 std::vector<std::uint8_t> randomBytes(std::size_t count)
