@@ -6,6 +6,7 @@
 
 #include "sdk/image/ImageConverter.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -22,8 +23,9 @@ namespace {
 
 constexpr std::uint32_t width = 2448;
 constexpr std::uint32_t height = 2048;
-/// Pictures come and go as in a stream, so neither input nor output is in the cache of the core.
-constexpr std::size_t ringSize = 8;
+/// Pictures come and go as in a stream: inputs and outputs are buffers in turn, of so many bytes together
+/// that neither is in a cache of the core when it is used again. That holds for memcpy() too.
+constexpr std::size_t ringBytes = 64U << 20U;
 
 enum class Output
 {
@@ -96,6 +98,7 @@ private:
     const Conversion &m_conversion;
     std::uint32_t m_code;
     std::size_t m_lineBytes; ///< Of the output.
+    std::size_t m_outputBytes;
     std::vector<std::vector<std::uint8_t>> m_inputs;
     std::vector<std::vector<std::uint8_t>> m_outputs;
     ImageConverter m_converter;
@@ -109,12 +112,13 @@ Measurement::Measurement(const Conversion &conversion)
     const unsigned channels
         = isWords ? 2 * ImageConverter::wordChannels(m_code) : ImageConverter::screenChannels(m_code);
     m_lineBytes = std::size_t(conversion.outputWidth) * channels;
-    m_inputs.assign(
-        ringSize, std::vector<std::uint8_t>(std::size_t(width) * height * bitsPerPixel(m_code) / 8));
+    const std::size_t inputBytes = std::size_t(width) * height * bitsPerPixel(m_code) / 8;
+    m_outputBytes = m_lineBytes * conversion.outputHeight;
+    m_inputs.assign(ringBytes / inputBytes + 1, std::vector<std::uint8_t>(inputBytes));
     for (std::vector<std::uint8_t> &input : m_inputs)
         for (std::uint8_t &byte : input)
             byte = static_cast<std::uint8_t>(std::rand() >> 8);
-    m_outputs.assign(ringSize, std::vector<std::uint8_t>(m_lineBytes * conversion.outputHeight + 64, 1));
+    m_outputs.assign(ringBytes / m_outputBytes + 1, std::vector<std::uint8_t>(m_outputBytes + 64, 1));
     if (conversion.theirFormat == AV_PIX_FMT_NONE)
         return;
     m_context
@@ -128,28 +132,28 @@ Measurement::Measurement(const Conversion &conversion)
 
 void Measurement::convert(std::size_t index)
 {
-    const RawImage picture
-        = {m_inputs[index].data(), m_inputs[index].size(), width, height, 0, m_code, false};
+    const RawImage picture = {m_inputs[index % m_inputs.size()].data(),
+        m_inputs[index % m_inputs.size()].size(), width, height, 0, m_code, false};
     const Region all = {0, 0, width, height};
     if (m_conversion.output == Output::Words) {
-        m_converter.toWords(
-            picture, all, reinterpret_cast<std::uint16_t *>(m_outputs[index].data()), m_lineBytes / 2);
+        m_converter.toWords(picture, all,
+            reinterpret_cast<std::uint16_t *>(m_outputs[index % m_outputs.size()].data()), m_lineBytes / 2);
         return;
     }
     const Demosaicing demosaicing
         = m_conversion.output == Output::EdgeAwareScreen ? Demosaicing::EdgeAware : Demosaicing::Bilinear;
     m_converter.toScreen(picture, {all, m_conversion.outputWidth, m_conversion.outputHeight, demosaicing},
-        m_outputs[index].data(), m_lineBytes);
+        m_outputs[index % m_outputs.size()].data(), m_lineBytes);
 }
 
 void Measurement::convertTheirs(std::size_t index)
 {
-    const std::vector<std::uint8_t> &input = m_inputs[index];
+    const std::vector<std::uint8_t> &input = m_inputs[index % m_inputs.size()];
     const bool isSemiplanar = m_conversion.theirFormat == AV_PIX_FMT_NV12;
     const auto lineBytes = static_cast<int>(isSemiplanar ? width : input.size() / height);
     const std::uint8_t *const planes[4] = {input.data(), input.data() + std::size_t(width) * height};
     const int strides[4] = {lineBytes, lineBytes};
-    std::uint8_t *const outputs[4] = {m_outputs[index].data()};
+    std::uint8_t *const outputs[4] = {m_outputs[index % m_outputs.size()].data()};
     const int outputStrides[4] = {static_cast<int>(m_lineBytes)};
     sws_scale(m_context, planes, strides, 0, height, outputs, outputStrides);
 }
@@ -158,18 +162,20 @@ void Measurement::convertTheirs(std::size_t index)
 double Measurement::speed(const std::function<void(std::size_t)> &convert) const
 {
     const double start = threadTime();
-    for (std::size_t index = 0; index < ringSize; ++index)
+    // Each output is used once, but large ones are not enough for a measurement.
+    const std::size_t count = std::max<std::size_t>(m_outputs.size(), 8);
+    for (std::size_t index = 0; index < count; ++index)
         convert(index);
-    const auto bytes = static_cast<double>(ringSize * m_lineBytes * m_conversion.outputHeight);
+    const auto bytes = static_cast<double>(count * m_outputBytes);
     return bytes / (threadTime() - start) / 1000;
 }
 
 void Measurement::measureRound()
 {
     const double ours = speed([this](std::size_t index) { convert(index); });
-    const std::size_t bytes = m_lineBytes * m_conversion.outputHeight;
     const double copy = speed([&](std::size_t index) {
-        std::memcpy(m_outputs[index].data(), m_outputs[(index + ringSize / 2) % ringSize].data(), bytes);
+        std::memcpy(m_outputs[index % m_outputs.size()].data(),
+            m_outputs[(index + m_outputs.size() / 2) % m_outputs.size()].data(), m_outputBytes);
     });
     const double theirs = m_context ? speed([this](std::size_t index) { convertTheirs(index); }) : 0;
     std::printf("%s\t%f\t%f\t%f\n", m_conversion.name, ours, copy, theirs);
