@@ -1,5 +1,7 @@
 #include "tests/image/ReferencePicture.h"
 
+#include "tests/image/ReferenceYuv.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -38,11 +40,6 @@ std::size_t bytesFor(std::size_t bitCount)
     return (bitCount + 7) / 8;
 }
 
-int floorDivision(int dividend, int divisor)
-{
-    return static_cast<int>(std::floor(static_cast<double>(dividend) / divisor));
-}
-
 } // namespace
 
 ReferencePicture::ReferencePicture(const RawImage &picture, const ReferenceFormat &format)
@@ -61,13 +58,18 @@ ReferencePicture::ReferencePicture(const RawImage &picture, const ReferenceForma
     for (const Token &token : m_tokens)
         m_groupPixels = std::max(m_groupPixels, token.pixel + 1);
     m_isTight = picture.size != paddedSize(picture, format) && picture.size == tightSize(picture);
-    if (format.storage != "f" && format.storage != "F")
-        return;
+    if (isFloat())
+        findRange();
+}
+
+/// Finds the lowest and the highest finite number of each component that the picture contains as a whole.
+void ReferencePicture::findRange()
+{
     m_lowest.fill(std::numeric_limits<double>::infinity());
     m_highest.fill(-std::numeric_limits<double>::infinity());
     const std::size_t channels = m_tokens.size();
-    for (int y = 0; y < static_cast<int>(picture.height); ++y) {
-        for (std::size_t i = 0; i < picture.width * channels; ++i) {
+    for (int y = 0; y < static_cast<int>(m_picture.height); ++y) {
+        for (std::size_t i = 0; i < m_picture.width * channels; ++i) {
             const std::size_t channel = i % channels;
             const auto plane = static_cast<unsigned>(m_isPlanar ? channel : 0);
             const std::size_t index = m_isPlanar ? i / channels : i;
@@ -116,14 +118,7 @@ bool ReferencePicture::isGrey() const
 
 char ReferencePicture::bayerColor(int x, int y) const
 {
-    const std::string_view first = m_format.layout;
-    const auto column = static_cast<std::size_t>(x & 1);
-    if ((y & 1) == 0)
-        return first[column];
-    // Below green is the colour that the first line lacks, and below the other colour is green.
-    if (first[column] != 'G')
-        return 'G';
-    return isIn(first, "R") ? 'B' : 'R';
+    return ReferenceDemosaicing::colorOf(m_format.layout, x, y);
 }
 
 /// Returns bits of the stream, the lowest bit of a byte first. Missing bits are 0.
@@ -161,12 +156,6 @@ std::size_t ReferencePicture::lineOffset(unsigned plane, int line) const
     if (m_isSemiplanar)
         return y * (m_picture.width + padding);
     return y * (bytesFor(m_picture.width * storedBits(m_picture.pixelFormat)) + padding);
-}
-
-/// Returns true if lines need not start at whole bytes.
-bool ReferencePicture::isStream() const
-{
-    return m_format.storage == "p" || m_format.storage == "P";
 }
 
 std::size_t ReferencePicture::lineComponents() const
@@ -290,7 +279,7 @@ double ReferencePicture::share(int x, int y, unsigned channel) const
 
 unsigned ReferencePicture::word(int x, int y, unsigned channel) const
 {
-    if (m_format.storage == "f" || m_format.storage == "F")
+    if (isFloat())
         return static_cast<unsigned>(std::floor(share(x, y, channel) * 65535 + 0.5));
     if (m_format.depth > 16)
         return static_cast<unsigned>(pattern(x, y, channel) >> static_cast<unsigned>(m_format.depth - 16));
@@ -300,7 +289,7 @@ unsigned ReferencePicture::word(int x, int y, unsigned channel) const
 unsigned ReferencePicture::screenByte(int x, int y, unsigned channel) const
 {
     const auto depth = static_cast<unsigned>(m_format.depth);
-    if (m_format.storage == "f" || m_format.storage == "F")
+    if (isFloat())
         return word(x, y, channel) / 256;
     std::uint64_t value = pattern(x, y, channel);
     if (m_format.storage == "565")
@@ -321,7 +310,7 @@ ReferencePicture::Color ReferencePicture::screen(int x, int y, Demosaicing demos
         return {double(screenByte(x, y, 0))};
     const Color color
         = {double(screenByte(x, y, 0)), double(screenByte(x, y, 1)), double(screenByte(x, y, 2))};
-    return m_format.kind == PixelKind::Yuv ? fromYuv(color[0], color[1], color[2], 8) : color;
+    return m_format.kind == PixelKind::Yuv ? referenceColor(m_format.standard, 8, color) : color;
 }
 
 ReferencePicture::Color ReferencePicture::colorWord(int x, int y, Demosaicing demosaicing) const
@@ -340,113 +329,17 @@ ReferencePicture::Color ReferencePicture::colorWord(int x, int y, Demosaicing de
         color[channel] = static_cast<double>(pattern(x, y, channel));
     if (m_format.storage == "565")
         return {color[0] * 2 + std::floor(color[0] / 16), color[1], color[2] * 2 + std::floor(color[2] / 16)};
-    return m_format.kind == PixelKind::Yuv ? fromYuv(color[0], color[1], color[2], depth) : color;
-}
-
-ReferencePicture::Color ReferencePicture::fromYuv(double y, double u, double v, int depth) const
-{
-    const double maximum = std::pow(2, depth) - 1;
-    const double kr = m_format.standard == "709" ? 0.2126 : m_format.standard == "2020" ? 0.2627 : 0.299;
-    const double kb = m_format.standard == "709" ? 0.0722 : m_format.standard == "2020" ? 0.0593 : 0.114;
-    u -= std::pow(2, depth - 1);
-    v -= std::pow(2, depth - 1);
-    if (!m_format.standard.empty()) {
-        y = (y - 16) * 255 / 219;
-        u = u * 255 / 224;
-        v = v * 255 / 224;
-    }
-    const double red = y + 2 * (1 - kr) * v;
-    const double blue = y + 2 * (1 - kb) * u;
-    const double green = (y - kr * red - kb * blue) / (1 - kr - kb); // Because luma is the sum of the shares.
-    return {std::clamp(red, 0.0, maximum), std::clamp(green, 0.0, maximum), std::clamp(blue, 0.0, maximum)};
-}
-
-int ReferencePicture::mirrored(int index, int count)
-{
-    if (count == 1)
-        return 0;
-    while (index < 0 || index >= count)
-        index = index < 0 ? -index : 2 * (count - 1) - index;
-    return index;
+    return m_format.kind == PixelKind::Yuv ? referenceColor(m_format.standard, depth, color) : color;
 }
 
 ReferencePicture::Color ReferencePicture::demosaic(
-    int x, int y, Demosaicing demosaicing, int maximum, const Value &value) const
+    int x, int y, Demosaicing demosaicing, int maximum, const ReferenceDemosaicing::Value &value) const
 {
-    const Value anywhere = [&](int column, int line) {
-        return value(mirrored(column, static_cast<int>(m_picture.width)),
-            mirrored(line, static_cast<int>(m_picture.height)));
-    };
+    const ReferenceDemosaicing reference(m_format.layout, static_cast<int>(m_picture.width),
+        static_cast<int>(m_picture.height), maximum, value);
     Color color{};
     for (std::size_t channel = 0; channel < 3; ++channel)
-        color[channel] = demosaicing == Demosaicing::Bilinear
-            ? bilinear(x, y, "RGB"[channel], anywhere)
-            : edgeAware(x, y, "RGB"[channel], maximum, anywhere);
+        color[channel] = demosaicing == Demosaicing::Bilinear ? reference.bilinear(x, y, "RGB"[channel])
+                                                              : reference.edgeAware(x, y, "RGB"[channel]);
     return color;
-}
-
-int ReferencePicture::bilinear(int x, int y, char color, const Value &value) const
-{
-    if (bayerColor(x, y) == color)
-        return value(x, y);
-    int sum = 0;
-    int count = 0;
-    for (int line = y - 1; line <= y + 1; ++line) {
-        for (int column = x - 1; column <= x + 1; ++column) {
-            if (bayerColor(column, line) == color) {
-                sum += value(column, line);
-                ++count;
-            }
-        }
-    }
-    return (sum + count / 2) / count;
-}
-
-int ReferencePicture::green(int x, int y, int maximum, const Value &value) const
-{
-    if (bayerColor(x, y) == 'G')
-        return value(x, y);
-    const int center = 2 * value(x, y);
-    const int bendX = center - value(x - 2, y) - value(x + 2, y);
-    const int bendY = center - value(x, y - 2) - value(x, y + 2);
-    const int variationX = std::abs(value(x - 1, y) - value(x + 1, y)) + std::abs(bendX);
-    const int variationY = std::abs(value(x, y - 1) - value(x, y + 1)) + std::abs(bendY);
-    const int fourX = 2 * (value(x - 1, y) + value(x + 1, y)) + bendX;
-    const int fourY = 2 * (value(x, y - 1) + value(x, y + 1)) + bendY;
-    if (variationX < variationY)
-        return std::clamp(floorDivision(fourX + 2, 4), 0, maximum);
-    if (variationY < variationX)
-        return std::clamp(floorDivision(fourY + 2, 4), 0, maximum);
-    return std::clamp(floorDivision(fourX + fourY + 4, 8), 0, maximum);
-}
-
-int ReferencePicture::edgeAware(int x, int y, char color, int maximum, const Value &value) const
-{
-    const int here = green(x, y, maximum, value);
-    if (color == 'G')
-        return here;
-    if (bayerColor(x, y) == color)
-        return value(x, y);
-    const auto difference
-        = [&](int dx, int dy) { return value(x + dx, y + dy) - green(x + dx, y + dy, maximum, value); };
-    const auto variation = [&](int dx, int dy) {
-        return std::abs(value(x + dx, y + dy) - value(x - dx, y - dy))
-            + std::abs(
-                2 * here - green(x + dx, y + dy, maximum, value) - green(x - dx, y - dy, maximum, value));
-    };
-    int mean = 0;
-    if (bayerColor(x, y) == 'G') {
-        const int dx = bayerColor(x + 1, y) == color ? 1 : 0;
-        mean = floorDivision(difference(dx, 1 - dx) + difference(-dx, dx - 1) + 1, 2);
-    } else {
-        const int falling = difference(-1, -1) + difference(1, 1);
-        const int rising = difference(1, -1) + difference(-1, 1);
-        if (variation(1, 1) < variation(1, -1))
-            mean = floorDivision(falling + 1, 2);
-        else if (variation(1, -1) < variation(1, 1))
-            mean = floorDivision(rising + 1, 2);
-        else
-            mean = floorDivision(falling + rising + 2, 4);
-    }
-    return std::clamp(here + mean, 0, maximum);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "sdk/image/ImageConverter.h"
+#include "tests/image/ReferenceDemosaicing.h"
 #include "tests/image/ReferenceFormats.h"
 
 #include <array>
-#include <functional>
 #include <string>
 
 /// Reads pictures pixel by pixel and bit by bit, as the documentation describes their formats. Slow and
@@ -33,8 +33,6 @@ public:
     Color colorWord(int x, int y, Demosaicing demosaicing) const;
 
 private:
-    using Value = std::function<int(int x, int y)>;
-
     struct Token
     {
         char letter;
@@ -48,18 +46,17 @@ private:
     std::uint64_t pattern(int x, int y, unsigned channel) const;
     std::size_t position(char letter, int pixel) const;
     std::size_t lineOffset(unsigned plane, int y) const;
-    bool isStream() const;
+    /// Returns true if lines need not start at whole bytes.
+    bool isStream() const { return m_format.storage == "p" || m_format.storage == "P"; }
     std::size_t lineComponents() const;
+    bool isFloat() const { return m_format.storage == "f" || m_format.storage == "F"; }
+    void findRange();
     double number(std::uint64_t pattern) const;
     double share(int x, int y, unsigned channel) const;
     unsigned screenByte(int x, int y, unsigned channel) const;
-    Color fromYuv(double y, double u, double v, int depth) const;
-    Color demosaic(int x, int y, Demosaicing demosaicing, int maximum, const Value &value) const;
-    int bilinear(int x, int y, char color, const Value &value) const;
-    int green(int x, int y, int maximum, const Value &value) const;
-    int edgeAware(int x, int y, char color, int maximum, const Value &value) const;
+    Color demosaic(
+        int x, int y, Demosaicing demosaicing, int maximum, const ReferenceDemosaicing::Value &value) const;
     char letterOf(unsigned channel) const;
-    static int mirrored(int index, int count);
 
     const RawImage &m_picture;
     const ReferenceFormat &m_format;
