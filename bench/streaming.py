@@ -5,6 +5,7 @@ import json
 import os
 import shutil
 import subprocess
+import tempfile
 
 from frames import BOUND
 from listing import Installation
@@ -15,6 +16,7 @@ LARGE, SMALL = "SIM-LARGE", "SIM-SMALL"
 CAMERAS = [{"id": LARGE, "model": "Large", "serial": "1", "sensorWidth": 2560, "sensorHeight": 1954},
            {"id": SMALL, "model": "Small", "serial": "2", "sensorWidth": 64, "sensorHeight": 64}]
 SECONDS = 3  # Of each stream.
+RECORDING_SECONDS = 10
 ACCESSES, LATENCIES = 2000, 500
 NETWORK_SECONDS = 60
 MEBIBYTE = 1 << 20
@@ -83,6 +85,22 @@ def simulated(bench):
                  [value / MEBIBYTE for value in floor_memory], *at_most_beyond(25, "MiB"))
 
 
+def recorded(bench):
+    """Records images of 5 MP at 60 images/s to a file system in memory."""
+    cameras = Cameras(bench)
+    for name in "recording.tif", "recording.raw":
+        with tempfile.TemporaryDirectory(dir="/dev/shm") as folder:
+            printed = subprocess.run(
+                [f"{cameras.root}/bin/cvxctl", "record", LARGE, f"{folder}/{name}", "--seconds", str(RECORDING_SECONDS),
+                 "--set", "AcquisitionFrameRateEnable=true", "--set", "AcquisitionFrameRate=60", "--json"],
+                stdout=subprocess.PIPE, check=False, text=True, timeout=5 * BOUND, env=cameras.environment).stdout
+        counters = json.loads(printed)
+        missing = sum(counters[kind] for kind in ("lost", "incomplete", "underruns", "unwritten"))
+        rate = counters["images"] / counters["seconds"]
+        yield Figure(f"images of 5 MP, Mono8, lost of {counters['images']} recorded to {name[-3:]} at {rate:.1f}/s", "",
+                     [missing], [], *at_most(0, ""))
+
+
 def on_network(bench):
     """Streams from a GigE Vision camera at its full rate over the loopback interface."""
     root = installation(bench, "streaming-gige", "fallback/UniversalGEV.cti")
@@ -98,4 +116,5 @@ def on_network(bench):
 
 def figures(bench):
     yield from simulated(bench)
+    yield from recorded(bench)
     yield from on_network(bench)

@@ -15,6 +15,7 @@ void addSetCommand(CLI::App &program, ExitStatus &status);
 void addRunCommand(CLI::App &program, ExitStatus &status);
 void addWatchCommand(CLI::App &program, ExitStatus &status);
 void addSnapshotCommand(CLI::App &program, ExitStatus &status);
+void addRecordCommand(CLI::App &program, ExitStatus &status);
 
 /// The text that explains the argument CAMERA of every sub-command.
 constexpr char cameraHelp[]

@@ -18,6 +18,7 @@ int main(int argc, char *argv[])
     addRunCommand(program, status);
     addWatchCommand(program, status);
     addSnapshotCommand(program, status);
+    addRecordCommand(program, status);
 
     catchInterruption();
     try {
