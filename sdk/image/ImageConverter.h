@@ -46,8 +46,8 @@ public:
 
     /// Converts to 8 bits per channel for the screen: the highest 8 significant bits of each component.
     /// `output` has `height` lines of `stride` bytes.
-    void toScreen(const RawImage &picture, const ScreenRequest &request, std::uint8_t *output,
-        std::size_t stride);
+    void toScreen(
+        const RawImage &picture, const ScreenRequest &request, std::uint8_t *output, std::size_t stride);
 
     /// Returns the values per pixel of toWords() for a format: 1 to 4.
     static unsigned wordChannels(std::uint32_t pixelFormat);

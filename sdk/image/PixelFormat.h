@@ -33,4 +33,7 @@ const PixelFormat *findPixelFormat(std::uint32_t code);
 const PixelFormat *findPixelFormat(std::string_view name);
 
 /// Returns the bits that a pixel occupies in memory, which every PFNC code tells.
-constexpr unsigned bitsPerPixel(std::uint32_t code) { return code >> 16U & 0xFFU; }
+constexpr unsigned bitsPerPixel(std::uint32_t code)
+{
+    return code >> 16U & 0xFFU;
+}

@@ -68,8 +68,8 @@ constexpr PixelLayout yuv(std::uint32_t code, const char *name, const Arrangemen
 
 constexpr PixelLayout raw(std::uint32_t code, const char *name)
 {
-    return {{code, name, PixelKind::Raw, 8, 1}, Packing::Unknown, Number::Unsigned, Planes::Interleaved,
-        single};
+    return {
+        {code, name, PixelKind::Raw, 8, 1}, Packing::Unknown, Number::Unsigned, Planes::Interleaved, single};
 }
 
 constexpr PixelLayout unknownLayout = raw(0, "");

@@ -10,7 +10,8 @@ enum class Packing : std::uint8_t
     Bits, ///< A stream of bits, the lowest bits of a byte first, without gaps between components.
     Bytes, ///< One byte each.
     Words, ///< Two bytes each, with the value in the lowest bits.
-    Pairs, ///< Two components in three bytes: high bits of the first, low bits of both, high bits of the second.
+    Pairs, ///< Two components in three bytes: high bits of the first, low bits of both, high bits of the
+           ///< second.
     Wide, ///< Integers or floating-point numbers of 32 or 64 bits.
     Rgb10p32, ///< Three components of 10 bits in 32 bits.
     Rgb565, ///< Components of 5, 6 and 5 bits in 16 bits.

@@ -20,6 +20,6 @@ struct RawValues
     std::optional<BayerColor> color; ///< Only for Bayer pictures: what the pixel shows.
 };
 
-/// Returns the components of the pixel, which must be inside the picture. Components that an incomplete picture
-/// lacks are 0. Integers of 64 bits are rounded to the 53 bits of a double.
+/// Returns the components of the pixel, which must be inside the picture. Components that an incomplete
+/// picture lacks are 0. Integers of 64 bits are rounded to the 53 bits of a double.
 RawValues rawValues(const RawImage &picture, std::uint32_t x, std::uint32_t y);
