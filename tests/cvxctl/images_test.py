@@ -7,6 +7,8 @@ import csv
 import datetime
 import json
 import os
+import re
+import select
 import shutil
 import signal
 import struct
@@ -70,7 +72,7 @@ class ImagesTest(CvxctlCase):
     def setUp(self):
         self.folder = f"{self.root}/{self.id()}"
         os.mkdir(self.folder)
-        self.run_well("set", "1001", "PixelFormat=Mono8", "OffsetX=0", "Width=320")
+        self.run_well("set", "1001", "PixelFormat=Mono8", "OffsetX=0", "Width=320", "TriggerMode=Off")
 
     def path(self, name):
         return f"{self.folder}/{name}"
@@ -144,6 +146,37 @@ class ImagesTest(CvxctlCase):
         self.assertEqual([(int(row["offset"]), int(row["size"]), row["isComplete"]) for row in rows],
                          [(index * size, size, "1") for index in range(len(rows))])
         self.assertEqual(os.path.getsize(self.path("a.raw")), len(rows) * size)
+
+    def test_losses_are_shown_and_change_the_exit_status(self):
+        os.mkfifo(self.path("pipe"))
+        pipe = os.open(self.path("pipe"), os.O_RDWR | os.O_NONBLOCK)  # Nobody reads, so the images stay in the buffers.
+        self.addCleanup(os.close, pipe)
+        terminal, inner = os.openpty()
+        self.addCleanup(os.close, terminal)
+        process = subprocess.Popen([f"{self.root}/bin/cvxctl", "record", "1001", self.path("pipe"), "--buffers", "2"],
+                                   env=self.environment, text=True, stdout=subprocess.PIPE, stderr=inner)
+        os.close(inner)
+
+        def read_until(pattern):
+            printed = ""
+            while not re.search(pattern, printed):
+                self.assertTrue(select.select([terminal], [], [], LIMIT)[0], printed)
+                printed += os.read(terminal, 4096).decode()
+
+        read_until(r"[1-9]\d* underruns")
+        process.send_signal(signal.SIGINT)
+        end = time.monotonic() + LIMIT
+        while process.poll() is None:
+            self.assertLess(time.monotonic(), end)
+            if select.select([pipe], [], [], 0.1)[0]:
+                os.read(pipe, 1 << 16)
+        read_until("the recording has gaps: .*\d underruns .*--buffers")
+        self.assertEqual(process.returncode, 8)
+        process.communicate(timeout=LIMIT)
+
+    def test_recording_without_images(self):
+        self.assertIn("TriggerMode", self.run_failing(6, "record", "1001", self.path("a.raw"), "--seconds", "0.2", "--set",
+                                                      "TriggerMode=On")[1])
 
     def start_recording(self, name, *arguments):
         """Starts a recording and returns its process as soon as the file contains some images."""

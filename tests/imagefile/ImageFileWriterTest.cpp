@@ -2,12 +2,14 @@
 
 #include "ImageFileTest.h"
 
+#include <fcntl.h>
 #include <regex>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
 using Words = std::vector<std::uint16_t>;
-using testing::Test;
 
 class ImageFileWriterTest : public ImageFileTest
 {
@@ -95,8 +97,12 @@ TEST_F(ImageFileWriterTest, failureLeavesNoFileAndSaysWhy)
             "\"" + path("missing/a")
                 + "\" cannot be written: No such file or directory; create the folder first");
     }
-    EXPECT_EQ(writer.write(image, "/dev/full", ImageFileFormat::Png8, {}),
-        "\"/dev/full\" cannot be written: No space left on device; free some space or choose another folder");
+    // A link, so that nothing can happen to the device itself.
+    std::filesystem::create_symlink("/dev/full", path("full"));
+    EXPECT_EQ(write(image, "full", ImageFileFormat::Png8),
+        "\"" + path("full")
+            + "\" cannot be written: No space left on device; free some space or choose another folder");
+    std::filesystem::remove(path("full"));
     EXPECT_NE(writer.write(image, "/sys/a.raw", ImageFileFormat::Raw, {}), ""); // Not even root may do that.
     EXPECT_NE(write(MemoryImage(unknownFormat, 2, 2, Bytes(4)), "a.png", ImageFileFormat::Png8), "");
     // The name is taken by a folder, so the finished file cannot get it.
@@ -105,9 +111,14 @@ TEST_F(ImageFileWriterTest, failureLeavesNoFileAndSaysWhy)
     EXPECT_EQ(names(), (std::vector<std::string>{"folder", "folder.json"}));
 }
 
-TEST_F(ImageFileWriterTest, devicesAreWrittenInPlace)
+TEST_F(ImageFileWriterTest, pipesAreWrittenInPlace)
 {
-    EXPECT_EQ(writer.write(MemoryImage(mono8, 1, 1, {1}), "/dev/null", ImageFileFormat::Raw, {}), "");
-    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
-    EXPECT_FALSE(std::filesystem::exists("/dev/null.json"));
+    ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
+    const int pipe = open(path("pipe").c_str(), O_RDWR | O_NONBLOCK);
+    EXPECT_EQ(write(MemoryImage(mono8, 2, 1, {1, 2}), "pipe", ImageFileFormat::Raw), "");
+    Bytes content(10);
+    EXPECT_EQ(read(pipe, content.data(), content.size()), 2);
+    EXPECT_EQ(content[1], 2);
+    close(pipe);
+    EXPECT_EQ(names(), std::vector<std::string>{"pipe"});
 }

@@ -148,13 +148,15 @@ TEST_F(RecordingFileTest, fullDiskKeepsWhatWasWritten)
     const std::string tiffFile = path("a.tif");
     const std::string rawFile = path("a.raw");
     {
-        constexpr rlim_t limit = 3 * side * side; // For two images and a part of the third one.
+        constexpr rlim_t limit = 3 * side * side + 100; // Each file ends with a part of an image.
         const FileSizeLimit fullDisk(limit);
         TiffRecording tiff(tiffFile, {});
         RawRecording raw(rawFile);
         for (const std::uint64_t number : {1U, 2U})
             ASSERT_TRUE(tiff.append(image(number)) && raw.append(image(number)));
+        const std::uintmax_t size = std::filesystem::file_size(tiffFile);
         EXPECT_FALSE(tiff.append(image(3)));
+        EXPECT_EQ(std::filesystem::file_size(tiffFile), size);
         EXPECT_EQ(tiff.problem(),
             "\"" + tiffFile
                 + "\" cannot be written: File too large; choose another file system, or raise the limit of "

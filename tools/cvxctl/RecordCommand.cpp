@@ -137,9 +137,8 @@ bool checkLosses(const Taking &taking, const RecorderCounters &counters)
         const char *text;
     };
     const Loss losses[] = {
-        {taking.statistics.lost, "lost between camera and program (\"cvxctl doctor\" looks for the reason)"},
-        {taking.statistics.underruns,
-            "lost because no buffer was free (use more --buffers or a faster disk)"},
+        {taking.statistics.lost, "lost (gaps in the frame IDs)"},
+        {taking.statistics.underruns, "underruns (no buffer was free; use more --buffers or a faster disk)"},
         {counters.incomplete, "incomplete"},
         {counters.unwritten, "not written"},
         {taking.statistics.reopenCount, "times without the camera, until it was opened again"},
