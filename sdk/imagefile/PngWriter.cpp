@@ -36,7 +36,7 @@ void writeHeader(png_structp png, png_infop info, const Samples &samples)
     png_write_info(png, info);
 }
 
-bool writePicture(png_structp png, png_infop info, const Samples &samples)
+bool writeChunks(png_structp png, png_infop info, const Samples &samples)
 {
     if (setjmp(png_jmpbuf(png)) != 0)
         return false;
@@ -66,7 +66,7 @@ bool writePng(OutputFile &file, const Samples &samples)
         return file.fail("there is not enough memory");
     }
     png_set_write_fn(png, &file, writeBytes, flushBytes);
-    const bool isWritten = writePicture(png, info, samples);
+    const bool isWritten = writeChunks(png, info, samples);
     png_destroy_write_struct(&png, &info);
     return isWritten;
 }

@@ -30,7 +30,7 @@ class Recorder
 {
 public:
     Recorder() = default;
-    /// Finishes the recording, as if no statistics were known.
+    /// Writes the waiting images and closes the file; the sidecar stays without counters.
     ~Recorder();
     Recorder(const Recorder &) = delete;
     Recorder &operator=(const Recorder &) = delete;

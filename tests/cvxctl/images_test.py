@@ -72,7 +72,6 @@ class ImagesTest(CvxctlCase):
     def setUp(self):
         self.folder = f"{self.root}/{self.id()}"
         os.mkdir(self.folder)
-        self.run_well("set", "1001", "PixelFormat=Mono8", "OffsetX=0", "Width=320", "TriggerMode=Off")
 
     def path(self, name):
         return f"{self.folder}/{name}"
@@ -93,7 +92,7 @@ class ImagesTest(CvxctlCase):
         self.run_well("snapshot", "1002", self.path("e.tiff"), "--set", "PixelFormat=BayerRG12Packed")
         self.assertEqual(tool("identify", "-format", "%z %wx%h %[colorspace]", self.path("e.tiff")), "16 320x240 Gray")
         self.assertIn("Max Sample Value: 4095", tool("tiffinfo", self.path("e.tiff")))
-        taken = self.run_json("snapshot", "1001", self.path("f.raw"), "--set", "PixelFormat=Mono8")
+        taken = self.run_json("snapshot", "1001", self.path("f.raw"))
         size = WIDTH * HEIGHT
         self.assertEqual((taken["width"], taken["bytes"], os.path.getsize(self.path("f.raw"))), (WIDTH, size, size))
 
@@ -106,7 +105,6 @@ class ImagesTest(CvxctlCase):
                          [64, 256, "Mono8", True])
         self.assertEqual(sidecar["camera"], {"id": "CorvixCameraSimulator.cti/Sim/SIM-1001", "vendor": "Orvelle",
                                              "model": "Kx200 5MP-M", "serialNumber": "1001", "userName": "Left"})
-        self.run_well("set", "1001", "OffsetX=0", "Width=320")
         # Written first, the offset is beyond its limit.
         self.assertIn("OffsetX", self.run_failing(7, "snapshot", "1001", self.path("b.png"), "--set", "OffsetX=256",
                                                   "--set", "Width=64")[1])
@@ -138,7 +136,7 @@ class ImagesTest(CvxctlCase):
         self.assertEqual(self.load("a.tif.json")["recording"]["images"], 20)
 
     def test_record_raw(self):
-        output = self.run_well("record", "1002", self.path("a.raw"), "--seconds", "1", "--set", "PixelFormat=BayerRG8")
+        output = self.run_well("record", "1002", self.path("a.raw"), "--seconds", "1")
         with open(self.path("a.raw.csv"), encoding="utf-8", newline="") as file:
             rows = list(csv.DictReader(file))
         self.assertTrue(output.startswith(f"{len(rows)} images, "), output)

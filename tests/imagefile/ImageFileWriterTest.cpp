@@ -1,6 +1,7 @@
 #include "sdk/imagefile/ImageFileWriter.h"
 
 #include "ImageFileTest.h"
+#include "sdk/image/PixelLayout.h"
 
 #include <fcntl.h>
 #include <regex>
@@ -59,6 +60,26 @@ TEST_F(ImageFileWriterTest, tiffIsReadByOthers)
     ASSERT_EQ(write(MemoryImage(bgr8, 1, 2, {3, 2, 1, 6, 5, 4}), "rgb.tif", ImageFileFormat::Tiff), "");
     EXPECT_EQ(readSamples(path("rgb.tif"), "rgb"), (Words{257, 514, 771, 1028, 1285, 1542}));
     EXPECT_EQ(outputOf("identify -format '%m %z %wx%h %[colorspace]' " + path("rgb.tif")), "TIFF 8 1x2 sRGB");
+}
+
+TEST_F(ImageFileWriterTest, everyFormatIsWrittenOrRefused)
+{
+    unsigned refused = 0;
+    for (const PixelLayout &layout : pixelLayouts()) {
+        const std::uint32_t code = layout.format.code;
+        const std::size_t size = 6 * 4 * bitsPerPixel(code) / 8; // Even for the formats that share chroma.
+        const MemoryImage image(code, 6, 4, Bytes(size, 0x5A));
+        const std::string problem = fileFormatProblem(code);
+        refused += problem.empty() ? 0 : 1;
+        for (const ImageFileFormat format :
+            {ImageFileFormat::Png8, ImageFileFormat::Png16, ImageFileFormat::Tiff})
+            EXPECT_EQ(write(image, "a", format), problem) << layout.format.name << formatText(format);
+        if (problem.empty()) {
+            const std::string seen = outputOf("tiffinfo " + path("a"));
+            EXPECT_NE(seen.find("Image Width: 6 Image Length: 4"), std::string::npos) << seen;
+        }
+    }
+    EXPECT_GT(refused, 0U);
 }
 
 TEST_F(ImageFileWriterTest, sidecarDescribesTheImage)

@@ -101,7 +101,8 @@ ExitStatus takeImages(Stream &stream, Recorder &recorder, const RecordOptions &o
             recorder.add(std::move(image));
             ++taking.images;
         } else if (result.code == CvxErrorDeviceLost) {
-            printError(result.text);
+            if (!taking.isCameraLost)
+                printError(result.text);
         } else if (result.code != CvxErrorTimeout) {
             return reportFailure(result);
         }
