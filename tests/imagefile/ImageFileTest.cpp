@@ -8,7 +8,7 @@
 
 namespace fs = std::filesystem;
 
-MemoryImage::MemoryImage(std::uint32_t format, std::uint32_t width, std::uint32_t height, Bytes bytes)
+MemoryImage::MemoryImage(std::uint32_t format, std::uint32_t width, std::uint32_t height, ByteList bytes)
     : m_bytes(std::move(bytes))
 {
     m_info.pixelFormat = format;
@@ -36,7 +36,7 @@ std::vector<std::string> ImageFileTest::names() const
     return names;
 }
 
-Bytes ImageFileTest::contentOf(const std::string &path)
+ByteList ImageFileTest::contentOf(const std::string &path)
 {
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};

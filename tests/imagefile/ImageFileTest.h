@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-using Bytes = std::vector<std::uint8_t>;
+using ByteList = std::vector<std::uint8_t>;
 
 // Codes of the GenICam Pixel Format Naming Convention.
 constexpr std::uint32_t mono8 = 0x01080001;
@@ -25,7 +25,7 @@ constexpr std::uint32_t unknownFormat = 0x81080001;
 class MemoryImage final : public CvxCPP::Image
 {
 public:
-    MemoryImage(std::uint32_t format, std::uint32_t width, std::uint32_t height, Bytes bytes);
+    MemoryImage(std::uint32_t format, std::uint32_t width, std::uint32_t height, ByteList bytes);
 
     const std::uint8_t *GetData() const override { return m_bytes.data(); }
     std::size_t GetSize() const override { return m_bytes.size(); }
@@ -36,7 +36,7 @@ public:
     std::vector<CvxCPP::ChunkValue> m_chunks;
 
 private:
-    Bytes m_bytes;
+    ByteList m_bytes;
 };
 
 /// A test with a folder of its own.
@@ -50,7 +50,7 @@ protected:
     /// Returns the names of the files in the folder, sorted.
     std::vector<std::string> names() const;
 
-    static Bytes contentOf(const std::string &path);
+    static ByteList contentOf(const std::string &path);
     static nlohmann::json jsonOf(const std::string &path);
 
     /// Returns what a command of the shell prints on standard output and standard error.

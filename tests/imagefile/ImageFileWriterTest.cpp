@@ -36,7 +36,7 @@ TEST_F(ImageFileWriterTest, pngIsReadByOthers)
         write(MemoryImage(mono10, 2, 1, {0xFF, 0x03, 0x00, 0x02}), "16.png", ImageFileFormat::Png16), "");
     EXPECT_EQ(readSamples(path("16.png"), "gray"), (Words{65535, 32800}));
     // The chunk sBIT has one byte: the significant bits.
-    const Bytes content = contentOf(path("16.png"));
+    const ByteList content = contentOf(path("16.png"));
     const std::string chunk{'\0', '\0', '\0', '\1', 's', 'B', 'I', 'T', '\12'};
     EXPECT_NE(std::string(content.begin(), content.end()).find(chunk), std::string::npos);
 
@@ -68,7 +68,7 @@ TEST_F(ImageFileWriterTest, everyFormatIsWrittenOrRefused)
     for (const PixelLayout &layout : pixelLayouts()) {
         const std::uint32_t code = layout.format.code;
         const std::size_t size = 6 * 4 * bitsPerPixel(code) / 8; // Even for the formats that share chroma.
-        const MemoryImage image(code, 6, 4, Bytes(size, 0x5A));
+        const MemoryImage image(code, 6, 4, ByteList(size, 0x5A));
         const std::string problem = fileFormatProblem(code);
         refused += problem.empty() ? 0 : 1;
         for (const ImageFileFormat format :
@@ -90,7 +90,7 @@ TEST_F(ImageFileWriterTest, sidecarDescribesTheImage)
     image.m_info.offsetX = 16;
     image.m_chunks = {{"ChunkGain", 1.5}};
     ASSERT_EQ(write(image, "a.raw", ImageFileFormat::Raw), "");
-    EXPECT_EQ(contentOf(path("a.raw")), (Bytes{1, 2, 3, 4}));
+    EXPECT_EQ(contentOf(path("a.raw")), (ByteList{1, 2, 3, 4}));
 
     nlohmann::json json = jsonOf(path("a.raw.json"));
     const std::string time = json["image"]["time"];
@@ -111,7 +111,7 @@ TEST_F(ImageFileWriterTest, sidecarDescribesTheImage)
 
 TEST_F(ImageFileWriterTest, failureLeavesNoFileAndSaysWhy)
 {
-    const MemoryImage image(mono8, 2, 2, Bytes(4));
+    const MemoryImage image(mono8, 2, 2, ByteList(4));
     for (const ImageFileFormat format :
         {ImageFileFormat::Png8, ImageFileFormat::Png16, ImageFileFormat::Tiff, ImageFileFormat::Raw}) {
         EXPECT_EQ(write(image, "missing/a", format),
@@ -125,7 +125,7 @@ TEST_F(ImageFileWriterTest, failureLeavesNoFileAndSaysWhy)
             + "\" cannot be written: No space left on device; free some space or choose another folder");
     std::filesystem::remove(path("full"));
     EXPECT_NE(writer.write(image, "/sys/a.raw", ImageFileFormat::Raw, {}), ""); // Not even root may do that.
-    EXPECT_NE(write(MemoryImage(unknownFormat, 2, 2, Bytes(4)), "a.png", ImageFileFormat::Png8), "");
+    EXPECT_NE(write(MemoryImage(unknownFormat, 2, 2, ByteList(4)), "a.png", ImageFileFormat::Png8), "");
     // The name is taken by a folder, so the finished file cannot get it.
     std::filesystem::create_directory(path("folder"));
     EXPECT_NE(write(image, "folder", ImageFileFormat::Raw), "");
@@ -137,7 +137,7 @@ TEST_F(ImageFileWriterTest, pipesAreWrittenInPlace)
     ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
     const int pipe = open(path("pipe").c_str(), O_RDWR | O_NONBLOCK);
     EXPECT_EQ(write(MemoryImage(mono8, 2, 1, {1, 2}), "pipe", ImageFileFormat::Raw), "");
-    Bytes content(10);
+    ByteList content(10);
     EXPECT_EQ(read(pipe, content.data(), content.size()), 2);
     EXPECT_EQ(content[1], 2);
     close(pipe);

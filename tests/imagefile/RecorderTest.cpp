@@ -13,7 +13,7 @@ namespace {
 
 std::shared_ptr<MemoryImage> numbered(std::uint64_t number, std::uint32_t format = mono8)
 {
-    auto image = std::make_shared<MemoryImage>(format, 4, 4, Bytes(16, static_cast<std::uint8_t>(number)));
+    auto image = std::make_shared<MemoryImage>(format, 4, 4, ByteList(16, static_cast<std::uint8_t>(number)));
     image->m_info.frameId = number;
     return image;
 }
@@ -55,7 +55,7 @@ TEST_F(RecorderTest, everyImageIsWrittenAndItsBufferReleased)
     EXPECT_EQ(counters.incomplete, 10U);
     EXPECT_EQ(counters.bytes, 1600U);
     EXPECT_EQ(counters.waiting + counters.unwritten, 0U);
-    const Bytes content = contentOf(path("a.raw"));
+    const ByteList content = contentOf(path("a.raw"));
     ASSERT_EQ(content.size(), 1600U);
     for (std::size_t index = 0; index < content.size(); ++index)
         ASSERT_EQ(content[index], index / 16);
@@ -80,7 +80,7 @@ TEST_F(RecorderTest, slowDiskHoldsUpNobody)
         recorder.add(numbered(number));
     EXPECT_GT(recorder.counters().waiting, 0U);
     std::thread emptying([&] {
-        Bytes buffer(1 << 16);
+        ByteList buffer(1 << 16);
         for (std::size_t rest = images * 16; rest > 0;)
             rest -= static_cast<std::size_t>(read(reader, buffer.data(), buffer.size()));
     });

@@ -6,7 +6,7 @@
 
 namespace {
 
-RawImage picture(std::uint32_t format, std::uint32_t width, std::uint32_t height, const Bytes &bytes)
+RawImage picture(std::uint32_t format, std::uint32_t width, std::uint32_t height, const ByteList &bytes)
 {
     RawImage picture;
     picture.data = bytes.data();
@@ -37,18 +37,18 @@ using Values = std::vector<unsigned>;
 TEST(SampleConverterTest, unscaledSamplesAreTheMeasuredValues)
 {
     SampleConverter converter;
-    const Bytes packed{0x34, 0x12, 0xAB}; // 0x234 and 0xAB1.
+    const ByteList packed{0x34, 0x12, 0xAB}; // 0x234 and 0xAB1.
     const Samples mono = converter.unscaled(picture(mono12p, 2, 1, packed));
     EXPECT_EQ(valuesOf(mono), (Values{0x234, 0xAB1}));
     EXPECT_EQ(mono.significantBits, 12U);
     EXPECT_FALSE(mono.isColor);
 
-    const Bytes pattern{200, 100, 100, 50};
+    const ByteList pattern{200, 100, 100, 50};
     const Samples bayer = converter.unscaled(picture(bayerRG8, 2, 2, pattern));
     EXPECT_EQ(valuesOf(bayer), (Values{200, 100, 100, 50}));
     EXPECT_FALSE(bayer.isColor);
 
-    const Bytes colors{3, 2, 1, 6, 5, 4};
+    const ByteList colors{3, 2, 1, 6, 5, 4};
     const Samples rgb = converter.unscaled(picture(bgr8, 2, 1, colors));
     EXPECT_EQ(valuesOf(rgb), (Values{1, 2, 3, 4, 5, 6}));
     EXPECT_EQ(rgb.bits, 8U);
@@ -58,7 +58,7 @@ TEST(SampleConverterTest, unscaledSamplesAreTheMeasuredValues)
 TEST(SampleConverterTest, picturesWithTheLayoutOfTheFileAreNotCopied)
 {
     SampleConverter converter;
-    const Bytes bytes{1, 2, 3, 0, 5, 0, 7, 0, 9, 0, 11, 0};
+    const ByteList bytes{1, 2, 3, 0, 5, 0, 7, 0, 9, 0, 11, 0};
     EXPECT_EQ(converter.unscaled(picture(mono8, 3, 4, bytes)).data, bytes.data());
     EXPECT_EQ(converter.unscaled(picture(rgb8, 2, 2, bytes)).data, bytes.data());
     EXPECT_EQ(converter.unscaled(picture(mono10, 2, 3, bytes)).data, bytes.data());
@@ -78,11 +78,11 @@ TEST(SampleConverterTest, fullRangeKeepsTheHighestBits)
 {
     SampleConverter converter;
     for (unsigned value = 0; value < 1024; ++value) {
-        const Bytes bytes{static_cast<std::uint8_t>(value), static_cast<std::uint8_t>(value >> 8U)};
+        const ByteList bytes{static_cast<std::uint8_t>(value), static_cast<std::uint8_t>(value >> 8U)};
         const Samples samples = converter.fullRange16(picture(mono10, 1, 1, bytes));
         EXPECT_EQ(valuesOf(samples).front() >> 6U, value);
     }
-    const Bytes white{0xFF, 0x03, 0xFF, 0x03, 0xFF, 0x03, 0xFF, 0x03};
+    const ByteList white{0xFF, 0x03, 0xFF, 0x03, 0xFF, 0x03, 0xFF, 0x03};
     EXPECT_EQ(valuesOf(converter.fullRange16(picture(bayerRG10, 2, 2, white))), Values(12, 0xFFFF));
     EXPECT_EQ(valuesOf(converter.fullRange8(picture(bayerRG10, 2, 2, white))), Values(12, 0xFF));
     EXPECT_EQ(valuesOf(converter.fullRange8(picture(mono10, 2, 2, white))), Values(4, 0xFF));

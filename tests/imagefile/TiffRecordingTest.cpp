@@ -16,7 +16,7 @@ constexpr std::uint32_t side = 64; // Pixels.
 
 MemoryImage image(std::uint64_t number)
 {
-    MemoryImage image(mono8, side, side, Bytes(side * side, static_cast<std::uint8_t>(number)));
+    MemoryImage image(mono8, side, side, ByteList(side * side, static_cast<std::uint8_t>(number)));
     image.m_info.frameId = number;
     return image;
 }
@@ -37,9 +37,9 @@ std::vector<int> readImages(const std::string &path)
     std::vector<int> values;
     if (TIFF *const tiff = TIFFOpen(path.c_str(), "r")) {
         do {
-            Bytes pixels(side * side);
+            ByteList pixels(side * side);
             const bool isRead = TIFFReadEncodedStrip(tiff, 0, pixels.data(), side * side) == side * side;
-            const bool isUniform = pixels == Bytes(side * side, pixels.front());
+            const bool isUniform = pixels == ByteList(side * side, pixels.front());
             values.push_back(isRead && isUniform ? pixels.front() : -1);
         } while (TIFFReadDirectory(tiff) != 0);
         TIFFClose(tiff);
