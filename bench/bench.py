@@ -13,6 +13,7 @@ import time
 
 import chart
 import clicking
+import converting
 import discovering
 import idling
 import listing
@@ -25,7 +26,7 @@ import streaming
 from frames import BOUND, Screen
 
 GROUPS = {"starting": starting, "listing": listing, "clicking": clicking, "querying": querying, "plugging": plugging,
-          "discovering": discovering, "streaming": streaming, "idling": idling, "size": size}
+          "discovering": discovering, "streaming": streaming, "converting": converting, "idling": idling, "size": size}
 
 
 class Bench:

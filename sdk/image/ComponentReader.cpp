@@ -30,24 +30,6 @@ void prepare(std::vector<Sample> &buffer, std::size_t count)
         buffer.resize(size);
 }
 
-/// Writes words of `depth` bits as samples. A loop for each byte order can be vectorised.
-template <typename Sample>
-void convertWords(const std::uint8_t *input, unsigned highByte, unsigned depth, unsigned flip,
-    std::size_t count, Sample *__restrict output)
-{
-    const unsigned mask = (1U << depth) - 1;
-    const unsigned shift = isForScreen<Sample> ? depth - 8 : 0;
-    const auto convert = [=](unsigned low, unsigned high) {
-        return static_cast<Sample>((((high << 8U | low) & mask) ^ flip) >> shift);
-    };
-    if (highByte == 0)
-        for (std::size_t i = 0; i < count; ++i)
-            output[i] = convert(input[2 * i + 1], input[2 * i]);
-    else
-        for (std::size_t i = 0; i < count; ++i)
-            output[i] = convert(input[2 * i], input[2 * i + 1]);
-}
-
 } // namespace
 
 template <typename Sample>
@@ -157,8 +139,9 @@ template <typename Sample>
 void ComponentReader<Sample>::readWords(std::size_t offset, std::size_t count, Sample *output)
 {
     const bool isSigned = isForScreen<Sample> && m_layout->number == Number::Signed;
-    convertWords(bytes(offset, 2 * count).begin, m_picture.isBigEndian ? 0 : 1, m_layout->format.depth,
-        isSigned ? 0x8000U : 0, count, output);
+    m_kernels->of<Sample>().unpackWords({bytes(offset, 2 * count).begin, m_picture.isBigEndian,
+                                            m_layout->format.depth, isSigned ? 0x8000U : 0},
+        count, output);
 }
 
 template <typename Sample>

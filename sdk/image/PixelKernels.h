@@ -21,6 +21,15 @@ struct PairStream
     unsigned bits; ///< 10 or 12.
 };
 
+/// Words of two bytes.
+struct WordStream
+{
+    const std::uint8_t *begin;
+    bool isBigEndian;
+    unsigned bits; ///< From 8 to 16: the lowest bits that are significant.
+    unsigned flip; ///< Bits to invert.
+};
+
 /// Picks bytes from one group after the other.
 struct BytePattern
 {
@@ -76,10 +85,11 @@ constexpr int weightUnit = 1 << weightBits;
 template <typename Sample>
 struct SampleKernels
 {
-    /// Unpacks values of 1 to 16 bits. Samples of 8 bits are the highest bits of the values, or the values
-    /// scaled to the range of 8 bits if they have fewer.
+    /// Unpack values. Samples of 8 bits are the highest bits of the values, or the values scaled to the range
+    /// of 8 bits if they have fewer.
     void (*unpackBits)(const BitStream &stream, std::size_t count, Sample *output);
     void (*unpackPairs)(const PairStream &stream, std::size_t count, Sample *output);
+    void (*unpackWords)(const WordStream &stream, std::size_t count, Sample *output);
 
     /// Finds the missing colours as rounded means of the nearest pixels of the colour: two or four.
     void (*demosaicBilinear)(const BayerLines<Sample> &lines, std::size_t count, unsigned firstGreen,

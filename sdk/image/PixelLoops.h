@@ -10,6 +10,13 @@
 // as the compiler vectorises them for its instructions.
 #define CVX_INLINE [[gnu::always_inline]] inline
 
+// Before a loop whose outputs do not overlap its inputs, so that it can be vectorised without a check.
+#if defined(__clang__)
+#define CVX_INDEPENDENT _Pragma("clang loop vectorize(assume_safety)")
+#else
+#define CVX_INDEPENDENT _Pragma("GCC ivdep")
+#endif
+
 namespace pixelloops {
 
 /// Returns a value of `bits` bits as a sample: itself for 16 bits, otherwise scaled to 8 bits.
@@ -52,6 +59,18 @@ CVX_INLINE void unpackPairs(const PairStream &stream, std::size_t count, Sample 
     }
 }
 
+template <typename Sample>
+CVX_INLINE void unpackWords(const WordStream &stream, std::size_t count, Sample *output)
+{
+    const std::uint8_t *const low = stream.begin + (stream.isBigEndian ? 1 : 0);
+    const std::uint8_t *const high = stream.begin + (stream.isBigEndian ? 0 : 1);
+    const unsigned mask = (1U << stream.bits) - 1;
+    for (std::size_t i = 0; i < count; ++i) {
+        const unsigned word = static_cast<unsigned>(high[2 * i]) << 8U | low[2 * i];
+        output[i] = sampleOf<Sample>((word & mask) ^ stream.flip, stream.bits);
+    }
+}
+
 CVX_INLINE void permute(
     const std::uint8_t *input, const BytePattern &pattern, std::uint8_t *output, std::size_t size)
 {
@@ -77,6 +96,30 @@ CVX_INLINE void interleave(
     }
 }
 
+/// The type that holds sums of a few samples. The vectors are the longer, the smaller it is.
+template <typename Sample>
+using Sum = std::conditional_t<sizeof(Sample) == 1, std::int16_t, std::int32_t>;
+
+/// Returns -1 for pixels with the parity of `firstGreen`, otherwise 0.
+template <typename Wide>
+CVX_INLINE Wide greenMask(std::size_t index, unsigned firstGreen)
+{
+    return static_cast<Wide>(static_cast<Wide>((index ^ firstGreen) & 1U) - 1);
+}
+
+/// Returns `first` if the mask is -1, and `second` if it is 0. A conditional could become a jump.
+template <typename Wide>
+CVX_INLINE Wide choose(Wide mask, Wide first, Wide second)
+{
+    return static_cast<Wide>(second ^ ((first ^ second) & mask));
+}
+
+template <typename Wide>
+CVX_INLINE Wide magnitude(Wide value)
+{
+    return static_cast<Wide>(value < 0 ? -value : value);
+}
+
 template <typename Sample>
 CVX_INLINE void demosaicBilinear(const BayerLines<Sample> &lines, std::size_t count, unsigned firstGreen,
     const BayerColors<Sample> &colors)
@@ -84,22 +127,23 @@ CVX_INLINE void demosaicBilinear(const BayerLines<Sample> &lines, std::size_t co
     const Sample *const above = lines.above;
     const Sample *const line = lines.line;
     const Sample *const below = lines.below;
-    Sample *__restrict const own = colors.own;
-    Sample *__restrict const green = colors.green;
-    Sample *__restrict const other = colors.other;
+    Sample *const own = colors.own;
+    Sample *const green = colors.green;
+    Sample *const other = colors.other;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         // Pointers, because the neighbour before the first pixel has the index -1.
         const Sample *const up = above + i;
         const Sample *const here = line + i;
         const Sample *const down = below + i;
-        const auto vertical = static_cast<Sample>((*up + *down + 1) >> 1);
-        const auto horizontal = static_cast<Sample>((here[-1] + here[1] + 1) >> 1);
-        const auto cross = static_cast<Sample>((*up + *down + here[-1] + here[1] + 2) >> 2);
-        const auto diagonal = static_cast<Sample>((up[-1] + up[1] + down[-1] + down[1] + 2) >> 2);
-        const bool isGreen = i % 2 == firstGreen;
-        own[i] = isGreen ? horizontal : *here;
-        green[i] = isGreen ? *here : cross;
-        other[i] = isGreen ? vertical : diagonal;
+        const std::int32_t vertical = (*up + *down + 1) >> 1;
+        const std::int32_t horizontal = (here[-1] + here[1] + 1) >> 1;
+        const std::int32_t cross = (*up + *down + here[-1] + here[1] + 2) >> 2;
+        const std::int32_t diagonal = (up[-1] + up[1] + down[-1] + down[1] + 2) >> 2;
+        const auto mask = greenMask<std::int32_t>(i, firstGreen);
+        own[i] = static_cast<Sample>(choose<std::int32_t>(mask, horizontal, *here));
+        green[i] = static_cast<Sample>(choose<std::int32_t>(mask, *here, cross));
+        other[i] = static_cast<Sample>(choose(mask, vertical, diagonal));
     }
 }
 
@@ -108,25 +152,30 @@ CVX_INLINE void demosaicBilinear(const BayerLines<Sample> &lines, std::size_t co
 /// colour, along the direction in which both vary less; along both if they vary alike.
 template <typename Sample>
 CVX_INLINE void findGreen(const std::array<const Sample *, 5> &lines, std::size_t count, unsigned firstGreen,
-    std::int32_t maximum, Sample *__restrict green)
+    std::int32_t maximum, Sample *green)
 {
+    using Wide = Sum<Sample>;
+    const auto highest = static_cast<Wide>(maximum);
     const auto [above2, above, line, below, below2] = lines;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         const Sample *const here = line + i;
-        const std::int32_t center = *here;
-        const std::int32_t up = above[i];
-        const std::int32_t down = below[i];
-        const std::int32_t bendX = 2 * center - here[-2] - here[2];
-        const std::int32_t bendY = 2 * center - above2[i] - below2[i];
-        const std::int32_t variationX = std::abs(here[-1] - here[1]) + std::abs(bendX);
-        const std::int32_t variationY = std::abs(up - down) + std::abs(bendY);
-        const std::int32_t alongX = 2 * (here[-1] + here[1]) + bendX;
-        const std::int32_t alongY = 2 * (up + down) + bendY;
-        const std::int32_t first = variationX <= variationY ? alongX : alongY;
-        const std::int32_t second = variationY <= variationX ? alongY : alongX;
-        const std::int32_t value = (first + second + 4) >> 3;
-        const std::int32_t valid = std::min(std::max(value, 0), maximum);
-        green[i] = static_cast<Sample>(i % 2 == firstGreen ? center : valid);
+        const Wide center = *here;
+        const Wide up = above[i];
+        const Wide down = below[i];
+        const auto bendX = static_cast<Wide>(2 * center - here[-2] - here[2]);
+        const auto bendY = static_cast<Wide>(2 * center - above2[i] - below2[i]);
+        const auto slopeX = static_cast<Wide>(here[-1] - here[1]);
+        const auto slopeY = static_cast<Wide>(up - down);
+        const auto variationX = static_cast<Wide>(magnitude<Wide>(slopeX) + magnitude<Wide>(bendX));
+        const auto variationY = static_cast<Wide>(magnitude<Wide>(slopeY) + magnitude<Wide>(bendY));
+        const auto alongX = static_cast<Wide>(2 * (here[-1] + here[1]) + bendX);
+        const auto alongY = static_cast<Wide>(2 * (up + down) + bendY);
+        const Wide first = variationX <= variationY ? alongX : alongY;
+        const Wide second = variationY <= variationX ? alongY : alongX;
+        const auto value = static_cast<Wide>(static_cast<Wide>(first + second + 4) >> 3);
+        const Wide valid = std::min(std::max(value, Wide(0)), highest);
+        green[i] = static_cast<Sample>(choose(greenMask<Wide>(i, firstGreen), center, valid));
     }
 }
 
@@ -136,11 +185,14 @@ template <typename Sample>
 CVX_INLINE void findColors(const BayerLines<Sample> &lines, const BayerLines<Sample> &greens,
     std::size_t count, unsigned firstGreen, std::int32_t maximum, const BayerColors<Sample> &colors)
 {
+    using Wide = Sum<Sample>;
+    const auto highest = static_cast<Wide>(maximum);
     const auto [above, line, below] = lines;
     const auto [greenAbove, greenLine, greenBelow] = greens;
-    Sample *__restrict const ownOutput = colors.own;
-    Sample *__restrict const greenOutput = colors.green;
-    Sample *__restrict const otherOutput = colors.other;
+    Sample *const ownOutput = colors.own;
+    Sample *const greenOutput = colors.green;
+    Sample *const otherOutput = colors.other;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         const Sample *const up = above + i;
         const Sample *const here = line + i;
@@ -148,25 +200,30 @@ CVX_INLINE void findColors(const BayerLines<Sample> &lines, const BayerLines<Sam
         const Sample *const greenUp = greenAbove + i;
         const Sample *const greenHere = greenLine + i;
         const Sample *const greenDown = greenBelow + i;
-        const std::int32_t green = *greenHere;
-        const std::int32_t rowSum = here[-1] - greenHere[-1] + here[1] - greenHere[1];
-        const std::int32_t columnSum = *up - *greenUp + *down - *greenDown;
-        const std::int32_t fallingSum = up[-1] - greenUp[-1] + down[1] - greenDown[1];
-        const std::int32_t risingSum = up[1] - greenUp[1] + down[-1] - greenDown[-1];
-        const std::int32_t falling
-            = std::abs(up[-1] - down[1]) + std::abs(2 * green - greenUp[-1] - greenDown[1]);
-        const std::int32_t rising
-            = std::abs(up[1] - down[-1]) + std::abs(2 * green - greenUp[1] - greenDown[-1]);
-        const std::int32_t first = falling <= rising ? fallingSum : risingSum;
-        const std::int32_t second = rising <= falling ? risingSum : fallingSum;
-        const bool isGreen = i % 2 == firstGreen;
-        const std::int32_t own = green + ((rowSum + 1) >> 1);
-        const std::int32_t other = green + (isGreen ? (columnSum + 1) >> 1 : (first + second + 2) >> 2);
-        const std::int32_t validOwn = std::min(std::max(own, 0), maximum);
-        const std::int32_t here32 = *here;
-        ownOutput[i] = static_cast<Sample>(isGreen ? validOwn : here32);
+        const Wide green = *greenHere;
+        const auto rowSum = static_cast<Wide>(here[-1] - greenHere[-1] + here[1] - greenHere[1]);
+        const auto columnSum = static_cast<Wide>(*up - *greenUp + *down - *greenDown);
+        const auto fallingSum = static_cast<Wide>(up[-1] - greenUp[-1] + down[1] - greenDown[1]);
+        const auto risingSum = static_cast<Wide>(up[1] - greenUp[1] + down[-1] - greenDown[-1]);
+        const auto fallingSlope = static_cast<Wide>(up[-1] - down[1]);
+        const auto risingSlope = static_cast<Wide>(up[1] - down[-1]);
+        const auto fallingBend = static_cast<Wide>(2 * green - greenUp[-1] - greenDown[1]);
+        const auto risingBend = static_cast<Wide>(2 * green - greenUp[1] - greenDown[-1]);
+        const auto falling = static_cast<Wide>(magnitude<Wide>(fallingSlope) + magnitude<Wide>(fallingBend));
+        const auto rising = static_cast<Wide>(magnitude<Wide>(risingSlope) + magnitude<Wide>(risingBend));
+        const Wide first = falling <= rising ? fallingSum : risingSum;
+        const Wide second = rising <= falling ? risingSum : fallingSum;
+        const auto vertical = static_cast<Wide>(static_cast<Wide>(columnSum + 1) >> 1);
+        const auto diagonal = static_cast<Wide>(static_cast<Wide>(first + second + 2) >> 2);
+        const auto horizontal = static_cast<Wide>(static_cast<Wide>(rowSum + 1) >> 1);
+        const Wide mask = greenMask<Wide>(i, firstGreen);
+        const auto own = static_cast<Wide>(green + horizontal);
+        const auto other = static_cast<Wide>(green + choose(mask, vertical, diagonal));
+        const Wide validOwn = std::min(std::max(own, Wide(0)), highest);
+        const Wide validOther = std::min(std::max(other, Wide(0)), highest);
+        ownOutput[i] = static_cast<Sample>(choose<Wide>(mask, validOwn, *here));
         greenOutput[i] = static_cast<Sample>(green);
-        otherOutput[i] = static_cast<Sample>(std::min(std::max(other, 0), maximum));
+        otherOutput[i] = static_cast<Sample>(validOther);
     }
 }
 
@@ -176,13 +233,14 @@ CVX_INLINE void convertYuv(const std::array<const Sample *, 3> &yuv, std::size_t
 {
     const YuvWeights w = weights; // A copy, which the outputs cannot overlap.
     const auto [lumas, us, vs] = yuv;
-    Sample *__restrict const red = rgb[0];
-    Sample *__restrict const green = rgb[1];
-    Sample *__restrict const blue = rgb[2];
+    Sample *const red = rgb[0];
+    Sample *const green = rgb[1];
+    Sample *const blue = rgb[2];
     const std::int32_t half = 1 << (yuvFractionBits - 1);
     const auto valid = [&w](std::int32_t sum) {
         return static_cast<Sample>(std::min(std::max(sum >> yuvFractionBits, 0), w.maximum));
     };
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i) {
         const std::int32_t luma = (lumas[i] - w.lumaOffset) * w.luma + half;
         const std::int32_t u = us[i] - w.chromaOffset;
@@ -196,6 +254,7 @@ CVX_INLINE void convertYuv(const std::array<const Sample *, 3> &yuv, std::size_t
 CVX_INLINE void average(
     const std::uint8_t *first, const std::uint8_t *second, std::size_t count, std::uint8_t *output)
 {
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i)
         output[i] = static_cast<std::uint8_t>((first[i] + second[i] + 1) >> 1);
 }
@@ -204,6 +263,7 @@ CVX_INLINE void blend(const std::uint8_t *first, const std::uint8_t *second, int
     std::uint8_t *output)
 {
     const int rest = weightUnit - weight;
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count; ++i)
         output[i] = static_cast<std::uint8_t>(
             (first[i] * rest + second[i] * weight + weightUnit / 2) >> weightBits);
@@ -211,6 +271,7 @@ CVX_INLINE void blend(const std::uint8_t *first, const std::uint8_t *second, int
 
 CVX_INLINE void halve(const std::uint8_t *input, std::size_t count, std::uint8_t *output)
 {
+    CVX_INDEPENDENT
     for (std::size_t i = 0; i < count / 2; ++i)
         output[i] = static_cast<std::uint8_t>((input[2 * i] + input[2 * i + 1]) >> 1);
     if (count % 2 != 0)

@@ -13,6 +13,9 @@ constexpr SampleKernels<Sample> plainSampleKernels()
         [](const PairStream &stream, std::size_t count, Sample *output) {
             pixelloops::unpackPairs(stream, count, output);
         },
+        [](const WordStream &stream, std::size_t count, Sample *output) {
+            pixelloops::unpackWords(stream, count, output);
+        },
         [](const BayerLines<Sample> &lines, std::size_t count, unsigned firstGreen,
             const BayerColors<Sample> &colors) {
             pixelloops::demosaicBilinear(lines, count, firstGreen, colors);

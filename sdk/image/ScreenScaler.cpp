@@ -68,7 +68,7 @@ void ScreenScaler::scale(ColorLines<std::uint8_t> &lines, const Region &from, co
         if (source == previous)
             std::memcpy(output, output - target.stride, lineBytes);
         else
-            writeRow(m_lines->line(source).channels, output);
+            writeRow(withHalvedColumns(m_lines->line(source).channels, m_tall), output);
         previous = source;
     }
 }
@@ -145,9 +145,28 @@ const ScreenScaler::HalvedRow &ScreenScaler::cachedRow(std::uint32_t index)
     HalvedRow &entry = m_cache[index % 2];
     if (entry.index != index) {
         entry.index = index;
-        entry.row = halvedRow(m_rows.halvings, index, entry.buffer);
+        entry.row = m_columns.halvings == 0
+            ? halvedRow(m_rows.halvings, index, entry.buffer)
+            : withHalvedColumns(halvedRow(m_rows.halvings, index, m_tall), entry.buffer);
     }
     return entry;
+}
+
+/// Returns a row after all halvings of the width, which is in `buffer` unless there are none.
+ScreenScaler::Row ScreenScaler::withHalvedColumns(const Row &row, RowBuffer &buffer)
+{
+    Row result = row;
+    std::uint32_t count = m_columns.from;
+    for (unsigned i = 1; i <= m_columns.halvings; ++i, count = (count + 1) / 2) {
+        // The two buffers alternate, and the last step writes into the first one.
+        RowBuffer &target = (m_columns.halvings - i) % 2 == 0 ? buffer : m_spare;
+        for (unsigned channel = 0; channel < m_channels; ++channel) {
+            grow(target[channel], (count + 1) / 2);
+            m_kernels->halve(result[channel], count, target[channel].data());
+            result[channel] = target[channel].data();
+        }
+    }
+    return result;
 }
 
 ScreenScaler::Row ScreenScaler::interpolatedRow(std::uint32_t y)
@@ -195,16 +214,9 @@ void ScreenScaler::scaleColumns(const std::uint8_t *input, std::uint8_t *output)
             output[i] = input[m_nearestColumns[i]];
         return;
     }
-    std::uint32_t count = m_columns.from;
-    for (unsigned i = 0; i < m_columns.halvings; ++i) {
-        std::vector<std::uint8_t> &narrow = m_narrow[i % 2];
-        grow(narrow, count);
-        m_kernels->halve(input, count, narrow.data());
-        input = narrow.data();
-        count = (count + 1) / 2;
-    }
-    if (count == m_columns.to && m_columns.to << m_columns.halvings == m_columns.from)
-        std::memcpy(output, input, count);
+    const bool isHalvedOnly = m_columns.to == m_columns.halved && m_columns.from % m_columns.to == 0;
+    if (isHalvedOnly)
+        std::memcpy(output, input, m_columns.to);
     else
-        m_kernels->interpolate(input, count, m_steps.data(), m_columns.to, output);
+        m_kernels->interpolate(input, m_columns.halved, m_steps.data(), m_columns.to, output);
 }

@@ -45,7 +45,7 @@ private:
         unsigned halvings = 0;
         std::uint32_t halved = 0; ///< Pixels after all halvings.
     };
-    /// A line after all halvings of the height.
+    /// A row after all halvings of height and width.
     struct HalvedRow
     {
         std::uint32_t index = 0xFFFFFFFF;
@@ -57,6 +57,7 @@ private:
     Row sourceRow(std::uint32_t y);
     Row persistentRow(std::uint32_t y, RowBuffer &buffer);
     Row halvedRow(unsigned level, std::uint32_t index, RowBuffer &buffer);
+    Row withHalvedColumns(const Row &row, RowBuffer &buffer);
     Row interpolatedRow(std::uint32_t y);
     const HalvedRow &cachedRow(std::uint32_t index);
     void writeRow(const Row &row, std::uint8_t *output);
@@ -72,6 +73,7 @@ private:
     std::array<HalvedRow, 2> m_cache; ///< Row i is in entry i % 2.
     std::vector<std::array<RowBuffer, 2>> m_halves; ///< For each halving, the two rows that it needs.
     RowBuffer m_blended;
-    std::array<std::vector<std::uint8_t>, 2> m_narrow; ///< A row between two halvings of the width.
+    RowBuffer m_tall; ///< A row whose width is not yet halved.
+    RowBuffer m_spare;
     RowBuffer m_scaled;
 };

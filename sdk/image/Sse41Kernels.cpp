@@ -111,6 +111,35 @@ CVX_SSE41 void unpackPairsSse(const PairStream &stream, std::size_t count, Sampl
     pixelloops::unpackPairs(rest, count, output);
 }
 
+/// Returns eight words without the bits that mean nothing.
+CVX_SSE41 inline __m128i loadWords(const std::uint8_t *input, __m128i order, __m128i mask, __m128i flip)
+{
+    return _mm_xor_si128(_mm_and_si128(_mm_shuffle_epi8(load(input), order), mask), flip);
+}
+
+template <typename Sample>
+CVX_SSE41 void unpackWordsSse(const WordStream &stream, std::size_t count, Sample *output)
+{
+    const __m128i order = stream.isBigEndian
+        ? _mm_setr_epi8(1, 0, 3, 2, 5, 4, 7, 6, 9, 8, 11, 10, 13, 12, 15, 14)
+        : _mm_setr_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+    const __m128i mask = _mm_set1_epi16(static_cast<short>((1U << stream.bits) - 1));
+    const __m128i flip = _mm_set1_epi16(static_cast<short>(stream.flip));
+    const __m128i shift = _mm_cvtsi32_si128(static_cast<int>(stream.bits - 8));
+    WordStream rest = stream;
+    for (; count >= 16; count -= 16, output += 16, rest.begin += 32) {
+        const __m128i low = loadWords(rest.begin, order, mask, flip);
+        const __m128i high = loadWords(rest.begin + 16, order, mask, flip);
+        if constexpr (sizeof(Sample) == 1) {
+            store(output, _mm_packus_epi16(_mm_srl_epi16(low, shift), _mm_srl_epi16(high, shift)));
+        } else {
+            store(output, low);
+            store(output + 8, high);
+        }
+    }
+    pixelloops::unpackWords(rest, count, output);
+}
+
 CVX_SSE41 void permuteSse(const std::uint8_t *input, const std::uint8_t *end, const BytePattern &pattern,
     std::uint8_t *output, std::size_t size)
 {
@@ -289,8 +318,8 @@ CVX_SSE41 void interpolateSse(const std::uint8_t *input, std::size_t inputCount,
 template <typename Sample>
 constexpr SampleKernels<Sample> sse41SampleKernels()
 {
-    return {unpackBitsSse<Sample>, unpackPairsSse<Sample>, demosaicSse<Sample>, findGreenSse<Sample>,
-        findColorsSse<Sample>, convertYuvSse<Sample>};
+    return {unpackBitsSse<Sample>, unpackPairsSse<Sample>, unpackWordsSse<Sample>, demosaicSse<Sample>,
+        findGreenSse<Sample>, findColorsSse<Sample>, convertYuvSse<Sample>};
 }
 
 PixelKernels makeSse41Kernels()
