@@ -5,6 +5,7 @@ import json
 import os
 import shutil
 import subprocess
+import tempfile
 
 from frames import BOUND
 from listing import Installation
@@ -15,6 +16,7 @@ LARGE, SMALL = "SIM-LARGE", "SIM-SMALL"
 CAMERAS = [{"id": LARGE, "model": "Large", "serial": "1", "sensorWidth": 2560, "sensorHeight": 1954},
            {"id": SMALL, "model": "Small", "serial": "2", "sensorWidth": 64, "sensorHeight": 64}]
 SECONDS = 3  # Of each stream.
+RECORDING_SECONDS = 10
 ACCESSES, LATENCIES = 2000, 500
 NETWORK_SECONDS = 60
 FRAME_PERIOD = "0x138"  # Register of the fake camera with the time between two images in microseconds.
@@ -60,8 +62,7 @@ class Cameras:
         return list(zip(zip(*ours), zip(*floor)))
 
 
-def simulated(bench):
-    cameras = Cameras(bench)
+def simulated(bench, cameras):
     count = bench.rounds(10) // 2
     (rates, floor_rates), (times, floor_times) = cameras.compare(LARGE, count, "stream", SECONDS)
     yield Figure("images of 5 MP, Mono8", "/s", list(rates), list(floor_rates), *at_least_times(0.95))
@@ -87,6 +88,21 @@ def simulated(bench):
                  [value / MEBIBYTE for value in floor_memory], *at_most(25, "MiB"))
 
 
+def recorded(cameras):
+    """Records images of 5 MP at 60 images/s to a file system in memory."""
+    for name in "recording.tif", "recording.raw":
+        with tempfile.TemporaryDirectory(dir="/dev/shm") as folder:
+            printed = subprocess.run(
+                [f"{cameras.root}/bin/cvxctl", "record", LARGE, f"{folder}/{name}", "--seconds", str(RECORDING_SECONDS),
+                 "--set", "AcquisitionFrameRateEnable=true", "--set", "AcquisitionFrameRate=60", "--json"],
+                stdout=subprocess.PIPE, check=False, text=True, timeout=5 * BOUND, env=cameras.environment).stdout
+        counters = json.loads(printed)
+        missing = sum(counters[kind] for kind in ("lost", "incomplete", "underruns", "unwritten"))
+        rate = counters["images"] / counters["seconds"]
+        yield Figure(f"images of 5 MP, Mono8, lost of {counters['images']} recorded to {name[-3:]} at {rate:.1f}/s", "",
+                     [missing], [], "0 at 60/s", lambda figure, rate=rate: figure.median() == 0 and rate >= 59)
+
+
 def on_network(bench):
     """Streams from a GigE Vision camera at its full rate over the loopback interface."""
     root = installation(bench, "streaming-gige", "fallback/UniversalGEV.cti")
@@ -102,5 +118,7 @@ def on_network(bench):
 
 
 def figures(bench):
-    yield from simulated(bench)
+    cameras = Cameras(bench)
+    yield from simulated(bench, cameras)
+    yield from recorded(cameras)
     yield from on_network(bench)

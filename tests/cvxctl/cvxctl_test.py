@@ -1,100 +1,16 @@
-"""Runs cvxctl on simulated cameras, from a copy of the installation whose simulator configuration the test owns.
+"""Tests the sub-commands of cvxctl that need no file.
 
 usage: cvxctl_test.py BUILD
 """
 
-import contextlib
-import fcntl
 import json
-import os
-import shutil
 import signal
-import struct
-import subprocess
-import sys
-import tempfile
 import unittest
-import zlib
 
-BUILD = sys.argv.pop()
-LIMIT = 120  # Seconds; only a hang takes so long.
+from cvxctl_case import LIMIT, CvxctlCase
 
 
-def camera(number, model, **keys):
-    return {"id": f"SIM-{number}", "vendor": "Orvelle", "model": model, "serial": str(number), "sensorWidth": 320,
-            "sensorHeight": 240, **keys}
-
-
-CAMERAS = [camera(1001, "Kx200 5MP-M", userName="Left"), camera(1002, "Kx200 5MP-C", color=True),
-           camera(2001, "Ilvo", userName="Right")]
-
-
-def png_pixels(path):
-    """Returns width, height and the bytes per pixel of a PNG file, after checking that its data is complete."""
-    with open(path, "rb") as file:
-        data = file.read()
-    assert data[:8] == b"\x89PNG\r\n\x1a\n"
-    width, height, depth, color = struct.unpack(">IIBB", data[16:26])
-    assert depth == 8
-    channels = {0: 1, 2: 3}[color]
-    position, packed = 8, b""
-    while position < len(data):
-        length, kind = struct.unpack(">I4s", data[position:position + 8])
-        packed += data[position + 8:position + 8 + length] if kind == b"IDAT" else b""
-        position += length + 12
-    assert len(zlib.decompress(packed)) == height * (1 + channels * width)
-    return width, height, channels
-
-
-class CvxctlTest(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.root = tempfile.mkdtemp()
-        cls.addClassCleanup(shutil.rmtree, cls.root)
-        os.makedirs(f"{cls.root}/bin")
-        os.makedirs(f"{cls.root}/cti")
-        for name in ("cvxctl", "CvxProducerHost", "CvxCameraHost", "CvxC.xml"):
-            shutil.copy(f"{BUILD}/bin/{name}", f"{cls.root}/bin")
-        for name in os.listdir(f"{BUILD}/bin"):
-            if name.startswith("libCvxCPP.so"):
-                shutil.copy(f"{BUILD}/bin/{name}", f"{cls.root}/bin", follow_symlinks=False)
-        shutil.copy(f"{BUILD}/cti/CorvixCameraSimulator.cti", f"{cls.root}/cti")
-        with open(f"{cls.root}/cti/CorvixCameraSimulator.json", "w", encoding="utf-8") as file:
-            json.dump({"interfaces": [{"id": "Sim", "tlType": "GEV", "devices": CAMERAS}]}, file)
-        cls.environment = {**os.environ, "XDG_RUNTIME_DIR": cls.root, "LC_ALL": "C.UTF-8"}
-        cls.environment.pop("GENICAM_GENTL64_PATH", None)
-
-    def start(self, *arguments, **options):
-        return subprocess.Popen([f"{self.root}/bin/cvxctl", *arguments], env=self.environment, text=True,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
-
-    def run_failing(self, status, *arguments):
-        """Runs a command that has to end with this status, and returns its output and its messages."""
-        process = self.start(*arguments)
-        output, messages = process.communicate(timeout=LIMIT)
-        self.assertEqual(process.returncode, status, output + messages)
-        return output, messages
-
-    def run_well(self, *arguments):
-        output, messages = self.run_failing(0, *arguments)
-        self.assertEqual(messages, "")
-        return output
-
-    def run_json(self, *arguments):
-        return json.loads(self.run_well(*arguments, "--json"))
-
-    @contextlib.contextmanager
-    def power(self, number):
-        """Keeps a camera on, so that its settings outlive a command: a camera that nobody uses loses them."""
-        process = self.start("watch", str(number))
-        self.assertIn("images", process.stdout.readline())
-        with open(f"{self.root}/corvix-camera-SIM-{number}.Sim", "r+b") as file:
-            user_lock = struct.pack("hhqqi4x", fcntl.F_RDLCK, os.SEEK_SET, 0, 1, 0)
-            fcntl.fcntl(file, fcntl.F_OFD_SETLK, user_lock)
-            process.send_signal(signal.SIGINT)
-            process.communicate(timeout=LIMIT)
-            yield
-
+class CvxctlTest(CvxctlCase):
     def test_list(self):
         listed = self.run_json("list")
         self.assertEqual([(entry["id"], entry["userName"], entry["type"]) for entry in listed],
@@ -240,16 +156,6 @@ class CvxctlTest(unittest.TestCase):
         _, messages = process.communicate(timeout=LIMIT)
         self.assertEqual((process.returncode, messages), (0, ""))
         self.run_well("set", "1001", "Width=320")
-
-    def test_snapshot(self):
-        for name, serial, expected in (("grey.png", "1001", (320, 240, 1)), ("colour.png", "1002", (320, 240, 3))):
-            path = f"{self.root}/{name}"
-            self.run_well("snapshot", serial, path)
-            self.assertEqual(png_pixels(path), expected)
-        path = f"{self.root}/image.raw"
-        taken = self.run_json("snapshot", "1001", path)
-        self.assertEqual((taken["width"], taken["bytes"], os.path.getsize(path)), (320, 320 * 240, 320 * 240))
-        self.assertIn("/missing/", self.run_failing(1, "snapshot", "1001", "/missing/a.png")[1])
 
 
 unittest.main()

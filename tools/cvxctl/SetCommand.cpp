@@ -1,3 +1,4 @@
+#include "tools/cvxctl/Assignment.h"
 #include "tools/cvxctl/CameraSession.h"
 #include "tools/cvxctl/Commands.h"
 #include "tools/cvxctl/Terminal.h"
@@ -23,10 +24,9 @@ ExitStatus run(const SetOptions &options)
         return status;
     nlohmann::ordered_json json;
     for (const std::string &assignment : options.assignments) {
-        const std::string name = assignment.substr(0, assignment.find('='));
-        const std::string wanted = assignment.substr(name.size() + 1);
-        if (const CvxResult result = session.device().WriteText(name, wanted); !result)
-            return reportFailure(result);
+        const std::string name = assignedName(assignment);
+        if (const ExitStatus status = writeAssignment(session.device(), assignment))
+            return status;
         // The camera may have made something else of the value.
         NodeValue value;
         if (!session.device().Read(name, value))
@@ -39,12 +39,6 @@ ExitStatus run(const SetOptions &options)
     if (options.isJson)
         printJson(json);
     return exitSuccess;
-}
-
-std::string checkAssignment(const std::string &text)
-{
-    return text.find('=') != std::string::npos && text.front() != '=' ? std::string()
-                                                                      : "\"" + text + "\" is not NAME=VALUE";
 }
 
 } // namespace

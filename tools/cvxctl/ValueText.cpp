@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cinttypes>
-#include <cmath>
 #include <cstdio>
 #include <type_traits>
 
@@ -79,24 +78,6 @@ std::string valueText(const NodeValue &value, NodeRepresentation representation)
                 return bytesText(content);
             else
                 return {};
-        },
-        value);
-}
-
-nlohmann::ordered_json valueJson(const NodeValue &value)
-{
-    return std::visit(
-        [](const auto &content) -> nlohmann::ordered_json {
-            using Content = std::decay_t<decltype(content)>;
-            if constexpr (std::is_same_v<Content, std::monostate>)
-                return nullptr;
-            else if constexpr (std::is_same_v<Content, std::vector<std::uint8_t>>)
-                return bytesText(content);
-            else if constexpr (std::is_same_v<Content, double>)
-                return std::isfinite(content) ? nlohmann::ordered_json(content)
-                                              : nlohmann::ordered_json(floatText(content));
-            else
-                return content;
         },
         value);
 }

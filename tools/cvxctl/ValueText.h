@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CvxCPP/Node.h"
+#include "sdk/imagefile/ValueJson.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -8,10 +9,6 @@
 /// Returns the value as a person reads it: integers as the camera wants them to be shown, for example "0x1F"
 /// or "192.168.1.2". A node without a value gives an empty text.
 std::string valueText(const CvxCPP::NodeValue &value, CvxCPP::NodeRepresentation representation);
-
-/// Returns the value as JSON: bytes as hexadecimal digits, and no value as null. NaN and infinities, which
-/// JSON lacks, are texts.
-nlohmann::ordered_json valueJson(const CvxCPP::NodeValue &value);
 
 /// Returns the node with its state as JSON.
 nlohmann::ordered_json nodeJson(const CvxCPP::NodeInfo &info, const CvxCPP::NodeState &state);

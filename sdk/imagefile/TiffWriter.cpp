@@ -1,0 +1,165 @@
+#include "sdk/imagefile/TiffWriter.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <tiffio.h>
+
+namespace {
+
+/// The file as libtiff sees it while it writes one image: the parts before are a header without directories.
+/// libtiff links a directory before it writes it, so the header stays in memory until the image is complete.
+/// That also spares libtiff the search for the last directory.
+struct TiffTarget
+{
+    OutputFile &file;
+    std::uint64_t headerSize;
+    std::uint64_t end; // Where the image begins, later where it ends.
+    std::uint64_t position = 0;
+    std::array<std::uint8_t, 16> header{};
+};
+
+tmsize_t readTarget(thandle_t handle, void *data, tmsize_t size)
+{
+    auto &target = *static_cast<TiffTarget *>(handle);
+    const auto count = static_cast<std::size_t>(size);
+    if (target.position + count <= target.headerSize)
+        std::memcpy(data, target.header.data() + target.position, count);
+    else if (!target.file.read(target.position, data, count))
+        return -1;
+    target.position += count;
+    return size;
+}
+
+tmsize_t writeTarget(thandle_t handle, void *data, tmsize_t size)
+{
+    auto &target = *static_cast<TiffTarget *>(handle);
+    const auto count = static_cast<std::size_t>(size);
+    if (target.position + count <= target.headerSize)
+        std::memcpy(target.header.data() + target.position, data, count);
+    else if (!target.file.write(target.position, data, count))
+        return -1;
+    target.position += count;
+    target.end = std::max(target.end, target.position);
+    return size;
+}
+
+toff_t seekTarget(thandle_t handle, toff_t offset, int origin)
+{
+    auto &target = *static_cast<TiffTarget *>(handle);
+    const std::uint64_t base = origin == SEEK_SET ? 0 : (origin == SEEK_CUR ? target.position : target.end);
+    target.position = base + offset;
+    return target.position;
+}
+
+int closeTarget(thandle_t)
+{
+    return 0;
+}
+
+toff_t sizeOfTarget(thandle_t handle)
+{
+    return static_cast<TiffTarget *>(handle)->end;
+}
+
+int mapTarget(thandle_t, void **, toff_t *)
+{
+    return 0;
+}
+
+void unmapTarget(thandle_t, void *, toff_t) { }
+
+/// Makes libtiff print nothing: OutputFile knows why a file cannot be written.
+void silenceLibrary()
+{
+    static const bool isSilent = [] {
+        TIFFSetErrorHandler(nullptr);
+        TIFFSetWarningHandler(nullptr);
+        return true;
+    }();
+    static_cast<void>(isSilent);
+}
+
+bool setText(TIFF *tiff, std::uint32_t tag, const std::string &text)
+{
+    return text.empty() || TIFFSetField(tiff, tag, text.c_str()) != 0;
+}
+
+bool setLayout(TIFF *tiff, const Samples &samples)
+{
+    const unsigned colors = samples.isColor ? 3 : 1;
+    const std::array<std::uint16_t, 4> extraSamples{}; // Without a meaning that a reader would use.
+    const unsigned extraCount = samples.channels - colors;
+    return TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, samples.width) != 0
+        && TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, samples.height) != 0
+        && TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, samples.channels) != 0
+        && TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, samples.bits) != 0
+        && TIFFSetField(tiff, TIFFTAG_MAXSAMPLEVALUE, (1U << samples.significantBits) - 1) != 0
+        && TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, samples.isColor ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK)
+        != 0
+        && (extraCount == 0 || TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, extraCount, extraSamples.data()) != 0)
+        && TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) != 0
+        && TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE) != 0
+        && TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, samples.height) != 0;
+}
+
+bool setTexts(TIFF *tiff, const TiffTexts &texts)
+{
+    return setText(tiff, TIFFTAG_IMAGEDESCRIPTION, texts.description)
+        && setText(tiff, TIFFTAG_DATETIME, texts.dateTime) && setText(tiff, TIFFTAG_MAKE, texts.vendor)
+        && setText(tiff, TIFFTAG_MODEL, texts.model);
+}
+
+bool writeStrip(TIFF *tiff, const Samples &samples)
+{
+    const auto size = static_cast<tmsize_t>(samples.size());
+    // libtiff only reads the data, because it swaps no bytes and compresses nothing.
+    return TIFFWriteRawStrip(tiff, 0, const_cast<std::uint8_t *>(samples.data), size) == size;
+}
+
+/// Writes an image at the end of the target.
+bool writeImage(TiffTarget &target, const char *mode, const Samples &samples, const TiffTexts &texts)
+{
+    TIFF *const tiff = TIFFClientOpen("image", mode, &target, readTarget, writeTarget, seekTarget,
+        closeTarget, sizeOfTarget, mapTarget, unmapTarget);
+    if (!tiff)
+        return false;
+    const bool isWritten = setLayout(tiff, samples) && setTexts(tiff, texts) && writeStrip(tiff, samples)
+        && TIFFWriteDirectory(tiff) != 0;
+    TIFFClose(tiff);
+    return isWritten;
+}
+
+} // namespace
+
+TiffWriter::TiffWriter(OutputFile &file, Variant variant) : m_file(file), m_variant(variant)
+{
+    silenceLibrary();
+}
+
+bool TiffWriter::append(const Samples &samples, const TiffTexts &texts)
+{
+    const bool isBig = m_variant == Variant::Big;
+    const std::uint64_t start = m_file.size();
+    const std::uint64_t headerSize = isBig ? 16 : 8;
+    TiffTarget target{m_file, headerSize, std::max(start, headerSize)};
+    if (!writeImage(target, isBig ? "w8" : "w", samples, texts)) {
+        m_file.fail("libtiff does not accept the image");
+        m_file.truncate(start);
+        return false;
+    }
+    if (!isBig)
+        return m_file.write(0, target.header.data(), headerSize);
+
+    std::uint64_t directory = 0;
+    std::uint64_t entries = 0;
+    constexpr std::size_t directoryOffset = 8; // In the header.
+    constexpr std::size_t entrySize = 20;
+    std::memcpy(&directory, target.header.data() + directoryOffset, sizeof directory);
+    if (!m_file.read(directory, &entries, sizeof entries))
+        return false;
+    const bool isLinked = m_linkPosition == 0 ? m_file.write(0, target.header.data(), headerSize)
+                                              : m_file.write(m_linkPosition, &directory, sizeof directory);
+    m_linkPosition = directory + sizeof entries + entries * entrySize;
+    return isLinked;
+}
