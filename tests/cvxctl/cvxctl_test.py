@@ -1,4 +1,4 @@
-"""Tests the sub-commands of cvxctl that need no file.
+"""Tests the sub-commands of cvxctl that take no images.
 
 usage: cvxctl_test.py BUILD
 """
