@@ -15,6 +15,8 @@ void addSetCommand(CLI::App &program, ExitStatus &status);
 void addRunCommand(CLI::App &program, ExitStatus &status);
 void addWatchCommand(CLI::App &program, ExitStatus &status);
 void addSnapshotCommand(CLI::App &program, ExitStatus &status);
+void addAddressCommand(CLI::App &program, ExitStatus &status);
+void addDoctorCommand(CLI::App &program, ExitStatus &status);
 
 /// The text that explains the argument CAMERA of every sub-command.
 constexpr char cameraHelp[]

@@ -18,6 +18,8 @@ int main(int argc, char *argv[])
     addRunCommand(program, status);
     addWatchCommand(program, status);
     addSnapshotCommand(program, status);
+    addAddressCommand(program, status);
+    addDoctorCommand(program, status);
 
     catchInterruption();
     try {
