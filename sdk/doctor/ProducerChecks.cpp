@@ -54,6 +54,16 @@ std::string join(const std::vector<std::string> &names)
     return text;
 }
 
+/// Returns the first names and the number of the remaining ones.
+std::string joinSome(std::vector<std::string> names)
+{
+    constexpr std::size_t maxNames = 3;
+    const std::size_t count = names.size();
+    names.resize(std::min(count, maxNames));
+    return join(names)
+        + (count > maxNames ? " and " + std::to_string(count - maxNames) + " more functions" : "");
+}
+
 Finding unusable(const ProducerReport &report)
 {
     const bool isLoadFailure = report.failure.rfind("dlopen", 0) == 0;
@@ -74,7 +84,7 @@ void checkReport(const ProducerReport &report, Findings &findings)
     const std::size_t before = findings.size();
     if (report.info && !report.info->missingFunctions.empty())
         findings.push_back({Severity::Warning, name,
-            name + " lacks " + join(report.info->missingFunctions) + '.',
+            name + " lacks " + joinSome(report.info->missingFunctions) + '.',
             "Its cameras are listed, but cannot be opened or cannot stream; a newer version may help.", {}});
     if (report.info && report.info->genTlMajor > 1)
         findings.push_back({Severity::Warning, name,
@@ -123,7 +133,7 @@ void checkSharedCameras(const std::vector<ProducerReport> &reports, Findings &fi
             for (const DeviceRecord &device : interface.devices) {
                 auto &names = producers[{device.model, device.serial}];
                 const std::string name = fileName(report.path);
-                if (!device.serial.empty() && (names.empty() || names.back() != name))
+                if (!device.serial.empty() && std::find(names.begin(), names.end(), name) == names.end())
                     names.push_back(name);
             }
         }

@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 using SearchClock = std::chrono::steady_clock;
 
-constexpr auto searchTime = 1800ms;
+constexpr auto searchTime = 1500ms;
 constexpr auto maxAnswerDelay = 1000ms;
 constexpr auto sendInterval = 400ms;
 constexpr int maxDatagramsAtOnce = 256; // A flood of answers must not keep the search from its end.

@@ -27,7 +27,7 @@ struct SeenCamera
 void searchCameras(const std::vector<InterfaceAddress> &addresses, std::chrono::milliseconds time,
     const std::function<bool(const SeenCamera &)> &accept);
 
-/// Searches for 1.8 s. Returns every camera that has answered, once for each network interface. Throws
+/// Searches for 1.5 s. Returns every camera that has answered, once for each network interface. Throws
 /// std::system_error if the system cannot create the sockets.
 std::vector<SeenCamera> seenCameras(const std::vector<InterfaceAddress> &addresses);
 

@@ -15,16 +15,8 @@ namespace {
 class WithoutPrivilege
 {
 public:
-    WithoutPrivilege() : m_isPrivileged(geteuid() == 0)
-    {
-        if (m_isPrivileged)
-            EXPECT_EQ(seteuid(65534), 0);
-    }
-    ~WithoutPrivilege()
-    {
-        if (m_isPrivileged)
-            EXPECT_EQ(seteuid(0), 0);
-    }
+    WithoutPrivilege() : m_isPrivileged(geteuid() == 0) { EXPECT_EQ(m_isPrivileged ? seteuid(65534) : 0, 0); }
+    ~WithoutPrivilege() { EXPECT_EQ(m_isPrivileged ? seteuid(0) : 0, 0); }
     WithoutPrivilege(const WithoutPrivilege &) = delete;
     WithoutPrivilege &operator=(const WithoutPrivilege &) = delete;
 

@@ -3,11 +3,18 @@
 #include "sdk/doctor/ProducerChecks.h"
 
 #include "tests/doctor/MachineBuilder.h"
-#include "tests/sdk/support/SystemTest.h"
+#include "tests/sdk/support/ProcessTable.h"
+#include "tests/sdk/support/Waiting.h"
 
 #include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
+
+namespace {
+
+const std::string oneCamera = "interface net0|Network|GEV\ndevice net0|A1|Orvelle|Kx200|1|Camera|GEV\n";
+
+} // namespace
 
 /// An installation with producers in its directory cti and in another directory.
 class ProducerChecksTest : public testing::Test
@@ -39,27 +46,30 @@ protected:
 TEST_F(ProducerChecksTest, everyProducerHasAFinding)
 {
     std::filesystem::copy_file(SIMULATOR, path("cti/a.cti"));
-    add("cti/b", TEST_PRODUCER, cameras(1));
+    add("cti/b", TEST_PRODUCER, oneCamera);
     add("cti/c", TEST_PRODUCER, "fault TLOpen error -1010\n");
     add("cti/d", TEST_PRODUCER, "fault TLUpdateInterfaceList crash\n");
-    add("cti/e", TEST_PRODUCER, "fault IFUpdateDeviceList error -1010\n" + cameras(1));
+    add("cti/e", TEST_PRODUCER, "fault IFUpdateDeviceList error -1010\n" + oneCamera);
     add("cti/f", INCOMPLETE_PRODUCER, "");
     writeFile(path("cti/g.cti"), "text");
     std::filesystem::create_directory(path("cti/h.cti"));
-    add("other/b", TEST_PRODUCER, cameras(1));
+    add("cti/i", TEST_PRODUCER, oneCamera);
+    add("other/b", TEST_PRODUCER, oneCamera);
     const Findings findings = checkProducers(survey(path("other").string() + ':' + path("missing").string()));
     EXPECT_TRUE(matchAll(findings,
         {{Severity::Warning, "GENICAM_GENTL64_PATH", "missing is in GENICAM_GENTL64_PATH", "printenv"},
             {Severity::Warning, "producers", "h.cti: is a directory", ""},
             {Severity::Ok, "a.cti", "a.cti works (Orvelle, version ", ""},
-            {Severity::Warning, "b.cti", "lacks IFOpenDevice, DevGetPort", ""},
+            {Severity::Warning, "b.cti", "lacks IFOpenDevice, DevGetPort, DevClose and 13 more functions.",
+                ""},
             {Severity::Error, "c.cti", "cannot be used: TLOpen failed with -1010 (GC_ERR_IO)", ""},
             {Severity::Error, "d.cti", "ended by SIGSEGV", ""}, {Severity::Warning, "e.cti", "lacks", ""},
             {Severity::Warning, "e.cti", "IFUpdateDeviceList failed with -1010 (GC_ERR_IO)", ""},
             {Severity::Error, "f.cti", "lacks IFGetDeviceInfo", ""},
-            {Severity::Error, "g.cti", "dlopen failed", "ldd "}, {Severity::Warning, "b.cti", "lacks", ""},
+            {Severity::Error, "g.cti", "dlopen failed", "ldd "}, {Severity::Warning, "i.cti", "lacks", ""},
+            {Severity::Warning, "b.cti", "lacks", ""},
             {Severity::Warning, "b.cti", "is present 2 times", "ls -l"},
-            {Severity::Notice, "Kx200 1", "Several producers report the camera: b.cti, e.cti", ""}}))
+            {Severity::Notice, "Kx200 1", "Several producers report the camera: b.cti, i.cti.", ""}}))
         << describe(findings);
 }
 
