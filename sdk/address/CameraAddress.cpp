@@ -71,7 +71,8 @@ AddressOrigin originOf(const SeenCamera &camera, const std::optional<AddressSett
 {
     const std::uint32_t methods = camera.enabledMethods;
     const bool isPersistentEnabled = (methods & persistentAddressMethod) != 0;
-    if (isPersistentEnabled && !persistent)
+    const bool isReported = camera.offeredMethods != 0 || methods != 0;
+    if (!isReported || (isPersistentEnabled && !persistent))
         return AddressOrigin::Unknown;
     if (isPersistentEnabled && persistent->address == camera.camera.address)
         return AddressOrigin::Persistent;

@@ -10,7 +10,7 @@
 /// How a camera got its present address.
 enum class AddressOrigin : std::uint8_t
 {
-    Unknown, ///< The camera cannot be read.
+    Unknown, ///< The camera cannot be read, or does not report its methods.
     Persistent, ///< Stored in the camera.
     Dhcp, ///< From a DHCP server, or temporary: a camera does not report the difference.
     LinkLocal, ///< Chosen by the camera, because it got no other.

@@ -111,13 +111,13 @@ bool isConfirmed()
 /// Prints what will change and asks for permission.
 ExitStatus confirm(const AddressOptions &options, const AddressPlan &plan)
 {
-    for (const std::string &effect : plan.effects)
-        std::fprintf(options.isJson ? stderr : stdout, "%s\n", effect.c_str());
-    std::fflush(stdout);
     if (!plan.obstacle.empty()) {
         printError(plan.obstacle);
         return plan.isInUse ? exitInUse : exitFailure;
     }
+    for (const std::string &effect : plan.effects)
+        std::fprintf(options.isJson ? stderr : stdout, "%s\n", effect.c_str());
+    std::fflush(stdout);
     if (options.isConfirmed)
         return exitSuccess;
     if (isatty(STDIN_FILENO) == 0) {

@@ -57,7 +57,8 @@ nlohmann::ordered_json toJson(const Findings &findings)
 void print(const Findings &findings)
 {
     for (const Finding &finding : findings) {
-        std::string line = finding.subject + ": " + finding.what;
+        const bool isNamed = finding.what.find(finding.subject) != std::string::npos;
+        std::string line = isNamed ? finding.what : finding.subject + ": " + finding.what;
         if (!finding.why.empty())
             line += ' ' + finding.why;
         if (!finding.command.empty())
