@@ -19,6 +19,7 @@ struct DoctorOptions
     static DoctorOptions forThisProgram();
 };
 
-/// Makes all checks that need no camera to be opened: producers, network, GigE cameras and USB. Blocks for at
-/// most 20 s; usually for three. Never fails: a check that cannot be made is a finding.
+/// Makes all checks that need no camera to be opened: producers, network, GigE cameras and USB. Blocks for
+/// three seconds, and for up to a minute if many producers or cameras do not answer. Never fails: a check
+/// that cannot be made is a finding.
 Findings runDoctor(const DoctorOptions &options);

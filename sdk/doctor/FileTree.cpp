@@ -59,3 +59,10 @@ bool FileTree::canReadAndWrite(const std::string &path) const
 {
     return faccessat(AT_FDCWD, (m_root + path).c_str(), R_OK | W_OK, AT_EACCESS) == 0;
 }
+
+bool FileTree::isGroupWritable(const std::string &path) const
+{
+    std::error_code error;
+    const auto permissions = std::filesystem::status(m_root + path, error).permissions();
+    return !error && (permissions & std::filesystem::perms::group_write) != std::filesystem::perms::none;
+}

@@ -32,6 +32,9 @@ public:
     /// Returns true if this process may read and write the file.
     bool canReadAndWrite(const std::string &path) const;
 
+    /// Returns true if the members of the file's group may write it.
+    bool isGroupWritable(const std::string &path) const;
+
 private:
     std::string m_root;
 };

@@ -60,6 +60,23 @@ std::vector<UsbCamera> findUsbCameras(const FileTree &files)
     return cameras;
 }
 
+/// @param hasRule True if the udev rule has given the camera to a group.
+Finding forbidden(const UsbCamera &camera, bool hasRule)
+{
+    const std::string what = "You may not open the camera (" + camera.node + ").";
+    if (hasRule)
+        return {Severity::Error, camera.name, what,
+            "Only members of the group plugdev may, or whoever sits at the computer. Log in again after the "
+            "command.",
+            "sudo adduser \"$USER\" plugdev"};
+    return {Severity::Error, camera.name, what,
+        "The udev rule for cameras is missing. Run the command in the directory of the installation, then "
+        "plug the "
+        "camera in again.",
+        "sudo cp lib/udev/rules.d/60-corvix-usb3-vision.rules /etc/udev/rules.d/ && sudo udevadm control "
+        "--reload-rules"};
+}
+
 void checkPermission(const FileTree &files, const UsbCamera &camera, Findings &findings)
 {
     if (!files.exists(camera.node))
@@ -68,12 +85,7 @@ void checkPermission(const FileTree &files, const UsbCamera &camera, Findings &f
                 "No program can open the camera. A container needs access to /dev/bus/usb.",
                 "ls -l /dev/bus/usb"});
     else if (!files.canReadAndWrite(camera.node))
-        findings.push_back(
-            {Severity::Error, camera.name, "You may not open the camera (" + camera.node + ").",
-                "The udev rule for cameras is missing, or you are not a member of the group plugdev. Log in "
-                "again "
-                "after the command, and plug the camera in again.",
-                "sudo adduser \"$USER\" plugdev"});
+        findings.push_back(forbidden(camera, files.isGroupWritable(camera.node)));
 }
 
 void checkSpeed(const FileTree &files, const UsbCamera &camera, Findings &findings)

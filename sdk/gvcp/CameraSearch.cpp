@@ -16,7 +16,7 @@ constexpr auto searchTime = 1500ms;
 constexpr auto maxAnswerDelay = 1000ms;
 constexpr auto sendInterval = 400ms;
 constexpr int maxDatagramsAtOnce = 256; // A flood of answers must not keep the search from its end.
-constexpr std::size_t maxSeenCameras = 4096;
+constexpr std::size_t maxSeenCameras = 256;
 
 /// The sockets of one search.
 class Sockets

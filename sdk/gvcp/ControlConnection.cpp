@@ -106,7 +106,8 @@ std::optional<MessageBytes> ControlConnection::receive(Time deadline) const
         const auto remaining
             = std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         pollfd waiting{m_socket.number(), POLLIN, 0};
-        if (poll(&waiting, 1, static_cast<int>(std::max<std::int64_t>(0, remaining.count()))) == 0)
+        // The time counts even while datagrams arrive without end.
+        if (remaining.count() <= 0 || poll(&waiting, 1, static_cast<int>(remaining.count())) == 0)
             return std::nullopt;
         MessageBytes datagram(messageHeaderSize + sizeof(std::uint32_t) + maxBlockSize);
         const ssize_t size = recv(m_socket.number(), datagram.data(), datagram.size(), 0);

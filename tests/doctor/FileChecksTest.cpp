@@ -161,6 +161,7 @@ TEST(UsbChecks, everyUsbCameraHasAFinding)
     addUsbDevice(builder, "2-3", 3, "10000");
     addUsbDevice(builder, "2-4", 4, "5000");
     addUsbDevice(builder, "2-5", 5, "5000");
+    addUsbDevice(builder, "2-6", 6, "5000");
     std::filesystem::create_symlink(
         "../drivers/usbfs", builder.pathOf("/sys/bus/usb/devices/2-3:1.1/driver"));
     std::filesystem::remove(builder.pathOf("/dev/bus/usb/002/004"));
@@ -169,13 +170,18 @@ TEST(UsbChecks, everyUsbCameraHasAFinding)
         std::filesystem::permissions(
             builder.pathOf("/dev/bus/usb/002/00" + std::string(node)), std::filesystem::perms(0666));
     std::filesystem::permissions(builder.pathOf("/dev/bus/usb/002/005"), std::filesystem::perms(0444));
+    // Of another group or, if this is not the administrator, without a permission of the owner.
+    const auto foreign = builder.pathOf("/dev/bus/usb/002/006");
+    [[maybe_unused]] const int isChanged = chown(foreign.c_str(), static_cast<uid_t>(-1), 12345);
+    std::filesystem::permissions(foreign, std::filesystem::perms(0060));
     const WithoutPrivilege unprivileged;
     EXPECT_TRUE(matchAll(check(),
         {{Severity::Ok, "2-1  camera", "You may open", ""},
             {Severity::Warning, "2-2  camera", "480 Mbit/s", "lsusb"},
             {Severity::Notice, "2-3  camera", "A program uses", "fuser --verbose /dev/bus/usb/002/003"},
             {Severity::Error, "2-4  camera", "/dev/bus/usb/002/004 of the camera is missing", "ls"},
-            {Severity::Error, "2-5  camera", "may not open", "plugdev"},
+            {Severity::Error, "2-5  camera", "may not open", "60-corvix-usb3-vision.rules"},
+            {Severity::Error, "2-6  camera", "may not open", "adduser \"$USER\" plugdev"},
             {Severity::Notice, "usbfs_memory_mb", "cannot be read", ""}}))
         << describe(check());
 }
