@@ -2,7 +2,9 @@
 
 #include "sdk/text/Utf8.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <vector>
 
 using namespace CvxCPP;
 
@@ -10,22 +12,26 @@ namespace {
 
 constexpr unsigned trialBuffers = 16;
 
-/// Features in which cameras count the packets that they have sent again; the names are not standardised.
-constexpr const char *resendFeatures[] = {"GevSCPacketResendCount", "PacketResendCount", "StatPacketResent"};
-
-std::optional<std::int64_t> readFeature(Device &device, const char *name)
+std::optional<std::int64_t> readFeature(Device &device, const std::string &name)
 {
     std::int64_t value = 0;
     return device.ReadInteger(name, value) ? std::optional(value) : std::nullopt;
 }
 
-std::optional<std::int64_t> readResends(Device &device)
+/// Returns the name of the feature in which the camera counts the packets that it has sent again, or an empty
+/// text. The name is not standardised.
+std::string findResendFeature(Device &device)
 {
-    for (const char *name : resendFeatures) {
-        if (const auto value = readFeature(device, name))
-            return value;
-    }
-    return std::nullopt;
+    std::vector<NodeInfo> nodes;
+    if (!device.GetNodes(nodes))
+        return {};
+    const auto has
+        = [](const NodeInfo &node, const char *part) { return node.name.find(part) != std::string::npos; };
+    const auto found = std::find_if(nodes.begin(), nodes.end(), [&](const NodeInfo &node) {
+        const bool isCount = has(node, "Resent") || (has(node, "Resend") && has(node, "Count"));
+        return node.type == NodeType::Integer && isCount;
+    });
+    return found == nodes.end() ? std::string() : found->name;
 }
 
 /// Takes images until the time is over. Returns the text of a failure.
@@ -70,7 +76,8 @@ StreamReport tryStream(
     Device &device, std::chrono::milliseconds time, const std::function<bool()> &isCancelled)
 {
     StreamReport report;
-    const auto resendsBefore = readResends(device);
+    const std::string resendFeature = findResendFeature(device);
+    const auto resendsBefore = readFeature(device, resendFeature);
     std::shared_ptr<Stream> stream;
     if (const CvxResult result = device.StartStream(trialBuffers, StreamPolicy::EveryImage, stream);
         !result) {
@@ -86,7 +93,7 @@ StreamReport tryStream(
         report.failure = stopped.text;
     if (const CvxResult result = stream->GetStatistics(report.counters); !result && report.failure.empty())
         report.failure = result.text;
-    if (const auto resends = readResends(device); resends && resendsBefore)
+    if (const auto resends = readFeature(device, resendFeature); resends && resendsBefore)
         report.resends = *resends - *resendsBefore;
     return report;
 }
