@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sdk/gige/CameraRegistry.h"
-#include "sdk/gige/InterfaceAddresses.h"
+#include "sdk/gvcp/InterfaceAddresses.h"
 
 #include <map>
 #include <string>

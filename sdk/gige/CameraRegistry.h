@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/gige/CameraData.h"
+#include "sdk/gvcp/CameraData.h"
 
 #include <chrono>
 #include <cstddef>

@@ -1,12 +1,12 @@
 #include "sdk/gige/GigECamera.h"
 
 #include "sdk/aravis/AravisLibrary.h"
-#include "sdk/gige/CameraData.h"
 #include "sdk/gige/DescriptionUrls.h"
-#include "sdk/gige/Descriptor.h"
 #include "sdk/gige/GvcpReader.h"
 #include "sdk/gige/RegisterWords.h"
 #include "sdk/gige/WatchedCamera.h"
+#include "sdk/gvcp/CameraData.h"
+#include "sdk/gvcp/Descriptor.h"
 
 #include <algorithm>
 #include <arpa/inet.h>

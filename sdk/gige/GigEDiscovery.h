@@ -2,13 +2,13 @@
 
 #include "sdk/gige/CameraPlacement.h"
 #include "sdk/gige/CameraRegistry.h"
-#include "sdk/gige/Descriptor.h"
-#include "sdk/gige/DiscoverySocket.h"
 #include "sdk/gige/FairMutex.h"
-#include "sdk/gige/InterfaceAddresses.h"
 #include "sdk/gige/InterfaceMonitor.h"
 #include "sdk/gige/ReportedLists.h"
 #include "sdk/gige/SearchSchedule.h"
+#include "sdk/gvcp/Descriptor.h"
+#include "sdk/gvcp/DiscoverySocket.h"
+#include "sdk/gvcp/InterfaceAddresses.h"
 
 #include <array>
 #include <chrono>

@@ -49,7 +49,7 @@ void HostServer::serve(const std::string &line)
     const auto message = Message::fromLine(line);
     const bool isServed = message
         && (tryServe<ListCamerasRequest>(*message) || tryServe<ListInterfaceRequest>(*message)
-            || tryServe<CloseProducerRequest>(*message));
+            || tryServe<ProducerInfoRequest>(*message) || tryServe<CloseProducerRequest>(*message));
     if (!isServed) // This does not happen, because library and host are installed together.
         m_isFinished = true;
 }
@@ -98,6 +98,11 @@ void HostServer::handle(const ListInterfaceRequest &request)
     cameras.processorTime = time.milliseconds();
     cameras.isSelfUpdating = m_listChanges.isWatching();
     reply(cameras);
+}
+
+void HostServer::handle(const ProducerInfoRequest &)
+{
+    reply(m_producer.info());
 }
 
 void HostServer::handle(const CloseProducerRequest &)

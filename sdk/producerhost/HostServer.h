@@ -35,6 +35,7 @@ private:
     // Each of these functions handles one kind of request and sends the reply.
     void handle(const ListCamerasRequest &request);
     void handle(const ListInterfaceRequest &request);
+    void handle(const ProducerInfoRequest &request);
     void handle(const CloseProducerRequest &request);
 
     template <typename Content>

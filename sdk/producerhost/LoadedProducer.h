@@ -3,6 +3,7 @@
 #include "sdk/hosting/ProducerLibrary.h"
 #include "sdk/producerhost/OpenInterface.h"
 #include "sdk/producerhost/ProblemList.h"
+#include "sdk/producerhost/ProducerInfo.h"
 #include "sdk/producerhost/UpdateTimeout.h"
 
 #include <cstdint>
@@ -47,6 +48,9 @@ public:
 
     const Interfaces &interfaces() const { return m_interfaces; } ///< Sorted by ID.
     const ProblemList &problems() const { return m_problems; } ///< Problems of the last interface update.
+
+    /// Returns what the producer reports about itself.
+    ProducerInfoReply info() const { return readProducerInfo(m_library); }
 
     /// Closes all interfaces, then the producer itself, because some producers crash if the order is
     /// different. Returns only the first problem, because after a failure to close an interface the

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <nlohmann/json_fwd.hpp>
+#include <string>
 #include <vector>
 
 // This file defines the messages between the library and a producer host. To add a message, define a struct
@@ -31,6 +32,14 @@ struct ListInterfaceRequest
 void to_json(nlohmann::json &json, const ListInterfaceRequest &value);
 void from_json(const nlohmann::json &json, ListInterfaceRequest &value);
 
+/// Asks the host to describe its producer. The host replies with a ProducerInfoReply.
+struct ProducerInfoRequest
+{
+    static constexpr const char *kind = "producerInfo";
+};
+void to_json(nlohmann::json &json, const ProducerInfoRequest &value);
+void from_json(const nlohmann::json &json, ProducerInfoRequest &value);
+
 /// Asks the host to close the producer and to exit. The host replies with a ProducerClosedReply.
 struct CloseProducerRequest
 {
@@ -52,6 +61,20 @@ struct CameraListReply
 };
 void to_json(nlohmann::json &json, const CameraListReply &value);
 void from_json(const nlohmann::json &json, CameraListReply &value);
+
+/// Describes a producer. Every string may be empty.
+struct ProducerInfoReply
+{
+    static constexpr const char *kind = "producerInfoReply";
+    std::string vendor;
+    std::string model;
+    std::string version;
+    std::uint32_t genTlMajor = 0; ///< Both numbers are 0 if the producer does not report them.
+    std::uint32_t genTlMinor = 0;
+    std::vector<std::string> missingFunctions; ///< The functions that are needed to stream images.
+};
+void to_json(nlohmann::json &json, const ProducerInfoReply &value);
+void from_json(const nlohmann::json &json, ProducerInfoReply &value);
 
 /// Reports that a producer that updates its lists by itself has a new list of interfaces or devices. The
 /// host sends this message without a request and only between two requests.

@@ -3,7 +3,7 @@
 
 #include "sdk/gige/CameraPlacement.h"
 #include "sdk/gige/CameraRegistry.h"
-#include "sdk/gige/DiscoveryAcknowledgement.h"
+#include "sdk/gvcp/DiscoveryAcknowledgement.h"
 #include "tests/fuzz/FuzzTarget.h"
 
 #include <algorithm>

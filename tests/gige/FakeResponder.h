@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sdk/gige/FairMutex.h"
-#include "tests/gige/AcknowledgementBuilder.h"
+#include "tests/gvcp/AcknowledgementBuilder.h"
 
 #include <arpa/inet.h>
 #include <chrono>

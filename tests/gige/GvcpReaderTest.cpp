@@ -6,7 +6,7 @@
 #include "sdk/gige/RegisterWords.h"
 #include "sdk/gige/WatchedCamera.h"
 #include "tests/aravis/FakeCameraRegisters.h"
-#include "tests/gige/RegisterResponder.h"
+#include "tests/gvcp/RegisterResponder.h"
 
 #include <algorithm>
 #include <atomic>
@@ -85,7 +85,7 @@ TEST(GvcpReader, lostCommandIsRepeated)
 {
     int commands = 0;
     const RegisterResponder camera([&](const Bytes &command, const Send &send) {
-        if (++commands == GvcpReader::maxAttempts)
+        if (++commands == ControlConnection::maxAttempts)
             send(goodAnswer(command));
     });
     EXPECT_EQ(readBytes(0x1000, 4), (Bytes{0, 1, 2, 3}));
@@ -99,7 +99,7 @@ TEST(GvcpReader, busyCameraIsWaitedFor)
         const Bytes tenSeconds{0, 0, 0x27, 0x10};
         send(RegisterResponder::datagram(
             0, pendingAnswer, static_cast<std::uint16_t>(number(command, 6, 2)), tenSeconds));
-        EXPECT_FALSE(responder.load()->hasCommandWithin(2 * GvcpReader::answerTimeout));
+        EXPECT_FALSE(responder.load()->hasCommandWithin(2 * ControlConnection::answerTimeout));
         send(goodAnswer(command));
     });
     responder = &camera;

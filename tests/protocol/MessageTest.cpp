@@ -48,12 +48,17 @@ TEST(Message, requestsAreUnchangedAfterTheRoundTrip)
     EXPECT_EQ(received(ListCamerasRequest{false, 200})->timeout, 200U);
     EXPECT_EQ(received(ListInterfaceRequest{12, 200})->number, 12U);
     EXPECT_EQ(received(ListInterfaceRequest{12, 300})->timeout, 300U);
+    EXPECT_TRUE(received(ProducerInfoRequest()));
     EXPECT_TRUE(received(CloseProducerRequest()));
     EXPECT_TRUE(received(ListChangedNotice()));
 }
 
-TEST(Message, finalRepliesAreUnchangedAfterTheRoundTrip)
+TEST(Message, otherRepliesAreUnchangedAfterTheRoundTrip)
 {
+    const auto info = received(ProducerInfoReply{"Orvelle", "Sim", "2.0", 1, 5, {"DSClose"}});
+    EXPECT_EQ(info->vendor + info->model + info->version, "OrvelleSim2.0");
+    EXPECT_EQ(std::pair(info->genTlMajor, info->genTlMinor), std::pair(1U, 5U));
+    EXPECT_EQ(info->missingFunctions, std::vector<std::string>{"DSClose"});
     EXPECT_EQ(received(ProducerFailedReply{{"dlopen", 0, "gone"}})->problem.text, "gone");
     EXPECT_EQ(received(ProducerClosedReply{{{"TLClose", -1, ""}}})->problems.at(0).code, -1);
 }

@@ -11,6 +11,7 @@ const char exitStatusHelp[] = "Exit status:\n"
                               "  7    a feature does not exist, or cannot be read or written\n"
                               "  8    images of a recording were lost, are incomplete or were not written\n"
                               "  9    the compared settings differ\n"
+                              "  10   the doctor has found something to correct\n"
                               "  130  interrupted by Ctrl-C";
 
 ExitStatus exitStatus(CvxCPP::CvxError error)

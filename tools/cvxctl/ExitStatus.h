@@ -15,6 +15,7 @@ enum ExitStatus : int
     exitFeature = 7, ///< The feature does not exist, or its value cannot be read or written.
     exitImagesMissing = 8, ///< Images were lost, are incomplete or were not written.
     exitDifferent = 9, ///< The compared settings differ.
+    exitFindings = 10, ///< The doctor has found something to correct.
     exitInterrupted = 130 ///< Ctrl-C ended the command before it was complete.
 };
 

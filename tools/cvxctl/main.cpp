@@ -22,6 +22,8 @@ int main(int argc, char *argv[])
     addLoadCommand(program, status);
     addCompareCommand(program, status);
     addRecordCommand(program, status);
+    addAddressCommand(program, status);
+    addDoctorCommand(program, status);
 
     catchInterruption();
     try {

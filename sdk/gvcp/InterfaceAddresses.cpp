@@ -1,6 +1,6 @@
-#include "sdk/gige/InterfaceAddresses.h"
+#include "sdk/gvcp/InterfaceAddresses.h"
 
-#include "sdk/gige/Descriptor.h"
+#include "sdk/gvcp/Descriptor.h"
 
 #include <arpa/inet.h>
 #include <cerrno>

@@ -11,11 +11,11 @@
 class AcknowledgementBuilder
 {
 public:
-    static constexpr std::size_t requestIdPosition = 6, macPosition = 8 + 0x0A, addressPosition = 8 + 0x24,
-                                 maskPosition = 8 + 0x34, gatewayPosition = 8 + 0x44,
-                                 vendorPosition = 8 + 0x48, modelPosition = 8 + 0x68,
-                                 versionPosition = 8 + 0x88, serialPosition = 8 + 0xD8,
-                                 userNamePosition = 8 + 0xE8;
+    static constexpr std::size_t requestIdPosition = 6, macPosition = 8 + 0x0A, methodsPosition = 8 + 0x10,
+                                 addressPosition = 8 + 0x24, maskPosition = 8 + 0x34,
+                                 gatewayPosition = 8 + 0x44, vendorPosition = 8 + 0x48,
+                                 modelPosition = 8 + 0x68, versionPosition = 8 + 0x88,
+                                 serialPosition = 8 + 0xD8, userNamePosition = 8 + 0xE8;
 
     AcknowledgementBuilder() : m_bytes(256)
     {

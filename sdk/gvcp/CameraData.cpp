@@ -1,4 +1,4 @@
-#include "sdk/gige/CameraData.h"
+#include "sdk/gvcp/CameraData.h"
 
 #include <cstdio>
 #include <tuple>

@@ -1,4 +1,4 @@
-#include "sdk/gige/DiscoverySocket.h"
+#include "sdk/gvcp/DiscoverySocket.h"
 
 #include <array>
 #include <cerrno>
@@ -11,6 +11,9 @@
 namespace {
 
 constexpr int receiveBufferSize = 256 << 10; // Bytes; the system doubles the number for its own overhead.
+
+/// Longer than any answer. The rest of a longer datagram is dropped.
+using Buffer = std::array<std::uint8_t, 2048>;
 
 /// Space for the one control message that a datagram has.
 struct alignas(cmsghdr) ControlBuffer
@@ -92,14 +95,25 @@ void DiscoverySocket::sendTo(
     send(from.address, camera, requestId);
 }
 
+void DiscoverySocket::broadcast(const MessageBytes &command, const InterfaceAddress &from) const
+{
+    sendBytes(from.address, INADDR_BROADCAST, command.data(), command.size());
+}
+
 void DiscoverySocket::send(std::uint32_t source, std::uint32_t destination, std::uint16_t requestId) const
 {
-    auto command = discoveryCommand(requestId);
+    const auto command = discoveryCommand(requestId);
+    sendBytes(source, destination, command.data(), command.size());
+}
+
+void DiscoverySocket::sendBytes(
+    std::uint32_t source, std::uint32_t destination, const std::uint8_t *bytes, std::size_t size) const
+{
     sockaddr_in to{};
     to.sin_family = AF_INET;
     to.sin_port = htons(cameraPort);
     to.sin_addr.s_addr = htonl(destination);
-    iovec data{command.data(), command.size()};
+    iovec data{const_cast<std::uint8_t *>(bytes), size}; // sendmsg() does not change the bytes.
 
     ControlBuffer control;
     msghdr message{};
@@ -122,8 +136,7 @@ void DiscoverySocket::send(std::uint32_t source, std::uint32_t destination, std:
 
 std::optional<DiscoveryAcknowledgement> DiscoverySocket::receive(int &maxDatagrams) const
 {
-    std::array<std::uint8_t, 2048>
-        buffer; // Longer than any answer. The rest of a longer datagram is dropped.
+    Buffer buffer;
     for (; maxDatagrams > 0; --maxDatagrams) {
         const auto size = receiveDatagram(buffer.data(), buffer.size());
         if (!size)
@@ -132,6 +145,21 @@ std::optional<DiscoveryAcknowledgement> DiscoverySocket::receive(int &maxDatagra
             --maxDatagrams;
             return acknowledgement;
         }
+    }
+    return std::nullopt;
+}
+
+std::optional<MessageBytes> DiscoverySocket::receiveAny(int &maxDatagrams) const
+{
+    Buffer buffer;
+    for (; maxDatagrams > 0; --maxDatagrams) {
+        const auto size = receiveDatagram(buffer.data(), buffer.size());
+        if (!size)
+            return std::nullopt;
+        if (*size == 0)
+            continue;
+        --maxDatagrams;
+        return MessageBytes(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(*size));
     }
     return std::nullopt;
 }

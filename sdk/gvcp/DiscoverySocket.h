@@ -1,7 +1,8 @@
 #pragma once
 
-#include "sdk/gige/DiscoveryAcknowledgement.h"
-#include "sdk/gige/InterfaceAddresses.h"
+#include "sdk/gvcp/DiscoveryAcknowledgement.h"
+#include "sdk/gvcp/InterfaceAddresses.h"
+#include "sdk/gvcp/MessageBytes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -32,13 +33,21 @@ public:
     /// Sends the discovery command to one camera.
     void sendTo(std::uint32_t camera, const InterfaceAddress &from, std::uint16_t requestId) const;
 
+    /// Sends any command to all cameras, including those in other subnets. A failure is not reported.
+    void broadcast(const MessageBytes &command, const InterfaceAddress &from) const;
+
     /// Returns the next answer that has arrived, or nothing. Skips other datagrams. Never blocks.
     /// @param maxDatagrams The number of datagrams that may be read; the function subtracts those that it
     /// reads.
     std::optional<DiscoveryAcknowledgement> receive(int &maxDatagrams) const;
 
+    /// Returns the next datagram that has arrived at the network interface, whatever it contains.
+    std::optional<MessageBytes> receiveAny(int &maxDatagrams) const;
+
 private:
     void send(std::uint32_t source, std::uint32_t destination, std::uint16_t requestId) const;
+    void sendBytes(
+        std::uint32_t source, std::uint32_t destination, const std::uint8_t *bytes, std::size_t size) const;
     std::optional<std::size_t> receiveDatagram(std::uint8_t *buffer, std::size_t size) const;
 
     const int m_interfaceIndex;

@@ -1,6 +1,6 @@
 // These tests check how the addresses of this machine are read, and which one of them is chosen for a camera.
 
-#include "sdk/gige/InterfaceAddresses.h"
+#include "sdk/gvcp/InterfaceAddresses.h"
 
 #include "tests/support/DescriptorLimit.h"
 

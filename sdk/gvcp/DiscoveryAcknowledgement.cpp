@@ -1,5 +1,6 @@
-#include "sdk/gige/DiscoveryAcknowledgement.h"
+#include "sdk/gvcp/DiscoveryAcknowledgement.h"
 
+#include "sdk/gvcp/MessageBytes.h"
 #include "sdk/text/Utf8.h"
 
 #include <algorithm>
@@ -7,32 +8,18 @@
 
 namespace {
 
-// A command or an answer starts with a header of 8 bytes. All numbers are big endian.
-constexpr std::uint8_t commandKey = 0x42;
-constexpr std::uint8_t acknowledgeRequired = 0x01;
-constexpr std::uint8_t allowBroadcastAcknowledge = 0x10;
 constexpr std::uint16_t discoveryCommandCode = 0x0002;
 constexpr std::uint16_t discoveryAcknowledgeCode = 0x0003;
-constexpr std::size_t headerSize = 8;
 constexpr std::size_t payloadSize = 248; // The camera's first registers.
 
 // Offsets of the fields in the payload.
 constexpr std::size_t macOffset = 0x0A;
+constexpr std::size_t offeredMethodsOffset = 0x10, enabledMethodsOffset = 0x14;
 constexpr std::size_t addressOffset = 0x24;
 constexpr std::size_t maskOffset = 0x34;
 constexpr std::size_t gatewayOffset = 0x44;
 constexpr std::size_t vendorOffset = 0x48, modelOffset = 0x68, versionOffset = 0x88;
 constexpr std::size_t serialOffset = 0xD8, userNameOffset = 0xE8;
-
-std::uint16_t read16(const std::uint8_t *data)
-{
-    return static_cast<std::uint16_t>(data[0] << 8 | data[1]);
-}
-
-std::uint32_t read32(const std::uint8_t *data)
-{
-    return static_cast<std::uint32_t>(read16(data)) << 16 | read16(data + 2);
-}
 
 /// Reads a string, which ends at a NUL or at the end of its field. Replaces each byte that is not UTF-8 by
 /// U+FFFD and each control character by a blank. Removes the blanks at both ends.
@@ -56,14 +43,16 @@ std::array<std::uint8_t, 8> discoveryCommand(std::uint16_t requestId)
 
 std::optional<DiscoveryAcknowledgement> parseAcknowledgement(const std::uint8_t *data, std::size_t size)
 {
-    if (size < headerSize + payloadSize)
+    if (size < messageHeaderSize + payloadSize)
         return std::nullopt;
     const std::uint16_t status = read16(data), code = read16(data + 2), length = read16(data + 4);
     if (status != 0 || code != discoveryAcknowledgeCode || length != payloadSize)
         return std::nullopt;
-    const std::uint8_t *const payload = data + headerSize;
+    const std::uint8_t *const payload = data + messageHeaderSize;
     DiscoveryAcknowledgement result;
     result.requestId = read16(data + 6);
+    result.offeredMethods = read32(payload + offeredMethodsOffset);
+    result.enabledMethods = read32(payload + enabledMethodsOffset);
     CameraData &camera = result.camera;
     std::copy_n(payload + macOffset, camera.mac.size(), camera.mac.begin());
     camera.address = read32(payload + addressOffset);

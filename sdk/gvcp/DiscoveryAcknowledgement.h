@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sdk/gige/CameraData.h"
+#include "sdk/gvcp/CameraData.h"
 
 #include <array>
 #include <cstddef>
@@ -10,10 +10,15 @@
 /// The UDP port on which a GigE Vision camera receives commands.
 constexpr std::uint16_t cameraPort = 3956;
 
+/// Bits for the methods by which a camera can get its address.
+constexpr std::uint32_t persistentAddressMethod = 1, dhcpMethod = 2, linkLocalMethod = 4;
+
 /// An answer of a GigE Vision camera to the discovery command.
 struct DiscoveryAcknowledgement
 {
     std::uint16_t requestId = 0; ///< ID of the discovery command that the camera answers.
+    std::uint32_t offeredMethods = 0; ///< The methods that the camera knows.
+    std::uint32_t enabledMethods = 0; ///< The methods that the camera uses.
     CameraData camera;
 };
 

@@ -1,7 +1,7 @@
 // These tests check how the answer of a camera is parsed, including damaged and hostile answers.
 
-#include "sdk/gige/DiscoveryAcknowledgement.h"
-#include "tests/gige/AcknowledgementBuilder.h"
+#include "sdk/gvcp/DiscoveryAcknowledgement.h"
+#include "tests/gvcp/AcknowledgementBuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +21,7 @@ TEST(DiscoveryAcknowledgement, allFieldsAreRead)
     const auto answer = parsed(Builder()
                                    .requestId(0x1234)
                                    .mac({0x00, 0x11, 0x1C, 0xF0, 0x12, 0x34})
+                                   .put(Builder::methodsPosition, {0, 0, 0, 7, 0, 0, 0, 5})
                                    .address({169, 254, 3, 1})
                                    .put(Builder::maskPosition, {255, 255, 0, 0})
                                    .put(Builder::gatewayPosition, {169, 254, 0, 9})
@@ -29,6 +30,8 @@ TEST(DiscoveryAcknowledgement, allFieldsAreRead)
                                    .text(Builder::userNamePosition, "Test bench"));
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->requestId, 0x1234);
+    EXPECT_EQ(answer->offeredMethods, 7U);
+    EXPECT_EQ(answer->enabledMethods, persistentAddressMethod | linkLocalMethod);
     EXPECT_EQ(macToString(answer->camera.mac), "00:11:1c:f0:12:34");
     EXPECT_EQ(ipv4ToString(answer->camera.address), "169.254.3.1");
     EXPECT_EQ(ipv4ToString(answer->camera.mask), "255.255.0.0");

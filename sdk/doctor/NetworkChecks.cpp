@@ -1,0 +1,97 @@
+#include "sdk/doctor/NetworkChecks.h"
+
+#include "sdk/address/AddressText.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::int64_t gigabit = 1000; // Mbit/s.
+constexpr std::int64_t jumboMtu = 9000;
+
+bool hasAddress(const Machine &machine, const std::string &name)
+{
+    return std::any_of(machine.addresses.begin(), machine.addresses.end(),
+        [&](const InterfaceAddress &address) { return address.name == name; });
+}
+
+Finding noAddress(const NetworkLink &link)
+{
+    return {Severity::Warning, link.name, link.name + " is connected, but has no IPv4 address.",
+        "GigE cameras at this network interface are not found.",
+        "sudo ip address add 169.254.10.1/16 dev " + link.name};
+}
+
+Finding slowLink(const NetworkLink &link, bool hasCamera)
+{
+    return {hasCamera ? Severity::Warning : Severity::Notice, link.name,
+        link.name + " runs at " + std::to_string(*link.speed) + " Mbit/s.",
+        "GigE cameras need 1000 Mbit/s; a damaged cable or an old switch is the usual reason.",
+        "sudo ethtool " + link.name};
+}
+
+Finding smallMtu(const NetworkLink &link)
+{
+    return {Severity::Notice, link.name,
+        "The MTU of " + link.name + " is " + std::to_string(link.mtu) + " bytes.",
+        "Packets of 9000 bytes cost less processor time, if the camera and the switch permit them.",
+        "sudo ip link set " + link.name + " mtu " + std::to_string(jumboMtu)};
+}
+
+/// Appends what there is to say about a connected interface.
+void checkConnected(const Machine &machine, const NetworkLink &link, Findings &findings)
+{
+    const std::size_t before = findings.size();
+    const bool hasCamera = machine.hasCameraAt(link.name);
+    if (!hasAddress(machine, link.name))
+        findings.push_back(noAddress(link));
+    if (link.speed && *link.speed < gigabit)
+        findings.push_back(slowLink(link, hasCamera));
+    if (hasCamera && link.mtu < jumboMtu)
+        findings.push_back(smallMtu(link));
+    if (findings.size() == before)
+        findings.push_back(
+            {Severity::Ok, link.name, link.name + " is connected and has an address.", {}, {}});
+}
+
+bool areInSameSubnet(const InterfaceAddress &left, const InterfaceAddress &right)
+{
+    return ((left.address ^ right.address) & std::min(left.mask, right.mask)) == 0;
+}
+
+} // namespace
+
+Findings checkLinks(const Machine &machine)
+{
+    Findings findings;
+    for (const NetworkLink &link : machine.links) {
+        if (link.hasCarrier)
+            checkConnected(machine, link, findings);
+        else if (link.isUp)
+            findings.push_back({Severity::Notice, link.name, link.name + " has no connection.",
+                "No cable is plugged in, or the other end is switched off.", {}});
+        else
+            findings.push_back({Severity::Notice, link.name, link.name + " is switched off.",
+                "Cameras at this network interface are not found.", "sudo ip link set " + link.name + " up"});
+    }
+    return findings;
+}
+
+Findings checkSubnets(const Machine &machine)
+{
+    Findings findings;
+    const std::vector<InterfaceAddress> &addresses = machine.addresses;
+    for (std::size_t first = 0; first < addresses.size(); ++first) {
+        for (std::size_t second = first + 1; second < addresses.size(); ++second) {
+            const InterfaceAddress &left = addresses[first], &right = addresses[second];
+            if (left.index == right.index || !areInSameSubnet(left, right))
+                continue;
+            findings.push_back({Severity::Warning, right.name,
+                left.name + " (" + addressText(left.address, left.mask) + ") and " + right.name + " ("
+                    + addressText(right.address, right.mask) + ") are in the same subnet.",
+                "Commands and images of a camera can take the wrong network interface.",
+                "sudo ip address delete " + addressText(right.address, right.mask) + " dev " + right.name});
+        }
+    }
+    return findings;
+}
