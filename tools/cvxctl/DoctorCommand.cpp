@@ -88,7 +88,7 @@ void addDoctorCommand(CLI::App &program, ExitStatus &status)
     CLI::App *const command = program.add_subcommand("doctor",
         "Check what keeps cameras from working: producers, network, GigE cameras and USB. Prints one line "
         "for "
-        "each finding: what, why it matters, and the command that corrects it. Exit status 8 means that "
+        "each finding: what, why it matters, and the command that corrects it. Exit status 10 means that "
         "there "
         "is something to correct");
     auto *const stream

@@ -9,7 +9,7 @@ const char exitStatusHelp[] = "Exit status:\n"
                               "  5    another program uses the camera\n"
                               "  6    the camera is gone or does not answer\n"
                               "  7    a feature does not exist, or cannot be read or written\n"
-                              "  8    the doctor has found something to correct\n"
+                              "  10   the doctor has found something to correct\n"
                               "  130  interrupted by Ctrl-C";
 
 ExitStatus exitStatus(CvxCPP::CvxError error)

@@ -13,7 +13,7 @@ enum ExitStatus : int
     exitInUse = 5, ///< Another program uses the camera.
     exitLost = 6, ///< The camera is gone or does not answer.
     exitFeature = 7, ///< The feature does not exist, or its value cannot be read or written.
-    exitFindings = 8, ///< The doctor has found something to correct.
+    exitFindings = 10, ///< The doctor has found something to correct.
     exitInterrupted = 130 ///< Ctrl-C ended the command before it was complete.
 };
 
