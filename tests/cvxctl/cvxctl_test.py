@@ -4,6 +4,7 @@ usage: cvxctl_test.py BUILD
 """
 
 import json
+import os
 import signal
 import unittest
 

@@ -43,7 +43,7 @@ class DoctorTest(unittest.TestCase):
                                 capture_output=True, text=True, timeout=LIMIT, check=False)
         findings = json.loads(result.stdout)
         has_problem = any(finding["severity"] in ("warning", "error") for finding in findings)
-        self.assertEqual(result.returncode, 8 if has_problem else 0, result.stdout)
+        self.assertEqual(result.returncode, 10 if has_problem else 0, result.stdout)
         return findings
 
     def findings_of(self, subject, *arguments):

@@ -43,7 +43,7 @@ class ManPagesTest(unittest.TestCase):
     def test_pages_describe_every_subcommand_and_option(self):
         for page in PAGES:
             text = page_text(page)
-            described = re.findall(r"^ +cvxctl (\w+)", text.split("SYNOPSIS")[1].split("DESCRIPTION")[0], re.MULTILINE)
+            described = re.findall(r"^ +cvxctl +(\w+)", text.split("SYNOPSIS")[1].split("DESCRIPTION")[0], re.MULTILINE)
             if described == ["SUBCOMMAND"]:
                 continue
             options = {option for name in described for option in re.findall(OPTION, cvxctl_help(name))}
@@ -52,8 +52,10 @@ class ManPagesTest(unittest.TestCase):
             self.assertEqual(set(re.findall(OPTION, text)), options, page)
 
     def test_every_subcommand_is_in_one_page(self):
-        described = [name for page in PAGES
-                     for name in re.findall(r"^\.B cvxctl (\w+)", open(page, encoding="utf-8").read(), re.MULTILINE)]
+        described = []
+        for page in PAGES:
+            with open(page, encoding="utf-8") as file:
+                described += re.findall(r"^\.B cvxctl (\w+)", file.read(), re.MULTILINE)
         self.assertEqual(sorted(described), sorted(subcommands()))
 
     def test_exit_statuses_are_complete(self):
