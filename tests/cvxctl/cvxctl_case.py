@@ -45,8 +45,10 @@ class CvxctlCase(unittest.TestCase):
         cls.environment.pop("GENICAM_GENTL64_PATH", None)
 
     def start(self, *arguments, **options):
-        return subprocess.Popen([f"{self.root}/bin/cvxctl", *arguments], env=self.environment, text=True,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
+        options = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **options}
+        process = subprocess.Popen([f"{self.root}/bin/cvxctl", *arguments], env=self.environment, text=True, **options)
+        self.addCleanup(process.kill)  # After a failure; a recording would go on and keep the camera.
+        return process
 
     def run_failing(self, status, *arguments):
         """Runs a command that has to end with this status, and returns its output and its messages."""

@@ -151,8 +151,7 @@ class ImagesTest(CvxctlCase):
         self.addCleanup(os.close, pipe)
         terminal, inner = os.openpty()
         self.addCleanup(os.close, terminal)
-        process = subprocess.Popen([f"{self.root}/bin/cvxctl", "record", "1001", self.path("pipe"), "--buffers", "2"],
-                                   env=self.environment, text=True, stdout=subprocess.PIPE, stderr=inner)
+        process = self.start("record", "1001", self.path("pipe"), "--buffers", "2", stderr=inner)
         os.close(inner)
 
         def read_until(pattern):

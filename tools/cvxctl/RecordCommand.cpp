@@ -100,10 +100,11 @@ ExitStatus takeImages(Stream &stream, Recorder &recorder, const RecordOptions &o
         if (result) {
             recorder.add(std::move(image));
             ++taking.images;
-        } else if (result.code == CvxErrorDeviceLost) {
-            if (!taking.isCameraLost)
-                printError(result.text);
-        } else if (result.code != CvxErrorTimeout) {
+        } else if (result.code == CvxErrorDeviceLost && !taking.isCameraLost) {
+            progress.endLine();
+            printError(result.text);
+        } else if (result.code != CvxErrorTimeout && result.code != CvxErrorDeviceLost) {
+            progress.endLine();
             return reportFailure(result);
         }
         taking.isCameraLost = result.code == CvxErrorDeviceLost || (taking.isCameraLost && !result);

@@ -16,8 +16,14 @@ RecordProgress::RecordProgress(const CvxCPP::Stream &stream, const Recorder &rec
 
 RecordProgress::~RecordProgress()
 {
-    if (m_isTerminal)
+    endLine();
+}
+
+void RecordProgress::endLine()
+{
+    if (m_hasLine)
         std::fputs("\n", stderr);
+    m_hasLine = false;
 }
 
 void RecordProgress::update()
@@ -27,6 +33,7 @@ void RecordProgress::update()
     if (!m_isTerminal || now < m_next || !m_stream.GetStatistics(stream))
         return;
     m_next = now + std::chrono::seconds(1);
+    m_hasLine = true;
     const RecorderCounters counters = m_recorder.counters();
     const std::optional<std::uint64_t> usable = usableSpace(m_file);
     std::fprintf(stderr,

@@ -20,10 +20,14 @@ public:
     /// Prints the line if the last one is older than a second.
     void update();
 
+    /// Ends the line, so that a message can follow.
+    void endLine();
+
 private:
     const CvxCPP::Stream &m_stream;
     const Recorder &m_recorder;
     const std::string m_file;
     const bool m_isTerminal;
+    bool m_hasLine = false;
     std::chrono::steady_clock::time_point m_next;
 };
