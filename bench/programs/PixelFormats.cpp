@@ -6,7 +6,6 @@
 
 #include "sdk/image/ImageConverter.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -26,6 +25,8 @@ constexpr std::uint32_t height = 2048;
 /// Pictures come and go as in a stream: inputs and outputs are buffers in turn, of so many bytes together
 /// that neither is in a cache of the core when it is used again. That holds for memcpy() too.
 constexpr std::size_t ringBytes = 64U << 20U;
+
+constexpr std::size_t conversionsPerRound = 8;
 
 enum class Output
 {
@@ -93,7 +94,7 @@ public:
 private:
     void convert(std::size_t index);
     void convertTheirs(std::size_t index);
-    double speed(const std::function<void(std::size_t)> &convert) const;
+    double speed(const std::function<void(std::size_t)> &convert);
 
     const Conversion &m_conversion;
     std::uint32_t m_code;
@@ -101,6 +102,7 @@ private:
     std::size_t m_outputBytes;
     std::vector<std::vector<std::uint8_t>> m_inputs;
     std::vector<std::vector<std::uint8_t>> m_outputs;
+    std::size_t m_index = 0; ///< Of the next buffers.
     ImageConverter m_converter;
     SwsContext *m_context = nullptr;
 };
@@ -114,10 +116,10 @@ Measurement::Measurement(const Conversion &conversion)
     m_lineBytes = std::size_t(conversion.outputWidth) * channels;
     const std::size_t inputBytes = std::size_t(width) * height * bitsPerPixel(m_code) / 8;
     m_outputBytes = m_lineBytes * conversion.outputHeight;
-    m_inputs.assign(ringBytes / inputBytes + 1, std::vector<std::uint8_t>(inputBytes));
-    for (std::vector<std::uint8_t> &input : m_inputs)
-        for (std::uint8_t &byte : input)
-            byte = static_cast<std::uint8_t>(std::rand() >> 8);
+    std::vector<std::uint8_t> input(inputBytes);
+    for (std::uint8_t &byte : input)
+        byte = static_cast<std::uint8_t>(std::rand() >> 8);
+    m_inputs.assign(ringBytes / inputBytes + 1, input);
     m_outputs.assign(ringBytes / m_outputBytes + 1, std::vector<std::uint8_t>(m_outputBytes + 64, 1));
     if (conversion.theirFormat == AV_PIX_FMT_NONE)
         return;
@@ -132,18 +134,18 @@ Measurement::Measurement(const Conversion &conversion)
 
 void Measurement::convert(std::size_t index)
 {
-    const RawImage picture = {m_inputs[index % m_inputs.size()].data(),
-        m_inputs[index % m_inputs.size()].size(), width, height, 0, m_code, false};
+    const std::vector<std::uint8_t> &input = m_inputs[index % m_inputs.size()];
+    std::uint8_t *const output = m_outputs[index % m_outputs.size()].data();
+    const RawImage picture = {input.data(), input.size(), width, height, 0, m_code, false};
     const Region all = {0, 0, width, height};
     if (m_conversion.output == Output::Words) {
-        m_converter.toWords(picture, all,
-            reinterpret_cast<std::uint16_t *>(m_outputs[index % m_outputs.size()].data()), m_lineBytes / 2);
+        m_converter.toWords(picture, all, reinterpret_cast<std::uint16_t *>(output), m_lineBytes / 2);
         return;
     }
     const Demosaicing demosaicing
         = m_conversion.output == Output::EdgeAwareScreen ? Demosaicing::EdgeAware : Demosaicing::Bilinear;
     m_converter.toScreen(picture, {all, m_conversion.outputWidth, m_conversion.outputHeight, demosaicing},
-        m_outputs[index % m_outputs.size()].data(), m_lineBytes);
+        output, m_lineBytes);
 }
 
 void Measurement::convertTheirs(std::size_t index)
@@ -159,14 +161,12 @@ void Measurement::convertTheirs(std::size_t index)
 }
 
 /// Returns gigabytes of output per second.
-double Measurement::speed(const std::function<void(std::size_t)> &convert) const
+double Measurement::speed(const std::function<void(std::size_t)> &convert)
 {
     const double start = threadTime();
-    // Each output is used once, but large ones are not enough for a measurement.
-    const std::size_t count = std::max<std::size_t>(m_outputs.size(), 8);
-    for (std::size_t index = 0; index < count; ++index)
-        convert(index);
-    const auto bytes = static_cast<double>(count * m_outputBytes);
+    for (std::size_t i = 0; i < conversionsPerRound; ++i)
+        convert(m_index++);
+    const auto bytes = static_cast<double>(conversionsPerRound * m_outputBytes);
     return bytes / (threadTime() - start) / 1000;
 }
 

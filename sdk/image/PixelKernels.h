@@ -81,7 +81,7 @@ constexpr int weightBits = 6;
 constexpr int weightUnit = 1 << weightBits;
 
 /// Functions over lines of samples of 8 or 16 bits. They write exactly the number of samples that they are
-/// told to, except where a comment allows more.
+/// told to.
 template <typename Sample>
 struct SampleKernels
 {

@@ -4,32 +4,32 @@
 
 namespace {
 
-constexpr Arrangement single{};
-constexpr Arrangement rgb{1, 3, {{{0}, {1}, {2}}}};
-constexpr Arrangement bgr{1, 3, {{{2}, {1}, {0}}}};
-constexpr Arrangement rgba{1, 4, {{{0}, {1}, {2}, {3}}}};
-constexpr Arrangement bgra{1, 4, {{{2}, {1}, {0}, {3}}}};
-constexpr Arrangement uyv{1, 3, {{{1}, {0}, {2}}}};
-constexpr Arrangement yuyv{2, 4, {{{0, 2}, {1, 1}, {3, 3}}}};
-constexpr Arrangement uyvy{2, 4, {{{1, 3}, {0, 0}, {2, 2}}}};
-constexpr Arrangement uyyvyy{4, 6, {{{1, 2, 4, 5}, {0, 0, 0, 0}, {3, 3, 3, 3}}}};
-constexpr Arrangement yyuyyv{4, 6, {{{0, 1, 3, 4}, {2, 2, 2, 2}, {5, 5, 5, 5}}}};
-constexpr Arrangement rgbg{2, 4, {{{0, 0}, {1, 3}, {2, 2}}}};
-constexpr Arrangement bgrg{2, 4, {{{2, 2}, {1, 3}, {0, 0}}}};
+constexpr Arrangement oneComponent{};
+constexpr Arrangement rgbOrder{1, 3, {{{0}, {1}, {2}}}};
+constexpr Arrangement bgrOrder{1, 3, {{{2}, {1}, {0}}}};
+constexpr Arrangement rgbaOrder{1, 4, {{{0}, {1}, {2}, {3}}}};
+constexpr Arrangement bgraOrder{1, 4, {{{2}, {1}, {0}, {3}}}};
+constexpr Arrangement uyvOrder{1, 3, {{{1}, {0}, {2}}}};
+constexpr Arrangement yuyvOrder{2, 4, {{{0, 2}, {1, 1}, {3, 3}}}};
+constexpr Arrangement uyvyOrder{2, 4, {{{1, 3}, {0, 0}, {2, 2}}}};
+constexpr Arrangement uyyvyyOrder{4, 6, {{{1, 2, 4, 5}, {0, 0, 0, 0}, {3, 3, 3, 3}}}};
+constexpr Arrangement yyuyyvOrder{4, 6, {{{0, 1, 3, 4}, {2, 2, 2, 2}, {5, 5, 5, 5}}}};
+constexpr Arrangement rgbgOrder{2, 4, {{{0, 0}, {1, 3}, {2, 2}}}};
+constexpr Arrangement bgrgOrder{2, 4, {{{2, 2}, {1, 3}, {0, 0}}}};
 // These two are about the plane of chroma, so their first channel is not used.
-constexpr Arrangement chromaUv{2, 2, {{{0, 0}, {0, 0}, {1, 1}}}};
-constexpr Arrangement chromaVu{2, 2, {{{0, 0}, {1, 1}, {0, 0}}}};
-constexpr Arrangement two{1, 2, {{{0}, {1}}}};
+constexpr Arrangement uvOrder{2, 2, {{{0, 0}, {0, 0}, {1, 1}}}};
+constexpr Arrangement vuOrder{2, 2, {{{0, 0}, {1, 1}, {0, 0}}}};
+constexpr Arrangement twoComponents{1, 2, {{{0}, {1}}}};
 
 constexpr PixelLayout mono(std::uint32_t code, const char *name, int depth, Packing packing,
     Number number = Number::Unsigned, PixelKind kind = PixelKind::Mono)
 {
     return {{code, name, kind, static_cast<std::uint8_t>(depth), 1}, packing, number, Planes::Interleaved,
-        single};
+        oneComponent};
 }
 
 constexpr PixelLayout data(std::uint32_t code, const char *name, int depth, Packing packing,
-    Number number = Number::Unsigned, const Arrangement &arrangement = single,
+    Number number = Number::Unsigned, const Arrangement &arrangement = oneComponent,
     Planes planes = Planes::Interleaved)
 {
     return {{code, name, PixelKind::Depth, static_cast<std::uint8_t>(depth), arrangement.components}, packing,
@@ -41,7 +41,7 @@ constexpr PixelLayout bayer(
     std::uint32_t code, const char *name, int depth, Packing packing, int redX, int redY)
 {
     return {{code, name, PixelKind::Bayer, static_cast<std::uint8_t>(depth), 1}, packing, Number::Unsigned,
-        Planes::Interleaved, single, YuvStandard::Bt601Full, static_cast<std::uint8_t>(redX),
+        Planes::Interleaved, oneComponent, YuvStandard::Bt601Full, static_cast<std::uint8_t>(redX),
         static_cast<std::uint8_t>(redY)};
 }
 
@@ -68,8 +68,8 @@ constexpr PixelLayout yuv(std::uint32_t code, const char *name, const Arrangemen
 
 constexpr PixelLayout raw(std::uint32_t code, const char *name)
 {
-    return {
-        {code, name, PixelKind::Raw, 8, 1}, Packing::Unknown, Number::Unsigned, Planes::Interleaved, single};
+    return {{code, name, PixelKind::Raw, 8, 1}, Packing::Unknown, Number::Unsigned, Planes::Interleaved,
+        oneComponent};
 }
 
 constexpr PixelLayout unknownLayout = raw(0, "");
@@ -95,8 +95,8 @@ constexpr std::array layouts = {
     mono(0x010800C9, "R8", 8, P::Bytes),
     mono(0x010800CD, "G8", 8, P::Bytes),
     mono(0x010800D1, "B8", 8, P::Bytes),
-    biColor(0x021000A5, "BiColorRGBG8", rgbg),
-    biColor(0x021000A6, "BiColorBGRG8", bgrg),
+    biColor(0x021000A5, "BiColorRGBG8", rgbgOrder),
+    biColor(0x021000A6, "BiColorBGRG8", bgrgOrder),
 
     bayer(0x0104010D, "BayerGR4p", 4, P::Bits, 1, 0),
     bayer(0x0104010E, "BayerRG4p", 4, P::Bits, 0, 0),
@@ -143,69 +143,69 @@ constexpr std::array layouts = {
     bayer(0x01100030, "BayerGB16", 16, P::Words, 0, 1),
     bayer(0x01100031, "BayerBG16", 16, P::Words, 1, 1),
 
-    color(0x02180014, "RGB8", 8, P::Bytes, rgb),
-    color(0x02180015, "BGR8", 8, P::Bytes, bgr),
-    color(0x02200016, "RGBa8", 8, P::Bytes, rgba),
-    color(0x02200017, "BGRa8", 8, P::Bytes, bgra),
-    color(0x02300018, "RGB10", 10, P::Words, rgb),
-    color(0x02300019, "BGR10", 10, P::Words, bgr),
-    color(0x0230001A, "RGB12", 12, P::Words, rgb),
-    color(0x0230001B, "BGR12", 12, P::Words, bgr),
-    color(0x0230005E, "RGB14", 14, P::Words, rgb),
-    color(0x02300033, "RGB16", 16, P::Words, rgb),
-    color(0x0230004B, "BGR16", 16, P::Words, bgr),
-    color(0x0240005F, "RGBa10", 10, P::Words, rgba),
-    color(0x02400061, "RGBa12", 12, P::Words, rgba),
-    color(0x02400064, "RGBa16", 16, P::Words, rgba),
-    color(0x021E005C, "RGB10p", 10, P::Bits, rgb),
-    color(0x021E0048, "BGR10p", 10, P::Bits, bgr),
-    color(0x0224005D, "RGB12p", 12, P::Bits, rgb),
-    color(0x02240049, "BGR12p", 12, P::Bits, bgr),
-    color(0x02280060, "RGBa10p", 10, P::Bits, rgba),
-    color(0x02300062, "RGBa12p", 12, P::Bits, rgba),
-    color(0x0220001D, "RGB10p32", 10, P::Rgb10p32, rgb),
-    color(0x02100035, "RGB565p", 6, P::Rgb565, rgb),
-    color(0x02100036, "BGR565p", 6, P::Rgb565, bgr),
-    color(0x02180021, "RGB8_Planar", 8, P::Bytes, rgb, Planes::Planar),
-    color(0x02300022, "RGB10_Planar", 10, P::Words, rgb, Planes::Planar),
-    color(0x02300023, "RGB12_Planar", 12, P::Words, rgb, Planes::Planar),
-    color(0x02300024, "RGB16_Planar", 16, P::Words, rgb, Planes::Planar),
+    color(0x02180014, "RGB8", 8, P::Bytes, rgbOrder),
+    color(0x02180015, "BGR8", 8, P::Bytes, bgrOrder),
+    color(0x02200016, "RGBa8", 8, P::Bytes, rgbaOrder),
+    color(0x02200017, "BGRa8", 8, P::Bytes, bgraOrder),
+    color(0x02300018, "RGB10", 10, P::Words, rgbOrder),
+    color(0x02300019, "BGR10", 10, P::Words, bgrOrder),
+    color(0x0230001A, "RGB12", 12, P::Words, rgbOrder),
+    color(0x0230001B, "BGR12", 12, P::Words, bgrOrder),
+    color(0x0230005E, "RGB14", 14, P::Words, rgbOrder),
+    color(0x02300033, "RGB16", 16, P::Words, rgbOrder),
+    color(0x0230004B, "BGR16", 16, P::Words, bgrOrder),
+    color(0x0240005F, "RGBa10", 10, P::Words, rgbaOrder),
+    color(0x02400061, "RGBa12", 12, P::Words, rgbaOrder),
+    color(0x02400064, "RGBa16", 16, P::Words, rgbaOrder),
+    color(0x021E005C, "RGB10p", 10, P::Bits, rgbOrder),
+    color(0x021E0048, "BGR10p", 10, P::Bits, bgrOrder),
+    color(0x0224005D, "RGB12p", 12, P::Bits, rgbOrder),
+    color(0x02240049, "BGR12p", 12, P::Bits, bgrOrder),
+    color(0x02280060, "RGBa10p", 10, P::Bits, rgbaOrder),
+    color(0x02300062, "RGBa12p", 12, P::Bits, rgbaOrder),
+    color(0x0220001D, "RGB10p32", 10, P::Rgb10p32, rgbOrder),
+    color(0x02100035, "RGB565p", 6, P::Rgb565, rgbOrder),
+    color(0x02100036, "BGR565p", 6, P::Rgb565, bgrOrder),
+    color(0x02180021, "RGB8_Planar", 8, P::Bytes, rgbOrder, Planes::Planar),
+    color(0x02300022, "RGB10_Planar", 10, P::Words, rgbOrder, Planes::Planar),
+    color(0x02300023, "RGB12_Planar", 12, P::Words, rgbOrder, Planes::Planar),
+    color(0x02300024, "RGB16_Planar", 16, P::Words, rgbOrder, Planes::Planar),
     raw(0x0220001C, "RGB10V1Packed"),
     raw(0x02240034, "RGB12V1Packed"),
 
-    yuv(0x02180020, "YUV8_UYV", uyv),
-    yuv(0x02100032, "YUV422_8", yuyv),
-    yuv(0x0210001F, "YUV422_8_UYVY", uyvy),
-    yuv(0x020C001E, "YUV411_8_UYYVYY", uyyvyy),
-    yuv(0x0218005B, "YCbCr8", rgb),
-    yuv(0x0218003A, "YCbCr8_CbYCr", uyv),
-    yuv(0x0210003B, "YCbCr422_8", yuyv),
-    yuv(0x02100043, "YCbCr422_8_CbYCrY", uyvy),
-    yuv(0x020C005A, "YCbCr411_8", yyuyyv),
-    yuv(0x020C003C, "YCbCr411_8_CbYYCrYY", uyyvyy),
-    yuv(0x02200065, "YCbCr422_10", yuyv, S::Bt601Full, 10, P::Words),
-    yuv(0x02200066, "YCbCr422_12", yuyv, S::Bt601Full, 12, P::Words),
-    yuv(0x02140087, "YCbCr422_10p", yuyv, S::Bt601Full, 10, P::Bits),
-    yuv(0x02180088, "YCbCr422_12p", yuyv, S::Bt601Full, 12, P::Bits),
-    yuv(0x0218003D, "YCbCr601_8_CbYCr", uyv, S::Bt601),
-    yuv(0x0210003E, "YCbCr601_422_8", yuyv, S::Bt601),
-    yuv(0x02100044, "YCbCr601_422_8_CbYCrY", uyvy, S::Bt601),
-    yuv(0x020C003F, "YCbCr601_411_8_CbYYCrYY", uyyvyy, S::Bt601),
-    yuv(0x02180040, "YCbCr709_8_CbYCr", uyv, S::Bt709),
-    yuv(0x02100041, "YCbCr709_422_8", yuyv, S::Bt709),
-    yuv(0x02100045, "YCbCr709_422_8_CbYCrY", uyvy, S::Bt709),
-    yuv(0x020C0042, "YCbCr709_411_8_CbYYCrYY", uyyvyy, S::Bt709),
-    yuv(0x021800F4, "YCbCr2020_8_CbYCr", uyv, S::Bt2020),
-    yuv(0x021000FA, "YCbCr2020_422_8", yuyv, S::Bt2020),
-    yuv(0x021000FB, "YCbCr2020_422_8_CbYCrY", uyvy, S::Bt2020),
-    yuv(0x020C00F9, "YCbCr2020_411_8_CbYYCrYY", uyyvyy, S::Bt2020),
-    yuv(0x020C0112, "YCbCr420_8_YY_CbCr_Semiplanar", chromaUv, S::Bt601Full, 8, P::Bytes,
+    yuv(0x02180020, "YUV8_UYV", uyvOrder),
+    yuv(0x02100032, "YUV422_8", yuyvOrder),
+    yuv(0x0210001F, "YUV422_8_UYVY", uyvyOrder),
+    yuv(0x020C001E, "YUV411_8_UYYVYY", uyyvyyOrder),
+    yuv(0x0218005B, "YCbCr8", rgbOrder),
+    yuv(0x0218003A, "YCbCr8_CbYCr", uyvOrder),
+    yuv(0x0210003B, "YCbCr422_8", yuyvOrder),
+    yuv(0x02100043, "YCbCr422_8_CbYCrY", uyvyOrder),
+    yuv(0x020C005A, "YCbCr411_8", yyuyyvOrder),
+    yuv(0x020C003C, "YCbCr411_8_CbYYCrYY", uyyvyyOrder),
+    yuv(0x02200065, "YCbCr422_10", yuyvOrder, S::Bt601Full, 10, P::Words),
+    yuv(0x02200066, "YCbCr422_12", yuyvOrder, S::Bt601Full, 12, P::Words),
+    yuv(0x02140087, "YCbCr422_10p", yuyvOrder, S::Bt601Full, 10, P::Bits),
+    yuv(0x02180088, "YCbCr422_12p", yuyvOrder, S::Bt601Full, 12, P::Bits),
+    yuv(0x0218003D, "YCbCr601_8_CbYCr", uyvOrder, S::Bt601),
+    yuv(0x0210003E, "YCbCr601_422_8", yuyvOrder, S::Bt601),
+    yuv(0x02100044, "YCbCr601_422_8_CbYCrY", uyvyOrder, S::Bt601),
+    yuv(0x020C003F, "YCbCr601_411_8_CbYYCrYY", uyyvyyOrder, S::Bt601),
+    yuv(0x02180040, "YCbCr709_8_CbYCr", uyvOrder, S::Bt709),
+    yuv(0x02100041, "YCbCr709_422_8", yuyvOrder, S::Bt709),
+    yuv(0x02100045, "YCbCr709_422_8_CbYCrY", uyvyOrder, S::Bt709),
+    yuv(0x020C0042, "YCbCr709_411_8_CbYYCrYY", uyyvyyOrder, S::Bt709),
+    yuv(0x021800F4, "YCbCr2020_8_CbYCr", uyvOrder, S::Bt2020),
+    yuv(0x021000FA, "YCbCr2020_422_8", yuyvOrder, S::Bt2020),
+    yuv(0x021000FB, "YCbCr2020_422_8_CbYCrY", uyvyOrder, S::Bt2020),
+    yuv(0x020C00F9, "YCbCr2020_411_8_CbYYCrYY", uyyvyyOrder, S::Bt2020),
+    yuv(0x020C0112, "YCbCr420_8_YY_CbCr_Semiplanar", uvOrder, S::Bt601Full, 8, P::Bytes,
         Planes::Semiplanar420),
-    yuv(0x020C0114, "YCbCr420_8_YY_CrCb_Semiplanar", chromaVu, S::Bt601Full, 8, P::Bytes,
+    yuv(0x020C0114, "YCbCr420_8_YY_CrCb_Semiplanar", vuOrder, S::Bt601Full, 8, P::Bytes,
         Planes::Semiplanar420),
-    yuv(0x02100113, "YCbCr422_8_YY_CbCr_Semiplanar", chromaUv, S::Bt601Full, 8, P::Bytes,
+    yuv(0x02100113, "YCbCr422_8_YY_CbCr_Semiplanar", uvOrder, S::Bt601Full, 8, P::Bytes,
         Planes::Semiplanar422),
-    yuv(0x02100115, "YCbCr422_8_YY_CrCb_Semiplanar", chromaVu, S::Bt601Full, 8, P::Bytes,
+    yuv(0x02100115, "YCbCr422_8_YY_CrCb_Semiplanar", vuOrder, S::Bt601Full, 8, P::Bytes,
         Planes::Semiplanar422),
 
     data(0x010800AF, "Coord3D_A8", 8, P::Bytes),
@@ -217,11 +217,11 @@ constexpr std::array layouts = {
     data(0x012000BD, "Coord3D_A32f", 32, P::Wide, Number::Float),
     data(0x012000BE, "Coord3D_B32f", 32, P::Wide, Number::Float),
     data(0x012000BF, "Coord3D_C32f", 32, P::Wide, Number::Float),
-    data(0x021800B2, "Coord3D_ABC8", 8, P::Bytes, Number::Unsigned, rgb),
-    data(0x023000B9, "Coord3D_ABC16", 16, P::Words, Number::Unsigned, rgb),
-    data(0x026000C0, "Coord3D_ABC32f", 32, P::Wide, Number::Float, rgb),
-    data(0x026000C1, "Coord3D_ABC32f_Planar", 32, P::Wide, Number::Float, rgb, Planes::Planar),
-    data(0x022000BB, "Coord3D_AC16", 16, P::Words, Number::Unsigned, two),
+    data(0x021800B2, "Coord3D_ABC8", 8, P::Bytes, Number::Unsigned, rgbOrder),
+    data(0x023000B9, "Coord3D_ABC16", 16, P::Words, Number::Unsigned, rgbOrder),
+    data(0x026000C0, "Coord3D_ABC32f", 32, P::Wide, Number::Float, rgbOrder),
+    data(0x026000C1, "Coord3D_ABC32f_Planar", 32, P::Wide, Number::Float, rgbOrder, Planes::Planar),
+    data(0x022000BB, "Coord3D_AC16", 16, P::Words, Number::Unsigned, twoComponents),
     data(0x010800C4, "Confidence1", 1, P::Bytes),
     data(0x010100C5, "Confidence1p", 1, P::Bits),
     data(0x010800C6, "Confidence8", 8, P::Bytes),
