@@ -197,7 +197,7 @@ class ImagesTest(CvxctlCase):
         process = self.start_recording("a.tif")
         process.kill()
         process.communicate(timeout=LIMIT)
-        self.assertGreaterEqual(len(tiff_directories(self.path("a.tif"))), 5)
+        self.assertGreaterEqual(len(tiff_directories(self.path("a.tif"))), 4)  # The fifth may be unfinished.
         self.assertIsNone(self.load("a.tif.json")["recording"]["ended"])
 
     def test_recording_that_does_not_fit(self):
