@@ -18,7 +18,7 @@ public:
     { }
     ~CameraControl()
     {
-        if (hasControl())
+        if (!m_answer || hasControl()) // Perhaps only the answer was lost.
             m_connection.writeRegister(AddressRegister::controlPrivilege, 0);
     }
     CameraControl(const CameraControl &) = delete;
@@ -100,8 +100,10 @@ AddressChange setTemporary(const SeenCamera &camera, const AddressSettings &sett
     const auto status = forceAddress(camera, settings);
     if (status && *status != ControlAnswer::success)
         return failed("The camera does not take the address", status);
-    const auto isThere
-        = [&](const SeenCamera &seen) { return seen.camera.address == settings.address && seen.isInSubnet; };
+    const auto isThere = [&](const SeenCamera &seen) {
+        const AddressSettings now{seen.camera.address, seen.camera.mask, seen.camera.gateway};
+        return now == settings && seen.isInSubnet;
+    };
     const auto seen = awaitCamera(camera.camera.mac, isThere);
     if (!seen || !isThere(*seen))
         return withoutEffect(seen);

@@ -13,6 +13,7 @@ using ForceClock = std::chrono::steady_clock;
 constexpr int forceAttempts = 3;
 constexpr std::chrono::milliseconds forceAnswerTimeout{500};
 constexpr std::chrono::seconds newAddressTimeout{5};
+constexpr std::chrono::seconds maxSilence{2};
 
 std::optional<std::uint16_t> awaitStatus(const DiscoverySocket &socket, std::uint16_t requestId)
 {
@@ -51,11 +52,16 @@ std::optional<SeenCamera> awaitCamera(
     const MacAddress &mac, const std::function<bool(const SeenCamera &)> &accept)
 {
     std::optional<SeenCamera> last;
+    auto lastTime = ForceClock::now();
     searchCameras(interfaceAddresses(), newAddressTimeout, [&](const SeenCamera &seen) {
         if (seen.camera.mac != mac)
             return false;
         last = seen;
+        lastTime = ForceClock::now();
         return accept(seen);
     });
+    // A camera may still answer from its old address before it restarts its network.
+    if (ForceClock::now() - lastTime > maxSilence)
+        last.reset();
     return last;
 }

@@ -99,8 +99,9 @@ void StreamMemory::release(std::uint32_t buffer)
 std::optional<ImageRecord> StreamMemory::record(std::uint32_t buffer) const
 {
     const ImageRecord record = m_ring->record(buffer);
-    if (!isInside(record.imageOffset, record.imageSize, m_bufferSize)
-        || record.chunkCount > ImageRecord::maxChunks)
+    constexpr std::uint32_t maxLength = 1U << 24U; // Of a width or a height that a camera can have.
+    if (!isInside(record.imageOffset, record.imageSize, m_bufferSize) || record.width > maxLength
+        || record.height > maxLength || record.chunkCount > ImageRecord::maxChunks)
         return std::nullopt;
     const auto isChunkInside
         = [&](const ChunkPosition &chunk) { return isInside(chunk.offset, chunk.length, m_bufferSize); };

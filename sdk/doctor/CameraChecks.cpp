@@ -23,40 +23,48 @@ std::string addressCommand(const CameraAddress &camera, const std::string &optio
     return mac == MacAddress{} ? std::string() : "cvxctl address " + macToString(mac) + options;
 }
 
-/// Returns the command that gives the camera an address in the subnet of its network interface.
-std::string moveCommand(const Machine &machine, const CameraAddress &camera)
+AddressSurroundings surroundingsOf(const Machine &machine)
 {
     AddressSurroundings surroundings;
     surroundings.own = machine.addresses;
     surroundings.neighbours = machine.neighbours;
-    for (const CameraAddress &other : machine.cameras)
-        surroundings.cameras.push_back(other.seen);
-    const auto known
-        = [&](const InterfaceAddress &, const std::vector<std::uint32_t> &) { return machine.neighbours; };
+    for (const CameraAddress &camera : machine.cameras)
+        surroundings.cameras.push_back(camera.seen);
+    return surroundings;
+}
+
+/// Returns the command that gives the camera an address in the subnet of its network interface. Adds the
+/// address to the surroundings, so that no other camera gets it too.
+std::string moveCommand(AddressSurroundings &surroundings, const CameraAddress &camera)
+{
+    const auto known = [neighbours = surroundings.neighbours](const InterfaceAddress &,
+                           const std::vector<std::uint32_t> &) { return neighbours; };
     const bool canStore = (camera.seen.offeredMethods & persistentAddressMethod) != 0;
     const auto proposal = proposeAddress(camera.seen, surroundings, known);
     if (!proposal)
         return {};
+    surroundings.neighbours.push_back(
+        {proposal->address, camera.seen.camera.mac, camera.seen.networkInterface.name});
     return addressCommand(camera,
         (canStore ? " --lasting " : " --temporary ") + addressText(proposal->address, proposal->mask));
 }
 
-Finding wrongSubnet(const Machine &machine, const CameraAddress &camera)
+Finding wrongSubnet(AddressSurroundings &surroundings, const CameraAddress &camera)
 {
     const InterfaceAddress &own = camera.seen.networkInterface;
     return {Severity::Error, subjectOf(camera),
         "The camera " + camera.seen.camera.model + " at " + addressOf(camera) + " is not in the subnet of "
             + own.name + " (" + addressText(own.address, own.mask) + ").",
-        "It is listed, but no program can open it.", moveCommand(machine, camera)};
+        "It is listed, but no program can open it.", moveCommand(surroundings, camera)};
 }
 
-Finding wrongMask(const Machine &machine, const CameraAddress &camera)
+Finding wrongMask(AddressSurroundings &surroundings, const CameraAddress &camera)
 {
     const InterfaceAddress &own = camera.seen.networkInterface;
     return {Severity::Error, subjectOf(camera),
         "The subnet of the camera at " + addressOf(camera) + " does not contain " + own.name + " ("
             + addressText(own.address, own.mask) + ").",
-        "The camera may not be able to send its answers and images.", moveCommand(machine, camera)};
+        "The camera may not be able to send its answers and images.", moveCommand(surroundings, camera)};
 }
 
 /// Returns what there is to say about a camera that is in the subnet of its network interface.
@@ -99,11 +107,12 @@ Finding conflict(const CameraAddress &camera, const std::string &other)
 Findings checkCameras(const Machine &machine)
 {
     Findings findings;
+    AddressSurroundings surroundings = surroundingsOf(machine);
     for (const CameraAddress &camera : machine.cameras) {
         if (!camera.seen.isInSubnet)
-            findings.push_back(wrongSubnet(machine, camera));
+            findings.push_back(wrongSubnet(surroundings, camera));
         else if (!isInCameraSubnet(camera) && camera.seen.networkInterface.peer == 0)
-            findings.push_back(wrongMask(machine, camera));
+            findings.push_back(wrongMask(surroundings, camera));
         else
             findings.push_back(controlFinding(camera));
     }

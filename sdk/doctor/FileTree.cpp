@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sys/stat.h>
 #include <unistd.h>
 
 FileTree::FileTree(std::string root) : m_root(std::move(root)) { }
@@ -21,7 +21,8 @@ std::optional<std::string> FileTree::read(const std::string &path) const
     std::ifstream file(m_root + path, std::ios::binary);
     if (!file)
         return std::nullopt;
-    std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::string text;
+    std::getline(file, text, '\0'); // Unlike an iterator, does not throw if the system refuses to read.
     if (file.bad())
         return std::nullopt;
     text.erase(text.find_last_not_of(" \t\r\n") + 1);
@@ -62,7 +63,9 @@ bool FileTree::canReadAndWrite(const std::string &path) const
 
 bool FileTree::isGroupWritable(const std::string &path) const
 {
-    std::error_code error;
-    const auto permissions = std::filesystem::status(m_root + path, error).permissions();
-    return !error && (permissions & std::filesystem::perms::group_write) != std::filesystem::perms::none;
+    struct stat status
+    { };
+    constexpr gid_t rootGroup = 0; // The system's default for devices is 0664 and this group.
+    return ::stat((m_root + path).c_str(), &status) == 0 && (status.st_mode & S_IWGRP) != 0
+        && status.st_gid != rootGroup;
 }

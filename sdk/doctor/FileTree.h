@@ -32,7 +32,7 @@ public:
     /// Returns true if this process may read and write the file.
     bool canReadAndWrite(const std::string &path) const;
 
-    /// Returns true if the members of the file's group may write it.
+    /// Returns true if the members of the file's group may write it, and the group is not root.
     bool isGroupWritable(const std::string &path) const;
 
 private:

@@ -16,8 +16,10 @@ std::set<std::string> interfaceNames(const Machine &machine)
     return names;
 }
 
-bool hasDefaultRoute(const FileTree &files)
+/// Returns the interfaces with a default route, which lead to other networks.
+std::set<std::string> defaultRouteInterfaces(const FileTree &files)
 {
+    std::set<std::string> names;
     std::istringstream lines(files.read("/proc/net/route").value_or(std::string()));
     std::string line;
     std::getline(lines, line); // The names of the columns.
@@ -25,9 +27,25 @@ bool hasDefaultRoute(const FileTree &files)
         std::istringstream columns(line);
         std::string name, destination;
         if (columns >> name >> destination && destination == "00000000")
-            return true;
+            names.insert(name);
     }
-    return false;
+    return names;
+}
+
+/// Returns the network interface of the cameras, as far as it is obvious; else an empty name.
+std::string cameraInterface(const Machine &machine)
+{
+    for (const CameraAddress &camera : machine.cameras) {
+        if (camera.seen.networkInterface.name != "lo")
+            return camera.seen.networkInterface.name;
+    }
+    const auto routed = defaultRouteInterfaces(machine.files);
+    std::vector<std::string> names;
+    for (const NetworkLink &link : machine.links) {
+        if (link.hasCarrier && routed.count(link.name) == 0)
+            names.push_back(link.name);
+    }
+    return names.size() == 1 ? names.front() : std::string();
 }
 
 /// Returns true if a process of this name runs.
@@ -56,14 +74,40 @@ bool hasFilterRules(const FileTree &files)
     return false;
 }
 
-/// Returns true if ufw is enabled and is not known to permit the answers of cameras.
-bool hasUfw(const FileTree &files)
+bool isUfwEnabled(const FileTree &files)
 {
     const std::string configuration = files.read("/etc/ufw/ufw.conf").value_or(std::string());
-    const std::string rules = files.read("/etc/ufw/user.rules").value_or(std::string());
-    const bool isEnabled = configuration.find("\nENABLED=yes") != std::string::npos
+    return configuration.find("\nENABLED=yes") != std::string::npos
         || configuration.rfind("ENABLED=yes", 0) == 0;
-    return isEnabled && rules.find("3956") == std::string::npos;
+}
+
+/// Returns what there is to say about ufw; nothing if it permits the answers of cameras, or is switched off.
+std::optional<Finding> ufwFinding(const Machine &machine, Severity severity, const std::string &why)
+{
+    constexpr char rulesPath[] = "/etc/ufw/user.rules";
+    if (!isUfwEnabled(machine.files))
+        return std::nullopt;
+    const auto rules = machine.files.read(rulesPath);
+    if (!rules && machine.files.exists(rulesPath))
+        return Finding{Severity::Notice, "ufw",
+            "The firewall ufw is switched on; only the administrator can read its rules.", why,
+            "sudo ufw status"};
+    if (rules && rules->find("3956") != std::string::npos)
+        return std::nullopt;
+    const std::string name = cameraInterface(machine);
+    return Finding{severity, "ufw", "The firewall ufw is switched on.", why,
+        name.empty() ? "sudo ufw status verbose"
+                     : "sudo ufw allow in on " + name + " proto udp from any port 3956"};
+}
+
+Finding firewalldFinding(const Machine &machine, Severity severity, const std::string &why)
+{
+    const std::string name = cameraInterface(machine);
+    return {severity, "firewalld", "The firewall firewalld is running.",
+        why + " Trust a network interface only if nothing but cameras is connected to it.",
+        name.empty() ? "sudo firewall-cmd --list-all-zones"
+                     : "sudo firewall-cmd --permanent --zone=trusted --change-interface=" + name
+                + " && sudo firewall-cmd --reload"};
 }
 
 } // namespace
@@ -92,11 +136,11 @@ Findings checkReversePathFilter(const Machine &machine)
     };
     constexpr std::int64_t strict = 1, loose = 2;
     Findings findings;
-    const bool isRouted = hasDefaultRoute(machine.files);
+    const bool isRouted = !defaultRouteInterfaces(machine.files).empty();
     for (const std::string &name : interfaceNames(machine)) {
         const std::int64_t filter = std::max(filterOf("all"), filterOf(name)); // The larger number counts.
         const std::string command
-            = "sudo sysctl net.ipv4.conf.all.rp_filter=0 net.ipv4.conf." + name + ".rp_filter=0";
+            = "sudo sysctl net/ipv4/conf/all/rp_filter=0 net/ipv4/conf/" + name + "/rp_filter=0";
         if (filter == strict)
             findings.push_back({Severity::Warning, name, "The reverse-path filter of " + name + " is strict.",
                 "It drops the answers of cameras in another subnet, so they are not even listed.", command});
@@ -117,15 +161,10 @@ Findings checkFirewall(const Machine &machine)
                             "3956, and drop them.";
     // A camera that has answered proves that the answers pass.
     const Severity severity = machine.hasNetworkCamera() ? Severity::Notice : Severity::Warning;
-    const auto names = interfaceNames(machine);
-    const std::string name = names.empty() ? "enp3s0" : *names.begin();
-    if (hasUfw(machine.files))
-        return {{severity, "ufw", "The firewall ufw is switched on.", why,
-            "sudo ufw allow in on " + name + " proto udp from any port 3956"}};
+    if (auto finding = ufwFinding(machine, severity, why))
+        return {*std::move(finding)};
     if (isRunning(machine.files, "firewalld"))
-        return {{severity, "firewalld", "The firewall firewalld is running.", why,
-            "sudo firewall-cmd --permanent --zone=trusted --change-interface=" + name
-                + " && sudo firewall-cmd --reload"}};
+        return {firewalldFinding(machine, severity, why)};
     if (hasFilterRules(machine.files))
         return {{Severity::Notice, "firewall", "There are filter rules that only the administrator can read.",
             why, "sudo nft list ruleset"}};

@@ -3,6 +3,7 @@
 #include "sdk/address/AddressText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -15,11 +16,28 @@ bool hasAddress(const Machine &machine, const std::string &name)
         [&](const InterfaceAddress &address) { return address.name == name; });
 }
 
-Finding noAddress(const NetworkLink &link)
+/// Returns an address for an interface that has none: a link-local one, as cameras without a fixed address
+/// have, or one of a subnet of its own if another interface has or gets a link-local address.
+std::string newAddress(const Machine &machine, const NetworkLink &link)
+{
+    constexpr std::uint32_t linkLocal = 0xA9FE0000, linkLocalMask = 0xFFFF0000;
+    bool isLinkLocalFree = std::none_of(machine.addresses.begin(), machine.addresses.end(),
+        [](const InterfaceAddress &own) { return (own.address & linkLocalMask) == linkLocal; });
+    int number = 100;
+    for (const NetworkLink &other : machine.links) {
+        if (other.name == link.name)
+            break;
+        if (other.hasCarrier && !hasAddress(machine, other.name) && !std::exchange(isLinkLocalFree, false))
+            ++number;
+    }
+    return isLinkLocalFree ? "169.254.10.1/16" : "192.168." + std::to_string(number) + ".1/24";
+}
+
+Finding noAddress(const Machine &machine, const NetworkLink &link)
 {
     return {Severity::Warning, link.name, link.name + " is connected, but has no IPv4 address.",
         "GigE cameras at this network interface are not found.",
-        "sudo ip address add 169.254.10.1/16 dev " + link.name};
+        "sudo ip address add " + newAddress(machine, link) + " dev " + link.name};
 }
 
 Finding slowLink(const NetworkLink &link, bool hasCamera)
@@ -44,7 +62,7 @@ void checkConnected(const Machine &machine, const NetworkLink &link, Findings &f
     const std::size_t before = findings.size();
     const bool hasCamera = machine.hasCameraAt(link.name);
     if (!hasAddress(machine, link.name))
-        findings.push_back(noAddress(link));
+        findings.push_back(noAddress(machine, link));
     if (link.speed && *link.speed < gigabit)
         findings.push_back(slowLink(link, hasCamera));
     if (hasCamera && link.mtu < jumboMtu)
@@ -89,8 +107,9 @@ Findings checkSubnets(const Machine &machine)
             findings.push_back({Severity::Warning, right.name,
                 left.name + " (" + addressText(left.address, left.mask) + ") and " + right.name + " ("
                     + addressText(right.address, right.mask) + ") are in the same subnet.",
-                "Commands and images of a camera can take the wrong network interface.",
-                "sudo ip address delete " + addressText(right.address, right.mask) + " dev " + right.name});
+                "Commands and images of a camera can take the wrong network interface. Give one of them an "
+                "address in another subnet.",
+                "ip -brief -4 address"});
         }
     }
     return findings;

@@ -28,6 +28,9 @@ CvxResult readSnapshot(Device &device, const FeatureDirectory &directory, const 
     FeatureReader reader(device, directory, progress);
     CvxResult result = reader.read(settingNames(directory, file.settings));
     snapshot.isCancelled = reader.isCancelled();
+    // What was locked before is written back first, before its lock is restored.
+    std::stable_partition(reader.readings().begin(), reader.readings().end(),
+        [](const FeatureReading &reading) { return reading.state.lockReason != LockReason::None; });
     for (FeatureReading &reading : reader.readings()) {
         const NodeState &state = reading.state;
         if (state.access == NodeAccess::ReadWrite && state.value.index() != 0)

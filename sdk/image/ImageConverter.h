@@ -48,9 +48,9 @@ public:
     /// Converts to 8 bits per channel for the screen: the highest 8 significant bits of each component, or
     /// its range scaled to 8 bits if it has fewer. Signed numbers are shifted, so that 0 becomes grey, and
     /// floating-point numbers are shown from the lowest to the highest one of the whole picture, whatever the
-    /// region. Of coordinates, the first component is shown. Chroma is that of the nearest pixel that has it.
-    /// Enlarging repeats pixels, reducing averages them; see ScreenScaler. The lines of `output` have
-    /// `stride` bytes.
+    /// region. Coordinates are shown by their first component. A pixel without chroma of its own takes the
+    /// nearest one. Enlarging repeats pixels, reducing averages them; see ScreenScaler. The lines of `output`
+    /// have `stride` bytes.
     void toScreen(
         const RawImage &picture, const ScreenRequest &request, std::uint8_t *output, std::size_t stride);
 

@@ -179,8 +179,9 @@ ScreenScaler::Row ScreenScaler::interpolatedRow(std::uint32_t y)
     const Row second = cachedRow(position / weightUnit + 1).row;
     Row row{};
     for (unsigned channel = 0; channel < m_channels; ++channel) {
-        grow(m_blended[channel], m_columns.from);
-        m_kernels->blend(first[channel], second[channel], weight, m_columns.from, m_blended[channel].data());
+        grow(m_blended[channel], m_columns.halved);
+        m_kernels->blend(
+            first[channel], second[channel], weight, m_columns.halved, m_blended[channel].data());
         row[channel] = m_blended[channel].data();
     }
     return row;

@@ -12,7 +12,8 @@ std::optional<std::uint64_t> usableSpace(const std::string &path)
 {
     if (isSpecialFile(path))
         return std::nullopt;
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::weakly_canonical(path, error).parent_path();
     struct statvfs status
     { };
     if (statvfs(folder.empty() ? "." : folder.c_str(), &status) != 0 || status.f_blocks == 0)

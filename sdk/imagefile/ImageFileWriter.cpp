@@ -34,7 +34,7 @@ std::string ImageFileWriter::write(
     const CvxCPP::Image &image, const std::string &path, ImageFileFormat format, const CameraRecord &camera)
 {
     if (format != ImageFileFormat::Raw) {
-        const std::string problem = fileFormatProblem(image.GetInfo().pixelFormat);
+        const std::string problem = imageFileProblem(image.GetInfo());
         if (!problem.empty())
             return problem;
     }

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -58,8 +59,10 @@ bool OutputFile::createHidden(const std::string &path)
 {
     if (isSpecialFile(path))
         return create(path);
-    m_path = path;
-    const std::string hiddenPath = path + ".part" + std::to_string(getpid());
+    std::error_code error;
+    const bool isLink = std::filesystem::is_symlink(path, error) && std::filesystem::exists(path, error);
+    m_path = isLink ? std::filesystem::canonical(path, error).string() : path; // The link stays a link.
+    const std::string hiddenPath = m_path + ".part" + std::to_string(getpid());
     if (!open(hiddenPath, O_RDWR | O_CREAT | O_TRUNC))
         return false;
     m_hiddenPath = hiddenPath;

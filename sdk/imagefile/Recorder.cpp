@@ -119,9 +119,13 @@ void Recorder::writeImages()
 
 std::string Recorder::writeImage(const CvxCPP::Image &image)
 {
-    if (std::string problem = spaceProblem(image); !problem.empty())
-        return problem;
-    return m_file->append(image) ? std::string() : m_file->problem();
+    try {
+        if (std::string problem = spaceProblem(image); !problem.empty())
+            return problem;
+        return m_file->append(image) ? std::string() : m_file->problem();
+    } catch (const std::exception &) { // std::bad_alloc or std::length_error.
+        return "the recording \"" + m_path + "\" has ended because there is not enough memory for an image";
+    }
 }
 
 std::string Recorder::spaceProblem(const CvxCPP::Image &image) const

@@ -1,6 +1,7 @@
 #include "sdk/imagefile/SampleConverter.h"
 
 #include "sdk/image/PixelFormat.h"
+#include "sdk/image/PixelLayout.h"
 
 #include <algorithm>
 #include <array>
@@ -19,6 +20,7 @@ Samples unscaledLayout(const PixelFormat &format)
     samples.channels = format.kind == PixelKind::Yuv ? 3 : ImageConverter::wordChannels(format.code);
     samples.significantBits = format.depth;
     samples.bits = format.depth <= 8 ? 8 : 16;
+    samples.isSigned = findPixelLayout(format.code).number == Number::Signed;
     return samples;
 }
 
@@ -67,10 +69,13 @@ Samples SampleConverter::unscaled(const RawImage &picture)
     samples.data = picture.data;
     if (isStoredAlready(picture, format, samples))
         return samples;
+    // Chroma becomes colours, and the colours of 565 get the same depth.
+    const bool isConverted
+        = format.kind == PixelKind::Yuv || findPixelLayout(format.code).packing == Packing::Rgb565;
     const std::size_t stride = std::size_t(samples.channels) * picture.width;
     if (samples.bits == 16) {
         m_words.resize(stride * picture.height);
-        if (format.kind == PixelKind::Yuv)
+        if (isConverted)
             m_converter.toColorWords(
                 picture, wholePicture(picture), Demosaicing::EdgeAware, m_words.data(), stride);
         else
@@ -83,7 +88,7 @@ Samples SampleConverter::unscaled(const RawImage &picture)
     m_bytes.resize(stride * picture.height);
     for (std::uint32_t y = 0; y < picture.height; ++y) {
         const Region line{0, y, picture.width, 1};
-        if (format.kind == PixelKind::Yuv)
+        if (isConverted)
             m_converter.toColorWords(picture, line, Demosaicing::EdgeAware, m_words.data(), stride);
         else
             m_converter.toWords(picture, line, m_words.data(), stride);
@@ -119,14 +124,10 @@ Samples SampleConverter::fullRange16(const RawImage &picture)
     samples.channels = samples.isColor ? 3 : 1;
     samples.bits = 16;
     samples.significantBits = format.depth;
-    const unsigned words = samples.isColor ? 3 : ImageConverter::wordChannels(format.code);
+    constexpr unsigned words = 3; // A grey value is repeated.
     const std::size_t stride = std::size_t(words) * picture.width;
     m_words.resize(stride * picture.height);
-    if (samples.isColor)
-        m_converter.toColorWords(
-            picture, wholePicture(picture), Demosaicing::EdgeAware, m_words.data(), stride);
-    else
-        m_converter.toWords(picture, wholePicture(picture), m_words.data(), stride);
+    m_converter.toColorWords(picture, wholePicture(picture), Demosaicing::EdgeAware, m_words.data(), stride);
     if (!samples.isColor)
         keepFirstChannel(m_words, words);
     scaleToFullRange(m_words.data(), m_words.size(), format.depth);
@@ -144,6 +145,13 @@ std::string fileFormatProblem(std::uint32_t pixelFormat)
         return "the pixel format " + pixelFormatName(pixelFormat) + " has values of more than 16 bits"
             + advice;
     return {};
+}
+
+std::string imageFileProblem(const CvxCPP::ImageInfo &info)
+{
+    if (info.width == 0 || info.height == 0)
+        return "the camera has sent an image without pixels; check its settings, or write a raw file";
+    return fileFormatProblem(info.pixelFormat);
 }
 
 std::uint64_t unscaledSize(std::uint32_t pixelFormat, std::uint32_t width, std::uint32_t height)

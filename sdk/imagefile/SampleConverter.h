@@ -31,6 +31,9 @@ private:
 /// Returns why pictures of this format cannot be stored in PNG and TIFF files, for people; empty if they can.
 std::string fileFormatProblem(std::uint32_t pixelFormat);
 
+/// Returns why an image cannot be converted: its format, or that it has no pixels. Else an empty string.
+std::string imageFileProblem(const CvxCPP::ImageInfo &info);
+
 /// Returns the bytes that unscaled() has for a format that can be stored.
 std::uint64_t unscaledSize(std::uint32_t pixelFormat, std::uint32_t width, std::uint32_t height);
 

@@ -13,6 +13,7 @@ struct Samples
     unsigned channels = 1; ///< Samples per pixel.
     unsigned bits = 8; ///< Of a sample: 8 or 16.
     unsigned significantBits = 8; ///< How many of them the camera has measured.
+    bool isSigned = false; ///< True if the samples are in two's complement.
     bool isColor = false; ///< True if the first three channels are red, green and blue.
 
     std::size_t lineSize() const { return std::size_t(width) * channels * bits / 8; }

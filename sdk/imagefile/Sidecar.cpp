@@ -62,8 +62,9 @@ nlohmann::ordered_json imageJson(const CvxCPP::Image &image)
 
 std::string utcTime(std::uint64_t receivedAt)
 {
-    const std::int64_t age = nanosecondsOf(CLOCK_MONOTONIC) - static_cast<std::int64_t>(receivedAt);
-    return utcText(nanosecondsOf(CLOCK_REALTIME) - age);
+    // Read once, so that an image has the same time wherever it is described.
+    static const std::int64_t difference = nanosecondsOf(CLOCK_REALTIME) - nanosecondsOf(CLOCK_MONOTONIC);
+    return utcText(difference + static_cast<std::int64_t>(receivedAt));
 }
 
 std::string utcNow()

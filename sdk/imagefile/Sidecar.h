@@ -18,6 +18,7 @@ nlohmann::ordered_json cameraJson(const CameraRecord &camera);
 nlohmann::ordered_json imageJson(const CvxCPP::Image &image);
 
 /// Returns the UTC time at which an image was received, for example "2026-01-31T23:59:59.123456Z".
+/// Does not follow later changes of the system's time.
 /// @param receivedAt Nanoseconds of CLOCK_MONOTONIC; see ImageInfo.
 std::string utcTime(std::uint64_t receivedAt);
 

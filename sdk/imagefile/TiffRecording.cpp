@@ -25,7 +25,7 @@ TiffRecording::TiffRecording(const std::string &path, const CameraRecord &camera
 
 bool TiffRecording::append(const CvxCPP::Image &image)
 {
-    if (const std::string problem = fileFormatProblem(image.GetInfo().pixelFormat); !problem.empty())
+    if (const std::string problem = imageFileProblem(image.GetInfo()); !problem.empty())
         return m_file.fail(problem);
     return m_writer.append(m_converter.unscaled(rawImage(image)), tiffTexts(image, m_camera));
 }

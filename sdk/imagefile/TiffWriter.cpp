@@ -90,11 +90,13 @@ bool setLayout(TIFF *tiff, const Samples &samples)
     const unsigned colors = samples.isColor ? 3 : 1;
     const std::array<std::uint16_t, 4> extraSamples{}; // Without a meaning that a reader would use.
     const unsigned extraCount = samples.channels - colors;
+    const unsigned maximum = (1U << (samples.significantBits - (samples.isSigned ? 1U : 0U))) - 1;
     return TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, samples.width) != 0
         && TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, samples.height) != 0
         && TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, samples.channels) != 0
         && TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, samples.bits) != 0
-        && TIFFSetField(tiff, TIFFTAG_MAXSAMPLEVALUE, (1U << samples.significantBits) - 1) != 0
+        && TIFFSetField(tiff, TIFFTAG_MAXSAMPLEVALUE, maximum) != 0
+        && (!samples.isSigned || TIFFSetField(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_INT) != 0)
         && TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, samples.isColor ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK)
         != 0
         && (extraCount == 0 || TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, extraCount, extraSamples.data()) != 0)

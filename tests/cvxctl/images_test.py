@@ -167,7 +167,7 @@ class ImagesTest(CvxctlCase):
             self.assertLess(time.monotonic(), end)
             if select.select([pipe], [], [], 0.1)[0]:
                 os.read(pipe, 1 << 16)
-        read_until("the recording has gaps: .*\d underruns .*--buffers")
+        read_until(r"the recording has gaps: .*\d underruns .*--buffers")
         self.assertEqual(process.returncode, 8)
         process.communicate(timeout=LIMIT)
 
@@ -192,6 +192,14 @@ class ImagesTest(CvxctlCase):
             self.assertEqual((process.returncode, messages), (status, ""))
             self.assertEqual(len(tiff_directories(self.path("a.tif"))), self.load("a.tif.json")["recording"]["images"])
             os.remove(self.path("a.tif"))
+
+    def test_recording_ends_at_the_limit_of_the_file_size(self):
+        command = f"ulimit -f 5000; exec {self.root}/bin/cvxctl record 1001 {self.path('a.tif')}"
+        result = subprocess.run(["bash", "-c", command], env=self.environment, stderr=subprocess.PIPE, text=True,
+                                timeout=LIMIT, check=False)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("ulimit -f", result.stderr)
+        self.assertGreater(len(tiff_directories(self.path("a.tif"))), 0)
 
     def test_killed_recording_stays_readable(self):
         process = self.start_recording("a.tif")

@@ -28,8 +28,9 @@ TEST(CameraChecks, everyCameraHasAFinding)
             {Severity::Error, "02:00:00:00:00:04",
                 "192.168.99.5/24 is not in the subnet of card1 (10.77.1.1/24)",
                 "cvxctl address 02:00:00:00:00:04 --lasting 10.77.1.3/24"},
-            {Severity::Error, "02:00:00:00:00:05", "10.77.1.9/29 does not contain card1", "--lasting"},
-            {Severity::Error, "02:00:00:00:00:06", "not in the subnet", "--temporary 10.77.1.3/24"},
+            {Severity::Error, "02:00:00:00:00:05", "10.77.1.9/29 does not contain card1",
+                "--lasting 10.77.1.4/24"},
+            {Severity::Error, "02:00:00:00:00:06", "not in the subnet", "--temporary 10.77.1.8/24"},
             {Severity::Error, "-Kx200-", "not in the subnet", ""}}))
         << describe(findings);
 }

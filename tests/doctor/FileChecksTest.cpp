@@ -70,13 +70,29 @@ TEST(NetworkChecks, everyWiredInterfaceHasAFinding)
         << describe(findings);
 }
 
+TEST(NetworkChecks, interfacesWithoutAddressGetSubnetsOfTheirOwn)
+{
+    MachineBuilder builder;
+    for (const char *name : {"eth0", "eth1", "eth2"})
+        builder.machine.links.push_back({name, true, true, 9000, 1000});
+    const auto hasAdvice = [&](std::size_t index, const char *address) {
+        return checkLinks(builder.machine)[index].command.find(address) != std::string::npos;
+    };
+    EXPECT_TRUE(hasAdvice(0, "169.254.10.1/16"));
+    EXPECT_TRUE(hasAdvice(1, "192.168.100.1/24"));
+    EXPECT_TRUE(hasAdvice(2, "192.168.101.1/24"));
+    builder.address("eth1", "169.254.3.4", 16);
+    EXPECT_TRUE(hasAdvice(0, "192.168.100.1/24"));
+    EXPECT_TRUE(hasAdvice(2, "192.168.101.1/24"));
+}
+
 TEST(NetworkChecks, interfacesInOneSubnetAreReported)
 {
     MachineBuilder builder;
     builder.address("eth0", "10.0.0.1", 24).address("eth1", "10.0.1.1", 24).address("eth2", "10.0.0.200", 25);
     EXPECT_TRUE(matchAll(checkSubnets(builder.machine),
         {{Severity::Warning, "eth2", "eth0 (10.0.0.1/24) and eth2 (10.0.0.200/25) are in the same subnet",
-            "sudo ip address delete 10.0.0.200/25 dev eth2"}}))
+            "ip -brief -4 address"}}))
         << describe(checkSubnets(builder.machine));
     builder.machine.addresses.back().index = builder.machine.addresses.front().index;
     EXPECT_TRUE(checkSubnets(builder.machine).empty());
@@ -102,9 +118,9 @@ TEST(KernelChecks, largerReversePathFilterCounts)
     const std::string noRoute = "Iface\tDestination\tGateway\neth0\t0000000A\t00000000\n";
     const std::string route = noRoute + "eth0\t00000000\t0100000A\n";
     const ExpectedFinding ok{Severity::Ok, "rp_filter", "no answers", ""};
-    const ExpectedFinding strict{Severity::Warning, "eth0", "is strict", "net.ipv4.conf.eth0.rp_filter=0"};
+    const ExpectedFinding strict{Severity::Warning, "eth0", "is strict", "net/ipv4/conf/eth0/rp_filter=0"};
     const ExpectedFinding loose{
-        Severity::Notice, "eth0", "no default route", "net.ipv4.conf.all.rp_filter=0"};
+        Severity::Notice, "eth0", "no default route", "net/ipv4/conf/all/rp_filter=0"};
     const std::tuple<const char *, const char *, std::string, ExpectedFinding> cases[]
         = {{"0", "0", noRoute, ok}, {"0", "1", route, strict}, {"1", "0", route, strict},
             {"2", "1", route, ok}, {"2", "1", noRoute, loose}};
@@ -131,6 +147,8 @@ TEST(KernelChecks, firewallIsFoundAsFarAsItCanBeRead)
             {{{"/etc/ufw/ufw.conf", "# ufw\nENABLED=yes\nLOGLEVEL=low\n"}},
                 {Severity::Warning, "ufw", "switched on",
                     "sudo ufw allow in on eth0 proto udp from any port 3956"}},
+            {{{"/etc/ufw/ufw.conf", "ENABLED=yes\n"}, {"/etc/ufw/user.rules/unreadable", ""}},
+                {Severity::Notice, "ufw", "only the administrator can read", "sudo ufw status"}},
             {{{"/etc/ufw/ufw.conf", "ENABLED=yes\n"},
                  {"/etc/ufw/user.rules", "-A in -p udp --sport 3956 -j ACCEPT\n"}},
                 {Severity::Ok, "firewall", "No firewall", ""}},
@@ -139,6 +157,9 @@ TEST(KernelChecks, firewallIsFoundAsFarAsItCanBeRead)
     for (const auto &[files, expected] : cases) {
         MachineBuilder builder;
         builder.address("lo", "127.0.0.1", 8).address("eth0", "10.0.0.1", 24);
+        builder.file("/proc/net/route", "Iface\tDestination\nwan0\t00000000\n");
+        for (const char *name : {"eth0", "wan0"})
+            builder.machine.links.push_back({name, true, true, 1500, 1000});
         for (const auto &[path, content] : files)
             builder.file(path, content);
         EXPECT_TRUE(matchAll(checkFirewall(builder.machine), {expected}))

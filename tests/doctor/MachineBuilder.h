@@ -63,7 +63,9 @@ public:
         const std::string directory = "/sys/class/net/" + name;
         file(directory + "/type", "1\n").file(directory + "/device/vendor", "0x8086\n");
         file(directory + "/mtu", mtu + '\n').file(directory + "/speed", speed + '\n');
-        if (!carrier.empty()) // The file of an interface that is down cannot be read.
+        if (carrier.empty()) // The file of an interface that is down can be opened but not read.
+            std::filesystem::create_directories(pathOf(directory + "/carrier"));
+        else
             file(directory + "/carrier", carrier + '\n');
         return *this;
     }

@@ -203,6 +203,16 @@ TEST_F(FeatureLoaderTest, allOrNothingRestoresWhatTheFailedLoadChanged)
     EXPECT_EQ(m_camera.changedValues(), before);
 }
 
+TEST_F(FeatureLoaderTest, allOrNothingRestoresWhatWasLockedBefore)
+{
+    m_camera.set("ExposureAuto", std::string("Continuous"));
+    const auto before = m_camera.changedValues();
+    loadAll("ExposureAuto\tOff\nExposureTime\t500\nWidth\t99999");
+    EXPECT_TRUE(m_report.isRestored);
+    EXPECT_TRUE(m_report.notes.empty());
+    EXPECT_EQ(m_camera.changedValues(), before);
+}
+
 TEST_F(FeatureLoaderTest, allOrNothingRefusesAHopelessFileBeforeTheFirstWrite)
 {
     for (const char *const lines : {"Width\t320\nNothing\t1", "Width\t320\nReverseX",

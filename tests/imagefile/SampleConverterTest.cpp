@@ -88,8 +88,29 @@ TEST(SampleConverterTest, fullRangeKeepsTheHighestBits)
     EXPECT_EQ(valuesOf(converter.fullRange8(picture(mono10, 2, 2, white))), Values(4, 0xFF));
 }
 
+TEST(SampleConverterTest, signedValuesKeepTheirMeaning)
+{
+    SampleConverter converter;
+    constexpr std::uint32_t mono8s = 0x01080002;
+    const ByteList bytes{0x80, 0xFF, 0, 0x7F};
+    EXPECT_EQ(valuesOf(converter.fullRange16(picture(mono8s, 4, 1, bytes))),
+        (Values{0, 127 * 257, 128 * 257, 0xFFFF}));
+    const Samples samples = converter.unscaled(picture(mono8s, 4, 1, bytes));
+    EXPECT_TRUE(samples.isSigned);
+    EXPECT_EQ(valuesOf(samples), (Values{0x80, 0xFF, 0, 0x7F}));
+}
+
+TEST(SampleConverterTest, whiteOf565IsWhite)
+{
+    SampleConverter converter;
+    constexpr std::uint32_t rgb565p = 0x02100035;
+    const ByteList white{0xFF, 0xFF};
+    EXPECT_EQ(valuesOf(converter.unscaled(picture(rgb565p, 1, 1, white))), Values(3, 63));
+}
+
 TEST(SampleConverterTest, formatsThatFilesLackAreRefused)
 {
+    EXPECT_NE(imageFileProblem({}).find("without pixels"), std::string::npos);
     EXPECT_EQ(fileFormatProblem(bayerRG10), "");
     EXPECT_NE(fileFormatProblem(unknownFormat).find("0x81080001"), std::string::npos);
     EXPECT_NE(fileFormatProblem(mono32).find("Mono32"), std::string::npos);

@@ -84,6 +84,16 @@ class CompletionTest(unittest.TestCase):
         self.assertEqual(self.completions("watch", "--s"), ["--seconds"])
         self.assertEqual(self.completions("--ver"), ["--version"])
 
+    def test_names_of_cameras_are_not_run(self):
+        program = tempfile.mkdtemp(dir=self.environment["XDG_RUNTIME_DIR"])
+        with open(f"{program}/cvxctl", "w", encoding="utf-8") as file:
+            file.write("#!/bin/sh\necho '\"serial\": \"$(touch ran)\",'\n")
+        os.chmod(f"{program}/cvxctl", 0o755)
+        script = (f"source {STAGE}/share/bash-completion/completions/cvxctl; cd {program}\n"
+                  f'COMP_WORDS=(cvxctl info ""); COMP_CWORD=2; _cvxctl {program}/cvxctl ""; echo "${{COMPREPLY[0]}}"')
+        self.assertIn("touch", output("bash", "-c", script))
+        self.assertEqual(os.listdir(program), ["cvxctl"])
+
     def test_cameras_and_features(self):
         self.assertEqual(self.completions("info", "2403"), ["24030117"])
         self.assertEqual(self.completions("get", "24030117", "ExposureT"), ["ExposureTime"])

@@ -46,7 +46,7 @@ ExitStatus countCameras(const std::string &text, std::size_t &count)
 {
     CameraSession session;
     std::vector<ListedCamera> cameras;
-    if (const ExitStatus status = session.list(cameras))
+    if (const ExitStatus status = session.listLate(cameras)) // A camera may answer late.
         return status;
     std::vector<CameraNames> names;
     for (const ListedCamera &listed : cameras)

@@ -11,7 +11,9 @@
 #include <algorithm>
 #include <chrono>
 #include <cinttypes>
+#include <csignal>
 #include <cstdio>
+#include <filesystem>
 #include <limits>
 
 using namespace CvxCPP;
@@ -51,7 +53,9 @@ std::optional<double> expectedImages(Device &device, const RecordOptions &option
     double rate = 0;
     if (!device.ReadBoolean("AcquisitionFrameRateEnable", isRateFixed))
         isRateFixed = true; // Cameras without this feature always obey the rate.
-    if (options.seconds > 0 && isRateFixed && device.ReadFloat("AcquisitionFrameRate", rate))
+    std::string trigger;
+    const bool isTriggered = device.ReadString("TriggerMode", trigger) && trigger == "On";
+    if (options.seconds > 0 && isRateFixed && !isTriggered && device.ReadFloat("AcquisitionFrameRate", rate))
         images = std::min(images.value_or(std::numeric_limits<double>::max()), options.seconds * rate);
     return images;
 }
@@ -67,17 +71,22 @@ std::string findProblem(Device &device, const RecordOptions &options)
         || !device.ReadInteger("Height", height))
         return {};
     const PixelFormat *const format = findPixelFormat(name);
-    RecordedSize size = recordedSize(options.file, format ? format->code : 0,
-        static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));
+    if (!format)
+        return {}; // The images contain the code, which the recorder checks.
+    RecordedSize size = recordedSize(
+        options.file, format->code, static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));
     if (!size.problem.empty())
         return std::move(size.problem);
     const std::optional<double> images = expectedImages(device, options);
-    const std::optional<std::uint64_t> usable = usableSpace(options.file);
+    std::optional<std::uint64_t> usable = usableSpace(options.file);
+    std::error_code error;
+    if (usable && std::filesystem::is_regular_file(options.file, error))
+        *usable += std::filesystem::file_size(options.file, error); // The file is emptied first.
     const double needed = images.value_or(0) * static_cast<double>(size.bytes);
     if (!usable || needed <= static_cast<double>(*usable))
         return {};
-    return "the recording needs about " + byteText(static_cast<std::uint64_t>(needed)) + ", but only "
-        + byteText(*usable) + " can be used for \"" + options.file
+    return "the recording needs about " + byteText(static_cast<std::uint64_t>(std::min(needed, 1e18)))
+        + ", but only " + byteText(*usable) + " can be used for \"" + options.file
         + "\"; record less, free some space or choose another folder";
 }
 
@@ -91,6 +100,7 @@ ExitStatus takeImages(Stream &stream, Recorder &recorder, const RecordOptions &o
     const auto start = RecordClock::now();
     const auto elapsed = [&] { return std::chrono::duration<double>(RecordClock::now() - start).count(); };
     RecordProgress progress(stream, recorder, options.file);
+    ExitStatus failure = exitSuccess;
     while (!isInterrupted() && recorder.problem().empty()) {
         taking.isComplete = taking.images == frames || (options.seconds > 0 && elapsed() >= options.seconds);
         if (taking.isComplete)
@@ -105,7 +115,8 @@ ExitStatus takeImages(Stream &stream, Recorder &recorder, const RecordOptions &o
             printError(result.text);
         } else if (result.code != CvxErrorTimeout && result.code != CvxErrorDeviceLost) {
             progress.endLine();
-            return reportFailure(result);
+            failure = reportFailure(result);
+            break;
         }
         taking.isCameraLost = result.code == CvxErrorDeviceLost || (taking.isCameraLost && !result);
         progress.update();
@@ -113,7 +124,7 @@ ExitStatus takeImages(Stream &stream, Recorder &recorder, const RecordOptions &o
     taking.isComplete = taking.isComplete || (options.frames == 0 && options.seconds <= 0);
     taking.seconds = elapsed();
     const CvxResult read = stream.GetStatistics(taking.statistics);
-    return read ? exitSuccess : reportFailure(read);
+    return read || failure != exitSuccess ? failure : reportFailure(read);
 }
 
 void printSummary(const RecordOptions &options, const Taking &taking, const RecorderCounters &counters)
@@ -176,6 +187,8 @@ ExitStatus judge(const Taking &taking, const RecorderCounters &counters, const s
 
 ExitStatus run(const RecordOptions &options)
 {
+    for (const int signal : {SIGXFSZ, SIGPIPE}) // The recorder reports the write that has failed.
+        std::signal(signal, SIG_IGN);
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
         return status;
@@ -202,6 +215,8 @@ ExitStatus run(const RecordOptions &options)
     printSummary(options, taking, counters);
     if (status == exitSuccess)
         status = judge(taking, counters, problem);
+    else
+        checkLosses(taking, counters);
     return status != exitSuccess || stopped ? status : reportFailure(stopped);
 }
 

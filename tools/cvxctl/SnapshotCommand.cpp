@@ -42,8 +42,11 @@ ExitStatus takeImage(
 {
     constexpr std::chrono::milliseconds slice{100};
     const auto end = std::max(due, SnapshotClock::now()) + durationOf(timeout);
+    std::string loss; // Why the camera is lost; empty if it is not.
     while (!isInterrupted()) {
         const CvxResult result = stream.WaitForImage(slice, image);
+        if (result || result.code == CvxErrorDeviceLost)
+            loss = result.text;
         if (result && image->GetInfo().isComplete
             && std::chrono::nanoseconds(image->GetInfo().receivedAt) >= due.time_since_epoch())
             return exitSuccess;
@@ -51,9 +54,9 @@ ExitStatus takeImage(
             return reportFailure(result);
         if (SnapshotClock::now() < end)
             continue;
-        printError(!result && result.code == CvxErrorDeviceLost
-                ? result.text
-                : "no complete image has arrived; does the camera wait for a trigger (TriggerMode)?");
+        printError(loss.empty()
+                ? "no complete image has arrived; does the camera wait for a trigger (TriggerMode)?"
+                : loss);
         return exitLost;
     }
     return exitInterrupted;

@@ -31,7 +31,7 @@ int main(int argc, char *argv[])
     } catch (const CLI::ParseError &error) {
         return program.exit(error) == 0 ? exitSuccess
                                         : exitUsage; // A request for help is such an error, too.
-    } catch (const std::bad_alloc &) {
+    } catch (const std::exception &) { // std::bad_alloc, or std::length_error of a damaged image.
         printError("there is not enough memory");
         return exitFailure;
     }
