@@ -136,7 +136,7 @@ class CvxctlTest(CvxctlCase):
         self.assertIn("./1001", process.communicate(timeout=LIMIT)[1])
         self.assertEqual(process.returncode, 4)
         self.run_well("compare", path, "1001")
-        self.assertIn("not a settings file", self.run_failing(1, "load", "1001", f"{self.root}/bin/cvxctl")[1])
+        self.assertIn("not a settings file", self.run_failing(1, "load", "1001", f"{self.root}/bin/CvxC.xml")[1])
 
     def test_run(self):
         self.run_well("run", "1001", "TimestampLatch")
