@@ -129,10 +129,10 @@ void CameraStream::stopRun(Milliseconds timeout)
         if (!m_isStuck)
             stopAcquisition(timeout);
     }
-    if (m_isStuck)
-        m_run->fetch.stop(timeout); // A device must not be closed while a thread waits for its events.
-    else
-        endThreads(timeout);
+    if (!m_isStuck)
+        return endThreads(timeout);
+    m_run->fetch.stop(timeout); // A device must not be closed while a thread uses its stream.
+    m_run->requeue.stop(timeout);
 }
 
 void CameraStream::stopAcquisition(Milliseconds timeout)
