@@ -108,7 +108,7 @@ def on_network(bench):
     root = installation(bench, "streaming-gige", "fallback/UniversalGEV.cti")
     with Machine("") as machine:
         machine.start("arv-fake-gv-camera-0.8", "-i", "127.0.0.1", "-s", "BENCH")
-        machine.output("arv-tool-0.8", "control", f"R[{FRAME_PERIOD}]=100")  # As fast as it can.
+        machine.output("arv-tool-0.8", "control", f"R[{FRAME_PERIOD}]=100")  # The full rate.
         printed = machine.output(f"{root}/bin/cvxctl", "watch", "BENCH", "--buffers", "16", "--seconds",
                                  str(NETWORK_SECONDS), "--json", bound=NETWORK_SECONDS + 5 * BOUND)
     counters = json.loads(printed.splitlines()[-1])

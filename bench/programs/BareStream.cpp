@@ -60,7 +60,7 @@ int main(int argc, char *argv[])
     const auto start = Clock::now();
     const std::string mode = argv[3];
     BareCamera camera(argv[1], argv[2]);
-    camera.nodes().write("AcquisitionFrameRateEnable", false); // As fast as possible.
+    camera.nodes().write("AcquisitionFrameRateEnable", false); // The camera sends at its full rate.
     camera.nodes().write("ExposureTime", shortExposure);
     if (mode == "first") {
         camera.start(buffers);

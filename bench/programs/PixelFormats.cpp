@@ -98,11 +98,11 @@ private:
 
     const Conversion &m_conversion;
     std::uint32_t m_code;
-    std::size_t m_lineBytes; ///< Of the output.
+    std::size_t m_lineBytes; ///< Bytes in a line of the output.
     std::size_t m_outputBytes;
     std::vector<std::vector<std::uint8_t>> m_inputs;
     std::vector<std::vector<std::uint8_t>> m_outputs;
-    std::size_t m_index = 0; ///< Of the next buffers.
+    std::size_t m_index = 0; ///< Position of the next buffers.
     ImageConverter m_converter;
     SwsContext *m_context = nullptr;
 };

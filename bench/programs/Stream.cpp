@@ -148,7 +148,7 @@ int main(int argc, char *argv[])
     const auto start = Clock::now();
     std::shared_ptr<Device> device;
     require(camera->Open(CvxAccessControl, device));
-    require(device->WriteBoolean("AcquisitionFrameRateEnable", mode == "latency")); // As fast as possible.
+    require(device->WriteBoolean("AcquisitionFrameRateEnable", mode == "latency"));
     require(device->WriteFloat("ExposureTime", shortExposure));
     std::shared_ptr<Stream> stream;
     if (mode == "access") {

@@ -110,7 +110,7 @@ AddressChange setTemporary(const SeenCamera &camera, const AddressSettings &sett
     return {ChangeResult::Done, "The camera answers at " + ipv4ToString(settings.address) + '.', seen};
 }
 
-/// Gives the camera the address at once, which also proves that it works, and then stores the address.
+/// Sets the address temporarily, which also proves that it works, and then stores it.
 AddressChange setLasting(const SeenCamera &camera, const AddressSettings &settings)
 {
     const CameraData &data = camera.camera;

@@ -99,7 +99,7 @@ void StreamMemory::release(std::uint32_t buffer)
 std::optional<ImageRecord> StreamMemory::record(std::uint32_t buffer) const
 {
     const ImageRecord record = m_ring->record(buffer);
-    constexpr std::uint32_t maxLength = 1U << 24U; // Of a width or a height that a camera can have.
+    constexpr std::uint32_t maxLength = 1U << 24U; // No camera has a larger width or height.
     if (!isInside(record.imageOffset, record.imageSize, m_bufferSize) || record.width > maxLength
         || record.height > maxLength || record.chunkCount > ImageRecord::maxChunks)
         return std::nullopt;

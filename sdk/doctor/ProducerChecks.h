@@ -10,7 +10,8 @@
 struct ProducerSurvey
 {
     std::vector<std::string> directories; ///< The directories that are searched, in order.
-    std::vector<std::string> missingDirectories; ///< Of GENICAM_GENTL64_PATH.
+    std::vector<std::string>
+        missingDirectories; ///< Directories that GENICAM_GENTL64_PATH names and that do not exist.
     std::vector<std::string> faults; ///< Entries of the directories that are no producers, with the reason.
     std::vector<ProducerReport> reports; ///< In the order in which the camera system uses the producers.
 };

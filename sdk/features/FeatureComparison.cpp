@@ -97,7 +97,7 @@ public:
     void addLeft(const FeatureSetting &setting)
     {
         ComparedFeature &feature = find(setting, FeatureDifference::OnlyLeft);
-        feature.left = setting.value; // Of several lines, the last one counts.
+        feature.left = setting.value; // If there are several lines, the last one counts.
     }
 
     void addRight(const FeatureSetting &setting)

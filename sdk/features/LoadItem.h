@@ -31,7 +31,7 @@ struct LoadItem
     FeatureChange change;
     std::vector<std::pair<std::string, CvxCPP::NodeValue>> selectors;
     CvxCPP::NodeValue wanted;
-    CvxCPP::NodeState state; ///< As it was read last.
+    CvxCPP::NodeState state; ///< The state that was read last.
     std::string error; ///< Why the last write failed, or the selection before it.
     bool isUsable = false; ///< The camera has the feature, and the text is a value of its type.
     bool isRepeated = false; ///< A later setting of the file replaces this one.

@@ -23,7 +23,7 @@ CvxResult SelectorControl::select(const std::string &name, const NodeValue &valu
         return result;
     m_current[name] = value;
     forgetSelectedBy(name);
-    // Of several changes in a row, only the value before the first one matters.
+    // Only the value before the first change has to be restored.
     if (m_changes.empty() || m_changes.back().name != name)
         m_changes.push_back({name, current});
     return {};

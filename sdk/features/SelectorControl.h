@@ -17,7 +17,7 @@ public:
     /// Sets a selector. Set the selectors that select this one first.
     CvxCPP::CvxResult select(const std::string &name, const CvxCPP::NodeValue &value);
 
-    /// Gives all selectors the values that they had before the first call of select(). Tries all of them and
+    /// Restores the values that all selectors had before the first call of select(). Tries all of them and
     /// returns the first failure.
     CvxCPP::CvxResult restore();
 

@@ -9,7 +9,7 @@ using namespace CvxCPP;
 namespace {
 
 using Values = std::map<std::string, std::string>;
-using Selectors = std::map<std::string, std::set<std::string>>; // Of each feature.
+using Selectors = std::map<std::string, std::set<std::string>>; // By the name of the feature.
 
 bool isSelectorName(std::string_view name)
 {

@@ -11,7 +11,7 @@ struct Samples
     std::uint32_t width = 0;
     std::uint32_t height = 0;
     unsigned channels = 1; ///< Samples per pixel.
-    unsigned bits = 8; ///< Of a sample: 8 or 16.
+    unsigned bits = 8; ///< Bits of a sample, 8 or 16.
     unsigned significantBits = 8; ///< How many of them the camera has measured.
     bool isSigned = false; ///< True if the samples are in two's complement.
     bool isColor = false; ///< True if the first three channels are red, green and blue.
