@@ -1,0 +1,57 @@
+#pragma once
+
+#include "CvxCPP/Device.h"
+#include "tools/kit/camera/CameraConnection.h"
+#include "tools/kit/live/ImageSink.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+/// The stream of the connected camera. Receives every image on a thread of its own and gives it to the sinks,
+/// so nothing that a window does makes the stream lose images. All functions are called on the GUI thread;
+/// only take() of the sinks is called on the thread of the stream. A stream whose camera is lost continues
+/// when the SDK has opened the camera again.
+class LiveStream : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class State
+    {
+        Stopped,
+        Starting,
+        Running,
+        Stopping,
+        Failed ///< Starting failed, or the stream ended by itself; see problem().
+    };
+    Q_ENUM(State)
+
+    explicit LiveStream(CameraConnection &connection, QObject *parent = nullptr);
+
+    /// Stops the stream. Blocks for at most 3 s.
+    ~LiveStream() override;
+
+    State state() const;
+    QString problem() const; ///< For people; empty unless the state is Failed.
+
+    /// Starts the stream with this number of buffers, 2 to 256. Has no effect unless the state is Stopped or
+    /// Failed.
+    void start(unsigned buffers);
+    void stop();
+
+    /// Stops the stream if it runs, makes a call, and starts the stream again if it ran, whatever the call
+    /// returned. `done` receives the result of the call.
+    void pauseFor(CameraConnection::Call call, QObject *context, CameraConnection::Done done);
+
+    /// Returns the counters of the running stream, or those of the last one.
+    CvxCPP::StreamStatistics statistics() const;
+
+    /// The sink must stay valid until removeSink(), which waits for a running take().
+    void addSink(ImageSink *sink);
+    void removeSink(ImageSink *sink);
+
+signals:
+    void stateChanged();
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "sdk/image/ImageConverter.h"
+
+#include <array>
+
+/// Maps the values of a picture to brightness: `black` and below become black, `white` and above white, both
+/// as shares of the format's range; between them, brightness = position^(1 / gamma).
+struct ContrastCurve
+{
+    double black = 0;
+    double white = 1; ///< Greater than `black`.
+    double gamma = 1; ///< Greater than 0.
+
+    bool isNeutral() const { return black == 0 && white == 1 && gamma == 1; }
+};
+
+/// How pictures are shown. Nothing of this changes what the camera sends or what is saved.
+struct DisplaySettings
+{
+    Demosaicing demosaicing = Demosaicing::Bilinear;
+    ContrastCurve curve;
+    std::array<double, 3> gains = {1, 1, 1}; ///< White balance: factors of red, green and blue.
+    bool hasClipMarks = false; ///< Overexposed pixels are red, underexposed ones blue.
+};
