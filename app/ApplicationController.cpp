@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStringList>
 #include <QSystemTrayIcon>
 #include <QThreadPool>
@@ -41,14 +42,21 @@ QVector<CameraInfo> scan(const CorvixCameraProvider *provider)
     return {};
 }
 
-/// Starts the program with its own directory as the working directory. Returns true only if a process was
-/// created.
-bool startTool(const QString &path)
+/// Starts the program with its own directory as the working directory. The program finds the ID of the
+/// camera in its environment. Returns true only if a process was created.
+bool startTool(const QString &path, const QString &cameraId)
 {
     const QFileInfo file(path);
+    if (!file.exists())
+        return false;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("CORVIX_CAMERA"), cameraId);
+    QProcess process;
+    process.setProgram(path);
+    process.setWorkingDirectory(file.absolutePath());
+    process.setProcessEnvironment(environment);
     qint64 processId = 0;
-    return file.exists() && QProcess::startDetached(path, {}, file.absolutePath(), &processId)
-        && processId > 0;
+    return process.startDetached(&processId) && processId > 0;
 }
 
 void clearOverrideCursors()
@@ -148,8 +156,8 @@ void ApplicationController::launchTool(const QString &toolPath)
 {
     clearOverrideCursors();
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool launched
-        = startTool(QDir::isRelativePath(toolPath) ? QDir(installRoot).filePath(toolPath) : toolPath);
+    const QString path = QDir::isRelativePath(toolPath) ? QDir(installRoot).filePath(toolPath) : toolPath;
+    const bool launched = startTool(path, window->selectedCamera().cameraId);
     clearOverrideCursors();
     if (!launched) {
         QMessageBox::warning(

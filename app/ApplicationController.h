@@ -44,7 +44,8 @@ public slots:
     void onCameraListReady(const QVector<CameraInfo> &list);
 
     /// Starts the tool as a detached process. The working directory is the directory of the tool. A relative
-    /// path is resolved against the install root. Shows a warning if the tool does not start.
+    /// path is resolved against the install root. The environment variable CORVIX_CAMERA of the tool is the
+    /// ID of the selected camera, or empty. Shows a warning if the tool does not start.
     void launchTool(const QString &toolPath);
 
     /// Hides the window if there is a visible tray icon; otherwise minimises the window.

@@ -1,6 +1,6 @@
 #include "app/ApplicationController.h"
-#include "app/NoOpenGl.h"
-#include "app/Translations.h"
+#include "desktop/NoOpenGl.h"
+#include "desktop/Translations.h"
 
 #include <QApplication>
 #include <QFile>
@@ -32,7 +32,8 @@ int main(int argc, char *argv[])
         qWarning("Failed to load stylesheet");
     }
 
-    const Translations translations; // The translators have to be installed before the window exists.
+    const Translations translations(
+        QStringLiteral("corvix")); // The translators have to be installed before the window exists.
     ApplicationController controller;
     if (controller.init())
         return controller.run();

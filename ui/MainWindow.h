@@ -38,6 +38,9 @@ public:
     /// selected.
     void setSelectedCamera(const CameraInfo &camera);
 
+    /// Returns the selected camera; an empty record means that no camera is selected.
+    const CameraInfo &selectedCamera() const { return m_selectedCamera; }
+
 signals:
     void requestRefreshCameras();
 

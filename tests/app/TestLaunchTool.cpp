@@ -61,22 +61,26 @@ void TestLaunchTool::toolStartsDetachedInItsOwnDirectory()
 {
     QFETCH(QString, configured);
     QFETCH(QString, path);
-    // The tool reports its directory, its name, its number of arguments, its parent and its session. In its
-    // line of /proc, the name in parentheses may contain blanks.
+    // The tool reports its directory, its name, its number of arguments, the selected camera, its parent and
+    // its session. In its line of /proc, the name in parentheses may contain blanks.
     ScriptFile::writeExecutable(path,
         "process=$(sed 's/.*) //' /proc/$$/stat | cut -d ' ' -f 2,4)\n"
-        "printf '%s\\n' \"$(pwd -P)\" \"$0\" $# $process > report.part\n"
+        "printf '%s\\n' \"$(pwd -P)\" \"$0\" $# \"$CORVIX_CAMERA\" $process > report.part\n"
         "mv report.part report\n");
     const QString report = QFileInfo(path).absolutePath() + "/report"_s;
     const ModalCatcher catcher;
     ApplicationController controller;
+    CameraInfo selected;
+    selected.cameraId = "Kamera \u00e4 %1"_s;
+    mainWindow()->setSelectedCamera(selected);
     emit mainWindow()->requestLaunchTool(configured);
     QVERIFY(!QApplication::overrideCursor());
     QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(report), 30000);
     const QStringList lines = QString::fromUtf8(ScriptFile::read(report)).split(QLatin1Char('\n'));
-    QCOMPARE(lines.mid(0, 3), (QStringList{QFileInfo(path).canonicalPath(), path, "0"_s}));
-    QVERIFY(lines.at(3).toInt() != getpid());
-    QVERIFY(lines.at(4).toInt() != getsid(0));
+    QCOMPARE(
+        lines.mid(0, 4), (QStringList{QFileInfo(path).canonicalPath(), path, "0"_s, "Kamera \u00e4 %1"_s}));
+    QVERIFY(lines.at(4).toInt() != getpid());
+    QVERIFY(lines.at(5).toInt() != getsid(0));
     QCOMPARE(waitpid(-1, nullptr, WNOHANG), -1); // This process has no child process, running or ended.
     QCOMPARE(catcher.boxes().size(), 0);
 }

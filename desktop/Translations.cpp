@@ -1,4 +1,4 @@
-#include "app/Translations.h"
+#include "desktop/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,24 +10,23 @@
 namespace {
 
 constexpr QLatin1String catalogueDirectory(":/translations");
-constexpr QLatin1String cataloguePrefix("corvix_");
 
-/// Returns the locale names of the catalogues that are compiled in, such as "de" and "zh_CN".
-QStringList catalogues()
+/// Returns the locale names of the catalogues of a program that are compiled in, such as "de" and "zh_CN".
+QStringList catalogues(const QString &prefix)
 {
     QStringList names;
-    const QStringList files = QDir(catalogueDirectory).entryList({cataloguePrefix + QLatin1String("*.qm")});
+    const QStringList files = QDir(catalogueDirectory).entryList({prefix + QLatin1String("_*.qm")});
     for (const QString &file : files)
-        names.append(file.section(QLatin1Char('.'), 0, 0).mid(cataloguePrefix.size()));
+        names.append(file.section(QLatin1Char('.'), 0, 0).mid(prefix.size() + 1));
     return names;
 }
 
 /// Returns the name of the catalogue whose language and script match; empty if there is no such catalogue.
 /// The country does not matter, but the script does: the simplified Chinese catalogue is used for Singapore,
 /// but not for Taiwan.
-QString catalogueFor(const QLocale &wanted)
+QString catalogueFor(const QString &prefix, const QLocale &wanted)
 {
-    const QStringList names = catalogues();
+    const QStringList names = catalogues(prefix);
     for (const QString &name : names) {
         const QLocale offered(name);
         if (offered.language() == wanted.language() && offered.script() == wanted.script())
@@ -38,7 +37,7 @@ QString catalogueFor(const QLocale &wanted)
 
 /// Returns the name of the catalogue for the first of the user's languages that has a catalogue. The name is
 /// empty if no language has a catalogue or if English precedes these languages.
-QString userCatalogue()
+QString userCatalogue(const QString &prefix)
 {
     const QLocale system = QLocale::system();
     if (system.language() == QLocale::C)
@@ -48,7 +47,7 @@ QString userCatalogue()
         const QLocale wanted(language);
         if (wanted.language() == QLocale::English)
             return {}; // The sources are in English, so the languages after English do not matter.
-        QString name = catalogueFor(wanted);
+        QString name = catalogueFor(prefix, wanted);
         if (!name.isEmpty())
             return name;
     }
@@ -57,14 +56,14 @@ QString userCatalogue()
 
 } // namespace
 
-Translations::Translations()
+Translations::Translations(const QString &prefix)
 {
-    const QString name = userCatalogue();
+    const QString name = userCatalogue(prefix);
     if (name.isEmpty())
         return; // Qt's strings stay English too. Otherwise the window would mix two languages.
     if (m_qt.load(QLatin1String("qtbase_") + name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);
     // Qt first searches the translator that was installed most recently.
-    if (m_launcher.load(cataloguePrefix + name, catalogueDirectory))
-        QCoreApplication::installTranslator(&m_launcher);
+    if (m_program.load(prefix + QLatin1Char('_') + name, catalogueDirectory))
+        QCoreApplication::installTranslator(&m_program);
 }

@@ -1,4 +1,4 @@
-#include "app/NoOpenGl.h"
+#include "desktop/NoOpenGl.h"
 
 #include <QByteArray>
 #include <QGuiApplication>
@@ -22,5 +22,5 @@ NoOpenGl::~NoOpenGl()
         // The call makes Qt read the variable. Its result does not matter.
         QOpenGLContext::supportsThreadedOpenGL();
     if (m_isSetByUs)
-        qunsetenv(variable); // Otherwise the tools that the launcher starts would inherit the variable.
+        qunsetenv(variable); // Otherwise the programs that this one starts would inherit the variable.
 }
