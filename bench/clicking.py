@@ -41,7 +41,7 @@ def tool_start(bench):
     stage = f"{bench.place}/with-tool"
     shutil.copytree(bench.stage, stage, symlinks=True)
     tool = f"{stage}/bin/ImageViewer"
-    os.remove(tool)  # The file is a link to the tool stand-in.
+    os.remove(tool)
     shutil.copy(bench.program("marked_tool"), tool)
     pipe = StartPipe(bench)
 

@@ -12,7 +12,7 @@ class TestToolStandIn : public QObject
 
 private slots:
     void windowShowsWhichToolWasStarted();
-    void everyToolOfThisPlatformHasAStandIn();
+    void everyOtherToolOfThisPlatformHasAStandIn();
 };
 
 void TestToolStandIn::windowShowsWhichToolWasStarted()
@@ -27,7 +27,7 @@ void TestToolStandIn::windowShowsWhichToolWasStarted()
     QCOMPARE(ToolStandInWindow::toolName(QStringLiteral("./bin/Unknown")), QStringLiteral("Unknown"));
 }
 
-void TestToolStandIn::everyToolOfThisPlatformHasAStandIn()
+void TestToolStandIn::everyOtherToolOfThisPlatformHasAStandIn()
 {
     const QString folder = QStringLiteral(PROGRAM_FOLDER) + QLatin1Char('/');
     const QFileInfo standIn(folder + QStringLiteral("CvxToolStandIn"));
@@ -35,7 +35,8 @@ void TestToolStandIn::everyToolOfThisPlatformHasAStandIn()
     config.load();
     for (const ToolConfig &tool : config.allTools(QStringLiteral("linux_x86_64"))) {
         const QFileInfo program(folder + QFileInfo(tool.executable).fileName());
-        QCOMPARE(program.canonicalFilePath(), standIn.canonicalFilePath());
+        const bool isReal = tool.id == QStringLiteral("image-viewer");
+        QCOMPARE(program.canonicalFilePath() == standIn.canonicalFilePath(), !isReal);
     }
     // This tool is for another platform.
     QVERIFY(!QFileInfo::exists(folder + QStringLiteral("FirmwareUpdate")));

@@ -1,0 +1,59 @@
+#include "tools/kit/window/ConnectionBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QStyle>
+
+using State = CameraConnection::State;
+
+ConnectionBar::ConnectionBar(CameraConnection &connection, QWidget *parent)
+    : QFrame(parent), m_connection(connection), m_text(new QLabel(this)),
+      m_watch(new QPushButton(tr("&Watch only"), this)), m_control(new QPushButton(this)),
+      m_other(new QPushButton(tr("&Other camera…"), this))
+{
+    setObjectName(QStringLiteral("connectionBar"));
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_watch->setToolTip(tr("Show the settings of the camera and how they change, without changing them."));
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(10, 6, 10, 6);
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_watch);
+    layout->addWidget(m_control);
+    layout->addWidget(m_other);
+    connect(m_watch, &QPushButton::clicked, this, &ConnectionBar::watchRequested);
+    connect(m_control, &QPushButton::clicked, this, &ConnectionBar::controlRequested);
+    connect(m_other, &QPushButton::clicked, this, &ConnectionBar::otherCameraRequested);
+    connect(&connection, &CameraConnection::stateChanged, this, &ConnectionBar::update);
+    update();
+}
+
+void ConnectionBar::update()
+{
+    const State state = m_connection.state();
+    const bool isWatching = state == State::Open && m_connection.access() == CvxCPP::CvxAccessWatch;
+    const QString name = m_connection.camera().name;
+    const QString reason = m_connection.reason();
+    if (state == State::InUse)
+        m_text->setText(tr("%1 is in use. %2").arg(name, reason));
+    else if (state == State::Failed)
+        m_text->setText(tr("%1 cannot be opened. %2").arg(name, reason));
+    else if (state == State::Lost)
+        m_text->setText(tr("%1 is lost since %2. %3 It continues by itself when the camera is back.")
+                            .arg(name, QLocale().toString(m_connection.since().time(), QLocale::LongFormat),
+                                reason));
+    else if (isWatching)
+        m_text->setText(tr("Watching %1: its settings are shown as another program changes them. Only that "
+                           "program receives pictures.")
+                            .arg(name));
+    m_watch->setVisible(state == State::InUse);
+    m_control->setText(isWatching ? tr("&Take control") : tr("&Try again"));
+    m_control->setVisible(state != State::Lost);
+    const bool isProblem = state == State::InUse || state == State::Failed || state == State::Lost;
+    setProperty("severity", isProblem ? QStringLiteral("warning") : QStringLiteral("notice"));
+    style()->unpolish(this);
+    style()->polish(this);
+    setVisible(isProblem || isWatching);
+}
