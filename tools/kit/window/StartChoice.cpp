@@ -1,21 +1,24 @@
 #include "tools/kit/window/StartChoice.h"
 
-StartChoice chooseStart(
-    const std::vector<CameraNames> &cameras, const std::string &wanted, SearchProgress progress)
+#include <algorithm>
+
+StartChoice chooseStart(const CameraEntries &cameras, const QString &wanted, CameraFinder::State state)
 {
     using Page = StartChoice::Page;
-    if (progress == SearchProgress::Running)
-        return {};
-    if (!wanted.empty()) {
-        const std::vector<std::size_t> matches = matchCameras(cameras, wanted);
-        if (matches.size() == 1)
-            return {Page::Open, matches.front()};
+    const bool hasList = state == CameraFinder::State::Listed || state == CameraFinder::State::Settled;
+    if (hasList && !wanted.isEmpty()) {
+        const CameraEntries matches = matchEntries(cameras, wanted);
+        if (matches.size() == 1) {
+            const auto hasId = [&](const CameraEntry &camera) { return camera.id == matches.first().id; };
+            const auto found = std::find_if(cameras.begin(), cameras.end(), hasId);
+            return {Page::Open, static_cast<int>(found - cameras.begin())};
+        }
     }
-    if (progress != SearchProgress::Settled)
+    if (state == CameraFinder::State::Searching || state == CameraFinder::State::Listed)
         return {};
-    if (cameras.empty())
-        return {Page::NoCamera, {}};
-    if (wanted.empty() && cameras.size() == 1)
+    if (cameras.isEmpty())
+        return {Page::NoCamera, -1};
+    if (wanted.isEmpty() && cameras.size() == 1)
         return {Page::Open, 0};
-    return {Page::Choose, {}};
+    return {Page::Choose, -1};
 }

@@ -1,11 +1,6 @@
 #pragma once
 
-#include "tools/kit/names/CameraNames.h"
-
-#include <cstddef>
-#include <optional>
-#include <string>
-#include <vector>
+#include "tools/kit/camera/CameraFinder.h"
 
 /// Decides how a tool comes to its camera.
 struct StartChoice
@@ -19,21 +14,12 @@ struct StartChoice
     };
 
     Page page = Page::Searching;
-    std::optional<std::size_t> index; ///< Only for Page::Open.
+    int index = -1; ///< Only for Page::Open.
 
     bool operator==(const StartChoice &other) const { return page == other.page && index == other.index; }
 };
 
-/// How far the search for cameras is.
-enum class SearchProgress
-{
-    Running, ///< There is no list yet.
-    Listed, ///< There is a list. Cameras that answer slowly may be missing.
-    Settled ///< All cameras have had time to answer.
-};
-
-/// A camera that is named is opened as soon as it is found. Without a name, the only camera is opened once the
-/// search has settled.
-/// @param wanted What matchCameras() understands; empty if no camera was named.
-StartChoice chooseStart(
-    const std::vector<CameraNames> &cameras, const std::string &wanted, SearchProgress progress);
+/// A camera that was named is opened as soon as it is found. Without a name, the only camera is opened once
+/// the search has settled.
+/// @param wanted What matchEntries() understands; empty if no camera was named.
+StartChoice chooseStart(const CameraEntries &cameras, const QString &wanted, CameraFinder::State state);

@@ -1,18 +1,19 @@
 #pragma once
 
 #include "tools/kit/camera/CameraConnection.h"
-#include "tools/kit/camera/CameraEntry.h"
-#include "tools/kit/camera/CameraList.h"
+#include "tools/kit/camera/CameraFinder.h"
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/window/ShortcutPage.h"
 
 #include <QMainWindow>
-#include <QSettings>
 #include <QString>
 
 class CameraChooser;
+class ConnectionBar;
+class NoCameraPage;
 class QLabel;
 class QMenu;
+class QSettings;
 class QStackedWidget;
 
 /// The main window of a camera tool. Finds the camera or lets a person choose one, keeps the connection, says
@@ -26,56 +27,61 @@ public:
     {
         QString title; ///< Name of the tool for people.
         QString camera; ///< The camera that was named at the start; empty if none was.
-        QString guideAnchor; ///< Where the guide's chapter about the tool begins.
+        QString guideChapter; ///< Anchor of the guide's chapter about the tool.
     };
 
-    /// @param settings Where geometry and choices are kept.
+    /// Starts to search for cameras.
+    /// @param settings Where geometry and docks are kept; outlives the window.
     ToolWindow(const Setup &setup, QSettings &settings);
     ~ToolWindow() override;
 
-    /// Starts to search for cameras.
-    void start();
-
-    CameraConnection &connection() { return m_connection; }
-
 public slots:
+    /// Shows the list of the cameras. The present camera stays open until another one is chosen.
     void chooseCamera();
 
 protected:
-    /// The content is shown while there is a camera.
+    /// Sets what is shown while there is a camera. The window takes the ownership.
     void setContent(QWidget *content);
 
-    /// Adds the entries that every tool has: "Camera" and "Help". Call it where the menus belong.
+    // These functions add the entries that every tool has.
     void addCameraEntries(QMenu *menu);
+    void addQuitEntry(QMenu *menu);
     void addHelpMenu(const ShortcutPage::Rows &otherKeys);
 
+    CameraConnection &connection() { return m_connection; }
     FeatureClient &features() { return m_features; }
     QSettings &settings() { return m_settings; }
 
-    /// Restores the geometry. Call it at the end of the constructor, when all docks exist.
-    void restoreGeometryAndDocks();
+    /// Restores geometry and docks. Call it at the end of the constructor, when all docks exist.
+    void restoreLayout();
 
+    /// Shows a message box unless the text is empty.
+    void showProblem(const QString &text);
+
+    /// Saves geometry and docks.
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void showCameras();
     void decide();
     void openCamera(const CameraEntry &camera);
     void reopen(CvxCPP::CvxAccess access);
+    void openIfPluggedAgain();
     void onConnectionChanged();
-    void showPage(QWidget *page);
+    void showHelp(const ShortcutPage::Rows &otherKeys);
     void openGuide();
-    void updateTitle();
+    void showAbout();
 
     const Setup m_setup;
     QSettings &m_settings;
-    CameraList m_list;
-    CameraConnection m_connection;
-    FeatureClient m_features;
-    QString m_wanted; // The camera to open as soon as it is found; empty if a person shall choose.
-    bool m_isChoosing = false; // A person has asked for the chooser, so nothing is opened by itself.
+    QString m_wanted; // The camera to open as soon as it is found; empty if none was named.
+    bool m_isDecided = false; // A camera was opened, or a person has been asked.
     QStackedWidget *m_pages;
     QLabel *m_searching;
     CameraChooser *m_chooser;
-    QWidget *m_noCamera;
-    QWidget *m_content = nullptr;
+    NoCameraPage *m_noCamera;
+    QWidget *m_content;
+    CameraConnection m_connection;
+    FeatureClient m_features;
+    CameraFinder m_finder; // Destroyed before the connection, which ends the connection's blocked calls.
 };

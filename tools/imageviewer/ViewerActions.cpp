@@ -1,0 +1,164 @@
+#include "tools/imageviewer/ViewerActions.h"
+
+#include "tools/kit/start/ToolIcons.h"
+
+#include <QMenu>
+#include <QToolBar>
+
+#include <initializer_list>
+
+namespace {
+
+QAction *createAction(
+    QObject *parent, const QString &text, const QKeySequence &keys, const QIcon &icon, bool isCheckable)
+{
+    auto *action = new QAction(icon, text, parent);
+    action->setShortcut(keys);
+    action->setCheckable(isCheckable);
+    QString plain = text;
+    plain.remove(QLatin1Char('&'));
+    action->setToolTip(
+        keys.isEmpty() ? plain : plain + QStringLiteral(" (%1)").arg(keys.toString(QKeySequence::NativeText)));
+    return action;
+}
+
+} // namespace
+
+ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
+    : QObject(parent),
+      live(createAction(this, tr("&Live"), Qt::Key_F5, ToolIcons::icon(ToolIcon::Play), true)),
+      freeze(createAction(
+          this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(ToolIcon::Freeze), true)),
+      snapshot(createAction(
+          this, tr("&Save snapshot"), QKeySequence::Save, ToolIcons::icon(ToolIcon::Snapshot), false)),
+      record(createAction(
+          this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(ToolIcon::Record), true)),
+      clipMarks(createAction(this, tr("&Mark clipped pixels"), Qt::CTRL + Qt::Key_E,
+          ToolIcons::icon(ToolIcon::ClipMarks), true)),
+      fullScreen(createAction(
+          this, tr("F&ull screen"), Qt::Key_F11, ToolIcons::icon(ToolIcon::FullScreen), true)),
+      newWindow(createAction(this, tr("&New window"), QKeySequence::New, {}, false)),
+      cameraSetup(createAction(
+          this, tr("All &features (Camera Setup)"), Qt::Key_F12, ToolIcons::icon(ToolIcon::Settings), false)),
+      m_tools(new QActionGroup(this))
+{
+    createViewActions(canvas);
+    createToolActions(canvas);
+}
+
+void ViewerActions::createViewActions(ImageCanvas &canvas)
+{
+    using Slot = void (ImageCanvas::*)();
+    struct Command
+    {
+        QList<QAction *> &list;
+        QString text;
+        QKeySequence keys;
+        ToolIcon icon;
+        Slot slot;
+    };
+    const Command commands[] = {
+        {m_zoom, tr("&Fit into the window"), Qt::CTRL + Qt::Key_0, ToolIcon::Fit, &ImageCanvas::fit},
+        {m_zoom, tr("&Actual size"), Qt::CTRL + Qt::Key_1, ToolIcon::ActualSize,
+            &ImageCanvas::showActualSize},
+        {m_zoom, tr("Zoom &in"), QKeySequence::ZoomIn, ToolIcon::ZoomIn, &ImageCanvas::zoomIn},
+        {m_zoom, tr("Zoom &out"), QKeySequence::ZoomOut, ToolIcon::ZoomOut, &ImageCanvas::zoomOut},
+        {m_turns, tr("Rotate &left"), Qt::CTRL + Qt::Key_BracketLeft, ToolIcon::RotateLeft,
+            &ImageCanvas::rotateLeft},
+        {m_turns, tr("Rotate &right"), Qt::CTRL + Qt::Key_BracketRight, ToolIcon::RotateRight,
+            &ImageCanvas::rotateRight},
+        {m_turns, tr("Mirror &horizontally"), Qt::CTRL + Qt::Key_H, ToolIcon::MirrorHorizontal,
+            &ImageCanvas::mirrorHorizontally},
+        {m_turns, tr("Mirror &vertically"), Qt::CTRL + Qt::Key_J, ToolIcon::MirrorVertical,
+            &ImageCanvas::mirrorVertically},
+    };
+    for (const Command &command : commands) {
+        QAction *const action
+            = createAction(this, command.text, command.keys, ToolIcons::icon(command.icon), false);
+        connect(action, &QAction::triggered, &canvas, command.slot);
+        command.list.append(action);
+    }
+    QAction *const grid = createAction(
+        this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(ToolIcon::Grid), true);
+    connect(grid, &QAction::toggled, &canvas, &ImageCanvas::setGrid);
+    QAction *const crosshair = createAction(
+        this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(ToolIcon::Crosshair), true);
+    connect(crosshair, &QAction::toggled, &canvas, &ImageCanvas::setCrosshair);
+    m_overlays = {grid, crosshair, clipMarks};
+}
+
+void ViewerActions::createToolActions(ImageCanvas &canvas)
+{
+    struct Choice
+    {
+        QString text;
+        int key;
+        ToolIcon icon;
+        ImageCanvas::Tool tool;
+    };
+    const Choice choices[] = {
+        {tr("&Move the picture"), Qt::Key_F6, ToolIcon::Pan, ImageCanvas::Tool::Pan},
+        {tr("Draw a re&gion"), Qt::Key_F7, ToolIcon::Region, ImageCanvas::Tool::Region},
+        {tr("Draw a &line"), Qt::Key_F8, ToolIcon::Line, ImageCanvas::Tool::Line},
+    };
+    for (const Choice &choice : choices) {
+        QAction *const action
+            = createAction(this, choice.text, choice.key, ToolIcons::icon(choice.icon), true);
+        action->setChecked(choice.tool == canvas.tool());
+        action->setData(static_cast<int>(choice.tool));
+        connect(action, &QAction::triggered, &canvas, [&canvas, tool = choice.tool] { canvas.setTool(tool); });
+        m_tools->addAction(action);
+    }
+}
+
+QAction *ViewerActions::toolAction(ImageCanvas::Tool tool) const
+{
+    const QList<QAction *> actions = m_tools->actions();
+    for (QAction *action : actions) {
+        if (action->data().toInt() == static_cast<int>(tool))
+            return action;
+    }
+    return nullptr;
+}
+
+void ViewerActions::addToFileMenu(QMenu *menu) const
+{
+    menu->addActions({snapshot, record});
+}
+
+void ViewerActions::addToViewMenu(QMenu *menu) const
+{
+    menu->addActions({freeze});
+    for (const QList<QAction *> &actions : {m_zoom, m_turns, m_tools->actions(), m_overlays}) {
+        menu->addSeparator();
+        menu->addActions(actions);
+    }
+    menu->addSeparator();
+    menu->addAction(fullScreen);
+}
+
+void ViewerActions::addToCameraMenu(QMenu *menu) const
+{
+    menu->addActions({live, cameraSetup, newWindow});
+}
+
+void ViewerActions::addToToolBar(QToolBar *bar) const
+{
+    bar->addActions({live, freeze, snapshot, record});
+    for (const QList<QAction *> &actions : {m_zoom, m_turns, m_tools->actions(), m_overlays}) {
+        bar->addSeparator();
+        bar->addActions(actions);
+    }
+    bar->addSeparator();
+    bar->addAction(fullScreen);
+}
+
+ShortcutPage::Rows ViewerActions::canvasKeys()
+{
+    return {{tr("+, -"), tr("Zoom in or out")}, {tr("0, 1"), tr("Fit the picture, or show it at its own size")},
+        {tr("Arrow keys"), tr("Move the picture; with Shift, further")},
+        {tr("Delete"), tr("Remove the drawn region or line")},
+        {tr("Wheel"), tr("Zoom at the pointer")},
+        {tr("Middle button, Space and drag"), tr("Move the picture, whatever the tool")},
+        {tr("Double click"), tr("Change between the fitted picture and its own size")}};
+}

@@ -1,0 +1,359 @@
+#include "tools/imageviewer/ViewerWindow.h"
+
+#include "tools/imageviewer/PictureReadout.h"
+#include "tools/imageviewer/ViewerActions.h"
+#include "tools/imageviewer/ViewerChoices.h"
+#include "tools/imageviewer/files/FilesPanel.h"
+#include "tools/imageviewer/files/ThumbnailStrip.h"
+#include "tools/imageviewer/measuring/MeasuringPanel.h"
+#include "tools/imageviewer/numbers/DetailsPage.h"
+#include "tools/imageviewer/numbers/StatusNumbers.h"
+#include "tools/imageviewer/panel/CameraPanel.h"
+#include "tools/imageviewer/panel/WhiteBalanceCall.h"
+#include "tools/kit/window/ToolStarter.h"
+
+#include <QDockWidget>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace {
+
+using std::chrono_literals::operator""s;
+
+/// Enough for the image that is shown, those that are measured, and some tenths of a second of a fast camera.
+constexpr unsigned streamBuffers = 16;
+
+/// After this time without a picture, the canvas says why there may be none.
+constexpr std::chrono::milliseconds hintDelay = 3s;
+
+} // namespace
+
+ViewerWindow::ViewerWindow(const QString &camera, QSettings &settings)
+    : ToolWindow({tr("Image Viewer"), camera, QStringLiteral("image-viewer")}, settings),
+      m_stream(connection()), m_monitor(m_stream, m_feed, features()), m_records(connection()),
+      m_saver(m_records), m_recording(m_stream, m_records), m_pauser(m_stream),
+      m_canvas(new ImageCanvas(this)), m_actions(new ViewerActions(*m_canvas, this)),
+      m_cameraPanel(new CameraPanel(features(), this)), m_measuringPanel(new MeasuringPanel(this))
+{
+    m_cameraPanel->setStreamPauser(&m_pauser);
+    m_monitor.setBuffers(streamBuffers);
+    m_hintTimer.setSingleShot(true);
+    m_hintTimer.setInterval(hintDelay);
+    setContent(m_canvas);
+    createDocks();
+    createMenus();
+    createStatusBar();
+    connectStream();
+    connectCanvas();
+    connectPanels();
+    connectActions();
+    restoreChoices();
+    onConnectionChanged();
+}
+
+ViewerWindow::~ViewerWindow()
+{
+    // The sinks are members of this class, and the stream must not call them any more.
+    m_stream.removeSink(&m_feed);
+    m_stream.removeSink(&m_measurer);
+}
+
+QDockWidget *ViewerWindow::addPanel(
+    const QString &name, const QString &title, QWidget *panel, Qt::DockWidgetArea area)
+{
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(name); // saveState() needs it.
+    dock->setWidget(panel);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void ViewerWindow::createDocks()
+{
+    m_filesPanel = new FilesPanel(m_saver, m_recording, [this] { return m_feed.image(); }, this);
+    m_thumbnails = new ThumbnailStrip(this);
+    auto *details = new DetailsPage(m_monitor, this);
+    QDockWidget *const camera = addPanel(
+        QStringLiteral("cameraDock"), tr("Camera"), m_cameraPanel, Qt::RightDockWidgetArea);
+    const QList<QDockWidget *> others
+        = {addPanel(QStringLiteral("measuringDock"), tr("Measure"), m_measuringPanel, Qt::RightDockWidgetArea),
+            addPanel(QStringLiteral("filesDock"), tr("Files"), m_filesPanel, Qt::RightDockWidgetArea),
+            addPanel(QStringLiteral("detailsDock"), tr("Numbers"), details, Qt::RightDockWidgetArea)};
+    for (QDockWidget *dock : others)
+        tabifyDockWidget(camera, dock);
+    camera->raise();
+    addPanel(QStringLiteral("snapshotsDock"), tr("Snapshots"), m_thumbnails, Qt::BottomDockWidgetArea)->hide();
+    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+}
+
+void ViewerWindow::createMenus()
+{
+    QMenu *const file = menuBar()->addMenu(tr("&File"));
+    m_actions->addToFileMenu(file);
+    file->addSeparator();
+    addQuitEntry(file);
+    QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
+    m_actions->addToCameraMenu(camera);
+    addCameraEntries(camera);
+    m_actions->addToViewMenu(menuBar()->addMenu(tr("&View")));
+    QMenu *const panels = menuBar()->addMenu(tr("&Panels"));
+    const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
+    int key = Qt::Key_1;
+    for (QDockWidget *dock : docks) {
+        dock->toggleViewAction()->setShortcut(Qt::ALT + key++);
+        panels->addAction(dock->toggleViewAction());
+    }
+    addHelpMenu(ViewerActions::canvasKeys());
+
+    QToolBar *const bar = addToolBar(tr("Tool bar"));
+    bar->setObjectName(QStringLiteral("toolBar"));
+    bar->setMovable(false);
+    m_actions->addToToolBar(bar);
+}
+
+void ViewerWindow::createStatusBar()
+{
+    m_readout = new QLabel(this);
+    m_readout->setObjectName(QStringLiteral("readout"));
+    m_readout->setAccessibleName(tr("Pixel under the pointer"));
+    statusBar()->addWidget(m_readout, 1);
+    statusBar()->addPermanentWidget(new StatusNumbers(m_monitor, this));
+}
+
+void ViewerWindow::connectStream()
+{
+    m_stream.addSink(&m_feed);
+    m_stream.addSink(&m_measurer);
+    connect(&connection(), &CameraConnection::stateChanged, this, &ViewerWindow::onConnectionChanged);
+    connect(&m_stream, &LiveStream::stateChanged, this, &ViewerWindow::onStreamChanged);
+    connect(&m_feed, &PictureFeed::pictureSizeChanged, this, [this](const QSize &size) {
+        m_canvas->setPictureSize(size);
+        m_feed.setRequest(m_canvas->request());
+    });
+    connect(&m_feed, &PictureFeed::rendered, m_canvas, &ImageCanvas::setPicture);
+    connect(&m_feed, &PictureFeed::rendered, this, &ViewerWindow::updateReadout);
+    connect(&m_measurer, &Measurer::measured, m_measuringPanel, &MeasuringPanel::setMeasurements);
+    connect(&m_hintTimer, &QTimer::timeout, this, &ViewerWindow::updateHint);
+}
+
+void ViewerWindow::connectCanvas()
+{
+    connect(m_canvas, &ImageCanvas::requestChanged, this, [this] { m_feed.setRequest(m_canvas->request()); });
+    connect(m_canvas, &ImageCanvas::painted, this, [this] { m_feed.accept(); });
+    connect(m_canvas, &ImageCanvas::pointerMoved, this, &ViewerWindow::showPointer);
+    connect(m_canvas, &ImageCanvas::pointerLeft, this, [this] { showPointer({-1, -1}); });
+    connect(m_canvas, &ImageCanvas::regionChanged, this, &ViewerWindow::onRegionDrawn);
+    connect(m_canvas, &ImageCanvas::lineChanged, m_measuringPanel, &MeasuringPanel::setLine);
+    connect(m_canvas, &ImageCanvas::picked, this, &ViewerWindow::onPicked);
+}
+
+void ViewerWindow::connectPanels()
+{
+    connect(m_cameraPanel, &CameraPanel::drawRegionRequested, this, &ViewerWindow::drawRegion);
+    connect(m_cameraPanel, &CameraPanel::regionApplied, m_canvas, [this] { m_canvas->setRegion({}); });
+    connect(m_cameraPanel, &CameraPanel::openCameraSetupRequested, this, &ViewerWindow::openCameraSetup);
+    connect(m_cameraPanel, &CameraPanel::whiteBalanceWritten, m_measuringPanel,
+        &MeasuringPanel::resetWhiteBalance);
+
+    connect(m_measuringPanel, &MeasuringPanel::measureRequestChanged, this,
+        [this](const MeasureRequest &request) { m_measurer.setRequest(request); });
+    connect(m_measuringPanel, &MeasuringPanel::displaySettingsChanged, m_canvas,
+        &ImageCanvas::setDisplaySettings);
+    connect(m_measuringPanel, &MeasuringPanel::displaySettingsChanged, m_actions->clipMarks,
+        [this](const DisplaySettings &display) { m_actions->clipMarks->setChecked(display.hasClipMarks); });
+    connect(m_measuringPanel, &MeasuringPanel::micrometresPerPixelChanged, m_canvas,
+        &ImageCanvas::setMicrometresPerPixel);
+    connect(m_measuringPanel, &MeasuringPanel::greyPickingChanged, this, &ViewerWindow::setPicking);
+    connect(m_measuringPanel, &MeasuringPanel::whiteBalanceWriteRequested, m_cameraPanel,
+        &CameraPanel::writeWhiteBalance);
+    connect(&features(), &FeatureClient::nodesLoaded, m_measuringPanel,
+        [this] { m_measuringPanel->setWhiteBalanceWritable(canBalanceWhite(features())); });
+
+    connect(&m_saver, &SnapshotSaver::saved, m_thumbnails, [this](const QString &path, const QImage &picture) {
+        m_thumbnails->add(path, picture);
+    });
+    connect(&m_saver, &SnapshotSaver::saved, m_thumbnails->parentWidget(), &QWidget::show);
+}
+
+void ViewerWindow::connectActions()
+{
+    connect(m_actions->live, &QAction::triggered, this,
+        [this](bool isOn) { isOn ? startStream() : m_stream.stop(); });
+    connect(m_actions->freeze, &QAction::toggled, this, &ViewerWindow::setFrozen);
+    connect(m_actions->snapshot, &QAction::triggered, m_filesPanel, &FilesPanel::saveSnapshot);
+    connect(m_actions->record, &QAction::triggered, m_filesPanel, &FilesPanel::toggleRecording);
+    connect(&m_recording, &RecordingControl::stateChanged, m_actions->record, [this] {
+        m_actions->record->setChecked(m_recording.state() != RecordingControl::State::Idle);
+    });
+    connect(m_actions->clipMarks, &QAction::triggered, m_measuringPanel, [this](bool isOn) {
+        DisplaySettings display = m_measuringPanel->displaySettings();
+        display.hasClipMarks = isOn;
+        m_measuringPanel->setDisplaySettings(display);
+    });
+    connect(m_actions->fullScreen, &QAction::toggled, this, &ViewerWindow::setFullScreen);
+    connect(m_actions->newWindow, &QAction::triggered, this,
+        [this] { showProblem(ToolStarter::start(QStringLiteral("ImageViewer"), QString())); });
+    connect(m_actions->cameraSetup, &QAction::triggered, this, &ViewerWindow::openCameraSetup);
+}
+
+void ViewerWindow::restoreChoices()
+{
+    ViewerChoices::restore(settings(), *m_canvas, *m_measuringPanel, *m_actions);
+    m_cameraPanel->restoreState(settings());
+    m_filesPanel->restoreSettings(settings());
+    restoreGeometryAndDocks();
+}
+
+void ViewerWindow::closeEvent(QCloseEvent *event)
+{
+    setFullScreen(false);
+    ViewerChoices::save(settings(), *m_canvas, *m_measuringPanel, *m_actions);
+    m_cameraPanel->saveState(settings());
+    m_filesPanel->saveSettings(settings());
+    ToolWindow::closeEvent(event);
+}
+
+void ViewerWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && m_actions->fullScreen->isChecked())
+        m_actions->fullScreen->setChecked(false);
+    else
+        ToolWindow::keyPressEvent(event);
+}
+
+void ViewerWindow::onConnectionChanged()
+{
+    using State = CameraConnection::State;
+    const State state = connection().state();
+    if (state == State::Opening) {
+        m_actions->freeze->setChecked(false);
+        m_feed.clear();
+        m_measurer.clear();
+        m_canvas->clear();
+        m_measuringPanel->clear();
+    }
+    if (state == State::Open && connection().isControlled()) {
+        m_records.refresh();
+        if (m_stream.state() == LiveStream::State::Stopped)
+            startStream();
+    }
+    m_canvas->setNotice(state == State::Lost
+            ? tr("No picture since %1.").arg(QLocale().toString(connection().since().time()))
+            : QString());
+    onStreamChanged();
+}
+
+void ViewerWindow::startStream()
+{
+    m_stream.start(streamBuffers);
+}
+
+void ViewerWindow::onStreamChanged()
+{
+    using State = LiveStream::State;
+    const State state = m_stream.state();
+    m_actions->live->setEnabled(connection().isControlled() && state != State::Starting && state != State::Stopping);
+    m_actions->live->setChecked(state == State::Starting || state == State::Running);
+    m_canvas->setHint(QString());
+    if (state == State::Failed)
+        m_canvas->setHint(tr("The camera sends no pictures. %1").arg(m_stream.problem()));
+    else if (state == State::Stopped && connection().isControlled())
+        m_canvas->setHint(tr("The camera is stopped. Press %1 to start it.")
+                              .arg(m_actions->live->shortcut().toString(QKeySequence::NativeText)));
+    else if (state == State::Running)
+        m_hintTimer.start();
+}
+
+void ViewerWindow::updateHint()
+{
+    if (m_stream.state() != LiveStream::State::Running || m_stream.statistics().delivered > 0)
+        return;
+    const CvxCPP::NodeState *const trigger = features().state(QStringLiteral("TriggerMode"));
+    const auto *const mode = trigger ? std::get_if<std::string>(&trigger->value) : nullptr;
+    m_canvas->setHint(mode && *mode == "On"
+            ? tr("The camera waits for a trigger. Send one, or switch the trigger mode off in the panel "
+                 "\"Camera\".")
+            : tr("No picture has arrived yet. The panel \"Numbers\" may say why."));
+}
+
+void ViewerWindow::setFrozen(bool isFrozen)
+{
+    m_feed.setFrozen(isFrozen);
+    m_measurer.setFrozenImage(isFrozen ? m_feed.image() : nullptr);
+}
+
+void ViewerWindow::setFullScreen(bool isFullScreen)
+{
+    if (isFullScreen == this->isFullScreen())
+        return;
+    if (isFullScreen) {
+        m_layoutBeforeFullScreen = saveState();
+        const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
+        for (QDockWidget *dock : docks)
+            dock->hide();
+        showFullScreen();
+    } else {
+        showNormal();
+        restoreState(m_layoutBeforeFullScreen);
+    }
+    menuBar()->setVisible(!isFullScreen);
+    statusBar()->setVisible(!isFullScreen);
+    findChild<QToolBar *>(QStringLiteral("toolBar"))->setVisible(!isFullScreen);
+    m_canvas->setFocus();
+}
+
+void ViewerWindow::drawRegion()
+{
+    m_isDrawingCameraRegion = true;
+    m_actions->toolAction(ImageCanvas::Tool::Region)->trigger();
+    statusBar()->showMessage(tr("Draw the region that the camera shall send."));
+    m_canvas->setFocus();
+}
+
+void ViewerWindow::onRegionDrawn(const QRect &region)
+{
+    m_measuringPanel->setRegion(region);
+    if (!m_isDrawingCameraRegion || region.isEmpty())
+        return;
+    m_isDrawingCameraRegion = false;
+    statusBar()->clearMessage();
+    m_actions->toolAction(ImageCanvas::Tool::Pan)->trigger();
+    m_cameraPanel->applyRegion(region, m_canvas->picture().pictureSize);
+}
+
+void ViewerWindow::setPicking(bool isPicking)
+{
+    if (isPicking)
+        m_canvas->setTool(ImageCanvas::Tool::Pick);
+    else
+        m_actions->toolAction(ImageCanvas::Tool::Pan)->trigger();
+}
+
+void ViewerWindow::onPicked(const QPoint &pixel)
+{
+    if (const auto image = m_feed.image())
+        m_measuringPanel->balanceWhite(*image, pixel);
+}
+
+void ViewerWindow::showPointer(const QPoint &pixel)
+{
+    m_pointer = pixel;
+    if (pixel.x() >= 0)
+        m_measuringPanel->setPointer(pixel);
+    updateReadout();
+}
+
+void ViewerWindow::updateReadout()
+{
+    m_readout->setText(PictureReadout::describe(m_canvas->picture(), m_pointer));
+}
+
+void ViewerWindow::openCameraSetup()
+{
+    showProblem(ToolStarter::start(QStringLiteral("CameraSetup"), connection().camera().id));
+}
