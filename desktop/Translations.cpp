@@ -59,8 +59,13 @@ QString userCatalogue(const QString &prefix)
 Translations::Translations(const QString &prefix)
 {
     const QString name = userCatalogue(prefix);
-    if (name.isEmpty())
-        return; // Qt's strings stay English too. Otherwise the window would mix two languages.
+    if (name.isEmpty()) {
+        // Qt's strings stay English too. Otherwise the window would mix two languages. The catalogue for
+        // English contains only the singular and plural forms of strings with numbers.
+        if (m_program.load(prefix + QLatin1String("_en"), catalogueDirectory))
+            QCoreApplication::installTranslator(&m_program);
+        return;
+    }
     if (m_qt.load(QLatin1String("qtbase_") + name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);
     // Qt first searches the translator that was installed most recently.

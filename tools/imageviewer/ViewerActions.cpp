@@ -17,8 +17,9 @@ QAction *createAction(
     action->setCheckable(isCheckable);
     QString plain = text;
     plain.remove(QLatin1Char('&'));
-    action->setToolTip(
-        keys.isEmpty() ? plain : plain + QStringLiteral(" (%1)").arg(keys.toString(QKeySequence::NativeText)));
+    action->setToolTip(keys.isEmpty()
+            ? plain
+            : plain + QStringLiteral(" (%1)").arg(keys.toString(QKeySequence::NativeText)));
     return action;
 }
 
@@ -27,19 +28,23 @@ QAction *createAction(
 ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
     : QObject(parent),
       live(createAction(this, tr("&Live"), Qt::Key_F5, ToolIcons::icon(ToolIcon::Play), true)),
-      freeze(createAction(
-          this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(ToolIcon::Freeze), true)),
+      freeze(
+          createAction(this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(ToolIcon::Freeze), true)),
       snapshot(createAction(
           this, tr("&Save snapshot"), QKeySequence::Save, ToolIcons::icon(ToolIcon::Snapshot), false)),
-      record(createAction(
-          this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(ToolIcon::Record), true)),
+      record(
+          createAction(this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(ToolIcon::Record), true)),
       clipMarks(createAction(this, tr("&Mark clipped pixels"), Qt::CTRL + Qt::Key_E,
           ToolIcons::icon(ToolIcon::ClipMarks), true)),
-      fullScreen(createAction(
-          this, tr("F&ull screen"), Qt::Key_F11, ToolIcons::icon(ToolIcon::FullScreen), true)),
+      grid(createAction(this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(ToolIcon::Grid), true)),
+      crosshair(createAction(
+          this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(ToolIcon::Crosshair), true)),
+      fullScreen(
+          createAction(this, tr("F&ull screen"), Qt::Key_F11, ToolIcons::icon(ToolIcon::FullScreen), true)),
       newWindow(createAction(this, tr("&New window"), QKeySequence::New, {}, false)),
       cameraSetup(createAction(
           this, tr("All &features (Camera Setup)"), Qt::Key_F12, ToolIcons::icon(ToolIcon::Settings), false)),
+      m_overlays{grid, crosshair, clipMarks},
       m_tools(new QActionGroup(this))
 {
     createViewActions(canvas);
@@ -78,13 +83,8 @@ void ViewerActions::createViewActions(ImageCanvas &canvas)
         connect(action, &QAction::triggered, &canvas, command.slot);
         command.list.append(action);
     }
-    QAction *const grid = createAction(
-        this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(ToolIcon::Grid), true);
     connect(grid, &QAction::toggled, &canvas, &ImageCanvas::setGrid);
-    QAction *const crosshair = createAction(
-        this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(ToolIcon::Crosshair), true);
     connect(crosshair, &QAction::toggled, &canvas, &ImageCanvas::setCrosshair);
-    m_overlays = {grid, crosshair, clipMarks};
 }
 
 void ViewerActions::createToolActions(ImageCanvas &canvas)
@@ -106,7 +106,8 @@ void ViewerActions::createToolActions(ImageCanvas &canvas)
             = createAction(this, choice.text, choice.key, ToolIcons::icon(choice.icon), true);
         action->setChecked(choice.tool == canvas.tool());
         action->setData(static_cast<int>(choice.tool));
-        connect(action, &QAction::triggered, &canvas, [&canvas, tool = choice.tool] { canvas.setTool(tool); });
+        connect(
+            action, &QAction::triggered, &canvas, [&canvas, tool = choice.tool] { canvas.setTool(tool); });
         m_tools->addAction(action);
     }
 }
@@ -155,10 +156,10 @@ void ViewerActions::addToToolBar(QToolBar *bar) const
 
 ShortcutPage::Rows ViewerActions::canvasKeys()
 {
-    return {{tr("+, -"), tr("Zoom in or out")}, {tr("0, 1"), tr("Fit the picture, or show it at its own size")},
+    return {{tr("+, -"), tr("Zoom in or out")},
+        {tr("0, 1"), tr("Fit the picture, or show it at its own size")},
         {tr("Arrow keys"), tr("Move the picture; with Shift, further")},
-        {tr("Delete"), tr("Remove the drawn region or line")},
-        {tr("Wheel"), tr("Zoom at the pointer")},
+        {tr("Delete"), tr("Remove the drawn region or line")}, {tr("Wheel"), tr("Zoom at the pointer")},
         {tr("Middle button, Space and drag"), tr("Move the picture, whatever the tool")},
         {tr("Double click"), tr("Change between the fitted picture and its own size")}};
 }

@@ -24,6 +24,8 @@ public:
     QAction *const snapshot;
     QAction *const record; ///< Checkable.
     QAction *const clipMarks; ///< Checkable.
+    QAction *const grid; ///< Checkable.
+    QAction *const crosshair; ///< Checkable.
     QAction *const fullScreen; ///< Checkable.
     QAction *const newWindow;
     QAction *const cameraSetup;
@@ -45,6 +47,6 @@ private:
 
     QList<QAction *> m_zoom;
     QList<QAction *> m_turns;
-    QList<QAction *> m_overlays;
+    const QList<QAction *> m_overlays;
     QActionGroup *const m_tools; ///< What dragging in the picture does.
 };

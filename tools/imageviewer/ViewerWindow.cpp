@@ -35,10 +35,16 @@ constexpr std::chrono::milliseconds hintDelay = 3s;
 
 ViewerWindow::ViewerWindow(const QString &camera, QSettings &settings)
     : ToolWindow({tr("Image Viewer"), camera, QStringLiteral("image-viewer")}, settings),
-      m_stream(connection()), m_monitor(m_stream, m_feed, features()), m_records(connection()),
-      m_saver(m_records), m_recording(m_stream, m_records), m_pauser(m_stream),
-      m_canvas(new ImageCanvas(this)), m_actions(new ViewerActions(*m_canvas, this)),
-      m_cameraPanel(new CameraPanel(features(), this)), m_measuringPanel(new MeasuringPanel(this))
+      m_stream(connection()),
+      m_monitor(m_stream, m_feed, features()),
+      m_records(connection()),
+      m_saver(m_records),
+      m_recording(m_stream, m_records),
+      m_pauser(m_stream),
+      m_canvas(new ImageCanvas(this)),
+      m_actions(new ViewerActions(*m_canvas, this)),
+      m_cameraPanel(new CameraPanel(features(), this)),
+      m_measuringPanel(new MeasuringPanel(this))
 {
     m_cameraPanel->setStreamPauser(&m_pauser);
     m_monitor.setBuffers(streamBuffers);
@@ -75,19 +81,21 @@ QDockWidget *ViewerWindow::addPanel(
 
 void ViewerWindow::createDocks()
 {
-    m_filesPanel = new FilesPanel(m_saver, m_recording, [this] { return m_feed.image(); }, this);
+    m_filesPanel = new FilesPanel(
+        m_saver, m_recording, [this] { return m_feed.image(); }, this);
     m_thumbnails = new ThumbnailStrip(this);
     auto *details = new DetailsPage(m_monitor, this);
-    QDockWidget *const camera = addPanel(
-        QStringLiteral("cameraDock"), tr("Camera"), m_cameraPanel, Qt::RightDockWidgetArea);
-    const QList<QDockWidget *> others
-        = {addPanel(QStringLiteral("measuringDock"), tr("Measure"), m_measuringPanel, Qt::RightDockWidgetArea),
-            addPanel(QStringLiteral("filesDock"), tr("Files"), m_filesPanel, Qt::RightDockWidgetArea),
-            addPanel(QStringLiteral("detailsDock"), tr("Numbers"), details, Qt::RightDockWidgetArea)};
+    QDockWidget *const camera
+        = addPanel(QStringLiteral("cameraDock"), tr("Camera"), m_cameraPanel, Qt::RightDockWidgetArea);
+    const QList<QDockWidget *> others = {
+        addPanel(QStringLiteral("measuringDock"), tr("Measure"), m_measuringPanel, Qt::RightDockWidgetArea),
+        addPanel(QStringLiteral("filesDock"), tr("Files"), m_filesPanel, Qt::RightDockWidgetArea),
+        addPanel(QStringLiteral("detailsDock"), tr("Numbers"), details, Qt::RightDockWidgetArea)};
     for (QDockWidget *dock : others)
         tabifyDockWidget(camera, dock);
     camera->raise();
-    addPanel(QStringLiteral("snapshotsDock"), tr("Snapshots"), m_thumbnails, Qt::BottomDockWidgetArea)->hide();
+    addPanel(QStringLiteral("snapshotsDock"), tr("Snapshots"), m_thumbnails, Qt::BottomDockWidgetArea)
+        ->hide();
     setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
 }
 
@@ -174,9 +182,8 @@ void ViewerWindow::connectPanels()
     connect(&features(), &FeatureClient::nodesLoaded, m_measuringPanel,
         [this] { m_measuringPanel->setWhiteBalanceWritable(canBalanceWhite(features())); });
 
-    connect(&m_saver, &SnapshotSaver::saved, m_thumbnails, [this](const QString &path, const QImage &picture) {
-        m_thumbnails->add(path, picture);
-    });
+    connect(&m_saver, &SnapshotSaver::saved, m_thumbnails,
+        [this](const QString &path, const QImage &picture) { m_thumbnails->add(path, picture); });
     connect(&m_saver, &SnapshotSaver::saved, m_thumbnails->parentWidget(), &QWidget::show);
 }
 
@@ -187,9 +194,8 @@ void ViewerWindow::connectActions()
     connect(m_actions->freeze, &QAction::toggled, this, &ViewerWindow::setFrozen);
     connect(m_actions->snapshot, &QAction::triggered, m_filesPanel, &FilesPanel::saveSnapshot);
     connect(m_actions->record, &QAction::triggered, m_filesPanel, &FilesPanel::toggleRecording);
-    connect(&m_recording, &RecordingControl::stateChanged, m_actions->record, [this] {
-        m_actions->record->setChecked(m_recording.state() != RecordingControl::State::Idle);
-    });
+    connect(&m_recording, &RecordingControl::stateChanged, m_actions->record,
+        [this] { m_actions->record->setChecked(m_recording.state() != RecordingControl::State::Idle); });
     connect(m_actions->clipMarks, &QAction::triggered, m_measuringPanel, [this](bool isOn) {
         DisplaySettings display = m_measuringPanel->displaySettings();
         display.hasClipMarks = isOn;
@@ -203,16 +209,16 @@ void ViewerWindow::connectActions()
 
 void ViewerWindow::restoreChoices()
 {
-    ViewerChoices::restore(settings(), *m_canvas, *m_measuringPanel, *m_actions);
+    ViewerChoices::restore(settings(), *m_measuringPanel, *m_actions);
     m_cameraPanel->restoreState(settings());
     m_filesPanel->restoreSettings(settings());
-    restoreGeometryAndDocks();
+    restoreLayout();
 }
 
 void ViewerWindow::closeEvent(QCloseEvent *event)
 {
     setFullScreen(false);
-    ViewerChoices::save(settings(), *m_canvas, *m_measuringPanel, *m_actions);
+    ViewerChoices::save(settings(), *m_measuringPanel, *m_actions);
     m_cameraPanel->saveState(settings());
     m_filesPanel->saveSettings(settings());
     ToolWindow::closeEvent(event);
@@ -257,7 +263,8 @@ void ViewerWindow::onStreamChanged()
 {
     using State = LiveStream::State;
     const State state = m_stream.state();
-    m_actions->live->setEnabled(connection().isControlled() && state != State::Starting && state != State::Stopping);
+    m_actions->live->setEnabled(
+        connection().isControlled() && state != State::Starting && state != State::Stopping);
     m_actions->live->setChecked(state == State::Starting || state == State::Running);
     m_canvas->setHint(QString());
     if (state == State::Failed)

@@ -9,8 +9,11 @@
 using State = CameraConnection::State;
 
 ConnectionBar::ConnectionBar(CameraConnection &connection, QWidget *parent)
-    : QFrame(parent), m_connection(connection), m_text(new QLabel(this)),
-      m_watch(new QPushButton(tr("&Watch only"), this)), m_control(new QPushButton(this)),
+    : QFrame(parent),
+      m_connection(connection),
+      m_text(new QLabel(this)),
+      m_watch(new QPushButton(tr("&Watch only"), this)),
+      m_control(new QPushButton(this)),
       m_other(new QPushButton(tr("&Other camera…"), this))
 {
     setObjectName(QStringLiteral("connectionBar"));
@@ -41,9 +44,9 @@ void ConnectionBar::update()
     else if (state == State::Failed)
         m_text->setText(tr("%1 cannot be opened. %2").arg(name, reason));
     else if (state == State::Lost)
-        m_text->setText(tr("%1 is lost since %2. %3 It continues by itself when the camera is back.")
-                            .arg(name, QLocale().toString(m_connection.since().time(), QLocale::LongFormat),
-                                reason));
+        m_text->setText(
+            tr("%1 is lost since %2. %3 It continues by itself when the camera is back.")
+                .arg(name, QLocale().toString(m_connection.since().time(), QLocale::LongFormat), reason));
     else if (isWatching)
         m_text->setText(tr("Watching %1: its settings are shown as another program changes them. Only that "
                            "program receives pictures.")

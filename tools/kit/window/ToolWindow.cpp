@@ -27,9 +27,15 @@ const QString layoutKey = QStringLiteral("window/layout");
 } // namespace
 
 ToolWindow::ToolWindow(const Setup &setup, QSettings &settings)
-    : m_setup(setup), m_settings(settings), m_wanted(setup.camera), m_pages(new QStackedWidget(this)),
-      m_searching(new QLabel(this)), m_chooser(new CameraChooser(this)),
-      m_noCamera(new NoCameraPage(this)), m_content(new QWidget(this)), m_features(m_connection)
+    : m_setup(setup),
+      m_settings(settings),
+      m_wanted(setup.camera),
+      m_pages(new QStackedWidget(this)),
+      m_searching(new QLabel(this)),
+      m_chooser(new CameraChooser(this)),
+      m_noCamera(new NoCameraPage(this)),
+      m_content(new QWidget(this)),
+      m_features(m_connection)
 {
     m_searching->setAlignment(Qt::AlignCenter);
     m_searching->setWordWrap(true);
