@@ -3,7 +3,7 @@
 #include "sdk/image/ColorLines.h"
 
 #include <algorithm>
-#include <numeric>
+#include <iterator>
 
 namespace {
 
@@ -29,20 +29,19 @@ std::array<Counts, 3> countValues(
     return counts;
 }
 
-/// Returns the value below which `share` of the pixels are.
-std::size_t quantile(const Counts &counts, double share)
+/// Returns how many entries from the begin on contain, together, at most `limit` pixels; at least one
+/// remains.
+template <typename Iterator>
+std::size_t entriesWithin(Iterator begin, Iterator end, double limit)
 {
-    const auto pixels = std::accumulate(counts.begin(), counts.end(), std::uint64_t(0));
-    const double limit = static_cast<double>(pixels) * share;
-    std::uint64_t below = 0;
-    std::size_t value = 0;
-    while (value + 1 < counts.size()) {
-        below += counts[value];
-        if (static_cast<double>(below) > limit)
+    std::uint64_t pixels = 0;
+    Iterator entry = begin;
+    for (; std::next(entry) != end; ++entry) {
+        pixels += *entry;
+        if (static_cast<double>(pixels) > limit)
             break;
-        ++value;
     }
-    return value;
+    return static_cast<std::size_t>(std::distance(begin, entry));
 }
 
 } // namespace
@@ -52,14 +51,19 @@ ContrastCurve autoContrast(const RawImage &picture, const Region &region, const 
     const PixelLayout &layout = findPixelLayout(picture.pixelFormat);
     const std::array<Counts, 3> counts = countValues(picture, layout, region, settings.demosaicing);
     const unsigned channels = layout.screenChannels();
-    const double highest = static_cast<double>(counts[0].size() - 1);
+    const std::size_t highestValue = counts[0].size() - 1;
+    const auto highest = static_cast<double>(highestValue);
+    const double limit = clippedShare * region.width * region.height;
     double black = 1;
     double white = 0;
     for (unsigned channel = 0; channel < channels; ++channel) {
         const double scale = (channels == 1 ? 1 : settings.gains[channel]) / highest;
         const Counts &component = counts[channel];
-        black = std::min(black, static_cast<double>(quantile(component, clippedShare)) * scale);
-        white = std::max(white, static_cast<double>(quantile(component, 1 - clippedShare)) * scale);
+        const std::size_t darkest = entriesWithin(component.begin(), component.end(), limit);
+        const std::size_t brightest
+            = highestValue - entriesWithin(component.rbegin(), component.rend(), limit);
+        black = std::min(black, static_cast<double>(darkest) * scale);
+        white = std::max(white, static_cast<double>(brightest) * scale);
     }
     // A picture of one brightness gets a curve too: the steepest one that separates two values.
     black = std::min(black, 1 - 1 / highest);
