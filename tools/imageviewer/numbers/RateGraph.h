@@ -1,0 +1,24 @@
+#pragma once
+
+#include "tools/imageviewer/numbers/RateHistory.h"
+
+#include <QWidget>
+
+/// Draws the images per second of the last minute as a line, and the losses as bars.
+class RateGraph : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RateGraph(QWidget *parent = nullptr);
+
+    void setHistory(const RateHistory &history);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    RateHistory m_history;
+};

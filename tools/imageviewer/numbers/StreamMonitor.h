@@ -1,0 +1,53 @@
+#pragma once
+
+#include "tools/imageviewer/numbers/BufferWatch.h"
+#include "tools/imageviewer/numbers/LossAdviser.h"
+#include "tools/imageviewer/numbers/RateHistory.h"
+#include "tools/imageviewer/numbers/StreamNumbers.h"
+#include "tools/imageviewer/numbers/StreamTotals.h"
+#include "tools/kit/camera/FeatureClient.h"
+#include "tools/kit/live/LiveStream.h"
+#include "tools/kit/live/PictureFeed.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+/// Reads the counters of the stream twice a second for everything that shows them.
+class StreamMonitor : public QObject
+{
+    Q_OBJECT
+
+public:
+    StreamMonitor(LiveStream &stream, PictureFeed &feed, FeatureClient &features, QObject *parent = nullptr);
+    ~StreamMonitor() override;
+
+    /// Tells with how many buffers the stream is started.
+    void setBuffers(unsigned buffers) { m_buffers = buffers; }
+
+    const StreamFigures &figures() const { return m_figures; }
+    const RateHistory &history() const { return m_history; }
+    const LossAdvice &advice() const { return m_adviser.advice(); }
+
+signals:
+    /// Figures, history or advice are new.
+    void updated();
+
+private:
+    void followState();
+    void update();
+    void readFeatures();
+    void adviseOnLosses();
+    void startAgain();
+
+    LiveStream &m_stream;
+    PictureFeed &m_feed;
+    FeatureClient &m_features;
+    unsigned m_buffers = 0;
+    BufferWatch m_bufferWatch;
+    StreamTotals m_totals;
+    StreamFigures m_figures;
+    RateHistory m_history;
+    LossAdviser m_adviser;
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+};
