@@ -6,7 +6,7 @@
 #include <QWidget>
 
 class QLabel;
-class QPushButton;
+class QLineEdit;
 class QTableWidget;
 
 /// All numbers of the stream: a table, the last minute as a graph, and advice when images are lost.
@@ -17,19 +17,27 @@ class DetailsPage : public QWidget
 public:
     explicit DetailsPage(StreamMonitor &monitor, QWidget *parent = nullptr);
 
+    /// Shows the figures; the page does this by itself as long as it is visible.
+    void showFigures(const StreamFigures &figures, const RateHistory &history, const LossAdvice &advice);
+
 public slots:
     void copyAsText();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
-    void showNumbers();
-    void showAdvice();
+    void update();
+    void showRows(const QVector<NumberRow> &rows);
     void copyCommand();
+    QWidget *createAdvice();
 
     StreamMonitor &m_monitor;
     QTableWidget *m_table;
     RateGraph *m_graph;
-    QWidget *m_adviceBox;
-    QLabel *m_adviceText;
-    QLabel *m_command;
-    QPushButton *m_copyCommand;
+    QWidget *m_advice;
+    QLabel *m_adviceText = nullptr;
+    QWidget *m_commandBox = nullptr;
+    QLineEdit *m_command = nullptr;
+    StreamFigures m_figures;
 };

@@ -1,39 +1,30 @@
 #pragma once
 
-#include "sdk/doctor/StreamCheck.h"
 #include "tools/imageviewer/numbers/LossAdvice.h"
+#include "tools/imageviewer/numbers/LossChecks.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QThreadPool>
 
 #include <functional>
 
-/// Runs the checks of the machine on a thread of its own when images are lost, at most every 30 s.
+/// Advises on losses. Runs the checks of the machine on a thread of its own, only when images are lost, and
+/// at most every 30 s.
 class LossAdviser : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the checks are about.
-    struct Question
-    {
-        std::string camera; ///< Name of the camera.
-        CvxCPP::CvxTransportLayerType technology = CvxCPP::CvxTransportLayerUnknown;
-        StreamReport report; ///< The stream so far.
-    };
-
-    using Checks = std::function<Findings(const Question &question)>;
-
-    explicit LossAdviser(QObject *parent = nullptr);
+    using Checks = std::function<Findings(const LossQuestion &question)>;
 
     /// @param checks Called on another thread.
-    explicit LossAdviser(Checks checks, QObject *parent = nullptr);
+    explicit LossAdviser(Checks checks = findLossCauses, QObject *parent = nullptr);
 
-    /// Takes what was lost in the last seconds. Advice that was found stays until nothing is lost any more.
-    void update(const RecentLosses &losses, const Question &question);
+    /// Takes what was lost in the last seconds.
+    void update(const RecentLosses &losses, const LossQuestion &question);
 
-    /// Forgets the advice, for example when another camera is opened.
+    /// Forgets everything, for example when another camera is opened.
     void clear();
 
     const LossAdvice &advice() const { return m_advice; }
@@ -42,15 +33,17 @@ signals:
     void adviceChanged();
 
 private:
-    void setAdvice(const LossAdvice &advice);
-    void takeFindings(const Findings &findings);
+    void check(const LossQuestion &question);
+    void takeFindings(const Findings &findings, int generation);
+    void choose();
 
     const Checks m_checks;
     RecentLosses m_losses;
-    Question m_question;
+    CvxCPP::CvxTransportLayerType m_technology = CvxCPP::CvxTransportLayerUnknown;
     Findings m_findings;
     LossAdvice m_advice;
-    QElapsedTimer m_sinceCheck;
+    QDeadlineTimer m_nextCheck{0};
     bool m_isChecking = false;
+    int m_generation = 0; // Grows with clear(), so that findings about another camera are ignored.
     QThreadPool m_pool; // Ends before the other members.
 };

@@ -15,10 +15,17 @@ public:
     void setHistory(const RateHistory &history);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    using Seconds = QVector<RateHistory::Second>;
+
+    void drawAxes(QPainter &painter, const QRectF &plot, double end) const;
+    void drawLosses(QPainter &painter, const QRectF &plot, const Seconds &seconds, double end) const;
+    void drawRate(QPainter &painter, const QRectF &plot, const Seconds &seconds, double end) const;
+
     RateHistory m_history;
 };

@@ -2,6 +2,7 @@
 
 #include "tools/imageviewer/numbers/BufferWatch.h"
 #include "tools/imageviewer/numbers/LossAdviser.h"
+#include "tools/imageviewer/numbers/LossWindow.h"
 #include "tools/imageviewer/numbers/RateHistory.h"
 #include "tools/imageviewer/numbers/StreamNumbers.h"
 #include "tools/imageviewer/numbers/StreamTotals.h"
@@ -12,7 +13,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-/// Reads the counters of the stream twice a second for everything that shows them.
+/// Reads the counters of the stream twice a second for everything that shows them. The numbers begin anew
+/// when another camera is opened.
 class StreamMonitor : public QObject
 {
     Q_OBJECT
@@ -33,11 +35,15 @@ signals:
     void updated();
 
 private:
-    void followState();
+    void followStream();
+    void followCamera();
+    void followFeatures();
     void update();
     void readFeatures();
+    void readResends();
+    void takeResends(const CvxCPP::CvxResult &result, std::int64_t value);
     void adviseOnLosses();
-    void startAgain();
+    void beginAnew();
 
     LiveStream &m_stream;
     PictureFeed &m_feed;
@@ -46,7 +52,12 @@ private:
     BufferWatch m_bufferWatch;
     StreamTotals m_totals;
     StreamFigures m_figures;
+    std::uint64_t m_shownBefore = 0; // By earlier cameras.
+    std::uint64_t m_skippedBefore = 0;
+    std::string m_resendCounter; // Name of the feature; empty if the camera has none.
+    bool m_isReadingResends = false;
     RateHistory m_history;
+    LossWindow m_lossWindow;
     LossAdviser m_adviser;
     QElapsedTimer m_clock;
     QTimer m_timer;

@@ -49,11 +49,18 @@ public:
     /// Returns what was lost, for example "3 lost, 1 incomplete"; empty if nothing was.
     QString lossText() const;
 
+    /// Returns how many buffers are in use, for example "3 of 8".
+    QString bufferText() const;
+
     /// Returns the rows as text with one line each.
     QString plainText() const;
 
 private:
     QString number(std::uint64_t value) const;
+    QString imageRate() const;
+    QString dataRate() const;
+    QString linkText() const;
+    static QString notReported();
 
     StreamFigures m_figures;
     QLocale m_locale;

@@ -23,9 +23,9 @@ void StreamTotals::beginStream()
 void StreamTotals::update(const StreamStatistics &statistics)
 {
     using Counter = std::uint64_t StreamStatistics::*;
-    constexpr Counter counters[] = {&StreamStatistics::delivered, &StreamStatistics::incomplete,
-        &StreamStatistics::lost, &StreamStatistics::underruns, &StreamStatistics::skipped,
-        &StreamStatistics::bytes};
+    constexpr Counter counters[]
+        = {&StreamStatistics::delivered, &StreamStatistics::incomplete, &StreamStatistics::lost,
+            &StreamStatistics::underruns, &StreamStatistics::skipped, &StreamStatistics::bytes};
     for (const Counter counter : counters)
         addGrowth(counter, m_previous, statistics, m_totals);
     addGrowth(&StreamStatistics::reopenCount, m_previous, statistics, m_totals);
