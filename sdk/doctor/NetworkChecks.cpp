@@ -1,6 +1,7 @@
 #include "sdk/doctor/NetworkChecks.h"
 
 #include "sdk/address/AddressText.h"
+#include "sdk/text/Utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -93,6 +94,29 @@ Findings checkLinks(const Machine &machine)
                 "Cameras at this network interface are not found.", "sudo ip link set " + link.name + " up"});
     }
     return findings;
+}
+
+Findings checkPacketSize(const Machine &machine, const std::string &camera, std::int64_t packetSize)
+{
+    constexpr std::int64_t usualMtu = 1500;
+    const std::string subject = toPrintable(camera);
+    const std::string what
+        = "The camera sends packets of " + std::to_string(packetSize) + " bytes, and the MTU of ";
+    const std::string set = "cvxctl set " + shellWord(subject) + " GevSCPSPacketSize=";
+    for (const NetworkLink &link : machine.links) {
+        if (!machine.hasCameraAt(link.name))
+            continue;
+        const std::string whatHere = what + link.name + " is " + std::to_string(link.mtu) + '.';
+        if (packetSize > link.mtu)
+            return {{Severity::Warning, subject, whatHere,
+                "Packets that are larger than the MTU are dropped, so images are incomplete.",
+                set + std::to_string(link.mtu)}};
+        if (packetSize <= usualMtu && link.mtu >= jumboMtu)
+            return {{Severity::Notice, subject, whatHere,
+                "Larger packets cost less processor time, so fewer of them are lost.",
+                set + std::to_string(jumboMtu)}};
+    }
+    return {};
 }
 
 Findings checkSubnets(const Machine &machine)

@@ -18,19 +18,13 @@ std::optional<std::int64_t> readFeature(Device &device, const std::string &name)
     return device.ReadInteger(name, value) ? std::optional(value) : std::nullopt;
 }
 
-/// Returns the name of the feature in which the camera counts the packets that it has sent again, or an empty
-/// text. The name is not standardised.
+/// Returns the name of the feature that counts packets which were sent again; empty if there is none.
 std::string findResendFeature(Device &device)
 {
     std::vector<NodeInfo> nodes;
     if (!device.GetNodes(nodes))
         return {};
-    const auto has
-        = [](const NodeInfo &node, const char *part) { return node.name.find(part) != std::string::npos; };
-    const auto found = std::find_if(nodes.begin(), nodes.end(), [&](const NodeInfo &node) {
-        const bool isCount = has(node, "Resent") || (has(node, "Resend") && has(node, "Count"));
-        return node.type == NodeType::Integer && isCount;
-    });
+    const auto found = std::find_if(nodes.begin(), nodes.end(), isResendCounter);
     return found == nodes.end() ? std::string() : found->name;
 }
 
@@ -71,6 +65,13 @@ std::string summaryOf(const StreamReport &report)
 }
 
 } // namespace
+
+bool isResendCounter(const NodeInfo &node)
+{
+    const auto has = [&](const char *part) { return node.name.find(part) != std::string::npos; };
+    const bool isCount = has("Resent") || (has("Resend") && has("Count"));
+    return node.type == NodeType::Integer && isCount;
+}
 
 StreamReport tryStream(
     Device &device, std::chrono::milliseconds time, const std::function<bool()> &isCancelled)

@@ -19,6 +19,10 @@ struct StreamReport
     std::string failure; ///< Why there was no stream; empty if there was one.
 };
 
+/// Returns true if the camera counts in this feature the packets that it has sent again. The names of such
+/// features are not standardised.
+bool isResendCounter(const CvxCPP::NodeInfo &node);
+
 /// Streams for some time without keeping the images.
 /// @param isCancelled Ends the stream early if it returns true.
 StreamReport tryStream(

@@ -1,5 +1,6 @@
 #include "sdk/imagefile/CameraRecord.h"
 
+#include "sdk/imagefile/Sidecar.h"
 #include "sdk/imagefile/ValueJson.h"
 
 using namespace CvxCPP;
@@ -53,6 +54,7 @@ CameraRecord readCameraRecord(const Camera &camera, Device &device)
         = readString([&](char *buffer, unsigned &size) { return camera.GetUserName(buffer, size); });
     if (!device.ReadString("DeviceVendorName", record.vendor))
         record.vendor.clear();
+    record.settingsTime = utcNow();
     record.settings = readSettings(device);
     return record;
 }

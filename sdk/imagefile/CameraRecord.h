@@ -13,6 +13,7 @@ struct CameraRecord
     std::string model;
     std::string serialNumber;
     std::string userName;
+    std::string settingsTime; ///< When the settings were read, in UTC; empty if they were not.
     nlohmann::ordered_json settings; ///< Names and values of the features that belong into a settings file.
 };
 

@@ -38,6 +38,12 @@ void Recorder::add(std::shared_ptr<const CvxCPP::Image> image)
     m_changed.notify_one();
 }
 
+void Recorder::skip()
+{
+    const std::lock_guard lock(m_mutex);
+    ++m_counters.skipped;
+}
+
 RecorderCounters Recorder::counters() const
 {
     const std::lock_guard lock(m_mutex);
@@ -58,8 +64,8 @@ std::string Recorder::finish(const CvxCPP::StreamStatistics &statistics)
     const RecorderCounters counted = counters();
     auto &recording = m_sidecar["recording"];
     recording.update({{"ended", utcNow()}, {"images", counted.written}, {"incomplete", counted.incomplete},
-        {"unwritten", counted.unwritten}, {"lost", statistics.lost}, {"underruns", statistics.underruns},
-        {"reopened", statistics.reopenCount}});
+        {"unwritten", counted.unwritten}, {"skipped", counted.skipped}, {"lost", statistics.lost},
+        {"underruns", statistics.underruns}, {"reopened", statistics.reopenCount}});
     std::string ended = problem();
     if (!ended.empty())
         recording["problem"] = ended;

@@ -19,6 +19,7 @@ struct RecorderCounters
     std::uint64_t written = 0; ///< Images in the file, including incomplete ones.
     std::uint64_t incomplete = 0; ///< Images in the file that lack data.
     std::uint64_t unwritten = 0; ///< Images that a failure kept from the file.
+    std::uint64_t skipped = 0; ///< Images of which skip() was told.
     std::uint64_t waiting = 0; ///< Images that wait for the disk.
     std::uint64_t bytes = 0; ///< Bytes of the written images as the camera has sent them.
 };
@@ -42,6 +43,9 @@ public:
     /// Appends an image. Returns immediately. Once a failure has ended the recording, images are only
     /// counted.
     void add(std::shared_ptr<const CvxCPP::Image> image);
+
+    /// Counts an image that the program did not add, because too many are waiting for the disk.
+    void skip();
 
     RecorderCounters counters() const;
 

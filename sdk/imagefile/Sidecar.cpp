@@ -41,10 +41,13 @@ std::string sidecarPath(const std::string &path)
 
 nlohmann::ordered_json cameraJson(const CameraRecord &camera)
 {
-    return {{"camera",
-                {{"id", camera.id}, {"vendor", camera.vendor}, {"model", camera.model},
-                    {"serialNumber", camera.serialNumber}, {"userName", camera.userName}}},
-        {"settings", camera.settings}};
+    nlohmann::ordered_json json{{"camera",
+        {{"id", camera.id}, {"vendor", camera.vendor}, {"model", camera.model},
+            {"serialNumber", camera.serialNumber}, {"userName", camera.userName}}}};
+    if (!camera.settingsTime.empty())
+        json["settingsTime"] = camera.settingsTime;
+    json["settings"] = camera.settings;
+    return json;
 }
 
 nlohmann::ordered_json imageJson(const CvxCPP::Image &image)

@@ -47,6 +47,7 @@ TEST_F(RecorderTest, everyImageIsWrittenAndItsBufferReleased)
     ASSERT_TRUE(waitUntil([&] { return recorder.counters().written == 100; }));
     for (const auto &image : images)
         EXPECT_TRUE(image.expired());
+    recorder.skip();
     CvxCPP::StreamStatistics statistics;
     statistics.lost = 5;
     EXPECT_EQ(recorder.finish(statistics), "");
@@ -63,6 +64,8 @@ TEST_F(RecorderTest, everyImageIsWrittenAndItsBufferReleased)
     EXPECT_EQ(json["recording"]["images"], 100);
     EXPECT_EQ(json["recording"]["incomplete"], 10);
     EXPECT_EQ(json["recording"]["lost"], 5);
+    EXPECT_EQ(json["recording"]["skipped"], 1);
+    EXPECT_EQ(json["settingsTime"], "2026-01-31T23:59:59.123456Z");
     EXPECT_TRUE(json["recording"]["ended"].is_string());
     EXPECT_EQ(json["camera"]["vendor"], "Orvelle");
 }

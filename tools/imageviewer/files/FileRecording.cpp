@@ -1,0 +1,1 @@
+#include "tools/imageviewer/files/FileRecording.h"

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "tools/imageviewer/files/CameraRecordReader.h"
+#include "tools/imageviewer/files/RecordingOptions.h"
+#include "tools/imageviewer/files/RecordingSink.h"
+#include "tools/imageviewer/files/RecordingSummary.h"
+#include "tools/imageviewer/files/RecordingTarget.h"
+#include "tools/imageviewer/numbers/StreamTotals.h"
+#include "tools/kit/live/LiveStream.h"
+
+#include <QObject>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <memory>
+
+/// Records the stream to a file. A slow disk holds up neither the stream nor the live picture: images that do
+/// not fit into memory are counted as skipped. A lost camera does not end a recording, which goes on when the
+/// camera is back. All functions are called on the GUI thread and return immediately.
+class RecordingControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class State
+    {
+        Idle,
+        Preparing, ///< Reads the camera's settings and creates the file.
+        Recording,
+        Finishing ///< Writes what waits in memory.
+    };
+    Q_ENUM(State)
+
+    RecordingControl(LiveStream &stream, CameraRecordReader &records, QObject *parent = nullptr);
+
+    /// Ends a recording. Blocks until the disk has taken the waiting images.
+    ~RecordingControl() override;
+
+    State state() const { return m_state; }
+    const RecordingProgress &progress() const { return m_progress; }
+    bool isCameraLost() const; ///< The recording waits for the camera.
+
+    /// Begins a recording. Has no effect unless the state is Idle.
+    void start(const RecordingOptions &options);
+
+    /// Ends the recording; what was recorded so far is kept.
+    void stop();
+
+signals:
+    void stateChanged();
+    void progressChanged();
+
+    /// The recording has ended, or has not begun; see RecordingResult::problem.
+    void finished(const RecordingResult &result);
+
+private:
+    void prepare(const CameraRecord &record);
+    void begin(const QString &path, const QString &problem);
+    void finish(const QString &problem);
+    void report(const QString &problem);
+    void followStream();
+    void followCamera();
+    void updateProgress();
+    void measureSpace();
+    void takeSpace(std::uint64_t spaceLeft, std::uint64_t fileBytes);
+    void setState(State state);
+
+    LiveStream &m_stream;
+    CameraRecordReader &m_records;
+    State m_state = State::Idle;
+    RecordingOptions m_options;
+    RecordingProgress m_progress;
+    RecordingResult m_result;
+    StreamTotals m_totals;
+    CvxCPP::StreamStatistics m_before; // When the recording began.
+    std::shared_ptr<RecordingTarget> m_target;
+    std::unique_ptr<RecordingSink> m_sink;
+    bool m_isMeasuring = false;
+    QTimer m_timer;
+    QThreadPool m_pool; // Ends before the other members.
+};
+
+Q_DECLARE_METATYPE(RecordingResult)
