@@ -62,25 +62,23 @@ signals:
     void stateChanged();
 
 private:
-    struct Outcome;
-
-    void setState(State state, const QString &problem = {});
+    void createSession();
+    void releaseSession();
     void followConnection();
-    void release();
-    void finishStart(const CvxCPP::CvxResult &result);
-    void finishStop();
-    void finishPause(const Outcome &outcome);
-    void reportEnd(const StreamSession *session, const QString &text);
-    std::shared_ptr<StreamSession> newSession();
+    void followSession();
+    void finishCall(const StreamSession *session, const CvxCPP::CvxResult &result);
+    void setState(State state);
 
     CameraConnection &m_connection;
     State m_state = State::Stopped;
     QString m_problem;
     unsigned m_buffers = 2;
     bool m_startsWhenBack = false; ///< The last start failed because the camera was lost.
-    std::shared_ptr<CvxCPP::Device> m_device; ///< The device of the session.
+    int m_pendingCalls = 0; ///< Calls of the connection whose results are awaited.
+    CvxCPP::CvxResult m_startResult; ///< Of the last call that could start a stream; success after a stop.
+    std::weak_ptr<CvxCPP::Device> m_device; ///< The device of the session.
     std::shared_ptr<StreamSession> m_session; ///< Null unless start() was called for the present device.
-    std::vector<std::shared_ptr<StreamSession>> m_released; ///< Sessions whose threads are ending.
-    CvxCPP::StreamStatistics m_lastStatistics; ///< Those of the last session.
+    std::vector<std::shared_ptr<StreamSession>> m_releasedSessions; ///< Their threads are ending.
+    CvxCPP::StreamStatistics m_lastStatistics; ///< Those of the last released session.
     std::vector<ImageSink *> m_sinks;
 };

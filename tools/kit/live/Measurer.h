@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class MeasureWorker;
+
 Q_DECLARE_METATYPE(Measurements)
 
 /// Measures the newest image on a thread of its own: at most five times per second, for at most a tenth of
@@ -36,8 +38,7 @@ signals:
     void measured(const Measurements &measurements);
 
 private:
-    class Worker;
     void report();
 
-    std::unique_ptr<Worker> m_worker;
+    std::unique_ptr<MeasureWorker> m_worker;
 };

@@ -13,6 +13,8 @@
 #include <cstdint>
 #include <memory>
 
+class PictureWorker;
+
 /// What a canvas shows at present. Nothing else of a picture is converted.
 struct PictureRequest
 {
@@ -74,8 +76,7 @@ signals:
     void rendered(const ShownPicture &picture);
 
 private:
-    class Worker;
     void report();
 
-    std::unique_ptr<Worker> m_worker;
+    std::unique_ptr<PictureWorker> m_worker;
 };
