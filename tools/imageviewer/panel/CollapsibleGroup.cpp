@@ -1,0 +1,47 @@
+#include "tools/imageviewer/panel/CollapsibleGroup.h"
+
+#include <QToolButton>
+#include <QVBoxLayout>
+
+CollapsibleGroup::CollapsibleGroup(const QString &title, QWidget *parent)
+    : QWidget(parent),
+      m_title(new QToolButton(this)),
+      m_content(new QWidget(this)),
+      m_contentLayout(new QVBoxLayout(m_content))
+{
+    m_title->setObjectName(QStringLiteral("groupTitle"));
+    m_title->setText(title);
+    m_title->setCheckable(true);
+    m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_title->setAutoRaise(true);
+    m_contentLayout->setContentsMargins(10, 4, 4, 8);
+    m_contentLayout->setSpacing(6);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_title);
+    layout->addWidget(m_content);
+    connect(m_title, &QToolButton::toggled, this, &CollapsibleGroup::setOpen);
+    setOpen(false);
+}
+
+void CollapsibleGroup::addWidget(QWidget *widget)
+{
+    m_contentLayout->addWidget(widget);
+}
+
+bool CollapsibleGroup::isOpen() const
+{
+    return m_title->isChecked();
+}
+
+void CollapsibleGroup::setOpen(bool isOpen)
+{
+    m_title->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
+    m_content->setVisible(isOpen);
+    if (m_title->isChecked() != isOpen)
+        m_title->setChecked(isOpen); // Comes back here once.
+    else
+        emit toggled(isOpen);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tools/imageviewer/panel/PanelLayout.h"
+
+#include <QWidget>
+
+class FeatureClient;
+class FeatureEditor;
+
+/// Shows the first of a row's features that the camera implements, which is known once the feature was read.
+/// Hidden until then, and if there is none.
+class FeatureRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FeatureRow(const PanelRow &row, FeatureClient &client, QWidget *parent = nullptr);
+    ~FeatureRow() override;
+
+    /// Returns null until the feature is known.
+    FeatureEditor *editor() const { return m_editor; }
+
+    /// Returns true if the row only selects what other rows show.
+    bool isSelector() const { return m_row.isSelector; }
+
+signals:
+    void found(FeatureEditor *editor);
+
+private:
+    void tryNext();
+    void onStateChanged(const QString &name);
+    void decide();
+    void place();
+    void stopWaiting();
+
+    const PanelRow m_row;
+    FeatureClient &m_client;
+    int m_next = 0; ///< Index of the name to be tried next.
+    QString m_waitingFor; ///< The watched name whose state is not known yet.
+    FeatureEditor *m_editor = nullptr;
+};

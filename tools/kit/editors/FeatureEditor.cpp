@@ -1,0 +1,308 @@
+#include "tools/kit/editors/FeatureEditor.h"
+
+#include "tools/kit/editors/FeatureNote.h"
+#include "tools/kit/editors/LockText.h"
+#include "tools/kit/editors/NumberText.h"
+#include "tools/kit/editors/StreamPauser.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHideEvent>
+#include <QLabel>
+
+#include <utility>
+
+using CvxCPP::LockReason;
+
+namespace {
+
+constexpr int labelColumn = 0;
+constexpr int controlColumn = 1;
+constexpr int controlRow = 0;
+constexpr int noteRow = 9; ///< The wide controls are between the two rows.
+constexpr int columns = 2;
+constexpr int columnGap = 8;
+constexpr int rowGap = 2;
+
+/// Returns the value of a switch or a mode as text; empty for values that say little without a unit.
+QString modeText(const CvxCPP::NodeValue &value)
+{
+    if (const auto *const name = std::get_if<std::string>(&value))
+        return QString::fromStdString(*name);
+    if (const auto *const isOn = std::get_if<bool>(&value))
+        return *isOn ? FeatureEditor::tr("on") : FeatureEditor::tr("off");
+    return {};
+}
+
+/// Returns true if the line below the control says why the feature is locked. A value that the camera only
+/// reports needs no excuse, and that nothing can be changed while watching is said once by the window.
+bool isWorthANote(LockReason reason)
+{
+    return reason == LockReason::NotAvailable || reason == LockReason::LockedByNode
+        || reason == LockReason::StreamRunning;
+}
+
+} // namespace
+
+FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, QWidget *parent)
+    : QWidget(parent),
+      m_info(info),
+      m_feature(QString::fromStdString(info.name)),
+      m_client(client),
+      m_layout(new QGridLayout(this)),
+      m_label(new QLabel(QString::fromStdString(info.displayName), this)),
+      m_note(new FeatureNote(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setHorizontalSpacing(columnGap);
+    m_layout->setVerticalSpacing(rowGap);
+    m_layout->setColumnStretch(controlColumn, 1);
+    m_layout->addWidget(m_label, controlRow, labelColumn);
+    m_layout->addWidget(m_note, noteRow, labelColumn, 1, columns);
+    m_label->setObjectName(QStringLiteral("featureLabel"));
+    m_label->setWordWrap(true);
+
+    connect(m_note, &FeatureNote::accepted, this, &FeatureEditor::acceptQuestion);
+    connect(m_note, &FeatureNote::rejected, this, &FeatureEditor::rejectQuestion);
+    connect(&client, &FeatureClient::stateChanged, this, &FeatureEditor::onStateChanged);
+    connect(&client, &FeatureClient::written, this, &FeatureEditor::onWritten);
+    connect(&client, &FeatureClient::failed, this, &FeatureEditor::onFailed);
+    connect(&client, &FeatureClient::nodesLoaded, this, &FeatureEditor::refresh);
+    connect(&client, &FeatureClient::nodesGone, this, &FeatureEditor::refresh);
+}
+
+void FeatureEditor::setLabel(const QString &text)
+{
+    m_label->setText(text);
+    labelChanged();
+}
+
+QString FeatureEditor::label() const
+{
+    return m_label->text();
+}
+
+void FeatureEditor::setLabelWidth(int width)
+{
+    m_hasLabel = width > 0;
+    m_label->setVisible(m_hasLabel && !m_isLabelInControl);
+    m_label->setFixedWidth(width);
+    m_layout->setColumnMinimumWidth(labelColumn, width);
+    m_layout->setHorizontalSpacing(m_hasLabel ? columnGap : 0);
+    labelChanged();
+}
+
+void FeatureEditor::setStreamPauser(StreamPauser *pauser)
+{
+    m_pauser = pauser;
+    refresh();
+}
+
+bool FeatureEditor::isEditable() const
+{
+    const CvxCPP::NodeState *const read = state();
+    if (!read || m_isPausing)
+        return false;
+    return read->lockReason == LockReason::None
+        || (read->lockReason == LockReason::StreamRunning && m_pauser);
+}
+
+QString FeatureEditor::lockReason() const
+{
+    const CvxCPP::NodeState *const read = state();
+    if (!read || isEditable())
+        return {};
+    const QString lockingNode = QString::fromStdString(read->lockingNode);
+    const CvxCPP::NodeInfo *const lockingInfo = m_client.info(lockingNode);
+    const CvxCPP::NodeState *const lockingState = m_client.state(lockingNode);
+    return lockText(*read, lockingInfo ? QString::fromStdString(lockingInfo->displayName) : lockingNode,
+        lockingState ? modeText(lockingState->value) : QString());
+}
+
+QString FeatureEditor::noteText() const
+{
+    return m_note->text();
+}
+
+void FeatureEditor::acceptQuestion()
+{
+    const std::function<void()> action = std::exchange(m_action, {});
+    showNote();
+    if (action)
+        action();
+}
+
+void FeatureEditor::rejectQuestion()
+{
+    m_action = {};
+    refresh();
+}
+
+void FeatureEditor::setControl(QWidget *control)
+{
+    const int column = m_isLabelInControl ? labelColumn : controlColumn;
+    m_layout->addWidget(control, controlRow, column, 1, columns - column);
+    m_label->setBuddy(control);
+    const QString tip = QString::fromStdString(m_info.toolTip.empty() ? m_info.description : m_info.toolTip);
+    m_label->setToolTip(tip);
+}
+
+void FeatureEditor::addWideControl(QWidget *control)
+{
+    m_layout->addWidget(control, controlRow + 1, labelColumn, 1, columns);
+}
+
+void FeatureEditor::hideLabel()
+{
+    m_isLabelInControl = true;
+    m_label->hide();
+}
+
+void FeatureEditor::submit(const CvxCPP::NodeValue &value)
+{
+    forgetMessages();
+    const CvxCPP::NodeState *const read = state();
+    if (read && read->value == value && !m_client.isWriting(m_feature)) {
+        rejectQuestion(); // The change was taken back.
+        return;
+    }
+    if (read && read->lockReason == LockReason::StreamRunning && m_pauser) {
+        askToPause([name = m_info.name, value](CvxCPP::Device &device) { return device.Write(name, value); });
+        return;
+    }
+    m_client.write(m_feature, value);
+    showNote();
+}
+
+void FeatureEditor::execute()
+{
+    forgetMessages();
+    const CvxCPP::NodeState *const read = state();
+    if (read && read->lockReason == LockReason::StreamRunning && m_pauser) {
+        askToPause([name = m_info.name](CvxCPP::Device &device) { return device.Execute(name); });
+        return;
+    }
+    m_client.execute(m_feature);
+    showNote();
+}
+
+void FeatureEditor::ask(const QString &question, const QString &acceptText, std::function<void()> action)
+{
+    forgetMessages();
+    m_action = std::move(action);
+    m_note->showQuestion(question, acceptText);
+}
+
+void FeatureEditor::showRemark(const QString &text)
+{
+    m_remark = text;
+    showNote();
+}
+
+const CvxCPP::NodeState *FeatureEditor::state() const
+{
+    return m_client.state(m_feature);
+}
+
+void FeatureEditor::refresh()
+{
+    const CvxCPP::NodeState *const read = state();
+    if (!read)
+        m_action = {};
+    // The question is about the value that is shown, so this value stays until the answer.
+    if (read && !m_action && !m_isPausing && !m_client.isWriting(m_feature))
+        showState(*read);
+    setEditable(isEditable());
+    showNote();
+}
+
+void FeatureEditor::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (std::exchange(m_isWatching, true))
+        return;
+    m_client.watch({m_feature});
+    refresh();
+}
+
+void FeatureEditor::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (event->spontaneous() || !std::exchange(m_isWatching, false))
+        return;
+    m_client.unwatch({m_feature});
+}
+
+bool FeatureEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel || qobject_cast<QWidget *>(watched)->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    event->ignore(); // The scroll area gets the event.
+    return true;
+}
+
+void FeatureEditor::onStateChanged(const QString &name)
+{
+    const CvxCPP::NodeState *const read = state();
+    if (name == m_feature || (read && name == QString::fromStdString(read->lockingNode)))
+        refresh();
+}
+
+void FeatureEditor::onWritten(const QString &name)
+{
+    if (name != m_feature)
+        return;
+    m_error.clear();
+    refresh();
+}
+
+void FeatureEditor::onFailed(const QString &name, const QString &text)
+{
+    if (name != m_feature)
+        return;
+    m_error = text;
+    refresh();
+}
+
+void FeatureEditor::askToPause(CameraConnection::Call call)
+{
+    ask(tr("For this change, the stream has to be stopped for a moment."), tr("Stop, set, start"),
+        [this, call = std::move(call)] { pauseFor(call); });
+}
+
+void FeatureEditor::pauseFor(const CameraConnection::Call &call)
+{
+    m_isPausing = true;
+    refresh();
+    m_pauser->pauseFor(call, this, [this](const CvxCPP::CvxResult &result) { onPaused(result); });
+}
+
+void FeatureEditor::onPaused(const CvxCPP::CvxResult &result)
+{
+    m_isPausing = false;
+    m_error = QString::fromStdString(result.text);
+    refresh();
+}
+
+void FeatureEditor::showNote()
+{
+    if (m_action)
+        return;
+    const CvxCPP::NodeState *const read = state();
+    const QString lock = lockReason();
+    if (!m_error.isEmpty())
+        m_note->showError(m_error);
+    else if (!m_remark.isEmpty())
+        m_note->showError(m_remark);
+    else if (read && isWorthANote(read->lockReason) && !lock.isEmpty())
+        m_note->showLock(lock);
+    else
+        m_note->clear();
+    setToolTip(lock);
+}
+
+void FeatureEditor::forgetMessages()
+{
+    m_error.clear();
+    m_remark.clear();
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "CvxCPP/Node.h"
+
+class FeatureClient;
+class FeatureEditor;
+class QWidget;
+
+/// Returns the editor for a feature of this type; null for a category and for a register.
+FeatureEditor *createFeatureEditor(
+    const CvxCPP::NodeInfo &info, FeatureClient &client, QWidget *parent = nullptr);

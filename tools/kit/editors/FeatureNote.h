@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+/// The line under an editor: why the feature is locked, what failed, or a question with two buttons. Takes no
+/// room if there is nothing to say. The property "kind" of the label is "lock", "error" or "question", for
+/// the style sheet.
+class FeatureNote : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FeatureNote(QWidget *parent = nullptr);
+
+    void clear();
+    void showLock(const QString &text);
+    void showError(const QString &text);
+    void showQuestion(const QString &text, const QString &acceptText);
+
+    QString text() const;
+    bool isQuestion() const;
+
+signals:
+    void accepted();
+    void rejected();
+
+private:
+    void showKind(const QString &kind, const QString &text);
+
+    QLabel *m_text;
+    QWidget *m_buttons;
+    QPushButton *m_accept;
+    QPushButton *m_reject;
+};

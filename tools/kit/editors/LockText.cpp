@@ -1,0 +1,56 @@
+#include "tools/kit/editors/LockText.h"
+
+#include <QCoreApplication>
+
+using CvxCPP::LockReason;
+
+namespace {
+
+QString translate(const char *text)
+{
+    return QCoreApplication::translate("LockText", text);
+}
+
+QString notAvailableText(const QString &lockingFeature, const QString &lockingValue)
+{
+    if (lockingFeature.isEmpty())
+        return translate(QT_TRANSLATE_NOOP("LockText", "Not available at present."));
+    if (lockingValue.isEmpty())
+        return translate(QT_TRANSLATE_NOOP("LockText", "Not available because of %1.")).arg(lockingFeature);
+    return translate(QT_TRANSLATE_NOOP("LockText", "Not available while %1 is %2."))
+        .arg(lockingFeature, lockingValue);
+}
+
+QString lockedText(const QString &lockingFeature, const QString &lockingValue)
+{
+    if (lockingFeature.isEmpty())
+        return translate(QT_TRANSLATE_NOOP("LockText", "Locked by the camera."));
+    if (lockingValue.isEmpty())
+        return translate(QT_TRANSLATE_NOOP("LockText", "Controlled by %1.")).arg(lockingFeature);
+    return translate(QT_TRANSLATE_NOOP("LockText", "Controlled by %1 (%2)."))
+        .arg(lockingFeature, lockingValue);
+}
+
+} // namespace
+
+QString lockText(const CvxCPP::NodeState &state, const QString &lockingFeature, const QString &lockingValue)
+{
+    switch (state.lockReason) {
+    case LockReason::None:
+        return {};
+    case LockReason::NotImplemented:
+        return translate(QT_TRANSLATE_NOOP("LockText", "This camera does not have the feature."));
+    case LockReason::NotAvailable:
+        return notAvailableText(lockingFeature, lockingValue);
+    case LockReason::ReadOnlyNode:
+        return translate(QT_TRANSLATE_NOOP("LockText", "The camera only reports this value."));
+    case LockReason::Watching:
+        return translate(
+            QT_TRANSLATE_NOOP("LockText", "The camera is only watched, so nothing can be changed."));
+    case LockReason::StreamRunning:
+        return translate(QT_TRANSLATE_NOOP("LockText", "Locked while the camera streams."));
+    case LockReason::LockedByNode:
+        return lockedText(lockingFeature, lockingValue);
+    }
+    return {};
+}
