@@ -53,21 +53,26 @@ ClippingComponents clippingComponents(const PixelLayout &layout)
     return result;
 }
 
-/// Adds the marks of one component to those of the line. Luma can be beyond the ends of its range.
-void addMarks(const std::uint16_t *words, unsigned step, std::uint32_t width, const WordRange &range,
-    bool isSigned, std::uint8_t *marks)
+/// Adds the marks of one component to those of the line. Luma can be beyond the ends of its range. The
+/// distance of two pixels is a constant, so that the compiler vectorises the loop.
+template <unsigned step>
+void addMarks(const std::uint16_t *words, std::uint32_t width, const WordRange &range, bool isSigned,
+    std::uint8_t *marks)
 {
-    // Moved so that the order of signed numbers is that of unsigned ones.
+    // Signed numbers are moved, so that their order is that of unsigned ones.
     const auto flip = static_cast<std::uint16_t>(isSigned ? 0x8000 : 0);
     const auto lowest = static_cast<std::uint16_t>(range.lowest ^ flip);
     const auto highest = static_cast<std::uint16_t>(range.highest ^ flip);
     for (std::size_t i = 0; i < width; ++i) {
         const auto value = static_cast<std::uint16_t>(words[i * step] ^ flip);
-        const unsigned mark
-            = (value <= lowest ? ClipMarks::dark : 0U) | (value >= highest ? ClipMarks::bright : 0U);
-        marks[i] = static_cast<std::uint8_t>(marks[i] | mark);
+        const auto darkMark = static_cast<std::uint8_t>(value <= lowest ? ClipMarks::dark : 0);
+        const auto brightMark = static_cast<std::uint8_t>(value >= highest ? ClipMarks::bright : 0);
+        marks[i] = static_cast<std::uint8_t>(marks[i] | darkMark | brightMark);
     }
 }
+
+/// The functions for 1 to 4 words per pixel.
+constexpr std::array addMarksOfStep = {addMarks<1>, addMarks<2>, addMarks<3>, addMarks<4>};
 
 /// Removes the marks of integers whose highest 16 bits, but not all bits, are at the end of the range.
 void checkAllBits(const RawImage &picture, const PixelLayout &layout, std::uint32_t x, std::uint32_t y,
@@ -87,33 +92,23 @@ void checkAllBits(const RawImage &picture, const PixelLayout &layout, std::uint3
     }
 }
 
-/// The pixels of an axis that output pixels show.
-struct ShownPixels
+/// The pixels of an axis that an output pixel shows.
+struct PixelRange
 {
-    std::uint32_t from; ///< Pixels of the region.
-    std::uint32_t to; ///< Output pixels.
-
-    std::uint32_t first(std::uint32_t index) const
-    {
-        return static_cast<std::uint32_t>(std::uint64_t(index) * from / to);
-    }
-    std::uint32_t last(std::uint32_t index) const
-    {
-        return static_cast<std::uint32_t>(((std::uint64_t(index) + 1) * from - 1) / to);
-    }
-    std::uint32_t nearest(std::uint32_t index) const
-    {
-        return static_cast<std::uint32_t>((2 * std::uint64_t(index) + 1) * from / (2 * std::uint64_t(to)));
-    }
-    /// Returns the first pixel of an output pixel and the one after its last pixel. An enlarged axis shows
-    /// one.
-    std::array<std::uint32_t, 2> range(std::uint32_t index) const
-    {
-        if (from <= to)
-            return {nearest(index), nearest(index) + 1};
-        return {first(index), last(index) + 1};
-    }
+    std::uint32_t begin;
+    std::uint32_t end;
 };
+
+/// Returns what an axis of `from` pixels shows at `index` of `to` output pixels: one pixel if it is enlarged.
+PixelRange shownPixels(std::uint32_t index, std::uint64_t from, std::uint64_t to)
+{
+    if (from <= to) {
+        const auto nearest = static_cast<std::uint32_t>((2 * std::uint64_t(index) + 1) * from / (2 * to));
+        return {nearest, nearest + 1};
+    }
+    const std::uint64_t end = (std::uint64_t(index) + 1) * from;
+    return {static_cast<std::uint32_t>(index * from / to), static_cast<std::uint32_t>((end - 1) / to + 1)};
+}
 
 } // namespace
 
@@ -128,7 +123,7 @@ const std::uint8_t *ClipMarks::line(
     m_words.resize(std::max(m_words.size(), std::size_t(width) * components.step));
     m_converter.toWords(picture, {x, y, width, 1}, m_words.data(), 0);
     for (unsigned component = 0; component < components.count; ++component)
-        addMarks(m_words.data() + component, components.step, width, components.ranges[component],
+        addMarksOfStep[components.step - 1](m_words.data() + component, width, components.ranges[component],
             layout.number == Number::Signed, m_marks.data());
     if (layout.format.depth > 16)
         checkAllBits(picture, layout, x, y, width, m_marks.data());
@@ -138,23 +133,32 @@ const std::uint8_t *ClipMarks::line(
 void ClipMarks::paint(const RawImage &picture, const Region &region, std::uint32_t width,
     std::uint32_t height, std::uint32_t *output, std::size_t stride)
 {
-    const ShownPixels columns{region.width, width};
-    const ShownPixels rows{region.height, height};
+    std::vector<PixelRange> columns;
+    for (std::uint32_t x = 0; x < width; ++x)
+        columns.push_back(shownPixels(x, region.width, width));
     for (std::uint32_t y = 0; y < height; ++y, output += stride) {
-        m_lines.assign(region.width, 0);
-        const auto [firstRow, rowEnd] = rows.range(y);
-        for (std::uint32_t row = firstRow; row < rowEnd; ++row) {
-            const std::uint8_t *const marks = line(picture, region.x, region.y + row, region.width);
-            for (std::size_t i = 0; i < region.width; ++i)
-                m_lines[i] = static_cast<std::uint8_t>(m_lines[i] | marks[i]);
-        }
+        const PixelRange rows = shownPixels(y, region.height, height);
+        const std::uint8_t *const marks = lines(picture, region, rows.begin, rows.end);
         for (std::uint32_t x = 0; x < width; ++x) {
-            const auto [first, end] = columns.range(x);
-            unsigned marks = 0;
-            for (std::uint32_t i = first; i < end; ++i)
-                marks |= m_lines[i];
-            if (marks != 0)
-                output[x] = (marks & bright) != 0 ? brightColor : darkColor;
+            unsigned found = 0;
+            for (std::uint32_t i = columns[x].begin; i < columns[x].end; ++i)
+                found |= marks[i];
+            if (found != 0)
+                output[x] = (found & bright) != 0 ? brightColor : darkColor;
         }
     }
+}
+
+/// Returns the marks that any of the lines has.
+const std::uint8_t *ClipMarks::lines(
+    const RawImage &picture, const Region &region, std::uint32_t begin, std::uint32_t end)
+{
+    m_lines.assign(region.width, 0);
+    std::uint8_t *const result = m_lines.data();
+    for (std::uint32_t row = begin; row < end; ++row) {
+        const std::uint8_t *const marks = line(picture, region.x, region.y + row, region.width);
+        for (std::size_t i = 0; i < region.width; ++i)
+            result[i] = static_cast<std::uint8_t>(result[i] | marks[i]);
+    }
+    return result;
 }

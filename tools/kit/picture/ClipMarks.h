@@ -25,6 +25,9 @@ public:
         std::uint32_t *output, std::size_t stride);
 
 private:
+    const std::uint8_t *lines(
+        const RawImage &picture, const Region &region, std::uint32_t begin, std::uint32_t end);
+
     ImageConverter m_converter;
     std::vector<std::uint16_t> m_words;
     std::vector<std::uint8_t> m_marks;
