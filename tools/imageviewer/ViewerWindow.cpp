@@ -25,9 +25,6 @@ namespace {
 
 using std::chrono_literals::operator""s;
 
-/// Enough for the image that is shown, those that are measured, and some tenths of a second of a fast camera.
-constexpr unsigned streamBuffers = 16;
-
 /// After this time without a picture, the canvas says why there may be none.
 constexpr std::chrono::milliseconds hintDelay = 3s;
 
@@ -35,15 +32,10 @@ constexpr std::chrono::milliseconds hintDelay = 3s;
 
 ViewerWindow::ViewerWindow(const QString &camera, QSettings &settings)
     : ToolWindow({tr("Image Viewer"), camera, QStringLiteral("image-viewer")}, settings),
-      m_stream(connection()),
-      m_monitor(m_stream, m_feed, features()),
-      m_records(connection()),
-      m_saver(m_records),
-      m_recording(m_stream, m_records),
-      m_pauser(m_stream),
-      m_canvas(new ImageCanvas(this)),
-      m_actions(new ViewerActions(*m_canvas, this)),
-      m_cameraPanel(new CameraPanel(features(), this)),
+      m_stream(connection(), this), m_feed(this), m_measurer(this),
+      m_monitor(m_stream, m_feed, features(), this), m_records(connection(), this), m_saver(m_records, this),
+      m_recording(m_stream, m_records, this), m_pauser(m_stream), m_canvas(new ImageCanvas(this)),
+      m_actions(new ViewerActions(*m_canvas, this)), m_cameraPanel(new CameraPanel(features(), this)),
       m_measuringPanel(new MeasuringPanel(this))
 {
     m_cameraPanel->setStreamPauser(&m_pauser);

@@ -33,6 +33,12 @@ public:
     ViewerWindow(const QString &camera, QSettings &settings);
     ~ViewerWindow() override;
 
+    /// Enough for the image that is shown, those that are measured, and some tenths of a second of a fast
+    /// camera.
+    static constexpr unsigned streamBuffers = 16;
+
+    LiveStream &stream() { return m_stream; }
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

@@ -1,0 +1,229 @@
+#include "sdk/image/RawImage.h"
+#include "tests/imageviewer/SimulatedCameras.h"
+#include "tests/imageviewer/ViewerUnderTest.h"
+#include "tests/support/ScriptFile.h"
+#include "tools/imageviewer/panel/CameraPanel.h"
+#include "tools/kit/canvas/ViewTransform.h"
+#include "tools/kit/pages/CameraChooser.h"
+#include "tools/kit/pages/NoCameraPage.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QProcess>
+#include <QSet>
+#include <QtTest>
+
+#include <csignal>
+
+using State = CameraConnection::State;
+
+namespace {
+
+QString operator""_s(const char *text, std::size_t size)
+{
+    return QString::fromUtf8(text, int(size));
+}
+
+/// Choices that write raw files to the folder.
+QVariantMap rawFilesIn(const QTemporaryDir &folder)
+{
+    return {{"files/folder"_s, folder.path()}, {"files/snapshotFormat"_s, "raw"_s},
+        {"files/recordingFormat"_s, "raw"_s}};
+}
+
+QStringList filesIn(const QTemporaryDir &folder, const QString &pattern)
+{
+    QStringList paths;
+    const QFileInfoList files = QDir(folder.path()).entryInfoList({pattern}, QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files)
+        paths.append(file.filePath());
+    return paths;
+}
+
+} // namespace
+
+/// Tests that the parts of the Image Viewer are connected, with the real SDK on simulated cameras.
+class TestViewer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void namedCameraIsShown();
+    void onlyCameraIsOpened();
+    void severalCamerasAreOffered();
+    void cameraIsOpenedWhenItIsPluggedIn();
+    void halvedExposureHalvesTheMean();
+    void drawnRegionBecomesTheRegionOfTheCamera();
+    void unpluggedCameraGoesOnWhenItIsBack();
+    void windowStaysUsableWhenTheHostCrashes();
+    void snapshotContainsTheRawValues();
+    void recordingHasEveryFrameId();
+    void cameraInUseCanBeWatched();
+
+private:
+    const SimulatedCameras m_cameras;
+};
+
+void TestViewer::init()
+{
+    m_cameras.plug({"1001"_s, "1002"_s, "2001"_s});
+}
+
+void TestViewer::namedCameraIsShown()
+{
+    ViewerUnderTest viewer("1002"_s);
+    viewer.awaitPicture();
+    QVERIFY(viewer.window().windowTitle().contains("1002"_s));
+    QCOMPARE(viewer.canvas().picture().pictureSize, QSize(320, 240));
+    // The picture is on the screen: it has more colours than a canvas without one.
+    const QImage screen = viewer.canvas().grab().toImage();
+    QSet<QRgb> colors;
+    for (int x = 0; x < screen.width(); ++x)
+        colors.insert(screen.pixel(x, screen.height() / 2));
+    QVERIFY2(colors.size() > 50, qPrintable(QString::number(colors.size())));
+}
+
+void TestViewer::onlyCameraIsOpened()
+{
+    m_cameras.plug({"2001"_s});
+    ViewerUnderTest viewer({});
+    viewer.awaitPicture();
+    QVERIFY(viewer.window().windowTitle().contains("2001"_s));
+}
+
+void TestViewer::severalCamerasAreOffered()
+{
+    ViewerUnderTest viewer({});
+    auto *const chooser = viewer.find<CameraChooser>();
+    QTRY_VERIFY_WITH_TIMEOUT(chooser->isVisible(), 60000);
+    auto *const search = chooser->findChild<QLineEdit *>();
+    QTest::keyClicks(search, "2001"_s);
+    QTest::keyClick(search, Qt::Key_Return);
+    viewer.awaitPicture();
+    QVERIFY(viewer.window().windowTitle().contains("2001"_s));
+}
+
+void TestViewer::cameraIsOpenedWhenItIsPluggedIn()
+{
+    m_cameras.plug({});
+    ViewerUnderTest viewer({});
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.find<NoCameraPage>()->isVisible(), 60000);
+    m_cameras.plug({"1001"_s});
+    viewer.awaitPicture();
+}
+
+void TestViewer::halvedExposureHalvesTheMean()
+{
+    ViewerUnderTest viewer("1001"_s);
+    viewer.awaitPicture();
+    viewer.write("BlackLevel", 0.0);
+    viewer.write("ExposureTime", 4000.0);
+    const double before = viewer.meanOfNewPicture();
+    viewer.write("ExposureTime", 2000.0);
+    const double after = viewer.meanOfNewPicture();
+    QVERIFY2(qAbs(after / before - 0.5) < 0.05, qPrintable(QStringLiteral("%1, %2").arg(before).arg(after)));
+}
+
+void TestViewer::drawnRegionBecomesTheRegionOfTheCamera()
+{
+    ViewerUnderTest viewer("1001"_s);
+    viewer.awaitPicture();
+    emit viewer.find<CameraPanel>()->drawRegionRequested();
+    ImageCanvas &canvas = viewer.canvas();
+    const QPoint from = canvas.view().toView(QPointF(64.5, 48.5)).toPoint();
+    const QPoint to = canvas.view().toView(QPointF(191.5, 143.5)).toPoint();
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
+    QTest::mouseMove(&canvas, (from + to) / 2);
+    QTest::mouseMove(&canvas, to);
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, to);
+    ViewerUnderTest::await([&] { return canvas.picture().pictureSize.width() < 320; });
+    const CvxCPP::ImageInfo info = canvas.picture().image->GetInfo();
+    const QRect region(int(info.offsetX), int(info.offsetY), int(info.width), int(info.height));
+    // The camera extends the region to its increments.
+    QVERIFY(region.contains(QRect(65, 49, 126, 94)));
+    QVERIFY(QRect(48, 32, 160, 128).contains(region));
+}
+
+void TestViewer::unpluggedCameraGoesOnWhenItIsBack()
+{
+    ViewerUnderTest viewer("1001"_s);
+    viewer.awaitPicture();
+    viewer.write("ExposureTime", 3000.0);
+    m_cameras.plug({"1002"_s});
+    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Lost; });
+    QVERIFY(viewer.canvas().picture().image); // The last picture stays.
+    m_cameras.plug({"1001"_s, "1002"_s});
+    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
+    viewer.awaitNewPicture();
+    QCOMPARE(viewer.readFloat("ExposureTime"), 3000.0);
+}
+
+void TestViewer::windowStaysUsableWhenTheHostCrashes()
+{
+    ViewerUnderTest viewer("1001"_s);
+    viewer.awaitPicture();
+    QProcess kill;
+    kill.start("pkill"_s, {"--signal"_s, "KILL"_s, "--parent"_s,
+                              QString::number(QCoreApplication::applicationPid()), "CvxCameraHost"_s});
+    QVERIFY(kill.waitForFinished());
+    QCOMPARE(kill.exitCode(), 0);
+    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Lost; });
+    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
+    viewer.awaitNewPicture();
+}
+
+void TestViewer::snapshotContainsTheRawValues()
+{
+    const QTemporaryDir folder;
+    ViewerUnderTest viewer("1001"_s, rawFilesIn(folder));
+    viewer.awaitPicture();
+    viewer.action("Freeze"_s).trigger();
+    viewer.action("Save snapshot"_s).trigger();
+    ViewerUnderTest::await([&] { return !filesIn(folder, "*.raw"_s).isEmpty(); });
+    const RawImage image = rawImage(*viewer.canvas().picture().image);
+    QCOMPARE(ScriptFile::read(filesIn(folder, "*.raw"_s).constFirst()),
+        QByteArray(reinterpret_cast<const char *>(image.data), int(image.size)));
+}
+
+void TestViewer::recordingHasEveryFrameId()
+{
+    const QTemporaryDir folder;
+    QVariantMap choices = rawFilesIn(folder);
+    choices.insert("files/maxImages"_s, 300);
+    ViewerUnderTest viewer("1001"_s, choices);
+    viewer.awaitPicture();
+    QAction &record = viewer.action("Record"_s);
+    record.trigger();
+    ViewerUnderTest::await([&] { return record.isChecked(); });
+    ViewerUnderTest::await([&] { return !record.isChecked(); });
+    // The index has a line for each image, which begins with the frame ID, below a line with the titles.
+    const QList<QByteArray> lines
+        = ScriptFile::read(filesIn(folder, "*.csv"_s).constFirst()).trimmed().split('\n').mid(1);
+    QCOMPARE(lines.size(), 300);
+    const qulonglong first = lines.first().split(',').first().toULongLong();
+    for (int index = 0; index < lines.size(); ++index)
+        QCOMPARE(lines.at(index).split(',').first().toULongLong(), first + qulonglong(index));
+}
+
+void TestViewer::cameraInUseCanBeWatched()
+{
+    QProcess other;
+    other.start(QFileInfo(qEnvironmentVariable("CORVIX_TEST_SIMULATOR")).path() + "/../bin/cvxctl"_s, {"watch"_s, "1001"_s});
+    QVERIFY(other.waitForReadyRead(60000)); // The camera streams.
+    ViewerUnderTest viewer("1001"_s);
+    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::InUse; });
+    const QList<QPushButton *> buttons = viewer.window().findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->text() == "&Watch only"_s)
+            button->click();
+    }
+    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
+    QVERIFY(!viewer.window().connection().isControlled());
+    other.terminate();
+    QVERIFY(other.waitForFinished(60000));
+}
+
+QTEST_MAIN(TestViewer)
+#include "TestViewer.moc"
