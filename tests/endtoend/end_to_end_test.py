@@ -43,6 +43,8 @@ def click_starts_the_tool_in_its_own_directory(launcher):
     assert os.readlink(f"/proc/{tool}/cwd") == directory
     inherited = connections_of(tool) & connections_of(launcher.process.pid)
     assert not inherited, f"the tool has inherited {inherited}"
+    wait_for("the tool opens the selected camera", lambda: output_of(
+        "xdotool", "search", "--onlyvisible", "--name", r"^Lintaro Qz40 TDI 16k \(L70881\) – Image Viewer$"))
     return int(tool)
 
 

@@ -9,6 +9,8 @@
 
 namespace {
 
+using Kind = ToolIcons::Kind;
+
 QAction *createAction(
     QObject *parent, const QString &text, const QKeySequence &keys, const QIcon &icon, bool isCheckable)
 {
@@ -27,23 +29,23 @@ QAction *createAction(
 
 ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
     : QObject(parent),
-      live(createAction(this, tr("&Live"), Qt::Key_F5, ToolIcons::icon(ToolIcon::Play), true)),
+      live(createAction(this, tr("&Live"), Qt::Key_F5, ToolIcons::icon(Kind::Play), true)),
       freeze(
-          createAction(this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(ToolIcon::Freeze), true)),
+          createAction(this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(Kind::Pause), true)),
       snapshot(createAction(
-          this, tr("&Save snapshot"), QKeySequence::Save, ToolIcons::icon(ToolIcon::Snapshot), false)),
+          this, tr("&Save snapshot"), QKeySequence::Save, ToolIcons::icon(Kind::Snapshot), false)),
       record(
-          createAction(this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(ToolIcon::Record), true)),
+          createAction(this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(Kind::Record), true)),
       clipMarks(createAction(this, tr("&Mark clipped pixels"), Qt::CTRL + Qt::Key_E,
-          ToolIcons::icon(ToolIcon::ClipMarks), true)),
-      grid(createAction(this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(ToolIcon::Grid), true)),
+          ToolIcons::icon(Kind::ClipMarks), true)),
+      grid(createAction(this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(Kind::Grid), true)),
       crosshair(createAction(
-          this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(ToolIcon::Crosshair), true)),
+          this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(Kind::Crosshair), true)),
       fullScreen(
-          createAction(this, tr("F&ull screen"), Qt::Key_F11, ToolIcons::icon(ToolIcon::FullScreen), true)),
+          createAction(this, tr("F&ull screen"), Qt::Key_F11, ToolIcons::icon(Kind::FullScreen), true)),
       newWindow(createAction(this, tr("&New window"), QKeySequence::New, {}, false)),
       cameraSetup(createAction(
-          this, tr("All &features (Camera Setup)"), Qt::Key_F12, ToolIcons::icon(ToolIcon::Settings), false)),
+          this, tr("All &features (Camera Setup)"), Qt::Key_F12, ToolIcons::icon(Kind::Settings), false)),
       m_overlays{grid, crosshair, clipMarks},
       m_tools(new QActionGroup(this))
 {
@@ -59,22 +61,22 @@ void ViewerActions::createViewActions(ImageCanvas &canvas)
         QList<QAction *> &list;
         QString text;
         QKeySequence keys;
-        ToolIcon icon;
+        Kind icon;
         Slot slot;
     };
     const Command commands[] = {
-        {m_zoom, tr("&Fit into the window"), Qt::CTRL + Qt::Key_0, ToolIcon::Fit, &ImageCanvas::fit},
-        {m_zoom, tr("&Actual size"), Qt::CTRL + Qt::Key_1, ToolIcon::ActualSize,
+        {m_zoom, tr("&Fit into the window"), Qt::CTRL + Qt::Key_0, Kind::Fit, &ImageCanvas::fit},
+        {m_zoom, tr("&Actual size"), Qt::CTRL + Qt::Key_1, Kind::ActualSize,
             &ImageCanvas::showActualSize},
-        {m_zoom, tr("Zoom &in"), QKeySequence::ZoomIn, ToolIcon::ZoomIn, &ImageCanvas::zoomIn},
-        {m_zoom, tr("Zoom &out"), QKeySequence::ZoomOut, ToolIcon::ZoomOut, &ImageCanvas::zoomOut},
-        {m_turns, tr("Rotate &left"), Qt::CTRL + Qt::Key_BracketLeft, ToolIcon::RotateLeft,
+        {m_zoom, tr("Zoom &in"), QKeySequence::ZoomIn, Kind::ZoomIn, &ImageCanvas::zoomIn},
+        {m_zoom, tr("Zoom &out"), QKeySequence::ZoomOut, Kind::ZoomOut, &ImageCanvas::zoomOut},
+        {m_turns, tr("Rotate &left"), Qt::CTRL + Qt::Key_BracketLeft, Kind::RotateLeft,
             &ImageCanvas::rotateLeft},
-        {m_turns, tr("Rotate &right"), Qt::CTRL + Qt::Key_BracketRight, ToolIcon::RotateRight,
+        {m_turns, tr("Rotate &right"), Qt::CTRL + Qt::Key_BracketRight, Kind::RotateRight,
             &ImageCanvas::rotateRight},
-        {m_turns, tr("Mirror &horizontally"), Qt::CTRL + Qt::Key_H, ToolIcon::MirrorHorizontal,
+        {m_turns, tr("Mirror &horizontally"), Qt::CTRL + Qt::Key_H, Kind::MirrorHorizontal,
             &ImageCanvas::mirrorHorizontally},
-        {m_turns, tr("Mirror &vertically"), Qt::CTRL + Qt::Key_J, ToolIcon::MirrorVertical,
+        {m_turns, tr("Mirror &vertically"), Qt::CTRL + Qt::Key_J, Kind::MirrorVertical,
             &ImageCanvas::mirrorVertically},
     };
     for (const Command &command : commands) {
@@ -93,13 +95,13 @@ void ViewerActions::createToolActions(ImageCanvas &canvas)
     {
         QString text;
         int key;
-        ToolIcon icon;
+        Kind icon;
         ImageCanvas::Tool tool;
     };
     const Choice choices[] = {
-        {tr("&Move the picture"), Qt::Key_F6, ToolIcon::Pan, ImageCanvas::Tool::Pan},
-        {tr("Draw a re&gion"), Qt::Key_F7, ToolIcon::Region, ImageCanvas::Tool::Region},
-        {tr("Draw a &line"), Qt::Key_F8, ToolIcon::Line, ImageCanvas::Tool::Line},
+        {tr("&Move the picture"), Qt::Key_F6, Kind::Pan, ImageCanvas::Tool::Pan},
+        {tr("Draw a re&gion"), Qt::Key_F7, Kind::Region, ImageCanvas::Tool::Region},
+        {tr("Draw a &line"), Qt::Key_F8, Kind::Line, ImageCanvas::Tool::Line},
     };
     for (const Choice &choice : choices) {
         QAction *const action
