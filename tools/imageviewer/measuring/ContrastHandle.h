@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A handle of the contrast curve, which is moved with the mouse or, while it has the focus, with the arrow
-/// keys. Reports where a person wants it; its owner moves it.
+/// A round handle of the contrast curve, which is moved with the mouse or, while it has the focus, with the
+/// arrow keys. Reports where a person wants it; its owner moves it.
 class ContrastHandle : public QWidget
 {
     Q_OBJECT
@@ -11,14 +11,16 @@ class ContrastHandle : public QWidget
 public:
     ContrastHandle(const QString &name, const QColor &color, QWidget *parent);
 
-signals:
-    /// @param position In the parent's coordinates.
-    void dragged(const QPointF &position);
+    /// Puts the centre at a point of the parent.
+    void moveCenter(const QPointF &center);
 
-    /// An arrow key was pressed. Right and up are positive.
+signals:
+    void dragged(const QPointF &center); ///< In the parent's coordinates.
+
+    /// An arrow key was pressed; with Page Up and Page Down, ten steps at once. Right and up are positive.
     void stepped(int steps);
 
-    void reset(); ///< Double-clicked.
+    void resetRequested(); ///< Double-clicked, or the key Delete.
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -29,5 +31,5 @@ protected:
 
 private:
     QColor m_color;
-    QPointF m_grip; ///< Where in the handle the mouse button was pressed, from its centre.
+    QPointF m_grip; ///< Where the mouse button was pressed, from the centre.
 };

@@ -9,11 +9,12 @@
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
+class QFormLayout;
 class QLabel;
 class QPushButton;
 
 /// The controls for what concerns only the display: demosaicing, white balance, clip marks and the size of a
-/// pixel. The contrast curve belongs to HistogramWidget.
+/// pixel. The contrast curve, which belongs to HistogramWidget, is kept here with the other settings.
 class DisplayControls : public QWidget
 {
     Q_OBJECT
@@ -21,23 +22,21 @@ class DisplayControls : public QWidget
 public:
     explicit DisplayControls(QWidget *parent = nullptr);
 
-    /// Sets the controls without a signal.
-    void setSettings(const DisplaySettings &settings);
-
-    /// Shows and changes everything but the contrast curve, which is passed on.
     const DisplaySettings &settings() const { return m_settings; }
-    void setCurve(const ContrastCurve &curve) { m_settings.curve = curve; }
 
+    // These functions emit the same signals as a person's choice.
+    void setSettings(const DisplaySettings &settings);
+    void setCurve(const ContrastCurve &curve);
     void setGains(const std::array<double, 3> &gains);
-
-    double micrometresPerPixel() const;
     void setMicrometresPerPixel(double micrometres);
+    void setPickingGrey(bool isPicking);
+
+    double micrometresPerPixel() const; ///< 0 if unknown.
 
     /// Disables what has no meaning for the picture.
     void setPictureKind(bool isBayer, bool hasColors);
 
     void setWhiteBalanceWritable(bool isWritable);
-    void setPickingGrey(bool isPicking);
 
 signals:
     void settingsChanged(const DisplaySettings &settings);
@@ -46,9 +45,10 @@ signals:
     void whiteBalanceWriteRequested(const std::array<double, 3> &gains);
 
 private:
+    void addPictureRows(QFormLayout *layout);
+    void addWhiteBalanceRows(QFormLayout *layout);
     void changeDemosaicing(int index);
     void changeClipMarks(bool isOn);
-    void resetGains();
     void showGains();
     void enableButtons();
 

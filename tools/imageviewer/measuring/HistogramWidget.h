@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <utility>
 
 class ContrastHandle;
 class QPainter;
@@ -27,6 +28,9 @@ public:
     const ContrastCurve &curve() const { return m_curve; }
 
     bool isLogarithmic() const { return m_isLogarithmic; }
+
+    /// Returns the shares of clipped pixels as text: the highest of all components.
+    QString clipText() const;
 
     /// Returns the text for the value under the pointer; empty if the pointer is elsewhere.
     QString pointerText() const;
@@ -53,7 +57,10 @@ private:
     void changeCurve(const ContrastCurve &curve);
     void moveBlack(double share);
     void moveWhite(double share);
-    void moveMiddle(double middle);
+    void dragMiddle(const QPointF &point);
+    void changeGamma(double gamma);
+    double shareAt(const QPointF &point) const;
+    std::pair<double, double> clipShares() const;
     void drawComponents(QPainter &painter, const QRectF &area) const;
     void drawCurve(QPainter &painter, const QRectF &area) const;
     void drawTexts(QPainter &painter, const QRectF &area) const;

@@ -13,21 +13,23 @@
 
 class DisplayControls;
 class HistogramWidget;
-class ProfileWidget;
-class QCheckBox;
+class ProfileBox;
 class QComboBox;
 class QLabel;
+class QPushButton;
+class QVBoxLayout;
 class StatisticsTable;
 
-/// The panel with histogram, line profile, statistics and the settings of the display.
+/// The panel with histogram, line profile, statistics and the settings of the display. Scrolls if it is
+/// higher than its place.
 ///
 /// The window connects it as follows. measureRequestChanged() goes to Measurer::setRequest(), and
-/// Measurer::measured() comes back to setMeasurements(). displaySettingsChanged() goes to the canvas and so
-/// to PictureFeed, micrometresPerPixelChanged() to the canvas. Of the canvas, regionChanged(), lineChanged()
-/// and pointerMoved() go to setRegion(), setLine() and setPointer(). While a person picks a grey patch, which
-/// greyPickingChanged() tells, a click in the canvas calls balanceWhite() with the image that is shown.
-/// whiteBalanceWriteRequested() asks to multiply the camera's own balance by the gains; when that is done,
-/// the window calls resetWhiteBalance(). A panel that is not visible requests nothing.
+/// Measurer::measured() comes back to setMeasurements(). displaySettingsChanged() and
+/// micrometresPerPixelChanged() go to the canvas. The canvas's regionChanged(), lineChanged() and
+/// pointerMoved() go to setRegion(), setLine() and setPointer(). While a person picks a grey patch, as
+/// greyPickingChanged() reports, the canvas's picked() leads to balanceWhite() with the image that is shown.
+/// whiteBalanceWriteRequested() asks to multiply the camera's white balance by the gains; when the camera has
+/// them, the window calls resetWhiteBalance(). A panel that is not visible requests nothing.
 class MeasuringPanel : public QWidget
 {
     Q_OBJECT
@@ -38,15 +40,17 @@ public:
     MeasureRequest measureRequest() const;
     const DisplaySettings &displaySettings() const;
     double micrometresPerPixel() const;
+    bool isLogarithmic() const;
 
-    /// Restore earlier choices, with the same signals as those of a person.
+    // These functions restore earlier choices and emit the same signals as a person's choice.
     void setDisplaySettings(const DisplaySettings &settings);
     void setMicrometresPerPixel(double micrometres);
+    void setLogarithmic(bool isLogarithmic);
 
     /// Enables the button that writes the white balance to the camera.
     void setWhiteBalanceWritable(bool isWritable);
 
-    /// Makes the surroundings of this pixel grey, and ends picking. Says so if the picture has no colours.
+    /// Makes the surroundings of this pixel grey, and ends picking; or says why they cannot serve.
     void balanceWhite(const CvxCPP::Image &image, const QPoint &pixel);
     void resetWhiteBalance();
 
@@ -56,7 +60,7 @@ public slots:
     void setLine(const QLine &line); ///< Null if none is drawn.
     void setPointer(const QPoint &pixel); ///< The pixel under the pointer or the crosshair.
     void clear(); ///< There is no picture any more.
-    void applyAutomaticContrast();
+    void fitContrast(); ///< Has no effect before the first histogram.
     void resetContrast();
 
 signals:
@@ -71,30 +75,19 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    enum class ProfileKind
-    {
-        Row,
-        Column,
-        DrawnLine
-    };
-
-    QWidget *createHistogramBox();
-    QWidget *createStatisticsBox();
-    QWidget *createProfileBox();
-    void changeCurve(const ContrastCurve &curve);
-    void changeRequest();
-    std::optional<MeasuredLine> profileLine() const;
+    void addHistogram(QVBoxLayout *layout);
+    void addStatistics(QVBoxLayout *layout);
+    void addDisplay(QVBoxLayout *layout);
+    void requestMeasurement();
     void describePicture(const Measurements &measurements);
 
     HistogramWidget *m_histogram;
-    ProfileWidget *m_profile;
+    QPushButton *m_logarithmic;
+    ProfileBox *m_profile;
     StatisticsTable *m_statistics;
     DisplayControls *m_display;
     QComboBox *m_area; ///< Whole picture or drawn region.
-    QComboBox *m_profileKind;
-    QLabel *m_profileText;
     QLabel *m_message;
+    std::uint32_t m_pixelFormat = 0; ///< The format that the controls were enabled for.
     QRect m_region;
-    QLine m_line;
-    QPoint m_pointer;
 };

@@ -6,6 +6,9 @@
 
 #include <optional>
 
+class QPainter;
+struct PlotAxis;
+
 /// Draws the values along a line, one curve for each component, and shows the values under the pointer.
 class ProfileWidget : public QWidget
 {
@@ -17,9 +20,6 @@ public:
     /// Nothing means that there is no line or no picture.
     void setProfile(const std::optional<LineProfile> &profile);
     const std::optional<LineProfile> &profile() const { return m_profile; }
-
-    /// Sets the number that the first pixel of the line has, for example its column.
-    void setOrigin(double origin);
 
     /// Returns the text for the position under the pointer; empty if the pointer is elsewhere.
     QString pointerText() const;
@@ -34,8 +34,8 @@ protected:
 
 private:
     QRectF plotArea() const;
+    void drawCurves(QPainter &painter, const QRectF &area, const PlotAxis &values) const;
 
     std::optional<LineProfile> m_profile;
-    double m_origin = 0;
     std::optional<double> m_pointer; ///< Share of the line under the pointer.
 };

@@ -6,7 +6,8 @@
 
 #include <vector>
 
-/// Shows the statistics of each component. "Copy" puts the table on the clipboard, as text with tabulators.
+/// Shows the statistics of each component in a column. "Copy" puts the table on the clipboard, as text with
+/// tabulators.
 class StatisticsTable : public QTableWidget
 {
     Q_OBJECT
@@ -16,7 +17,8 @@ public:
 
     void setStatistics(const std::vector<ComponentStatistics> &statistics);
 
-    /// Returns the table as text: one line per component, after a line of titles.
+    /// Returns the table as text: one line per component, after a line of titles; numbers without
+    /// group separators.
     QString text() const;
 
     QSize sizeHint() const override;
@@ -27,4 +29,7 @@ public slots:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    std::vector<ComponentStatistics> m_statistics;
 };
