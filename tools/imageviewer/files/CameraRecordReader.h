@@ -4,6 +4,7 @@
 #include "tools/kit/camera/CameraConnection.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <list>
@@ -18,29 +19,29 @@ public:
 
     explicit CameraRecordReader(CameraConnection &connection, QObject *parent = nullptr);
 
-    /// Reads the record in the background and calls `done` on the GUI thread. If the camera is lost, `done`
-    /// receives the record that was read last, or one without settings.
-    void read(Done done);
+    /// Reads the record in the background and calls `done` on the GUI thread, unless `context` was destroyed.
+    /// If the camera is lost or closed, `done` receives the record that was read last, or one without
+    /// settings.
+    void read(QObject *context, Done done);
 
-    /// Reads the record so that it is known if the camera is lost later.
-    void refresh();
-
-    const CameraConnection &connection() const { return m_connection; }
+    CameraConnection &connection() const { return m_connection; }
 
 private:
     struct Request
     {
-        QString camera; // ID.
+        CameraEntry camera;
+        QPointer<QObject> context;
         Done done;
     };
     using Requests = std::list<Request>;
 
-    void answer(Requests::iterator request, const CameraRecord &record);
-    void answerForOtherCameras();
-    CameraRecord knownRecord() const;
+    void take(Requests::iterator request, const CameraRecord &record);
+    void answerWhenReplaced();
+    void answer(const Request &request) const;
+    CameraRecord knownRecord(const CameraEntry &camera) const;
 
     CameraConnection &m_connection;
-    QString m_recordedCamera; // ID.
+    QString m_recordedCamera; // ID of the camera to which the record belongs.
     CameraRecord m_record;
-    Requests m_requests;
+    Requests m_requests; // Being read.
 };

@@ -19,5 +19,8 @@ QString findFfmpeg();
 /// Returns the arguments with which ffmpeg reads the frames from its standard input and writes the video.
 QStringList ffmpegArguments(RecordingFormat codec, const VideoFormat &format, const QString &path);
 
+/// Returns true if ffmpeg is needed for the format.
+bool isVideo(RecordingFormat format);
+
 /// Returns the extension of the file without dot: "tif", "raw", "mp4" or "mkv".
 QString recordingExtension(RecordingFormat format);

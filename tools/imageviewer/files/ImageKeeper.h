@@ -29,6 +29,8 @@ private:
         std::atomic<std::size_t> copied{0};
     };
 
+    std::shared_ptr<const CvxCPP::Image> copyOf(const CvxCPP::Image &image) const;
+
     const unsigned m_maxHeld;
     const std::size_t m_maxCopied;
     const std::shared_ptr<Usage> m_usage = std::make_shared<Usage>(); // Kept images may outlive us.

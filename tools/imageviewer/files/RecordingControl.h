@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/imageviewer/files/CameraRecordReader.h"
+#include "tools/imageviewer/files/NewFile.h"
 #include "tools/imageviewer/files/RecordingOptions.h"
 #include "tools/imageviewer/files/RecordingSink.h"
 #include "tools/imageviewer/files/RecordingSummary.h"
@@ -14,9 +15,10 @@
 
 #include <memory>
 
-/// Records the stream to a file. A slow disk holds up neither the stream nor the live picture: images that do
-/// not fit into memory are counted as skipped. A lost camera does not end a recording, which goes on when the
-/// camera is back. All functions are called on the GUI thread and return immediately.
+/// Records the stream to a file. A slow disk holds up neither the stream nor the live picture: images wait in
+/// a few buffers of the stream, then in memory, and those that do not fit there are counted as skipped. A
+/// lost camera does not end a recording, which goes on when the camera is back. All functions are called on
+/// the GUI thread and return immediately.
 class RecordingControl : public QObject
 {
     Q_OBJECT
@@ -37,8 +39,10 @@ public:
     ~RecordingControl() override;
 
     State state() const { return m_state; }
-    const RecordingProgress &progress() const { return m_progress; }
-    bool isCameraLost() const; ///< The recording waits for the camera.
+    const RecordingProgress &progress() const { return m_result.progress; }
+
+    /// Returns true if the recording waits for a camera that is gone.
+    bool isCameraLost() const;
 
     /// Begins a recording. Has no effect unless the state is Idle.
     void start(const RecordingOptions &options);
@@ -54,27 +58,39 @@ signals:
     void finished(const RecordingResult &result);
 
 private:
+    // What the worker hands over when the file exists, or cannot be created.
+    struct Prepared
+    {
+        std::shared_ptr<NewFile> file;
+        std::shared_ptr<RecordingTarget> target;
+        QString problem;
+    };
+
     void prepare(const CameraRecord &record);
-    void begin(const QString &path, const QString &problem);
-    void finish(const QString &problem);
+    static Prepared open(const RecordingOptions &options, const CameraRecord &record, double rate);
+    void begin(const Prepared &prepared);
+    void finish();
     void report(const QString &problem);
+    void stopIfComplete();
     void followStream();
     void followCamera();
-    void updateProgress();
+    void update();
+    void countLosses();
+    void takeCounters();
     void measureSpace();
-    void takeSpace(std::uint64_t spaceLeft, std::uint64_t fileBytes);
+    void takeSpace(std::optional<std::uint64_t> spaceLeft, std::uint64_t fileBytes);
     void setState(State state);
 
     LiveStream &m_stream;
     CameraRecordReader &m_records;
     State m_state = State::Idle;
     RecordingOptions m_options;
-    RecordingProgress m_progress;
     RecordingResult m_result;
+    QString m_endProblem; // Why the recording has to end, if the target does not know it.
     StreamTotals m_totals;
     CvxCPP::StreamStatistics m_before; // When the recording began.
-    std::shared_ptr<RecordingTarget> m_target;
-    std::unique_ptr<RecordingSink> m_sink;
+    Prepared m_prepared;
+    std::unique_ptr<RecordingSink> m_sink; // Null unless the state is Recording.
     bool m_isMeasuring = false;
     QTimer m_timer;
     QThreadPool m_pool; // Ends before the other members.

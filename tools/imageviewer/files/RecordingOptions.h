@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 /// What a recording is written to.
 enum class RecordingFormat : std::uint8_t
@@ -32,7 +33,7 @@ struct RecordingProgress
     double seconds = 0;
     std::uint64_t bytes = 0; ///< Bytes of these images as the camera has sent them.
     std::uint64_t fileBytes = 0; ///< Size of the file.
-    std::uint64_t spaceLeft = 0; ///< Bytes that a recording may still use; 0 if unknown.
+    std::optional<std::uint64_t> spaceLeft; ///< Bytes that a recording may still use, if that is known.
     std::uint64_t waiting = 0; ///< Images that wait for the disk or for the encoder.
     std::uint64_t skipped = 0; ///< Images that did not fit into memory because the disk is too slow.
     std::uint64_t unwritten = 0; ///< Images that a failure kept from the file.

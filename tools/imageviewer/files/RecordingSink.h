@@ -24,7 +24,10 @@ public:
     /// Returns the time since the first image; 0 before it. Any thread.
     double seconds() const;
 
-    /// Returns true if size or format of the images has changed. Any thread.
+    /// Returns true if a limit is reached, also if no image arrives any more. Any thread.
+    bool isComplete() const;
+
+    /// Returns true if width or format of the images has changed. Any thread.
     bool hasFormatChanged() const;
 
 signals:
@@ -34,7 +37,14 @@ signals:
 private:
     using Clock = std::chrono::steady_clock;
 
-    bool isFull(Clock::time_point now) const;
+    struct Decision
+    {
+        bool isTaken = false;
+        bool isLast = false;
+    };
+
+    Decision decide(const CvxCPP::ImageInfo &info);
+    bool isTimeOver() const; // With the mutex.
 
     RecordingTarget &m_target;
     const std::uint64_t m_maxImages;

@@ -3,6 +3,7 @@
 #include "CvxCPP/Image.h"
 #include "sdk/imagefile/ImageFileWriter.h"
 #include "tools/imageviewer/files/CameraRecordReader.h"
+#include "tools/imageviewer/files/ImageKeeper.h"
 
 #include <QImage>
 #include <QObject>
@@ -26,9 +27,11 @@ class SnapshotSaver : public QObject
     Q_OBJECT
 
 public:
+    static constexpr int thumbnailSize = 96; ///< Longest side in pixels.
+
     explicit SnapshotSaver(CameraRecordReader &records, QObject *parent = nullptr);
 
-    /// Blocks until the images that are being saved are on the disk.
+    /// Blocks until the images that are being written are on the disk.
     ~SnapshotSaver() override;
 
     void save(const std::shared_ptr<const CvxCPP::Image> &image, const SnapshotOptions &options);
@@ -44,14 +47,29 @@ signals:
     void failed(const QString &text);
 
 private:
-    struct Job;
-    struct Outcome;
+    struct Job
+    {
+        std::shared_ptr<const CvxCPP::Image> image;
+        SnapshotOptions options;
+    };
 
-    void write(Job job, const CameraRecord &record);
+    struct Outcome
+    {
+        QString path;
+        QImage thumbnail;
+        QString problem;
+    };
+
+    void write(const Job &job, const CameraRecord &record);
+    Outcome writeFile(const Job &job, const CameraRecord &record);
     void report(const Outcome &outcome);
 
     CameraRecordReader &m_records;
+    ImageKeeper m_keeper;
     int m_pending = 0;
-    ImageFileWriter m_writer; // Used on the pool's one thread.
+    QString m_lastPattern; // Of the last file, with folder and extension. Used on the pool's one thread,
+    unsigned m_lastNumber = 0; // like these members.
+    ImageFileWriter m_writer;
+    ImageConverter m_converter;
     QThreadPool m_pool; // Ends before the other members.
 };

@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QListWidget>
 
-/// The last snapshots as small pictures, the latest one first. A click opens the picture in the desktop's
-/// viewer; a menu opens the folder, copies the path, or deletes the file after asking.
+/// The last snapshots as small pictures, the latest one first. A click or Enter opens the picture in the
+/// desktop's viewer; a menu opens the folder, copies the path, or deletes the file after asking.
 class ThumbnailStrip : public QListWidget
 {
     Q_OBJECT
@@ -14,24 +14,30 @@ public:
 
     explicit ThumbnailStrip(QWidget *parent = nullptr);
 
+    QSize sizeHint() const override;
+
+    /// Returns the path of the selected picture; empty if none is selected.
+    QString currentPath() const;
+
 public slots:
     void add(const QString &path, const QImage &thumbnail);
 
-signals:
-    /// Opening is left to the desktop; see QDesktopServices.
-    void openRequested(const QString &path);
+    /// Opens the selected picture.
+    void open();
+    void openFolder();
+    void copyPath();
 
+    /// Asks, then deletes the selected picture and its sidecar.
+    void askToDelete();
+
+signals:
     /// A file cannot be opened or deleted; `text` is for people.
     void failed(const QString &text);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    void open(const QListWidgetItem *item);
-    void openFolder();
-    void copyPath();
-    void deleteFile();
-    QString currentPath() const;
+    void openUrl(const QString &path);
+    void deleteFile(const QString &path);
 };

@@ -4,18 +4,17 @@
 #include "tools/imageviewer/files/FfmpegCommand.h"
 #include "tools/imageviewer/files/ImageKeeper.h"
 #include "tools/imageviewer/files/RecordingTarget.h"
-#include "tools/imageviewer/files/VideoFrames.h"
 
 #include <QCoreApplication>
-#include <QProcess>
+#include <QThread>
 
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <thread>
 
 /// Encodes 8-bit video with the ffmpeg program, on a thread of its own. A slow encoder holds up nobody:
-/// images that it cannot take in time are counted as skipped.
+/// images that it cannot take in time are counted as skipped. All images have the format of the first one;
+/// another one ends the video.
 class VideoWriter final : public RecordingTarget
 {
     Q_DECLARE_TR_FUNCTIONS(VideoWriter)
@@ -32,7 +31,7 @@ public:
 
     VideoWriter(Options options, ImageKeeper keeper);
 
-    /// Ends the encoder; the file contains the images that were written so far.
+    /// Encodes the waiting images and ends the encoder.
     ~VideoWriter() override;
 
     QString open() override;
@@ -42,9 +41,17 @@ public:
     QString finish(const CvxCPP::StreamStatistics &losses) override;
 
 private:
+    void encodeImages();
+    std::shared_ptr<const CvxCPP::Image> nextImage();
+    void countWritten(const CvxCPP::Image &image);
+    void failWith(const QString &problem);
+    void end();
+    QString updateSidecar() const;
+
     const Options m_options;
     ImageKeeper m_keeper;
-    std::thread m_thread;
+    nlohmann::ordered_json m_sidecar;
+    std::unique_ptr<QThread> m_thread; // A QThread, because QProcess needs one.
     std::condition_variable m_changed;
     mutable std::mutex m_mutex; // Protects the following members.
     std::deque<std::shared_ptr<const CvxCPP::Image>> m_images;

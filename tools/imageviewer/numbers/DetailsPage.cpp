@@ -56,7 +56,7 @@ QWidget *DetailsPage::createAdvice()
     auto *const advice = new QWidget(this);
     advice->setObjectName(QStringLiteral("lossAdvice"));
     m_adviceText = new QLabel(advice);
-    m_adviceText->setProperty("tone", QStringLiteral("warning"));
+    m_adviceText->setProperty("role", QStringLiteral("warning"));
     m_adviceText->setWordWrap(true);
     m_adviceText->setTextFormat(Qt::PlainText);
     m_adviceText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -43,7 +43,8 @@ void StatusNumbers::showFigures(const StreamFigures &figures, const LossAdvice &
     m_losses->setText(losses.isEmpty() ? tr("No losses") : losses);
     m_losses->setToolTip(
         advice.text.isEmpty() ? tr("What was lost since the camera was opened.") : advice.text);
-    m_losses->setProperty("tone", losses.isEmpty() ? QStringLiteral("secondary") : QStringLiteral("warning"));
+    m_losses->setProperty("role", losses.isEmpty() ? QStringLiteral("secondary") : QStringLiteral("warning"));
+    m_losses->style()->unpolish(m_losses);
     m_losses->style()->polish(m_losses); // The style sheet has rules for the property.
 }
 
