@@ -1,30 +1,62 @@
 #include "tools/kit/canvas/ImageCanvas.h"
 
-ImageCanvas::ImageCanvas(QWidget *parent) : QWidget(parent) { }
+#include <QLocale>
+
+#include <utility>
+
+ImageCanvas::ImageCanvas(QWidget *parent) : QWidget(parent)
+{
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Picture"));
+    setHint(tr("No picture yet"));
+}
+
 ImageCanvas::~ImageCanvas() = default;
 
 void ImageCanvas::setPicture(const ShownPicture &picture)
 {
+    if (m_view.pictureSize().isEmpty())
+        setPictureSize(picture.pictureSize);
     m_picture = picture;
+    m_layer = PictureLayer(picture, m_view.orientation());
+    if (m_layer.isComplete()) {
+        m_wholePicture = picture;
+        m_wholePicture.image.reset(); // It would occupy a buffer of the stream.
+        m_wholeLayer = m_layer;
+    }
+    if (!m_notice.isEmpty())
+        updateLayers();
+    m_isNewPicture = true;
     update();
 }
 
 void ImageCanvas::setPictureSize(const QSize &size)
 {
+    if (m_view.pictureSize() == size)
+        return;
     m_view.setPictureSize(size);
-    emit requestChanged();
+    m_wholePicture = {};
+    m_wholeLayer = {};
+    finishViewChange();
 }
 
 void ImageCanvas::clear()
 {
     m_picture = {};
-    update();
+    m_wholePicture = {};
+    m_view.setPictureSize({});
+    m_isNewPicture = false;
+    updateLayers();
+    finishViewChange();
 }
 
 const ShownPicture &ImageCanvas::picture() const
 {
     return m_picture;
 }
+
 const ViewTransform &ImageCanvas::view() const
 {
     return m_view;
@@ -46,91 +78,229 @@ ImageCanvas::Tool ImageCanvas::tool() const
 {
     return m_tool;
 }
+
 void ImageCanvas::setTool(Tool tool)
 {
     m_tool = tool;
+    m_drag = Drag::None;
+    updateCursor();
+    update();
 }
+
+/// Returns null if the tool draws nothing.
+DrawingTool *ImageCanvas::drawingTool()
+{
+    switch (m_tool) {
+    case Tool::Region:
+        return &m_regionTool;
+    case Tool::Line:
+        return &m_lineTool;
+    default:
+        return nullptr;
+    }
+}
+
 QRect ImageCanvas::region() const
 {
-    return m_region;
+    return m_regionTool.region();
 }
+
 void ImageCanvas::setRegion(const QRect &region)
 {
-    m_region = region;
+    m_regionTool.setRegion(region);
+    m_reportedDrawnRegion = region;
+    update();
 }
+
 QLine ImageCanvas::line() const
 {
-    return m_line;
+    return m_lineTool.line();
 }
+
 void ImageCanvas::setLine(const QLine &line)
 {
-    m_line = line;
+    m_lineTool.setLine(line);
+    m_reportedLine = line;
+    update();
 }
+
 bool ImageCanvas::hasGrid() const
 {
     return m_hasGrid;
 }
+
 bool ImageCanvas::hasCrosshair() const
 {
     return m_hasCrosshair;
 }
+
 double ImageCanvas::micrometresPerPixel() const
 {
     return m_micrometresPerPixel;
 }
+
 void ImageCanvas::setNotice(const QString &text)
 {
-    m_notice = text;
+    if (std::exchange(m_notice, text) == text)
+        return;
+    updateLayers();
+    updateAccessibleDescription();
+    update();
 }
+
 void ImageCanvas::setHint(const QString &text)
 {
     m_hint = text;
+    updateAccessibleDescription();
+    update();
 }
+
 void ImageCanvas::setOrientation(const Orientation &orientation)
 {
     m_view.setOrientation(orientation);
+    finishViewChange();
 }
+
 void ImageCanvas::fit()
 {
     m_view.fit();
+    finishViewChange();
 }
+
 void ImageCanvas::showActualSize()
 {
-    m_view.setScale(1, rect().center());
+    m_view.setScale(1, center());
+    finishViewChange();
 }
+
 void ImageCanvas::zoomIn()
 {
-    m_view.zoomIn(rect().center());
+    m_view.zoomIn(center());
+    finishViewChange();
 }
+
 void ImageCanvas::zoomOut()
 {
-    m_view.zoomOut(rect().center());
+    m_view.zoomOut(center());
+    finishViewChange();
 }
+
 void ImageCanvas::rotateRight()
 {
     m_view.rotate(1);
+    finishViewChange();
 }
+
 void ImageCanvas::rotateLeft()
 {
     m_view.rotate(-1);
+    finishViewChange();
 }
+
 void ImageCanvas::mirrorHorizontally()
 {
     m_view.mirrorHorizontally();
+    finishViewChange();
 }
+
 void ImageCanvas::mirrorVertically()
 {
     m_view.mirrorVertically();
+    finishViewChange();
 }
+
 void ImageCanvas::setGrid(bool isVisible)
 {
     m_hasGrid = isVisible;
+    update();
 }
+
 void ImageCanvas::setCrosshair(bool isVisible)
 {
     m_hasCrosshair = isVisible;
+    update();
 }
+
 void ImageCanvas::setMicrometresPerPixel(double micrometres)
 {
     m_micrometresPerPixel = micrometres;
+    update();
+}
+
+void ImageCanvas::updateViewSize()
+{
+    m_view.setViewSize(size(), devicePixelRatioF());
+    finishViewChange();
+}
+
+/// Repaints, and reports what has changed.
+void ImageCanvas::finishViewChange()
+{
+    const bool isTurned
+        = !(std::exchange(m_reportedOrientation, m_view.orientation()) == m_view.orientation());
+    const bool isScaled = std::exchange(m_reportedScale, m_view.scale()) != m_view.scale();
+    if (isTurned)
+        updateLayers();
+    if (isTurned || isScaled) {
+        updateAccessibleDescription();
+        emit viewChanged();
+    }
+    const PictureRequest wanted = request();
+    const bool isMoved = std::exchange(m_reportedRegion, wanted.region) != wanted.region;
+    const bool isResized = std::exchange(m_reportedSize, wanted.pictureSize) != wanted.pictureSize;
+    if (isMoved || isScaled || isResized)
+        emit requestChanged();
+    reportPointer();
+    updateCursor();
+    update();
+}
+
+/// Makes the turned pictures again.
+void ImageCanvas::updateLayers()
+{
+    m_layer = PictureLayer(m_picture, m_view.orientation());
+    m_wholeLayer = PictureLayer(m_wholePicture, m_view.orientation());
+    if (m_notice.isEmpty())
+        return;
+    m_layer.makeGrey();
+    m_wholeLayer.makeGrey();
+}
+
+void ImageCanvas::updateAccessibleDescription()
+{
+    const QSize size = m_view.pictureSize();
+    if (!m_notice.isEmpty()) {
+        setAccessibleDescription(m_notice);
+    } else if (size.isEmpty()) {
+        setAccessibleDescription(m_hint);
+    } else {
+        const QLocale locale;
+        setAccessibleDescription(tr("%1 by %2 pixels, shown at %3 %")
+                                     .arg(locale.toString(size.width()), locale.toString(size.height()),
+                                         locale.toString(100 * m_view.scale(), 'g', 3)));
+    }
+}
+
+/// Reports a pixel when it is another one than before.
+void ImageCanvas::reportPointer()
+{
+    const std::optional<QPoint> pixel = m_pointer ? m_view.pixelAt(*m_pointer) : std::nullopt;
+    if (std::exchange(m_reportedPixel, pixel) == pixel)
+        return;
+    if (m_tool == Tool::Pick)
+        update();
+    if (pixel)
+        emit pointerMoved(*pixel);
+    else
+        emit pointerLeft();
+}
+
+/// Reports what a person has changed of region and line.
+void ImageCanvas::reportDrawing()
+{
+    update();
+    if (std::exchange(m_reportedDrawnRegion, region()) != region())
+        emit regionChanged(region());
+    if (std::exchange(m_reportedLine, line()) != line())
+        emit lineChanged(line());
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "tools/kit/canvas/LineTool.h"
+#include "tools/kit/canvas/PictureLayer.h"
+#include "tools/kit/canvas/PixelValuePainter.h"
+#include "tools/kit/canvas/RegionTool.h"
 #include "tools/kit/canvas/ViewTransform.h"
 #include "tools/kit/live/PictureFeed.h"
 
@@ -7,6 +11,8 @@
 #include <QPoint>
 #include <QRect>
 #include <QWidget>
+
+#include <optional>
 
 /// Shows a picture: fitted, at its own size, or zoomed and moved with wheel, mouse and keys. Draws what helps
 /// to read the picture, and lets a person draw a region or a line on it. All coordinates in the interface are
@@ -94,16 +100,78 @@ signals:
     void lineChanged(const QLine &line);
     void picked(const QPoint &pixel);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
 private:
+    /// What the mouse does while a button is pressed.
+    enum class Drag
+    {
+        None,
+        Pan,
+        Minimap,
+        Draw
+    };
+
+    QPointF center() const { return {width() / 2.0, height() / 2.0}; }
+    DrawingTool *drawingTool();
+    void updateViewSize();
+    void finishViewChange();
+    void updateLayers();
+    void updateAccessibleDescription();
+    void updateCursor();
+    void reportPointer();
+    void reportDrawing();
+    bool isPicture(const CvxCPP::Image &image) const;
+
+    Drag dragFor(const QMouseEvent &event) const;
+    void panByKey(int key, bool isFar);
+    void changeDrawingByKey(int key, bool resizes);
+
+    void paintPicture(QPainter &painter);
+    void paintOverlays(QPainter &painter);
+
     ViewTransform m_view;
     ShownPicture m_picture;
+    ShownPicture m_wholePicture; ///< The last one that contained everything.
+    PictureLayer m_layer;
+    PictureLayer m_wholeLayer;
     DisplaySettings m_settings;
+    PixelValuePainter m_pixelValues;
+    bool m_isNewPicture = false; ///< Not painted yet.
+    QString m_notice;
+    QString m_hint;
+
     Tool m_tool = Tool::Pan;
-    QRect m_region;
-    QLine m_line;
+    RegionTool m_regionTool;
+    LineTool m_lineTool;
     bool m_hasGrid = false;
     bool m_hasCrosshair = false;
     double m_micrometresPerPixel = 0;
-    QString m_notice;
-    QString m_hint;
+
+    Drag m_drag = Drag::None;
+    std::optional<QPointF> m_pointer; ///< In the view.
+    std::optional<QPoint> m_reportedPixel;
+    bool m_isSpacePressed = false;
+    int m_wheelAngle = 0; ///< What small movements of the wheel add up to.
+    bool m_hasFocusFrame = false;
+
+    // What was reported last.
+    QRect m_reportedRegion;
+    QSize m_reportedSize;
+    double m_reportedScale = 0;
+    Orientation m_reportedOrientation;
+    QRect m_reportedDrawnRegion;
+    QLine m_reportedLine;
 };
