@@ -59,6 +59,7 @@ ViewerWindow::~ViewerWindow()
     // The sinks are members of this class, and the stream must not call them any more.
     m_stream.removeSink(&m_feed);
     m_stream.removeSink(&m_measurer);
+    deleteWidgets();
 }
 
 QDockWidget *ViewerWindow::addPanel(

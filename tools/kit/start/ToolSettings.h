@@ -25,6 +25,9 @@ public:
     template <typename Value>
     void setValue(const QString &key, const Value &value);
 
+    /// Returns all values, for objects that store their own ones.
+    QSettings &values() { return *m_settings; }
+
     void remove(const QString &key) { m_settings->remove(key); }
 
     /// Writes the file now; otherwise the destructor writes it. Returns false if that is not possible.

@@ -27,15 +27,10 @@ const QString layoutKey = QStringLiteral("window/layout");
 } // namespace
 
 ToolWindow::ToolWindow(const Setup &setup, QSettings &settings)
-    : m_setup(setup),
-      m_settings(settings),
-      m_wanted(setup.camera),
-      m_pages(new QStackedWidget(this)),
-      m_searching(new QLabel(this)),
-      m_chooser(new CameraChooser(this)),
-      m_noCamera(new NoCameraPage(this)),
-      m_content(new QWidget(this)),
-      m_features(m_connection)
+    : m_setup(setup), m_settings(settings), m_wanted(setup.camera), m_features(m_connection),
+      m_pages(new QStackedWidget(this)), m_searching(new QLabel(this)),
+      m_chooser(new CameraChooser(m_finder, this)), m_noCamera(new NoCameraPage(this)),
+      m_content(new QWidget(this))
 {
     m_searching->setAlignment(Qt::AlignCenter);
     m_searching->setWordWrap(true);
@@ -56,12 +51,20 @@ ToolWindow::ToolWindow(const Setup &setup, QSettings &settings)
     connect(bar, &ConnectionBar::controlRequested, this, [this] { reopen(CvxCPP::CvxAccessControl); });
     connect(bar, &ConnectionBar::otherCameraRequested, this, &ToolWindow::chooseCamera);
     connect(m_chooser, &CameraChooser::chosen, this, &ToolWindow::openCamera);
-    connect(m_noCamera, &NoCameraPage::searchRequested, &m_finder, &CameraFinder::refresh);
+    connect(m_noCamera, &NoCameraPage::checked, &m_finder, &CameraFinder::refresh);
     connect(&m_finder, &CameraFinder::changed, this, &ToolWindow::showCameras);
     connect(&m_connection, &CameraConnection::stateChanged, this, &ToolWindow::onConnectionChanged);
 }
 
-ToolWindow::~ToolWindow() = default;
+ToolWindow::~ToolWindow()
+{
+    deleteWidgets();
+}
+
+void ToolWindow::deleteWidgets()
+{
+    qDeleteAll(findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
+}
 
 void ToolWindow::setContent(QWidget *content)
 {
@@ -78,7 +81,6 @@ void ToolWindow::chooseCamera()
 
 void ToolWindow::showCameras()
 {
-    m_chooser->setCameras(m_finder.cameras());
     if (m_finder.state() == CameraFinder::State::Failed)
         m_noCamera->setProblem(m_finder.problem());
     if (m_isDecided)
@@ -97,9 +99,6 @@ void ToolWindow::decide()
         openCamera(m_finder.cameras().at(choice.index));
         break;
     case StartChoice::Page::Choose:
-        m_chooser->setMessage(m_wanted.isEmpty()
-                ? QString()
-                : tr("No single camera matches \"%1\". It is opened when it is plugged in.").arg(m_wanted));
         m_pages->setCurrentWidget(m_chooser);
         break;
     case StartChoice::Page::NoCamera:

@@ -58,6 +58,10 @@ protected:
     /// Shows a message box unless the text is empty.
     void showProblem(const QString &text);
 
+    /// Deletes all widgets of the window. The destructor of a tool calls this function first if its widgets use
+    /// other members of the tool.
+    void deleteWidgets();
+
     /// Saves geometry and docks.
     void closeEvent(QCloseEvent *event) override;
 
@@ -76,12 +80,12 @@ private:
     QSettings &m_settings;
     QString m_wanted; // The camera to open as soon as it is found; empty if none was named.
     bool m_isDecided = false; // A camera was opened, or a person has been asked.
+    CameraConnection m_connection;
+    FeatureClient m_features;
+    CameraFinder m_finder; // Destroyed before the connection, which ends the connection's blocked calls.
     QStackedWidget *m_pages;
     QLabel *m_searching;
     CameraChooser *m_chooser;
     NoCameraPage *m_noCamera;
     QWidget *m_content;
-    CameraConnection m_connection;
-    FeatureClient m_features;
-    CameraFinder m_finder; // Destroyed before the connection, which ends the connection's blocked calls.
 };
