@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/kit/canvas/ViewTransform.h"
 #include "tools/kit/live/PictureFeed.h"
 
 #include <QLine>
@@ -7,10 +8,8 @@
 #include <QRect>
 #include <QWidget>
 
-class ViewTransform;
-
-/// Shows a picture: fitted, at its own size, or zoomed and moved with wheel, mouse and keys. Draws what helps to
-/// read the picture, and lets a person draw a region or a line on it. All coordinates in the interface are
+/// Shows a picture: fitted, at its own size, or zoomed and moved with wheel, mouse and keys. Draws what helps
+/// to read the picture, and lets a person draw a region or a line on it. All coordinates in the interface are
 /// pixels of the picture as the camera sends it, however it is rotated or mirrored on the screen.
 class ImageCanvas : public QWidget
 {
@@ -30,7 +29,8 @@ public:
     explicit ImageCanvas(QWidget *parent = nullptr);
     ~ImageCanvas() override;
 
-    /// Shows the pixels. A picture for another size or region than the present one is placed where it belongs.
+    /// Shows the pixels. A picture for another size or region than the present one is placed where it
+    /// belongs.
     void setPicture(const ShownPicture &picture);
 
     /// Tells the size of the pictures that follow; keeps "fit" if that is the mode.
@@ -58,8 +58,14 @@ public:
     bool hasCrosshair() const;
     double micrometresPerPixel() const; ///< 0 if unknown.
 
-    /// Greys the picture out and shows a line of text over it; an empty text removes both.
+    /// Greys the picture out and shows a text over it; an empty text removes both.
     void setNotice(const QString &text);
+
+    /// Sets the text in the middle of a canvas that has no picture.
+    void setHint(const QString &text);
+
+    /// Sets how the picture is turned, for example as it was when the program ended.
+    void setOrientation(const Orientation &orientation);
 
 public slots:
     void fit();
@@ -87,4 +93,17 @@ signals:
     void regionChanged(const QRect &region); ///< Drawn, moved or removed by a person.
     void lineChanged(const QLine &line);
     void picked(const QPoint &pixel);
+
+private:
+    ViewTransform m_view;
+    ShownPicture m_picture;
+    DisplaySettings m_settings;
+    Tool m_tool = Tool::Pan;
+    QRect m_region;
+    QLine m_line;
+    bool m_hasGrid = false;
+    bool m_hasCrosshair = false;
+    double m_micrometresPerPixel = 0;
+    QString m_notice;
+    QString m_hint;
 };

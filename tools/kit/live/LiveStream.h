@@ -8,11 +8,15 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
+
+class StreamSession;
 
 /// The stream of the connected camera. Receives every image on a thread of its own and gives it to the sinks,
 /// so nothing that a window does makes the stream lose images. All functions are called on the GUI thread;
 /// only take() of the sinks is called on the thread of the stream. A stream whose camera is lost continues
-/// when the SDK has opened the camera again.
+/// when the SDK has opened the camera again. If the connection is closed or opens another camera, the state
+/// becomes Stopped.
 class LiveStream : public QObject
 {
     Q_OBJECT
@@ -37,12 +41,14 @@ public:
     QString problem() const; ///< For people; empty unless the state is Failed.
 
     /// Starts the stream with this number of buffers, 2 to 256. Has no effect unless the state is Stopped or
-    /// Failed.
+    /// Failed. A start that fails because the camera is lost is repeated when the camera is back.
     void start(unsigned buffers);
+
+    /// Stops the stream. The sinks still receive all images that have arrived before.
     void stop();
 
     /// Stops the stream if it runs, makes a call, and starts the stream again if it ran, whatever the call
-    /// returned. `done` receives the result of the call.
+    /// returned. `done` receives the result of the call; `context` must not be null if there is a `done`.
     void pauseFor(CameraConnection::Call call, QObject *context, CameraConnection::Done done);
 
     /// Returns the counters of the running stream, or those of the last one.
@@ -54,4 +60,25 @@ public:
 
 signals:
     void stateChanged();
+
+private:
+    void createSession();
+    void releaseSession();
+    void followConnection();
+    void followSession();
+    void finishCall(const StreamSession *session, const CvxCPP::CvxResult &result);
+    void setState(State state);
+
+    CameraConnection &m_connection;
+    State m_state = State::Stopped;
+    QString m_problem;
+    unsigned m_buffers = 2;
+    bool m_startsWhenBack = false; ///< The last start failed because the camera was lost.
+    int m_pendingCalls = 0; ///< Calls of the connection whose results are awaited.
+    CvxCPP::CvxResult m_startResult; ///< Of the last call that could start a stream; success after a stop.
+    std::weak_ptr<CvxCPP::Device> m_device; ///< The device of the session.
+    std::shared_ptr<StreamSession> m_session; ///< Null unless start() was called for the present device.
+    std::vector<std::shared_ptr<StreamSession>> m_releasedSessions; ///< Their threads are ending.
+    CvxCPP::StreamStatistics m_lastStatistics; ///< Those of the last released session.
+    std::vector<ImageSink *> m_sinks;
 };

@@ -13,6 +13,8 @@
 #include <cstdint>
 #include <memory>
 
+class PictureWorker;
+
 /// What a canvas shows at present. Nothing else of a picture is converted.
 struct PictureRequest
 {
@@ -34,7 +36,8 @@ struct ShownPicture
 Q_DECLARE_METATYPE(ShownPicture)
 
 /// Converts the newest image for a canvas on a thread of its own. Images that arrive while one is being
-/// converted or has not been accepted by the canvas are skipped and counted.
+/// converted or has not been accepted by the canvas are skipped and counted. At most three images are kept
+/// at any time.
 class PictureFeed : public QObject, public ImageSink
 {
     Q_OBJECT
@@ -45,17 +48,20 @@ public:
 
     void take(const std::shared_ptr<const CvxCPP::Image> &image) override;
 
-    /// Converts the present image again, and all later ones for this request. GUI thread.
+    /// Converts the present image again, and all later ones for this request. Allows the next rendered(), as
+    /// accept() does. GUI thread.
     void setRequest(const PictureRequest &request);
 
-    /// Keeps showing the present image while the stream goes on. GUI thread.
+    /// Keeps showing the present image while the stream goes on. Images that arrive meanwhile are not
+    /// counted. GUI thread.
     void setFrozen(bool isFrozen);
     bool isFrozen() const;
 
     /// Allows the next rendered(). GUI thread, after a picture was painted.
     void accept();
 
-    /// Forgets the image, for example before another camera is opened. GUI thread.
+    /// Forgets the image and ends the freeze, for example before another camera is opened. The counters start
+    /// at 0 again. GUI thread.
     void clear();
 
     /// Returns the image that is shown or frozen; null if there is none. Any thread.
@@ -68,4 +74,9 @@ signals:
     /// An image has another size than the request; nothing is rendered until setRequest() is called for it.
     void pictureSizeChanged(const QSize &size);
     void rendered(const ShownPicture &picture);
+
+private:
+    void report();
+
+    std::unique_ptr<PictureWorker> m_worker;
 };

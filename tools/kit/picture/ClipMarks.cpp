@@ -1,0 +1,160 @@
+#include "tools/kit/picture/ClipMarks.h"
+
+#include "sdk/image/PixelLayout.h"
+#include "sdk/image/RawValues.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::uint32_t brightColor = 0xffff0000;
+constexpr std::uint32_t darkColor = 0xff0000ff;
+
+/// The ends of the range of a component, as words of ImageConverter::toWords().
+struct WordRange
+{
+    std::uint16_t lowest = 0;
+    std::uint16_t highest = 0;
+};
+
+/// The components that can be clipped. They are the first ones of a pixel.
+struct ClippingComponents
+{
+    unsigned count = 0;
+    unsigned step = 1; ///< Words of a pixel.
+    std::array<WordRange, 3> ranges;
+};
+
+WordRange fullRange(unsigned depth, Number number)
+{
+    const unsigned bits = std::min(depth, 16U);
+    if (number == Number::Signed)
+        return {static_cast<std::uint16_t>(0xFFFFU << (bits - 1)),
+            static_cast<std::uint16_t>((1U << (bits - 1)) - 1)};
+    return {0, static_cast<std::uint16_t>((1U << bits) - 1)};
+}
+
+ClippingComponents clippingComponents(const PixelLayout &layout)
+{
+    ClippingComponents result;
+    const PixelFormat &format = layout.format;
+    if (layout.number == Number::Float || format.kind == PixelKind::Raw)
+        return result;
+    result.step = format.components;
+    result.count = format.kind == PixelKind::Yuv || format.kind == PixelKind::Depth
+        ? 1
+        : std::min<unsigned>(format.components, 3);
+    result.ranges.fill(fullRange(format.depth, layout.number));
+    if (format.kind == PixelKind::Yuv && layout.standard != YuvStandard::Bt601Full)
+        result.ranges[0] = {16, 235};
+    if (layout.packing == Packing::Rgb565)
+        result.ranges[0] = result.ranges[2] = fullRange(5, layout.number);
+    return result;
+}
+
+/// Adds the marks of one component to those of the line. Luma can be beyond the ends of its range.
+void addMarks(const std::uint16_t *words, unsigned step, std::uint32_t width, const WordRange &range,
+    bool isSigned, std::uint8_t *marks)
+{
+    // Moved so that the order of signed numbers is that of unsigned ones.
+    const auto flip = static_cast<std::uint16_t>(isSigned ? 0x8000 : 0);
+    const auto lowest = static_cast<std::uint16_t>(range.lowest ^ flip);
+    const auto highest = static_cast<std::uint16_t>(range.highest ^ flip);
+    for (std::size_t i = 0; i < width; ++i) {
+        const auto value = static_cast<std::uint16_t>(words[i * step] ^ flip);
+        const unsigned mark
+            = (value <= lowest ? ClipMarks::dark : 0U) | (value >= highest ? ClipMarks::bright : 0U);
+        marks[i] = static_cast<std::uint8_t>(marks[i] | mark);
+    }
+}
+
+/// Removes the marks of integers whose highest 16 bits, but not all bits, are at the end of the range.
+void checkAllBits(const RawImage &picture, const PixelLayout &layout, std::uint32_t x, std::uint32_t y,
+    std::uint32_t width, std::uint8_t *marks)
+{
+    const bool isSigned = layout.number == Number::Signed;
+    // Doubles do not contain the highest integer of 64 bits; both numbers are rounded alike.
+    const double values = static_cast<double>(std::uint64_t(1) << (layout.format.depth - 1)) * 2;
+    const double lowest = isSigned ? -values / 2 : 0;
+    const double highest = static_cast<double>((isSigned ? values / 2 : values) - 1);
+    for (std::uint32_t i = 0; i < width; ++i) {
+        if (marks[i] == 0)
+            continue;
+        const double value = rawValues(picture, x + i, y).values[0];
+        if (value > lowest && value < highest)
+            marks[i] = 0;
+    }
+}
+
+/// The pixels of an axis that output pixels show.
+struct ShownPixels
+{
+    std::uint32_t from; ///< Pixels of the region.
+    std::uint32_t to; ///< Output pixels.
+
+    std::uint32_t first(std::uint32_t index) const
+    {
+        return static_cast<std::uint32_t>(std::uint64_t(index) * from / to);
+    }
+    std::uint32_t last(std::uint32_t index) const
+    {
+        return static_cast<std::uint32_t>(((std::uint64_t(index) + 1) * from - 1) / to);
+    }
+    std::uint32_t nearest(std::uint32_t index) const
+    {
+        return static_cast<std::uint32_t>((2 * std::uint64_t(index) + 1) * from / (2 * std::uint64_t(to)));
+    }
+    /// Returns the first pixel of an output pixel and the one after its last pixel. An enlarged axis shows
+    /// one.
+    std::array<std::uint32_t, 2> range(std::uint32_t index) const
+    {
+        if (from <= to)
+            return {nearest(index), nearest(index) + 1};
+        return {first(index), last(index) + 1};
+    }
+};
+
+} // namespace
+
+const std::uint8_t *ClipMarks::line(
+    const RawImage &picture, std::uint32_t x, std::uint32_t y, std::uint32_t width)
+{
+    const PixelLayout &layout = findPixelLayout(picture.pixelFormat);
+    const ClippingComponents components = clippingComponents(layout);
+    m_marks.assign(width, 0);
+    if (components.count == 0)
+        return m_marks.data();
+    m_words.resize(std::max(m_words.size(), std::size_t(width) * components.step));
+    m_converter.toWords(picture, {x, y, width, 1}, m_words.data(), 0);
+    for (unsigned component = 0; component < components.count; ++component)
+        addMarks(m_words.data() + component, components.step, width, components.ranges[component],
+            layout.number == Number::Signed, m_marks.data());
+    if (layout.format.depth > 16)
+        checkAllBits(picture, layout, x, y, width, m_marks.data());
+    return m_marks.data();
+}
+
+void ClipMarks::paint(const RawImage &picture, const Region &region, std::uint32_t width,
+    std::uint32_t height, std::uint32_t *output, std::size_t stride)
+{
+    const ShownPixels columns{region.width, width};
+    const ShownPixels rows{region.height, height};
+    for (std::uint32_t y = 0; y < height; ++y, output += stride) {
+        m_lines.assign(region.width, 0);
+        const auto [firstRow, rowEnd] = rows.range(y);
+        for (std::uint32_t row = firstRow; row < rowEnd; ++row) {
+            const std::uint8_t *const marks = line(picture, region.x, region.y + row, region.width);
+            for (std::size_t i = 0; i < region.width; ++i)
+                m_lines[i] = static_cast<std::uint8_t>(m_lines[i] | marks[i]);
+        }
+        for (std::uint32_t x = 0; x < width; ++x) {
+            const auto [first, end] = columns.range(x);
+            unsigned marks = 0;
+            for (std::uint32_t i = first; i < end; ++i)
+                marks |= m_lines[i];
+            if (marks != 0)
+                output[x] = (marks & bright) != 0 ? brightColor : darkColor;
+        }
+    }
+}
