@@ -42,7 +42,7 @@ RecordingControl::~RecordingControl()
         return;
     m_stream.removeSink(m_sink.get());
     countLosses();
-    m_prepared.target->finish(m_totals.totals());
+    m_prepared.target->finish(losses());
 }
 
 bool RecordingControl::isCameraLost() const
@@ -101,9 +101,7 @@ void RecordingControl::begin(const Prepared &prepared)
     }
     m_prepared = prepared;
     m_result.path = prepared.file->path();
-    m_totals = {};
-    m_totals.update(m_stream.statistics());
-    m_before = m_totals.totals();
+    m_before = m_stream.totals();
     m_sink = std::make_unique<RecordingSink>(*m_prepared.target, m_options.maxImages, m_options.maxSeconds);
     connect(m_sink.get(), &RecordingSink::complete, this, &RecordingControl::stopIfComplete);
     m_stream.addSink(m_sink.get());
@@ -137,11 +135,7 @@ void RecordingControl::finish()
     m_result.hasFormatChanged = m_sink->hasFormatChanged();
     m_sink.reset();
     setState(State::Finishing);
-    CvxCPP::StreamStatistics losses;
-    losses.lost = m_result.progress.lost;
-    losses.underruns = m_result.progress.underruns;
-    losses.reopenCount = m_result.progress.reopened;
-    m_pool.start([this, target = m_prepared.target, losses] {
+    m_pool.start([this, target = m_prepared.target, losses = losses()] {
         const QString problem = target->finish(losses);
         QMetaObject::invokeMethod(
             this, [this, problem] { report(problem); }, Qt::QueuedConnection);
@@ -160,9 +154,6 @@ void RecordingControl::report(const QString &problem)
 
 void RecordingControl::followStream()
 {
-    if (m_stream.state() == LiveStream::State::Running)
-        m_totals.beginStream();
-    countLosses();
     if (m_state != State::Recording || m_stream.state() != LiveStream::State::Failed)
         return;
     m_endProblem = m_stream.problem();
@@ -186,14 +177,21 @@ void RecordingControl::followCamera()
 
 void RecordingControl::countLosses()
 {
-    // While a stream starts, the counters are still those of the previous one.
-    if (!m_sink || m_stream.state() == LiveStream::State::Starting)
+    if (!m_sink)
         return;
-    m_totals.update(m_stream.statistics());
-    const CvxCPP::StreamStatistics &now = m_totals.totals();
+    const CvxCPP::StreamStatistics now = m_stream.totals();
     m_result.progress.lost = now.lost - m_before.lost;
     m_result.progress.underruns = now.underruns - m_before.underruns;
     m_result.progress.reopened = now.reopenCount - m_before.reopenCount;
+}
+
+CvxCPP::StreamStatistics RecordingControl::losses() const
+{
+    CvxCPP::StreamStatistics losses;
+    losses.lost = m_result.progress.lost;
+    losses.underruns = m_result.progress.underruns;
+    losses.reopenCount = m_result.progress.reopened;
+    return losses;
 }
 
 void RecordingControl::takeCounters()

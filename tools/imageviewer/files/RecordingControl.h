@@ -6,7 +6,6 @@
 #include "tools/imageviewer/files/RecordingSink.h"
 #include "tools/imageviewer/files/RecordingSummary.h"
 #include "tools/imageviewer/files/RecordingTarget.h"
-#include "tools/imageviewer/numbers/StreamTotals.h"
 #include "tools/kit/live/LiveStream.h"
 
 #include <QObject>
@@ -76,6 +75,7 @@ private:
     void followCamera();
     void update();
     void countLosses();
+    CvxCPP::StreamStatistics losses() const;
     void takeCounters();
     void measureSpace();
     void takeSpace(std::optional<std::uint64_t> spaceLeft, std::uint64_t fileBytes);
@@ -87,7 +87,6 @@ private:
     RecordingOptions m_options;
     RecordingResult m_result;
     QString m_endProblem; // Why the recording has to end, if the target does not know it.
-    StreamTotals m_totals;
     CvxCPP::StreamStatistics m_before; // When the recording began.
     Prepared m_prepared;
     std::unique_ptr<RecordingSink> m_sink; // Null unless the state is Recording.

@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int pathRole = Qt::UserRole;
-constexpr int iconSize = 96; // Pixels.
+constexpr int pictureSize = 96; // Pixels.
 
 QString toolTipOf(const QFileInfo &file)
 {
@@ -38,7 +38,7 @@ ThumbnailStrip::ThumbnailStrip(QWidget *parent) : QListWidget(parent)
     setWrapping(false);
     setMovement(QListView::Static);
     setUniformItemSizes(true);
-    setIconSize({iconSize, iconSize});
+    setIconSize({pictureSize, pictureSize});
     setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -61,8 +61,8 @@ QSize ThumbnailStrip::sizeHint() const
 {
     constexpr int padding = 12;
     const int height
-        = iconSize + fontMetrics().height() + padding + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    return {4 * iconSize, height};
+        = pictureSize + fontMetrics().height() + padding + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return {4 * pictureSize, height};
 }
 
 void ThumbnailStrip::add(const QString &path, const QImage &thumbnail)
@@ -72,7 +72,7 @@ void ThumbnailStrip::add(const QString &path, const QImage &thumbnail)
     auto *const item = new QListWidgetItem(QIcon(QPixmap::fromImage(thumbnail)), file.fileName());
     item->setData(pathRole, path);
     item->setToolTip(toolTipOf(file));
-    item->setSizeHint({iconSize + cellPadding, iconSize + fontMetrics().height() + cellPadding});
+    item->setSizeHint({pictureSize + cellPadding, pictureSize + fontMetrics().height() + cellPadding});
     insertItem(0, item);
     while (count() > maxCount)
         delete takeItem(count() - 1);

@@ -54,6 +54,12 @@ CvxCPP::CvxTransportLayerType technologyOf(const CameraEntry &entry)
     return type;
 }
 
+/// Returns how much a counter has grown. A counter that is smaller than before has begun anew.
+std::uint64_t growth(std::uint64_t before, std::uint64_t now)
+{
+    return now < before ? now : now - before;
+}
+
 } // namespace
 
 StreamMonitor::StreamMonitor(LiveStream &stream, PictureFeed &feed, FeatureClient &features, QObject *parent)
@@ -62,7 +68,7 @@ StreamMonitor::StreamMonitor(LiveStream &stream, PictureFeed &feed, FeatureClien
     m_features.watch(namesOf(linkSpeedFeatures));
     m_features.watch(namesOf(packetSizeFeatures));
     m_stream.addSink(&m_bufferWatch);
-    connect(&m_stream, &LiveStream::stateChanged, this, &StreamMonitor::followStream);
+    connect(&m_stream, &LiveStream::stateChanged, this, &StreamMonitor::update);
     connect(&m_features, &FeatureClient::nodesLoaded, this, &StreamMonitor::followFeatures);
     connect(&m_features.connection(), &CameraConnection::stateChanged, this, &StreamMonitor::followCamera);
     connect(&m_adviser, &LossAdviser::adviceChanged, this, &StreamMonitor::updated);
@@ -77,13 +83,6 @@ StreamMonitor::~StreamMonitor()
     m_stream.removeSink(&m_bufferWatch);
     m_features.unwatch(namesOf(linkSpeedFeatures));
     m_features.unwatch(namesOf(packetSizeFeatures));
-}
-
-void StreamMonitor::followStream()
-{
-    if (m_stream.state() == LiveStream::State::Running)
-        m_totals.beginStream();
-    update();
 }
 
 void StreamMonitor::followCamera()
@@ -103,7 +102,6 @@ void StreamMonitor::followFeatures()
 
 void StreamMonitor::beginAnew()
 {
-    m_totals = StreamTotals();
     m_figures = StreamFigures();
     m_shownBefore = m_feed.shownCount();
     m_skippedBefore = m_feed.skippedCount();
@@ -115,16 +113,13 @@ void StreamMonitor::beginAnew()
 void StreamMonitor::update()
 {
     const bool isRunning = m_stream.state() == LiveStream::State::Running;
-    // While a stream starts, the counters are still those of the previous one.
-    if (m_stream.state() != LiveStream::State::Starting)
-        m_totals.update(m_stream.statistics());
-    m_figures.totals = m_totals.totals();
+    m_figures.totals = m_stream.totals();
     if (!isRunning || m_features.connection().state() != CameraConnection::State::Open) {
         m_figures.totals.imagesPerSecond = 0;
         m_figures.totals.bytesPerSecond = 0;
     }
-    m_figures.shown = m_feed.shownCount() - m_shownBefore;
-    m_figures.skippedForDisplay = m_feed.skippedCount() - m_skippedBefore;
+    m_figures.shown = growth(m_shownBefore, m_feed.shownCount());
+    m_figures.skippedForDisplay = growth(m_skippedBefore, m_feed.skippedCount());
     m_figures.buffers = isRunning ? m_buffers : 0;
     m_figures.usedBuffers = m_bufferWatch.usedBuffers();
     readFeatures();

@@ -5,7 +5,6 @@
 #include "tools/imageviewer/numbers/LossWindow.h"
 #include "tools/imageviewer/numbers/RateHistory.h"
 #include "tools/imageviewer/numbers/StreamNumbers.h"
-#include "tools/imageviewer/numbers/StreamTotals.h"
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/live/LiveStream.h"
 #include "tools/kit/live/PictureFeed.h"
@@ -35,7 +34,6 @@ signals:
     void updated();
 
 private:
-    void followStream();
     void followCamera();
     void followFeatures();
     void update();
@@ -50,7 +48,6 @@ private:
     FeatureClient &m_features;
     unsigned m_buffers = 0;
     BufferWatch m_bufferWatch;
-    StreamTotals m_totals;
     StreamFigures m_figures;
     std::uint64_t m_shownBefore = 0; // By earlier cameras.
     std::uint64_t m_skippedBefore = 0;

@@ -109,6 +109,11 @@ CvxCPP::StreamStatistics LiveStream::statistics() const
     return m_session ? m_session->statistics() : m_lastStatistics;
 }
 
+CvxCPP::StreamStatistics LiveStream::totals() const
+{
+    return m_session ? m_session->totals() : m_lastTotals;
+}
+
 void LiveStream::addSink(ImageSink *sink)
 {
     m_sinks.push_back(sink);
@@ -147,6 +152,7 @@ void LiveStream::releaseSession()
     if (!m_session)
         return;
     m_lastStatistics = m_session->statistics();
+    m_lastTotals = m_session->totals();
     m_session->abandon();
     m_releasedSessions.push_back(std::move(m_session));
     m_session.reset();

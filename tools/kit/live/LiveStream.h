@@ -54,6 +54,10 @@ public:
     /// Returns the counters of the running stream, or those of the last one.
     CvxCPP::StreamStatistics statistics() const;
 
+    /// Returns the counters since the camera was opened: a stream that was stopped and started again, for
+    /// example to change the pixel format, does not forget its losses.
+    CvxCPP::StreamStatistics totals() const;
+
     /// The sink must stay valid until removeSink(), which waits for a running take().
     void addSink(ImageSink *sink);
     void removeSink(ImageSink *sink);
@@ -80,5 +84,6 @@ private:
     std::shared_ptr<StreamSession> m_session; ///< Null unless start() was called for the present device.
     std::vector<std::shared_ptr<StreamSession>> m_releasedSessions; ///< Their threads are ending.
     CvxCPP::StreamStatistics m_lastStatistics; ///< Those of the last released session.
+    CvxCPP::StreamStatistics m_lastTotals; ///< Those of the last released session.
     std::vector<ImageSink *> m_sinks;
 };

@@ -8,6 +8,19 @@ namespace {
 /// How soon the thread of an abandoned session ends.
 constexpr std::chrono::milliseconds waitInterval{100};
 
+void addCounters(StreamStatistics &sum, const StreamStatistics &more)
+{
+    sum.delivered += more.delivered;
+    sum.incomplete += more.incomplete;
+    sum.lost += more.lost;
+    sum.underruns += more.underruns;
+    sum.skipped += more.skipped;
+    sum.bytes += more.bytes;
+    sum.reopenCount += more.reopenCount;
+    sum.imagesPerSecond = more.imagesPerSecond;
+    sum.bytesPerSecond = more.bytesPerSecond;
+}
+
 } // namespace
 
 StreamSession::StreamSession() = default;
@@ -46,6 +59,7 @@ void StreamSession::stop()
     m_thread.join();
     const std::lock_guard lock(m_mutex);
     (void)m_stream->GetStatistics(m_lastStatistics);
+    addCounters(m_earlier, m_lastStatistics);
     m_stream.reset();
     m_endReason = {};
 }
@@ -69,6 +83,16 @@ StreamStatistics StreamSession::statistics() const
     if (m_stream)
         (void)m_stream->GetStatistics(statistics);
     return statistics;
+}
+
+StreamStatistics StreamSession::totals() const
+{
+    const std::lock_guard lock(m_mutex);
+    StreamStatistics totals = m_earlier;
+    StreamStatistics present;
+    if (m_stream && m_stream->GetStatistics(present))
+        addCounters(totals, present);
+    return totals;
 }
 
 void StreamSession::receive(CvxCPP::Stream &stream)

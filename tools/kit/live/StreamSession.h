@@ -40,6 +40,9 @@ public:
     /// Returns the counters of the running stream, or those of the last one.
     CvxCPP::StreamStatistics statistics() const;
 
+    /// Returns the counters of all streams of this session together, and the rates of statistics().
+    CvxCPP::StreamStatistics totals() const;
+
     SinkList &sinks() { return m_sinks; }
 
 signals:
@@ -57,8 +60,9 @@ private:
     std::atomic<bool> m_isRunning = false;
     std::atomic<bool> m_isReceiving = false; ///< The thread runs.
 
-    mutable std::mutex m_mutex; // Protects the three below.
+    mutable std::mutex m_mutex; // Protects the four below.
     std::shared_ptr<CvxCPP::Stream> m_stream;
     CvxCPP::StreamStatistics m_lastStatistics;
+    CvxCPP::StreamStatistics m_earlier; ///< Sums of the streams that have ended.
     CvxCPP::CvxResult m_endReason;
 };
