@@ -23,10 +23,12 @@ import querying
 import size
 import starting
 import streaming
+import viewing
 from frames import BOUND, Screen
 
 GROUPS = {"starting": starting, "listing": listing, "clicking": clicking, "querying": querying, "plugging": plugging,
-          "discovering": discovering, "streaming": streaming, "converting": converting, "idling": idling, "size": size}
+          "discovering": discovering, "streaming": streaming, "converting": converting, "viewing": viewing,
+          "idling": idling, "size": size}
 
 
 class Bench:
