@@ -6,10 +6,10 @@
 #include <QElapsedTimer>
 
 ViewerUnderTest::ViewerUnderTest(const QString &camera, const QVariantMap &choices)
-    : m_settings(m_folder.filePath(QStringLiteral("choices.ini")), QSettings::IniFormat)
+    : m_settings(QStringLiteral("ImageViewer"), m_folder.path())
 {
     for (auto choice = choices.begin(); choice != choices.end(); ++choice)
-        m_settings.setValue(choice.key(), choice.value());
+        m_settings.values().setValue(choice.key(), choice.value());
     m_window = std::make_unique<Window>(camera, m_settings);
     m_window->show();
 }

@@ -2,9 +2,9 @@
 
 #include "tools/imageviewer/ViewerWindow.h"
 #include "tools/kit/canvas/ImageCanvas.h"
+#include "tools/kit/start/ToolSettings.h"
 
 #include <QAction>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QVariant>
 
@@ -58,6 +58,6 @@ public:
 
 private:
     const QTemporaryDir m_folder;
-    QSettings m_settings;
+    ToolSettings m_settings;
     std::unique_ptr<Window> m_window;
 };

@@ -30,17 +30,15 @@ QAction *createAction(
 ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
     : QObject(parent),
       live(createAction(this, tr("&Live"), Qt::Key_F5, ToolIcons::icon(Kind::Play), true)),
-      freeze(
-          createAction(this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(Kind::Pause), true)),
+      freeze(createAction(this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(Kind::Pause), true)),
       snapshot(createAction(
           this, tr("&Save snapshot"), QKeySequence::Save, ToolIcons::icon(Kind::Snapshot), false)),
-      record(
-          createAction(this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(Kind::Record), true)),
-      clipMarks(createAction(this, tr("&Mark clipped pixels"), Qt::CTRL + Qt::Key_E,
-          ToolIcons::icon(Kind::ClipMarks), true)),
+      record(createAction(this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(Kind::Record), true)),
+      clipMarks(createAction(
+          this, tr("&Mark clipped pixels"), Qt::CTRL + Qt::Key_E, ToolIcons::icon(Kind::ClipMarks), true)),
       grid(createAction(this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(Kind::Grid), true)),
-      crosshair(createAction(
-          this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(Kind::Crosshair), true)),
+      crosshair(
+          createAction(this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(Kind::Crosshair), true)),
       fullScreen(
           createAction(this, tr("F&ull screen"), Qt::Key_F11, ToolIcons::icon(Kind::FullScreen), true)),
       newWindow(createAction(this, tr("&New window"), QKeySequence::New, {}, false)),
@@ -66,8 +64,7 @@ void ViewerActions::createViewActions(ImageCanvas &canvas)
     };
     const Command commands[] = {
         {m_zoom, tr("&Fit into the window"), Qt::CTRL + Qt::Key_0, Kind::Fit, &ImageCanvas::fit},
-        {m_zoom, tr("&Actual size"), Qt::CTRL + Qt::Key_1, Kind::ActualSize,
-            &ImageCanvas::showActualSize},
+        {m_zoom, tr("&Actual size"), Qt::CTRL + Qt::Key_1, Kind::ActualSize, &ImageCanvas::showActualSize},
         {m_zoom, tr("Zoom &in"), QKeySequence::ZoomIn, Kind::ZoomIn, &ImageCanvas::zoomIn},
         {m_zoom, tr("Zoom &out"), QKeySequence::ZoomOut, Kind::ZoomOut, &ImageCanvas::zoomOut},
         {m_turns, tr("Rotate &left"), Qt::CTRL + Qt::Key_BracketLeft, Kind::RotateLeft,

@@ -2,8 +2,7 @@
 
 #include "tools/imageviewer/ViewerActions.h"
 #include "tools/imageviewer/measuring/MeasuringPanel.h"
-
-#include <QSettings>
+#include "tools/kit/start/ToolSettings.h"
 
 namespace {
 
@@ -15,7 +14,7 @@ const QString micrometresKey = QStringLiteral("picture/micrometresPerPixel");
 
 } // namespace
 
-void ViewerChoices::save(QSettings &settings, const MeasuringPanel &panel, const ViewerActions &actions)
+void ViewerChoices::save(ToolSettings &settings, const MeasuringPanel &panel, const ViewerActions &actions)
 {
     const DisplaySettings &display = panel.displaySettings();
     settings.setValue(gridKey, actions.grid->isChecked());
@@ -25,14 +24,14 @@ void ViewerChoices::save(QSettings &settings, const MeasuringPanel &panel, const
     settings.setValue(micrometresKey, panel.micrometresPerPixel());
 }
 
-void ViewerChoices::restore(const QSettings &settings, MeasuringPanel &panel, const ViewerActions &actions)
+void ViewerChoices::restore(const ToolSettings &settings, MeasuringPanel &panel, const ViewerActions &actions)
 {
-    actions.grid->setChecked(settings.value(gridKey).toBool());
-    actions.crosshair->setChecked(settings.value(crosshairKey).toBool());
+    actions.grid->setChecked(settings.value(gridKey, false));
+    actions.crosshair->setChecked(settings.value(crosshairKey, false));
     DisplaySettings display;
-    display.hasClipMarks = settings.value(clipMarksKey).toBool();
-    if (settings.value(edgeAwareKey).toBool())
+    display.hasClipMarks = settings.value(clipMarksKey, false);
+    if (settings.value(edgeAwareKey, false))
         display.demosaicing = Demosaicing::EdgeAware;
     panel.setDisplaySettings(display);
-    panel.setMicrometresPerPixel(settings.value(micrometresKey).toDouble());
+    panel.setMicrometresPerPixel(settings.value(micrometresKey, 0.0));
 }

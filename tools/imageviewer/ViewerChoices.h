@@ -2,14 +2,14 @@
 
 class ImageCanvas;
 class MeasuringPanel;
-class QSettings;
+class ToolSettings;
 class ViewerActions;
 
 /// What the Image Viewer remembers about the picture: demosaicing, overlays and the scale. Contrast and white
 /// balance belong to a scene, so they are not remembered.
 namespace ViewerChoices {
 
-void save(QSettings &settings, const MeasuringPanel &panel, const ViewerActions &actions);
-void restore(const QSettings &settings, MeasuringPanel &panel, const ViewerActions &actions);
+void save(ToolSettings &settings, const MeasuringPanel &panel, const ViewerActions &actions);
+void restore(const ToolSettings &settings, MeasuringPanel &panel, const ViewerActions &actions);
 
 } // namespace ViewerChoices

@@ -10,6 +10,7 @@
 #include "tools/imageviewer/numbers/StatusNumbers.h"
 #include "tools/imageviewer/panel/CameraPanel.h"
 #include "tools/imageviewer/panel/WhiteBalanceCall.h"
+#include "tools/kit/start/ToolSettings.h"
 #include "tools/kit/window/ToolStarter.h"
 
 #include <QDockWidget>
@@ -30,12 +31,19 @@ constexpr std::chrono::milliseconds hintDelay = 3s;
 
 } // namespace
 
-ViewerWindow::ViewerWindow(const QString &camera, QSettings &settings)
+ViewerWindow::ViewerWindow(const QString &camera, ToolSettings &settings)
     : ToolWindow({tr("Image Viewer"), camera, QStringLiteral("image-viewer")}, settings),
-      m_stream(connection(), this), m_feed(this), m_measurer(this),
-      m_monitor(m_stream, m_feed, features(), this), m_records(connection(), this), m_saver(m_records, this),
-      m_recording(m_stream, m_records, this), m_pauser(m_stream), m_canvas(new ImageCanvas(this)),
-      m_actions(new ViewerActions(*m_canvas, this)), m_cameraPanel(new CameraPanel(features(), this)),
+      m_stream(connection(), this),
+      m_feed(this),
+      m_measurer(this),
+      m_monitor(m_stream, m_feed, features(), this),
+      m_records(connection(), this),
+      m_saver(m_records, this),
+      m_recording(m_stream, m_records, this),
+      m_pauser(m_stream),
+      m_canvas(new ImageCanvas(this)),
+      m_actions(new ViewerActions(*m_canvas, this)),
+      m_cameraPanel(new CameraPanel(features(), this)),
       m_measuringPanel(new MeasuringPanel(this))
 {
     m_cameraPanel->setStreamPauser(&m_pauser);
@@ -203,7 +211,7 @@ void ViewerWindow::connectActions()
 void ViewerWindow::restoreChoices()
 {
     ViewerChoices::restore(settings(), *m_measuringPanel, *m_actions);
-    m_cameraPanel->restoreState(settings());
+    m_cameraPanel->restoreState(settings().values());
     m_filesPanel->restoreSettings(settings());
     restoreLayout();
 }
@@ -212,7 +220,7 @@ void ViewerWindow::closeEvent(QCloseEvent *event)
 {
     setFullScreen(false);
     ViewerChoices::save(settings(), *m_measuringPanel, *m_actions);
-    m_cameraPanel->saveState(settings());
+    m_cameraPanel->saveState(settings().values());
     m_filesPanel->saveSettings(settings());
     ToolWindow::closeEvent(event);
 }
@@ -237,7 +245,6 @@ void ViewerWindow::onConnectionChanged()
         m_measuringPanel->clear();
     }
     if (state == State::Open && connection().isControlled()) {
-        m_records.refresh();
         if (m_stream.state() == LiveStream::State::Stopped)
             startStream();
     }

@@ -30,7 +30,7 @@ class ViewerWindow : public ToolWindow
 
 public:
     /// @param camera The camera that was named at the start; empty if none was.
-    ViewerWindow(const QString &camera, QSettings &settings);
+    ViewerWindow(const QString &camera, ToolSettings &settings);
     ~ViewerWindow() override;
 
     /// Enough for the image that is shown, those that are measured, and some tenths of a second of a fast

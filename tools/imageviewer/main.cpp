@@ -21,7 +21,7 @@ int main(int argc, char *argv[])
     noOpenGl.reset();
     const Translations translations(QStringLiteral("tools")); // Has to exist before the window.
     ToolSettings settings(program.name);
-    ViewerWindow window(arguments.camera(), settings.values());
+    ViewerWindow window(arguments.camera(), settings);
     window.show();
     return QApplication::exec();
 }

@@ -2,6 +2,7 @@
 
 #include "tools/kit/pages/CameraChooser.h"
 #include "tools/kit/pages/NoCameraPage.h"
+#include "tools/kit/start/ToolSettings.h"
 #include "tools/kit/window/ConnectionBar.h"
 #include "tools/kit/window/StartChoice.h"
 
@@ -14,7 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QSettings>
+
 #include <QStackedWidget>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -26,10 +27,15 @@ const QString layoutKey = QStringLiteral("window/layout");
 
 } // namespace
 
-ToolWindow::ToolWindow(const Setup &setup, QSettings &settings)
-    : m_setup(setup), m_settings(settings), m_wanted(setup.camera), m_features(m_connection),
-      m_pages(new QStackedWidget(this)), m_searching(new QLabel(this)),
-      m_chooser(new CameraChooser(m_finder, this)), m_noCamera(new NoCameraPage(this)),
+ToolWindow::ToolWindow(const Setup &setup, ToolSettings &settings)
+    : m_setup(setup),
+      m_settings(settings),
+      m_wanted(setup.camera),
+      m_features(m_connection),
+      m_pages(new QStackedWidget(this)),
+      m_searching(new QLabel(this)),
+      m_chooser(new CameraChooser(m_finder, this)),
+      m_noCamera(new NoCameraPage(this)),
       m_content(new QWidget(this))
 {
     m_searching->setAlignment(Qt::AlignCenter);
@@ -200,9 +206,9 @@ void ToolWindow::showProblem(const QString &text)
 
 void ToolWindow::restoreLayout()
 {
-    if (!restoreGeometry(m_settings.value(geometryKey).toByteArray()))
+    if (!restoreGeometry(m_settings.value(geometryKey, QByteArray())))
         resize(1280, 860);
-    restoreState(m_settings.value(layoutKey).toByteArray());
+    restoreState(m_settings.value(layoutKey, QByteArray()));
 }
 
 void ToolWindow::closeEvent(QCloseEvent *event)

@@ -13,7 +13,7 @@ class ConnectionBar;
 class NoCameraPage;
 class QLabel;
 class QMenu;
-class QSettings;
+class ToolSettings;
 class QStackedWidget;
 
 /// The main window of a camera tool. Finds the camera or lets a person choose one, keeps the connection, says
@@ -32,7 +32,7 @@ public:
 
     /// Starts to search for cameras.
     /// @param settings Where geometry and docks are kept; outlives the window.
-    ToolWindow(const Setup &setup, QSettings &settings);
+    ToolWindow(const Setup &setup, ToolSettings &settings);
     ~ToolWindow() override;
 
 public slots:
@@ -50,7 +50,7 @@ protected:
 
     CameraConnection &connection() { return m_connection; }
     FeatureClient &features() { return m_features; }
-    QSettings &settings() { return m_settings; }
+    ToolSettings &settings() { return m_settings; }
 
     /// Restores geometry and docks. Call it at the end of the constructor, when all docks exist.
     void restoreLayout();
@@ -58,8 +58,8 @@ protected:
     /// Shows a message box unless the text is empty.
     void showProblem(const QString &text);
 
-    /// Deletes all widgets of the window. The destructor of a tool calls this function first if its widgets use
-    /// other members of the tool.
+    /// Deletes all widgets of the window. The destructor of a tool calls this function first if its widgets
+    /// use other members of the tool.
     void deleteWidgets();
 
     /// Saves geometry and docks.
@@ -77,7 +77,7 @@ private:
     void showAbout();
 
     const Setup m_setup;
-    QSettings &m_settings;
+    ToolSettings &m_settings;
     QString m_wanted; // The camera to open as soon as it is found; empty if none was named.
     bool m_isDecided = false; // A camera was opened, or a person has been asked.
     CameraConnection m_connection;
