@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr int labelWidth = 104;
-constexpr int smallestWidth = 300;
+constexpr int labelWidth = 124;
+constexpr int smallestWidth = 310;
 
 QString stateKey(const QString &group)
 {

@@ -152,6 +152,6 @@ QString userSetSaveName()
 
 QVector<PanelGroup> panelGroups()
 {
-    return {exposureGroup(), gainGroup(), toneGroup(), whiteBalanceGroup(), frameRateGroup(), lineRateGroup(),
+    return {exposureGroup(), gainGroup(), toneGroup(), whiteBalanceGroup(), lineRateGroup(), frameRateGroup(),
         formatGroup(), regionGroup(), binningGroup(), triggerGroup(), userSetGroup()};
 }

@@ -46,8 +46,5 @@ void EnumerationEditor::labelChanged()
 
 void EnumerationEditor::onActivated(int index)
 {
-    const CvxCPP::NodeState *const read = state();
-    const CvxCPP::NodeValue value = m_box->itemData(index).toString().toStdString();
-    if (read && read->value != value)
-        submit(value);
+    submit(m_box->itemData(index).toString().toStdString());
 }

@@ -293,7 +293,7 @@ void FeatureEditor::showNote()
     if (!m_error.isEmpty())
         m_note->showError(m_error);
     else if (!m_remark.isEmpty())
-        m_note->showError(m_remark);
+        m_note->showRemark(m_remark);
     else if (read && isWorthANote(read->lockReason) && !lock.isEmpty())
         m_note->showLock(lock);
     else

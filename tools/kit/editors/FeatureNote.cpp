@@ -56,6 +56,12 @@ void FeatureNote::showError(const QString &text)
     showKind(QStringLiteral("error"), text);
 }
 
+void FeatureNote::showRemark(const QString &text)
+{
+    m_buttons->hide();
+    showKind(QStringLiteral("remark"), text);
+}
+
 void FeatureNote::showQuestion(const QString &text, const QString &acceptText)
 {
     m_accept->setText(acceptText);

@@ -5,9 +5,9 @@
 class QLabel;
 class QPushButton;
 
-/// The line under an editor: why the feature is locked, what failed, or a question with two buttons. Takes no
-/// room if there is nothing to say. The property "kind" of the label is "lock", "error" or "question", for
-/// the style sheet.
+/// The line under an editor: why the feature is locked, what failed, what was corrected, or a question with
+/// two buttons. Takes no room if there is nothing to say. The property "kind" of the label is "lock",
+/// "error", "remark" or "question", for the style sheet.
 class FeatureNote : public QWidget
 {
     Q_OBJECT
@@ -18,6 +18,7 @@ public:
     void clear();
     void showLock(const QString &text);
     void showError(const QString &text);
+    void showRemark(const QString &text);
     void showQuestion(const QString &text, const QString &acceptText);
 
     QString text() const;

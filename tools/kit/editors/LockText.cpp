@@ -27,7 +27,7 @@ QString lockedText(const QString &lockingFeature, const QString &lockingValue)
         return translate(QT_TRANSLATE_NOOP("LockText", "Locked by the camera."));
     if (lockingValue.isEmpty())
         return translate(QT_TRANSLATE_NOOP("LockText", "Controlled by %1.")).arg(lockingFeature);
-    return translate(QT_TRANSLATE_NOOP("LockText", "Controlled by %1 (%2)."))
+    return translate(QT_TRANSLATE_NOOP("LockText", "Locked while %1 is %2."))
         .arg(lockingFeature, lockingValue);
 }
 

@@ -11,6 +11,7 @@
 
 namespace {
 
+constexpr int unitWidth = 22; ///< Common units get lines of the same width.
 constexpr int pageSteps = SliderScale::positions / 20;
 
 bool hasValue(const CvxCPP::NodeValue &value)
@@ -33,6 +34,7 @@ NumberEditor::NumberEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, 
     if (!info.unit.empty()) {
         auto *const unit = new QLabel(unitText(info.unit), control);
         unit->setObjectName(QStringLiteral("featureUnit"));
+        unit->setMinimumWidth(unitWidth);
         layout->addWidget(unit);
     }
     control->setFocusProxy(m_box);

@@ -102,7 +102,7 @@ QString floatText(double value)
     const double size = std::abs(value);
     if (size != 0 && (size >= largestWithoutExponent || size < smallestWithoutExponent))
         return locale.toString(value, 'g', usefulDigits);
-    const int digitsBefore = size < 1 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
+    const int digitsBefore = size < 1 ? 0 : static_cast<int>(std::floor(std::log10(size))) + 1;
     // Small values keep their digits after the leading zeros.
     const int leadingZeros = size == 0 || size >= 1 ? 0 : -static_cast<int>(std::floor(std::log10(size))) - 1;
     const int decimals = std::max(0, usefulDigits - digitsBefore) + leadingZeros;
