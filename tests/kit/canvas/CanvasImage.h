@@ -35,7 +35,8 @@ inline ShownPicture shownPicture(
     PictureRenderer().render(rawImage(*image),
         {number(region.x()), number(region.y()), number(region.width()), number(region.height())},
         number(request.size.width()), number(request.size.height()), request.settings,
-        reinterpret_cast<std::uint32_t *>(pixels.bits()), static_cast<std::size_t>(pixels.bytesPerLine()) / 4);
+        reinterpret_cast<std::uint32_t *>(pixels.bits()),
+        static_cast<std::size_t>(pixels.bytesPerLine()) / 4);
     return {pixels, region, request.pictureSize, image};
 }
 

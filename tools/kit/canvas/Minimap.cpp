@@ -51,12 +51,9 @@ QPointF Minimap::toPicture(const QPointF &viewPoint) const
 
 void Minimap::paint(QPainter &painter, const PictureLayer &thumbnail) const
 {
-    painter.fillRect(m_rect, QColor::fromRgba(canvascolors::shade));
-    if (!thumbnail.isEmpty()) {
-        painter.setOpacity(0.8);
+    painter.fillRect(m_rect, QColor::fromRgba(canvascolors::panel));
+    if (!thumbnail.isEmpty())
         painter.drawImage(m_rect, thumbnail.pixels());
-        painter.setOpacity(1);
-    }
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QColor::fromRgba(canvascolors::border));
     painter.drawRect(m_rect.adjusted(-0.5, -0.5, 0.5, 0.5));

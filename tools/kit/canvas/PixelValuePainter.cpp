@@ -45,6 +45,19 @@ bool isDark(QRgb color)
     return qGray(color) < 128;
 }
 
+/// Draws a short line in the colour that a pixel of a Bayer picture measures.
+void paintBayerColor(QPainter &painter, const QRectF &place, const RawImage &picture, const QPoint &pixel)
+{
+    constexpr std::array<QRgb, 3> colors = {0xffff4040, 0xff30e030, 0xff4080ff};
+    const auto color
+        = rawValues(picture, static_cast<std::uint32_t>(pixel.x()), static_cast<std::uint32_t>(pixel.y()))
+              .color;
+    const double width = std::round(place.width() / 3);
+    const QRectF line(std::round(place.center().x() - width / 2), place.bottom() - 6, width, 3);
+    painter.fillRect(line.adjusted(-1, -1, 1, 1), QColor(0, 0, 0, 150));
+    painter.fillRect(line, QColor(colors[static_cast<std::size_t>(*color)]));
+}
+
 } // namespace
 
 std::vector<std::string> PixelValuePainter::lines(const RawImage &picture, const QPoint &pixel)
@@ -72,15 +85,18 @@ void PixelValuePainter::paint(
 
 void PixelValuePainter::paintGrid(QPainter &painter, const ViewTransform &view) const
 {
-    const QRect region = view.visibleRegion();
-    const QRectF area = view.toView(QRectF(region));
+    const QRectF area = view.toView(QRectF(view.visibleRegion()));
     const double step = view.scale() / view.devicePixelRatio();
     const double width = 1 / view.devicePixelRatio();
-    const QColor color(128, 128, 128, 110);
-    for (double x = area.left(); x < area.right() + width; x += step)
-        painter.fillRect(QRectF(x, area.top(), width, area.height()), color);
-    for (double y = area.top(); y < area.bottom() + width; y += step)
-        painter.fillRect(QRectF(area.left(), y, area.width(), width), color);
+    // A dark line beside a light one is visible on every picture.
+    const std::array<QColor, 2> colors = {QColor(0, 0, 0, 70), QColor(255, 255, 255, 50)};
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+        const double shift = (double(i) - 1) * width;
+        for (double x = area.left(); x < area.right() + step / 2; x += step)
+            painter.fillRect(QRectF(x + shift, area.top(), width, area.height()), colors[i]);
+        for (double y = area.top(); y < area.bottom() + step / 2; y += step)
+            painter.fillRect(QRectF(area.left(), y + shift, area.width(), width), colors[i]);
+    }
 }
 
 void PixelValuePainter::paintValues(
@@ -89,24 +105,29 @@ void PixelValuePainter::paintValues(
     const double side = view.scale() / view.devicePixelRatio();
     const PixelLayout &layout = findPixelLayout(picture.pixelFormat);
     const auto font = fittingFont(
-        widestValue(layout), layout.format.components, QSizeF(side - 2 * margin, side - 2 * margin));
+        widestValue(layout) + 1, layout.format.components, QSizeF(side - margin, side - 2 * margin));
     if (!font)
         return;
     m_glyphs.set(*font, view.devicePixelRatio());
-    const QSizeF glyph = m_glyphs.glyphSize();
-    const QTransform toView = view.toView();
     const QRect region = view.visibleRegion();
     for (int y = region.top(); y <= region.bottom(); ++y) {
         for (int x = region.left(); x <= region.right(); ++x) {
-            const auto texts = lines(picture, {x, y});
-            const bool isLight = isDark(layer.colorAt({x, y}));
-            const QPointF center = toView.map(QPointF(x + 0.5, y + 0.5));
-            QPointF place(0, std::round(center.y() - glyph.height() * double(texts.size()) / 2));
-            for (const std::string &text : texts) {
-                place.setX(std::round(center.x() - glyph.width() * double(text.size()) / 2));
-                m_glyphs.write(painter, place, text, isLight);
-                place.ry() += glyph.height();
-            }
+            const QRectF place = view.toView(QRectF(x, y, 1, 1));
+            paintPixel(painter, place, lines(picture, {x, y}), isDark(layer.colorAt({x, y})));
+            if (layout.format.kind == PixelKind::Bayer)
+                paintBayerColor(painter, place, picture, {x, y});
         }
+    }
+}
+
+void PixelValuePainter::paintPixel(
+    QPainter &painter, const QRectF &place, const std::vector<std::string> &texts, bool isLight) const
+{
+    const QSizeF glyph = m_glyphs.glyphSize();
+    double top = std::round(place.center().y() - glyph.height() * double(texts.size()) / 2);
+    for (const std::string &text : texts) {
+        const double left = std::round(place.center().x() - glyph.width() * double(text.size()) / 2);
+        m_glyphs.write(painter, {left, top}, text, isLight);
+        top += glyph.height();
     }
 }

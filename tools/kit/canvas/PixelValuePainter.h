@@ -27,6 +27,8 @@ private:
     void paintGrid(QPainter &painter, const ViewTransform &view) const;
     void paintValues(
         QPainter &painter, const ViewTransform &view, const PictureLayer &layer, const RawImage &picture);
+    void paintPixel(
+        QPainter &painter, const QRectF &place, const std::vector<std::string> &texts, bool isLight) const;
 
     GlyphSheet m_glyphs;
 };

@@ -92,6 +92,7 @@ void ViewTransform::fit()
     m_isFitted = true;
     m_scale = fittedScale();
     limit();
+    m_corner = shownCorner();
 }
 
 void ViewTransform::setScale(double scale, const QPointF &anchor)
@@ -164,9 +165,9 @@ void ViewTransform::mirrorVertically()
 QTransform ViewTransform::toView() const
 {
     const double ratio = m_devicePixelRatio;
+    const QPointF corner = shownCorner();
     return m_orientation.transform(m_pictureSize) * QTransform::fromScale(m_scale, m_scale)
-        * QTransform::fromTranslate(std::round(m_corner.x()), std::round(m_corner.y()))
-        * QTransform::fromScale(1 / ratio, 1 / ratio);
+        * QTransform::fromTranslate(corner.x(), corner.y()) * QTransform::fromScale(1 / ratio, 1 / ratio);
 }
 
 std::optional<QPoint> ViewTransform::pixelAt(const QPointF &viewPoint) const
@@ -215,6 +216,13 @@ QSize ViewTransform::outputSize(const QRect &region) const
 QSizeF ViewTransform::turnedSize() const
 {
     return m_orientation.isSideways() ? m_pictureSize.transposed() : m_pictureSize;
+}
+
+QPointF ViewTransform::shownCorner() const
+{
+    if (m_scale < 1)
+        return m_corner;
+    return {std::round(m_corner.x()), std::round(m_corner.y())};
 }
 
 QTransform ViewTransform::exactToDevice() const

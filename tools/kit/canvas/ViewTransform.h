@@ -74,8 +74,8 @@ public:
     void mirrorHorizontally(); ///< As the person sees it: left becomes right.
     void mirrorVertically();
 
-    /// Returns the transform from the picture to the view. The corner of the picture is at a whole pixel of
-    /// the screen.
+    /// Returns the transform from the picture to the view. From scale 1 on, the corner of the picture is at a
+    /// whole pixel of the screen.
     QTransform toView() const;
     QPointF toView(const QPointF &picturePoint) const { return toView().map(picturePoint); }
     QRectF toView(const QRectF &pictureRect) const { return toView().mapRect(pictureRect); }
@@ -104,6 +104,7 @@ private:
     QSizeF turnedSize() const; ///< Of the picture, turned and unscaled.
     QSizeF deviceSize() const { return m_viewSize * m_devicePixelRatio; }
     QPointF viewCenter() const { return {m_viewSize.width() / 2, m_viewSize.height() / 2}; }
+    QPointF shownCorner() const;
     QTransform exactToDevice() const;
     QPointF exactToPicture(const QPointF &viewPoint) const;
     void place(const QPointF &picturePoint, const QPointF &viewPoint);
@@ -116,6 +117,7 @@ private:
     Orientation m_orientation;
     bool m_isFitted = true;
     double m_scale = 1;
-    QPointF m_corner; ///< Of the turned picture, in pixels of the screen; not rounded, so that errors do not
-                      ///< add up.
+    /// The corner of the turned picture, in pixels of the screen. While a person zooms, the corner is not
+    /// rounded, so that errors do not add up.
+    QPointF m_corner;
 };
