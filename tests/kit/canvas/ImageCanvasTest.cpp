@@ -1,21 +1,11 @@
 #include "tools/kit/canvas/ImageCanvas.h"
-#include "tests/kit/canvas/CanvasImage.h"
+#include "tests/kit/canvas/LiveCanvas.h"
 #include "tools/kit/canvas/CanvasColors.h"
-#include "tools/kit/canvas/Minimap.h"
 
 #include <QSignalSpy>
-#include <QWheelEvent>
 #include <QtTest>
 
 namespace {
-
-using ImagePointer = std::shared_ptr<const CvxCPP::Image>;
-
-/// Returns a picture of random colours.
-ImagePointer randomImage(std::uint32_t width, std::uint32_t height)
-{
-    return std::make_shared<CanvasImage>(TestPicture("RGB8", width, height).fillRandomly());
-}
 
 ImagePointer evenImage(std::uint32_t width, std::uint32_t height, std::uint64_t value)
 {
@@ -32,57 +22,6 @@ QRgb pixelOf(const ImagePointer &image, const QPoint &pixel)
     return qRgb(bytes[0], bytes[1], bytes[2]);
 }
 
-QVector<Orientation> orientations()
-{
-    return {{0, false}, {1, false}, {2, false}, {3, false}, {0, true}, {1, true}, {2, true}, {3, true}};
-}
-
-/// A canvas on the screen that answers each request, as long as it is connected.
-class LiveCanvas : public ImageCanvas
-{
-public:
-    LiveCanvas(const QSize &size, const ImagePointer &image) : m_image(image)
-    {
-        resize(size);
-        QWidget::show();
-        ::show(*this, image);
-        m_answering = connect(this, &ImageCanvas::requestChanged, this, [this] { answer(); });
-    }
-
-    void stopAnswering() { disconnect(m_answering); }
-    void answer() { setPicture(shownPicture(m_image, request())); }
-    QImage painting() { return grab().toImage(); }
-
-    QPoint placeOf(const QPoint &pixel) const
-    {
-        return view().toView(QPointF(pixel) + QPointF(0.5, 0.5)).toPoint();
-    }
-    void turnWheel(const QPointF &place, const QPoint &angle)
-    {
-        QWheelEvent event(place, mapToGlobal(place.toPoint()), {}, angle, Qt::NoButton, Qt::NoModifier,
-            Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(this, &event);
-    }
-    // QTest::mouseMove() reports no pressed button.
-    void movePointer(const QPoint &place, Qt::MouseButtons buttons = {})
-    {
-        QMouseEvent event(
-            QEvent::MouseMove, place, mapToGlobal(place), Qt::NoButton, buttons, Qt::NoModifier);
-        QCoreApplication::sendEvent(this, &event);
-    }
-    void drag(Qt::MouseButton button, const QPoint &from, const QPoint &to)
-    {
-        QTest::mousePress(this, button, {}, from);
-        movePointer((from + to) / 2, button);
-        movePointer(to, button);
-        QTest::mouseRelease(this, button, {}, to);
-    }
-
-private:
-    ImagePointer m_image;
-    QMetaObject::Connection m_answering;
-};
-
 } // namespace
 
 class ImageCanvasTest : public QObject
@@ -94,21 +33,10 @@ private slots:
     void paintsThePixelsOfThePicture();
     void reducedPictureIsCopied();
     void requestCoversWhatIsVisible();
-    void wheelKeepsThePixelUnderThePointer();
-    void smallWheelMovementsAddUp();
     void oldPictureStaysUntilTheNextOne();
     void pictureOfAnotherSizeIsStretched();
     void paintedComesOncePerPicture();
     void valuesAreWrittenIntoLargePixels();
-    void drawnRegionIsThatOfThePicture();
-    void drawnLineIsThatOfThePicture();
-    void keysChangeTheView();
-    void keysChangeTheRegion();
-    void draggingPans_data();
-    void draggingPans();
-    void minimapMovesTheView();
-    void doubleClickTogglesFitAndActualSize();
-    void pointerIsReported();
     void noticeGreysThePicture();
     void overlaysAreDrawn();
 };
@@ -128,7 +56,7 @@ void ImageCanvasTest::paintsThePixelsOfThePicture()
     QFETCH(double, scale);
     const ImagePointer image
         = randomImage(static_cast<std::uint32_t>(size.width()), static_cast<std::uint32_t>(size.height()));
-    for (const Orientation &orientation : orientations()) {
+    for (const Orientation &orientation : allOrientations()) {
         LiveCanvas canvas({400, 400}, image);
         canvas.setOrientation(orientation);
         while (canvas.view().scale() < scale)
@@ -188,42 +116,6 @@ void ImageCanvasTest::requestCoversWhatIsVisible()
     QVERIFY(canvas.request().settings.hasClipMarks);
     canvas.setGrid(true); // Changes nothing that has to be converted.
     QCOMPARE(changes.size(), 4);
-}
-
-void ImageCanvasTest::wheelKeepsThePixelUnderThePointer()
-{
-    for (const Orientation &orientation : orientations()) {
-        LiveCanvas canvas({400, 400}, randomImage(100, 90));
-        canvas.setOrientation(orientation);
-        const QPointF place = canvas.view().toView(QPointF(20.5, 60.5));
-        for (int i = 0; i < 8; ++i) {
-            canvas.turnWheel(place, {0, 120});
-            QCOMPARE(canvas.view().pixelAt(place), std::optional(QPoint(20, 60)));
-        }
-        QCOMPARE(canvas.view().scale(), 64.0);
-        for (int i = 0; i < 6; ++i)
-            canvas.turnWheel(place, {0, -120});
-        QCOMPARE(canvas.view().pixelAt(place), std::optional(QPoint(20, 60)));
-    }
-}
-
-void ImageCanvasTest::smallWheelMovementsAddUp()
-{
-    LiveCanvas canvas({400, 400}, randomImage(400, 400));
-    for (int i = 0; i < 7; ++i)
-        canvas.turnWheel({200, 200}, {0, 15});
-    QCOMPARE(canvas.view().scale(), 1.0);
-    canvas.turnWheel({200, 200}, {0, 15});
-    QCOMPARE(canvas.view().scale(), 1.5);
-    for (int i = 0; i < 7; ++i)
-        canvas.turnWheel({200, 200}, {0, -15});
-    QCOMPARE(canvas.view().scale(), 1.5);
-    canvas.turnWheel({200, 200}, {0, -15});
-    QVERIFY(canvas.view().isFitted());
-    canvas.turnWheel({200, 200}, {0, 240});
-    const QPointF before = canvas.view().toView(QPointF(200, 200));
-    canvas.turnWheel({200, 200}, {120, 10}); // To the side.
-    QCOMPARE(canvas.view().toView(QPointF(200, 200)), before + QPointF(40, 0));
 }
 
 void ImageCanvasTest::oldPictureStaysUntilTheNextOne()
@@ -294,142 +186,6 @@ void ImageCanvasTest::valuesAreWrittenIntoLargePixels()
         QCOMPARE(canvas.view().scale(), 32.0);
         QVERIFY(inkOfPixel() > 0);
     }
-}
-
-void ImageCanvasTest::drawnRegionIsThatOfThePicture()
-{
-    for (const Orientation &orientation : orientations()) {
-        LiveCanvas canvas({600, 600}, randomImage(120, 100));
-        canvas.setOrientation(orientation);
-        canvas.setTool(ImageCanvas::Tool::Region);
-        QSignalSpy changes(&canvas, &ImageCanvas::regionChanged);
-        canvas.drag(Qt::LeftButton, canvas.placeOf({20, 30}), canvas.placeOf({59, 44}));
-        QCOMPARE(canvas.region(), QRect(20, 30, 40, 15));
-        QCOMPARE(changes.last().first().toRect(), canvas.region());
-        QTest::keyClick(&canvas, Qt::Key_Delete);
-        QVERIFY(canvas.region().isEmpty());
-        QVERIFY(changes.last().first().toRect().isEmpty());
-    }
-}
-
-void ImageCanvasTest::drawnLineIsThatOfThePicture()
-{
-    LiveCanvas canvas({600, 600}, randomImage(120, 100));
-    canvas.rotateLeft();
-    canvas.setTool(ImageCanvas::Tool::Line);
-    QSignalSpy changes(&canvas, &ImageCanvas::lineChanged);
-    canvas.drag(Qt::LeftButton, canvas.placeOf({20, 30}), canvas.placeOf({59, 44}));
-    QCOMPARE(canvas.line(), QLine(20, 30, 59, 44));
-    QCOMPARE(changes.last().first().toLine(), canvas.line());
-    changes.clear();
-    canvas.setLine({1, 2, 3, 4}); // By the program.
-    QCOMPARE(changes.size(), 0);
-}
-
-void ImageCanvasTest::keysChangeTheView()
-{
-    LiveCanvas canvas({400, 400}, randomImage(800, 800));
-    canvas.setTool(ImageCanvas::Tool::Region);
-    QSignalSpy views(&canvas, &ImageCanvas::viewChanged);
-    QTest::keyClick(&canvas, Qt::Key_1);
-    QCOMPARE(canvas.view().scale(), 1.0);
-    QTest::keyClick(&canvas, Qt::Key_Plus);
-    QCOMPARE(canvas.view().scale(), 1.5);
-    QTest::keyClick(&canvas, Qt::Key_Minus);
-    QCOMPARE(canvas.view().scale(), 1.0);
-    QCOMPARE(views.size(), 3);
-    const auto middle = [&canvas] { return canvas.view().toPicture({200, 200}); };
-    QTest::keyClick(&canvas, Qt::Key_Right);
-    QCOMPARE(middle(), QPointF(440, 400));
-    QTest::keyClick(&canvas, Qt::Key_Up, Qt::ShiftModifier);
-    QCOMPARE(middle(), QPointF(440, 200));
-    QCOMPARE(views.size(), 3); // The scale is the same.
-    QTest::keyClick(&canvas, Qt::Key_0);
-    QVERIFY(canvas.view().isFitted());
-}
-
-void ImageCanvasTest::keysChangeTheRegion()
-{
-    LiveCanvas canvas({400, 400}, randomImage(200, 200));
-    canvas.rotateRight();
-    canvas.setTool(ImageCanvas::Tool::Region);
-    QTest::keyClick(&canvas, Qt::Key_Insert);
-    QCOMPARE(canvas.region(), QRect(50, 50, 100, 100));
-    QTest::keyClick(&canvas, Qt::Key_Right, Qt::ControlModifier); // On the screen; up in the picture.
-    QCOMPARE(canvas.region(), QRect(50, 49, 100, 100));
-    QTest::keyClick(&canvas, Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(canvas.region(), QRect(50, 49, 101, 100));
-}
-
-void ImageCanvasTest::draggingPans_data()
-{
-    QTest::addColumn<ImageCanvas::Tool>("tool");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("hasSpace");
-    QTest::newRow("pan") << ImageCanvas::Tool::Pan << int(Qt::LeftButton) << false;
-    QTest::newRow("middle button") << ImageCanvas::Tool::Line << int(Qt::MiddleButton) << false;
-    QTest::newRow("space") << ImageCanvas::Tool::Region << int(Qt::LeftButton) << true;
-}
-
-void ImageCanvasTest::draggingPans()
-{
-    QFETCH(ImageCanvas::Tool, tool);
-    QFETCH(int, button);
-    QFETCH(bool, hasSpace);
-    LiveCanvas canvas({400, 400}, randomImage(800, 800));
-    canvas.setTool(tool);
-    canvas.showActualSize();
-    if (hasSpace)
-        QTest::keyPress(&canvas, Qt::Key_Space);
-    canvas.drag(static_cast<Qt::MouseButton>(button), {100, 100}, {130, 80});
-    QCOMPARE(canvas.view().toPicture({200, 200}), QPointF(370, 420));
-    QVERIFY(canvas.region().isEmpty() && canvas.line().isNull());
-    QTest::keyRelease(&canvas, Qt::Key_Space);
-    canvas.drag(Qt::LeftButton, {100, 100}, {130, 80});
-    QCOMPARE(canvas.region().isEmpty(), tool != ImageCanvas::Tool::Region);
-}
-
-void ImageCanvasTest::minimapMovesTheView()
-{
-    LiveCanvas canvas({400, 400}, randomImage(800, 800));
-    canvas.setTool(ImageCanvas::Tool::Region);
-    canvas.showActualSize();
-    const QRectF map = Minimap(canvas.view()).rect();
-    canvas.drag(Qt::LeftButton, map.center().toPoint(),
-        (map.topLeft() + QPointF(map.width() / 4, map.height() / 4)).toPoint());
-    QVERIFY((canvas.view().toPicture({200, 200}) - QPointF(200, 200)).manhattanLength() < 16);
-    QVERIFY(canvas.region().isEmpty());
-}
-
-void ImageCanvasTest::doubleClickTogglesFitAndActualSize()
-{
-    LiveCanvas canvas({400, 400}, randomImage(800, 800));
-    QTest::mouseDClick(&canvas, Qt::LeftButton, {}, {100, 300});
-    QCOMPARE(canvas.view().scale(), 1.0);
-    QCOMPARE(canvas.view().toPicture({100, 300}), QPointF(200, 600));
-    QTest::mouseDClick(&canvas, Qt::LeftButton, {}, {50, 50});
-    QVERIFY(canvas.view().isFitted());
-}
-
-void ImageCanvasTest::pointerIsReported()
-{
-    LiveCanvas canvas({400, 400}, randomImage(100, 50)); // From y = 100 to 300, at scale 4.
-    canvas.setTool(ImageCanvas::Tool::Pick);
-    QSignalSpy moves(&canvas, &ImageCanvas::pointerMoved);
-    QSignalSpy leaves(&canvas, &ImageCanvas::pointerLeft);
-    QSignalSpy picks(&canvas, &ImageCanvas::picked);
-    canvas.movePointer({41, 121});
-    canvas.movePointer({42, 122}); // The same pixel.
-    QCOMPARE(moves.size(), 1);
-    QCOMPARE(moves.last().first().toPoint(), QPoint(10, 5));
-    QTest::mouseClick(&canvas, Qt::LeftButton, {}, {41, 121});
-    QCOMPARE(picks.last().first().toPoint(), QPoint(10, 5));
-    canvas.mirrorHorizontally(); // Another pixel comes to the pointer.
-    QCOMPARE(moves.last().first().toPoint(), QPoint(89, 5));
-    canvas.movePointer({41, 50});
-    QCOMPARE(leaves.size(), 1);
-    QTest::mouseClick(&canvas, Qt::LeftButton, {}, {41, 50});
-    QCOMPARE(picks.size(), 1);
 }
 
 void ImageCanvasTest::noticeGreysThePicture()
