@@ -18,13 +18,17 @@ public:
         QJsonArray devices;
         for (const QString &serial : serialNumbers)
             devices.append(device(serial));
-        const QJsonObject interface{
+        const QJsonObject interface {
             {QStringLiteral("id"), QStringLiteral("Sim")}, {QStringLiteral("tlType"), QStringLiteral("GEV")},
-            {QStringLiteral("devices"), devices}};
+            {
+                QStringLiteral("devices"), devices
+            }
+        };
         QSaveFile file(qEnvironmentVariable("CORVIX_TEST_SIMULATOR"));
         if (!file.open(QIODevice::WriteOnly))
             qFatal("The simulator's configuration cannot be written; use with-simulator.");
-        file.write(QJsonDocument(QJsonObject{{QStringLiteral("interfaces"), QJsonArray{interface}}}).toJson());
+        file.write(
+            QJsonDocument(QJsonObject{{QStringLiteral("interfaces"), QJsonArray{interface}}}).toJson());
         file.commit();
     }
 

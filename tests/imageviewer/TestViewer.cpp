@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QProcess>
+#include <QPushButton>
 #include <QSet>
 #include <QtTest>
 
@@ -28,8 +29,8 @@ QString operator""_s(const char *text, std::size_t size)
 /// Choices that write raw files to the folder.
 QVariantMap rawFilesIn(const QTemporaryDir &folder)
 {
-    return {{"files/folder"_s, folder.path()}, {"files/snapshotFormat"_s, "raw"_s},
-        {"files/recordingFormat"_s, "raw"_s}};
+    return {{"files/folder"_s, folder.path()}, {"files/pictureFormat"_s, int(ImageFileFormat::Raw)},
+        {"files/recordingFormat"_s, int(RecordingFormat::Raw)}};
 }
 
 QStringList filesIn(const QTemporaryDir &folder, const QString &pattern)
@@ -63,7 +64,7 @@ private slots:
     void cameraInUseCanBeWatched();
 
 private:
-    const SimulatedCameras m_cameras;
+    SimulatedCameras m_cameras;
 };
 
 void TestViewer::init()
@@ -142,7 +143,12 @@ void TestViewer::drawnRegionBecomesTheRegionOfTheCamera()
     const CvxCPP::ImageInfo info = canvas.picture().image->GetInfo();
     const QRect region(int(info.offsetX), int(info.offsetY), int(info.width), int(info.height));
     // The camera extends the region to its increments.
-    QVERIFY(region.contains(QRect(65, 49, 126, 94)));
+    QVERIFY2(region.contains(QRect(65, 49, 126, 94)),
+        qPrintable(QStringLiteral("%1 %2 %3 %4")
+                       .arg(info.offsetX)
+                       .arg(info.offsetY)
+                       .arg(info.width)
+                       .arg(info.height)));
     QVERIFY(QRect(48, 32, 160, 128).contains(region));
 }
 
@@ -165,8 +171,9 @@ void TestViewer::windowStaysUsableWhenTheHostCrashes()
     ViewerUnderTest viewer("1001"_s);
     viewer.awaitPicture();
     QProcess kill;
-    kill.start("pkill"_s, {"--signal"_s, "KILL"_s, "--parent"_s,
-                              QString::number(QCoreApplication::applicationPid()), "CvxCameraHost"_s});
+    kill.start("pkill"_s,
+        {"--signal"_s, "KILL"_s, "--parent"_s, QString::number(QCoreApplication::applicationPid()),
+            "CvxCameraHost"_s});
     QVERIFY(kill.waitForFinished());
     QCOMPARE(kill.exitCode(), 0);
     ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Lost; });
@@ -192,6 +199,7 @@ void TestViewer::recordingHasEveryFrameId()
     const QTemporaryDir folder;
     QVariantMap choices = rawFilesIn(folder);
     choices.insert("files/maxImages"_s, 300);
+    choices.insert("files/maxImagesIsOn"_s, true);
     ViewerUnderTest viewer("1001"_s, choices);
     viewer.awaitPicture();
     QAction &record = viewer.action("Record"_s);
@@ -210,7 +218,8 @@ void TestViewer::recordingHasEveryFrameId()
 void TestViewer::cameraInUseCanBeWatched()
 {
     QProcess other;
-    other.start(QFileInfo(qEnvironmentVariable("CORVIX_TEST_SIMULATOR")).path() + "/../bin/cvxctl"_s, {"watch"_s, "1001"_s});
+    other.start(QFileInfo(qEnvironmentVariable("CORVIX_TEST_SIMULATOR")).path() + "/../bin/cvxctl"_s,
+        {"watch"_s, "1001"_s});
     QVERIFY(other.waitForReadyRead(60000)); // The camera streams.
     ViewerUnderTest viewer("1001"_s);
     ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::InUse; });

@@ -156,7 +156,8 @@ void ViewerWindow::connectCanvas()
     connect(m_canvas, &ImageCanvas::painted, this, [this] { m_feed.accept(); });
     connect(m_canvas, &ImageCanvas::pointerMoved, this, &ViewerWindow::showPointer);
     connect(m_canvas, &ImageCanvas::pointerLeft, this, [this] { showPointer({-1, -1}); });
-    connect(m_canvas, &ImageCanvas::regionChanged, this, &ViewerWindow::onRegionDrawn);
+    connect(m_canvas, &ImageCanvas::regionChanged, m_measuringPanel, &MeasuringPanel::setRegion);
+    connect(m_canvas, &ImageCanvas::drawingFinished, this, &ViewerWindow::onDrawingFinished);
     connect(m_canvas, &ImageCanvas::lineChanged, m_measuringPanel, &MeasuringPanel::setLine);
     connect(m_canvas, &ImageCanvas::picked, this, &ViewerWindow::onPicked);
 }
@@ -322,9 +323,9 @@ void ViewerWindow::drawRegion()
     m_canvas->setFocus();
 }
 
-void ViewerWindow::onRegionDrawn(const QRect &region)
+void ViewerWindow::onDrawingFinished()
 {
-    m_measuringPanel->setRegion(region);
+    const QRect region = m_canvas->region();
     if (!m_isDrawingCameraRegion || region.isEmpty())
         return;
     m_isDrawingCameraRegion = false;

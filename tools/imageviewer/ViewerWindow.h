@@ -60,7 +60,7 @@ private:
     void setFrozen(bool isFrozen);
     void setFullScreen(bool isFullScreen);
     void drawRegion();
-    void onRegionDrawn(const QRect &region);
+    void onDrawingFinished();
     void setPicking(bool isPicking);
     void onPicked(const QPoint &pixel);
     void showPointer(const QPoint &pixel);

@@ -98,6 +98,7 @@ signals:
     void pointerLeft(); ///< The pointer is outside the picture.
     void regionChanged(const QRect &region); ///< Drawn, moved or removed by a person.
     void lineChanged(const QLine &line);
+    void drawingFinished(); ///< The mouse button was released after region or line were drawn or moved.
     void picked(const QPoint &pixel);
 
 protected:

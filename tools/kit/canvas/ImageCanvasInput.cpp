@@ -131,8 +131,10 @@ void ImageCanvas::mouseMoveEvent(QMouseEvent *event)
 void ImageCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
     m_pointer = event->localPos();
-    m_drag = Drag::None;
+    const Drag ended = std::exchange(m_drag, Drag::None);
     updateCursor();
+    if (ended == Drag::Draw)
+        emit drawingFinished();
 }
 
 void ImageCanvas::mouseDoubleClickEvent(QMouseEvent *event)
