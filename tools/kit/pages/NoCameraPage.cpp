@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
@@ -152,9 +153,8 @@ void NoCameraPage::showSummary(const Findings &findings)
 {
     const int problems = int(std::count_if(findings.begin(), findings.end(),
         [](const Finding &finding) { return finding.severity >= Severity::Warning; }));
-    m_summary->setText(problems == 0
-            ? tr("The checks have found nothing to correct.")
-            : tr("The checks have found %n thing(s) to correct.", nullptr, problems));
+    m_summary->setText(problems == 0 ? tr("The checks have found nothing to correct.")
+                                     : tr("Things to correct: %1").arg(QLocale().toString(problems)));
 }
 
 void NoCameraPage::removeFindings()
