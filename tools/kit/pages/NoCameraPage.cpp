@@ -137,9 +137,9 @@ void NoCameraPage::showFindings(Findings findings)
     removeFindings();
     for (const Finding &finding : findings) {
         auto *const card = new FindingCard(finding);
-        card->setVisible(!isFine(finding) || m_showFine->isChecked());
         card->setProperty("isFine", isFine(finding));
         m_cards->insertWidget(m_cards->count() - 1, card); // Before the stretch.
+        card->setVisible(!isFine(finding) || m_showFine->isChecked()); // Has a parent now, so is no window.
     }
     m_hasFindings = true;
     m_progress->hide();
