@@ -64,6 +64,7 @@ MeasuringPanel::MeasuringPanel(QWidget *parent)
     auto *const content = new QWidget;
     content->setObjectName(QStringLiteral("measuringContent"));
     auto *const layout = new QVBoxLayout(content);
+    layout->setContentsMargins(8, 8, 8, 8);
     addHistogram(layout);
     addStatistics(layout);
     layout->addWidget(m_profile);
