@@ -2,53 +2,14 @@
 
 #include "tools/cvxctl/Interruption.h"
 #include "tools/cvxctl/Terminal.h"
+#include "tools/kit/names/CameraMatch.h"
 
 #include <chrono>
-#include <cstring>
 #include <thread>
 
 using namespace CvxCPP;
 
 namespace {
-
-template <typename Read>
-std::string readText(const Read &read)
-{
-    unsigned size = 0;
-    if (read(nullptr, size) != CvxErrorSuccess)
-        return {};
-    std::string text(size, '\0');
-    if (read(text.data(), size) != CvxErrorSuccess)
-        return {};
-    text.resize(std::strlen(text.c_str()));
-    return text;
-}
-
-const char *typeName(CvxTransportLayerType type)
-{
-    static constexpr const char *names[] = {"unknown", "GigE", "Camera Link", "IIDC", "UVC", "CoaXPress",
-        "Camera Link HS", "USB", "Ethernet", "PCI", "custom", "mixed"};
-    return type < std::size(names) ? names[type] : names[0];
-}
-
-ListedCamera describe(const std::shared_ptr<Camera> &camera)
-{
-    ListedCamera listed;
-    listed.camera = camera;
-    const auto id = [&](bool isExtended) {
-        return readText(
-            [&](char *buffer, unsigned &size) { return camera->GetID(buffer, size, isExtended); });
-    };
-    const auto read = [&](CvxError (Camera::*function)(char *, unsigned &) const) {
-        return readText([&](char *buffer, unsigned &size) { return ((*camera).*function)(buffer, size); });
-    };
-    listed.names = {id(false), id(true), read(&Camera::GetModel), read(&Camera::GetSerialNumber),
-        read(&Camera::GetName), read(&Camera::GetUserName)};
-    CvxTransportLayerType type = CvxTransportLayerUnknown;
-    camera->GetInterfaceType(type);
-    listed.type = typeName(type);
-    return listed;
-}
 
 /// Prints the error of a failed Camera::Open().
 ExitStatus reportOpening(const CvxResult &result)
@@ -103,7 +64,7 @@ ExitStatus CameraSession::list(std::vector<ListedCamera> &cameras)
     found.resize(count);
     cameras.clear();
     for (const auto &camera : found)
-        cameras.push_back(describe(camera));
+        cameras.push_back({readCameraNames(*camera), technologyName(*camera), camera});
     return exitSuccess;
 }
 

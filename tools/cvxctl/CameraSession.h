@@ -1,8 +1,8 @@
 #pragma once
 
 #include "CvxCPP/Device.h"
-#include "tools/cvxctl/CameraChoice.h"
 #include "tools/cvxctl/ExitStatus.h"
+#include "tools/kit/names/CameraNames.h"
 
 #include <memory>
 #include <string>

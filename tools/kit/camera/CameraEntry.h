@@ -19,8 +19,23 @@ struct CameraEntry
     QString userName; ///< The name that a user has stored in the camera.
     QString connection; ///< Technology, for example "GigE".
     std::shared_ptr<CvxCPP::Camera> camera; ///< Never null in a list.
+
+    /// Reads everything from the camera object. Control characters and repeated blanks in the texts, but not
+    /// in the IDs, become one blank.
+    static CameraEntry read(const std::shared_ptr<CvxCPP::Camera> &camera);
+
+    /// Returns the text by which a person knows the camera: the user's name, the display name, the model or
+    /// the ID, whichever is the first that is not empty.
+    QString title() const;
+
+    /// Returns true if all texts are equal.
+    bool hasSameTexts(const CameraEntry &other) const;
 };
 
 using CameraEntries = QVector<CameraEntry>;
 
+/// Returns the cameras that the text means; see matchCameras().
+CameraEntries matchEntries(const CameraEntries &cameras, const QString &text);
+
+Q_DECLARE_METATYPE(CameraEntry)
 Q_DECLARE_METATYPE(CameraEntries)

@@ -2,17 +2,29 @@
 
 #include "CvxCPP/Node.h"
 #include "tools/kit/camera/CameraConnection.h"
+#include "tools/kit/camera/FeatureOperations.h"
+#include "tools/kit/camera/PollTimes.h"
 
+#include <QHash>
+#include <QMetaType>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
 #include <optional>
+#include <string>
+#include <vector>
+
+Q_DECLARE_METATYPE(CvxCPP::NodeValue)
+
+class QTimer;
 
 /// The features of the connected camera for a user interface: answers at once with what was read last, and
 /// reads, writes and executes in the background. Watched features are read after every change that the camera
-/// reports, and as often as the camera's description asks.
+/// reports, and as often as the camera's description asks, but at most five times per second.
 class FeatureClient : public QObject
 {
     Q_OBJECT
@@ -22,17 +34,18 @@ public:
 
     CameraConnection &connection() { return m_connection; }
 
-    /// Returns all features in the camera's order; empty before nodesLoaded().
-    const QVector<CvxCPP::NodeInfo> &nodes() const;
+    /// Returns all features in the camera's order; empty before nodesLoaded() and after nodesGone().
+    const QVector<CvxCPP::NodeInfo> &nodes() const { return m_nodes; }
 
-    /// Returns null if the camera has no such feature or is not open.
+    /// Returns null if the camera has no such feature or is not open. Valid until nodesGone().
     const CvxCPP::NodeInfo *info(const QString &name) const;
 
-    /// Returns what was read last; null if nothing was read.
+    /// Returns what was read last; null if nothing was read. Valid until the next event is processed.
     const CvxCPP::NodeState *state(const QString &name) const;
 
-    /// Returns the first of the names that the camera has and implements. Cameras name some features
-    /// differently.
+    /// Returns the first of the names that the camera has and implements; empty if there is none. Cameras
+    /// name some features differently. Whether a feature is implemented is known once it was read, so watch
+    /// all of the names.
     QString firstKnown(const QStringList &names) const;
 
     /// Keeps these features up to date until unwatch() is called as often as watch(). Names that the camera
@@ -41,7 +54,8 @@ public:
     void unwatch(const QStringList &names);
 
     /// Writes a value. Of several writes of one feature that wait, only the last one is made, so a slider
-    /// can call this function as it moves. A failure is reported by failed(), and the value is read again.
+    /// can call this function as it moves. Writes and commands are made in the order of the calls. A failure
+    /// is reported by failed(). In any case, the value is read again.
     void write(const QString &name, const CvxCPP::NodeValue &value);
 
     void execute(const QString &name);
@@ -50,21 +64,62 @@ public:
     bool isWriting(const QString &name) const;
 
 signals:
-    /// The camera was opened, or is another one: all features are new.
+    /// The camera was opened, or is another one: all features are new. The features that are watched already
+    /// have a state, unless they cannot be read.
     void nodesLoaded();
 
     /// The camera is closed or lost: no feature has a state.
     void nodesGone();
 
+    /// The state of the feature differs from the previous one.
     void stateChanged(const QString &name);
 
     /// A write has succeeded. `before` has no value if the feature had not been read.
-    void written(
-        const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
+    void written(const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
 
     /// A write or a command has failed; `text` is for people.
     void failed(const QString &name, const QString &text);
 
 private:
+    enum class Stage
+    {
+        Gone,
+        Loading, ///< The list of nodes, or the first states, are being read.
+        Loaded
+    };
+    using Names = std::vector<std::string>;
+    using States = std::vector<CvxCPP::NodeState>;
+
+    void followConnection();
+    void load();
+    void takeNodes(const CvxCPP::CvxResult &result, const std::vector<CvxCPP::NodeInfo> &nodes);
+    void forget();
+
+    void addDirty(const QStringList &names);
+    void readDirty();
+    void read(const Names &names);
+    void takeStates(const CvxCPP::CvxResult &result, const Names &names, const States &states);
+    void takeState(const CvxCPP::NodeState &state);
+    void poll();
+    void startPollTimer();
+
+    void runNextOperation();
+    void takeOperation(const CvxCPP::CvxResult &result);
+    void takeWritten(const QString &name, const CvxCPP::NodeValue &value);
+
     CameraConnection &m_connection;
+    Stage m_stage = Stage::Gone;
+    QVector<CvxCPP::NodeInfo> m_nodes;
+    QHash<QString, int> m_indexes; // Into m_nodes.
+    QHash<QString, CvxCPP::NodeState> m_states;
+    QHash<QString, int> m_watchCounts;
+
+    QSet<QString> m_dirty; // To be read.
+    bool m_isReading = false;
+    QTimer *m_readTimer; // Turns several changes into one read.
+    PollTimes m_pollTimes;
+    QTimer *m_pollTimer;
+
+    FeatureOperations m_operations;
+    std::optional<FeatureOperation> m_running;
 };

@@ -1,4 +1,4 @@
-#include "tools/cvxctl/CameraChoice.h"
+#include "tools/kit/names/CameraMatch.h"
 
 #include <algorithm>
 

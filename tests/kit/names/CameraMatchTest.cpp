@@ -1,4 +1,4 @@
-#include "tools/cvxctl/CameraChoice.h"
+#include "tools/kit/names/CameraMatch.h"
 
 #include <gtest/gtest.h>
 
@@ -18,17 +18,17 @@ struct Choice
     Indexes expected;
 };
 
-class CameraChoiceTest : public testing::TestWithParam<Choice>
+class CameraMatchTest : public testing::TestWithParam<Choice>
 { };
 
 } // namespace
 
-TEST_P(CameraChoiceTest, exactNamesWinOverParts)
+TEST_P(CameraMatchTest, exactNamesWinOverParts)
 {
     EXPECT_EQ(matchCameras(cameras, GetParam().text), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, CameraChoiceTest,
+INSTANTIATE_TEST_SUITE_P(Names, CameraMatchTest,
     testing::Values(Choice{"CAM-1", {0}}, // Also a part of another ID.
         Choice{"2403", {1}}, // Also a part of another serial number.
         Choice{"24030", {0}}, Choice{"cam-3", {2}}, Choice{"b.cti/usb/CAM-3", {2}},
