@@ -127,7 +127,7 @@ void MeasuringPanel::addStatistics(QVBoxLayout *layout)
 void MeasuringPanel::addDisplay(QVBoxLayout *layout)
 {
     m_message->setWordWrap(true);
-    m_message->setProperty("warning", true);
+    m_message->setProperty("role", QStringLiteral("warning"));
     m_message->hide();
     layout->addWidget(createHeading(tr("Display")));
     layout->addWidget(m_display);
