@@ -91,7 +91,8 @@ void TestMeasurer::clearForgetsTheImages()
     auto image = LiveImage::make(1);
     const std::weak_ptr<const CvxCPP::Image> first = image;
     test.measurer.setRequest(statisticsRequest);
-    test.measurer.take(std::move(image));
+    test.measurer.take(image);
+    image.reset();
     QTRY_COMPARE_WITH_TIMEOUT(test.results.size(), 1, bound);
     test.measurer.clear();
     QVERIFY(first.expired());

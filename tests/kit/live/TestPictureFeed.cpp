@@ -223,7 +223,8 @@ void TestPictureFeed::imagesAreReleased()
     test.request({4, 2});
     auto image = LiveImage::make(1);
     const std::weak_ptr<const CvxCPP::Image> first = image;
-    test.feed.take(std::move(image));
+    test.feed.take(image);
+    image.reset();
     QTRY_COMPARE_WITH_TIMEOUT(test.pictures.size(), 1, bound);
     test.feed.accept();
     test.show(2);
