@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -16,7 +17,7 @@
 
 namespace {
 
-constexpr int columnWidths[] = {240, 180, 140, 110, 140}; // Initial; a person can change them.
+constexpr int columnWidths[] = {280, 170, 140, 130, 140}; // Initial; a person can change them.
 
 /// Shows the rows that contain every word of the search.
 class CameraFilter : public QSortFilterProxyModel
@@ -190,7 +191,7 @@ QString CameraChooser::statusText() const
         return tr("Searching for cameras…");
     if (m_visible->rowCount() == 0 && m_cameras->rowCount() > 0)
         return tr("No camera matches “%1”.").arg(m_search->text());
-    return tr("%n camera(s)", nullptr, m_visible->rowCount());
+    return tr("Cameras: %1").arg(QLocale().toString(m_visible->rowCount()));
 }
 
 void CameraChooser::choose()

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
@@ -136,9 +137,9 @@ void NoCameraPage::showFindings(Findings findings)
     removeFindings();
     for (const Finding &finding : findings) {
         auto *const card = new FindingCard(finding);
-        card->setVisible(!isFine(finding) || m_showFine->isChecked());
         card->setProperty("isFine", isFine(finding));
         m_cards->insertWidget(m_cards->count() - 1, card); // Before the stretch.
+        card->setVisible(!isFine(finding) || m_showFine->isChecked()); // Has a parent now, so is no window.
     }
     m_hasFindings = true;
     m_progress->hide();
@@ -152,9 +153,8 @@ void NoCameraPage::showSummary(const Findings &findings)
 {
     const int problems = int(std::count_if(findings.begin(), findings.end(),
         [](const Finding &finding) { return finding.severity >= Severity::Warning; }));
-    m_summary->setText(problems == 0
-            ? tr("The checks have found nothing to correct.")
-            : tr("The checks have found %n thing(s) to correct.", nullptr, problems));
+    m_summary->setText(problems == 0 ? tr("The checks have found nothing to correct.")
+                                     : tr("Things to correct: %1").arg(QLocale().toString(problems)));
 }
 
 void NoCameraPage::removeFindings()
