@@ -3,6 +3,7 @@
 #include "tools/imageviewer/measuring/ComponentStyle.h"
 
 #include <QClipboard>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -16,7 +17,7 @@ constexpr int statisticsRows = 5; // Minimum, maximum, mean, deviation, pixels.
 
 QStringList rowTitles()
 {
-    return {StatisticsTable::tr("Minimum"), StatisticsTable::tr("Maximum"), StatisticsTable::tr("Mean"),
+    return {StatisticsTable::tr("Min."), StatisticsTable::tr("Max."), StatisticsTable::tr("Mean"),
         StatisticsTable::tr("Deviation"), StatisticsTable::tr("Pixels")};
 }
 
@@ -46,6 +47,9 @@ StatisticsTable::StatisticsTable(QWidget *parent) : QTableWidget(statisticsRows,
 {
     setAccessibleName(tr("Statistics"));
     setToolTip(tr("The deviation is the standard deviation. Ctrl+C copies the table."));
+    QFont smaller = font(); // Three components with millions of pixels have to fit into a narrow panel.
+    smaller.setPointSizeF(0.85 * QFontInfo(smaller).pointSizeF());
+    setFont(smaller);
     setVerticalHeaderLabels(rowTitles());
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::NoSelection);
