@@ -6,6 +6,7 @@
 #include "tools/kit/camera/PollTimes.h"
 
 #include <QHash>
+#include <QMetaType>
 #include <QObject>
 #include <QSet>
 #include <QString>
@@ -16,6 +17,8 @@
 #include <optional>
 #include <string>
 #include <vector>
+
+Q_DECLARE_METATYPE(CvxCPP::NodeValue)
 
 class QTimer;
 
