@@ -19,6 +19,8 @@ constexpr Milliseconds tickInterval(200); // Between two looks at events and the
 constexpr Milliseconds stopTimeout(500);
 constexpr Milliseconds closeTimeout(150); // All of them have to fit into the time that SocketWatch grants.
 
+constexpr const char *streamLock = "TLParamsLocked"; // Locks the nodes that must not change during a stream.
+
 } // namespace
 
 CameraHostServer::CameraHostServer(int socket, std::string producerFile)
@@ -138,10 +140,7 @@ void CameraHostServer::handle(const WriteValueRequest &request)
     if (const auto failure = m_camera.nodes().write(request.name, request.value))
         return fail(*failure);
     reply(NodeValueReply());
-    NodesChangedNotice changed{{request.name}};
-    for (std::string &name : m_camera.nodes().dependents(request.name))
-        changed.names.push_back(std::move(name));
-    notify(changed);
+    notifyChanged(request.name);
 }
 
 void CameraHostServer::handle(const PrepareStreamRequest &request)
@@ -162,10 +161,12 @@ void CameraHostServer::handle(const StartStreamRequest &request)
     CameraStream *const stream = m_camera.stream();
     if (!stream)
         return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
-    if (const auto failure = stream->start(request, m_channel.takeDescriptors()))
+    if (const auto failure = stream->start(request, m_channel.takeDescriptors())) {
         fail(*failure);
-    else
+    } else {
         reply(StreamStartedReply());
+        notifyChanged(streamLock);
+    }
     endIfStuck();
 }
 
@@ -174,6 +175,7 @@ void CameraHostServer::handle(const StopStreamRequest &)
     if (CameraStream *const stream = m_camera.stream())
         stream->stop(stopTimeout);
     reply(StreamStoppedReply());
+    notifyChanged(streamLock);
     endIfStuck();
 }
 
@@ -204,6 +206,15 @@ void CameraHostServer::fail(const RequestFailedReply &failure)
 {
     m_isFinished = m_isFinished || failure.failure == DeviceFailure::Lost;
     reply(failure);
+}
+
+/// Reports that the node and all nodes that depend on it may have changed.
+void CameraHostServer::notifyChanged(const std::string &node)
+{
+    NodesChangedNotice changed{{node}};
+    for (std::string &name : m_camera.nodes().dependents(node))
+        changed.names.push_back(std::move(name));
+    notify(changed);
 }
 
 template <typename Content>

@@ -47,6 +47,7 @@ private:
     template <typename Content>
     void reply(const Content &content);
     void fail(const RequestFailedReply &failure);
+    void notifyChanged(const std::string &node);
     template <typename Content>
     void notify(const Content &content);
     void endIfStuck();

@@ -71,6 +71,8 @@ std::optional<Message> HostClient::exchange(const Message &request, const std::v
     while (auto message = receive()) {
         if (const auto lost = message->content<DeviceLostNotice>())
             m_loss = lost->reason;
+        if (const auto changed = message->content<NodesChangedNotice>())
+            changedNodes.insert(changed->names.begin(), changed->names.end());
         if (message->id() != request.id())
             continue;
         if (auto failed = message->content<RequestFailedReply>())

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -67,6 +68,7 @@ public:
     RequestFailedReply failure; ///< Of the last request; the text is empty if the request has succeeded.
     std::vector<CvxCPP::NodeInfo> nodes; ///< Of the opened camera.
     StreamPreparedReply prepared;
+    std::set<std::string> changedNodes; ///< Nodes that the host has reported as changed.
 
 private:
     std::optional<Message> exchange(const Message &request, const std::vector<int> &descriptors);

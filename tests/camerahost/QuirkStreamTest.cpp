@@ -63,6 +63,18 @@ Value as(const std::vector<std::uint8_t> &bytes)
 
 } // namespace
 
+TEST(StreamLocks, areReportedAtStartAndEnd)
+{
+    OpenedHost host("");
+    HostClient &client = host.client;
+    for (const bool isStart : {true, false}) {
+        client.changedNodes.clear();
+        ASSERT_TRUE(isStart ? client.prepareStream() && client.startStream() : client.stopStream());
+        client.read("Width"); // The report arrives before this reply.
+        EXPECT_EQ(client.changedNodes.count("Width"), 1U) << (isStart ? "start" : "end");
+    }
+}
+
 class QuirkChunks : public testing::TestWithParam<Quirk>
 { };
 

@@ -57,7 +57,8 @@ public:
     virtual ~IDeviceObserver() = default;
 
     /// The values, limits or access of these nodes may have changed: after a write, all nodes that depend on
-    /// the written one; after a loss, all nodes.
+    /// the written one; after the start or the end of a stream, all nodes that it locks; after a loss, all
+    /// nodes.
     virtual void NodesChanged(const std::vector<std::string> &names) = 0;
 
     /// `reason` is a text for people. The state Closed is the last call.
