@@ -35,9 +35,9 @@ private:
     StreamMonitor &m_monitor;
     QTableWidget *m_table;
     RateGraph *m_graph;
-    QWidget *m_advice;
     QLabel *m_adviceText = nullptr;
     QWidget *m_commandBox = nullptr;
     QLineEdit *m_command = nullptr;
+    QWidget *m_advice; // Contains the three above, so it is created last.
     StreamFigures m_figures;
 };

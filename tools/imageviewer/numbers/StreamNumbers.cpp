@@ -28,7 +28,9 @@ QVector<NumberRow> StreamNumbers::rows() const
                "images are lost."),
             m_figures.buffers > 0 && m_figures.usedBuffers >= m_figures.buffers},
         {tr("Link speed"), linkText(), tr("Speed of the connection that the camera reports."), false},
-        {tr("Packet size"), m_figures.packetSize ? tr("%1 bytes").arg(*m_figures.packetSize) : notReported(),
+        {tr("Packet size"),
+            m_figures.packetSize ? tr("%1 bytes").arg(m_locale.toString(qlonglong(*m_figures.packetSize)))
+                                 : notReported(),
             tr("Size of the packets of a GigE camera."), false},
         {tr("Resent packets"),
             m_figures.resends ? m_locale.toString(qlonglong(*m_figures.resends)) : notReported(),
