@@ -11,12 +11,12 @@
 #include "tools/imageviewer/panel/CameraPanel.h"
 #include "tools/imageviewer/panel/WhiteBalanceCall.h"
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/window/ConnectionBar.h"
 #include "tools/kit/window/ToolStarter.h"
 
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -28,6 +28,13 @@ using std::chrono_literals::operator""s;
 
 /// After this time without a picture, the canvas says why there may be none.
 constexpr std::chrono::milliseconds hintDelay = 3s;
+
+void showDock(QDockWidget &dock)
+{
+    dock.show();
+    dock.raise();
+    dock.widget()->setFocus();
+}
 
 } // namespace
 
@@ -51,6 +58,7 @@ ViewerWindow::ViewerWindow(const QString &camera, ToolSettings &settings)
     m_hintTimer.setSingleShot(true);
     m_hintTimer.setInterval(hintDelay);
     setContent(m_canvas);
+    connectionBar().setShowsLoss(false); // The canvas shows it.
     createDocks();
     createMenus();
     createStatusBar();
@@ -77,6 +85,7 @@ QDockWidget *ViewerWindow::addPanel(
     dock->setObjectName(name); // saveState() needs it.
     dock->setWidget(panel);
     addDockWidget(area, dock);
+    m_docks.append(dock);
     return dock;
 }
 
@@ -111,11 +120,10 @@ void ViewerWindow::createMenus()
     addCameraEntries(camera);
     m_actions->addToViewMenu(menuBar()->addMenu(tr("&View")));
     QMenu *const panels = menuBar()->addMenu(tr("&Panels"));
-    const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
     int key = Qt::Key_1;
-    for (QDockWidget *dock : docks) {
-        dock->toggleViewAction()->setShortcut(Qt::ALT + key++);
-        panels->addAction(dock->toggleViewAction());
+    for (QDockWidget *dock : m_docks) {
+        QAction *const show = panels->addAction(dock->windowTitle(), this, [dock] { showDock(*dock); });
+        show->setShortcut(Qt::ALT + key++);
     }
     addHelpMenu(ViewerActions::canvasKeys());
 
@@ -123,6 +131,8 @@ void ViewerWindow::createMenus()
     bar->setObjectName(QStringLiteral("toolBar"));
     bar->setMovable(false);
     m_actions->addToToolBar(bar);
+    // In full screen, menus and tool bar are hidden, and only the window keeps the shortcuts.
+    addActions(m_actions->findChildren<QAction *>());
 }
 
 void ViewerWindow::createStatusBar()
@@ -249,9 +259,7 @@ void ViewerWindow::onConnectionChanged()
         if (m_stream.state() == LiveStream::State::Stopped)
             startStream();
     }
-    m_canvas->setNotice(state == State::Lost
-            ? tr("No picture since %1.").arg(QLocale().toString(connection().since().time()))
-            : QString());
+    m_canvas->setNotice(state == State::Lost ? ConnectionBar::lossText(connection()) : QString());
     onStreamChanged();
 }
 
@@ -301,8 +309,7 @@ void ViewerWindow::setFullScreen(bool isFullScreen)
         return;
     if (isFullScreen) {
         m_layoutBeforeFullScreen = saveState();
-        const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
-        for (QDockWidget *dock : docks)
+        for (QDockWidget *dock : m_docks)
             dock->hide();
         showFullScreen();
     } else {

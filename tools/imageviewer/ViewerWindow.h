@@ -82,6 +82,7 @@ private:
     MeasuringPanel *const m_measuringPanel;
     FilesPanel *m_filesPanel = nullptr;
     ThumbnailStrip *m_thumbnails = nullptr;
+    QList<QDockWidget *> m_docks; // In the order of their menu.
     QLabel *m_readout = nullptr;
     QPoint m_pointer{-1, -1}; // The pixel under the pointer.
     bool m_isDrawingCameraRegion = false; // The next drawn region goes to the camera.

@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QStyle>
 
@@ -33,6 +32,18 @@ ConnectionBar::ConnectionBar(CameraConnection &connection, QWidget *parent)
     update();
 }
 
+QString ConnectionBar::lossText(const CameraConnection &connection)
+{
+    return tr("%1 Lost at %2; it continues by itself when the camera is back.")
+        .arg(connection.reason(), connection.since().time().toString(QStringLiteral("HH:mm:ss")));
+}
+
+void ConnectionBar::setShowsLoss(bool showsLoss)
+{
+    m_showsLoss = showsLoss;
+    update();
+}
+
 void ConnectionBar::update()
 {
     const State state = m_connection.state();
@@ -44,9 +55,7 @@ void ConnectionBar::update()
     else if (state == State::Failed)
         m_text->setText(tr("%1 cannot be opened. %2").arg(name, reason));
     else if (state == State::Lost)
-        m_text->setText(
-            tr("%1 is lost since %2. %3 It continues by itself when the camera is back.")
-                .arg(name, QLocale().toString(m_connection.since().time(), QLocale::LongFormat), reason));
+        m_text->setText(lossText(m_connection));
     else if (isWatching)
         m_text->setText(tr("Watching %1: its settings are shown as another program changes them. Only that "
                            "program receives pictures.")
@@ -54,7 +63,8 @@ void ConnectionBar::update()
     m_watch->setVisible(state == State::InUse);
     m_control->setText(isWatching ? tr("&Take control") : tr("&Try again"));
     m_control->setVisible(state != State::Lost);
-    const bool isProblem = state == State::InUse || state == State::Failed || state == State::Lost;
+    const bool isLossShown = state == State::Lost && m_showsLoss;
+    const bool isProblem = state == State::InUse || state == State::Failed || isLossShown;
     setProperty("severity", isProblem ? QStringLiteral("warning") : QStringLiteral("notice"));
     style()->unpolish(this);
     style()->polish(this);

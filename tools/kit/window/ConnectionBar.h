@@ -16,6 +16,12 @@ class ConnectionBar : public QFrame
 public:
     explicit ConnectionBar(CameraConnection &connection, QWidget *parent = nullptr);
 
+    /// A tool whose content shows by itself that the camera is lost switches the line for this case off.
+    void setShowsLoss(bool showsLoss);
+
+    /// Returns what happened to a lost camera, and when.
+    static QString lossText(const CameraConnection &connection);
+
 signals:
     void watchRequested();
     void controlRequested(); ///< Open the same camera again, for control.
@@ -25,6 +31,7 @@ private:
     void update();
 
     CameraConnection &m_connection;
+    bool m_showsLoss = true;
     QLabel *m_text;
     QPushButton *m_watch;
     QPushButton *m_control;

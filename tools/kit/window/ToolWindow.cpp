@@ -36,7 +36,8 @@ ToolWindow::ToolWindow(const Setup &setup, ToolSettings &settings)
       m_searching(new QLabel(this)),
       m_chooser(new CameraChooser(m_finder, this)),
       m_noCamera(new NoCameraPage(this)),
-      m_content(new QWidget(this))
+      m_content(new QWidget(this)),
+      m_bar(new ConnectionBar(m_connection, m_content))
 {
     m_searching->setAlignment(Qt::AlignCenter);
     m_searching->setWordWrap(true);
@@ -45,17 +46,16 @@ ToolWindow::ToolWindow(const Setup &setup, ToolSettings &settings)
     auto *contentLayout = new QVBoxLayout(m_content);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     contentLayout->setSpacing(0);
-    auto *bar = new ConnectionBar(m_connection, m_content);
-    contentLayout->addWidget(bar);
+    contentLayout->addWidget(m_bar);
     for (QWidget *page : {static_cast<QWidget *>(m_searching), static_cast<QWidget *>(m_chooser),
              static_cast<QWidget *>(m_noCamera), m_content})
         m_pages->addWidget(page);
     setCentralWidget(m_pages);
     setWindowTitle(setup.title);
 
-    connect(bar, &ConnectionBar::watchRequested, this, [this] { reopen(CvxCPP::CvxAccessWatch); });
-    connect(bar, &ConnectionBar::controlRequested, this, [this] { reopen(CvxCPP::CvxAccessControl); });
-    connect(bar, &ConnectionBar::otherCameraRequested, this, &ToolWindow::chooseCamera);
+    connect(m_bar, &ConnectionBar::watchRequested, this, [this] { reopen(CvxCPP::CvxAccessWatch); });
+    connect(m_bar, &ConnectionBar::controlRequested, this, [this] { reopen(CvxCPP::CvxAccessControl); });
+    connect(m_bar, &ConnectionBar::otherCameraRequested, this, &ToolWindow::chooseCamera);
     connect(m_chooser, &CameraChooser::chosen, this, &ToolWindow::openCamera);
     connect(m_noCamera, &NoCameraPage::checked, &m_finder, &CameraFinder::refresh);
     connect(&m_finder, &CameraFinder::changed, this, &ToolWindow::showCameras);

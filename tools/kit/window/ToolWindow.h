@@ -43,6 +43,8 @@ protected:
     /// Sets what is shown while there is a camera. The window takes the ownership.
     void setContent(QWidget *content);
 
+    ConnectionBar &connectionBar() { return *m_bar; }
+
     // These functions add the entries that every tool has.
     void addCameraEntries(QMenu *menu);
     void addQuitEntry(QMenu *menu);
@@ -88,4 +90,5 @@ private:
     CameraChooser *m_chooser;
     NoCameraPage *m_noCamera;
     QWidget *m_content;
+    ConnectionBar *m_bar; // Above the content.
 };
