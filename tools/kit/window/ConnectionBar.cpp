@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
+#include <QVariant>
 
 using State = CameraConnection::State;
 
