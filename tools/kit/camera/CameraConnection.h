@@ -54,8 +54,8 @@ public:
     /// Returns what open() was called with; without ID before the first call.
     const CameraEntry &camera() const { return m_camera; }
 
-    /// Returns why the state is Lost, InUse or Failed, for people. In the state Open, the text is empty until
-    /// the camera was opened again after a loss; then it tells which settings could not be restored.
+    /// Returns why the state is Lost, InUse or Failed, for people. After a loss, the text of the state Open
+    /// says that the camera is open again, and which settings it has refused. Otherwise, the text is empty.
     QString reason() const { return m_reason; }
     QDateTime since() const { return m_since; } ///< When the state began.
 
