@@ -47,9 +47,6 @@ StatisticsTable::StatisticsTable(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName(tr("Statistics"));
     setToolTip(tr("The deviation is the standard deviation."));
-    QFont smaller = font(); // Three components with millions of pixels have to fit into a narrow panel.
-    smaller.setPointSizeF(0.9 * QFontInfo(smaller).pointSizeF());
-    setFont(smaller);
     auto *const layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(8);
@@ -73,6 +70,10 @@ StatisticsTable::StatisticsTable(QWidget *parent) : QWidget(parent)
 QLabel *StatisticsTable::addLabel(QGridLayout *layout, std::size_t row, std::size_t column)
 {
     auto *const label = new QLabel;
+    QFont smaller
+        = label->font(); // Three components with millions of pixels have to fit into a narrow panel.
+    smaller.setPointSizeF(0.85 * QFontInfo(smaller).pointSizeF());
+    label->setFont(smaller);
     layout->addWidget(label, static_cast<int>(row), static_cast<int>(column));
     return label;
 }
