@@ -6,9 +6,11 @@
 #include "tools/imageviewer/measuring/StatisticsTable.h"
 
 #include <QClipboard>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -278,13 +280,14 @@ void TestMeasuringWidgets::statisticsAreCopiedAsText()
 {
     StatisticsTable table;
     table.setStatistics({{C::Red, 1234567, 12, 4095, 1234.5678, 9.125}, {C::Blue, 2, 0.25, 1.5, 0.875, 0.5}});
-    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    table.copy();
     QCOMPARE(QGuiApplication::clipboard()->text(),
-        QStringLiteral("Component\tMin.\tMax.\tMean\tDeviation\tPixels\n"
+        QStringLiteral("Component\tMinimum\tMaximum\tMean\tDeviation\tPixels\n"
                        "Red\t12\t4095\t1234.57\t9.13\t1234567\n"
                        "Blue\t0.250\t1.500\t0.875\t0.500\t2\n"));
-    QCOMPARE(table.item(4, 0)->text(), QStringLiteral("1,234,567"));
-    QCOMPARE(table.horizontalHeaderItem(1)->text(), QStringLiteral("Blue"));
+    const QList<QLabel *> cells = table.findChildren<QLabel *>();
+    QVERIFY(std::any_of(cells.begin(), cells.end(),
+        [](const QLabel *cell) { return cell->text() == QStringLiteral("1,234,567"); }));
 }
 
 int main(int argc, char **argv)

@@ -8,6 +8,12 @@ void StreamingDevice::failNextStart(const CvxResult &result)
     m_startFailure = result;
 }
 
+void StreamingDevice::hangOnClose()
+{
+    const std::lock_guard lock(m_mutex);
+    m_hangsOnClose = true;
+}
+
 std::shared_ptr<ScriptedStream> StreamingDevice::stream() const
 {
     const std::lock_guard lock(m_mutex);
@@ -43,7 +49,13 @@ CvxResult StreamingDevice::StartStream(
 
 CvxResult StreamingDevice::Close()
 {
-    if (const auto present = stream())
-        present->end({CvxCPP::CvxErrorClosed, "The device is closed."});
+    std::shared_ptr<ScriptedStream> ending = stream();
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_hangsOnClose)
+            ending.reset();
+    }
+    if (ending)
+        ending->end({CvxCPP::CvxErrorClosed, "The device is closed."});
     return TestDevice::Close();
 }

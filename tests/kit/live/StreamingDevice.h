@@ -10,6 +10,9 @@ public:
     /// The next StartStream() fails with this result.
     void failNextStart(const CvxCPP::CvxResult &result);
 
+    /// Close() does not end the stream, as if the producer did not answer.
+    void hangOnClose();
+
     /// Returns the stream that was started last; null if there is none.
     std::shared_ptr<ScriptedStream> stream() const;
 
@@ -26,6 +29,7 @@ public:
 private:
     mutable std::mutex m_mutex;
     CvxCPP::CvxResult m_startFailure;
+    bool m_hangsOnClose = false;
     std::weak_ptr<ScriptedStream> m_stream;
     std::string m_record;
 };

@@ -264,6 +264,8 @@ void TestLiveStream::pauseFollowsAPendingStart()
             return CvxResult();
         };
     };
+    QVector<State> states;
+    connect(&test.stream, &LiveStream::stateChanged, this, [&] { states.append(test.stream.state()); });
     test.stream.start(8);
     test.stream.pauseFor(note("first"), this, {});
     test.stream.pauseFor(note("second"), this, {});
@@ -271,6 +273,7 @@ void TestLiveStream::pauseFollowsAPendingStart()
     QTRY_COMPARE_WITH_TIMEOUT(test.stream.state(), State::Stopped, bound);
     QCOMPARE(QString::fromStdString(test.device->record()),
         QStringLiteral("start 8, stop, first, start 8, stop, second, start 8, stop"));
+    QCOMPARE(states, (QVector<State>{State::Starting, State::Stopping, State::Stopped}));
 }
 
 void TestLiveStream::pauseThatCannotStartAgainFails()
@@ -289,10 +292,13 @@ void TestLiveStream::anotherCameraStopsTheStream()
     test.stream.addSink(&test.sink);
     test.start();
     const std::shared_ptr<ScriptedStream> oldStream = test.device->stream();
+    test.device->hangOnClose(); // Images of the old camera still arrive.
     const auto otherDevice = std::make_shared<StreamingDevice>();
     test.open(std::make_shared<OpenableCamera>("CAM-2", otherDevice));
     QCOMPARE(test.stream.state(), State::Stopped);
     oldStream->deliver(LiveImage::make(1));
+    QTRY_COMPARE_WITH_TIMEOUT(
+        QString::fromStdString(test.device->record()), QStringLiteral("start 8, stop"), bound);
     test.start();
     otherDevice->stream()->deliver(LiveImage::make(2));
     QTRY_COMPARE_WITH_TIMEOUT(test.sink.ids(), (Ids{2}), bound);

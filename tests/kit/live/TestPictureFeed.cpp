@@ -3,9 +3,26 @@
 
 #include <QtTest>
 
+#include <atomic>
+
 namespace {
 
 constexpr int bound = 10000; // Milliseconds.
+
+/// An image of 4 x 2 pixels that knows whether anybody has read its size.
+class ObservedImage : public LiveImage
+{
+public:
+    explicit ObservedImage(std::uint64_t frameId) : LiveImage(frameId, 4, 2, 0) { }
+
+    const CvxCPP::ImageInfo &GetInfo() const override
+    {
+        isRead = true;
+        return LiveImage::GetInfo();
+    }
+
+    mutable std::atomic<bool> isRead = false;
+};
 
 /// A feed, and what it has reported.
 struct FeedTest
@@ -105,8 +122,11 @@ void TestPictureFeed::newestImageWinsUntilAccepted()
     FeedTest test;
     test.request({4, 2});
     test.show(1);
-    for (std::uint64_t id = 2; id <= 5; ++id)
-        test.feed.take(LiveImage::make(id));
+    for (std::uint64_t id = 2; id <= 5; ++id) {
+        const auto image = std::make_shared<ObservedImage>(id);
+        test.feed.take(image);
+        QTRY_VERIFY_WITH_TIMEOUT(image->isRead, bound); // The thread has decided what to do with the image.
+    }
     QCOMPARE(test.feed.skippedCount(), std::uint64_t(3)); // 5 still waits.
     QCOMPARE(test.feed.shownCount(), std::uint64_t(1));
     test.feed.accept();
@@ -158,13 +178,14 @@ void TestPictureFeed::imageOfAnotherSizeWaitsForItsRequest()
     test.show(1);
     test.feed.take(LiveImage::make(2, 8, 6));
     QTRY_COMPARE_WITH_TIMEOUT(test.sizes, QVector<QSize>{QSize(8, 6)}, bound);
-    test.feed.accept();
+    test.request({4, 2}); // Made before the new size was known.
+    QTRY_COMPARE_WITH_TIMEOUT(test.sizes.size(), 2, bound);
     test.feed.take(LiveImage::make(3, 8, 6)); // Its size is known already.
     test.request({8, 6});
     QTRY_COMPARE_WITH_TIMEOUT(test.pictures.size(), 2, bound);
     QCOMPARE(test.pictures[1].pixels.size(), QSize(8, 6));
     QCOMPARE(test.lastId(), std::uint64_t(3));
-    QCOMPARE(test.sizes.size(), 1);
+    QCOMPARE(test.sizes.size(), 2);
 }
 
 void TestPictureFeed::nothingIsRenderedWhileNothingIsVisible()
