@@ -207,6 +207,7 @@ void TestFeatureEditors::sliderWritesWhileItMoves()
     bench.device().setByCamera("ExposureTime", 10.0); // The slider stays under the hand.
     WAIT_FOR(bench.client.state(QStringLiteral("ExposureTime"))->value == NodeValue(10.0));
     QCOMPARE(slider->value(), 500);
+    QCOMPARE(shown(*editor), QStringLiteral("1000"));
     slider->setSliderDown(false);
     WAIT_FOR_EQUAL(shown(*editor), "10");
     QCOMPARE(slider->value(), 167);
