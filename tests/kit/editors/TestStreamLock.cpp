@@ -12,7 +12,8 @@ namespace {
 /// A camera that streams, with a feature that is locked by the stream.
 void addLockedFormat(TestDevice &device)
 {
-    addChoice(device, "PixelFormat", {"Mono8", "Mono12"}).state.lockReason = LockReason::StreamRunning;
+    addChoice(device, "PixelFormat", {"Mono8", "Mono12", "RGB8"}).state.lockReason
+        = LockReason::StreamRunning;
     device.setDependents("PixelFormat", {"PixelFormat"});
     device.addCommand("UserSetLoad").state.lockReason = LockReason::StreamRunning;
 }
@@ -103,8 +104,14 @@ void TestStreamLock::changeIsOfferedInOneStep()
     QCOMPARE(format.editor->noteText(), QString());
     format.choose(1);
     QVERIFY(!format.editor->noteText().isEmpty());
+    format.bench.device().change([](ScriptedDevice &device) {
+        device.feature("PixelFormat").state.availableEntries = {"Mono8", "Mono12"};
+    });
     format.bench.device().notifyNodes({"PixelFormat"});
-    format.bench.waitForCalls();
+    const CvxCPP::NodeState *state = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT((state = format.bench.client.state(QStringLiteral("PixelFormat")))
+            && state->availableEntries.size() == 2,
+        hangTimeout);
     QCOMPARE(format.box->currentIndex(), 1); // The question is about this entry, which therefore stays.
     QCOMPARE(format.pauser.count, 0);
 

@@ -4,6 +4,7 @@
 #include "tools/imageviewer/panel/FeatureRow.h"
 #include "tools/imageviewer/panel/PanelLayout.h"
 #include "tools/imageviewer/panel/RegionCall.h"
+#include "tools/imageviewer/panel/VerticalScrollArea.h"
 #include "tools/imageviewer/panel/WhiteBalanceCall.h"
 #include "tools/kit/editors/CommandButton.h"
 #include "tools/kit/editors/FeatureEditors.h"
@@ -13,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSettings>
 #include <QVBoxLayout>
 
@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr int labelWidth = 124;
-constexpr int smallestWidth = 310;
+constexpr int labelCharacters = 16; ///< Width of the labels; longer ones are wrapped.
+constexpr int contentMargin = 4; ///< Between the controls and the scroll bar.
 
 QString stateKey(const QString &group)
 {
@@ -49,23 +49,19 @@ CameraPanel::CameraPanel(FeatureClient &client, QWidget *parent)
     for (const PanelGroup &group : panelGroups())
         m_isOpen.insert(group.key, group.isOpenAtFirst);
     setObjectName(QStringLiteral("cameraPanel"));
-    setMinimumWidth(smallestWidth);
     m_notice->setObjectName(QStringLiteral("panelNotice"));
+    m_notice->setProperty("role", QStringLiteral("warning"));
     m_notice->setWordWrap(true);
 
     auto *const content = new QWidget;
     content->setObjectName(QStringLiteral("cameraPanelContent"));
     auto *const contentLayout = new QVBoxLayout(content);
-    contentLayout->setContentsMargins(0, 0, 0, 0);
+    contentLayout->setContentsMargins(0, 0, contentMargin, 0);
     contentLayout->addLayout(m_groupLayout);
     contentLayout->addStretch();
     m_groupLayout->setSpacing(4);
-    auto *const scrollArea = new QScrollArea(this);
+    auto *const scrollArea = new VerticalScrollArea(this);
     scrollArea->setWidget(content);
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setFrameShape(QFrame::NoFrame);
-    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollArea->setFocusPolicy(Qt::NoFocus);
     auto *const cameraSetup = new QPushButton(tr("All features (Camera Setup)"), this);
     cameraSetup->setObjectName(QStringLiteral("cameraSetupButton"));
 
@@ -175,7 +171,7 @@ void CameraPanel::addGroup(const PanelGroup &layout)
 void CameraPanel::addRegionButtons(CollapsibleGroup &group)
 {
     m_regionButtons = new QWidget;
-    auto *const draw = new QPushButton(tr("Draw on the picture"), m_regionButtons);
+    auto *const draw = new QPushButton(tr("Draw on picture"), m_regionButtons);
     auto *const whole = new QPushButton(tr("Whole sensor"), m_regionButtons);
     draw->setToolTip(tr("Drag a rectangle over the part of the picture that the camera shall send."));
     auto *const layout = new QHBoxLayout(m_regionButtons);
@@ -190,7 +186,7 @@ void CameraPanel::addRegionButtons(CollapsibleGroup &group)
 void CameraPanel::onFound(CollapsibleGroup *group, FeatureRow *row, FeatureEditor *editor)
 {
     m_editors.insert(editor->feature(), editor);
-    editor->setLabelWidth(labelWidth);
+    editor->setLabelWidth(fontMetrics().averageCharWidth() * labelCharacters);
     editor->setStreamPauser(m_pauser);
     if (!row->isSelector())
         group->show();

@@ -3,6 +3,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 CollapsibleGroup::CollapsibleGroup(const QString &title, QWidget *parent)
     : QWidget(parent),
       m_title(new QToolButton(this)),
@@ -11,10 +13,12 @@ CollapsibleGroup::CollapsibleGroup(const QString &title, QWidget *parent)
 {
     m_title->setObjectName(QStringLiteral("groupTitle"));
     m_title->setText(title);
-    m_title->setCheckable(true);
     m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_title->setAutoRaise(true);
+    QFont font = m_title->font();
+    font.setBold(true);
+    m_title->setFont(font);
     m_contentLayout->setContentsMargins(10, 4, 4, 8);
     m_contentLayout->setSpacing(6);
     auto *const layout = new QVBoxLayout(this);
@@ -22,7 +26,7 @@ CollapsibleGroup::CollapsibleGroup(const QString &title, QWidget *parent)
     layout->setSpacing(0);
     layout->addWidget(m_title);
     layout->addWidget(m_content);
-    connect(m_title, &QToolButton::toggled, this, &CollapsibleGroup::setOpen);
+    connect(m_title, &QToolButton::clicked, this, [this] { setOpen(!m_isOpen); });
     setOpen(false);
 }
 
@@ -31,17 +35,11 @@ void CollapsibleGroup::addWidget(QWidget *widget)
     m_contentLayout->addWidget(widget);
 }
 
-bool CollapsibleGroup::isOpen() const
-{
-    return m_title->isChecked();
-}
-
 void CollapsibleGroup::setOpen(bool isOpen)
 {
     m_title->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
+    m_title->setAccessibleDescription(isOpen ? tr("Open group") : tr("Closed group"));
     m_content->setVisible(isOpen);
-    if (m_title->isChecked() != isOpen)
-        m_title->setChecked(isOpen); // Comes back here once.
-    else
+    if (std::exchange(m_isOpen, isOpen) != isOpen)
         emit toggled(isOpen);
 }

@@ -15,7 +15,7 @@ public:
 
     void addWidget(QWidget *widget);
 
-    bool isOpen() const;
+    bool isOpen() const { return m_isOpen; }
 
 public slots:
     void setOpen(bool isOpen);
@@ -27,4 +27,5 @@ private:
     QToolButton *m_title;
     QWidget *m_content;
     QVBoxLayout *m_contentLayout;
+    bool m_isOpen = false;
 };

@@ -8,7 +8,7 @@
 #include <utility>
 
 FeatureRow::FeatureRow(const PanelRow &row, FeatureClient &client, QWidget *parent)
-    : QWidget(parent), m_row(row), m_client(client)
+    : QWidget(parent), m_row(row), m_client(&client)
 {
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -28,10 +28,10 @@ void FeatureRow::tryNext()
 {
     while (m_next < m_row.names.size()) {
         const QString name = m_row.names[m_next++];
-        if (!m_client.info(name))
+        if (!m_client->info(name))
             continue;
         m_waitingFor = name;
-        m_client.watch({name});
+        m_client->watch({name});
         decide();
         return;
     }
@@ -45,7 +45,7 @@ void FeatureRow::onStateChanged(const QString &name)
 
 void FeatureRow::decide()
 {
-    const CvxCPP::NodeState *const state = m_waitingFor.isEmpty() ? nullptr : m_client.state(m_waitingFor);
+    const CvxCPP::NodeState *const state = m_waitingFor.isEmpty() ? nullptr : m_client->state(m_waitingFor);
     if (!state)
         return;
     if (state->access != CvxCPP::NodeAccess::NotImplemented)
@@ -57,8 +57,8 @@ void FeatureRow::decide()
 
 void FeatureRow::place()
 {
-    const CvxCPP::NodeState *const state = m_client.state(m_waitingFor);
-    m_editor = createFeatureEditor(*m_client.info(m_waitingFor), m_client, this);
+    const CvxCPP::NodeState *const state = m_client->state(m_waitingFor);
+    m_editor = createFeatureEditor(*m_client->info(m_waitingFor), *m_client, this);
     if (!m_editor)
         return;
     if (auto *const number = qobject_cast<NumberEditor *>(m_editor))
@@ -72,6 +72,6 @@ void FeatureRow::place()
 void FeatureRow::stopWaiting()
 {
     const QString name = std::exchange(m_waitingFor, {});
-    if (!name.isEmpty())
-        m_client.unwatch({name});
+    if (!name.isEmpty() && m_client)
+        m_client->unwatch({name});
 }

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "tools/imageviewer/panel/PanelLayout.h"
+#include "tools/kit/camera/FeatureClient.h"
 
+#include <QPointer>
 #include <QWidget>
 
-class FeatureClient;
 class FeatureEditor;
 
 /// Shows the first of a row's features that the camera implements, which is known once the feature was read.
@@ -34,7 +35,7 @@ private:
     void stopWaiting();
 
     const PanelRow m_row;
-    FeatureClient &m_client;
+    QPointer<FeatureClient> m_client; ///< Null once it was destroyed.
     int m_next = 0; ///< Index of the name to be tried next.
     QString m_waitingFor; ///< The watched name whose state is not known yet.
     FeatureEditor *m_editor = nullptr;

@@ -48,7 +48,7 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
     : QWidget(parent),
       m_info(info),
       m_feature(QString::fromStdString(info.name)),
-      m_client(client),
+      m_client(&client),
       m_layout(new QGridLayout(this)),
       m_label(new QLabel(QString::fromStdString(info.displayName), this)),
       m_note(new FeatureNote(this))
@@ -59,7 +59,7 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
     m_layout->setColumnStretch(controlColumn, 1);
     m_layout->addWidget(m_label, controlRow, labelColumn);
     m_layout->addWidget(m_note, noteRow, labelColumn, 1, columns);
-    m_label->setObjectName(QStringLiteral("featureLabel"));
+    m_label->setProperty("role", QStringLiteral("secondary"));
     m_label->setWordWrap(true);
 
     connect(m_note, &FeatureNote::accepted, this, &FeatureEditor::acceptQuestion);
@@ -69,6 +69,11 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
     connect(&client, &FeatureClient::failed, this, &FeatureEditor::onFailed);
     connect(&client, &FeatureClient::nodesLoaded, this, &FeatureEditor::refresh);
     connect(&client, &FeatureClient::nodesGone, this, &FeatureEditor::refresh);
+}
+
+FeatureEditor::~FeatureEditor()
+{
+    stopWatching();
 }
 
 void FeatureEditor::setLabel(const QString &text)
@@ -113,8 +118,8 @@ QString FeatureEditor::lockReason() const
     if (!read || isEditable())
         return {};
     const QString lockingNode = QString::fromStdString(read->lockingNode);
-    const CvxCPP::NodeInfo *const lockingInfo = m_client.info(lockingNode);
-    const CvxCPP::NodeState *const lockingState = m_client.state(lockingNode);
+    const CvxCPP::NodeInfo *const lockingInfo = m_client->info(lockingNode);
+    const CvxCPP::NodeState *const lockingState = m_client->state(lockingNode);
     return lockText(*read, lockingInfo ? QString::fromStdString(lockingInfo->displayName) : lockingNode,
         lockingState ? modeText(lockingState->value) : QString());
 }
@@ -161,8 +166,9 @@ void FeatureEditor::hideLabel()
 void FeatureEditor::submit(const CvxCPP::NodeValue &value)
 {
     forgetMessages();
+    m_submitted = value;
     const CvxCPP::NodeState *const read = state();
-    if (read && read->value == value && !m_client.isWriting(m_feature)) {
+    if (read && read->value == value && !m_client->isWriting(m_feature)) {
         rejectQuestion(); // The change was taken back.
         return;
     }
@@ -170,7 +176,7 @@ void FeatureEditor::submit(const CvxCPP::NodeValue &value)
         askToPause([name = m_info.name, value](CvxCPP::Device &device) { return device.Write(name, value); });
         return;
     }
-    m_client.write(m_feature, value);
+    m_client->write(m_feature, value);
     showNote();
 }
 
@@ -182,7 +188,7 @@ void FeatureEditor::execute()
         askToPause([name = m_info.name](CvxCPP::Device &device) { return device.Execute(name); });
         return;
     }
-    m_client.execute(m_feature);
+    m_client->execute(m_feature);
     showNote();
 }
 
@@ -201,7 +207,7 @@ void FeatureEditor::showRemark(const QString &text)
 
 const CvxCPP::NodeState *FeatureEditor::state() const
 {
-    return m_client.state(m_feature);
+    return m_client->state(m_feature);
 }
 
 void FeatureEditor::refresh()
@@ -210,7 +216,7 @@ void FeatureEditor::refresh()
     if (!read)
         m_action = {};
     // The question is about the value that is shown, so this value stays until the answer.
-    if (read && !m_action && !m_isPausing && !m_client.isWriting(m_feature))
+    if (read && !m_action && !m_isPausing && !m_client->isWriting(m_feature))
         showState(*read);
     setEditable(isEditable());
     showNote();
@@ -221,16 +227,15 @@ void FeatureEditor::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (std::exchange(m_isWatching, true))
         return;
-    m_client.watch({m_feature});
+    m_client->watch({m_feature});
     refresh();
 }
 
 void FeatureEditor::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    if (event->spontaneous() || !std::exchange(m_isWatching, false))
-        return;
-    m_client.unwatch({m_feature});
+    if (!event->spontaneous())
+        stopWatching();
 }
 
 bool FeatureEditor::eventFilter(QObject *watched, QEvent *event)
@@ -244,7 +249,10 @@ bool FeatureEditor::eventFilter(QObject *watched, QEvent *event)
 void FeatureEditor::onStateChanged(const QString &name)
 {
     const CvxCPP::NodeState *const read = state();
-    if (name == m_feature || (read && name == QString::fromStdString(read->lockingNode)))
+    const bool isOwn = name == m_feature;
+    if (isOwn && read && read->value != m_submitted && !m_isPausing)
+        m_remark.clear(); // It was about a value that is gone.
+    if (isOwn || (read && name == QString::fromStdString(read->lockingNode)))
         refresh();
 }
 
@@ -299,6 +307,13 @@ void FeatureEditor::showNote()
     else
         m_note->clear();
     setToolTip(lock);
+}
+
+void FeatureEditor::stopWatching()
+{
+    // The members of a window, such as the client, are destroyed before its widgets.
+    if (std::exchange(m_isWatching, false) && m_client)
+        m_client->unwatch({m_feature});
 }
 
 void FeatureEditor::forgetMessages()

@@ -3,6 +3,7 @@
 #include "CvxCPP/Node.h"
 #include "tools/kit/camera/FeatureClient.h"
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -25,6 +26,8 @@ class FeatureEditor : public QWidget
     Q_OBJECT
 
 public:
+    ~FeatureEditor() override;
+
     const QString &feature() const { return m_feature; }
     const CvxCPP::NodeInfo &info() const { return m_info; }
 
@@ -111,16 +114,18 @@ private:
     void pauseFor(const CameraConnection::Call &call);
     void onPaused(const CvxCPP::CvxResult &result);
     void showNote();
+    void stopWatching();
     void forgetMessages();
 
     const CvxCPP::NodeInfo m_info;
     const QString m_feature;
-    FeatureClient &m_client;
+    QPointer<FeatureClient> m_client; ///< Null once it was destroyed.
     StreamPauser *m_pauser = nullptr;
     QGridLayout *m_layout;
     QLabel *m_label;
     FeatureNote *m_note;
     QString m_error; ///< What the last change failed with.
+    CvxCPP::NodeValue m_submitted; ///< What the last change was.
     QString m_remark; ///< What is wrong with what was typed last.
     std::function<void()> m_action; ///< What the present question is about.
     bool m_hasLabel = true;

@@ -7,6 +7,12 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+namespace {
+
+constexpr double fontScale = 0.9; ///< A note is less important than the values.
+
+} // namespace
+
 FeatureNote::FeatureNote(QWidget *parent)
     : QWidget(parent),
       m_text(new QLabel(this)),
@@ -15,11 +21,14 @@ FeatureNote::FeatureNote(QWidget *parent)
       m_reject(new QPushButton(tr("Discard"), m_buttons))
 {
     m_text->setObjectName(QStringLiteral("featureNote"));
+    QFont font = m_text->font();
+    font.setPointSizeF(font.pointSizeF() * fontScale);
+    m_text->setFont(font);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_text->setFocusPolicy(Qt::NoFocus);
-    m_accept->setObjectName(QStringLiteral("primaryButton"));
+    m_accept->setProperty("role", QStringLiteral("primary"));
 
     auto *const buttonLayout = new QHBoxLayout(m_buttons);
     buttonLayout->setContentsMargins(0, 0, 0, 0);
@@ -47,26 +56,26 @@ void FeatureNote::clear()
 void FeatureNote::showLock(const QString &text)
 {
     m_buttons->hide();
-    showKind(QStringLiteral("lock"), text);
+    showAs(QStringLiteral("secondary"), text);
 }
 
 void FeatureNote::showError(const QString &text)
 {
     m_buttons->hide();
-    showKind(QStringLiteral("error"), text);
+    showAs(QStringLiteral("error"), text);
 }
 
 void FeatureNote::showRemark(const QString &text)
 {
     m_buttons->hide();
-    showKind(QStringLiteral("remark"), text);
+    showAs(QStringLiteral("warning"), text);
 }
 
 void FeatureNote::showQuestion(const QString &text, const QString &acceptText)
 {
     m_accept->setText(acceptText);
     m_buttons->show();
-    showKind(QStringLiteral("question"), text);
+    showAs({}, text);
 }
 
 QString FeatureNote::text() const
@@ -79,11 +88,11 @@ bool FeatureNote::isQuestion() const
     return !m_buttons->isHidden();
 }
 
-void FeatureNote::showKind(const QString &kind, const QString &text)
+void FeatureNote::showAs(const QString &role, const QString &text)
 {
     m_text->setText(text);
-    if (m_text->property("kind").toString() != kind) {
-        m_text->setProperty("kind", kind);
+    if (m_text->property("role").toString() != role) {
+        m_text->setProperty("role", role);
         style()->unpolish(m_text); // A style sheet does not notice a changed property by itself.
         style()->polish(m_text);
     }

@@ -6,8 +6,8 @@ class QLabel;
 class QPushButton;
 
 /// The line under an editor: why the feature is locked, what failed, what was corrected, or a question with
-/// two buttons. Takes no room if there is nothing to say. The property "kind" of the label is "lock",
-/// "error", "remark" or "question", for the style sheet.
+/// two buttons. Takes no room if there is nothing to say. The property "role" of the label, which the style
+/// sheet uses, follows the kind of the text.
 class FeatureNote : public QWidget
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ signals:
     void rejected();
 
 private:
-    void showKind(const QString &kind, const QString &text);
+    void showAs(const QString &role, const QString &text);
 
     QLabel *m_text;
     QWidget *m_buttons;

@@ -33,7 +33,7 @@ NumberEditor::NumberEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, 
     layout->addWidget(m_box, 1);
     if (!info.unit.empty()) {
         auto *const unit = new QLabel(unitText(info.unit), control);
-        unit->setObjectName(QStringLiteral("featureUnit"));
+        unit->setProperty("role", QStringLiteral("secondary"));
         unit->setMinimumWidth(unitWidth);
         layout->addWidget(unit);
     }
