@@ -89,12 +89,15 @@ QWidget *FilesPanel::createPlace()
 {
     auto *const group = new QGroupBox(tr("Files"), this);
     m_folder = new QLineEdit(defaultFolder(), group);
+    m_folder->setObjectName(QStringLiteral("folder"));
     m_folder->setToolTip(tr("The folder for pictures and recordings."));
     auto *const choose = new QPushButton(tr("&Choose…"), group);
     choose->setAccessibleName(tr("Choose the folder"));
     m_pattern = new QLineEdit(FileNamePattern::defaultPattern(), group);
+    m_pattern->setObjectName(QStringLiteral("pattern"));
     m_pattern->setToolTip(FileNamePattern::help());
     m_preview = createMessage(group);
+    m_preview->setObjectName(QStringLiteral("preview"));
     auto *const folderLabel = new QLabel(tr("Fol&der"), group);
     folderLabel->setBuddy(m_folder);
     auto *const patternLabel = new QLabel(tr("File &name"), group);
@@ -188,6 +191,8 @@ QWidget *FilesPanel::createLimits(QWidget *parent)
     m_playbackRate = new LimitBox(tr("Play at"), {0.1, 1000, 25, 1}, tr(" images/s"), limits);
     m_playbackRate->setToolTipText(
         tr("Images per second when the video is played. Otherwise, it plays as fast as it was recorded."));
+    for (const auto &[name, limit] : this->limits())
+        limit->setObjectName(name);
     auto *const layout = new QVBoxLayout(limits);
     layout->setContentsMargins({});
     for (LimitBox *const limit : {m_maxImages, m_maxSeconds, m_minFree, m_playbackRate})
