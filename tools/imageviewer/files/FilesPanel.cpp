@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStandardPaths>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -71,10 +72,19 @@ FilesPanel::FilesPanel(
     SnapshotSaver &saver, RecordingControl &recording, ShownImage shownImage, QWidget *parent)
     : QWidget(parent), m_saver(saver), m_recording(recording), m_shownImage(std::move(shownImage))
 {
-    auto *const layout = new QVBoxLayout(this);
+    auto *const content = new QWidget;
+    auto *const contentLayout = new QVBoxLayout(content);
     for (QWidget *const part : {createPlace(), createSnapshot(), createRecording()})
-        layout->addWidget(part);
-    layout->addStretch();
+        contentLayout->addWidget(part);
+    contentLayout->addStretch();
+    auto *const scrollArea = new QScrollArea(this);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea->setFrameShape(QFrame::NoFrame);
+    scrollArea->setWidget(content);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(scrollArea);
     connect(&m_saver, &SnapshotSaver::saved, this, &FilesPanel::takeSaved);
     connect(&m_saver, &SnapshotSaver::failed, this, &FilesPanel::showProblem);
     connect(&m_recording, &RecordingControl::stateChanged, this, &FilesPanel::showState);
