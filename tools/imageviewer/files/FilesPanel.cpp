@@ -43,6 +43,7 @@ QLabel *createMessage(QWidget *parent)
 {
     auto *const label = new QLabel(parent);
     label->setWordWrap(true);
+    label->setMinimumWidth(1); // A long file name does not widen the panel.
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->hide();
@@ -56,6 +57,14 @@ void showMessage(QLabel *label, const QString &text, const char *role)
     label->style()->unpolish(label); // The style sheet has rules for the property.
     label->style()->polish(label);
     label->setVisible(!text.isEmpty());
+}
+
+/// Lets the panel be narrower than the longest entry.
+void makeNarrow(QComboBox *box)
+{
+    constexpr int characters = 12;
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(characters);
 }
 
 /// Selects the entry with this data; an unknown one leaves the selection.
@@ -74,6 +83,7 @@ FilesPanel::FilesPanel(
 {
     auto *const content = new QWidget;
     auto *const contentLayout = new QVBoxLayout(content);
+    contentLayout->setContentsMargins(0, 0, 0, 0);
     for (QWidget *const part : {createPlace(), createSnapshot(), createRecording()})
         contentLayout->addWidget(part);
     contentLayout->addStretch();
@@ -130,6 +140,7 @@ QWidget *FilesPanel::createSnapshot()
 {
     auto *const group = new QGroupBox(tr("Picture"), this);
     m_snapshotFormat = new QComboBox(group);
+    makeNarrow(m_snapshotFormat);
     m_snapshotFormat->setObjectName(QStringLiteral("snapshotFormat"));
     m_snapshotFormat->setAccessibleName(tr("Format of pictures"));
     const struct
@@ -159,6 +170,7 @@ QWidget *FilesPanel::createRecording()
 {
     auto *const group = new QGroupBox(tr("Recording"), this);
     m_recordingFormat = new QComboBox(group);
+    makeNarrow(m_recordingFormat);
     m_recordingFormat->setObjectName(QStringLiteral("recordingFormat"));
     m_recordingFormat->setAccessibleName(tr("Format of recordings"));
     const struct
@@ -194,7 +206,7 @@ QWidget *FilesPanel::createRecording()
 QWidget *FilesPanel::createLimits(QWidget *parent)
 {
     auto *const limits = new QWidget(parent);
-    m_maxImages = new LimitBox(tr("Stop after"), {1, 1e9, 300, 0}, tr(" images"), limits);
+    m_maxImages = new LimitBox(tr("Stop after"), {1, 1e8, 300, 0}, tr(" images"), limits);
     m_maxSeconds = new LimitBox(tr("Stop after"), {0.1, 1e6, 10, 1}, tr(" s"), limits);
     m_minFree = new LimitBox(tr("Keep free"), {0.1, 1e6, 10, 1}, tr(" GB"), limits);
     m_minFree->setToolTipText(tr("Stops the recording before less space than this is left on the disk."));
