@@ -46,7 +46,7 @@ corvix_deb_package(launcher corvix-x-launcher
     "GigE Vision and USB3 Vision cameras of any vendor. It sorts them into hardware"
     "groups and starts the tools of the Corvix X camera SDK that suit them.")
 set(CPACK_DEBIAN_LAUNCHER_PACKAGE_RECOMMENDS "xdg-utils, qttranslations5-l10n, qtwayland5")
-set(CPACK_DEBIAN_LAUNCHER_PACKAGE_SUGGESTS "corvix-x-simulator, corvix-x-demo")
+set(CPACK_DEBIAN_LAUNCHER_PACKAGE_SUGGESTS "corvix-x-simulator, corvix-x-demo, ffmpeg")
 
 corvix_deb_package(simulator corvix-x-simulator
     "simulated cameras for the Corvix X launcher"

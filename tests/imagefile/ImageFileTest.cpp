@@ -70,5 +70,6 @@ std::vector<std::uint16_t> ImageFileTest::readSamples(const std::string &file, c
 
 CameraRecord someCamera()
 {
-    return {"A.cti/Net/1", "Orvelle", "Kx200", "24030117", "Left", "2026-01-31T23:59:59.123456Z", {{"ExposureTime", 1500.0}}};
+    return {"A.cti/Net/1", "Orvelle", "Kx200", "24030117", "Left", "2026-01-31T23:59:59.123456Z",
+        {{"ExposureTime", 1500.0}}};
 }

@@ -100,7 +100,7 @@ TEST_F(ImageFileWriterTest, sidecarDescribesTheImage)
         {"camera",
             {{"id", "A.cti/Net/1"}, {"vendor", "Orvelle"}, {"model", "Kx200"}, {"serialNumber", "24030117"},
                 {"userName", "Left"}}},
-        {"settings", {{"ExposureTime", 1500.0}}},
+        {"settingsTime", "2026-01-31T23:59:59.123456Z"}, {"settings", {{"ExposureTime", 1500.0}}},
         {"image",
             {{"width", 2}, {"height", 2}, {"offsetX", 16}, {"offsetY", 0}, {"paddingX", 0},
                 {"pixelFormat", bayerRG8}, {"pixelFormatName", "BayerRG8"}, {"isBigEndian", false},

@@ -123,9 +123,8 @@ void TestSnapshotSaver::requestSurvivesAnotherCamera()
         OpenableCamera::entry(std::make_shared<OpenableCamera>("Net-2")), CvxCPP::CvxAccessControl);
     mayRead = true;
     QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 10000);
-    QCOMPARE(
-        camera.json(QStringLiteral("a.raw.json"))[QStringLiteral("camera")][QStringLiteral("serialNumber")]
-            .toString(),
+    const QJsonObject sidecar = camera.json(QStringLiteral("a.raw.json"));
+    QCOMPARE(sidecar[QStringLiteral("camera")][QStringLiteral("serialNumber")].toString(),
         QStringLiteral("Serial of Net-1"));
 }
 

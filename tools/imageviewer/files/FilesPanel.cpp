@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStandardPaths>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -42,6 +43,7 @@ QLabel *createMessage(QWidget *parent)
 {
     auto *const label = new QLabel(parent);
     label->setWordWrap(true);
+    label->setMinimumWidth(1); // A long file name does not widen the panel.
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->hide();
@@ -55,6 +57,14 @@ void showMessage(QLabel *label, const QString &text, const char *role)
     label->style()->unpolish(label); // The style sheet has rules for the property.
     label->style()->polish(label);
     label->setVisible(!text.isEmpty());
+}
+
+/// Lets the panel be narrower than the longest entry.
+void makeNarrow(QComboBox *box)
+{
+    constexpr int characters = 12;
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(characters);
 }
 
 /// Selects the entry with this data; an unknown one leaves the selection.
@@ -71,10 +81,20 @@ FilesPanel::FilesPanel(
     SnapshotSaver &saver, RecordingControl &recording, ShownImage shownImage, QWidget *parent)
     : QWidget(parent), m_saver(saver), m_recording(recording), m_shownImage(std::move(shownImage))
 {
-    auto *const layout = new QVBoxLayout(this);
+    auto *const content = new QWidget;
+    auto *const contentLayout = new QVBoxLayout(content);
+    contentLayout->setContentsMargins(0, 0, 0, 0);
     for (QWidget *const part : {createPlace(), createSnapshot(), createRecording()})
-        layout->addWidget(part);
-    layout->addStretch();
+        contentLayout->addWidget(part);
+    contentLayout->addStretch();
+    auto *const scrollArea = new QScrollArea(this);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea->setFrameShape(QFrame::NoFrame);
+    scrollArea->setWidget(content);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(scrollArea);
     connect(&m_saver, &SnapshotSaver::saved, this, &FilesPanel::takeSaved);
     connect(&m_saver, &SnapshotSaver::failed, this, &FilesPanel::showProblem);
     connect(&m_recording, &RecordingControl::stateChanged, this, &FilesPanel::showState);
@@ -89,12 +109,15 @@ QWidget *FilesPanel::createPlace()
 {
     auto *const group = new QGroupBox(tr("Files"), this);
     m_folder = new QLineEdit(defaultFolder(), group);
+    m_folder->setObjectName(QStringLiteral("folder"));
     m_folder->setToolTip(tr("The folder for pictures and recordings."));
     auto *const choose = new QPushButton(tr("&Choose…"), group);
     choose->setAccessibleName(tr("Choose the folder"));
     m_pattern = new QLineEdit(FileNamePattern::defaultPattern(), group);
+    m_pattern->setObjectName(QStringLiteral("pattern"));
     m_pattern->setToolTip(FileNamePattern::help());
     m_preview = createMessage(group);
+    m_preview->setObjectName(QStringLiteral("preview"));
     auto *const folderLabel = new QLabel(tr("Fol&der"), group);
     folderLabel->setBuddy(m_folder);
     auto *const patternLabel = new QLabel(tr("File &name"), group);
@@ -117,6 +140,7 @@ QWidget *FilesPanel::createSnapshot()
 {
     auto *const group = new QGroupBox(tr("Picture"), this);
     m_snapshotFormat = new QComboBox(group);
+    makeNarrow(m_snapshotFormat);
     m_snapshotFormat->setObjectName(QStringLiteral("snapshotFormat"));
     m_snapshotFormat->setAccessibleName(tr("Format of pictures"));
     const struct
@@ -146,6 +170,7 @@ QWidget *FilesPanel::createRecording()
 {
     auto *const group = new QGroupBox(tr("Recording"), this);
     m_recordingFormat = new QComboBox(group);
+    makeNarrow(m_recordingFormat);
     m_recordingFormat->setObjectName(QStringLiteral("recordingFormat"));
     m_recordingFormat->setAccessibleName(tr("Format of recordings"));
     const struct
@@ -181,13 +206,15 @@ QWidget *FilesPanel::createRecording()
 QWidget *FilesPanel::createLimits(QWidget *parent)
 {
     auto *const limits = new QWidget(parent);
-    m_maxImages = new LimitBox(tr("Stop after"), {1, 1e9, 300, 0}, tr(" images"), limits);
+    m_maxImages = new LimitBox(tr("Stop after"), {1, 1e8, 300, 0}, tr(" images"), limits);
     m_maxSeconds = new LimitBox(tr("Stop after"), {0.1, 1e6, 10, 1}, tr(" s"), limits);
     m_minFree = new LimitBox(tr("Keep free"), {0.1, 1e6, 10, 1}, tr(" GB"), limits);
     m_minFree->setToolTipText(tr("Stops the recording before less space than this is left on the disk."));
     m_playbackRate = new LimitBox(tr("Play at"), {0.1, 1000, 25, 1}, tr(" images/s"), limits);
     m_playbackRate->setToolTipText(
         tr("Images per second when the video is played. Otherwise, it plays as fast as it was recorded."));
+    for (const auto &[name, limit] : this->limits())
+        limit->setObjectName(name);
     auto *const layout = new QVBoxLayout(limits);
     layout->setContentsMargins({});
     for (LimitBox *const limit : {m_maxImages, m_maxSeconds, m_minFree, m_playbackRate})

@@ -13,6 +13,8 @@ LimitBox::LimitBox(const QString &text, const Range &range, const QString &suffi
     m_number->setSuffix(suffix);
     m_number->setGroupSeparatorShown(true);
     m_number->setAccessibleName(text);
+    constexpr int characters = 12; // Otherwise, the largest number would decide the width of the panel.
+    m_number->setMinimumWidth(characters * fontMetrics().averageCharWidth());
     m_number->setEnabled(false);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});

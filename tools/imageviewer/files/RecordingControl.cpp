@@ -180,6 +180,8 @@ void RecordingControl::countLosses()
     if (!m_sink)
         return;
     const CvxCPP::StreamStatistics now = m_stream.totals();
+    if (now.delivered < m_before.delivered)
+        return; // Another camera is being opened; what was counted last stays.
     m_result.progress.lost = now.lost - m_before.lost;
     m_result.progress.underruns = now.underruns - m_before.underruns;
     m_result.progress.reopened = now.reopenCount - m_before.reopenCount;

@@ -39,7 +39,7 @@ ThumbnailStrip::ThumbnailStrip(QWidget *parent) : QListWidget(parent)
     setMovement(QListView::Static);
     setUniformItemSizes(true);
     setIconSize({pictureSize, pictureSize});
-    setTextElideMode(Qt::ElideMiddle);
+    setTextElideMode(Qt::ElideLeft);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -53,8 +53,7 @@ ThumbnailStrip::ThumbnailStrip(QWidget *parent) : QListWidget(parent)
     addAction(copy);
     connect(remove, &QAction::triggered, this, &ThumbnailStrip::askToDelete);
     connect(copy, &QAction::triggered, this, &ThumbnailStrip::copyPath);
-    connect(this, &QListWidget::itemActivated, this, &ThumbnailStrip::open); // Enter, or a double click.
-    connect(this, &QListWidget::itemClicked, this, &ThumbnailStrip::open);
+    connect(this, &QListWidget::itemClicked, this, &ThumbnailStrip::openClicked);
 }
 
 QSize ThumbnailStrip::sizeHint() const
@@ -69,7 +68,7 @@ void ThumbnailStrip::add(const QString &path, const QImage &thumbnail)
 {
     constexpr int cellPadding = 8;
     const QFileInfo file(path);
-    auto *const item = new QListWidgetItem(QIcon(QPixmap::fromImage(thumbnail)), file.fileName());
+    auto *const item = new QListWidgetItem(QIcon(QPixmap::fromImage(thumbnail)), file.completeBaseName());
     item->setData(pathRole, path);
     item->setToolTip(toolTipOf(file));
     item->setSizeHint({pictureSize + cellPadding, pictureSize + fontMetrics().height() + cellPadding});
@@ -88,6 +87,23 @@ QString ThumbnailStrip::currentPath() const
 void ThumbnailStrip::open()
 {
     openUrl(currentPath());
+}
+
+void ThumbnailStrip::openClicked()
+{
+    if (!m_nextOpen.hasExpired())
+        return;
+    m_nextOpen.setRemainingTime(QApplication::doubleClickInterval());
+    open();
+}
+
+void ThumbnailStrip::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && currentItem())
+        open();
+    else
+        QListWidget::keyPressEvent(event);
 }
 
 void ThumbnailStrip::openFolder()

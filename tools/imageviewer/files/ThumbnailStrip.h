@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QListWidget>
 
@@ -35,9 +36,13 @@ signals:
     void failed(const QString &text);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void openClicked();
     void openUrl(const QString &path);
     void deleteFile(const QString &path);
+
+    QDeadlineTimer m_nextOpen{0}; // A double click opens a picture once.
 };

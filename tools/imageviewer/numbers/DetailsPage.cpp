@@ -99,6 +99,7 @@ void DetailsPage::showFigures(
     m_adviceText->setText(advice.text);
     if (m_command->text() != advice.command) {
         m_command->setText(advice.command);
+        m_command->setToolTip(advice.command);
         m_command->setCursorPosition(0);
     }
     m_commandBox->setVisible(!advice.command.isEmpty());

@@ -166,6 +166,8 @@ void LiveStream::followConnection()
         m_startsWhenBack = false;
         setState(State::Stopped);
     }
+    if (m_connection.state() == CameraConnection::State::Opening)
+        m_lastTotals = {}; // They are those of another camera.
     if (m_startsWhenBack && m_connection.state() == CameraConnection::State::Open)
         start(m_buffers);
 }
