@@ -14,6 +14,7 @@ private slots:
     void smallWheelMovementsAddUp();
     void drawnRegionIsThatOfThePicture();
     void drawnLineIsThatOfThePicture();
+    void smallerPictureCutsTheShapes();
     void keysChangeTheView();
     void keysChangeTheRegion();
     void draggingPans_data();
@@ -87,6 +88,23 @@ void CanvasInputTest::drawnLineIsThatOfThePicture()
     changes.clear();
     canvas.setLine({1, 2, 3, 4}); // By the program.
     QCOMPARE(changes.size(), 0);
+}
+
+void CanvasInputTest::smallerPictureCutsTheShapes()
+{
+    LiveCanvas canvas({400, 400}, randomImage(120, 100));
+    canvas.stopAnswering();
+    canvas.setRegion({20, 30, 90, 60});
+    canvas.setLine({10, 10, 110, 90});
+    QSignalSpy regions(&canvas, &ImageCanvas::regionChanged);
+    QSignalSpy lines(&canvas, &ImageCanvas::lineChanged);
+    canvas.setPictureSize({60, 50});
+    QCOMPARE(canvas.region(), QRect(20, 30, 40, 20));
+    QVERIFY(canvas.line().isNull());
+    QCOMPARE(regions.size(), 1);
+    QCOMPARE(lines.size(), 1);
+    canvas.clear();
+    QCOMPARE(canvas.region(), QRect(20, 30, 40, 20)); // The next camera may have a picture of this size.
 }
 
 void CanvasInputTest::keysChangeTheView()

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::string_view characters = "0123456789-+.einfa";
+constexpr std::string_view glyphCharacters = "0123456789-+.einfa";
 
 QFont numberFont(int pixelSize)
 {
@@ -25,7 +25,7 @@ QImage drawGlyph(char character, const QFont &font, const QSizeF &size, double r
     QPainter painter(&image);
     painter.setFont(font);
     painter.setPen(color);
-    painter.drawText(QPointF(0, QFontMetricsF(font).ascent()), QString(QLatin1Char(character)));
+    painter.drawText(QPointF(0, std::ceil(QFontMetricsF(font).capHeight())), QString(QLatin1Char(character)));
     return image;
 }
 
@@ -34,7 +34,9 @@ QImage drawGlyph(char character, const QFont &font, const QSizeF &size, double r
 QSizeF GlyphSheet::glyphSize(int pixelSize)
 {
     const QFontMetricsF metrics(numberFont(pixelSize));
-    return {std::ceil(metrics.horizontalAdvance(QLatin1Char('0'))), std::ceil(metrics.height())};
+    // No character goes below the base line, so little space between two lines is enough.
+    const int space = pixelSize / 4;
+    return {std::ceil(metrics.horizontalAdvance(QLatin1Char('0'))), std::ceil(metrics.capHeight()) + space};
 }
 
 void GlyphSheet::set(int pixelSize, double devicePixelRatio)
@@ -47,7 +49,7 @@ void GlyphSheet::set(int pixelSize, double devicePixelRatio)
     m_dark.clear();
     m_light.clear();
     const QFont font = numberFont(pixelSize);
-    for (const char character : characters) {
+    for (const char character : glyphCharacters) {
         m_dark.push_back(drawGlyph(character, font, m_glyphSize, devicePixelRatio, Qt::black));
         m_light.push_back(drawGlyph(character, font, m_glyphSize, devicePixelRatio, Qt::white));
     }
@@ -58,7 +60,7 @@ void GlyphSheet::write(QPainter &painter, const QPointF &topLeft, std::string_vi
     const std::vector<QImage> &glyphs = isLight ? m_light : m_dark;
     QPointF place = topLeft;
     for (const char character : text) {
-        const std::size_t index = characters.find(character);
+        const std::size_t index = glyphCharacters.find(character);
         if (index != std::string_view::npos)
             painter.drawImage(place, glyphs[index]);
         place.rx() += m_glyphSize.width();

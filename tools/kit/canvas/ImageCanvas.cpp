@@ -39,6 +39,7 @@ void ImageCanvas::setPictureSize(const QSize &size)
     m_view.setPictureSize(size);
     m_wholePicture = {};
     m_wholeLayer = {};
+    cutDrawings();
     finishViewChange();
 }
 
@@ -241,13 +242,13 @@ void ImageCanvas::finishViewChange()
     const bool isScaled = std::exchange(m_reportedScale, m_view.scale()) != m_view.scale();
     if (isTurned)
         updateLayers();
-    if (isTurned || isScaled) {
-        updateAccessibleDescription();
-        emit viewChanged();
-    }
     const PictureRequest wanted = request();
     const bool isMoved = std::exchange(m_reportedRegion, wanted.region) != wanted.region;
     const bool isResized = std::exchange(m_reportedSize, wanted.pictureSize) != wanted.pictureSize;
+    if (isTurned || isScaled || isResized)
+        updateAccessibleDescription();
+    if (isTurned || isScaled)
+        emit viewChanged();
     if (isMoved || isScaled || isResized)
         emit requestChanged();
     reportPointer();
@@ -295,7 +296,19 @@ void ImageCanvas::reportPointer()
         emit pointerLeft();
 }
 
-/// Reports what a person has changed of region and line.
+/// Keeps region and line inside a picture that became smaller.
+void ImageCanvas::cutDrawings()
+{
+    const QRect picture(QPoint(), m_view.pictureSize());
+    if (picture.isEmpty())
+        return;
+    m_regionTool.setRegion(region() & picture);
+    if (!picture.contains(line().p1()) || !picture.contains(line().p2()))
+        m_lineTool.remove();
+    reportDrawing();
+}
+
+/// Reports what was changed of region and line.
 void ImageCanvas::reportDrawing()
 {
     update();

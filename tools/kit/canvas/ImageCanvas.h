@@ -17,6 +17,12 @@
 /// Shows a picture: fitted, at its own size, or zoomed and moved with wheel, mouse and keys. Draws what helps
 /// to read the picture, and lets a person draw a region or a line on it. All coordinates in the interface are
 /// pixels of the picture as the camera sends it, however it is rotated or mirrored on the screen.
+///
+/// Wheel: zoom about the pointer, or move sideways. Double click: fit, or actual size at the pointer.
+/// Dragging with the middle button or with the space bar pressed moves the picture, whatever the tool is.
+/// Keys: + and - zoom, 0 fits, 1 shows the actual size, arrows move the view, with Shift by half of it. With
+/// the tools Region and Line, Insert draws a shape, Delete removes it, Ctrl with arrows moves it by a pixel,
+/// and Ctrl and Shift with arrows resize it.
 class ImageCanvas : public QWidget
 {
     Q_OBJECT
@@ -96,7 +102,9 @@ signals:
     void viewChanged(); ///< Scale, rotation or mirroring.
     void pointerMoved(const QPoint &pixel);
     void pointerLeft(); ///< The pointer is outside the picture.
-    void regionChanged(const QRect &region); ///< Drawn, moved or removed by a person.
+
+    /// Drawn, moved or removed by a person, or cut because the picture became smaller.
+    void regionChanged(const QRect &region);
     void lineChanged(const QLine &line);
     void drawingFinished(); ///< The mouse button was released after region or line were drawn or moved.
     void picked(const QPoint &pixel);
@@ -130,6 +138,7 @@ private:
     void updateViewSize();
     void finishViewChange();
     void updateLayers();
+    void cutDrawings();
     void updateAccessibleDescription();
     void updateCursor();
     void reportPointer();

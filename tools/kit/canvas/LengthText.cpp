@@ -5,11 +5,11 @@
 namespace {
 
 constexpr double micrometresPerMillimetre = 1000;
-constexpr int digits = 4;
+constexpr int significantDigits = 4;
 
 QString numberText(double number)
 {
-    return QLocale().toString(number, 'g', digits);
+    return QLocale().toString(number, 'g', significantDigits);
 }
 
 } // namespace

@@ -5,9 +5,9 @@
 double pleasantAtMost(double limit)
 {
     // A power of ten is not missed because its logarithm is a little too small.
-    constexpr double tolerance = 1 + 1e-9;
-    const double power = std::pow(10, std::floor(std::log10(limit * tolerance)));
-    const double share = limit * tolerance / power;
+    constexpr double roundingError = 1 + 1e-9;
+    const double power = std::pow(10, std::floor(std::log10(limit * roundingError)));
+    const double share = limit * roundingError / power;
     return power * (share >= 5 ? 5 : share >= 2 ? 2 : 1);
 }
 

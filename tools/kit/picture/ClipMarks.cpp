@@ -110,6 +110,14 @@ PixelRange shownPixels(std::uint32_t index, std::uint64_t from, std::uint64_t to
     return {static_cast<std::uint32_t>(index * from / to), static_cast<std::uint32_t>((end - 1) / to + 1)};
 }
 
+bool hasMarks(const std::uint8_t *marks, std::size_t width)
+{
+    unsigned found = 0;
+    for (std::size_t i = 0; i < width; ++i)
+        found |= marks[i];
+    return found != 0;
+}
+
 } // namespace
 
 const std::uint8_t *ClipMarks::line(
@@ -136,9 +144,12 @@ void ClipMarks::paint(const RawImage &picture, const Region &region, std::uint32
     std::vector<PixelRange> columns;
     for (std::uint32_t x = 0; x < width; ++x)
         columns.push_back(shownPixels(x, region.width, width));
+    m_present.reset();
     for (std::uint32_t y = 0; y < height; ++y, output += stride) {
         const PixelRange rows = shownPixels(y, region.height, height);
         const std::uint8_t *const marks = lines(picture, region, rows.begin, rows.end);
+        if (!hasMarks(marks, region.width))
+            continue;
         for (std::uint32_t x = 0; x < width; ++x) {
             unsigned found = 0;
             for (std::uint32_t i = columns[x].begin; i < columns[x].end; ++i)
@@ -156,7 +167,11 @@ const std::uint8_t *ClipMarks::lines(
     m_lines.assign(region.width, 0);
     std::uint8_t *const result = m_lines.data();
     for (std::uint32_t row = begin; row < end; ++row) {
-        const std::uint8_t *const marks = line(picture, region.x, region.y + row, region.width);
+        // The previous output line may have ended with this line.
+        if (m_present != row)
+            line(picture, region.x, region.y + row, region.width);
+        m_present = row;
+        const std::uint8_t *const marks = m_marks.data();
         for (std::size_t i = 0; i < region.width; ++i)
             result[i] = static_cast<std::uint8_t>(result[i] | marks[i]);
     }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 /// Finds the pixels whose raw values are at an end of the range of their format: of the colours or of the
@@ -31,5 +32,6 @@ private:
     ImageConverter m_converter;
     std::vector<std::uint16_t> m_words;
     std::vector<std::uint8_t> m_marks;
+    std::optional<std::uint32_t> m_present; ///< The line of the region that paint() has found marks for last.
     std::vector<std::uint8_t> m_lines; ///< The marks of all lines that an output line shows.
 };
