@@ -20,6 +20,7 @@ struct DisplaySettings
 {
     Demosaicing demosaicing = Demosaicing::Bilinear;
     ContrastCurve curve;
-    std::array<double, 3> gains = {1, 1, 1}; ///< White balance: factors of red, green and blue.
+    /// White balance: factors of red, green and blue. Grey formats have none.
+    std::array<double, 3> gains = {1, 1, 1};
     bool hasClipMarks = false; ///< Overexposed pixels are red, underexposed ones blue.
 };

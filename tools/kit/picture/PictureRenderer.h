@@ -20,7 +20,7 @@ public:
     ~PictureRenderer();
 
     /// Writes `width` x `height` pixels of the form 0xffRRGGBB. A pixel is marked as clipped if any pixel of
-    /// the picture in its place is at the lowest or highest value of the format.
+    /// the picture in its place is at the lowest or highest value of the format; see ClipMarks.
     /// @param stride Pixels per output line.
     void render(const RawImage &picture, const Region &region, std::uint32_t width, std::uint32_t height,
         const DisplaySettings &settings, std::uint32_t *output, std::size_t stride);
