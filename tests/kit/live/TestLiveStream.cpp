@@ -258,8 +258,10 @@ void TestLiveStream::pauseWithoutStreamOnlyCalls()
 void TestLiveStream::pauseFollowsAPendingStart()
 {
     OpenStream test;
-    const auto note = [&test](const std::string &text) {
-        return [&test, text](Device &) {
+    CvxScripted::Gate gate;
+    const auto note = [&test, &gate](const std::string &text) {
+        return [&test, &gate, text](Device &) {
+            gate.pass();
             test.device->note(text);
             return CvxResult();
         };
@@ -270,6 +272,9 @@ void TestLiveStream::pauseFollowsAPendingStart()
     test.stream.pauseFor(note("first"), this, {});
     test.stream.pauseFor(note("second"), this, {});
     test.stream.stop();
+    QVERIFY(gate.waitForArrival());
+    QCoreApplication::processEvents(); // The result of the start has arrived, but more calls follow.
+    gate.open();
     QTRY_COMPARE_WITH_TIMEOUT(test.stream.state(), State::Stopped, bound);
     QCOMPARE(QString::fromStdString(test.device->record()),
         QStringLiteral("start 8, stop, first, start 8, stop, second, start 8, stop"));

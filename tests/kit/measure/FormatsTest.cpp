@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr std::uint32_t width = 21;
-constexpr std::uint32_t height = 10;
-constexpr Region region = {3, 1, 15, 7};
+constexpr std::uint32_t testWidth = 21;
+constexpr std::uint32_t testHeight = 10;
+constexpr Region testRegion = {3, 1, 15, 7};
 
 using Values = std::map<MeasuredComponent, std::vector<double>>;
 
@@ -40,8 +40,8 @@ MeasuredComponent componentAt(
 Values valuesIn(const RawImage &picture, const PixelFormat &format)
 {
     Values values;
-    for (std::uint32_t y = region.y; y < region.y + region.height; ++y) {
-        for (std::uint32_t x = region.x; x < region.x + region.width; ++x) {
+    for (std::uint32_t y = testRegion.y; y < testRegion.y + testRegion.height; ++y) {
+        for (std::uint32_t x = testRegion.x; x < testRegion.x + testRegion.width; ++x) {
             const RawValues pixel = rawValues(picture, x, y);
             for (unsigned i = 0; i < pixel.count; ++i)
                 if (std::isfinite(pixel.values[i]))
@@ -58,7 +58,7 @@ ByteVector randomBytes(const PixelLayout &layout)
     const std::size_t bits = layout.packing == Packing::Unknown && layout.format.code == 0
         ? 8
         : bitsPerPixel(layout.format.code);
-    ByteVector bytes(height * ((width * bits + 7) / 8) + 64);
+    ByteVector bytes(testHeight * ((testWidth * bits + 7) / 8) + 64);
     for (std::uint8_t &byte : bytes)
         byte = static_cast<std::uint8_t>(random());
     if (layout.number != Number::Float)
@@ -81,8 +81,8 @@ TEST(FormatsTest, everyFormatIsMeasuredLikeItsSinglePixels)
     for (const PixelLayout &layout : pixelLayouts()) {
         SCOPED_TRACE(layout.format.name);
         const ByteVector bytes = randomBytes(layout);
-        const RawImage picture{bytes.data(), bytes.size(), width, height, 0, layout.format.code};
-        const Measurements result = meter.measure(picture, {true, region, true, std::nullopt});
+        const RawImage picture{bytes.data(), bytes.size(), testWidth, testHeight, 0, layout.format.code};
+        const Measurements result = meter.measure(picture, {true, testRegion, true, std::nullopt});
         const Values expected = valuesIn(picture, layout.format);
         ASSERT_EQ(result.statistics.size(), expected.size());
         for (std::size_t i = 0; i < result.statistics.size(); ++i) {

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr double gap = 6;
-constexpr QRgb secondaryText = 0xff94a3b8;
+constexpr QRgb emptyPlotText = 0xff94a3b8;
 
 /// Returns an axis from the lowest to the highest value, with some room at both ends.
 PlotAxis valueAxis(const LineProfile &profile)
@@ -130,7 +130,7 @@ void ProfileWidget::paintEvent(QPaintEvent *)
     const QRectF area = plotArea();
     if (!m_profile) {
         drawPlotGrid(painter, area, {0, 0}, {0, 0});
-        painter.setPen(QColor(secondaryText));
+        painter.setPen(QColor(emptyPlotText));
         painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, tr("There is no line to measure."));
         return;
     }
