@@ -1,6 +1,7 @@
 #include "tools/imageviewer/files/FilesPanel.h"
 
 #include "tools/imageviewer/files/FfmpegCommand.h"
+#include "tools/imageviewer/files/PanelParts.h"
 #include "tools/kit/start/ToolSettings.h"
 
 #include <QComboBox>
@@ -14,7 +15,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStandardPaths>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -37,42 +37,6 @@ FileNameValues exampleValues()
     values.time = QDateTime::currentDateTime();
     values.frameId = 1234;
     return values;
-}
-
-QLabel *createMessage(QWidget *parent)
-{
-    auto *const label = new QLabel(parent);
-    label->setWordWrap(true);
-    label->setMinimumWidth(1); // A long file name does not widen the panel.
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->hide();
-    return label;
-}
-
-void showMessage(QLabel *label, const QString &text, const char *role)
-{
-    label->setText(text);
-    label->setProperty("role", QString::fromLatin1(role));
-    label->style()->unpolish(label); // The style sheet has rules for the property.
-    label->style()->polish(label);
-    label->setVisible(!text.isEmpty());
-}
-
-/// Lets the panel be narrower than the longest entry.
-void makeNarrow(QComboBox *box)
-{
-    constexpr int characters = 12;
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(characters);
-}
-
-/// Selects the entry with this data; an unknown one leaves the selection.
-void select(QComboBox *box, int data)
-{
-    const int index = box->findData(data);
-    if (index >= 0)
-        box->setCurrentIndex(index);
 }
 
 } // namespace
@@ -358,8 +322,8 @@ void FilesPanel::restoreSettings(const ToolSettings &settings)
 {
     m_folder->setText(settings.value(QStringLiteral("files/folder"), m_folder->text()));
     m_pattern->setText(settings.value(QStringLiteral("files/pattern"), m_pattern->text()));
-    select(m_snapshotFormat, settings.value(QStringLiteral("files/pictureFormat"), -1));
-    select(m_recordingFormat, settings.value(QStringLiteral("files/recordingFormat"), -1));
+    selectData(m_snapshotFormat, settings.value(QStringLiteral("files/pictureFormat"), -1));
+    selectData(m_recordingFormat, settings.value(QStringLiteral("files/recordingFormat"), -1));
     for (const auto &[name, limit] : limits())
         limit->set(settings.value(QStringLiteral("files/%1IsOn").arg(name), false),
             settings.value(QStringLiteral("files/%1").arg(name), limit->number()));
