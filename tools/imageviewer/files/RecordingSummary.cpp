@@ -10,7 +10,7 @@ namespace {
 
 int pluralCount(std::uint64_t count)
 {
-    return static_cast<int>(std::min<std::uint64_t>(count, 1'000'000'000));
+    return static_cast<int>(std::min<std::uint64_t>(count, 1000000000));
 }
 
 QString sizeText(std::uint64_t bytes)

@@ -6,28 +6,23 @@ using CvxCPP::LockReason;
 
 namespace {
 
-QString translate(const char *text)
-{
-    return QCoreApplication::translate("LockText", text);
-}
-
 QString notAvailableText(const QString &lockingFeature, const QString &lockingValue)
 {
     if (lockingFeature.isEmpty())
-        return translate(QT_TRANSLATE_NOOP("LockText", "Not available at present."));
+        return QCoreApplication::translate("LockText", "Not available at present.");
     if (lockingValue.isEmpty())
-        return translate(QT_TRANSLATE_NOOP("LockText", "Not available because of %1.")).arg(lockingFeature);
-    return translate(QT_TRANSLATE_NOOP("LockText", "Not available while %1 is %2."))
+        return QCoreApplication::translate("LockText", "Not available because of %1.").arg(lockingFeature);
+    return QCoreApplication::translate("LockText", "Not available while %1 is %2.")
         .arg(lockingFeature, lockingValue);
 }
 
 QString lockedText(const QString &lockingFeature, const QString &lockingValue)
 {
     if (lockingFeature.isEmpty())
-        return translate(QT_TRANSLATE_NOOP("LockText", "Locked by the camera."));
+        return QCoreApplication::translate("LockText", "Locked by the camera.");
     if (lockingValue.isEmpty())
-        return translate(QT_TRANSLATE_NOOP("LockText", "Controlled by %1.")).arg(lockingFeature);
-    return translate(QT_TRANSLATE_NOOP("LockText", "Locked while %1 is %2."))
+        return QCoreApplication::translate("LockText", "Controlled by %1.").arg(lockingFeature);
+    return QCoreApplication::translate("LockText", "Locked while %1 is %2.")
         .arg(lockingFeature, lockingValue);
 }
 
@@ -39,16 +34,16 @@ QString lockText(const CvxCPP::NodeState &state, const QString &lockingFeature, 
     case LockReason::None:
         return {};
     case LockReason::NotImplemented:
-        return translate(QT_TRANSLATE_NOOP("LockText", "This camera does not have the feature."));
+        return QCoreApplication::translate("LockText", "This camera does not have the feature.");
     case LockReason::NotAvailable:
         return notAvailableText(lockingFeature, lockingValue);
     case LockReason::ReadOnlyNode:
-        return translate(QT_TRANSLATE_NOOP("LockText", "The camera only reports this value."));
+        return QCoreApplication::translate("LockText", "The camera only reports this value.");
     case LockReason::Watching:
-        return translate(
-            QT_TRANSLATE_NOOP("LockText", "The camera is only watched, so nothing can be changed."));
+        return QCoreApplication::translate(
+            "LockText", "The camera is only watched, so nothing can be changed.");
     case LockReason::StreamRunning:
-        return translate(QT_TRANSLATE_NOOP("LockText", "Locked while the camera streams."));
+        return QCoreApplication::translate("LockText", "Locked while the camera streams.");
     case LockReason::LockedByNode:
         return lockedText(lockingFeature, lockingValue);
     }
