@@ -30,6 +30,7 @@ DisplayControls::DisplayControls(QWidget *parent)
     auto *const layout = new QFormLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
     addPictureRows(layout);
     addWhiteBalanceRows(layout);
     showGains();
@@ -40,6 +41,7 @@ void DisplayControls::addPictureRows(QFormLayout *layout)
 {
     m_demosaicing->addItems(
         {tr("Fast (bilinear)"), tr("Fine (along edges)")}); // In the order of Demosaicing.
+    m_demosaicing->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_demosaicing->setToolTip(tr("How the missing colours of a Bayer picture are found."));
     m_clipMarks->setToolTip(tr("Shows overexposed pixels in red and underexposed ones in blue."));
     m_micrometres->setRange(0, maxMicrometres);
@@ -148,7 +150,7 @@ void DisplayControls::showGains()
     const QLocale locale;
     const auto number
         = [&locale, this](std::size_t i) { return locale.toString(m_settings.gains[i], 'f', 2); };
-    m_gains->setText(tr("R %1  G %2  B %3").arg(number(0), number(1), number(2)));
+    m_gains->setText(tr("R %1 G %2 B %3").arg(number(0), number(1), number(2)));
     m_gains->setToolTip(tr("The factors of red, green and blue on the screen."));
 }
 

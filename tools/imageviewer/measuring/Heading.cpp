@@ -6,9 +6,6 @@
 QLabel *createHeading(const QString &text)
 {
     auto *const label = new QLabel(text);
-    label->setProperty("heading", true);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
+    label->setProperty("role", QStringLiteral("heading"));
     return label;
 }

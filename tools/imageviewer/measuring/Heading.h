@@ -4,5 +4,5 @@
 
 class QLabel;
 
-/// Returns a title for a part of a panel, which the style sheet knows by its property "heading".
+/// Returns a title for a part of a panel, which the style sheet knows by its property "role".
 QLabel *createHeading(const QString &text);

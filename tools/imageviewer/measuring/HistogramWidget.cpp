@@ -23,7 +23,6 @@ constexpr double gammaStep = 1.02;
 constexpr int fillAlpha = 80;
 constexpr QRgb secondaryText = 0xff94a3b8;
 constexpr QRgb warningText = 0xfff59e0b;
-constexpr QRgb plainText = 0xffe8edf2;
 constexpr QRgb curveColor = 0xffe8edf2;
 
 QString percentText(double share)
@@ -124,7 +123,7 @@ QString HistogramWidget::pointerText() const
         counts << tr("%1 %2").arg(locale.toString(static_cast<qulonglong>(component.counts[bin])),
             componentName(component.component).toLower());
     const PlotAxis axis{m_histogram->lowest, m_histogram->highest};
-    return tr("Value %1: %2").arg(axis.label(value), counts.join(QStringLiteral(", ")));
+    return tr("Value %1\n%2").arg(axis.label(value), counts.join(QStringLiteral(", ")));
 }
 
 QSize HistogramWidget::sizeHint() const
@@ -270,14 +269,8 @@ void HistogramWidget::drawTexts(QPainter &painter, const QRectF &area) const
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, tr("%1 dark").arg(percentText(dark)));
     painter.setPen(QColor(bright > 0 ? warningText : secondaryText));
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("%1 bright").arg(percentText(bright)));
-    if (!m_pointer)
-        return;
-    const double x = area.left() + *m_pointer * area.width();
-    painter.setPen(QPen(QColor(secondaryText), 1, Qt::DotLine));
-    painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-    painter.setPen(QColor(plainText));
-    painter.drawText(
-        area.adjusted(4, 2, -4, 0), Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, pointerText());
+    if (m_pointer)
+        drawPointer(painter, area, *m_pointer, pointerText());
 }
 
 void HistogramWidget::resizeEvent(QResizeEvent *)

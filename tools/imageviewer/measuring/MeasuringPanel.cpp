@@ -64,6 +64,7 @@ MeasuringPanel::MeasuringPanel(QWidget *parent)
     auto *const content = new QWidget;
     content->setObjectName(QStringLiteral("measuringContent"));
     auto *const layout = new QVBoxLayout(content);
+    layout->setContentsMargins(8, 8, 8, 8);
     addHistogram(layout);
     addStatistics(layout);
     layout->addWidget(m_profile);
@@ -126,7 +127,7 @@ void MeasuringPanel::addStatistics(QVBoxLayout *layout)
 void MeasuringPanel::addDisplay(QVBoxLayout *layout)
 {
     m_message->setWordWrap(true);
-    m_message->setProperty("warning", true);
+    m_message->setProperty("role", QStringLiteral("warning"));
     m_message->hide();
     layout->addWidget(createHeading(tr("Display")));
     layout->addWidget(m_display);

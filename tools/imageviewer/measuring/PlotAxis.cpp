@@ -13,6 +13,9 @@ constexpr QRgb plotBackground = 0xff0f1419;
 constexpr QRgb gridColor = 0xff1e2a3a;
 constexpr QRgb frameColor = 0xff2d3a4d;
 constexpr QRgb labelColor = 0xff94a3b8;
+constexpr QRgb pointerColor = 0xff94a3b8;
+constexpr QRgb pointerTextColor = 0xffe8edf2;
+constexpr QRgb pointerBackground = 0xd01a2332;
 constexpr double labelGap = 4;
 
 /// Returns 1, 2 or 5 times a power of ten, at least as large as the number.
@@ -66,7 +69,7 @@ void drawPlotGrid(QPainter &painter, const QRectF &area, const PlotAxis &horizon
     const QFontMetricsF metrics(painter.font());
     const double labelWidth = metrics.horizontalAdvance(horizontal.label(horizontal.highest)) + 4 * labelGap;
     const int columns = std::max(2, static_cast<int>(area.width() / labelWidth));
-    const int rows = std::max(2, static_cast<int>(area.height() / (2 * metrics.height())));
+    const int rows = std::max(2, static_cast<int>(area.height() / (1.5 * metrics.height())));
     for (const double number : horizontal.ticks(columns)) {
         const double x = area.left() + horizontal.share(number) * area.width();
         painter.setPen(QColor(gridColor));
@@ -89,4 +92,17 @@ void drawPlotGrid(QPainter &painter, const QRectF &area, const PlotAxis &horizon
     }
     painter.setPen(QColor(frameColor));
     painter.drawRect(area);
+}
+
+void drawPointer(QPainter &painter, const QRectF &area, double share, const QString &text)
+{
+    const double x = area.left() + share * area.width();
+    painter.setPen(QPen(QColor(pointerColor), 1, Qt::DotLine));
+    painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+    const QRectF room = area.adjusted(2 * labelGap, labelGap, -2 * labelGap, 0);
+    constexpr int flags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
+    const QRectF place = painter.boundingRect(room, flags, text);
+    painter.fillRect(place.adjusted(-labelGap, -1, labelGap, 1), QColor::fromRgba(pointerBackground));
+    painter.setPen(QColor(pointerTextColor));
+    painter.drawText(room, flags, text);
 }

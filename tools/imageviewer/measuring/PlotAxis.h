@@ -26,3 +26,6 @@ struct PlotAxis
 /// Draws the background of a plot and lines at round numbers, with labels below and to the left.
 void drawPlotGrid(
     QPainter &painter, const QRectF &area, const PlotAxis &horizontal, const PlotAxis &vertical);
+
+/// Draws a line at a share of the horizontal axis, and a text at the top of the plot.
+void drawPointer(QPainter &painter, const QRectF &area, double share, const QString &text);

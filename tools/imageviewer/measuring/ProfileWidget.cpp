@@ -14,8 +14,7 @@
 namespace {
 
 constexpr double gap = 6;
-constexpr QRgb secondaryText = 0xff94a3b8;
-constexpr QRgb plainText = 0xffe8edf2;
+constexpr QRgb emptyPlotText = 0xff94a3b8;
 
 /// Returns an axis from the lowest to the highest value, with some room at both ends.
 PlotAxis valueAxis(const LineProfile &profile)
@@ -99,7 +98,7 @@ QString ProfileWidget::pointerText() const
     for (const LineProfile::Curve &curve : m_profile->curves)
         values << tr("%1 %2").arg(
             componentName(curve.component).toLower(), axis.label(valueNear(curve, position)));
-    return tr("Pixel %1: %2").arg(QLocale().toString(position, 'f', 0), values.join(QStringLiteral(", ")));
+    return tr("Pixel %1\n%2").arg(QLocale().toString(position, 'f', 0), values.join(QStringLiteral(", ")));
 }
 
 QSize ProfileWidget::sizeHint() const
@@ -131,7 +130,7 @@ void ProfileWidget::paintEvent(QPaintEvent *)
     const QRectF area = plotArea();
     if (!m_profile) {
         drawPlotGrid(painter, area, {0, 0}, {0, 0});
-        painter.setPen(QColor(secondaryText));
+        painter.setPen(QColor(emptyPlotText));
         painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, tr("There is no line to measure."));
         return;
     }
@@ -140,14 +139,8 @@ void ProfileWidget::paintEvent(QPaintEvent *)
     const PlotAxis values = valueAxis(*m_profile);
     drawPlotGrid(painter, area, positions, values);
     drawCurves(painter, area, values);
-    if (!m_pointer)
-        return;
-    const double x = area.left() + *m_pointer * area.width();
-    painter.setPen(QPen(QColor(secondaryText), 1, Qt::DotLine));
-    painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-    painter.setPen(QColor(plainText));
-    painter.drawText(
-        area.adjusted(4, 2, -4, 0), Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, pointerText());
+    if (m_pointer)
+        drawPointer(painter, area, *m_pointer, pointerText());
 }
 
 void ProfileWidget::drawCurves(QPainter &painter, const QRectF &area, const PlotAxis &values) const

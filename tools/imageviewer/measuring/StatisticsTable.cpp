@@ -3,24 +3,24 @@
 #include "tools/imageviewer/measuring/ComponentStyle.h"
 
 #include <QClipboard>
+#include <QFontInfo>
+#include <QGridLayout>
 #include <QGuiApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
+#include <QLabel>
 #include <QLocale>
+#include <QVariant>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int statisticsRows = 5; // Minimum, maximum, mean, deviation, pixels.
-
 QStringList rowTitles()
 {
-    return {StatisticsTable::tr("Minimum"), StatisticsTable::tr("Maximum"), StatisticsTable::tr("Mean"),
-        StatisticsTable::tr("Deviation"), StatisticsTable::tr("Pixels")};
+    return {StatisticsTable::tr("Component"), StatisticsTable::tr("Minimum"), StatisticsTable::tr("Maximum"),
+        StatisticsTable::tr("Mean"), StatisticsTable::tr("Deviation"), StatisticsTable::tr("Pixels")};
 }
 
-/// Returns a number with the digits that its size makes meaningful; integers as they are.
 QString numberText(double number, int decimals, const QLocale &locale)
 {
     const double size = std::abs(number);
@@ -28,52 +28,71 @@ QString numberText(double number, int decimals, const QLocale &locale)
     return isPlain ? locale.toString(number, 'f', decimals) : locale.toString(number, 'g', 5);
 }
 
+/// Returns the cells of a component in the order of the titles.
 QStringList texts(const ComponentStatistics &statistics, const QLocale &locale)
 {
-    const bool isInteger = statistics.minimum == std::floor(statistics.minimum)
-        && statistics.maximum == std::floor(statistics.maximum);
-    const int decimals = isInteger ? 0 : 3;
-    return {numberText(statistics.minimum, decimals, locale),
-        numberText(statistics.maximum, decimals, locale),
-        numberText(statistics.mean, decimals == 0 ? 2 : 3, locale),
-        numberText(statistics.deviation, decimals == 0 ? 2 : 3, locale),
+    const auto isInteger = [](double number) { return number == std::floor(number); };
+    const bool hasIntegers = isInteger(statistics.minimum) && isInteger(statistics.maximum);
+    const int decimals = hasIntegers ? 0 : 3;
+    const int meanDecimals = hasIntegers ? 2 : 3;
+    return {componentName(statistics.component), numberText(statistics.minimum, decimals, locale),
+        numberText(statistics.maximum, decimals, locale), numberText(statistics.mean, meanDecimals, locale),
+        numberText(statistics.deviation, meanDecimals, locale),
         locale.toString(static_cast<qulonglong>(statistics.pixels))};
 }
 
 } // namespace
 
-StatisticsTable::StatisticsTable(QWidget *parent) : QTableWidget(statisticsRows, 0, parent)
+StatisticsTable::StatisticsTable(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName(tr("Statistics"));
-    setToolTip(tr("The deviation is the standard deviation. Ctrl+C copies the table."));
-    setVerticalHeaderLabels(rowTitles());
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSelectionMode(QAbstractItemView::NoSelection);
-    setTabKeyNavigation(false);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    horizontalHeader()->setMinimumSectionSize(20);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    setToolTip(tr("The deviation is the standard deviation."));
+    auto *const layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(8);
+    layout->setVerticalSpacing(3);
+    const QStringList titles = rowTitles();
+    for (std::size_t row = 1; row < rowCount; ++row) {
+        QLabel *const title = addLabel(layout, row, 0);
+        title->setText(titles[static_cast<int>(row)]);
+        title->setProperty("role", QStringLiteral("secondary"));
+    }
+    for (std::size_t column = 0; column < maxComponents; ++column) {
+        layout->setColumnStretch(static_cast<int>(column) + 1, 1);
+        for (std::size_t row = 0; row < rowCount; ++row) {
+            m_columns[column][row] = addLabel(layout, row, column + 1);
+            m_columns[column][row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
+    }
+    setStatistics({});
+}
+
+QLabel *StatisticsTable::addLabel(QGridLayout *layout, std::size_t row, std::size_t column)
+{
+    auto *const label = new QLabel;
+    QFont smaller
+        = label->font(); // Three components with millions of pixels have to fit into a narrow panel.
+    smaller.setPointSizeF(0.85 * QFontInfo(smaller).pointSizeF());
+    label->setFont(smaller);
+    layout->addWidget(label, static_cast<int>(row), static_cast<int>(column));
+    return label;
 }
 
 void StatisticsTable::setStatistics(const std::vector<ComponentStatistics> &statistics)
 {
     m_statistics = statistics;
-    setColumnCount(static_cast<int>(statistics.size()));
-    for (int column = 0; column < columnCount(); ++column) {
-        const ComponentStatistics &component = statistics[static_cast<std::size_t>(column)];
-        auto *const title = new QTableWidgetItem(componentName(component.component));
-        title->setForeground(componentColor(component.component));
-        setHorizontalHeaderItem(column, title);
-        const QStringList numbers = texts(component, QLocale());
-        for (int row = 0; row < statisticsRows; ++row) {
-            auto *const item = new QTableWidgetItem(numbers[row]);
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            setItem(row, column, item);
+    for (std::size_t column = 0; column < maxComponents; ++column) {
+        const bool hasComponent = column < statistics.size();
+        const QStringList cells = hasComponent ? texts(statistics[column], QLocale()) : QStringList();
+        for (std::size_t row = 0; row < rowCount; ++row) {
+            m_columns[column][row]->setText(cells.value(static_cast<int>(row)));
+            m_columns[column][row]->setVisible(
+                hasComponent || column == 0); // The first one keeps the height.
         }
+        if (hasComponent)
+            m_columns[column][0]->setText(
+                QStringLiteral("<font color=\"%1\">%2</font>")
+                    .arg(componentColor(statistics[column].component).name(), cells[0]));
     }
 }
 
@@ -81,33 +100,13 @@ QString StatisticsTable::text() const
 {
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    QStringList lines{tr("Component") + QLatin1Char('\t') + rowTitles().join(QLatin1Char('\t'))};
+    QStringList lines{rowTitles().join(QLatin1Char('\t'))};
     for (const ComponentStatistics &component : m_statistics)
-        lines << componentName(component.component) + QLatin1Char('\t')
-                + texts(component, locale).join(QLatin1Char('\t'));
+        lines << texts(component, locale).join(QLatin1Char('\t'));
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
-}
-
-QSize StatisticsTable::sizeHint() const
-{
-    const int rows = statisticsRows * verticalHeader()->defaultSectionSize();
-    return {300, rows + horizontalHeader()->sizeHint().height() + 2 * frameWidth()};
-}
-
-QSize StatisticsTable::minimumSizeHint() const
-{
-    return {220, sizeHint().height()};
 }
 
 void StatisticsTable::copy()
 {
     QGuiApplication::clipboard()->setText(text());
-}
-
-void StatisticsTable::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy))
-        copy();
-    else
-        QTableWidget::keyPressEvent(event);
 }

@@ -2,13 +2,16 @@
 
 #include "tools/kit/measure/Measurements.h"
 
-#include <QTableWidget>
+#include <QWidget>
 
+#include <array>
 #include <vector>
 
-/// Shows the statistics of each component in a column. "Copy" puts the table on the clipboard, as text with
-/// tabulators.
-class StatisticsTable : public QTableWidget
+class QGridLayout;
+class QLabel;
+
+/// Shows the statistics of each component in a column.
+class StatisticsTable : public QWidget
 {
     Q_OBJECT
 
@@ -17,19 +20,20 @@ public:
 
     void setStatistics(const std::vector<ComponentStatistics> &statistics);
 
-    /// Returns the table as text: one line per component, after a line of titles; numbers without
-    /// group separators.
+    /// Returns the table as text: one line per component, after a line of titles, separated by tabulators;
+    /// numbers without group separators.
     QString text() const;
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
 public slots:
+    /// Puts the text on the clipboard.
     void copy();
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
+    static constexpr std::size_t maxComponents = 4;
+    static constexpr std::size_t rowCount = 6; ///< Name, minimum, maximum, mean, deviation and pixels.
+
+    QLabel *addLabel(QGridLayout *layout, std::size_t row, std::size_t column);
+
     std::vector<ComponentStatistics> m_statistics;
+    std::array<std::array<QLabel *, rowCount>, maxComponents> m_columns{};
 };

@@ -19,6 +19,7 @@ bool isDamaged(const QString &path)
     if (state.invalidChars > 0 || state.remainingChars > 0 || content.contains('\0'))
         return true;
     const QSettings settings(path, QSettings::IniFormat);
+    settings.allKeys(); // Parses the file.
     return settings.status() == QSettings::FormatError;
 }
 
