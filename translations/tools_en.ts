@@ -19,6 +19,30 @@
     </message>
 </context>
 <context>
+    <name>LossAdvice</name>
+    <message numerus="yes">
+        <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were lost or damaged in the last seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were incomplete in the last seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RecordingSummary</name>
     <message numerus="yes">
         <source>%n image(s) recorded in %1 to &quot;%2&quot;.</source>

@@ -902,6 +902,24 @@
         <source>The connection or the computer is too slow: reduce the frame rate or the region, or close other programs.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were lost or damaged in the last seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were incomplete in the last seconds.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MeasuredComponent</name>

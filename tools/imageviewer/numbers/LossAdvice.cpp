@@ -36,7 +36,7 @@ QString usualCause(CvxTransportLayerType technology)
 
 int countForPlural(std::uint64_t count)
 {
-    return static_cast<int>(std::min<std::uint64_t>(count, 1'000'000'000));
+    return static_cast<int>(std::min<std::uint64_t>(count, 1000000000));
 }
 
 } // namespace
