@@ -1,5 +1,4 @@
 #include "tests/kit/picture/TestPicture.h"
-#include "tools/kit/picture/AutoContrast.h"
 #include "tools/kit/picture/PictureRenderer.h"
 #include "tools/kit/picture/WhiteBalance.h"
 
@@ -57,42 +56,6 @@ TEST(WhiteBalanceTest, uselessPatchIsRefused)
     EXPECT_EQ(whiteBalance(bright.raw(), bright.region()).patch, GreyPatch::Usable);
     bright.set(1000, 8, 255);
     EXPECT_EQ(whiteBalance(bright.raw(), bright.region()).patch, GreyPatch::Clipped);
-}
-
-TEST(AutoContrastTest, leavesOutTheOutermostPixels)
-{
-    TestPicture picture("Mono12p", 1000, 10);
-    for (std::size_t i = 0; i < 10000; ++i)
-        picture.set(i, 12, i < 10 ? 0 : i >= 9990 ? 4095 : 1000 + i % 1000);
-    DisplaySettings settings;
-    settings.curve.gamma = 1.8;
-    settings.gains = {3, 3, 3}; // Grey pictures have no white balance.
-    const ContrastCurve curve = autoContrast(picture.raw(), picture.region(), settings);
-    EXPECT_NEAR(curve.black * 4095, 1000, 1.5);
-    EXPECT_NEAR(curve.white * 4095, 1999, 1.5);
-    EXPECT_EQ(curve.gamma, 1.8);
-}
-
-TEST(AutoContrastTest, coversAllColorsWithTheirGains)
-{
-    const TestPicture picture = colored({100, 200, 50});
-    DisplaySettings settings;
-    settings.gains = {1.2, 1, 0.5};
-    const ContrastCurve curve = autoContrast(picture.raw(), {0, 0, 10, 10}, settings);
-    EXPECT_NEAR(curve.black * 255, 25, 1e-6);
-    EXPECT_NEAR(curve.white * 255, 200, 1e-6);
-}
-
-TEST(AutoContrastTest, evenPictureHasACurveToo)
-{
-    for (const unsigned value : {0U, 128U, 255U}) {
-        TestPicture picture("Mono8", 8, 8);
-        picture.fill(8, value);
-        const ContrastCurve curve = autoContrast(picture.raw(), picture.region(), {});
-        EXPECT_LT(curve.black, curve.white);
-        EXPECT_GE(curve.black, 0);
-        EXPECT_LE(curve.white, 1);
-    }
 }
 
 } // namespace
