@@ -17,8 +17,7 @@ QAction *createAction(
     auto *action = new QAction(icon, text, parent);
     action->setShortcut(keys);
     action->setCheckable(isCheckable);
-    QString plain = text;
-    plain.remove(QLatin1Char('&'));
+    const QString plain = ShortcutPage::plainText(text);
     action->setToolTip(keys.isEmpty()
             ? plain
             : plain + QStringLiteral(" (%1)").arg(keys.toString(QKeySequence::NativeText)));
@@ -30,13 +29,13 @@ QAction *createAction(
 ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
     : QObject(parent),
       live(createAction(this, tr("&Live"), Qt::Key_F5, ToolIcons::icon(Kind::Play), true)),
-      freeze(createAction(this, tr("&Freeze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(Kind::Pause), true)),
+      freeze(createAction(this, tr("Free&ze"), Qt::CTRL + Qt::Key_F, ToolIcons::icon(Kind::Pause), true)),
       snapshot(createAction(
           this, tr("&Save snapshot"), QKeySequence::Save, ToolIcons::icon(Kind::Snapshot), false)),
       record(createAction(this, tr("&Record"), Qt::CTRL + Qt::Key_R, ToolIcons::icon(Kind::Record), true)),
       clipMarks(createAction(
-          this, tr("&Mark clipped pixels"), Qt::CTRL + Qt::Key_E, ToolIcons::icon(Kind::ClipMarks), true)),
-      grid(createAction(this, tr("&Grid"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(Kind::Grid), true)),
+          this, tr("Mark clipped &pixels"), Qt::CTRL + Qt::Key_E, ToolIcons::icon(Kind::ClipMarks), true)),
+      grid(createAction(this, tr("Gri&d"), Qt::CTRL + Qt::Key_G, ToolIcons::icon(Kind::Grid), true)),
       crosshair(
           createAction(this, tr("&Crosshair"), Qt::CTRL + Qt::Key_K, ToolIcons::icon(Kind::Crosshair), true)),
       fullScreen(
@@ -98,7 +97,7 @@ void ViewerActions::createToolActions(ImageCanvas &canvas)
     const Choice choices[] = {
         {tr("&Move the picture"), Qt::Key_F6, Kind::Pan, ImageCanvas::Tool::Pan},
         {tr("Draw a re&gion"), Qt::Key_F7, Kind::Region, ImageCanvas::Tool::Region},
-        {tr("Draw a &line"), Qt::Key_F8, Kind::Line, ImageCanvas::Tool::Line},
+        {tr("Draw a li&ne"), Qt::Key_F8, Kind::Line, ImageCanvas::Tool::Line},
     };
     for (const Choice &choice : choices) {
         QAction *const action
@@ -157,8 +156,11 @@ ShortcutPage::Rows ViewerActions::canvasKeys()
 {
     return {{tr("+, -"), tr("Zoom in or out")},
         {tr("0, 1"), tr("Fit the picture, or show it at its own size")},
-        {tr("Arrow keys"), tr("Move the picture; with Shift, further")},
+        {tr("Arrow keys"), tr("Move the picture; in larger steps with Shift")},
+        {tr("Insert"), tr("Draw a region or a line in the middle")},
+        {tr("Ctrl and arrow keys"), tr("Move the drawn region or line; resize it with Shift")},
+        {tr("Return"), tr("Finish the region for the camera")},
         {tr("Delete"), tr("Remove the drawn region or line")}, {tr("Wheel"), tr("Zoom at the pointer")},
-        {tr("Middle button, Space and drag"), tr("Move the picture, whatever the tool")},
+        {tr("Middle button, or Space and drag"), tr("Move the picture, whatever the tool")},
         {tr("Double click"), tr("Change between the fitted picture and its own size")}};
 }

@@ -2,10 +2,14 @@
 
 #include "tools/imageviewer/ViewerActions.h"
 #include "tools/imageviewer/measuring/MeasuringPanel.h"
+#include "tools/kit/canvas/ImageCanvas.h"
+#include "tools/kit/canvas/ViewTransform.h"
 #include "tools/kit/start/ToolSettings.h"
 
 namespace {
 
+const QString turnsKey = QStringLiteral("picture/quarterTurns");
+const QString mirroredKey = QStringLiteral("picture/mirrored");
 const QString gridKey = QStringLiteral("picture/grid");
 const QString crosshairKey = QStringLiteral("picture/crosshair");
 const QString clipMarksKey = QStringLiteral("picture/clipMarks");
@@ -14,8 +18,12 @@ const QString micrometresKey = QStringLiteral("picture/micrometresPerPixel");
 
 } // namespace
 
-void ViewerChoices::save(ToolSettings &settings, const MeasuringPanel &panel, const ViewerActions &actions)
+void ViewerChoices::save(ToolSettings &settings, const ImageCanvas &canvas, const MeasuringPanel &panel,
+    const ViewerActions &actions)
 {
+    const Orientation orientation = canvas.view().orientation();
+    settings.setValue(turnsKey, orientation.quarterTurns);
+    settings.setValue(mirroredKey, orientation.isMirrored);
     const DisplaySettings &display = panel.displaySettings();
     settings.setValue(gridKey, actions.grid->isChecked());
     settings.setValue(crosshairKey, actions.crosshair->isChecked());
@@ -24,8 +32,11 @@ void ViewerChoices::save(ToolSettings &settings, const MeasuringPanel &panel, co
     settings.setValue(micrometresKey, panel.micrometresPerPixel());
 }
 
-void ViewerChoices::restore(const ToolSettings &settings, MeasuringPanel &panel, const ViewerActions &actions)
+void ViewerChoices::restore(
+    const ToolSettings &settings, ImageCanvas &canvas, MeasuringPanel &panel, const ViewerActions &actions)
 {
+    // A damaged file may contain any number of turns.
+    canvas.setOrientation({settings.value(turnsKey, 0) & 3, settings.value(mirroredKey, false)});
     actions.grid->setChecked(settings.value(gridKey, false));
     actions.crosshair->setChecked(settings.value(crosshairKey, false));
     DisplaySettings display;

@@ -4,6 +4,7 @@
 #include "tools/imageviewer/ViewerActions.h"
 #include "tools/imageviewer/ViewerChoices.h"
 #include "tools/imageviewer/files/FilesPanel.h"
+#include "tools/imageviewer/files/RecordingSummary.h"
 #include "tools/imageviewer/files/ThumbnailStrip.h"
 #include "tools/imageviewer/measuring/MeasuringPanel.h"
 #include "tools/imageviewer/numbers/DetailsPage.h"
@@ -21,6 +22,8 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
+
+#include <utility>
 
 namespace {
 
@@ -97,11 +100,11 @@ void ViewerWindow::createDocks()
     auto *details = new DetailsPage(m_monitor, this);
     QDockWidget *const camera
         = addPanel(QStringLiteral("cameraDock"), tr("Camera"), m_cameraPanel, Qt::RightDockWidgetArea);
-    const QList<QDockWidget *> others = {
-        addPanel(QStringLiteral("measuringDock"), tr("Measure"), m_measuringPanel, Qt::RightDockWidgetArea),
-        addPanel(QStringLiteral("filesDock"), tr("Files"), m_filesPanel, Qt::RightDockWidgetArea),
-        addPanel(QStringLiteral("detailsDock"), tr("Numbers"), details, Qt::RightDockWidgetArea)};
-    for (QDockWidget *dock : others)
+    auto *const measuring
+        = addPanel(QStringLiteral("measuringDock"), tr("Measure"), m_measuringPanel, Qt::RightDockWidgetArea);
+    m_files = addPanel(QStringLiteral("filesDock"), tr("Files"), m_filesPanel, Qt::RightDockWidgetArea);
+    m_details = addPanel(QStringLiteral("detailsDock"), tr("Stream"), details, Qt::RightDockWidgetArea);
+    for (QDockWidget *dock : {measuring, m_files, m_details})
         tabifyDockWidget(camera, dock);
     camera->raise();
     addPanel(QStringLiteral("snapshotsDock"), tr("Snapshots"), m_thumbnails, Qt::BottomDockWidgetArea)
@@ -141,7 +144,9 @@ void ViewerWindow::createStatusBar()
     m_readout->setObjectName(QStringLiteral("readout"));
     m_readout->setAccessibleName(tr("Pixel under the pointer"));
     statusBar()->addWidget(m_readout, 1);
-    statusBar()->addPermanentWidget(new StatusNumbers(m_monitor, this));
+    auto *numbers = new StatusNumbers(m_monitor, this);
+    connect(numbers, &StatusNumbers::clicked, this, [this] { showDock(*m_details); });
+    statusBar()->addPermanentWidget(numbers);
 }
 
 void ViewerWindow::connectStream()
@@ -175,7 +180,7 @@ void ViewerWindow::connectCanvas()
 void ViewerWindow::connectPanels()
 {
     connect(m_cameraPanel, &CameraPanel::drawRegionRequested, this, &ViewerWindow::drawRegion);
-    connect(m_cameraPanel, &CameraPanel::regionApplied, m_canvas, [this] { m_canvas->setRegion({}); });
+    connect(m_cameraPanel, &CameraPanel::regionApplied, this, &ViewerWindow::removeRegion);
     connect(m_cameraPanel, &CameraPanel::openCameraSetupRequested, this, &ViewerWindow::openCameraSetup);
     connect(m_cameraPanel, &CameraPanel::whiteBalanceWritten, m_measuringPanel,
         &MeasuringPanel::resetWhiteBalance);
@@ -196,6 +201,13 @@ void ViewerWindow::connectPanels()
 
     connect(&m_saver, &SnapshotSaver::saved, m_thumbnails,
         [this](const QString &path, const QImage &picture) { m_thumbnails->add(path, picture); });
+    connect(m_thumbnails, &ThumbnailStrip::failed, m_filesPanel, &FilesPanel::showProblem);
+    connect(m_thumbnails, &ThumbnailStrip::failed, this, &ViewerWindow::showFiles);
+    connect(&m_saver, &SnapshotSaver::failed, this, &ViewerWindow::showFiles);
+    connect(&m_recording, &RecordingControl::finished, this, [this](const RecordingResult &result) {
+        if (!result.problem.isEmpty() || !RecordingSummary::lossText(result.progress).isEmpty())
+            showFiles();
+    });
     connect(&m_saver, &SnapshotSaver::saved, m_thumbnails->parentWidget(), &QWidget::show);
 }
 
@@ -206,8 +218,14 @@ void ViewerWindow::connectActions()
     connect(m_actions->freeze, &QAction::toggled, this, &ViewerWindow::setFrozen);
     connect(m_actions->snapshot, &QAction::triggered, m_filesPanel, &FilesPanel::saveSnapshot);
     connect(m_actions->record, &QAction::triggered, m_filesPanel, &FilesPanel::toggleRecording);
-    connect(&m_recording, &RecordingControl::stateChanged, m_actions->record,
-        [this] { m_actions->record->setChecked(m_recording.state() != RecordingControl::State::Idle); });
+    const auto showRecording
+        = [this] { m_actions->record->setChecked(m_recording.state() != RecordingControl::State::Idle); };
+    connect(&m_recording, &RecordingControl::stateChanged, m_actions->record, showRecording);
+    connect(&m_recording, &RecordingControl::finished, m_actions->record, showRecording); // It may not begin.
+    connect(
+        m_actions->record, &QAction::triggered, this, showRecording); // A click while it ends does nothing.
+    for (const auto tool : {ImageCanvas::Tool::Pan, ImageCanvas::Tool::Region, ImageCanvas::Tool::Line})
+        connect(m_actions->toolAction(tool), &QAction::triggered, this, &ViewerWindow::endRegionDrawing);
     connect(m_actions->clipMarks, &QAction::triggered, m_measuringPanel, [this](bool isOn) {
         DisplaySettings display = m_measuringPanel->displaySettings();
         display.hasClipMarks = isOn;
@@ -219,9 +237,16 @@ void ViewerWindow::connectActions()
     connect(m_actions->cameraSetup, &QAction::triggered, this, &ViewerWindow::openCameraSetup);
 }
 
+/// Shows the panel whose message says what has failed.
+void ViewerWindow::showFiles()
+{
+    m_files->show();
+    m_files->raise();
+}
+
 void ViewerWindow::restoreChoices()
 {
-    ViewerChoices::restore(settings(), *m_measuringPanel, *m_actions);
+    ViewerChoices::restore(settings(), *m_canvas, *m_measuringPanel, *m_actions);
     m_cameraPanel->restoreState(settings().values());
     m_filesPanel->restoreSettings(settings());
     restoreLayout();
@@ -230,7 +255,7 @@ void ViewerWindow::restoreChoices()
 void ViewerWindow::closeEvent(QCloseEvent *event)
 {
     setFullScreen(false);
-    ViewerChoices::save(settings(), *m_measuringPanel, *m_actions);
+    ViewerChoices::save(settings(), *m_canvas, *m_measuringPanel, *m_actions);
     m_cameraPanel->saveState(settings().values());
     m_filesPanel->saveSettings(settings());
     ToolWindow::closeEvent(event);
@@ -249,16 +274,16 @@ void ViewerWindow::onConnectionChanged()
     using State = CameraConnection::State;
     const State state = connection().state();
     if (state == State::Opening) {
+        m_startsWhenOpen = true;
+        endRegionDrawing();
         m_actions->freeze->setChecked(false);
         m_feed.clear();
         m_measurer.clear();
         m_canvas->clear();
         m_measuringPanel->clear();
     }
-    if (state == State::Open && connection().isControlled()) {
-        if (m_stream.state() == LiveStream::State::Stopped)
-            startStream();
-    }
+    if (connection().isControlled() && std::exchange(m_startsWhenOpen, false))
+        startStream();
     m_canvas->setNotice(state == State::Lost ? ConnectionBar::lossText(connection()) : QString());
     onStreamChanged();
 }
@@ -279,7 +304,7 @@ void ViewerWindow::onStreamChanged()
     if (state == State::Failed)
         m_canvas->setHint(tr("The camera sends no pictures. %1").arg(m_stream.problem()));
     else if (state == State::Stopped && connection().isControlled())
-        m_canvas->setHint(tr("The camera is stopped. Press %1 to start it.")
+        m_canvas->setHint(tr("The stream is stopped. Press %1 to start it.")
                               .arg(m_actions->live->shortcut().toString(QKeySequence::NativeText)));
     else if (state == State::Running)
         m_hintTimer.start();
@@ -294,7 +319,7 @@ void ViewerWindow::updateHint()
     m_canvas->setHint(mode && *mode == "On"
             ? tr("The camera waits for a trigger. Send one, or switch the trigger mode off in the panel "
                  "\"Camera\".")
-            : tr("No picture has arrived yet. The panel \"Numbers\" may say why."));
+            : tr("No picture has arrived yet. The panel \"Stream\" may say why."));
 }
 
 void ViewerWindow::setFrozen(bool isFrozen)
@@ -311,9 +336,9 @@ void ViewerWindow::setFullScreen(bool isFullScreen)
         m_layoutBeforeFullScreen = saveState();
         for (QDockWidget *dock : m_docks)
             dock->hide();
-        showFullScreen();
+        setWindowState(windowState() | Qt::WindowFullScreen);
     } else {
-        showNormal();
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
         restoreState(m_layoutBeforeFullScreen);
     }
     menuBar()->setVisible(!isFullScreen);
@@ -324,10 +349,23 @@ void ViewerWindow::setFullScreen(bool isFullScreen)
 
 void ViewerWindow::drawRegion()
 {
-    m_isDrawingCameraRegion = true;
     m_actions->toolAction(ImageCanvas::Tool::Region)->trigger();
+    removeRegion(); // Otherwise a click would apply the region that was measured.
+    m_isDrawingCameraRegion = true; // After the action, which ends an earlier drawing.
     statusBar()->showMessage(tr("Draw the region that the camera shall send."));
     m_canvas->setFocus();
+}
+
+void ViewerWindow::endRegionDrawing()
+{
+    if (std::exchange(m_isDrawingCameraRegion, false))
+        statusBar()->clearMessage();
+}
+
+void ViewerWindow::removeRegion()
+{
+    m_canvas->setRegion({});
+    m_measuringPanel->setRegion({}); // The canvas only reports what a person has changed.
 }
 
 void ViewerWindow::onDrawingFinished()
@@ -335,14 +373,13 @@ void ViewerWindow::onDrawingFinished()
     const QRect region = m_canvas->region();
     if (!m_isDrawingCameraRegion || region.isEmpty())
         return;
-    m_isDrawingCameraRegion = false;
-    statusBar()->clearMessage();
-    m_actions->toolAction(ImageCanvas::Tool::Pan)->trigger();
+    m_actions->toolAction(ImageCanvas::Tool::Pan)->trigger(); // Ends the drawing.
     m_cameraPanel->applyRegion(region, m_canvas->picture().pictureSize);
 }
 
 void ViewerWindow::setPicking(bool isPicking)
 {
+    endRegionDrawing();
     if (isPicking)
         m_canvas->setTool(ImageCanvas::Tool::Pick);
     else

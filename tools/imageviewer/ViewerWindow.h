@@ -59,7 +59,10 @@ private:
     void startStream();
     void setFrozen(bool isFrozen);
     void setFullScreen(bool isFullScreen);
+    void showFiles();
     void drawRegion();
+    void endRegionDrawing();
+    void removeRegion();
     void onDrawingFinished();
     void setPicking(bool isPicking);
     void onPicked(const QPoint &pixel);
@@ -83,8 +86,11 @@ private:
     FilesPanel *m_filesPanel = nullptr;
     ThumbnailStrip *m_thumbnails = nullptr;
     QList<QDockWidget *> m_docks; // In the order of their menu.
+    QDockWidget *m_files = nullptr;
+    QDockWidget *m_details = nullptr;
     QLabel *m_readout = nullptr;
     QPoint m_pointer{-1, -1}; // The pixel under the pointer.
+    bool m_startsWhenOpen = false; // The camera was chosen, and its stream was not started yet.
     bool m_isDrawingCameraRegion = false; // The next drawn region goes to the camera.
     QByteArray m_layoutBeforeFullScreen;
     QTimer m_hintTimer;

@@ -19,7 +19,7 @@ ConnectionBar::ConnectionBar(CameraConnection &connection, QWidget *parent)
     setObjectName(QStringLiteral("connectionBar"));
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
-    m_watch->setToolTip(tr("Show the settings of the camera and how they change, without changing them."));
+    m_watch->setToolTip(tr("Shows the settings of the camera and how they change, without changing them."));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 6, 10, 6);
     layout->addWidget(m_text, 1);
@@ -35,7 +35,7 @@ ConnectionBar::ConnectionBar(CameraConnection &connection, QWidget *parent)
 
 QString ConnectionBar::lossText(const CameraConnection &connection)
 {
-    return tr("%1 Lost at %2; it continues by itself when the camera is back.")
+    return tr("%1 The camera was lost at %2. The program continues by itself when the camera is back.")
         .arg(connection.reason(), connection.since().time().toString(QStringLiteral("HH:mm:ss")));
 }
 
@@ -49,10 +49,10 @@ void ConnectionBar::update()
 {
     const State state = m_connection.state();
     const bool isWatching = state == State::Open && m_connection.access() == CvxCPP::CvxAccessWatch;
-    const QString name = m_connection.camera().name;
+    const QString name = m_connection.camera().title();
     const QString reason = m_connection.reason();
     if (state == State::InUse)
-        m_text->setText(tr("%1 is in use. %2").arg(name, reason));
+        m_text->setText(reason); // Names the camera, and who uses it if the camera tells.
     else if (state == State::Failed)
         m_text->setText(tr("%1 cannot be opened. %2").arg(name, reason));
     else if (state == State::Lost)

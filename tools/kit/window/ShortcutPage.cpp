@@ -3,20 +3,9 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <QVBoxLayout>
-
-namespace {
-
-/// Returns the text without the mark of its access key.
-QString plainText(const QAction &action)
-{
-    QString text = action.text();
-    text.remove(QLatin1Char('&'));
-    return text;
-}
-
-} // namespace
 
 ShortcutPage::ShortcutPage(const QWidget &window, const Rows &others, QWidget *parent) : QDialog(parent)
 {
@@ -49,7 +38,13 @@ ShortcutPage::Rows ShortcutPage::rowsOf(const QWidget &window)
     for (const QAction *action : actions) {
         const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
         if (!keys.isEmpty())
-            rows.append({keys, plainText(*action)});
+            rows.append({keys, plainText(action->text())});
     }
     return rows;
+}
+
+QString ShortcutPage::plainText(QString text)
+{
+    static const QRegularExpression appendedKey(QStringLiteral(R"(\(&.\))"));
+    return text.remove(appendedKey).remove(QLatin1Char('&'));
 }

@@ -19,4 +19,8 @@ public:
 
     /// Returns the actions of the window that have a shortcut.
     static Rows rowsOf(const QWidget &window);
+
+    /// Returns the text of an action without the mark of its access key, which Chinese, Japanese and Korean
+    /// texts append: "(&F)".
+    static QString plainText(QString text);
 };

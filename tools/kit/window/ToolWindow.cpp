@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -24,6 +25,12 @@ namespace {
 
 const QString geometryKey = QStringLiteral("window/geometry");
 const QString layoutKey = QStringLiteral("window/layout");
+
+/// Returns the display name, by which the launcher lists the camera too.
+QString nameOf(const CameraEntry &camera)
+{
+    return camera.name.isEmpty() ? camera.title() : camera.name;
+}
 
 } // namespace
 
@@ -42,7 +49,7 @@ ToolWindow::ToolWindow(const Setup &setup, ToolSettings &settings)
     m_searching->setAlignment(Qt::AlignCenter);
     m_searching->setWordWrap(true);
     m_searching->setTextFormat(Qt::PlainText);
-    m_searching->setText(tr("Searching for cameras …"));
+    m_searching->setText(tr("Searching for cameras…"));
     auto *contentLayout = new QVBoxLayout(m_content);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     contentLayout->setSpacing(0);
@@ -60,6 +67,10 @@ ToolWindow::ToolWindow(const Setup &setup, ToolSettings &settings)
     connect(m_noCamera, &NoCameraPage::checked, &m_finder, &CameraFinder::refresh);
     connect(&m_finder, &CameraFinder::changed, this, &ToolWindow::showCameras);
     connect(&m_connection, &CameraConnection::stateChanged, this, &ToolWindow::onConnectionChanged);
+    auto *back = new QShortcut(Qt::Key_Escape, m_chooser, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(
+        back, &QShortcut::activated, this, &ToolWindow::onConnectionChanged); // Back to the present camera.
+    showCameras(); // The camera system may have failed to start.
 }
 
 ToolWindow::~ToolWindow()
@@ -87,8 +98,7 @@ void ToolWindow::chooseCamera()
 
 void ToolWindow::showCameras()
 {
-    if (m_finder.state() == CameraFinder::State::Failed)
-        m_noCamera->setProblem(m_finder.problem());
+    m_noCamera->setProblem(m_finder.problem());
     if (m_isDecided)
         openIfPluggedAgain();
     else
@@ -105,6 +115,7 @@ void ToolWindow::decide()
         openCamera(m_finder.cameras().at(choice.index));
         break;
     case StartChoice::Page::Choose:
+        m_isDecided = m_wanted.isEmpty(); // A camera that was named is opened when it appears.
         m_pages->setCurrentWidget(m_chooser);
         break;
     case StartChoice::Page::NoCamera:
@@ -116,8 +127,19 @@ void ToolWindow::decide()
 void ToolWindow::openCamera(const CameraEntry &camera)
 {
     m_isDecided = true;
-    m_searching->setText(tr("Opening %1 …").arg(camera.name));
+    if (isOpen(camera)) {
+        m_pages->setCurrentWidget(m_content);
+        return;
+    }
+    m_searching->setText(tr("Opening %1…").arg(nameOf(camera)));
     m_connection.open(camera, CvxCPP::CvxAccessControl);
+}
+
+bool ToolWindow::isOpen(const CameraEntry &camera) const
+{
+    const CameraConnection::State state = m_connection.state();
+    return (state == CameraConnection::State::Open || state == CameraConnection::State::Lost)
+        && camera.id == m_connection.camera().id && m_connection.access() == CvxCPP::CvxAccessControl;
 }
 
 void ToolWindow::reopen(CvxCPP::CvxAccess access)
@@ -144,7 +166,7 @@ void ToolWindow::openIfPluggedAgain()
 void ToolWindow::onConnectionChanged()
 {
     const CameraConnection::State state = m_connection.state();
-    const QString name = m_connection.camera().name;
+    const QString name = nameOf(m_connection.camera());
     setWindowTitle(name.isEmpty() ? m_setup.title : tr("%1 – %2").arg(name, m_setup.title));
     if (state == CameraConnection::State::Opening)
         m_pages->setCurrentWidget(m_searching);

@@ -71,6 +71,7 @@ private:
     void showCameras();
     void decide();
     void openCamera(const CameraEntry &camera);
+    bool isOpen(const CameraEntry &camera) const; // For control.
     void reopen(CvxCPP::CvxAccess access);
     void openIfPluggedAgain();
     void onConnectionChanged();
