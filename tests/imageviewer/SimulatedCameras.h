@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/// The configuration of the simulator that the script with-simulator has made. Serial numbers that begin with
-/// 1 are area cameras, 1002 is one with colour; those that begin with 2 are line scan cameras.
+/// The configuration of the simulator that the SDK that the script with-sdk has copied. Serial numbers that
+/// begin with 1 are area cameras, 1002 is one with colour; those that begin with 2 are line scan cameras.
 class SimulatedCameras
 {
 public:
@@ -24,9 +24,10 @@ public:
                 QStringLiteral("devices"), devices
             }
         };
-        QSaveFile file(qEnvironmentVariable("CORVIX_TEST_SIMULATOR"));
+        QSaveFile file(
+            qEnvironmentVariable("CORVIX_TEST_SDK") + QStringLiteral("/cti/CorvixCameraSimulator.json"));
         if (!file.open(QIODevice::WriteOnly))
-            qFatal("The simulator's configuration cannot be written; use with-simulator.");
+            qFatal("The simulator's configuration cannot be written; use with-sdk.");
         file.write(
             QJsonDocument(QJsonObject{{QStringLiteral("interfaces"), QJsonArray{interface}}}).toJson());
         file.commit();

@@ -218,8 +218,7 @@ void TestViewer::recordingHasEveryFrameId()
 void TestViewer::cameraInUseCanBeWatched()
 {
     QProcess other;
-    other.start(QFileInfo(qEnvironmentVariable("CORVIX_TEST_SIMULATOR")).path() + "/../bin/cvxctl"_s,
-        {"watch"_s, "1001"_s});
+    other.start(qEnvironmentVariable("CORVIX_TEST_SDK") + "/bin/cvxctl"_s, {"watch"_s, "1001"_s});
     QVERIFY(other.waitForReadyRead(60000)); // The camera streams.
     ViewerUnderTest viewer("1001"_s);
     ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::InUse; });
