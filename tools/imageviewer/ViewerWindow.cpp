@@ -110,6 +110,7 @@ void ViewerWindow::createDocks()
     addPanel(QStringLiteral("snapshotsDock"), tr("Snapshots"), m_thumbnails, Qt::BottomDockWidgetArea)
         ->hide();
     setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea); // The panels keep their height.
 }
 
 void ViewerWindow::createMenus()
