@@ -7,8 +7,11 @@
 #include "tools/kit/pages/CameraChooser.h"
 #include "tools/kit/pages/NoCameraPage.h"
 
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -62,6 +65,7 @@ private slots:
     void snapshotContainsTheRawValues();
     void recordingHasEveryFrameId();
     void cameraInUseCanBeWatched();
+    void everyControlHasAnAccessibleName();
 
 private:
     SimulatedCameras m_cameras;
@@ -231,6 +235,32 @@ void TestViewer::cameraInUseCanBeWatched()
     QVERIFY(!viewer.window().connection().isControlled());
     other.terminate();
     QVERIFY(other.waitForFinished(60000));
+}
+
+void TestViewer::everyControlHasAnAccessibleName()
+{
+    ViewerUnderTest viewer("1002"_s);
+    viewer.awaitPicture();
+    QSet<QWidget *> controls;
+    const QList<QDockWidget *> docks = viewer.window().findChildren<QDockWidget *>();
+    for (QDockWidget *dock : docks) {
+        dock->show();
+        dock->raise();
+        QTRY_VERIFY(!dock->widget()->visibleRegion().isEmpty());
+        const QList<QWidget *> widgets = viewer.window().findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy()
+                && !qobject_cast<QAbstractScrollArea *>(widget))
+                controls.insert(widget);
+        }
+    }
+    QVERIFY(controls.size() > 40);
+    QStringList unnamed;
+    for (QWidget *control : controls) {
+        if (QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty())
+            unnamed.append(QLatin1String(control->metaObject()->className()) + ": "_s + control->toolTip());
+    }
+    QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join("; "_s)));
 }
 
 QTEST_MAIN(TestViewer)
