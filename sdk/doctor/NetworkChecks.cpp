@@ -4,6 +4,7 @@
 #include "sdk/text/Utf8.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -73,6 +74,16 @@ void checkConnected(const Machine &machine, const NetworkLink &link, Findings &f
             {Severity::Ok, link.name, link.name + " is connected and has an address.", {}, {}});
 }
 
+/// Returns null if no interface or more than one has cameras.
+const NetworkLink *onlyLinkWithCameras(const Machine &machine)
+{
+    const auto hasCamera = [&](const NetworkLink &link) { return machine.hasCameraAt(link.name); };
+    const auto end = machine.links.end();
+    const auto found = std::find_if(machine.links.begin(), end, hasCamera);
+    const bool isOnly = found != end && std::none_of(std::next(found), end, hasCamera);
+    return isOnly ? &*found : nullptr;
+}
+
 bool areInSameSubnet(const InterfaceAddress &left, const InterfaceAddress &right)
 {
     return ((left.address ^ right.address) & std::min(left.mask, right.mask)) == 0;
@@ -99,23 +110,21 @@ Findings checkLinks(const Machine &machine)
 Findings checkPacketSize(const Machine &machine, const std::string &camera, std::int64_t packetSize)
 {
     constexpr std::int64_t usualMtu = 1500;
+    const NetworkLink *const link = onlyLinkWithCameras(machine);
+    if (!link)
+        return {};
     const std::string subject = toPrintable(camera);
-    const std::string what
-        = "The camera sends packets of " + std::to_string(packetSize) + " bytes, and the MTU of ";
+    const std::string what = "The camera sends packets of " + std::to_string(packetSize)
+        + " bytes, and the MTU of " + link->name + " is " + std::to_string(link->mtu) + '.';
     const std::string set = "cvxctl set " + shellWord(subject) + " GevSCPSPacketSize=";
-    for (const NetworkLink &link : machine.links) {
-        if (!machine.hasCameraAt(link.name))
-            continue;
-        const std::string whatHere = what + link.name + " is " + std::to_string(link.mtu) + '.';
-        if (packetSize > link.mtu)
-            return {{Severity::Warning, subject, whatHere,
-                "Packets that are larger than the MTU are dropped, so images are incomplete.",
-                set + std::to_string(link.mtu)}};
-        if (packetSize <= usualMtu && link.mtu >= jumboMtu)
-            return {{Severity::Notice, subject, whatHere,
-                "Larger packets cost less processor time, so fewer of them are lost.",
-                set + std::to_string(jumboMtu)}};
-    }
+    if (packetSize > link->mtu)
+        return {{Severity::Warning, subject, what,
+            "Packets that are larger than the MTU are dropped, so images are incomplete.",
+            set + std::to_string(link->mtu)}};
+    if (packetSize <= usualMtu && link->mtu >= jumboMtu)
+        return {{Severity::Notice, subject, what,
+            "Larger packets cost less processor time, so fewer of them are lost.",
+            set + std::to_string(jumboMtu)}};
     return {};
 }
 

@@ -16,14 +16,28 @@
 namespace {
 
 constexpr std::uint32_t controlRegister = 0x0A00; // 0 if no program controls the camera.
+constexpr std::uint32_t controllerAddressRegister = 0x0A14; // IPv4 address of the program that controls it.
 constexpr std::uint32_t exclusiveAccess = 1;
 constexpr std::uint32_t capabilityRegister = 0x0934;
 constexpr std::uint32_t writeMemoryCapability = 2;
 constexpr std::uint32_t packetSizeRegister = 0x0D04;
 
-GenTlError controlledElsewhere(const std::string &name)
+/// @param controller IP address of the other program; 0 if it is unknown.
+GenTlError controlledElsewhere(const std::string &name, std::uint32_t controller = 0)
 {
-    return {GenTL::GC_ERR_ACCESS_DENIED, name + " is in use: another program controls it."};
+    const std::string program
+        = controller == 0 ? "another program" : "a program at " + ipv4ToString(controller);
+    return {GenTL::GC_ERR_ACCESS_DENIED, name + " is in use: " + program + " controls it."};
+}
+
+/// Returns the IP address of the program that controls the camera; 0 if the camera does not tell it.
+std::uint32_t readControllerAddress(GvcpReader &reader)
+{
+    try {
+        return reader.readRegister(controllerAddressRegister);
+    } catch (const GenTlError &) {
+        return 0;
+    }
 }
 
 GObjectPointer<GInetAddress> toGlib(std::uint32_t address)
@@ -75,8 +89,9 @@ std::unique_ptr<OpenCamera> openGigECamera(const CameraPlace &place, GenTL::DEVI
     if (access == GenTL::DEVICE_ACCESS_READONLY)
         return std::make_unique<WatchedCamera>(place.interfaceAddress, place.cameraAddress);
     // libaravis would wait for seconds if the camera is silent or controlled by another program.
-    if (GvcpReader(place.interfaceAddress, place.cameraAddress).readRegister(controlRegister) != 0)
-        throw controlledElsewhere(place.name);
+    GvcpReader reader(place.interfaceAddress, place.cameraAddress);
+    if (reader.readRegister(controlRegister) != 0)
+        throw controlledElsewhere(place.name, readControllerAddress(reader));
     auto camera = std::make_unique<GigECamera>(place);
     if (access == GenTL::DEVICE_ACCESS_EXCLUSIVE)
         camera->takeExclusiveAccess();

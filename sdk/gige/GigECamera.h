@@ -15,8 +15,9 @@ struct CameraPlace
     std::uint32_t cameraAddress = 0;
 };
 
-/// Opens a camera. Throws GenTlError: GC_ERR_ACCESS_DENIED if another program controls the camera,
-/// GC_ERR_TIMEOUT if the camera does not answer, or GC_ERR_IO.
+/// Opens a camera. Throws GenTlError: GC_ERR_ACCESS_DENIED if another program controls the camera;
+/// the text then names the program's IP address if the camera tells it. Or GC_ERR_TIMEOUT if the camera does
+/// not answer, or GC_ERR_IO.
 /// @param access DEVICE_ACCESS_READONLY, DEVICE_ACCESS_CONTROL or DEVICE_ACCESS_EXCLUSIVE.
 std::unique_ptr<OpenCamera> openGigECamera(const CameraPlace &place, GenTL::DEVICE_ACCESS_FLAGS access);
 

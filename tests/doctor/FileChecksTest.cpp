@@ -98,6 +98,22 @@ TEST(NetworkChecks, interfacesInOneSubnetAreReported)
     EXPECT_TRUE(checkSubnets(builder.machine).empty());
 }
 
+TEST(NetworkChecks, packetSizeIsJudgedIfTheInterfaceIsCertain)
+{
+    MachineBuilder builder;
+    const auto check = [&](std::int64_t size) { return checkPacketSize(builder.machine, "Net 1", size); };
+    builder.address("eth1", "10.0.1.1", 24);
+    builder.machine.links = {{"eth0", true, true, 1500, 1000}, {"eth1", true, true, 9000, 1000}};
+    EXPECT_TRUE(check(1500).empty()) << "no interface has cameras";
+    builder.camera("10.0.1.2", 1);
+    EXPECT_TRUE(matchAll(check(1500),
+        {{Severity::Notice, "Net 1", "MTU of eth1 is 9000", "cvxctl set 'Net 1' GevSCPSPacketSize=9000"}}));
+    EXPECT_TRUE(check(8000).empty());
+    EXPECT_TRUE(matchAll(check(9500), {{Severity::Warning, "Net 1", "MTU of eth1", "PacketSize=9000"}}));
+    builder.address("eth0", "10.0.0.1", 24).camera("10.0.0.2", 2);
+    EXPECT_TRUE(check(9500).empty()) << "the camera may be at either interface";
+}
+
 TEST(KernelChecks, smallReceiveBufferMattersForGigECameras)
 {
     MachineBuilder builder;

@@ -3,6 +3,7 @@
 
 #include "sdk/gige/GvcpReader.h"
 #include "sdk/gige/DescriptionUrls.h"
+#include "sdk/gige/GigECamera.h"
 #include "sdk/gige/RegisterWords.h"
 #include "sdk/gige/WatchedCamera.h"
 #include "tests/aravis/FakeCameraRegisters.h"
@@ -119,6 +120,32 @@ TEST(GvcpReader, failuresHaveCodes)
         status = cameraStatus;
         EXPECT_EQ(errorOf([] { readBytes(0x1000, 4); }), expected) << cameraStatus;
     }
+}
+
+TEST(GigECamera, programThatControlsTheCameraIsNamed)
+{
+    constexpr std::size_t controllerAddress = 0x0A14;
+    std::atomic<std::uint16_t> status{0};
+    Bytes controller;
+    const RegisterResponder camera([&](const Bytes &command, const Send &send) {
+        const bool isAsked = number(command, 8, 4) == controllerAddress;
+        send(isAsked ? RegisterResponder::answerTo(command, status, controller) : goodAnswer(command));
+    });
+    const auto text = [] {
+        try {
+            openGigECamera({"Cam", loopback, loopback}, DEVICE_ACCESS_CONTROL);
+        } catch (const GenTlError &error) {
+            EXPECT_EQ(error.code(), GC_ERR_ACCESS_DENIED);
+            return std::string(error.what());
+        }
+        return std::string("It is open.");
+    };
+    controller = {10, 0, 2, 15};
+    EXPECT_EQ(text(), "Cam is in use: a program at 10.0.2.15 controls it.");
+    controller = {0, 0, 0, 0};
+    EXPECT_EQ(text(), "Cam is in use: another program controls it.");
+    status = 0x8003;
+    EXPECT_EQ(text(), "Cam is in use: another program controls it.") << "the camera has no such register";
 }
 
 TEST(WatchedCamera, silentCameraIsLost)

@@ -73,7 +73,7 @@ void TestFileNamePattern::unusablePatternsSayWhy_data()
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("problem"); // A part of it.
     QTest::newRow("unknown placeholder") << "{camera}-{nummer}"
-                                         << "{nummer} is no placeholder";
+                                         << "{nummer} is not a placeholder";
     QTest::newRow("brace missing") << "{camera"
                                    << "brace is missing";
     QTest::newRow("brace too many") << "camera}"

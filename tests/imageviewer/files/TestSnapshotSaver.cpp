@@ -144,7 +144,7 @@ void TestSnapshotSaver::failuresSayWhatToDo_data()
     QTest::newRow("no picture") << ""
                                 << "a" << false << false << "no picture to save";
     QTest::newRow("broken pattern") << ""
-                                    << "{a}" << true << false << "no placeholder";
+                                    << "{a}" << true << false << "not a placeholder";
 }
 
 void TestSnapshotSaver::failuresSayWhatToDo()

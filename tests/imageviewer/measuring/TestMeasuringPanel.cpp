@@ -191,7 +191,7 @@ void TestMeasuringPanel::greyPatchBalancesColors()
 {
     PanelTest test;
     auto *const pick = test.withText<QPushButton>(QStringLiteral("Pick grey"));
-    auto *const write = test.withText<QPushButton>(QStringLiteral("To camera"));
+    auto *const write = test.withText<QPushButton>(QStringLiteral("Write to camera"));
     QSignalSpy picking(&test.panel, &MeasuringPanel::greyPickingChanged);
     std::array<double, 3> written{};
     connect(&test.panel, &MeasuringPanel::whiteBalanceWriteRequested, this,

@@ -205,9 +205,9 @@ void TestMeasuringWidgets::clippedPixelsAreShown_data()
     QTest::addColumn<double>("dark");
     QTest::addColumn<double>("bright");
     QTest::addColumn<QString>("text");
-    QTest::newRow("none") << 0.0 << 0.0 << "0 % dark, 0 % bright";
-    QTest::newRow("few") << 0.003 << 0.0123 << "0.30 % dark, 1.2 % bright";
-    QTest::newRow("one pixel is not nothing") << 1e-7 << 0.5 << "< 0.01 % dark, 50 % bright";
+    QTest::newRow("none") << 0.0 << 0.0 << "0 % underexposed, 0 % overexposed";
+    QTest::newRow("few") << 0.003 << 0.0123 << "0.30 % underexposed, 1.2 % overexposed";
+    QTest::newRow("one pixel is not nothing") << 1e-7 << 0.5 << "< 0.01 % underexposed, 50 % overexposed";
 }
 
 void TestMeasuringWidgets::clippedPixelsAreShown()
@@ -232,7 +232,7 @@ void TestMeasuringWidgets::valueUnderThePointerIsShown()
     test.widget.setHistogram(histogram);
     QVERIFY(test.widget.pointerText().isEmpty());
     movePointer(test.widget, {10 + 51, 80}); // Each bin is two pixels wide.
-    QCOMPARE(test.widget.pointerText(), QStringLiteral("Value -25\n1,234 red, 7 blue"));
+    QCOMPARE(test.widget.pointerText(), QStringLiteral("Value -25\n1,234 Red, 7 Blue"));
     movePointer(test.widget, {5, 80});
     QVERIFY(test.widget.pointerText().isEmpty());
 }
@@ -271,7 +271,7 @@ void TestMeasuringWidgets::profileShowsValuesUnderThePointer()
     profile.curves = {{C::Red, {0, 2, 4}, {100, 300, 500}}, {C::Green, {1, 3}, {200, 400}}};
     widget.setProfile(profile);
     movePointer(widget, {200, 50});
-    QCOMPARE(widget.pointerText(), QStringLiteral("Pixel 3\nred 500, green 400"));
+    QCOMPARE(widget.pointerText(), QStringLiteral("Pixel 3\nRed 500, Green 400"));
     movePointer(widget, {299, 50});
     QVERIFY(widget.pointerText().isEmpty());
 }
@@ -282,7 +282,7 @@ void TestMeasuringWidgets::statisticsAreCopiedAsText()
     table.setStatistics({{C::Red, 1234567, 12, 4095, 1234.5678, 9.125}, {C::Blue, 2, 0.25, 1.5, 0.875, 0.5}});
     table.copy();
     QCOMPARE(QGuiApplication::clipboard()->text(),
-        QStringLiteral("Component\tMinimum\tMaximum\tMean\tDeviation\tPixels\n"
+        QStringLiteral("Component\tMinimum\tMaximum\tMean\tStd. deviation\tPixels\n"
                        "Red\t12\t4095\t1234.57\t9.13\t1234567\n"
                        "Blue\t0.250\t1.500\t0.875\t0.500\t2\n"));
     const QList<QLabel *> cells = table.findChildren<QLabel *>();

@@ -8,6 +8,8 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include <future>
+
 using CvxCPP::StreamStatistics;
 
 /// What the numbers of a stream say, and that they are those of the stream.
@@ -24,6 +26,8 @@ private slots:
     void historyKeepsOneMinute();
     void windowForgetsOldLosses();
     void monitorFollowsStreamAndCamera();
+    void picturesOfTheNextCameraAreCounted();
+    void resendsOfTheNextCameraAreRead();
 };
 
 namespace {
@@ -69,6 +73,12 @@ struct MonitoredStream
         return QTest::qWaitFor([this] { return stream.state() == LiveStream::State::Running; }, 10000);
     }
 
+    void openOther(const std::shared_ptr<StreamingDevice> &other)
+    {
+        connection.open(OpenableCamera::entry(std::make_shared<OpenableCamera>("Net-2", other)),
+            CvxCPP::CvxAccessControl);
+    }
+
     std::shared_ptr<StreamingDevice> device = std::make_shared<StreamingDevice>();
     std::shared_ptr<OpenableCamera> camera = std::make_shared<OpenableCamera>("Net-1", device);
     CameraConnection connection;
@@ -106,7 +116,7 @@ void TestStreamNumbers::rowsTellEveryNumber()
         QStringLiteral("Link speed=not reported"), QStringLiteral("Packet size=8,228 bytes"),
         QStringLiteral("Resent packets=5"), QStringLiteral("Continued after a loss=1!")};
     QCOMPARE(textsOf(numbers.rows()), expected);
-    QCOMPARE(numbers.lossText(), QStringLiteral("3 lost, 2 incomplete, 4 without a buffer"));
+    QCOMPARE(numbers.lossText(), QStringLiteral("3 lost, 2 incomplete, 4 underruns"));
     QVERIFY(numbers.plainText().contains(QStringLiteral("Lost: 3\n")));
 }
 
@@ -226,6 +236,55 @@ void TestStreamNumbers::monitorFollowsStreamAndCamera()
         OpenableCamera::entry(std::make_shared<OpenableCamera>("Net-2")), CvxCPP::CvxAccessControl);
     QTRY_COMPARE_WITH_TIMEOUT(shown(0), QStringLiteral("0"), 10000);
     QVERIFY(monitored.monitor.advice().text.isEmpty());
+}
+
+void TestStreamNumbers::picturesOfTheNextCameraAreCounted()
+{
+    MonitoredStream monitored;
+    PictureFeed &feed = monitored.feed;
+    QVERIFY(monitored.start());
+    feed.setRequest({QSize(4, 4), QRect(0, 0, 4, 4), QSize(4, 4), {}});
+    for (std::uint64_t number = 1; number <= 2; ++number) {
+        feed.take(numberedImage(number));
+        QTRY_COMPARE_WITH_TIMEOUT(feed.shownCount(), number, 10000);
+        feed.accept();
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(monitored.monitor.figures().shown, 2U, 10000);
+    // A window clears the feed after the monitor has seen the next camera.
+    connect(&monitored.connection, &CameraConnection::stateChanged, &feed, &PictureFeed::clear);
+    monitored.openOther(std::make_shared<StreamingDevice>());
+    disconnect(&monitored.connection, nullptr, &feed, nullptr);
+    feed.take(numberedImage(3));
+    feed.take(numberedImage(4));
+    feed.take(numberedImage(5));
+    QTRY_COMPARE_WITH_TIMEOUT(feed.shownCount() + feed.skippedCount(), 2U, 10000); // One waits.
+    QTRY_COMPARE_WITH_TIMEOUT(monitored.monitor.figures().shown, 1U, 10000);
+    QCOMPARE(monitored.monitor.figures().skippedForDisplay, 1U);
+}
+
+void TestStreamNumbers::resendsOfTheNextCameraAreRead()
+{
+    std::promise<void> reading, permission;
+    MonitoredStream monitored;
+    monitored.device->beforeCall = [&, isFirst = true](const std::string &call) mutable {
+        if (call != "Read" || !std::exchange(isFirst, false))
+            return;
+        reading.set_value();
+        permission.get_future().wait();
+    };
+    QVERIFY(monitored.start());
+    const auto isReading = [future = reading.get_future().share()] {
+        return future.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    };
+    const bool hasRead = QTest::qWaitFor(isReading, 10000);
+    const auto next = std::make_shared<StreamingDevice>();
+    next->add("GevResentPackets", std::int64_t(9));
+    monitored.openOther(next);
+    const auto isNew = [&] { return monitored.monitor.figures().resends == 9; };
+    const bool isNextRead = QTest::qWaitFor(isNew, 10000);
+    permission.set_value();
+    QVERIFY(hasRead);
+    QVERIFY(isNextRead);
 }
 
 QTEST_MAIN(TestStreamNumbers)

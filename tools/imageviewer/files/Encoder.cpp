@@ -23,7 +23,7 @@ bool Encoder::write(const QByteArray &frame)
         if (m_process.bytesToWrite() < before)
             deadline.setRemainingTime(hangTimeout);
         if (deadline.hasExpired())
-            return fail(tr("ffmpeg has not taken a picture for %n second(s)", nullptr, hangTimeout / 1000));
+            return fail(tr("ffmpeg has not accepted an image for %n second(s)", nullptr, hangTimeout / 1000));
     }
     return true;
 }
@@ -32,7 +32,7 @@ bool Encoder::finish()
 {
     m_process.closeWriteChannel();
     if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(hangTimeout))
-        return fail(tr("ffmpeg has not ended for %n second(s)", nullptr, hangTimeout / 1000));
+        return fail(tr("ffmpeg has not ended after %n second(s)", nullptr, hangTimeout / 1000));
     return (m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0) || failWithOutput();
 }
 

@@ -59,16 +59,16 @@ FileNamePattern::FileNamePattern(const QString &pattern)
     while (matches.hasNext() && m_problem.isEmpty()) {
         const QRegularExpressionMatch match = matches.next();
         if (match.capturedLength(3) > 0)
-            m_problem = tr("A brace is missing; placeholders look like {number}.");
+            m_problem = tr("a brace is missing; placeholders look like {number}");
         else if (match.capturedLength(2) > 0)
             m_parts.append({match.captured(2), false, 0});
         else
             addPlaceholder(match.captured(1));
     }
     if (m_problem.isEmpty() && pattern.contains(QLatin1Char('/')))
-        m_problem = tr("The name must not contain \"/\"; choose the folder above.");
+        m_problem = tr("the name must not contain \"/\"; choose the folder above");
     if (m_problem.isEmpty() && pattern.trimmed().isEmpty())
-        m_problem = tr("The name is empty.");
+        m_problem = tr("the name is empty");
 }
 
 void FileNamePattern::addPlaceholder(const QString &text)
@@ -80,7 +80,8 @@ void FileNamePattern::addPlaceholder(const QString &text)
         QStringList names;
         for (const Placeholder &known : placeholders)
             names << QStringLiteral("{%1}").arg(QLatin1String(known.name));
-        m_problem = tr("{%1} is no placeholder; there are %2.").arg(text, names.join(QStringLiteral(", ")));
+        m_problem
+            = tr("{%1} is not a placeholder; use one of %2").arg(text, names.join(QStringLiteral(", ")));
         return;
     }
     constexpr int maxDigits = 9;
@@ -88,7 +89,7 @@ void FileNamePattern::addPlaceholder(const QString &text)
     const int count = digits.isEmpty() ? 1 : digits.toInt(&isNumber);
     const bool mayHaveDigits = !placeholder->text || digits.isEmpty();
     if (!mayHaveDigits || !isNumber || count < 1 || count > maxDigits) {
-        m_problem = tr("{%1} has to be like {number:4}, with 1 to %2 digits.").arg(text).arg(maxDigits);
+        m_problem = tr("{%1} has to be like {number:4}, with 1 to %2 digits").arg(text).arg(maxDigits);
         return;
     }
     m_hasNumber = m_hasNumber || !placeholder->text;

@@ -27,7 +27,8 @@ class FileNamePattern
 public:
     explicit FileNamePattern(const QString &pattern);
 
-    /// Returns why the pattern cannot be used, for people; empty if it can.
+    /// Returns why the pattern cannot be used, for people, as a part of a sentence; empty if it
+    /// can.
     QString problem() const { return m_problem; }
 
     /// Returns the name without extension. A pattern without {number} has the number at its end, from the

@@ -74,8 +74,8 @@ QWidget *FilesPanel::createPlace()
     auto *const group = new QGroupBox(tr("Files"), this);
     m_folder = new QLineEdit(defaultFolder(), group);
     m_folder->setObjectName(QStringLiteral("folder"));
-    m_folder->setToolTip(tr("The folder for pictures and recordings."));
-    auto *const choose = new QPushButton(tr("&Choose…"), group);
+    m_folder->setToolTip(tr("The folder for snapshots and recordings."));
+    auto *const choose = new QPushButton(tr("Ch&oose…"), group);
     choose->setAccessibleName(tr("Choose the folder"));
     m_pattern = new QLineEdit(FileNamePattern::defaultPattern(), group);
     m_pattern->setObjectName(QStringLiteral("pattern"));
@@ -102,11 +102,11 @@ QWidget *FilesPanel::createPlace()
 
 QWidget *FilesPanel::createSnapshot()
 {
-    auto *const group = new QGroupBox(tr("Picture"), this);
+    auto *const group = new QGroupBox(tr("Snapshot"), this);
     m_snapshotFormat = new QComboBox(group);
     makeNarrow(m_snapshotFormat);
     m_snapshotFormat->setObjectName(QStringLiteral("snapshotFormat"));
-    m_snapshotFormat->setAccessibleName(tr("Format of pictures"));
+    m_snapshotFormat->setAccessibleName(tr("Format of snapshots"));
     const struct
     {
         ImageFileFormat format;
@@ -115,7 +115,7 @@ QWidget *FilesPanel::createSnapshot()
         {ImageFileFormat::Tiff, tr("TIFF, measured values")}, {ImageFileFormat::Raw, tr("Raw bytes")}};
     for (const auto &entry : formats)
         m_snapshotFormat->addItem(entry.text, static_cast<int>(entry.format));
-    m_snapshot = new QPushButton(tr("&Save picture"), group);
+    m_snapshot = new QPushButton(tr("&Save snapshot"), group);
     m_snapshot->setObjectName(QStringLiteral("snapshot"));
     m_snapshot->setToolTip(tr(
         "Saves the values of the picture that is shown, with a sidecar that contains the camera's settings. "
@@ -226,7 +226,7 @@ void FilesPanel::toggleRecording()
 void FilesPanel::chooseFolder()
 {
     auto *const dialog
-        = new QFileDialog(window(), tr("Folder for pictures and recordings"), m_folder->text());
+        = new QFileDialog(window(), tr("Folder for snapshots and recordings"), m_folder->text());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
@@ -239,7 +239,8 @@ void FilesPanel::showPreview()
     const FileNamePattern pattern(m_pattern->text());
     const bool isUsable = pattern.problem().isEmpty();
     showMessage(m_preview,
-        isUsable ? tr("For example: %1").arg(pattern.name(exampleValues(), 1)) : pattern.problem(),
+        isUsable ? tr("For example: %1").arg(pattern.name(exampleValues(), 1))
+                 : tr("This name cannot be used: %1.").arg(pattern.problem()),
         isUsable ? "secondary" : "error");
     m_snapshot->setEnabled(isUsable);
     showState();
@@ -283,7 +284,7 @@ void FilesPanel::showProgress()
     const QString losses = RecordingSummary::lossText(progress);
     if (m_recording.isCameraLost())
         showMessage(m_recordingMessage,
-            tr("The camera is gone; the recording goes on when it is back. %1").arg(losses).trimmed(),
+            tr("The camera is lost; the recording goes on when the camera is back. %1").arg(losses).trimmed(),
             "warning");
     else
         showMessage(m_recordingMessage, losses, "warning");

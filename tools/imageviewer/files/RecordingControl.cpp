@@ -22,6 +22,20 @@ std::shared_ptr<RecordingTarget> createTarget(
     return std::make_shared<VideoWriter>(VideoWriter::Options{path, options.format, rate, record}, keeper);
 }
 
+/// Returns true if the counters have begun anew.
+bool isOfAnotherCamera(const CvxCPP::StreamStatistics &now, const CvxCPP::StreamStatistics &before)
+{
+    return now.delivered < before.delivered || now.lost < before.lost || now.underruns < before.underruns;
+}
+
+/// Problems are parts of a sentence, but the texts of cameras are sentences.
+QString withoutFullStop(QString problem)
+{
+    if (problem.endsWith(QLatin1Char('.')))
+        problem.chop(1);
+    return problem;
+}
+
 } // namespace
 
 RecordingControl::RecordingControl(LiveStream &stream, CameraRecordReader &records, QObject *parent)
@@ -71,6 +85,11 @@ void RecordingControl::start(const RecordingOptions &options)
 
 void RecordingControl::prepare(const CameraRecord &record)
 {
+    followCamera(); // The record is also told if the camera was closed meanwhile.
+    if (!m_endProblem.isEmpty()) {
+        report({});
+        return;
+    }
     constexpr double usualRate = 25;
     const double measuredRate = m_stream.statistics().imagesPerSecond;
     const double recordedRate = measuredRate > 0 ? measuredRate : usualRate;
@@ -101,15 +120,17 @@ void RecordingControl::begin(const Prepared &prepared)
     }
     m_prepared = prepared;
     m_result.path = prepared.file->path();
-    m_before = m_stream.totals();
+    m_before = m_counted = m_stream.totals();
     m_sink = std::make_unique<RecordingSink>(*m_prepared.target, m_options.maxImages, m_options.maxSeconds);
+    if (m_state == State::Finishing || !m_endProblem.isEmpty()) { // Stopped, or the camera was closed.
+        finish();
+        return;
+    }
     connect(m_sink.get(), &RecordingSink::complete, this, &RecordingControl::stopIfComplete);
     m_stream.addSink(m_sink.get());
     m_timer.start();
-    if (m_state == State::Finishing) // Somebody has called stop() meanwhile.
-        finish();
-    else
-        setState(State::Recording);
+    setState(State::Recording);
+    followStream(); // It may have failed meanwhile.
 }
 
 void RecordingControl::stop()
@@ -144,7 +165,7 @@ void RecordingControl::finish()
 
 void RecordingControl::report(const QString &problem)
 {
-    m_result.problem = problem.isEmpty() ? m_endProblem : problem;
+    m_result.problem = withoutFullStop(problem.isEmpty() ? m_endProblem : problem);
     if (m_prepared.target)
         takeCounters();
     m_prepared = {};
@@ -154,7 +175,10 @@ void RecordingControl::report(const QString &problem)
 
 void RecordingControl::followStream()
 {
-    if (m_state != State::Recording || m_stream.state() != LiveStream::State::Failed)
+    if (m_state != State::Recording)
+        return;
+    countLosses(); // The counters begin anew with another camera.
+    if (m_stream.state() != LiveStream::State::Failed)
         return;
     m_endProblem = m_stream.problem();
     finish();
@@ -162,17 +186,17 @@ void RecordingControl::followStream()
 
 void RecordingControl::followCamera()
 {
-    const CameraConnection::State state = m_records.connection().state();
-    if (m_state != State::Recording)
+    if (m_state != State::Preparing && m_state != State::Recording)
         return;
+    const CameraConnection::State state = m_records.connection().state();
     if (state == CameraConnection::State::Lost)
         m_result.wasCameraLost = true;
-    else if (state != CameraConnection::State::Open) {
+    else if (state != CameraConnection::State::Open)
         m_endProblem = tr("the camera was closed");
+    if (m_state == State::Recording && !m_endProblem.isEmpty())
         finish();
-        return;
-    }
-    emit progressChanged();
+    else
+        emit progressChanged();
 }
 
 void RecordingControl::countLosses()
@@ -180,8 +204,9 @@ void RecordingControl::countLosses()
     if (!m_sink)
         return;
     const CvxCPP::StreamStatistics now = m_stream.totals();
-    if (now.delivered < m_before.delivered)
-        return; // Another camera is being opened; what was counted last stays.
+    if (isOfAnotherCamera(now, m_counted))
+        return; // What was counted last stays.
+    m_counted = now;
     m_result.progress.lost = now.lost - m_before.lost;
     m_result.progress.underruns = now.underruns - m_before.underruns;
     m_result.progress.reopened = now.reopenCount - m_before.reopenCount;
@@ -238,7 +263,7 @@ void RecordingControl::takeSpace(std::optional<std::uint64_t> spaceLeft, std::ui
     m_result.progress.fileBytes = fileBytes;
     if (m_state != State::Recording || !spaceLeft || *spaceLeft >= m_options.minFreeBytes)
         return;
-    m_result.note = tr("It ended because the limit of free space was reached.");
+    m_result.note = tr("The recording ended because the limit of free space was reached.");
     finish();
 }
 

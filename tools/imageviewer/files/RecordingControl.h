@@ -88,6 +88,7 @@ private:
     RecordingResult m_result;
     QString m_endProblem; // Why the recording has to end, if the target does not know it.
     CvxCPP::StreamStatistics m_before; // When the recording began.
+    CvxCPP::StreamStatistics m_counted; // When losses were counted last.
     Prepared m_prepared;
     std::unique_ptr<RecordingSink> m_sink; // Null unless the state is Recording.
     bool m_isMeasuring = false;

@@ -44,7 +44,7 @@ QString RecordingSummary::text(const RecordingResult &result)
     const QString losses = lossText(progress);
     sentences << (losses.isEmpty() ? tr("No image is missing.") : losses);
     if (result.wasCameraLost)
-        sentences << tr("The camera was gone for a while.");
+        sentences << tr("The camera was lost for a while.");
     if (result.hasFormatChanged && result.problem.isEmpty())
         sentences << tr("The image format changed during the recording; the file describes each image.");
     return sentences.join(QLatin1Char(' '));
@@ -64,8 +64,9 @@ QString RecordingSummary::lossText(const RecordingProgress &progress)
         parts << tr("%n image(s) could not be written", nullptr, pluralCount(progress.unwritten));
     if (progress.incomplete > 0)
         parts << tr("%n recorded image(s) are incomplete", nullptr, pluralCount(progress.incomplete));
-    return parts.isEmpty() ? QString()
-                           : tr("Missing: %1.").arg(parts.join(tr("; ", "between parts of a list")));
+    return parts.isEmpty()
+        ? QString()
+        : tr("Lost or incomplete: %1.").arg(parts.join(tr("; ", "between parts of a list")));
 }
 
 QString RecordingSummary::progressText(const RecordingProgress &progress)

@@ -10,7 +10,7 @@ struct RecordingResult
 {
     QString path; ///< Empty if the file could not be created.
     RecordingProgress progress;
-    QString problem; ///< Why the recording has ended early, for people; empty if nothing failed.
+    QString problem; ///< Why the recording has ended early, as a part of a sentence; empty if nothing failed.
     QString note; ///< Why the recording has ended as it was told to, if that is not obvious.
     bool hasFormatChanged = false;
     bool wasCameraLost = false;

@@ -42,12 +42,12 @@ void SnapshotSaver::save(const std::shared_ptr<const CvxCPP::Image> &image, cons
         return;
     }
     if (const QString problem = FileNamePattern(options.pattern).problem(); !problem.isEmpty()) {
-        emit failed(problem);
+        emit failed(tr("The snapshot was not saved: %1.").arg(problem));
         return;
     }
     const Job job{m_keeper.keep(image), options};
     if (!job.image) {
-        emit failed(tr("The picture was not saved, because earlier ones still wait for the disk."));
+        emit failed(tr("The snapshot was not saved, because earlier ones still wait for the disk."));
         return;
     }
     ++m_pending;
@@ -88,5 +88,5 @@ void SnapshotSaver::report(const Outcome &outcome)
     if (outcome.problem.isEmpty())
         emit saved(outcome.path, outcome.thumbnail);
     else
-        emit failed(tr("The picture was not saved: %1.").arg(outcome.problem));
+        emit failed(tr("The snapshot was not saved: %1.").arg(outcome.problem));
 }

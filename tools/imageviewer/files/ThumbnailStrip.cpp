@@ -32,7 +32,7 @@ QString toolTipOf(const QFileInfo &file)
 ThumbnailStrip::ThumbnailStrip(QWidget *parent) : QListWidget(parent)
 {
     setObjectName(QStringLiteral("thumbnails"));
-    setAccessibleName(tr("Saved pictures"));
+    setAccessibleName(tr("Snapshots"));
     setViewMode(QListView::IconMode);
     setFlow(QListView::LeftToRight);
     setWrapping(false);
@@ -129,7 +129,7 @@ void ThumbnailStrip::askToDelete()
     const QString path = currentPath();
     if (path.isEmpty())
         return;
-    auto *const question = new QMessageBox(QMessageBox::Question, tr("Delete picture"),
+    auto *const question = new QMessageBox(QMessageBox::Question, tr("Delete snapshot"),
         tr("Delete \"%1\" and its sidecar?").arg(QFileInfo(path).fileName()), QMessageBox::NoButton,
         window());
     question->setAttribute(Qt::WA_DeleteOnClose);

@@ -25,7 +25,7 @@ DisplayControls::DisplayControls(QWidget *parent)
       m_gains(new QLabel),
       m_pickGrey(new QPushButton(tr("Pick grey"))),
       m_resetGains(new QPushButton(tr("Reset"))),
-      m_writeGains(new QPushButton(tr("To camera")))
+      m_writeGains(new QPushButton(tr("Write to camera")))
 {
     auto *const layout = new QFormLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -50,10 +50,10 @@ void DisplayControls::addPictureRows(QFormLayout *layout)
     m_micrometres->setSuffix(tr(" µm"));
     m_micrometres->setKeyboardTracking(false);
     m_micrometres->setToolTip(
-        tr("What one pixel shows of the object. Lengths and the scale need this number."));
+        tr("What one pixel shows of the object. Lengths and the scale bar need this number."));
     layout->addRow(m_clipMarks);
     layout->addRow(tr("Demosaicing"), m_demosaicing);
-    layout->addRow(tr("One pixel is"), m_micrometres);
+    layout->addRow(tr("Size of a pixel"), m_micrometres);
     connect(m_demosaicing, qOverload<int>(&QComboBox::currentIndexChanged), this,
         &DisplayControls::changeDemosaicing);
     connect(m_clipMarks, &QCheckBox::toggled, this, &DisplayControls::changeClipMarks);

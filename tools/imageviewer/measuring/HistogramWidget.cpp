@@ -107,7 +107,7 @@ void HistogramWidget::setLogarithmic(bool isLogarithmic)
 QString HistogramWidget::clipText() const
 {
     const auto [dark, bright] = clipShares();
-    return tr("%1 dark, %2 bright").arg(percentText(dark), percentText(bright));
+    return tr("%1 underexposed, %2 overexposed").arg(percentText(dark), percentText(bright));
 }
 
 QString HistogramWidget::pointerText() const
@@ -121,7 +121,7 @@ QString HistogramWidget::pointerText() const
     QStringList counts;
     for (const ComponentHistogram &component : m_histogram->components)
         counts << tr("%1 %2").arg(locale.toString(static_cast<qulonglong>(component.counts[bin])),
-            componentName(component.component).toLower());
+            componentName(component.component));
     const PlotAxis axis{m_histogram->lowest, m_histogram->highest};
     return tr("Value %1\n%2").arg(axis.label(value), counts.join(QStringLiteral(", ")));
 }
@@ -266,9 +266,9 @@ void HistogramWidget::drawTexts(QPainter &painter, const QRectF &area) const
     const QRectF line(area.left(), 0, area.width(), area.top() - sideMargin / 2);
     const auto [dark, bright] = clipShares();
     painter.setPen(QColor(dark > 0 ? warningText : secondaryText));
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, tr("%1 dark").arg(percentText(dark)));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, tr("%1 underexposed").arg(percentText(dark)));
     painter.setPen(QColor(bright > 0 ? warningText : secondaryText));
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("%1 bright").arg(percentText(bright)));
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("%1 overexposed").arg(percentText(bright)));
     if (m_pointer)
         drawPointer(painter, area, *m_pointer, pointerText());
 }

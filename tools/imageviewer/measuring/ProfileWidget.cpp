@@ -96,8 +96,7 @@ QString ProfileWidget::pointerText() const
     const PlotAxis axis = valueAxis(*m_profile);
     QStringList values;
     for (const LineProfile::Curve &curve : m_profile->curves)
-        values << tr("%1 %2").arg(
-            componentName(curve.component).toLower(), axis.label(valueNear(curve, position)));
+        values << tr("%1 %2").arg(componentName(curve.component), axis.label(valueNear(curve, position)));
     return tr("Pixel %1\n%2").arg(QLocale().toString(position, 'f', 0), values.join(QStringLiteral(", ")));
 }
 

@@ -18,7 +18,7 @@ namespace {
 QStringList rowTitles()
 {
     return {StatisticsTable::tr("Component"), StatisticsTable::tr("Minimum"), StatisticsTable::tr("Maximum"),
-        StatisticsTable::tr("Mean"), StatisticsTable::tr("Deviation"), StatisticsTable::tr("Pixels")};
+        StatisticsTable::tr("Mean"), StatisticsTable::tr("Std. deviation"), StatisticsTable::tr("Pixels")};
 }
 
 QString numberText(double number, int decimals, const QLocale &locale)
@@ -46,7 +46,6 @@ QStringList texts(const ComponentStatistics &statistics, const QLocale &locale)
 StatisticsTable::StatisticsTable(QWidget *parent) : QWidget(parent)
 {
     setAccessibleName(tr("Statistics"));
-    setToolTip(tr("The deviation is the standard deviation."));
     auto *const layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(8);

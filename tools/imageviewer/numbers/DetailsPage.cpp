@@ -40,7 +40,7 @@ DetailsPage::DetailsPage(StreamMonitor &monitor, QWidget *parent)
       m_graph(new RateGraph(this)),
       m_advice(createAdvice())
 {
-    auto *const copy = new QPushButton(tr("&Copy as text"), this);
+    auto *const copy = new QPushButton(tr("Copy as te&xt"), this);
     copy->setToolTip(tr("Copies all numbers to the clipboard."));
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_advice);
@@ -64,7 +64,7 @@ QWidget *DetailsPage::createAdvice()
     m_command = new QLineEdit(m_commandBox);
     m_command->setReadOnly(true);
     m_command->setAccessibleName(tr("Command that corrects the cause"));
-    auto *const copy = new QPushButton(tr("Copy c&ommand"), m_commandBox);
+    auto *const copy = new QPushButton(tr("Copy comma&nd"), m_commandBox);
     auto *const commandLayout = new QHBoxLayout(m_commandBox);
     commandLayout->setContentsMargins({});
     commandLayout->addWidget(m_command, 1);

@@ -54,12 +54,6 @@ CvxCPP::CvxTransportLayerType technologyOf(const CameraEntry &entry)
     return type;
 }
 
-/// Returns how much a counter has grown. A counter that is smaller than before has begun anew.
-std::uint64_t growth(std::uint64_t before, std::uint64_t now)
-{
-    return now < before ? now : now - before;
-}
-
 } // namespace
 
 StreamMonitor::StreamMonitor(LiveStream &stream, PictureFeed &feed, FeatureClient &features, QObject *parent)
@@ -103,8 +97,7 @@ void StreamMonitor::followFeatures()
 void StreamMonitor::beginAnew()
 {
     m_figures = StreamFigures();
-    m_shownBefore = m_feed.shownCount();
-    m_skippedBefore = m_feed.skippedCount();
+    m_isReadingResends = false; // The connection does not report the calls of another camera.
     m_history.clear();
     m_lossWindow.clear();
     m_adviser.clear();
@@ -118,8 +111,8 @@ void StreamMonitor::update()
         m_figures.totals.imagesPerSecond = 0;
         m_figures.totals.bytesPerSecond = 0;
     }
-    m_figures.shown = growth(m_shownBefore, m_feed.shownCount());
-    m_figures.skippedForDisplay = growth(m_skippedBefore, m_feed.skippedCount());
+    m_figures.shown = m_feed.shownCount();
+    m_figures.skippedForDisplay = m_feed.skippedCount();
     m_figures.buffers = isRunning ? m_buffers : 0;
     m_figures.usedBuffers = m_bufferWatch.usedBuffers();
     readFeatures();

@@ -49,8 +49,6 @@ private:
     unsigned m_buffers = 0;
     BufferWatch m_bufferWatch;
     StreamFigures m_figures;
-    std::uint64_t m_shownBefore = 0; // By earlier cameras.
-    std::uint64_t m_skippedBefore = 0;
     std::string m_resendCounter; // Name of the feature; empty if the camera has none.
     bool m_isReadingResends = false;
     RateHistory m_history;

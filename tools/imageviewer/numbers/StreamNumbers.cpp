@@ -36,7 +36,7 @@ QVector<NumberRow> StreamNumbers::rows() const
             m_figures.resends ? m_locale.toString(qlonglong(*m_figures.resends)) : notReported(),
             tr("Packets that the camera has sent a second time because they were lost."), false},
         {tr("Continued after a loss"), number(totals.reopenCount),
-            tr("How often the camera was gone and the stream went on when it was back."),
+            tr("How often the camera was lost and the stream went on when it was back."),
             totals.reopenCount > 0},
     };
 }
@@ -55,7 +55,7 @@ QString StreamNumbers::lossText() const
     if (totals.incomplete > 0)
         parts << tr("%1 incomplete").arg(number(totals.incomplete));
     if (totals.underruns > 0)
-        parts << tr("%1 without a buffer").arg(number(totals.underruns));
+        parts << tr("%1 underruns").arg(number(totals.underruns));
     return parts.join(QStringLiteral(", "));
 }
 

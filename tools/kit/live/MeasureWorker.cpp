@@ -37,7 +37,8 @@ void MeasureWorker::take(std::shared_ptr<const CvxCPP::Image> image)
         m_newest.swap(image); // The older image is released after the lock.
         if (m_frozen)
             return;
-        m_hasWork = true;
+        if (std::exchange(m_hasWork, true) && image)
+            return; // The thread knows already.
     }
     m_changed.notify_one();
 }

@@ -35,6 +35,8 @@ void PictureWorker::take(std::shared_ptr<const CvxCPP::Image> image)
             return;
         m_newest.swap(image); // The older image is released after the lock.
         m_skipped += image ? 1 : 0;
+        if (!canUse(sizeOf(*m_newest)))
+            return;
     }
     m_changed.notify_one();
 }
@@ -146,6 +148,18 @@ void PictureWorker::run()
     }
 }
 
+/// Returns true if the thread has something to do for an image of this size. If not, accept() or setRequest()
+/// wakes it later.
+bool PictureWorker::canUse(const QSize &size) const
+{
+    return size == m_request.pictureSize ? canRender() : size != m_reportedSize;
+}
+
+bool PictureWorker::canRender() const
+{
+    return m_isAccepted && !m_request.region.isEmpty() && !m_request.size.isEmpty();
+}
+
 /// Returns the image that is to be rendered now, or null.
 PictureWorker::ImagePointer PictureWorker::nextImage()
 {
@@ -161,7 +175,7 @@ PictureWorker::ImagePointer PictureWorker::nextImage()
         }
         return nullptr;
     }
-    if (!m_isAccepted || m_request.region.isEmpty() || m_request.size.isEmpty())
+    if (!canRender())
         return nullptr;
     if (isNewer) {
         m_present = std::move(m_newest);

@@ -42,6 +42,8 @@ private:
     using ImagePointer = std::shared_ptr<const CvxCPP::Image>;
 
     void run();
+    bool canUse(const QSize &size) const;
+    bool canRender() const;
     ImagePointer nextImage();
     ShownPicture render(const ImagePointer &image, const PictureRequest &request);
 

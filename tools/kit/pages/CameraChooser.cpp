@@ -190,7 +190,7 @@ QString CameraChooser::statusText() const
     if (!m_finder.isComplete())
         return tr("Searching for cameras…");
     if (m_visible->rowCount() == 0 && m_cameras->rowCount() > 0)
-        return tr("No camera matches “%1”.").arg(m_search->text());
+        return tr("No camera matches \"%1\".").arg(m_search->text());
     return tr("Cameras: %1").arg(QLocale().toString(m_visible->rowCount()));
 }
 

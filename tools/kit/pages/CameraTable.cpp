@@ -17,7 +17,7 @@ constexpr ColumnText columnTexts[] = {
     {QT_TRANSLATE_NOOP("CameraTable", "Model"), &CameraEntry::model},
     {QT_TRANSLATE_NOOP("CameraTable", "Serial number"), &CameraEntry::serialNumber},
     {QT_TRANSLATE_NOOP("CameraTable", "Connection"), &CameraEntry::connection},
-    {QT_TRANSLATE_NOOP("CameraTable", "User name"), &CameraEntry::userName},
+    {QT_TRANSLATE_NOOP("CameraTable", "User-defined name"), &CameraEntry::userName},
 };
 
 CameraEntries::const_iterator findCamera(const CameraEntries &cameras, const QString &id)

@@ -42,7 +42,7 @@ NoCameraPage::NoCameraPage(Check check, QWidget *parent)
       m_text(new QLabel(usualText())),
       m_summary(new QLabel),
       m_progress(new QProgressBar),
-      m_again(new QPushButton(tr("&Check again"))),
+      m_again(new QPushButton(tr("Check a&gain"))),
       m_showFine(new QCheckBox(tr("Show what is in order, too"))),
       m_cards(new QVBoxLayout)
 {
@@ -54,7 +54,7 @@ NoCameraPage::NoCameraPage(Check check, QWidget *parent)
 
 QWidget *NoCameraPage::createTop()
 {
-    auto *const title = new QLabel(tr("There is no camera"));
+    auto *const title = new QLabel(tr("No camera found"));
     title->setProperty("role", QStringLiteral("title"));
     m_text->setWordWrap(true);
     m_summary->setWordWrap(true);
@@ -153,8 +153,8 @@ void NoCameraPage::showSummary(const Findings &findings)
 {
     const int problems = int(std::count_if(findings.begin(), findings.end(),
         [](const Finding &finding) { return finding.severity >= Severity::Warning; }));
-    m_summary->setText(problems == 0 ? tr("The checks have found nothing to correct.")
-                                     : tr("Things to correct: %1").arg(QLocale().toString(problems)));
+    m_summary->setText(problems == 0 ? tr("The checks have found no problem.")
+                                     : tr("Problems found: %1").arg(QLocale().toString(problems)));
 }
 
 void NoCameraPage::removeFindings()
