@@ -76,6 +76,8 @@ private slots:
     void lossDropsWhatIsHalfTyped_data();
     void lossDropsWhatIsHalfTyped();
     void messagesGoWhenTheCameraIsBack();
+    void editorMayBeDestroyedWhileAPersonTypes_data();
+    void editorMayBeDestroyedWhileAPersonTypes();
 };
 
 void TestFeatureEditors::typedNumberIsWrittenAndTheCamerasRoundingShown()
@@ -473,6 +475,28 @@ void TestFeatureEditors::messagesGoWhenTheCameraIsBack()
     bench.device().reopen();
     WAIT_FOR(editor->isEditable());
     QCOMPARE(editor->noteText(), QString());
+}
+
+void TestFeatureEditors::editorMayBeDestroyedWhileAPersonTypes_data()
+{
+    lossDropsWhatIsHalfTyped_data();
+}
+
+void TestFeatureEditors::editorMayBeDestroyedWhileAPersonTypes()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, value);
+    EditorBench bench([](TestDevice &device) {
+        addGain(device);
+        device.add("DeviceUserID", std::string("Top"));
+    });
+    auto editor = bench.show(feature);
+    WAIT_FOR(editor->isEditable() && shown(*editor) == value);
+    editor->activateWindow();
+    type(*editor, "5");
+    WAIT_FOR(editor->findChild<QLineEdit *>()->hasFocus());
+    editor.reset();
+    QVERIFY(!bench.client.isWriting(feature));
 }
 
 QTEST_MAIN(TestFeatureEditors)

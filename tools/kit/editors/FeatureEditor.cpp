@@ -73,6 +73,10 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
 
 FeatureEditor::~FeatureEditor()
 {
+    // A line that loses the focus now would report its text, but the derived class is gone.
+    const auto controls = findChildren<QWidget *>();
+    for (const QWidget *const control : controls)
+        control->disconnect(this);
     stopWatching();
 }
 
