@@ -128,6 +128,13 @@ void TestCameraCalls::cameraWithoutFactorsRefuses()
 {
     TestDevice device;
     QVERIFY(!run(device, whiteBalanceCall({1, 1, 1})));
+
+    TestDevice other; // Has ratios, but not for the colours of the display.
+    addChoice(other, "BalanceRatioSelector", {"Y", "U"});
+    addNumber(other, "BalanceRatio", 2.0, 0.25, 8.0);
+    const CvxResult result = run(other, whiteBalanceCall({1.5, 1, 0.5}));
+    QCOMPARE(result.text, std::string("The camera has no white balance ratios."));
+    QVERIFY(other.value("BalanceRatioSelector") == NodeValue(std::string("Y")));
 }
 
 QTEST_APPLESS_MAIN(TestCameraCalls)

@@ -83,6 +83,7 @@ private slots:
     void returnedCameraKeepsThePanel();
     void groupsRememberWhetherTheyAreOpen();
     void savingAUserSetAsksFirst();
+    void questionIsOnlyAboutTheSelectedUserSet();
     void watchedCameraIsReadOnly();
     void regionIsAppliedInAPause();
     void failedRegionIsExplained();
@@ -145,6 +146,21 @@ void TestCameraPanel::savingAUserSetAsksFirst()
     QVERIFY(save->noteText().contains(QStringLiteral("Default")));
     save->acceptQuestion();
     WAIT_FOR(open.bench.device().calls("Execute").size() == 1);
+}
+
+void TestCameraPanel::questionIsOnlyAboutTheSelectedUserSet()
+{
+    OpenPanel open(addRegionAndUserSets);
+    WAIT_FOR(open.isShown("UserSetSave") && open.isShown("UserSetSelector"));
+    FeatureEditor *const save = open.panel.editor(QStringLiteral("UserSetSave"));
+    WAIT_FOR(save->isEditable());
+    save->findChild<QPushButton *>()->click();
+    QVERIFY(!save->noteText().isEmpty());
+    open.bench.device().setByCamera("UserSetSelector", std::string("UserSet1"));
+    WAIT_FOR(save->noteText().isEmpty());
+    save->acceptQuestion();
+    open.bench.waitForCalls();
+    QVERIFY(open.bench.device().calls("Execute").empty());
 }
 
 void TestCameraPanel::watchedCameraIsReadOnly()

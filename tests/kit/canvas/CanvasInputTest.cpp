@@ -15,6 +15,9 @@ private slots:
     void drawnRegionIsThatOfThePicture();
     void drawnLineIsThatOfThePicture();
     void smallerPictureCutsTheShapes();
+    void shapeStaysInsideAPictureThatShrinksMeanwhile_data();
+    void shapeStaysInsideAPictureThatShrinksMeanwhile();
+    void pictureMayGoWhileSomethingIsDrawn();
     void keysChangeTheView();
     void keysChangeTheRegion();
     void draggingPans_data();
@@ -107,6 +110,51 @@ void CanvasInputTest::smallerPictureCutsTheShapes()
     QCOMPARE(canvas.region(), QRect(20, 30, 40, 20)); // The next camera may have a picture of this size.
 }
 
+void CanvasInputTest::shapeStaysInsideAPictureThatShrinksMeanwhile_data()
+{
+    QTest::addColumn<ImageCanvas::Tool>("tool");
+    QTest::addColumn<QPoint>("grabbed"); // A pixel.
+    QTest::newRow("move a region") << ImageCanvas::Tool::Region << QPoint(70, 60);
+    QTest::newRow("resize a region") << ImageCanvas::Tool::Region << QPoint(20, 60);
+    QTest::newRow("move a line") << ImageCanvas::Tool::Line << QPoint(70, 60);
+    QTest::newRow("move an end") << ImageCanvas::Tool::Line << QPoint(20, 30);
+}
+
+void CanvasInputTest::shapeStaysInsideAPictureThatShrinksMeanwhile()
+{
+    QFETCH(ImageCanvas::Tool, tool);
+    QFETCH(QPoint, grabbed);
+    LiveCanvas canvas({400, 400}, randomImage(120, 100));
+    canvas.stopAnswering();
+    canvas.setTool(tool);
+    canvas.setRegion({20, 30, 100, 60});
+    canvas.setLine({20, 30, 120 - 1, 90 - 1});
+    const QPoint place = canvas.placeOf(grabbed);
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, place);
+    canvas.setPictureSize({60, 50});
+    canvas.movePointer(place + QPoint(10, 10), Qt::LeftButton);
+    const QRect picture(0, 0, 60, 50);
+    QVERIFY(picture.contains(canvas.region()) || canvas.region().isEmpty());
+    QVERIFY(canvas.line().isNull()
+        || (picture.contains(canvas.line().p1()) && picture.contains(canvas.line().p2())));
+}
+
+void CanvasInputTest::pictureMayGoWhileSomethingIsDrawn()
+{
+    LiveCanvas canvas({400, 400}, randomImage(120, 100));
+    canvas.stopAnswering();
+    canvas.setTool(ImageCanvas::Tool::Region);
+    canvas.setRegion({20, 30, 90, 60});
+    QSignalSpy finishes(&canvas, &ImageCanvas::drawingFinished);
+    const QPoint corner = canvas.placeOf({20, 30});
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, corner);
+    canvas.clear();
+    canvas.movePointer(corner + QPoint(30, 30), Qt::LeftButton);
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, corner);
+    QCOMPARE(canvas.region(), QRect(20, 30, 90, 60));
+    QCOMPARE(finishes.size(), 0);
+}
+
 void CanvasInputTest::keysChangeTheView()
 {
     LiveCanvas canvas({400, 400}, randomImage(800, 800));
@@ -140,6 +188,13 @@ void CanvasInputTest::keysChangeTheRegion()
     QCOMPARE(canvas.region(), QRect(50, 49, 100, 100));
     QTest::keyClick(&canvas, Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(canvas.region(), QRect(50, 49, 101, 100));
+    QSignalSpy finishes(&canvas, &ImageCanvas::drawingFinished);
+    QTest::keyClick(&canvas, Qt::Key_Return);
+    QTest::keyClick(&canvas, Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(finishes.size(), 2);
+    QTest::keyClick(&canvas, Qt::Key_Delete);
+    QTest::keyClick(&canvas, Qt::Key_Return);
+    QCOMPARE(finishes.size(), 2);
 }
 
 void CanvasInputTest::draggingPans_data()

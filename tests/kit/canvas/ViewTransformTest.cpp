@@ -53,6 +53,7 @@ private slots:
     void visibleRegionIsExact();
     void outputHasThePixelsOfTheScreen_data();
     void outputHasThePixelsOfTheScreen();
+    void thinPicturesStayVisible();
     void emptyViewShowsNothing();
 };
 
@@ -306,6 +307,16 @@ void ViewTransformTest::outputHasThePixelsOfTheScreen()
         view.centerOn({1000, 500});
     }
     QTEST(view.outputSize(view.visibleRegion()), "size");
+}
+
+void ViewTransformTest::thinPicturesStayVisible()
+{
+    for (const QSize &size : {QSize(16384, 1), QSize(16384, 4), QSize(1, 16384), QSize(4, 16384)}) {
+        const ViewTransform view = viewOf(size, {1200, 600});
+        const QRect place = view.toDevice(QRectF(QPointF(), size));
+        QVERIFY(!place.isEmpty() && QRect(0, 0, 1200, 600).contains(place));
+        QVERIFY(!view.outputSize(view.visibleRegion()).isEmpty());
+    }
 }
 
 void ViewTransformTest::emptyViewShowsNothing()

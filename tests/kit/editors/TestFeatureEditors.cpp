@@ -1,6 +1,7 @@
 #include "tests/kit/editors/EditorBench.h"
 #include "tools/kit/editors/CommandButton.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -56,12 +57,15 @@ private slots:
     void textThatIsNoNumberIsRefused();
     void numberGoesToTheNearestAllowedOne_data();
     void numberGoesToTheNearestAllowedOne();
+    void roundingOfASumIsNoRemark();
     void limitsOfTheCameraAreFollowed();
     void failedWriteIsShownUntilTheNextChange();
     void arrowsStepByTheIncrement();
     void sliderWritesWhileItMoves();
+    void sliderKeysReachTheNextValue();
     void automaticFunctionLocksAndUpdates();
     void unavailableEntriesAreGreyed();
+    void openListDoesNotHideAChange();
     void wheelOnlyWorksWithFocus();
     void booleanIsWritten();
     void textIsWrittenAndKeptWhileTyping();
@@ -69,6 +73,11 @@ private slots:
     void commandAsksFirst();
     void hiddenEditorDoesNotRead();
     void lostCameraGreysUntilItIsBack();
+    void lossDropsWhatIsHalfTyped_data();
+    void lossDropsWhatIsHalfTyped();
+    void messagesGoWhenTheCameraIsBack();
+    void editorMayBeDestroyedWhileAPersonTypes_data();
+    void editorMayBeDestroyedWhileAPersonTypes();
 };
 
 void TestFeatureEditors::typedNumberIsWrittenAndTheCamerasRoundingShown()
@@ -106,7 +115,7 @@ void TestFeatureEditors::textThatIsNoNumberIsRefused()
     WAIT_FOR_EQUAL(shown(*editor), "1");
     enter(*editor, "much");
     QCOMPARE(shown(*editor), QStringLiteral("1"));
-    QCOMPARE(editor->noteText(), QStringLiteral("“much” is not a number."));
+    QCOMPARE(editor->noteText(), QStringLiteral("\"much\" is not a number."));
     enter(*editor, "2");
     QCOMPARE(editor->noteText(), QString());
 }
@@ -145,6 +154,19 @@ void TestFeatureEditors::numberGoesToTheNearestAllowedOne()
     bench.device().setByCamera("Width", std::int64_t(100));
     WAIT_FOR_EQUAL(shown(*editor), "100");
     QCOMPARE(editor->noteText(), QString()); // The remark was about another value.
+}
+
+void TestFeatureEditors::roundingOfASumIsNoRemark()
+{
+    EditorBench bench(
+        [](TestDevice &device) { addNumber(device, "Gain", 1.0, 0.0, 10.0).state.increment = 0.1; });
+    const auto editor = bench.show(QStringLiteral("Gain"));
+    WAIT_FOR_EQUAL(shown(*editor), "1");
+    enter(*editor, "0.3"); // Three steps are 0.30000000000000004.
+    QCOMPARE(editor->noteText(), QString());
+    QCOMPARE(shown(*editor), QStringLiteral("0.3"));
+    enter(*editor, "0.34");
+    QVERIFY(!editor->noteText().isEmpty());
 }
 
 void TestFeatureEditors::limitsOfTheCameraAreFollowed()
@@ -213,6 +235,27 @@ void TestFeatureEditors::sliderWritesWhileItMoves()
     QCOMPARE(slider->value(), 167);
 }
 
+void TestFeatureEditors::sliderKeysReachTheNextValue()
+{
+    EditorBench bench([](TestDevice &device) {
+        addNumber(device, "GainRaw", std::int64_t(100), std::int64_t(0), std::int64_t(255))
+            .info.representation
+            = NodeRepresentation::Linear;
+    });
+    const auto editor = bench.show(QStringLiteral("GainRaw"));
+    auto *const slider = editor->findChild<QSlider *>();
+    WAIT_FOR(slider->isVisible());
+    const auto press = [&editor, slider](Qt::Key key) {
+        QTest::keyClick(slider, key);
+        return shown(*editor);
+    };
+    QCOMPARE(press(Qt::Key_Right), QStringLiteral("101"));
+    QCOMPARE(press(Qt::Key_Right), QStringLiteral("102"));
+    QCOMPARE(press(Qt::Key_Left), QStringLiteral("101"));
+    WAIT_FOR(bench.value("GainRaw") == NodeValue(std::int64_t(101)));
+    QCOMPARE(press(Qt::Key_End), QStringLiteral("255"));
+}
+
 void TestFeatureEditors::automaticFunctionLocksAndUpdates()
 {
     EditorBench bench([](TestDevice &device) {
@@ -256,6 +299,23 @@ void TestFeatureEditors::unavailableEntriesAreGreyed()
     WAIT_FOR(bench.value("PixelFormat") == NodeValue(std::string("Mono12")));
     QTest::keyClick(box, Qt::Key_Down);
     QCOMPARE(box->currentText(), QStringLiteral("Mono12 shown"));
+}
+
+void TestFeatureEditors::openListDoesNotHideAChange()
+{
+    EditorBench bench([](TestDevice &device) { addChoice(device, "TriggerMode", {"Off", "On"}); });
+    const auto editor = bench.show(QStringLiteral("TriggerMode"));
+    auto *const box = editor->findChild<QComboBox *>();
+    WAIT_FOR_EQUAL(box->currentText(), "Off shown");
+    box->showPopup();
+    WAIT_FOR(box->view()->isVisible());
+    bench.device().setByCamera("TriggerMode", std::string("On"));
+    WAIT_FOR(bench.client.state(QStringLiteral("TriggerMode"))->value == NodeValue(std::string("On")));
+    QVERIFY(box->view()->isVisible());
+    QTest::keyClick(box->view(), Qt::Key_Escape);
+    WAIT_FOR(!box->view()->isVisible());
+    QCOMPARE(box->currentText(), QStringLiteral("On shown"));
+    QVERIFY(bench.device().writtenValues("TriggerMode").empty());
 }
 
 void TestFeatureEditors::wheelOnlyWorksWithFocus()
@@ -371,6 +431,72 @@ void TestFeatureEditors::lostCameraGreysUntilItIsBack()
     bench.device().reopen();
     WAIT_FOR(editor->isEditable());
     QCOMPARE(shown(*editor), QStringLiteral("2"));
+}
+
+void TestFeatureEditors::lossDropsWhatIsHalfTyped_data()
+{
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("number") << QStringLiteral("Gain") << QStringLiteral("1");
+    QTest::newRow("text") << QStringLiteral("DeviceUserID") << QStringLiteral("Top");
+}
+
+void TestFeatureEditors::lossDropsWhatIsHalfTyped()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, value);
+    EditorBench bench([](TestDevice &device) {
+        addGain(device);
+        device.add("DeviceUserID", std::string("Top"));
+    });
+    const auto editor = bench.show(feature);
+    WAIT_FOR(editor->isEditable() && shown(*editor) == value);
+    editor->activateWindow();
+    auto *const line = editor->findChild<QLineEdit *>();
+    type(*editor, "5");
+    WAIT_FOR(line->hasFocus());
+    bench.device().lose("The cable was unplugged.");
+    WAIT_FOR(!editor->isEditable());
+    QCOMPARE(shown(*editor), value);
+    line->clearFocus();
+    QVERIFY(!bench.client.isWriting(feature));
+    QCOMPARE(editor->noteText(), QString());
+}
+
+void TestFeatureEditors::messagesGoWhenTheCameraIsBack()
+{
+    EditorBench bench(addGain);
+    const auto editor = bench.show(QStringLiteral("Gain"));
+    WAIT_FOR(editor->isEditable());
+    enter(*editor, "much");
+    QVERIFY(!editor->noteText().isEmpty());
+    bench.device().lose("The cable was unplugged.");
+    WAIT_FOR(!editor->isEditable());
+    bench.device().reopen();
+    WAIT_FOR(editor->isEditable());
+    QCOMPARE(editor->noteText(), QString());
+}
+
+void TestFeatureEditors::editorMayBeDestroyedWhileAPersonTypes_data()
+{
+    lossDropsWhatIsHalfTyped_data();
+}
+
+void TestFeatureEditors::editorMayBeDestroyedWhileAPersonTypes()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, value);
+    EditorBench bench([](TestDevice &device) {
+        addGain(device);
+        device.add("DeviceUserID", std::string("Top"));
+    });
+    auto editor = bench.show(feature);
+    WAIT_FOR(editor->isEditable() && shown(*editor) == value);
+    editor->activateWindow();
+    type(*editor, "5");
+    WAIT_FOR(editor->findChild<QLineEdit *>()->hasFocus());
+    editor.reset();
+    QVERIFY(!bench.client.isWriting(feature));
 }
 
 QTEST_MAIN(TestFeatureEditors)

@@ -59,6 +59,8 @@ private slots:
     void discardedChangeIsForgotten();
     void changeThatIsTakenBackNeedsNoAnswer();
     void failureBehindThePauseIsShown();
+    void newerChangeReplacesTheQuestion();
+    void pauseEndsWhenAnotherCameraIsOpened();
     void commandIsOfferedToo();
     void withoutPauserTheFeatureIsLocked();
 };
@@ -77,7 +79,7 @@ void TestStreamLock::everyLockHasItsSentence_data()
     row(LockReason::None, "", "", "");
     row(LockReason::NotImplemented, "", "", "This camera does not have the feature.");
     row(LockReason::NotAvailable, "", "", "Not available at present.");
-    row(LockReason::NotAvailable, "Mode", "", "Not available because of Mode.");
+    row(LockReason::NotAvailable, "Mode", "", "Not available because of the setting of Mode.");
     row(LockReason::NotAvailable, "Mode", "Off", "Not available while Mode is Off.");
     row(LockReason::ReadOnlyNode, "", "", "The camera only reports this value.");
     row(LockReason::Watching, "", "", "The camera is only watched, so nothing can be changed.");
@@ -158,6 +160,37 @@ void TestStreamLock::failureBehindThePauseIsShown()
     QTRY_COMPARE_WITH_TIMEOUT(
         format.editor->noteText(), QStringLiteral("\"PixelFormat\" is out of range."), hangTimeout);
     QCOMPARE(format.box->currentIndex(), 0);
+}
+
+void TestStreamLock::newerChangeReplacesTheQuestion()
+{
+    FormatEditor format;
+    QTRY_VERIFY_WITH_TIMEOUT(format.editor->isEditable(), hangTimeout);
+    format.choose(1);
+    format.bench.device().change(unlock);
+    format.bench.device().notifyNodes({"PixelFormat"});
+    QTRY_VERIFY_WITH_TIMEOUT(
+        format.bench.client.state(QStringLiteral("PixelFormat"))->lockReason == LockReason::None,
+        hangTimeout);
+    format.choose(2);
+    QCOMPARE(format.editor->noteText(), QString());
+    format.editor->acceptQuestion();
+    QCOMPARE(format.pauser.count, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        format.bench.value("PixelFormat") == NodeValue(std::string("RGB8")), hangTimeout);
+}
+
+void TestStreamLock::pauseEndsWhenAnotherCameraIsOpened()
+{
+    FormatEditor format;
+    QTRY_VERIFY_WITH_TIMEOUT(format.editor->isEditable(), hangTimeout);
+    format.choose(1);
+    format.editor->acceptQuestion();
+    const auto other = std::make_shared<OpenableCamera>("CAM-2");
+    addLockedFormat(other->device());
+    format.bench.connection.open(OpenableCamera::entry(other), CvxAccessControl); // Drops the result.
+    QVERIFY(!format.editor->isEditable());
+    QTRY_VERIFY_WITH_TIMEOUT(format.editor->isEditable(), hangTimeout);
 }
 
 void TestStreamLock::commandIsOfferedToo()

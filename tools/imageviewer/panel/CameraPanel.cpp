@@ -74,6 +74,7 @@ CameraPanel::CameraPanel(FeatureClient &client, QWidget *parent)
 
     connect(cameraSetup, &QPushButton::clicked, this, &CameraPanel::openCameraSetupRequested);
     connect(&client, &FeatureClient::nodesLoaded, this, &CameraPanel::onNodesLoaded);
+    connect(&client, &FeatureClient::stateChanged, this, &CameraPanel::onFeatureChanged);
     connect(&client.connection(), &CameraConnection::stateChanged, this, &CameraPanel::showConnection);
     onNodesLoaded();
     showConnection();
@@ -195,11 +196,19 @@ void CameraPanel::onFound(CollapsibleGroup *group, FeatureRow *row, FeatureEdito
         command->setQuestion([this] { return overwriteQuestion(); });
 }
 
+/// Takes the question about a user set back when another one is selected.
+void CameraPanel::onFeatureChanged(const QString &name)
+{
+    FeatureEditor *const save = name == userSetSelectorName() ? editor(userSetSaveName()) : nullptr;
+    if (save)
+        save->rejectQuestion();
+}
+
 QString CameraPanel::overwriteQuestion() const
 {
-    const CvxCPP::NodeState *const selector = m_client.state(QStringLiteral("UserSetSelector"));
+    const CvxCPP::NodeState *const selector = m_client.state(userSetSelectorName());
     const auto *const name = selector ? std::get_if<std::string>(&selector->value) : nullptr;
-    return tr("Saving replaces what is stored in the camera as “%1”.")
+    return tr("Saving replaces what is stored in the camera as \"%1\".")
         .arg(name ? QString::fromStdString(*name) : QString());
 }
 

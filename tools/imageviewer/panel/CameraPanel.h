@@ -67,6 +67,7 @@ private:
     void addGroup(const PanelGroup &layout);
     void addRegionButtons(CollapsibleGroup &group);
     void onFound(CollapsibleGroup *group, FeatureRow *row, FeatureEditor *editor);
+    void onFeatureChanged(const QString &name);
     QString overwriteQuestion() const;
     void showConnection();
     void change(const CameraConnection::Call &call, CameraConnection::Done done);

@@ -38,7 +38,7 @@ void CollapsibleGroup::addWidget(QWidget *widget)
 void CollapsibleGroup::setOpen(bool isOpen)
 {
     m_title->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
-    m_title->setAccessibleDescription(isOpen ? tr("Open group") : tr("Closed group"));
+    m_title->setAccessibleDescription(isOpen ? tr("Expanded group") : tr("Collapsed group"));
     m_content->setVisible(isOpen);
     if (std::exchange(m_isOpen, isOpen) != isOpen)
         emit toggled(isOpen);

@@ -71,7 +71,7 @@ PanelGroup frameRateGroup()
              {QStringLiteral("AcquisitionFrameRateEnable"), QStringLiteral("AcquisitionFrameRateEnabled")}),
             row(PanelText::tr("Frame rate"), withOldNames(QStringLiteral("AcquisitionFrameRate")),
                 Slider::Always),
-            row(PanelText::tr("Possible rate"),
+            row(PanelText::tr("Resulting rate"),
                 {QStringLiteral("ResultingFrameRate"), QStringLiteral("AcquisitionResultingFrameRate"),
                     QStringLiteral("ResultingFrameRateAbs")})},
         true};
@@ -83,7 +83,7 @@ PanelGroup lineRateGroup()
         {row(PanelText::tr("Set the line rate"), {QStringLiteral("AcquisitionLineRateEnable")}),
             row(PanelText::tr("Line rate"), withOldNames(QStringLiteral("AcquisitionLineRate")),
                 Slider::Always),
-            row(PanelText::tr("Possible rate"),
+            row(PanelText::tr("Resulting rate"),
                 {QStringLiteral("ResultingLineRate"), QStringLiteral("ResultingLineRateAbs")})},
         true};
 }
@@ -106,7 +106,7 @@ PanelGroup regionGroup()
 PanelGroup binningGroup()
 {
     return {QStringLiteral("binning"), PanelText::tr("Binning and mirroring"),
-        {selectorRow(PanelText::tr("Binning in"), QStringLiteral("BinningSelector")),
+        {selectorRow(PanelText::tr("Binning location"), QStringLiteral("BinningSelector")),
             row(PanelText::tr("Horizontal binning"), {QStringLiteral("BinningHorizontal")}),
             row(PanelText::tr("Horizontal mode"), {QStringLiteral("BinningHorizontalMode")}),
             row(PanelText::tr("Vertical binning"), {QStringLiteral("BinningVertical")}),
@@ -120,7 +120,7 @@ PanelGroup binningGroup()
 PanelGroup triggerGroup()
 {
     return {QStringLiteral("trigger"), PanelText::tr("Trigger"),
-        {selectorRow(PanelText::tr("Trigger for"), QStringLiteral("TriggerSelector")),
+        {selectorRow(PanelText::tr("Trigger type"), QStringLiteral("TriggerSelector")),
             row(PanelText::tr("Mode"), {QStringLiteral("TriggerMode")}),
             row(PanelText::tr("Source"), {QStringLiteral("TriggerSource")}),
             row(PanelText::tr("Activation"), {QStringLiteral("TriggerActivation")}),
@@ -131,7 +131,7 @@ PanelGroup triggerGroup()
 PanelGroup userSetGroup()
 {
     return {QStringLiteral("userset"), PanelText::tr("User set"),
-        {row(PanelText::tr("User set"), {QStringLiteral("UserSetSelector")}),
+        {row(PanelText::tr("User set"), {userSetSelectorName()}),
             row(PanelText::tr("Load"), {QStringLiteral("UserSetLoad")}),
             row(PanelText::tr("Save"), {userSetSaveName()}),
             row(PanelText::tr("At power-on"),
@@ -143,6 +143,11 @@ PanelGroup userSetGroup()
 QString regionGroupKey()
 {
     return QStringLiteral("region");
+}
+
+QString userSetSelectorName()
+{
+    return QStringLiteral("UserSetSelector");
 }
 
 QString userSetSaveName()

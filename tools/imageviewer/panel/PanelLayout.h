@@ -28,4 +28,5 @@ struct PanelGroup
 QVector<PanelGroup> panelGroups();
 
 QString regionGroupKey(); ///< The key of the group that gets the buttons for drawing.
+QString userSetSelectorName();
 QString userSetSaveName(); ///< The command that overwrites something, so the panel asks first.

@@ -79,6 +79,13 @@ CvxResult writeRatios(Device &device, const std::string &name, bool isInteger, c
     return {};
 }
 
+CvxResult noRatios()
+{
+    return {CvxCPP::CvxErrorNotAvailable,
+        QCoreApplication::translate("WhiteBalanceCall", "The camera has no white balance ratios.")
+            .toStdString()};
+}
+
 CvxResult balance(Device &device, const std::array<double, 3> &gains)
 {
     const std::optional<NodeState> automatic = readFeature(device, automaticName);
@@ -90,12 +97,12 @@ CvxResult balance(Device &device, const std::array<double, 3> &gains)
     const std::optional<NodeState> selector = readFeature(device, selectorName);
     const std::string name = ratioName(device);
     if (!selector || name.empty())
-        return {CvxCPP::CvxErrorNotAvailable,
-            QCoreApplication::translate("WhiteBalanceCall", "The camera has no factors for its colours.")
-                .toStdString()};
+        return noRatios();
     const bool isInteger = name == ratioNames.back();
     const BalanceRatios present = readRatios(device, name);
-    CvxResult result = writeRatios(device, name, isInteger, present, balancedRatios(present, gains));
+    const bool isAny = std::any_of(present.begin(), present.end(), [](const auto &ratio) { return ratio; });
+    CvxResult result
+        = isAny ? writeRatios(device, name, isInteger, present, balancedRatios(present, gains)) : noRatios();
     const CvxResult restored = device.Write(selectorName, selector->value);
     return result ? restored : result;
 }

@@ -22,7 +22,7 @@
 /// Dragging with the middle button or with the space bar pressed moves the picture, whatever the tool is.
 /// Keys: + and - zoom, 0 fits, 1 shows the actual size, arrows move the view, with Shift by half of it. With
 /// the tools Region and Line, Insert draws a shape, Delete removes it, Ctrl with arrows moves it by a pixel,
-/// and Ctrl and Shift with arrows resize it.
+/// Ctrl and Shift with arrows resize it, and Return or Enter finishes it.
 class ImageCanvas : public QWidget
 {
     Q_OBJECT
@@ -106,7 +106,11 @@ signals:
     /// Drawn, moved or removed by a person, or cut because the picture became smaller.
     void regionChanged(const QRect &region);
     void lineChanged(const QLine &line);
-    void drawingFinished(); ///< The mouse button was released after region or line were drawn or moved.
+
+    /// There is a region or a line, and the person is done with it: has released the mouse button after it
+    /// was drawn or moved, or has pressed Return or Enter.
+    void drawingFinished();
+
     void picked(const QPoint &pixel);
 
 protected:
@@ -148,6 +152,8 @@ private:
     Drag dragFor(const QMouseEvent &event) const;
     void panByKey(int key, bool isFar);
     void changeDrawingByKey(int key, bool resizes);
+    void dragDrawing();
+    void finishDrawing();
 
     void paintPicture(QPainter &painter);
     void paintOverlays(QPainter &painter);

@@ -121,9 +121,8 @@ void ImageCanvas::mouseMoveEvent(QMouseEvent *event)
         finishViewChange();
         break;
     case Drag::Draw:
-        drawingTool()->drag(m_view, *m_pointer);
+        dragDrawing();
         reportPointer();
-        reportDrawing();
         break;
     }
 }
@@ -134,7 +133,7 @@ void ImageCanvas::mouseReleaseEvent(QMouseEvent *event)
     const Drag ended = std::exchange(m_drag, Drag::None);
     updateCursor();
     if (ended == Drag::Draw)
-        emit drawingFinished();
+        finishDrawing();
 }
 
 void ImageCanvas::mouseDoubleClickEvent(QMouseEvent *event)
@@ -179,6 +178,11 @@ void ImageCanvas::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Space:
         m_isSpacePressed = true;
         updateCursor();
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        event->setAccepted(drawing && !drawing->isEmpty());
+        finishDrawing();
         return;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
@@ -225,6 +229,21 @@ void ImageCanvas::changeDrawingByKey(int key, bool resizes)
     else
         drawing->moveBy(step, m_view.pictureSize());
     reportDrawing();
+}
+
+void ImageCanvas::dragDrawing()
+{
+    if (m_view.isEmpty())
+        return;
+    drawingTool()->drag(m_view, *m_pointer);
+    cutDrawings(); // The picture may have become smaller since the button was pressed.
+}
+
+void ImageCanvas::finishDrawing()
+{
+    const DrawingTool *const drawing = drawingTool();
+    if (drawing && !drawing->isEmpty() && !m_view.isEmpty())
+        emit drawingFinished();
 }
 
 void ImageCanvas::focusInEvent(QFocusEvent *event)

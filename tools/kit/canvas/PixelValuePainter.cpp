@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 
 namespace {
 
@@ -67,9 +66,9 @@ std::vector<std::string> PixelValuePainter::lines(const RawImage &picture, const
         = rawValues(picture, static_cast<std::uint32_t>(pixel.x()), static_cast<std::uint32_t>(pixel.y()));
     std::vector<std::string> result;
     for (unsigned i = 0; i < values.count; ++i) {
-        std::array<char, 32> text{};
-        std::snprintf(text.data(), text.size(), isFloat ? "%.6g" : "%.0f", values.values[i]);
-        result.emplace_back(text.data());
+        const QString text
+            = isFloat ? QString::number(values.values[i], 'g', 6) : QString::number(values.values[i], 'f', 0);
+        result.push_back(text.toStdString());
     }
     return result;
 }

@@ -36,10 +36,12 @@ double limitedStart(double start, double length, double viewLength)
     return std::clamp(start, covered - length, viewLength - covered);
 }
 
+/// Returns the rectangle with rounded edges; at least one pixel, so that a picture of one line is visible.
 QRect roundedEdges(const QRectF &rect)
 {
     const QPoint corner(qRound(rect.left()), qRound(rect.top()));
-    return {corner, QPoint(qRound(rect.right()) - 1, qRound(rect.bottom()) - 1)};
+    const QSize size(qRound(rect.right()) - corner.x(), qRound(rect.bottom()) - corner.y());
+    return {corner, size.expandedTo({1, 1})};
 }
 
 } // namespace

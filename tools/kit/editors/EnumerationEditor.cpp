@@ -1,6 +1,5 @@
 #include "tools/kit/editors/EnumerationEditor.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QStandardItemModel>
 
@@ -28,8 +27,6 @@ void EnumerationEditor::showState(const CvxCPP::NodeState &state)
         const auto &available = state.availableEntries;
         items->item(row)->setEnabled(std::find(available.begin(), available.end(), name) != available.end());
     }
-    if (m_box->view()->isVisible())
-        return; // The person is choosing.
     const auto *const name = std::get_if<std::string>(&state.value);
     m_box->setCurrentIndex(name ? m_box->findData(QString::fromStdString(*name)) : -1);
 }

@@ -67,12 +67,16 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
     connect(&client, &FeatureClient::stateChanged, this, &FeatureEditor::onStateChanged);
     connect(&client, &FeatureClient::written, this, &FeatureEditor::onWritten);
     connect(&client, &FeatureClient::failed, this, &FeatureEditor::onFailed);
-    connect(&client, &FeatureClient::nodesLoaded, this, &FeatureEditor::refresh);
+    connect(&client, &FeatureClient::nodesLoaded, this, &FeatureEditor::onNodesLoaded);
     connect(&client, &FeatureClient::nodesGone, this, &FeatureEditor::refresh);
 }
 
 FeatureEditor::~FeatureEditor()
 {
+    // A line that loses the focus now would report its text, but the derived class is gone.
+    const auto controls = findChildren<QWidget *>();
+    for (const QWidget *const control : controls)
+        control->disconnect(this);
     stopWatching();
 }
 
@@ -213,8 +217,10 @@ const CvxCPP::NodeState *FeatureEditor::state() const
 void FeatureEditor::refresh()
 {
     const CvxCPP::NodeState *const read = state();
-    if (!read)
+    if (!read) {
         m_action = {};
+        m_isPausing = false; // If another camera is opened, the result never arrives.
+    }
     // The question is about the value that is shown, so this value stays until the answer.
     if (read && !m_action && !m_isPausing && !m_client->isWriting(m_feature))
         showState(*read);
@@ -244,6 +250,12 @@ bool FeatureEditor::eventFilter(QObject *watched, QEvent *event)
         return QWidget::eventFilter(watched, event);
     event->ignore(); // The scroll area gets the event.
     return true;
+}
+
+void FeatureEditor::onNodesLoaded()
+{
+    forgetMessages(); // They were about the camera's loss, or about another camera.
+    refresh();
 }
 
 void FeatureEditor::onStateChanged(const QString &name)
@@ -320,4 +332,5 @@ void FeatureEditor::forgetMessages()
 {
     m_error.clear();
     m_remark.clear();
+    m_action = {};
 }

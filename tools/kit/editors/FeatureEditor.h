@@ -107,6 +107,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void onNodesLoaded();
     void onStateChanged(const QString &name);
     void onWritten(const QString &name);
     void onFailed(const QString &name, const QString &text);

@@ -11,7 +11,8 @@ QString notAvailableText(const QString &lockingFeature, const QString &lockingVa
     if (lockingFeature.isEmpty())
         return QCoreApplication::translate("LockText", "Not available at present.");
     if (lockingValue.isEmpty())
-        return QCoreApplication::translate("LockText", "Not available because of %1.").arg(lockingFeature);
+        return QCoreApplication::translate("LockText", "Not available because of the setting of %1.")
+            .arg(lockingFeature);
     return QCoreApplication::translate("LockText", "Not available while %1 is %2.")
         .arg(lockingFeature, lockingValue);
 }

@@ -85,6 +85,10 @@ void NumberEditor::showState(const CvxCPP::NodeState &state)
 
 void NumberEditor::setEditable(bool isEditable)
 {
+    if (!isEditable) {
+        m_box->endEditing(); // Otherwise the loss of the focus would confirm what is half typed.
+        showValue();
+    }
     m_box->setEnabled(isEditable);
     m_slider->setEnabled(isEditable);
 }
@@ -94,12 +98,12 @@ void NumberEditor::onConfirmed(const QString &text)
     const CvxCPP::NodeValue typed = parse(text);
     if (!hasValue(typed)) {
         refresh();
-        showRemark(tr("“%1” is not a number.").arg(text));
+        showRemark(tr("\"%1\" is not a number.").arg(text));
         return;
     }
     const CvxCPP::NodeValue allowed = nearest(typed);
     change(allowed);
-    if (allowed != typed)
+    if (textOf(allowed) != textOf(typed)) // The numbers may differ by the rounding of a sum.
         showRemark(tr("The nearest value that the camera allows is %1.").arg(textOf(allowed)));
 }
 
@@ -112,8 +116,13 @@ void NumberEditor::onStepped(int steps)
 void NumberEditor::onSliderMoved(int position)
 {
     m_box->endEditing();
-    if (m_scale)
-        change(nearest(fromDouble(m_scale->value(position))));
+    if (!m_scale)
+        return;
+    const CvxCPP::NodeValue moved = nearest(fromDouble(m_scale->value(position)));
+    if (moved != m_value || m_slider->isSliderDown())
+        change(moved);
+    else // A key moves the slider by less than the distance to the next value.
+        change(stepped(m_value, position > m_scale->position(toDouble(m_value)) ? 1 : -1));
 }
 
 void NumberEditor::change(const CvxCPP::NodeValue &value)

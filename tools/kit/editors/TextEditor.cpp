@@ -14,20 +14,22 @@ TextEditor::TextEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, QWid
 
 void TextEditor::showState(const CvxCPP::NodeState &state)
 {
+    const auto *const text = std::get_if<std::string>(&state.value);
+    m_value = text ? QString::fromStdString(*text) : QString();
     if (m_line->isModified())
         return;
     if (state.maxLength > 0)
         m_line->setMaxLength(static_cast<int>(qMin<qint64>(state.maxLength, INT16_MAX)));
-    const auto *const text = std::get_if<std::string>(&state.value);
-    const QString shown = text ? QString::fromStdString(*text) : QString();
-    if (m_line->text() == shown)
+    if (m_line->text() == m_value)
         return;
-    m_line->setText(shown);
+    m_line->setText(m_value);
     m_line->setCursorPosition(0);
 }
 
 void TextEditor::setEditable(bool isEditable)
 {
+    if (!isEditable && m_line->isModified())
+        m_line->setText(m_value); // Otherwise the loss of the focus would submit what is half typed.
     // Read-only instead of disabled, so that a serial number can be copied.
     m_line->setReadOnly(!isEditable);
 }

@@ -22,4 +22,5 @@ private:
     void onEditingFinished();
 
     QLineEdit *m_line;
+    QString m_value; ///< What the camera has.
 };
