@@ -1,11 +1,14 @@
 // Measures the Image Viewer on one camera. Prints one number per line.
 //
 // usage: bench_view CAMERA first                    ms from the window to its first picture
-//        bench_view CAMERA shown FORMAT RATE SECONDS   % of a core of viewer and host, with the picture fitted into
+//        bench_view CAMERA shown FORMAT RATE SECONDS   % of a core of viewer and host, with the picture
+//        fitted into
 //                                                   1200 x 800 pixels; images shown per second; images lost
-//        bench_view CAMERA record FOLDER RATE SECONDS  images lost; images recorded per second; ms that 99.9 % of the
+//        bench_view CAMERA record FOLDER RATE SECONDS  images lost; images recorded per second; ms that 99.9
+//        % of the
 //                                                   events of the GUI thread wait at most
-//        bench_view CAMERA memory                   bytes of both processes while streaming, minus the buffers
+//        bench_view CAMERA memory                   bytes of both processes while streaming, minus the
+//        buffers
 //
 // A RATE of 0 is as fast as the camera can.
 
@@ -37,7 +40,8 @@ void setUp(ViewerUnderTest &viewer, const std::string &format, double rate)
             return result;
         if (const auto result = device.WriteFloat("ExposureTime", shortExposure); !result)
             return result;
-        if (const auto result = device.WriteBoolean("AcquisitionFrameRateEnable", rate > 0); !result || rate == 0)
+        if (const auto result = device.WriteBoolean("AcquisitionFrameRateEnable", rate > 0);
+            !result || rate == 0)
             return result;
         return device.WriteFloat("AcquisitionFrameRate", rate);
     };
@@ -48,13 +52,6 @@ void setUp(ViewerUnderTest &viewer, const std::string &format, double rate)
     });
     ViewerUnderTest::await([&] { return isDone; });
     viewer.awaitNewPicture();
-}
-
-void runFor(double seconds)
-{
-    const auto start = Clock::now();
-    while (microsecondsSince(start) < seconds * 1e6)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
 }
 
 std::uint64_t missing(const CvxCPP::StreamStatistics &statistics)
@@ -71,7 +68,7 @@ void measureShown(ViewerUnderTest &viewer, double seconds)
     const std::uint64_t lostBefore = missing(stream.statistics()), shownBefore = shown();
     const double before = used();
     const auto start = Clock::now();
-    runFor(seconds);
+    ViewerUnderTest::processEvents(static_cast<int>(seconds * 1000));
     const double elapsed = microsecondsSince(start);
     std::printf("%f\n%f\n%llu\n", (used() - before) / elapsed * 100,
         static_cast<double>(shown() - shownBefore) / (elapsed / 1e6),
@@ -92,7 +89,8 @@ public:
     double wait(double share)
     {
         std::sort(m_waits.begin(), m_waits.end());
-        return m_waits.at(static_cast<std::size_t>(std::floor(share * static_cast<double>(m_waits.size() - 1))));
+        return m_waits.at(
+            static_cast<std::size_t>(std::floor(share * static_cast<double>(m_waits.size() - 1))));
     }
 
 private:
@@ -127,17 +125,17 @@ void measureRecording(ViewerUnderTest &viewer, const QString &folder, double sec
     EventProbe probe;
     recording->start(options);
     while (!isFinished)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        ViewerUnderTest::processEvents(10);
     const RecordingProgress &progress = outcome.progress;
     std::printf("%llu\n%f\n%f\n",
-        static_cast<unsigned long long>(progress.lost + progress.underruns + progress.incomplete + progress.skipped
-            + progress.unwritten),
+        static_cast<unsigned long long>(
+            progress.lost + progress.underruns + progress.incomplete + progress.skipped + progress.unwritten),
         static_cast<double>(progress.images) / progress.seconds, probe.wait(0.999));
 }
 
 void measureMemory(ViewerUnderTest &viewer)
 {
-    runFor(5); // Every buffer is used.
+    ViewerUnderTest::processEvents(5000); // Every buffer is used.
     const double buffers
         = static_cast<double>(viewer.canvas().picture().image->GetSize()) * ViewerWindow::streamBuffers;
     std::printf("%f\n", memoryOf("self") + memoryOf(hostProcess()) - buffers);

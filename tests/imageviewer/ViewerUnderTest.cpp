@@ -2,8 +2,9 @@
 
 #include "tools/kit/measure/Measurements.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
 
 ViewerUnderTest::ViewerUnderTest(const QString &camera, const QVariantMap &choices)
     : m_settings(QStringLiteral("ImageViewer"), m_folder.path())
@@ -24,6 +25,14 @@ QAction &ViewerUnderTest::action(const QString &text)
     qFatal("There is no action \"%s\".", qUtf8Printable(text));
 }
 
+void ViewerUnderTest::processEvents(int milliseconds)
+{
+    // QCoreApplication::processEvents() with a time limit does not wait, but keeps a processor busy.
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 void ViewerUnderTest::await(const std::function<bool()> &condition)
 {
     constexpr qint64 hangLimit = 60000; // Milliseconds.
@@ -32,7 +41,7 @@ void ViewerUnderTest::await(const std::function<bool()> &condition)
     while (!condition()) {
         if (clock.hasExpired(hangLimit))
             qFatal("Nothing has happened for a minute.");
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        processEvents(20);
     }
 }
 

@@ -39,6 +39,9 @@ public:
     /// Returns the action with this text, which contains no "&".
     QAction &action(const QString &text);
 
+    /// Processes events for this time.
+    static void processEvents(int milliseconds);
+
     /// Processes events until the condition is true.
     static void await(const std::function<bool()> &condition);
 
