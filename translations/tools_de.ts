@@ -5,34 +5,34 @@
     <name>CameraChooser</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras</translation>
     </message>
     <message>
         <source>Choose a camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera auswählen</translation>
     </message>
     <message>
         <source>Search by name, model, serial number or connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Name, Modell, Seriennummer oder Verbindung suchen</translation>
     </message>
     <message>
         <source>Search cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras suchen</translation>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No camera matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras werden gesucht…</translation>
     </message>
     <message>
         <source>Cameras: %1</source>
+        <translation>Kameras: %1</translation>
+    </message>
+    <message>
+        <source>No camera matches &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -40,228 +40,228 @@
     <name>CameraConnection</name>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist nicht geöffnet.</translation>
     </message>
 </context>
 <context>
     <name>CameraFinder</name>
     <message>
         <source>Corvix X is not installed completely: the program CvxProducerHost is missing or not executable. Install the package again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvix X ist nicht vollständig installiert: Das Programm CvxProducerHost fehlt oder ist nicht ausführbar. Installieren Sie das Paket erneut.</translation>
     </message>
     <message>
         <source>The camera system cannot be started (error %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kamerasystem kann nicht gestartet werden (Fehler %1).</translation>
     </message>
     <message>
         <source>The cameras cannot be listed (error %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kameras können nicht aufgelistet werden (Fehler %1).</translation>
     </message>
 </context>
 <context>
     <name>CameraPanel</name>
     <message>
         <source>All features (Camera Setup)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Features (Camera Setup)</translation>
     </message>
     <message>
         <source>Draw on picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Bild zeichnen</translation>
     </message>
     <message>
         <source>Whole sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzer Sensor</translation>
     </message>
     <message>
         <source>Drag a rectangle over the part of the picture that the camera shall send.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saving replaces what is stored in the camera as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie ein Rechteck über den Teil des Bilds, den die Kamera senden soll.</translation>
     </message>
     <message>
         <source>You are watching this camera, so nothing can be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie beobachten diese Kamera nur, deshalb sind hier keine Änderungen möglich.</translation>
     </message>
     <message>
         <source>Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Belichtung</translation>
     </message>
     <message>
         <source>Exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>Belichtungszeit</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatik</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstärkung</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal</translation>
     </message>
     <message>
         <source>Black level and gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzwert und Gamma</translation>
     </message>
     <message>
         <source>Black level</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzwert</translation>
     </message>
     <message>
         <source>Apply gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma anwenden</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma</translation>
     </message>
     <message>
         <source>White balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißabgleich</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktor</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildrate</translation>
     </message>
     <message>
         <source>Set the frame rate</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Possible rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildrate vorgeben</translation>
     </message>
     <message>
         <source>Line scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenkamera</translation>
     </message>
     <message>
         <source>Set the line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenrate vorgeben</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenrate</translation>
     </message>
     <message>
         <source>Pixel format</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelformat</translation>
     </message>
     <message>
         <source>Region of interest</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildausschnitt (ROI)</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>Offset X</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset X</translation>
     </message>
     <message>
         <source>Offset Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset Y</translation>
     </message>
     <message>
         <source>Binning and mirroring</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Binning in</source>
-        <translation type="unfinished"></translation>
+        <translation>Binning und Spiegelung</translation>
     </message>
     <message>
         <source>Horizontal binning</source>
-        <translation type="unfinished"></translation>
+        <translation>Binning horizontal</translation>
     </message>
     <message>
         <source>Horizontal mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus horizontal</translation>
     </message>
     <message>
         <source>Vertical binning</source>
-        <translation type="unfinished"></translation>
+        <translation>Binning vertikal</translation>
     </message>
     <message>
         <source>Vertical mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus vertikal</translation>
     </message>
     <message>
         <source>Horizontal decimation</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimierung horizontal</translation>
     </message>
     <message>
         <source>Vertical decimation</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimierung vertikal</translation>
     </message>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal spiegeln</translation>
     </message>
     <message>
         <source>Trigger</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Trigger for</source>
-        <translation type="unfinished"></translation>
+        <translation>Trigger</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Activation</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivierung</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>Trigger now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt auslösen</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>At power-on</source>
+        <translation>Beim Einschalten</translation>
+    </message>
+    <message>
+        <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resulting rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Binning location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trigger type</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -269,33 +269,33 @@
     <name>CameraTable</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriennummer</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung</translation>
     </message>
     <message>
-        <source>User name</source>
+        <source>User-defined name</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
-        <source>Open group</source>
+        <source>Expanded group</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Closed group</source>
+        <source>Collapsed group</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -303,45 +303,41 @@
     <name>CommandButton</name>
     <message>
         <source>%1 …</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 …</translation>
     </message>
 </context>
 <context>
     <name>ConnectionBar</name>
     <message>
         <source>&amp;Watch only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur b&amp;eobachten</translation>
     </message>
     <message>
         <source>&amp;Other camera…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is in use. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Ka&amp;mera…</translation>
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden. %2</translation>
     </message>
     <message>
         <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird beobachtet: Änderungen der Einstellungen durch ein anderes Programm werden angezeigt. Bilder empfängt nur jenes Programm.</translation>
     </message>
     <message>
         <source>&amp;Take control</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera &amp;steuern</translation>
     </message>
     <message>
         <source>&amp;Try again</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, without changing them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 Lost at %2; it continues by itself when the camera is back.</source>
+        <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -349,29 +345,29 @@
     <name>ContrastHandle</name>
     <message>
         <source>%1: drag it, or use the arrow keys. A double click resets it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: mit der Maus ziehen oder mit den Pfeiltasten verschieben. Ein Doppelklick setzt den Wert zurück.</translation>
     </message>
 </context>
 <context>
     <name>DetailsPage</name>
     <message>
         <source>Numbers of the stream</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennzahlen des Streams</translation>
     </message>
     <message>
         <source>Copies all numbers to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert alle Kennzahlen in die Zwischenablage.</translation>
     </message>
     <message>
         <source>Command that corrects the cause</source>
+        <translation>Befehl, der die Ursache behebt</translation>
+    </message>
+    <message>
+        <source>Copy as te&amp;xt</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copy c&amp;ommand</source>
+        <source>Copy comma&amp;nd</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -379,78 +375,78 @@
     <name>DisplayControls</name>
     <message>
         <source>Mark clipped pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Clipping markieren</translation>
     </message>
     <message>
         <source>Pick grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau wählen</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>To camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>Fast (bilinear)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell (bilinear)</translation>
     </message>
     <message>
         <source>Fine (along edges)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fein (kantengeführt)</translation>
     </message>
     <message>
         <source>How the missing colours of a Bayer picture are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfahren, mit dem die fehlenden Farbwerte eines Bayer-Bilds berechnet werden.</translation>
     </message>
     <message>
         <source>Shows overexposed pixels in red and underexposed ones in blue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt überbelichtete Pixel rot und unterbelichtete blau an.</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source> µm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What one pixel shows of the object. Lengths and the scale need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation> µm</translation>
     </message>
     <message>
         <source>Demosaicing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One pixel is</source>
-        <translation type="unfinished"></translation>
+        <translation>Demosaicing</translation>
     </message>
     <message>
         <source>Click on something grey in the picture. Its surroundings become grey on the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie im Bild auf etwas Graues. Dessen Umgebung wird auf dem Bildschirm grau.</translation>
     </message>
     <message>
         <source>Reset the white balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißabgleich zurücksetzen</translation>
     </message>
     <message>
         <source>Multiplies the white balance of the camera by these factors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Multipliziert den Weißabgleich der Kamera mit diesen Faktoren.</translation>
     </message>
     <message>
         <source>White balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißabgleich</translation>
     </message>
     <message>
         <source>R %1 G %2 B %3</source>
-        <translation type="unfinished"></translation>
+        <translation>R %1 G %2 B %3</translation>
     </message>
     <message>
         <source>The factors of red, green and blue on the screen.</source>
+        <translation>Faktoren für Rot, Grün und Blau auf dem Bildschirm.</translation>
+    </message>
+    <message>
+        <source>Write to camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of a pixel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -458,105 +454,105 @@
     <name>Encoder</name>
     <message>
         <source>ffmpeg cannot be started: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>ffmpeg has not taken a picture for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>ffmpeg has not ended for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+        <translation>ffmpeg kann nicht gestartet werden: %1</translation>
     </message>
     <message>
         <source>ffmpeg has failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg ist fehlgeschlagen: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>ffmpeg has not accepted an image for %n second(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>ffmpeg has not ended after %n second(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>FeatureEditor</name>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>ein</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Änderung muss der Stream kurz angehalten werden.</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten und setzen</translation>
     </message>
 </context>
 <context>
     <name>FeatureNote</name>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
 </context>
 <context>
     <name>FileNamePattern</name>
     <message>
         <source>name or model of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Name oder Modell der Kamera</translation>
     </message>
     <message>
         <source>serial number of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriennummer der Kamera</translation>
     </message>
     <message>
         <source>date of the image, for example 2026-01-31</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum des Bilds, zum Beispiel 2026-01-31</translation>
     </message>
     <message>
         <source>time of the image, for example 23-59-59</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhrzeit des Bilds, zum Beispiel 23-59-59</translation>
     </message>
     <message>
         <source>next free number; {number:4} has at least four digits</source>
-        <translation type="unfinished"></translation>
+        <translation>nächste freie Nummer; {number:4} hat mindestens vier Stellen</translation>
     </message>
     <message>
         <source>frame ID of the image</source>
-        <translation type="unfinished"></translation>
+        <translation>Frame-ID des Bilds</translation>
     </message>
     <message>
         <source>pixel format of the image, for example Mono8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A brace is missing; placeholders look like {number}.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The name must not contain &quot;/&quot;; choose the folder above.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The name is empty.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{%1} is no placeholder; there are %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{%1} has to be like {number:4}, with 1 to %2 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelformat des Bilds, zum Beispiel Mono8</translation>
     </message>
     <message>
         <source>The name may contain these placeholders:</source>
+        <translation>Der Name darf diese Platzhalter enthalten:</translation>
+    </message>
+    <message>
+        <source>a brace is missing; placeholders look like {number}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name must not contain &quot;/&quot;; choose the folder above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{%1} is not a placeholder; use one of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -564,154 +560,158 @@
     <name>FilesPanel</name>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The folder for pictures and recordings.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Choose the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner auswählen</translation>
     </message>
     <message>
         <source>Fol&amp;der</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner</translation>
     </message>
     <message>
         <source>File &amp;name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Format of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei&amp;name</translation>
     </message>
     <message>
         <source>PNG, 16 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, 16 Bit</translation>
     </message>
     <message>
         <source>PNG, 8 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, 8 Bit</translation>
     </message>
     <message>
         <source>TIFF, measured values</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF, Messwerte</translation>
     </message>
     <message>
         <source>Raw bytes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Save picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohdaten</translation>
     </message>
     <message>
         <source>Saves the values of the picture that is shown, with a sidecar that contains the camera&apos;s settings. Contrast, white balance and marks of the display are not part of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert die Werte des angezeigten Bilds, dazu eine Begleitdatei mit den Einstellungen der Kamera. Kontrast, Weißabgleich und Markierungen der Anzeige werden nicht gespeichert.</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung</translation>
     </message>
     <message>
         <source>Format of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Format der Aufzeichnungen</translation>
     </message>
     <message>
         <source>BigTIFF, measured values</source>
-        <translation type="unfinished"></translation>
+        <translation>BigTIFF, Messwerte</translation>
     </message>
     <message>
         <source>Raw bytes with an index</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohdaten mit Index</translation>
     </message>
     <message>
         <source>Video, 8 bits, H.264 (MP4)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video, 8 Bit, H.264 (MP4)</translation>
     </message>
     <message>
         <source>Video, 8 bits, lossless (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video, 8 Bit, verlustfrei (MKV)</translation>
     </message>
     <message>
         <source>Stop after</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppen nach</translation>
     </message>
     <message>
         <source> images</source>
-        <translation type="unfinished"></translation>
+        <translation> Bilder</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Keep free</source>
-        <translation type="unfinished"></translation>
+        <translation>Frei lassen</translation>
     </message>
     <message>
         <source> GB</source>
-        <translation type="unfinished"></translation>
+        <translation> GB</translation>
     </message>
     <message>
         <source>Stops the recording before less space than this is left on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppt die Aufzeichnung, bevor weniger als dieser Speicherplatz auf dem Datenträger frei ist.</translation>
     </message>
     <message>
         <source>Play at</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen mit</translation>
     </message>
     <message>
         <source> images/s</source>
-        <translation type="unfinished"></translation>
+        <translation> Bilder/s</translation>
     </message>
     <message>
         <source>Images per second when the video is played. Otherwise, it plays as fast as it was recorded.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Folder for pictures and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder pro Sekunde beim Abspielen des Videos. Ohne diese Angabe läuft es so schnell ab, wie es aufgezeichnet wurde.</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>Videos need the program ffmpeg, which is not installed. Install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos benötigen das Programm ffmpeg, das nicht installiert ist. Installieren Sie es mit: %1</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ufzeichnen</translation>
     </message>
     <message>
         <source>S&amp;top recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung s&amp;toppen</translation>
     </message>
     <message>
         <source>Writing…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera is gone; the recording goes on when it is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geschrieben…</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
+        <translation>Gespeichert als „%1“.</translation>
+    </message>
+    <message>
+        <source>The folder for snapshots and recordings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ch&amp;oose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format of snapshots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for snapshots and recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name cannot be used: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is lost; the recording goes on when the camera is back. %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -719,82 +719,83 @@
     <name>FindingCard</name>
     <message>
         <source>In order</source>
-        <translation type="unfinished"></translation>
+        <translation>In Ordnung</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copies the command, which you can paste into a terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert den Befehl, um ihn in ein Terminal einzufügen.</translation>
     </message>
 </context>
 <context>
     <name>HistogramWidget</name>
     <message>
         <source>&lt; %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; %1 %</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Black point</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzpunkt</translation>
     </message>
     <message>
         <source>White point</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißpunkt</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma</translation>
     </message>
     <message>
         <source>Histogram</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 dark, %2 bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Histogramm</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Value %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert %1
+%2</translation>
     </message>
     <message>
         <source>There is no picture.</source>
+        <translation>Es ist kein Bild vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 underexposed, %2 overexposed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 dark</source>
+        <source>%1 underexposed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 bright</source>
+        <source>%1 overexposed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -802,91 +803,91 @@
     <name>ImageCanvas</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>No picture yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Bild</translation>
     </message>
     <message>
         <source>%1 by %2 pixels, shown at %3 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mal %2 Pixel, angezeigt mit %3 %</translation>
     </message>
 </context>
 <context>
     <name>LengthText</name>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
 </context>
 <context>
     <name>LiveStream</name>
     <message>
         <source>The stream of the camera has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stream der Kamera wurde beendet.</translation>
     </message>
 </context>
 <context>
     <name>LockText</name>
     <message>
         <source>Not available at present.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not available because of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Derzeit nicht verfügbar.</translation>
     </message>
     <message>
         <source>Not available while %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar, solange %1 auf %2 steht.</translation>
     </message>
     <message>
         <source>Locked by the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Kamera gesperrt.</translation>
     </message>
     <message>
         <source>Controlled by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird von %1 gesteuert.</translation>
     </message>
     <message>
         <source>Locked while %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt, solange %1 auf %2 steht.</translation>
     </message>
     <message>
         <source>This camera does not have the feature.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera hat das Feature nicht.</translation>
     </message>
     <message>
         <source>The camera only reports this value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera meldet diesen Wert nur; er kann nicht gesetzt werden.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
     </message>
     <message>
         <source>Locked while the camera streams.</source>
+        <translation>Gesperrt, solange der Stream der Kamera läuft.</translation>
+    </message>
+    <message>
+        <source>Not available because of the setting of %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -894,35 +895,35 @@
     <name>LossAdvice</name>
     <message>
         <source>Packets are lost between camera and computer: check cable and switch, or reduce the frame rate or the region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen Kamera und Rechner gehen Pakete verloren: Prüfen Sie Kabel und Switch, oder verringern Sie die Bildrate oder den Bildausschnitt.</translation>
     </message>
     <message>
         <source>Transfers are lost between camera and computer: check the cable, connect the camera without a hub, or reduce the frame rate or the region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen Kamera und Rechner gehen Übertragungen verloren: Prüfen Sie das Kabel, schließen Sie die Kamera ohne Hub an, oder verringern Sie die Bildrate oder den Bildausschnitt.</translation>
     </message>
     <message>
         <source>The connection or the computer is too slow: reduce the frame rate or the region, or close other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung oder der Rechner ist zu langsam: Verringern Sie die Bildrate oder den Bildausschnitt, oder schließen Sie andere Programme.</translation>
     </message>
     <message numerus="yes">
         <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Für %n Bild war kein Puffer frei. Dieser Rechner ist derzeit zu langsam: Schließen Sie andere Programme, zeichnen Sie auf einen schnelleren Datenträger auf, oder verringern Sie die Bildrate oder den Bildausschnitt.</numerusform>
+            <numerusform>Für %n Bilder war kein Puffer frei. Dieser Rechner ist derzeit zu langsam: Schließen Sie andere Programme, zeichnen Sie auf einen schnelleren Datenträger auf, oder verringern Sie die Bildrate oder den Bildausschnitt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were lost or damaged in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>In den letzten Sekunden ging %n Bild verloren oder wurde beschädigt.</numerusform>
+            <numerusform>In den letzten Sekunden gingen %n Bilder verloren oder wurden beschädigt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were incomplete in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>In den letzten Sekunden war %n Bild unvollständig.</numerusform>
+            <numerusform>In den letzten Sekunden waren %n Bilder unvollständig.</numerusform>
         </translation>
     </message>
 </context>
@@ -930,187 +931,187 @@
     <name>MeasuredComponent</name>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>Alpha</translation>
     </message>
     <message>
         <source>Luma</source>
-        <translation type="unfinished"></translation>
+        <translation>Luma</translation>
     </message>
     <message>
         <source>Cb</source>
-        <translation type="unfinished"></translation>
+        <translation>Cb</translation>
     </message>
     <message>
         <source>Cr</source>
-        <translation type="unfinished"></translation>
+        <translation>Cr</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite</translation>
     </message>
     <message>
         <source>Third</source>
-        <translation type="unfinished"></translation>
+        <translation>Dritte</translation>
     </message>
     <message>
         <source>Fourth</source>
-        <translation type="unfinished"></translation>
+        <translation>Vierte</translation>
     </message>
 </context>
 <context>
     <name>MeasuringPanel</name>
     <message>
         <source>The picture has no colours to balance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hat keine Farben, die sich abgleichen lassen.</translation>
     </message>
     <message>
         <source>This place is too dark for a white balance. Pick a brighter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Stelle ist zu dunkel für einen Weißabgleich. Wählen Sie eine hellere.</translation>
     </message>
     <message>
         <source>This place is overexposed. Pick a darker one, or reduce the exposure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Stelle ist überbelichtet. Wählen Sie eine dunklere, oder verringern Sie die Belichtung.</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Log</translation>
     </message>
     <message>
         <source>Whole picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes Bild</translation>
     </message>
     <message>
         <source>Drawn region</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener Bereich</translation>
     </message>
     <message>
         <source>Measured area</source>
-        <translation type="unfinished"></translation>
+        <translation>Messbereich</translation>
     </message>
     <message>
         <source>Where histogram and statistics are measured. Draw a region in the picture to measure it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich, in dem Histogramm und Statistik gemessen werden. Zeichnen Sie einen Bereich ins Bild, um ihn zu messen.</translation>
     </message>
     <message>
         <source>Shows the histogram logarithmically, so that rare values can be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt das Histogramm logarithmisch, damit auch seltene Werte sichtbar sind.</translation>
     </message>
     <message>
         <source>Fit contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast spreizen</translation>
     </message>
     <message>
         <source>Spreads the values of the picture from black to white. Only the display changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spreizt die Werte des Bilds von Schwarz bis Weiß. Nur die Anzeige ändert sich.</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>Reset the contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast zurücksetzen</translation>
     </message>
     <message>
         <source>Histogram</source>
-        <translation type="unfinished"></translation>
+        <translation>Histogramm</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copies the statistics to the clipboard, for a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die Statistik als Tabelle in die Zwischenablage.</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>The pixel format is not known, so bytes are measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Pixelformat ist unbekannt, deshalb werden Bytes gemessen.</translation>
     </message>
 </context>
 <context>
     <name>NoCameraPage</name>
     <message>
         <source>Connect a camera and switch it on. It appears here by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Check again</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen Sie eine Kamera an und schalten Sie sie ein. Sie erscheint hier automatisch.</translation>
     </message>
     <message>
         <source>Show what is in order, too</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch zeigen, was in Ordnung ist</translation>
     </message>
     <message>
         <source>The checks are running</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Prüfungen laufen</translation>
     </message>
     <message>
         <source>Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>Befunde</translation>
     </message>
     <message>
         <source>Checking producers, network, GigE and USB. This takes some seconds.</source>
+        <translation>Producer, Netzwerk, GigE und USB werden geprüft. Das dauert einige Sekunden.</translation>
+    </message>
+    <message>
+        <source>Check a&amp;gain</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The checks have found nothing to correct.</source>
+        <source>No camera found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Things to correct: %1</source>
+        <source>The checks have found no problem.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems found: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>NumberEditor</name>
     <message>
-        <source>“%1” is not a number.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The nearest value that the camera allows is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der nächstliegende Wert, den die Kamera zulässt, ist %1.</translation>
     </message>
     <message>
         <source>%1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 %3</translation>
     </message>
     <message>
         <source>%1, in steps of %2</source>
+        <translation>%1, in Schritten von %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1118,103 +1119,104 @@
     <name>PictureReadout</name>
     <message>
         <source>x %1, y %2</source>
-        <translation type="unfinished"></translation>
+        <translation>x %1, y %2</translation>
     </message>
     <message>
         <source>raw %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohwert %1</translation>
     </message>
     <message>
         <source>shown %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige %1</translation>
     </message>
 </context>
 <context>
     <name>ProfileBox</name>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Drawn line</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Linie</translation>
     </message>
     <message>
         <source>Line of the profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie des Profils</translation>
     </message>
     <message>
         <source>Row and column are those of the pointer in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile und Spalte folgen dem Mauszeiger im Bild.</translation>
     </message>
     <message>
         <source>Line profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienprofil</translation>
     </message>
 </context>
 <context>
     <name>ProfileWidget</name>
     <message>
         <source>Line profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienprofil</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Pixel %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel %1
+%2</translation>
     </message>
     <message>
         <source>There is no line to measure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Linie zum Messen vorhanden.</translation>
     </message>
 </context>
 <context>
     <name>RateGraph</name>
     <message>
         <source>Images per second and losses of the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder pro Sekunde und Verluste der letzten Minute</translation>
     </message>
     <message>
         <source>60 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>vor 60 s</translation>
     </message>
     <message>
         <source>30 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>vor 30 s</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished"></translation>
+        <translation>jetzt</translation>
     </message>
     <message>
         <source>Images/s</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder/s</translation>
     </message>
     <message>
         <source>Lost or incomplete/s</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren oder unvollständig/s</translation>
     </message>
 </context>
 <context>
     <name>RecordingControl</name>
     <message>
         <source>no pictures arrive; start the live picture first</source>
-        <translation type="unfinished"></translation>
+        <translation>es kommen keine Bilder an; starten Sie zuerst das Livebild</translation>
     </message>
     <message>
         <source>the camera was closed</source>
-        <translation type="unfinished"></translation>
+        <translation>die Kamera wurde geschlossen</translation>
     </message>
     <message>
-        <source>It ended because the limit of free space was reached.</source>
+        <source>The recording ended because the limit of free space was reached.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1222,133 +1224,133 @@
     <name>RecordingSummary</name>
     <message>
         <source>The recording did not begin: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung wurde nicht gestartet: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) recorded in %1 to &quot;%2&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild in %1 in „%2“ aufgezeichnet.</numerusform>
+            <numerusform>%n Bilder in %1 in „%2“ aufgezeichnet.</numerusform>
         </translation>
     </message>
     <message>
         <source>The recording ended early: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung endete vorzeitig: %1.</translation>
     </message>
     <message>
         <source>No image is missing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera was gone for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt kein Bild.</translation>
     </message>
     <message>
         <source>The image format changed during the recording; the file describes each image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bildformat hat sich während der Aufzeichnung geändert; die Datei beschreibt jedes Bild.</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) never arrived from the camera</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild kam nicht von der Kamera an</numerusform>
+            <numerusform>%n Bilder kamen nicht von der Kamera an</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) found no free buffer</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild fand keinen freien Puffer</numerusform>
+            <numerusform>%n Bilder fanden keinen freien Puffer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be kept because the disk or the encoder is too slow</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild konnte nicht übernommen werden, weil Datenträger oder Encoder zu langsam sind</numerusform>
+            <numerusform>%n Bilder konnten nicht übernommen werden, weil Datenträger oder Encoder zu langsam sind</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild konnte nicht geschrieben werden</numerusform>
+            <numerusform>%n Bilder konnten nicht geschrieben werden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n recorded image(s) are incomplete</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n aufgezeichnetes Bild ist unvollständig</numerusform>
+            <numerusform>%n aufgezeichnete Bilder sind unvollständig</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>; </source>
         <comment>between parts of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>; </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 left</source>
         <comment>disk space</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 frei</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) waiting</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild wartet</numerusform>
+            <numerusform>%n Bilder warten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The camera was lost for a while.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost or incomplete: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>RegionCall</name>
     <message>
         <source>The camera does not report its region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera meldet ihren Bildausschnitt nicht.</translation>
     </message>
     <message>
         <source>The camera&apos;s region has changed since it was drawn. Draw it again on the present picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildausschnitt der Kamera hat sich seit dem Zeichnen geändert. Zeichnen Sie den Bereich im aktuellen Bild neu.</translation>
     </message>
 </context>
 <context>
     <name>ShortcutPage</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>What they do</source>
-        <translation type="unfinished"></translation>
+        <translation>Funktion</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSaver</name>
     <message>
         <source>There is no picture to save yet.</source>
+        <translation>Es gibt noch kein Bild zum Speichern.</translation>
+    </message>
+    <message>
+        <source>The snapshot was not saved: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The picture was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture was not saved: %1.</source>
+        <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1356,34 +1358,30 @@
     <name>StatisticsTable</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>Komponente</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwert</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik</translation>
     </message>
     <message>
-        <source>The deviation is the standard deviation.</source>
+        <source>Std. deviation</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1391,184 +1389,184 @@
     <name>StatusNumbers</name>
     <message>
         <source>Images per second and image data per second that arrive from the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder pro Sekunde und Bilddaten pro Sekunde, die von der Kamera ankommen.</translation>
     </message>
     <message>
         <source>Buffers that hold an image which is shown, measured or recorded. If all of them are in use, images are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puffer mit einem Bild, das angezeigt, gemessen oder aufgezeichnet wird. Sind alle belegt, gehen Bilder verloren.</translation>
     </message>
     <message>
         <source>Buffers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puffer: %1</translation>
     </message>
     <message>
         <source>No losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Verluste</translation>
     </message>
     <message>
         <source>What was lost since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verluste seit dem Öffnen der Kamera.</translation>
     </message>
 </context>
 <context>
     <name>StreamNumbers</name>
     <message>
         <source>Delivered</source>
-        <translation type="unfinished"></translation>
+        <translation>Geliefert</translation>
     </message>
     <message>
         <source>Images that arrived from the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die von der Kamera angekommen sind.</translation>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigt</translation>
     </message>
     <message>
         <source>Images that were drawn in the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die im Fenster dargestellt wurden.</translation>
     </message>
     <message>
         <source>Skipped for display</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Anzeige übersprungen</translation>
     </message>
     <message>
         <source>Images that were not drawn because the screen is slower than the camera. They are not lost: recordings contain them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die nicht dargestellt wurden, weil der Bildschirm langsamer ist als die Kamera. Sie sind nicht verloren: Aufzeichnungen enthalten sie.</translation>
     </message>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>Unvollständig</translation>
     </message>
     <message>
         <source>Delivered images with missing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelieferte Bilder mit fehlenden Daten.</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren</translation>
     </message>
     <message>
         <source>Images that never arrived, by gaps in the frame IDs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die nie ankamen, laut Lücken in den Frame-IDs.</translation>
     </message>
     <message>
         <source>Underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>Pufferunterläufe</translation>
     </message>
     <message>
         <source>Images that were lost because no buffer was free: this computer was too slow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die verloren gingen, weil kein Puffer frei war: Dieser Rechner war zu langsam.</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildrate</translation>
     </message>
     <message>
         <source>Images per second during the last second.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder pro Sekunde in der letzten Sekunde.</translation>
     </message>
     <message>
         <source>Data rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenrate</translation>
     </message>
     <message>
         <source>Image data per second during the last second.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddaten pro Sekunde in der letzten Sekunde.</translation>
     </message>
     <message>
         <source>Buffers in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegte Puffer</translation>
     </message>
     <message>
         <source>Buffers that hold an image which is shown, measured or recorded. If all of them are in use, images are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puffer mit einem Bild, das angezeigt, gemessen oder aufgezeichnet wird. Sind alle belegt, gehen Bilder verloren.</translation>
     </message>
     <message>
         <source>Link speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkgeschwindigkeit</translation>
     </message>
     <message>
         <source>Speed of the connection that the camera reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit der Verbindung, wie sie die Kamera meldet.</translation>
     </message>
     <message>
         <source>Packet size</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketgröße</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Byte</translation>
     </message>
     <message>
         <source>Size of the packets of a GigE camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Pakete einer GigE-Kamera.</translation>
     </message>
     <message>
         <source>Resent packets</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut gesendete Pakete</translation>
     </message>
     <message>
         <source>Packets that the camera has sent a second time because they were lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete, die die Kamera ein zweites Mal gesendet hat, weil sie verloren gingen.</translation>
     </message>
     <message>
         <source>Continued after a loss</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>How often the camera was gone and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Ausfall fortgesetzt</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <comment>rate and data rate</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verloren</translation>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 without a buffer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 unvollständig</translation>
     </message>
     <message>
         <source>no stream</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Stream</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <comment>buffers</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>name and value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1 images/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bilder/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbit/s</translation>
     </message>
     <message>
         <source>%1 Gbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gbit/s</translation>
     </message>
     <message>
         <source>not reported</source>
+        <translation>keine Angabe</translation>
+    </message>
+    <message>
+        <source>How often the camera was lost and the stream went on when it was back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 underruns</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1578,50 +1576,51 @@
         <source>%1
 %2 · %3</source>
         <comment>name, size and time of a file</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saved pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+%2 · %3</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>&amp;Copy path</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pfad kopieren</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ existiert nicht mehr.</translation>
     </message>
     <message>
         <source>No program of this desktop opens &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delete picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Programm dieses Desktops öffnet „%1“.</translation>
     </message>
     <message>
         <source>Delete &quot;%1&quot; and its sidecar?</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ und die Begleitdatei löschen?</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelöscht werden: %2.</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>Open &amp;folder</source>
+        <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete snapshot</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1629,55 +1628,57 @@
     <name>ToolStarter</name>
     <message>
         <source>%1 cannot be started. Check that the file exists and is executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gestartet werden. Prüfen Sie, ob die Datei existiert und ausführbar ist.</translation>
     </message>
 </context>
 <context>
     <name>ToolWindow</name>
     <message>
-        <source>Searching for cameras …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Opening %1 …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>&amp;Other camera…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Andere Kamera…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tastenkürzel</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Anleitun&amp;g</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Info über %1</translation>
     </message>
     <message>
         <source>The guide cannot be opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anleitung kann nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>%1 of Corvix X, version %2.
 
 For industrial cameras of any vendor. MIT licence.</source>
+        <translation>%1 von Corvix X, Version %2.
+
+Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
+    </message>
+    <message>
+        <source>Searching for cameras…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1685,157 +1686,181 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>VideoWriter</name>
     <message>
         <source>videos need the program ffmpeg, which is not installed; install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos benötigen das Programm ffmpeg, das nicht installiert ist; installieren Sie es mit: %1</translation>
     </message>
     <message>
         <source>the images are too small for a video</source>
-        <translation type="unfinished"></translation>
+        <translation>die Bilder sind zu klein für ein Video</translation>
     </message>
     <message>
         <source>the format of the images has changed, which a video cannot contain; start another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>das Format der Bilder hat sich geändert, was in einem Video nicht möglich ist; starten Sie eine neue Aufzeichnung</translation>
     </message>
 </context>
 <context>
     <name>ViewerActions</name>
     <message>
         <source>&amp;Live</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Live</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;speichern</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Mark clipped pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ufzeichnen</translation>
     </message>
     <message>
         <source>&amp;Crosshair</source>
-        <translation type="unfinished"></translation>
+        <translation>Fa&amp;denkreuz</translation>
     </message>
     <message>
         <source>F&amp;ull screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollb&amp;ild</translation>
     </message>
     <message>
         <source>&amp;New window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neues Fenster</translation>
     </message>
     <message>
         <source>All &amp;features (Camera Setup)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Features (Camera Setup)</translation>
     </message>
     <message>
         <source>&amp;Fit into the window</source>
-        <translation type="unfinished"></translation>
+        <translation>In &amp;Fenster einpassen</translation>
     </message>
     <message>
         <source>&amp;Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Originalgröße</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;größern</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Rotate &amp;left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;links drehen</translation>
     </message>
     <message>
         <source>Rotate &amp;right</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;rechts drehen</translation>
     </message>
     <message>
         <source>Mirror &amp;horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Mirror &amp;vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vertikal spiegeln</translation>
     </message>
     <message>
         <source>&amp;Move the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild verschie&amp;ben</translation>
     </message>
     <message>
         <source>Draw a re&amp;gion</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Draw a &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich &amp;zeichnen</translation>
     </message>
     <message>
         <source>+, -</source>
-        <translation type="unfinished"></translation>
+        <translation>+, -</translation>
     </message>
     <message>
         <source>Zoom in or out</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern oder verkleinern</translation>
     </message>
     <message>
         <source>0, 1</source>
-        <translation type="unfinished"></translation>
+        <translation>0, 1</translation>
     </message>
     <message>
         <source>Fit the picture, or show it at its own size</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild einpassen oder in Originalgröße zeigen</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the picture; with Shift, further</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeiltasten</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Entf</translation>
     </message>
     <message>
         <source>Remove the drawn region or line</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeichneten Bereich oder gezeichnete Linie entfernen</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mausrad</translation>
     </message>
     <message>
         <source>Zoom at the pointer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Middle button, Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>An der Zeigerposition zoomen</translation>
     </message>
     <message>
         <source>Move the picture, whatever the tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild verschieben, unabhängig vom Werkzeug</translation>
     </message>
     <message>
         <source>Double click</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelklick</translation>
     </message>
     <message>
         <source>Change between the fitted picture and its own size</source>
+        <translation>Zwischen eingepasstem Bild und Originalgröße wechseln</translation>
+    </message>
+    <message>
+        <source>Free&amp;ze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark clipped &amp;pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gri&amp;d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a li&amp;ne</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the picture; in larger steps with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a region or a line in the middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl and arrow keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the drawn region or line; resize it with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finish the region for the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle button, or Space and drag</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1843,77 +1868,77 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>ViewerWindow</name>
     <message>
         <source>Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Viewer</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>Messen</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Bilder</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kamera</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bedienfelder</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>Pixel under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel unter dem Mauszeiger</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera sendet keine Bilder. %1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off in the panel &quot;Camera&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No picture has arrived yet. The panel &quot;Numbers&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera wartet auf einen Trigger. Lösen Sie ihn aus, oder schalten Sie den Triggermodus im Bedienfeld „Kamera“ aus.</translation>
     </message>
     <message>
         <source>Draw the region that the camera shall send.</source>
+        <translation>Zeichnen Sie den Bildausschnitt, den die Kamera senden soll.</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stream is stopped. Press %1 to start it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
-        <source>The camera has no factors for its colours.</source>
+        <source>The camera has no white balance ratios.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

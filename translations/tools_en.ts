@@ -4,17 +4,17 @@
 <context>
     <name>Encoder</name>
     <message numerus="yes">
-        <source>ffmpeg has not taken a picture for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <source>ffmpeg has not accepted an image for %n second(s)</source>
+        <translation>
+            <numerusform>ffmpeg has not accepted an image for %n second</numerusform>
+            <numerusform>ffmpeg has not accepted an image for %n seconds</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>ffmpeg has not ended for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <source>ffmpeg has not ended after %n second(s)</source>
+        <translation>
+            <numerusform>ffmpeg has not ended after %n second</numerusform>
+            <numerusform>ffmpeg has not ended after %n seconds</numerusform>
         </translation>
     </message>
 </context>
@@ -22,23 +22,23 @@
     <name>LossAdvice</name>
     <message numerus="yes">
         <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>No buffer was free for %n image. This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</numerusform>
+            <numerusform>No buffer was free for %n images. This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were lost or damaged in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image was lost or damaged in the last seconds.</numerusform>
+            <numerusform>%n images were lost or damaged in the last seconds.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were incomplete in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image was incomplete in the last seconds.</numerusform>
+            <numerusform>%n images were incomplete in the last seconds.</numerusform>
         </translation>
     </message>
 </context>
@@ -46,58 +46,58 @@
     <name>RecordingSummary</name>
     <message numerus="yes">
         <source>%n image(s) recorded in %1 to &quot;%2&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image recorded in %1 to &quot;%2&quot;.</numerusform>
+            <numerusform>%n images recorded in %1 to &quot;%2&quot;.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) never arrived from the camera</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image never arrived from the camera</numerusform>
+            <numerusform>%n images never arrived from the camera</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) found no free buffer</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image found no free buffer</numerusform>
+            <numerusform>%n images found no free buffer</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be kept because the disk or the encoder is too slow</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image could not be kept because the disk or the encoder is too slow</numerusform>
+            <numerusform>%n images could not be kept because the disk or the encoder is too slow</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image could not be written</numerusform>
+            <numerusform>%n images could not be written</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n recorded image(s) are incomplete</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n recorded image is incomplete</numerusform>
+            <numerusform>%n recorded images are incomplete</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) waiting</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image waiting</numerusform>
+            <numerusform>%n images waiting</numerusform>
         </translation>
     </message>
 </context>

@@ -5,34 +5,34 @@
     <name>CameraChooser</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>열기(&amp;O)</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라</translation>
     </message>
     <message>
         <source>Choose a camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 선택</translation>
     </message>
     <message>
         <source>Search by name, model, serial number or connection</source>
-        <translation type="unfinished"></translation>
+        <translation>이름, 모델, 시리얼 번호 또는 연결로 검색</translation>
     </message>
     <message>
         <source>Search cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 검색</translation>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No camera matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 검색 중…</translation>
     </message>
     <message>
         <source>Cameras: %1</source>
+        <translation>카메라: %1</translation>
+    </message>
+    <message>
+        <source>No camera matches &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -40,228 +40,228 @@
     <name>CameraConnection</name>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 열려 있지 않습니다.</translation>
     </message>
 </context>
 <context>
     <name>CameraFinder</name>
     <message>
         <source>Corvix X is not installed completely: the program CvxProducerHost is missing or not executable. Install the package again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvix X 설치가 완전하지 않습니다. CvxProducerHost 프로그램이 없거나 실행할 수 없습니다. 패키지를 다시 설치하십시오.</translation>
     </message>
     <message>
         <source>The camera system cannot be started (error %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 시스템을 시작할 수 없습니다(오류 %1).</translation>
     </message>
     <message>
         <source>The cameras cannot be listed (error %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 목록을 가져올 수 없습니다(오류 %1).</translation>
     </message>
 </context>
 <context>
     <name>CameraPanel</name>
     <message>
         <source>All features (Camera Setup)</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 기능(Camera Setup)</translation>
     </message>
     <message>
         <source>Draw on picture</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지에 그리기</translation>
     </message>
     <message>
         <source>Whole sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>센서 전체</translation>
     </message>
     <message>
         <source>Drag a rectangle over the part of the picture that the camera shall send.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saving replaces what is stored in the camera as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 전송할 부분을 이미지에서 사각형으로 드래그하십시오.</translation>
     </message>
     <message>
         <source>You are watching this camera, so nothing can be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라는 모니터링 중이므로 설정을 변경할 수 없습니다.</translation>
     </message>
     <message>
         <source>Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>노출</translation>
     </message>
     <message>
         <source>Exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>노출 시간</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>자동</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>게인</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>채널</translation>
     </message>
     <message>
         <source>Black level and gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙 레벨 및 감마</translation>
     </message>
     <message>
         <source>Black level</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙 레벨</translation>
     </message>
     <message>
         <source>Apply gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>감마 적용</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>감마</translation>
     </message>
     <message>
         <source>White balance</source>
-        <translation type="unfinished"></translation>
+        <translation>화이트 밸런스</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>색상</translation>
     </message>
     <message>
         <source>Factor</source>
-        <translation type="unfinished"></translation>
+        <translation>계수</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>프레임 속도</translation>
     </message>
     <message>
         <source>Set the frame rate</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Possible rate</source>
-        <translation type="unfinished"></translation>
+        <translation>프레임 속도 지정</translation>
     </message>
     <message>
         <source>Line scan</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 스캔</translation>
     </message>
     <message>
         <source>Set the line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 속도 지정</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 속도</translation>
     </message>
     <message>
         <source>Pixel format</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 포맷</translation>
     </message>
     <message>
         <source>Region of interest</source>
-        <translation type="unfinished"></translation>
+        <translation>관심 영역(ROI)</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>너비</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>높이</translation>
     </message>
     <message>
         <source>Offset X</source>
-        <translation type="unfinished"></translation>
+        <translation>X 오프셋</translation>
     </message>
     <message>
         <source>Offset Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y 오프셋</translation>
     </message>
     <message>
         <source>Binning and mirroring</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Binning in</source>
-        <translation type="unfinished"></translation>
+        <translation>비닝 및 반전</translation>
     </message>
     <message>
         <source>Horizontal binning</source>
-        <translation type="unfinished"></translation>
+        <translation>가로 비닝</translation>
     </message>
     <message>
         <source>Horizontal mode</source>
-        <translation type="unfinished"></translation>
+        <translation>가로 모드</translation>
     </message>
     <message>
         <source>Vertical binning</source>
-        <translation type="unfinished"></translation>
+        <translation>세로 비닝</translation>
     </message>
     <message>
         <source>Vertical mode</source>
-        <translation type="unfinished"></translation>
+        <translation>세로 모드</translation>
     </message>
     <message>
         <source>Horizontal decimation</source>
-        <translation type="unfinished"></translation>
+        <translation>가로 데시메이션</translation>
     </message>
     <message>
         <source>Vertical decimation</source>
-        <translation type="unfinished"></translation>
+        <translation>세로 데시메이션</translation>
     </message>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>좌우 반전</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>상하 반전</translation>
     </message>
     <message>
         <source>Trigger</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Trigger for</source>
-        <translation type="unfinished"></translation>
+        <translation>트리거</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>모드</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>소스</translation>
     </message>
     <message>
         <source>Activation</source>
-        <translation type="unfinished"></translation>
+        <translation>활성화 조건</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>지연</translation>
     </message>
     <message>
         <source>Trigger now</source>
-        <translation type="unfinished"></translation>
+        <translation>트리거 실행</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>저장</translation>
     </message>
     <message>
         <source>At power-on</source>
+        <translation>전원 켤 때</translation>
+    </message>
+    <message>
+        <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resulting rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Binning location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trigger type</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -269,33 +269,33 @@
     <name>CameraTable</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>모델</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>시리얼 번호</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>연결</translation>
     </message>
     <message>
-        <source>User name</source>
+        <source>User-defined name</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
-        <source>Open group</source>
+        <source>Expanded group</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Closed group</source>
+        <source>Collapsed group</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -303,45 +303,41 @@
     <name>CommandButton</name>
     <message>
         <source>%1 …</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 …</translation>
     </message>
 </context>
 <context>
     <name>ConnectionBar</name>
     <message>
         <source>&amp;Watch only</source>
-        <translation type="unfinished"></translation>
+        <translation>모니터링만(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Other camera…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is in use. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 카메라(&amp;O)…</translation>
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 열 수 없습니다. %2</translation>
     </message>
     <message>
         <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 모니터링 중: 다른 프로그램이 변경하는 설정을 보여 줍니다. 이미지는 그 프로그램만 수신합니다.</translation>
     </message>
     <message>
         <source>&amp;Take control</source>
-        <translation type="unfinished"></translation>
+        <translation>제어권 가져오기(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Try again</source>
+        <translation>다시 시도(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, without changing them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 Lost at %2; it continues by itself when the camera is back.</source>
+        <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -349,29 +345,29 @@
     <name>ContrastHandle</name>
     <message>
         <source>%1: drag it, or use the arrow keys. A double click resets it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 드래그하거나 화살표 키로 조정합니다. 두 번 클릭하면 초기화됩니다.</translation>
     </message>
 </context>
 <context>
     <name>DetailsPage</name>
     <message>
         <source>Numbers of the stream</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>스트림 수치</translation>
     </message>
     <message>
         <source>Copies all numbers to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 수치를 클립보드에 복사합니다.</translation>
     </message>
     <message>
         <source>Command that corrects the cause</source>
+        <translation>원인을 해결하는 명령</translation>
+    </message>
+    <message>
+        <source>Copy as te&amp;xt</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copy c&amp;ommand</source>
+        <source>Copy comma&amp;nd</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -379,78 +375,78 @@
     <name>DisplayControls</name>
     <message>
         <source>Mark clipped pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>클리핑 픽셀 표시</translation>
     </message>
     <message>
         <source>Pick grey</source>
-        <translation type="unfinished"></translation>
+        <translation>회색 선택</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>To camera</source>
-        <translation type="unfinished"></translation>
+        <translation>초기화</translation>
     </message>
     <message>
         <source>Fast (bilinear)</source>
-        <translation type="unfinished"></translation>
+        <translation>고속(쌍선형)</translation>
     </message>
     <message>
         <source>Fine (along edges)</source>
-        <translation type="unfinished"></translation>
+        <translation>정밀(에지 방향)</translation>
     </message>
     <message>
         <source>How the missing colours of a Bayer picture are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bayer 이미지에서 빠진 색을 보간하는 방식입니다.</translation>
     </message>
     <message>
         <source>Shows overexposed pixels in red and underexposed ones in blue.</source>
-        <translation type="unfinished"></translation>
+        <translation>노출 과다 픽셀은 빨간색, 노출 부족 픽셀은 파란색으로 표시합니다.</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없음</translation>
     </message>
     <message>
         <source> µm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What one pixel shows of the object. Lengths and the scale need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation> µm</translation>
     </message>
     <message>
         <source>Demosaicing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One pixel is</source>
-        <translation type="unfinished"></translation>
+        <translation>디모자이킹</translation>
     </message>
     <message>
         <source>Click on something grey in the picture. Its surroundings become grey on the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지에서 회색인 곳을 클릭하십시오. 그 주변이 화면에 회색으로 표시됩니다.</translation>
     </message>
     <message>
         <source>Reset the white balance</source>
-        <translation type="unfinished"></translation>
+        <translation>화이트 밸런스 초기화</translation>
     </message>
     <message>
         <source>Multiplies the white balance of the camera by these factors.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 화이트 밸런스에 이 계수를 곱합니다.</translation>
     </message>
     <message>
         <source>White balance</source>
-        <translation type="unfinished"></translation>
+        <translation>화이트 밸런스</translation>
     </message>
     <message>
         <source>R %1 G %2 B %3</source>
-        <translation type="unfinished"></translation>
+        <translation>R %1 G %2 B %3</translation>
     </message>
     <message>
         <source>The factors of red, green and blue on the screen.</source>
+        <translation>화면 표시에 적용되는 빨강, 녹색, 파랑의 계수입니다.</translation>
+    </message>
+    <message>
+        <source>Write to camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of a pixel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -458,103 +454,103 @@
     <name>Encoder</name>
     <message>
         <source>ffmpeg cannot be started: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>ffmpeg has not taken a picture for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>ffmpeg has not ended for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
+        <translation>ffmpeg를 시작할 수 없습니다: %1</translation>
     </message>
     <message>
         <source>ffmpeg has failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg 오류: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>ffmpeg has not accepted an image for %n second(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>ffmpeg has not ended after %n second(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>FeatureEditor</name>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>켜짐</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>꺼짐</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 값을 변경하려면 스트림을 잠시 중지해야 합니다.</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished"></translation>
+        <translation>중지 후 설정·재시작</translation>
     </message>
 </context>
 <context>
     <name>FeatureNote</name>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 취소</translation>
     </message>
 </context>
 <context>
     <name>FileNamePattern</name>
     <message>
         <source>name or model of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 이름 또는 모델</translation>
     </message>
     <message>
         <source>serial number of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 시리얼 번호</translation>
     </message>
     <message>
         <source>date of the image, for example 2026-01-31</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 날짜(예: 2026-01-31)</translation>
     </message>
     <message>
         <source>time of the image, for example 23-59-59</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 시각(예: 23-59-59)</translation>
     </message>
     <message>
         <source>next free number; {number:4} has at least four digits</source>
-        <translation type="unfinished"></translation>
+        <translation>사용하지 않은 다음 번호. {number:4}은(는) 최소 네 자리</translation>
     </message>
     <message>
         <source>frame ID of the image</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 프레임 ID</translation>
     </message>
     <message>
         <source>pixel format of the image, for example Mono8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A brace is missing; placeholders look like {number}.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The name must not contain &quot;/&quot;; choose the folder above.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The name is empty.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{%1} is no placeholder; there are %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{%1} has to be like {number:4}, with 1 to %2 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 픽셀 포맷(예: Mono8)</translation>
     </message>
     <message>
         <source>The name may contain these placeholders:</source>
+        <translation>이름에 사용할 수 있는 자리 표시자:</translation>
+    </message>
+    <message>
+        <source>a brace is missing; placeholders look like {number}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name must not contain &quot;/&quot;; choose the folder above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{%1} is not a placeholder; use one of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -562,154 +558,158 @@
     <name>FilesPanel</name>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The folder for pictures and recordings.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>Choose the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더 선택</translation>
     </message>
     <message>
         <source>Fol&amp;der</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더(&amp;D)</translation>
     </message>
     <message>
         <source>File &amp;name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Format of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 이름(&amp;N)</translation>
     </message>
     <message>
         <source>PNG, 16 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, 16비트</translation>
     </message>
     <message>
         <source>PNG, 8 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, 8비트</translation>
     </message>
     <message>
         <source>TIFF, measured values</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF, 측정값</translation>
     </message>
     <message>
         <source>Raw bytes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Save picture</source>
-        <translation type="unfinished"></translation>
+        <translation>원시 바이트</translation>
     </message>
     <message>
         <source>Saves the values of the picture that is shown, with a sidecar that contains the camera&apos;s settings. Contrast, white balance and marks of the display are not part of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시 중인 이미지의 값을 카메라 설정이 담긴 사이드카 파일과 함께 저장합니다. 표시용 대비, 화이트 밸런스, 마크는 파일에 포함되지 않습니다.</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화</translation>
     </message>
     <message>
         <source>Format of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화 형식</translation>
     </message>
     <message>
         <source>BigTIFF, measured values</source>
-        <translation type="unfinished"></translation>
+        <translation>BigTIFF, 측정값</translation>
     </message>
     <message>
         <source>Raw bytes with an index</source>
-        <translation type="unfinished"></translation>
+        <translation>원시 바이트 및 인덱스</translation>
     </message>
     <message>
         <source>Video, 8 bits, H.264 (MP4)</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상, 8비트, H.264 (MP4)</translation>
     </message>
     <message>
         <source>Video, 8 bits, lossless (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상, 8비트, 무손실 (MKV)</translation>
     </message>
     <message>
         <source>Stop after</source>
-        <translation type="unfinished"></translation>
+        <translation>자동 중지</translation>
     </message>
     <message>
         <source> images</source>
-        <translation type="unfinished"></translation>
+        <translation> 장</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> 초</translation>
     </message>
     <message>
         <source>Keep free</source>
-        <translation type="unfinished"></translation>
+        <translation>남길 공간</translation>
     </message>
     <message>
         <source> GB</source>
-        <translation type="unfinished"></translation>
+        <translation> GB</translation>
     </message>
     <message>
         <source>Stops the recording before less space than this is left on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크의 남은 공간이 이 값보다 작아지기 전에 녹화를 중지합니다.</translation>
     </message>
     <message>
         <source>Play at</source>
-        <translation type="unfinished"></translation>
+        <translation>재생 속도</translation>
     </message>
     <message>
         <source> images/s</source>
-        <translation type="unfinished"></translation>
+        <translation> fps</translation>
     </message>
     <message>
         <source>Images per second when the video is played. Otherwise, it plays as fast as it was recorded.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Folder for pictures and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상을 재생할 때의 초당 이미지 수입니다. 지정하지 않으면 녹화한 속도로 재생됩니다.</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>예: %1</translation>
     </message>
     <message>
         <source>Videos need the program ffmpeg, which is not installed. Install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상에는 ffmpeg 프로그램이 필요하지만 설치되어 있지 않습니다. 설치 명령: %1</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화(&amp;R)</translation>
     </message>
     <message>
         <source>S&amp;top recording</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화 중지(&amp;T)</translation>
     </message>
     <message>
         <source>Writing…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera is gone; the recording goes on when it is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 중…</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
+        <translation>‘%1’(으)로 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>The folder for snapshots and recordings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ch&amp;oose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format of snapshots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for snapshots and recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name cannot be used: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is lost; the recording goes on when the camera is back. %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -717,82 +717,83 @@
     <name>FindingCard</name>
     <message>
         <source>In order</source>
-        <translation type="unfinished"></translation>
+        <translation>정상</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>참고</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>경고</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>오류</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>명령</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Copies the command, which you can paste into a terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>터미널에 붙여 넣을 수 있도록 명령을 복사합니다.</translation>
     </message>
 </context>
 <context>
     <name>HistogramWidget</name>
     <message>
         <source>&lt; %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; %1 %</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Black point</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙 포인트</translation>
     </message>
     <message>
         <source>White point</source>
-        <translation type="unfinished"></translation>
+        <translation>화이트 포인트</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>감마</translation>
     </message>
     <message>
         <source>Histogram</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 dark, %2 bright</source>
-        <translation type="unfinished"></translation>
+        <translation>히스토그램</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 %1</translation>
     </message>
     <message>
         <source>Value %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>값 %1
+%2</translation>
     </message>
     <message>
         <source>There is no picture.</source>
+        <translation>이미지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 underexposed, %2 overexposed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 dark</source>
+        <source>%1 underexposed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 bright</source>
+        <source>%1 overexposed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -800,91 +801,91 @@
     <name>ImageCanvas</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지</translation>
     </message>
     <message>
         <source>No picture yet</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 이미지 없음</translation>
     </message>
     <message>
         <source>%1 by %2 pixels, shown at %3 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 픽셀, 표시 배율 %3 %</translation>
     </message>
 </context>
 <context>
     <name>LengthText</name>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
 </context>
 <context>
     <name>LiveStream</name>
     <message>
         <source>The stream of the camera has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 스트림이 종료되었습니다.</translation>
     </message>
 </context>
 <context>
     <name>LockText</name>
     <message>
         <source>Not available at present.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not available because of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 사용할 수 없습니다.</translation>
     </message>
     <message>
         <source>Not available while %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>사용할 수 없습니다(%1 = %2).</translation>
     </message>
     <message>
         <source>Locked by the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 잠근 상태입니다.</translation>
     </message>
     <message>
         <source>Controlled by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 제어합니다.</translation>
     </message>
     <message>
         <source>Locked while %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>잠겨 있습니다(%1 = %2).</translation>
     </message>
     <message>
         <source>This camera does not have the feature.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라에는 없는 기능입니다.</translation>
     </message>
     <message>
         <source>The camera only reports this value.</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 전용 값입니다.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
     </message>
     <message>
         <source>Locked while the camera streams.</source>
+        <translation>스트리밍 중에는 변경할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Not available because of the setting of %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -892,32 +893,32 @@
     <name>LossAdvice</name>
     <message>
         <source>Packets are lost between camera and computer: check cable and switch, or reduce the frame rate or the region.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라와 컴퓨터 사이에서 패킷이 손실되고 있습니다. 케이블과 스위치를 점검하거나 프레임 속도 또는 관심 영역을 줄이십시오.</translation>
     </message>
     <message>
         <source>Transfers are lost between camera and computer: check the cable, connect the camera without a hub, or reduce the frame rate or the region.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라와 컴퓨터 사이에서 전송이 손실되고 있습니다. 케이블을 점검하고 허브 없이 카메라를 연결하거나, 프레임 속도 또는 관심 영역을 줄이십시오.</translation>
     </message>
     <message>
         <source>The connection or the computer is too slow: reduce the frame rate or the region, or close other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 또는 컴퓨터가 너무 느립니다. 프레임 속도 또는 관심 영역을 줄이거나 다른 프로그램을 종료하십시오.</translation>
     </message>
     <message numerus="yes">
         <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>빈 버퍼가 없어 이미지 %n장이 손실되었습니다. 현재 컴퓨터의 처리 속도가 부족합니다. 다른 프로그램을 종료하거나, 더 빠른 디스크에 녹화하거나, 프레임 속도 또는 관심 영역을 줄이십시오.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were lost or damaged in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>최근 몇 초 동안 이미지 %n장이 손실되거나 손상되었습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were incomplete in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>최근 몇 초 동안 이미지 %n장이 불완전하게 수신되었습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -925,187 +926,187 @@
     <name>MeasuredComponent</name>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>그레이</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>빨강</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>녹색</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>파랑</translation>
     </message>
     <message>
         <source>Alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>알파</translation>
     </message>
     <message>
         <source>Luma</source>
-        <translation type="unfinished"></translation>
+        <translation>휘도</translation>
     </message>
     <message>
         <source>Cb</source>
-        <translation type="unfinished"></translation>
+        <translation>Cb</translation>
     </message>
     <message>
         <source>Cr</source>
-        <translation type="unfinished"></translation>
+        <translation>Cr</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>첫째</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>둘째</translation>
     </message>
     <message>
         <source>Third</source>
-        <translation type="unfinished"></translation>
+        <translation>셋째</translation>
     </message>
     <message>
         <source>Fourth</source>
-        <translation type="unfinished"></translation>
+        <translation>넷째</translation>
     </message>
 </context>
 <context>
     <name>MeasuringPanel</name>
     <message>
         <source>The picture has no colours to balance.</source>
-        <translation type="unfinished"></translation>
+        <translation>화이트 밸런스를 조정할 색상이 없는 이미지입니다.</translation>
     </message>
     <message>
         <source>This place is too dark for a white balance. Pick a brighter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>화이트 밸런스를 맞추기에 너무 어두운 곳입니다. 더 밝은 곳을 선택하십시오.</translation>
     </message>
     <message>
         <source>This place is overexposed. Pick a darker one, or reduce the exposure.</source>
-        <translation type="unfinished"></translation>
+        <translation>노출이 과다한 곳입니다. 더 어두운 곳을 선택하거나 노출을 줄이십시오.</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>로그</translation>
     </message>
     <message>
         <source>Whole picture</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 전체</translation>
     </message>
     <message>
         <source>Drawn region</source>
-        <translation type="unfinished"></translation>
+        <translation>그린 영역</translation>
     </message>
     <message>
         <source>Measured area</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 영역</translation>
     </message>
     <message>
         <source>Where histogram and statistics are measured. Draw a region in the picture to measure it.</source>
-        <translation type="unfinished"></translation>
+        <translation>히스토그램과 통계를 측정할 범위입니다. 특정 영역을 측정하려면 이미지에 영역을 그리십시오.</translation>
     </message>
     <message>
         <source>Shows the histogram logarithmically, so that rare values can be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>드문 값도 보이도록 히스토그램을 로그 스케일로 표시합니다.</translation>
     </message>
     <message>
         <source>Fit contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>대비 맞춤</translation>
     </message>
     <message>
         <source>Spreads the values of the picture from black to white. Only the display changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 값을 검은색부터 흰색까지 펼칩니다. 표시만 바뀝니다.</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>초기화</translation>
     </message>
     <message>
         <source>Reset the contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>대비 초기화</translation>
     </message>
     <message>
         <source>Histogram</source>
-        <translation type="unfinished"></translation>
+        <translation>히스토그램</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Copies the statistics to the clipboard, for a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>표에 붙여 넣을 수 있도록 통계를 클립보드에 복사합니다.</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>통계</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>표시</translation>
     </message>
     <message>
         <source>The pixel format is not known, so bytes are measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 픽셀 포맷이므로 바이트 값을 측정합니다.</translation>
     </message>
 </context>
 <context>
     <name>NoCameraPage</name>
     <message>
         <source>Connect a camera and switch it on. It appears here by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Check again</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연결하고 전원을 켜십시오. 여기에 자동으로 표시됩니다.</translation>
     </message>
     <message>
         <source>Show what is in order, too</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no camera</source>
-        <translation type="unfinished"></translation>
+        <translation>정상 항목도 표시</translation>
     </message>
     <message>
         <source>The checks are running</source>
-        <translation type="unfinished"></translation>
+        <translation>점검 중입니다</translation>
     </message>
     <message>
         <source>Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>점검 결과</translation>
     </message>
     <message>
         <source>Checking producers, network, GigE and USB. This takes some seconds.</source>
+        <translation>프로듀서, 네트워크, GigE, USB를 점검하고 있습니다. 몇 초 정도 걸립니다.</translation>
+    </message>
+    <message>
+        <source>Check a&amp;gain</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The checks have found nothing to correct.</source>
+        <source>No camera found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Things to correct: %1</source>
+        <source>The checks have found no problem.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems found: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>NumberEditor</name>
     <message>
-        <source>“%1” is not a number.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The nearest value that the camera allows is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 허용하는 가장 가까운 값: %1.</translation>
     </message>
     <message>
         <source>%1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1~%2 %3</translation>
     </message>
     <message>
         <source>%1, in steps of %2</source>
+        <translation>%1, 증분 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1113,103 +1114,104 @@
     <name>PictureReadout</name>
     <message>
         <source>x %1, y %2</source>
-        <translation type="unfinished"></translation>
+        <translation>x %1, y %2</translation>
     </message>
     <message>
         <source>raw %1</source>
-        <translation type="unfinished"></translation>
+        <translation>원본 %1</translation>
     </message>
     <message>
         <source>shown %1</source>
-        <translation type="unfinished"></translation>
+        <translation>표시 %1</translation>
     </message>
 </context>
 <context>
     <name>ProfileBox</name>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>Drawn line</source>
-        <translation type="unfinished"></translation>
+        <translation>그린 선</translation>
     </message>
     <message>
         <source>Line of the profile</source>
-        <translation type="unfinished"></translation>
+        <translation>프로파일 선</translation>
     </message>
     <message>
         <source>Row and column are those of the pointer in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>행과 열은 이미지에서 포인터가 있는 위치를 따릅니다.</translation>
     </message>
     <message>
         <source>Line profile</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 프로파일</translation>
     </message>
 </context>
 <context>
     <name>ProfileWidget</name>
     <message>
         <source>Line profile</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 프로파일</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Pixel %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 %1
+%2</translation>
     </message>
     <message>
         <source>There is no line to measure.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정할 선이 없습니다.</translation>
     </message>
 </context>
 <context>
     <name>RateGraph</name>
     <message>
         <source>Images per second and losses of the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 1분간의 초당 이미지 수 및 손실</translation>
     </message>
     <message>
         <source>60 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>60초 전</translation>
     </message>
     <message>
         <source>30 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>30초 전</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished"></translation>
+        <translation>현재</translation>
     </message>
     <message>
         <source>Images/s</source>
-        <translation type="unfinished"></translation>
+        <translation>초당 이미지</translation>
     </message>
     <message>
         <source>Lost or incomplete/s</source>
-        <translation type="unfinished"></translation>
+        <translation>초당 손실·불완전</translation>
     </message>
 </context>
 <context>
     <name>RecordingControl</name>
     <message>
         <source>no pictures arrive; start the live picture first</source>
-        <translation type="unfinished"></translation>
+        <translation>수신되는 이미지가 없습니다. 먼저 라이브를 시작하십시오</translation>
     </message>
     <message>
         <source>the camera was closed</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 닫혔습니다</translation>
     </message>
     <message>
-        <source>It ended because the limit of free space was reached.</source>
+        <source>The recording ended because the limit of free space was reached.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1217,125 +1219,125 @@
     <name>RecordingSummary</name>
     <message>
         <source>The recording did not begin: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화를 시작하지 못했습니다: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) recorded in %1 to &quot;%2&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이미지 %n장을 %1 동안 ‘%2’에 녹화했습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>The recording ended early: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화가 중간에 종료되었습니다: %1.</translation>
     </message>
     <message>
         <source>No image is missing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera was gone for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>누락된 이미지가 없습니다.</translation>
     </message>
     <message>
         <source>The image format changed during the recording; the file describes each image.</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화 중에 이미지 형식이 바뀌었습니다. 각 이미지의 형식은 파일에 기록되어 있습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) never arrived from the camera</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>카메라에서 도착하지 않은 이미지 %n장</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) found no free buffer</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>빈 버퍼가 없어 손실된 이미지 %n장</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be kept because the disk or the encoder is too slow</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>디스크 또는 인코더가 느려 보관하지 못한 이미지 %n장</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>기록하지 못한 이미지 %n장</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n recorded image(s) are incomplete</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>녹화된 불완전 이미지 %n장</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>; </source>
         <comment>between parts of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>; </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이미지 %n장</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 left</source>
         <comment>disk space</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 남음</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) waiting</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이미지 %n장 대기 중</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The camera was lost for a while.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost or incomplete: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>RegionCall</name>
     <message>
         <source>The camera does not report its region.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 관심 영역을 알려 주지 않습니다.</translation>
     </message>
     <message>
         <source>The camera&apos;s region has changed since it was drawn. Draw it again on the present picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>영역을 그린 뒤에 카메라의 관심 영역이 바뀌었습니다. 현재 이미지에 다시 그리십시오.</translation>
     </message>
 </context>
 <context>
     <name>ShortcutPage</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>바로 가기 키</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>키</translation>
     </message>
     <message>
         <source>What they do</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSaver</name>
     <message>
         <source>There is no picture to save yet.</source>
+        <translation>아직 저장할 이미지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The snapshot was not saved: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The picture was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture was not saved: %1.</source>
+        <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1343,34 +1345,30 @@
     <name>StatisticsTable</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>성분</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>최솟값</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>최댓값</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>평균</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 수</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>통계</translation>
     </message>
     <message>
-        <source>The deviation is the standard deviation.</source>
+        <source>Std. deviation</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1378,184 +1376,184 @@
     <name>StatusNumbers</name>
     <message>
         <source>Images per second and image data per second that arrive from the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에서 수신하는 초당 이미지 수와 초당 이미지 데이터양입니다.</translation>
     </message>
     <message>
         <source>Buffers that hold an image which is shown, measured or recorded. If all of them are in use, images are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시, 측정 또는 녹화 중인 이미지가 들어 있는 버퍼입니다. 버퍼가 모두 사용 중이면 이미지가 손실됩니다.</translation>
     </message>
     <message>
         <source>Buffers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>버퍼: %1</translation>
     </message>
     <message>
         <source>No losses</source>
-        <translation type="unfinished"></translation>
+        <translation>손실 없음</translation>
     </message>
     <message>
         <source>What was lost since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 뒤에 발생한 손실입니다.</translation>
     </message>
 </context>
 <context>
     <name>StreamNumbers</name>
     <message>
         <source>Delivered</source>
-        <translation type="unfinished"></translation>
+        <translation>수신</translation>
     </message>
     <message>
         <source>Images that arrived from the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에서 수신한 이미지 수입니다.</translation>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>표시</translation>
     </message>
     <message>
         <source>Images that were drawn in the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>창에 표시한 이미지 수입니다.</translation>
     </message>
     <message>
         <source>Skipped for display</source>
-        <translation type="unfinished"></translation>
+        <translation>표시 생략</translation>
     </message>
     <message>
         <source>Images that were not drawn because the screen is slower than the camera. They are not lost: recordings contain them.</source>
-        <translation type="unfinished"></translation>
+        <translation>화면이 카메라보다 느려 표시하지 않은 이미지 수입니다. 손실된 것이 아니며 녹화에는 포함됩니다.</translation>
     </message>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>불완전</translation>
     </message>
     <message>
         <source>Delivered images with missing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>수신했지만 데이터 일부가 누락된 이미지 수입니다.</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>손실</translation>
     </message>
     <message>
         <source>Images that never arrived, by gaps in the frame IDs.</source>
-        <translation type="unfinished"></translation>
+        <translation>프레임 ID의 누락으로 확인한, 도착하지 않은 이미지 수입니다.</translation>
     </message>
     <message>
         <source>Underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>버퍼 부족</translation>
     </message>
     <message>
         <source>Images that were lost because no buffer was free: this computer was too slow.</source>
-        <translation type="unfinished"></translation>
+        <translation>빈 버퍼가 없어 손실된 이미지 수입니다(언더런). 컴퓨터의 처리 속도가 부족했습니다.</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>프레임 속도</translation>
     </message>
     <message>
         <source>Images per second during the last second.</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 1초 동안의 초당 이미지 수입니다.</translation>
     </message>
     <message>
         <source>Data rate</source>
-        <translation type="unfinished"></translation>
+        <translation>데이터 속도</translation>
     </message>
     <message>
         <source>Image data per second during the last second.</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 1초 동안의 초당 이미지 데이터양입니다.</translation>
     </message>
     <message>
         <source>Buffers in use</source>
-        <translation type="unfinished"></translation>
+        <translation>사용 중인 버퍼</translation>
     </message>
     <message>
         <source>Buffers that hold an image which is shown, measured or recorded. If all of them are in use, images are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시, 측정 또는 녹화 중인 이미지가 들어 있는 버퍼입니다. 버퍼가 모두 사용 중이면 이미지가 손실됩니다.</translation>
     </message>
     <message>
         <source>Link speed</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 속도</translation>
     </message>
     <message>
         <source>Speed of the connection that the camera reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 알려 주는 연결 속도입니다.</translation>
     </message>
     <message>
         <source>Packet size</source>
-        <translation type="unfinished"></translation>
+        <translation>패킷 크기</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1바이트</translation>
     </message>
     <message>
         <source>Size of the packets of a GigE camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>GigE 카메라의 패킷 크기입니다.</translation>
     </message>
     <message>
         <source>Resent packets</source>
-        <translation type="unfinished"></translation>
+        <translation>재전송 패킷</translation>
     </message>
     <message>
         <source>Packets that the camera has sent a second time because they were lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>손실되어 카메라가 다시 전송한 패킷 수입니다.</translation>
     </message>
     <message>
         <source>Continued after a loss</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>How often the camera was gone and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 복구</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <comment>rate and data rate</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>손실 %1</translation>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 without a buffer</source>
-        <translation type="unfinished"></translation>
+        <translation>불완전 %1</translation>
     </message>
     <message>
         <source>no stream</source>
-        <translation type="unfinished"></translation>
+        <translation>스트림 없음</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <comment>buffers</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>name and value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1 images/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbit/s</translation>
     </message>
     <message>
         <source>%1 Gbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gbit/s</translation>
     </message>
     <message>
         <source>not reported</source>
+        <translation>정보 없음</translation>
+    </message>
+    <message>
+        <source>How often the camera was lost and the stream went on when it was back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 underruns</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1565,50 +1563,51 @@
         <source>%1
 %2 · %3</source>
         <comment>name, size and time of a file</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saved pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+%2 · %3</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Copy path</source>
-        <translation type="unfinished"></translation>
+        <translation>경로 복사(&amp;C)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 파일이 더 이상 없습니다.</translation>
     </message>
     <message>
         <source>No program of this desktop opens &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delete picture</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 파일을 열 수 있는 프로그램이 없습니다.</translation>
     </message>
     <message>
         <source>Delete &quot;%1&quot; and its sidecar?</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 파일과 사이드카 파일을 삭제하시겠습니까?</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 파일을 삭제할 수 없습니다: %2.</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>열기(&amp;O)</translation>
     </message>
     <message>
         <source>Open &amp;folder</source>
+        <translation>폴더 열기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete snapshot</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1616,55 +1615,57 @@
     <name>ToolStarter</name>
     <message>
         <source>%1 cannot be started. Check that the file exists and is executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 시작할 수 없습니다. 파일이 있고 실행 가능한지 확인하십시오.</translation>
     </message>
 </context>
 <context>
     <name>ToolWindow</name>
     <message>
-        <source>Searching for cameras …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Opening %1 …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>&amp;Other camera…</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 카메라(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>바로 가기 키(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>사용 설명서(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 정보(&amp;A)</translation>
     </message>
     <message>
         <source>The guide cannot be opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용 설명서를 열 수 없습니다: %1</translation>
     </message>
     <message>
         <source>%1 of Corvix X, version %2.
 
 For industrial cameras of any vendor. MIT licence.</source>
+        <translation>Corvix X %1, 버전 %2.
+
+모든 제조사의 산업용 카메라를 지원합니다. MIT 라이선스.</translation>
+    </message>
+    <message>
+        <source>Searching for cameras…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1672,157 +1673,181 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>VideoWriter</name>
     <message>
         <source>videos need the program ffmpeg, which is not installed; install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상에는 ffmpeg 프로그램이 필요하지만 설치되어 있지 않습니다. 설치 명령: %1</translation>
     </message>
     <message>
         <source>the images are too small for a video</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상으로 만들기에 이미지가 너무 작습니다</translation>
     </message>
     <message>
         <source>the format of the images has changed, which a video cannot contain; start another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 형식이 바뀌어 한 동영상에 담을 수 없습니다. 녹화를 새로 시작하십시오</translation>
     </message>
 </context>
 <context>
     <name>ViewerActions</name>
     <message>
         <source>&amp;Live</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷 저장(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Mark clipped pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Crosshair</source>
-        <translation type="unfinished"></translation>
+        <translation>십자선(&amp;C)</translation>
     </message>
     <message>
         <source>F&amp;ull screen</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 화면(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;New window</source>
-        <translation type="unfinished"></translation>
+        <translation>새 창(&amp;N)</translation>
     </message>
     <message>
         <source>All &amp;features (Camera Setup)</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 기능(Camera Setup)(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Fit into the window</source>
-        <translation type="unfinished"></translation>
+        <translation>창에 맞춤(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>실제 크기(&amp;A)</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>확대(&amp;I)</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>축소(&amp;O)</translation>
     </message>
     <message>
         <source>Rotate &amp;left</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽으로 회전(&amp;B)</translation>
     </message>
     <message>
         <source>Rotate &amp;right</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽으로 회전(&amp;T)</translation>
     </message>
     <message>
         <source>Mirror &amp;horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>좌우 반전(&amp;H)</translation>
     </message>
     <message>
         <source>Mirror &amp;vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>상하 반전(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Move the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 이동(&amp;M)</translation>
     </message>
     <message>
         <source>Draw a re&amp;gion</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Draw a &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>영역 그리기(&amp;G)</translation>
     </message>
     <message>
         <source>+, -</source>
-        <translation type="unfinished"></translation>
+        <translation>+, -</translation>
     </message>
     <message>
         <source>Zoom in or out</source>
-        <translation type="unfinished"></translation>
+        <translation>확대 또는 축소</translation>
     </message>
     <message>
         <source>0, 1</source>
-        <translation type="unfinished"></translation>
+        <translation>0, 1</translation>
     </message>
     <message>
         <source>Fit the picture, or show it at its own size</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지를 창에 맞추거나 실제 크기로 표시</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the picture; with Shift, further</source>
-        <translation type="unfinished"></translation>
+        <translation>화살표 키</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Remove the drawn region or line</source>
-        <translation type="unfinished"></translation>
+        <translation>그린 영역 또는 선 제거</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>휠</translation>
     </message>
     <message>
         <source>Zoom at the pointer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Middle button, Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>포인터 위치에서 확대/축소</translation>
     </message>
     <message>
         <source>Move the picture, whatever the tool</source>
-        <translation type="unfinished"></translation>
+        <translation>도구와 관계없이 이미지 이동</translation>
     </message>
     <message>
         <source>Double click</source>
-        <translation type="unfinished"></translation>
+        <translation>두 번 클릭</translation>
     </message>
     <message>
         <source>Change between the fitted picture and its own size</source>
+        <translation>창에 맞춤과 실제 크기 간 전환</translation>
+    </message>
+    <message>
+        <source>Free&amp;ze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark clipped &amp;pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gri&amp;d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a li&amp;ne</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the picture; in larger steps with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a region or a line in the middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl and arrow keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the drawn region or line; resize it with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finish the region for the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle button, or Space and drag</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1830,77 +1855,77 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>ViewerWindow</name>
     <message>
         <source>Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 뷰어</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>측정</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>보기(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished"></translation>
+        <translation>패널(&amp;P)</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>도구 모음</translation>
     </message>
     <message>
         <source>Pixel under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>포인터 위치의 픽셀</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 이미지를 전송하지 않습니다. %1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off in the panel &quot;Camera&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No picture has arrived yet. The panel &quot;Numbers&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 트리거를 기다리고 있습니다. 트리거를 보내거나 ‘카메라’ 패널에서 트리거 모드를 끄십시오.</translation>
     </message>
     <message>
         <source>Draw the region that the camera shall send.</source>
+        <translation>카메라가 전송할 영역을 그리십시오.</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stream is stopped. Press %1 to start it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
-        <source>The camera has no factors for its colours.</source>
+        <source>The camera has no white balance ratios.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

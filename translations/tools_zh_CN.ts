@@ -5,34 +5,34 @@
     <name>CameraChooser</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开(&amp;O)</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>相机</translation>
     </message>
     <message>
         <source>Choose a camera</source>
-        <translation type="unfinished"></translation>
+        <translation>选择相机</translation>
     </message>
     <message>
         <source>Search by name, model, serial number or connection</source>
-        <translation type="unfinished"></translation>
+        <translation>按名称、型号、序列号或连接搜索</translation>
     </message>
     <message>
         <source>Search cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索相机</translation>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No camera matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在搜索相机…</translation>
     </message>
     <message>
         <source>Cameras: %1</source>
+        <translation>相机：%1</translation>
+    </message>
+    <message>
+        <source>No camera matches &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -40,228 +40,228 @@
     <name>CameraConnection</name>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机未打开。</translation>
     </message>
 </context>
 <context>
     <name>CameraFinder</name>
     <message>
         <source>Corvix X is not installed completely: the program CvxProducerHost is missing or not executable. Install the package again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvix X 安装不完整：程序 CvxProducerHost 缺失或不可执行。请重新安装软件包。</translation>
     </message>
     <message>
         <source>The camera system cannot be started (error %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动相机系统（错误 %1）。</translation>
     </message>
     <message>
         <source>The cameras cannot be listed (error %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>无法枚举相机（错误 %1）。</translation>
     </message>
 </context>
 <context>
     <name>CameraPanel</name>
     <message>
         <source>All features (Camera Setup)</source>
-        <translation type="unfinished"></translation>
+        <translation>全部特性（Camera Setup）</translation>
     </message>
     <message>
         <source>Draw on picture</source>
-        <translation type="unfinished"></translation>
+        <translation>在图像上绘制</translation>
     </message>
     <message>
         <source>Whole sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>整个靶面</translation>
     </message>
     <message>
         <source>Drag a rectangle over the part of the picture that the camera shall send.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saving replaces what is stored in the camera as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>在图像上拖出矩形，指定相机要传输的区域。</translation>
     </message>
     <message>
         <source>You are watching this camera, so nothing can be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前仅监视此相机，无法在此更改设置。</translation>
     </message>
     <message>
         <source>Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>曝光</translation>
     </message>
     <message>
         <source>Exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>曝光时间</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>自动</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>增益</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>通道</translation>
     </message>
     <message>
         <source>Black level and gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>黑电平与伽马</translation>
     </message>
     <message>
         <source>Black level</source>
-        <translation type="unfinished"></translation>
+        <translation>黑电平</translation>
     </message>
     <message>
         <source>Apply gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>启用伽马</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>伽马</translation>
     </message>
     <message>
         <source>White balance</source>
-        <translation type="unfinished"></translation>
+        <translation>白平衡</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色</translation>
     </message>
     <message>
         <source>Factor</source>
-        <translation type="unfinished"></translation>
+        <translation>系数</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>帧率</translation>
     </message>
     <message>
         <source>Set the frame rate</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Possible rate</source>
-        <translation type="unfinished"></translation>
+        <translation>启用帧率控制</translation>
     </message>
     <message>
         <source>Line scan</source>
-        <translation type="unfinished"></translation>
+        <translation>线扫描</translation>
     </message>
     <message>
         <source>Set the line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>启用行频控制</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>行频</translation>
     </message>
     <message>
         <source>Pixel format</source>
-        <translation type="unfinished"></translation>
+        <translation>像素格式</translation>
     </message>
     <message>
         <source>Region of interest</source>
-        <translation type="unfinished"></translation>
+        <translation>感兴趣区域 (ROI)</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>宽度</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>高度</translation>
     </message>
     <message>
         <source>Offset X</source>
-        <translation type="unfinished"></translation>
+        <translation>X 偏移</translation>
     </message>
     <message>
         <source>Offset Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y 偏移</translation>
     </message>
     <message>
         <source>Binning and mirroring</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Binning in</source>
-        <translation type="unfinished"></translation>
+        <translation>像素合并与镜像</translation>
     </message>
     <message>
         <source>Horizontal binning</source>
-        <translation type="unfinished"></translation>
+        <translation>水平像素合并</translation>
     </message>
     <message>
         <source>Horizontal mode</source>
-        <translation type="unfinished"></translation>
+        <translation>水平合并模式</translation>
     </message>
     <message>
         <source>Vertical binning</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直像素合并</translation>
     </message>
     <message>
         <source>Vertical mode</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直合并模式</translation>
     </message>
     <message>
         <source>Horizontal decimation</source>
-        <translation type="unfinished"></translation>
+        <translation>水平下采样</translation>
     </message>
     <message>
         <source>Vertical decimation</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直下采样</translation>
     </message>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>水平镜像</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直镜像</translation>
     </message>
     <message>
         <source>Trigger</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Trigger for</source>
-        <translation type="unfinished"></translation>
+        <translation>触发</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>触发模式</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>触发源</translation>
     </message>
     <message>
         <source>Activation</source>
-        <translation type="unfinished"></translation>
+        <translation>激活方式</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>触发延迟</translation>
     </message>
     <message>
         <source>Trigger now</source>
-        <translation type="unfinished"></translation>
+        <translation>软触发</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished"></translation>
+        <translation>用户集</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>加载</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>At power-on</source>
+        <translation>上电时加载</translation>
+    </message>
+    <message>
+        <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resulting rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Binning location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trigger type</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -269,33 +269,33 @@
     <name>CameraTable</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>序列号</translation>
     </message>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>连接</translation>
     </message>
     <message>
-        <source>User name</source>
+        <source>User-defined name</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
-        <source>Open group</source>
+        <source>Expanded group</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Closed group</source>
+        <source>Collapsed group</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -303,45 +303,41 @@
     <name>CommandButton</name>
     <message>
         <source>%1 …</source>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
 </context>
 <context>
     <name>ConnectionBar</name>
     <message>
         <source>&amp;Watch only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅监视(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Other camera…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is in use. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>其他相机(&amp;O)…</translation>
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开 %1。%2</translation>
     </message>
     <message>
         <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在监视 %1：其设置随另一程序的更改而更新。只有该程序能接收图像。</translation>
     </message>
     <message>
         <source>&amp;Take control</source>
-        <translation type="unfinished"></translation>
+        <translation>接管控制(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Try again</source>
+        <translation>重试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, without changing them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 Lost at %2; it continues by itself when the camera is back.</source>
+        <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -349,29 +345,29 @@
     <name>ContrastHandle</name>
     <message>
         <source>%1: drag it, or use the arrow keys. A double click resets it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：可拖动或用方向键调整，双击可重置。</translation>
     </message>
 </context>
 <context>
     <name>DetailsPage</name>
     <message>
         <source>Numbers of the stream</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>图像流统计</translation>
     </message>
     <message>
         <source>Copies all numbers to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>将所有数值复制到剪贴板。</translation>
     </message>
     <message>
         <source>Command that corrects the cause</source>
+        <translation>解决该问题的命令</translation>
+    </message>
+    <message>
+        <source>Copy as te&amp;xt</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copy c&amp;ommand</source>
+        <source>Copy comma&amp;nd</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -379,78 +375,78 @@
     <name>DisplayControls</name>
     <message>
         <source>Mark clipped pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>标记过曝和欠曝像素</translation>
     </message>
     <message>
         <source>Pick grey</source>
-        <translation type="unfinished"></translation>
+        <translation>拾取灰点</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>To camera</source>
-        <translation type="unfinished"></translation>
+        <translation>重置</translation>
     </message>
     <message>
         <source>Fast (bilinear)</source>
-        <translation type="unfinished"></translation>
+        <translation>快速（双线性）</translation>
     </message>
     <message>
         <source>Fine (along edges)</source>
-        <translation type="unfinished"></translation>
+        <translation>精细（沿边缘）</translation>
     </message>
     <message>
         <source>How the missing colours of a Bayer picture are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bayer 图像缺失颜色的插值方法。</translation>
     </message>
     <message>
         <source>Shows overexposed pixels in red and underexposed ones in blue.</source>
-        <translation type="unfinished"></translation>
+        <translation>以红色显示过曝像素，以蓝色显示欠曝像素。</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>未知</translation>
     </message>
     <message>
         <source> µm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What one pixel shows of the object. Lengths and the scale need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation> µm</translation>
     </message>
     <message>
         <source>Demosaicing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One pixel is</source>
-        <translation type="unfinished"></translation>
+        <translation>去马赛克</translation>
     </message>
     <message>
         <source>Click on something grey in the picture. Its surroundings become grey on the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>点击图像中的灰色物体，该处在屏幕上将显示为中性灰。</translation>
     </message>
     <message>
         <source>Reset the white balance</source>
-        <translation type="unfinished"></translation>
+        <translation>重置白平衡</translation>
     </message>
     <message>
         <source>Multiplies the white balance of the camera by these factors.</source>
-        <translation type="unfinished"></translation>
+        <translation>将相机的白平衡系数乘以这些系数。</translation>
     </message>
     <message>
         <source>White balance</source>
-        <translation type="unfinished"></translation>
+        <translation>白平衡</translation>
     </message>
     <message>
         <source>R %1 G %2 B %3</source>
-        <translation type="unfinished"></translation>
+        <translation>R %1 G %2 B %3</translation>
     </message>
     <message>
         <source>The factors of red, green and blue on the screen.</source>
+        <translation>屏幕显示所用的红、绿、蓝系数。</translation>
+    </message>
+    <message>
+        <source>Write to camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of a pixel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -458,103 +454,103 @@
     <name>Encoder</name>
     <message>
         <source>ffmpeg cannot be started: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>ffmpeg has not taken a picture for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>ffmpeg has not ended for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-        </translation>
+        <translation>无法启动 ffmpeg：%1</translation>
     </message>
     <message>
         <source>ffmpeg has failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ffmpeg 出错：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>ffmpeg has not accepted an image for %n second(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>ffmpeg has not ended after %n second(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>FeatureEditor</name>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>关</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>此更改需要短暂停止图像流。</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished"></translation>
+        <translation>停止、设置、启动</translation>
     </message>
 </context>
 <context>
     <name>FeatureNote</name>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>放弃</translation>
     </message>
 </context>
 <context>
     <name>FileNamePattern</name>
     <message>
         <source>name or model of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机名称或型号</translation>
     </message>
     <message>
         <source>serial number of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机序列号</translation>
     </message>
     <message>
         <source>date of the image, for example 2026-01-31</source>
-        <translation type="unfinished"></translation>
+        <translation>图像日期，例如 2026-01-31</translation>
     </message>
     <message>
         <source>time of the image, for example 23-59-59</source>
-        <translation type="unfinished"></translation>
+        <translation>图像时间，例如 23-59-59</translation>
     </message>
     <message>
         <source>next free number; {number:4} has at least four digits</source>
-        <translation type="unfinished"></translation>
+        <translation>下一个可用编号；{number:4} 至少为四位数</translation>
     </message>
     <message>
         <source>frame ID of the image</source>
-        <translation type="unfinished"></translation>
+        <translation>图像的帧 ID</translation>
     </message>
     <message>
         <source>pixel format of the image, for example Mono8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A brace is missing; placeholders look like {number}.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The name must not contain &quot;/&quot;; choose the folder above.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The name is empty.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{%1} is no placeholder; there are %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>{%1} has to be like {number:4}, with 1 to %2 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像的像素格式，例如 Mono8</translation>
     </message>
     <message>
         <source>The name may contain these placeholders:</source>
+        <translation>名称中可使用以下占位符：</translation>
+    </message>
+    <message>
+        <source>a brace is missing; placeholders look like {number}</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name must not contain &quot;/&quot;; choose the folder above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{%1} is not a placeholder; use one of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -562,154 +558,158 @@
     <name>FilesPanel</name>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The folder for pictures and recordings.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Choose the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>选择文件夹</translation>
     </message>
     <message>
         <source>Fol&amp;der</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹(&amp;D)</translation>
     </message>
     <message>
         <source>File &amp;name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Format of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名(&amp;N)</translation>
     </message>
     <message>
         <source>PNG, 16 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG，16 位</translation>
     </message>
     <message>
         <source>PNG, 8 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG，8 位</translation>
     </message>
     <message>
         <source>TIFF, measured values</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF，原始像素值</translation>
     </message>
     <message>
         <source>Raw bytes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Save picture</source>
-        <translation type="unfinished"></translation>
+        <translation>原始字节</translation>
     </message>
     <message>
         <source>Saves the values of the picture that is shown, with a sidecar that contains the camera&apos;s settings. Contrast, white balance and marks of the display are not part of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存当前显示图像的像素值，并附带包含相机设置的附属文件。显示的对比度、白平衡和标记不会写入文件。</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>录制</translation>
     </message>
     <message>
         <source>Format of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>录制格式</translation>
     </message>
     <message>
         <source>BigTIFF, measured values</source>
-        <translation type="unfinished"></translation>
+        <translation>BigTIFF，原始像素值</translation>
     </message>
     <message>
         <source>Raw bytes with an index</source>
-        <translation type="unfinished"></translation>
+        <translation>原始字节（带索引）</translation>
     </message>
     <message>
         <source>Video, 8 bits, H.264 (MP4)</source>
-        <translation type="unfinished"></translation>
+        <translation>视频，8 位，H.264 (MP4)</translation>
     </message>
     <message>
         <source>Video, 8 bits, lossless (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>视频，8 位，无损 (MKV)</translation>
     </message>
     <message>
         <source>Stop after</source>
-        <translation type="unfinished"></translation>
+        <translation>录满后停止</translation>
     </message>
     <message>
         <source> images</source>
-        <translation type="unfinished"></translation>
+        <translation> 帧</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Keep free</source>
-        <translation type="unfinished"></translation>
+        <translation>保留空间</translation>
     </message>
     <message>
         <source> GB</source>
-        <translation type="unfinished"></translation>
+        <translation> GB</translation>
     </message>
     <message>
         <source>Stops the recording before less space than this is left on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>在磁盘剩余空间低于该值之前停止录制。</translation>
     </message>
     <message>
         <source>Play at</source>
-        <translation type="unfinished"></translation>
+        <translation>播放速率</translation>
     </message>
     <message>
         <source> images/s</source>
-        <translation type="unfinished"></translation>
+        <translation> 帧/秒</translation>
     </message>
     <message>
         <source>Images per second when the video is played. Otherwise, it plays as fast as it was recorded.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Folder for pictures and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>视频播放时每秒的帧数。未设置时按录制时的速度播放。</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>例如：%1</translation>
     </message>
     <message>
         <source>Videos need the program ffmpeg, which is not installed. Install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>录制视频需要 ffmpeg，但尚未安装。安装命令：%1</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation>录制(&amp;R)</translation>
     </message>
     <message>
         <source>S&amp;top recording</source>
-        <translation type="unfinished"></translation>
+        <translation>停止录制(&amp;T)</translation>
     </message>
     <message>
         <source>Writing…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera is gone; the recording goes on when it is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在写入…</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
+        <translation>已保存为“%1”。</translation>
+    </message>
+    <message>
+        <source>The folder for snapshots and recordings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ch&amp;oose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format of snapshots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for snapshots and recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name cannot be used: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is lost; the recording goes on when the camera is back. %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -717,82 +717,83 @@
     <name>FindingCard</name>
     <message>
         <source>In order</source>
-        <translation type="unfinished"></translation>
+        <translation>正常</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>提示</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>错误</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>命令</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Copies the command, which you can paste into a terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>复制命令，可粘贴到终端中执行。</translation>
     </message>
 </context>
 <context>
     <name>HistogramWidget</name>
     <message>
         <source>&lt; %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; %1%</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Black point</source>
-        <translation type="unfinished"></translation>
+        <translation>黑点</translation>
     </message>
     <message>
         <source>White point</source>
-        <translation type="unfinished"></translation>
+        <translation>白点</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>伽马</translation>
     </message>
     <message>
         <source>Histogram</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 dark, %2 bright</source>
-        <translation type="unfinished"></translation>
+        <translation>直方图</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 %1</translation>
     </message>
     <message>
         <source>Value %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>值 %1
+%2</translation>
     </message>
     <message>
         <source>There is no picture.</source>
+        <translation>没有图像。</translation>
+    </message>
+    <message>
+        <source>%1 underexposed, %2 overexposed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 dark</source>
+        <source>%1 underexposed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 bright</source>
+        <source>%1 overexposed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -800,91 +801,91 @@
     <name>ImageCanvas</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>图像</translation>
     </message>
     <message>
         <source>No picture yet</source>
-        <translation type="unfinished"></translation>
+        <translation>尚无图像</translation>
     </message>
     <message>
         <source>%1 by %2 pixels, shown at %3 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 像素，显示比例 %3%</translation>
     </message>
 </context>
 <context>
     <name>LengthText</name>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
 </context>
 <context>
     <name>LiveStream</name>
     <message>
         <source>The stream of the camera has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机的图像流已结束。</translation>
     </message>
 </context>
 <context>
     <name>LockText</name>
     <message>
         <source>Not available at present.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not available because of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前不可用。</translation>
     </message>
     <message>
         <source>Not available while %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 为 %2 时不可用。</translation>
     </message>
     <message>
         <source>Locked by the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>已被相机锁定。</translation>
     </message>
     <message>
         <source>Controlled by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>由 %1 控制。</translation>
     </message>
     <message>
         <source>Locked while %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 为 %2 时锁定。</translation>
     </message>
     <message>
         <source>This camera does not have the feature.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机不支持该特性。</translation>
     </message>
     <message>
         <source>The camera only reports this value.</source>
-        <translation type="unfinished"></translation>
+        <translation>该值为只读，仅由相机报告。</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前仅监视相机，无法更改。</translation>
     </message>
     <message>
         <source>Locked while the camera streams.</source>
+        <translation>相机采集图像流时锁定。</translation>
+    </message>
+    <message>
+        <source>Not available because of the setting of %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -892,32 +893,32 @@
     <name>LossAdvice</name>
     <message>
         <source>Packets are lost between camera and computer: check cable and switch, or reduce the frame rate or the region.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机与计算机之间丢包：请检查网线和交换机，或降低帧率、缩小 ROI。</translation>
     </message>
     <message>
         <source>Transfers are lost between camera and computer: check the cable, connect the camera without a hub, or reduce the frame rate or the region.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机与计算机之间传输丢失：请检查线缆，不经集线器直接连接相机，或降低帧率、缩小 ROI。</translation>
     </message>
     <message>
         <source>The connection or the computer is too slow: reduce the frame rate or the region, or close other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>连接或计算机速度不足：请降低帧率、缩小 ROI，或关闭其他程序。</translation>
     </message>
     <message numerus="yes">
         <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>有 %n 帧图像没有可用缓冲区。计算机当前处理速度不足：请关闭其他程序，录制到更快的磁盘，或降低帧率、缩小 ROI。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were lost or damaged in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>最近几秒内有 %n 帧图像丢失或损坏。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were incomplete in the last seconds.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>最近几秒内有 %n 帧图像不完整。</numerusform>
         </translation>
     </message>
 </context>
@@ -925,187 +926,187 @@
     <name>MeasuredComponent</name>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>灰度</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>红</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>绿</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>蓝</translation>
     </message>
     <message>
         <source>Alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>Alpha</translation>
     </message>
     <message>
         <source>Luma</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度</translation>
     </message>
     <message>
         <source>Cb</source>
-        <translation type="unfinished"></translation>
+        <translation>Cb</translation>
     </message>
     <message>
         <source>Cr</source>
-        <translation type="unfinished"></translation>
+        <translation>Cr</translation>
     </message>
     <message>
         <source>First</source>
-        <translation type="unfinished"></translation>
+        <translation>分量 1</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>分量 2</translation>
     </message>
     <message>
         <source>Third</source>
-        <translation type="unfinished"></translation>
+        <translation>分量 3</translation>
     </message>
     <message>
         <source>Fourth</source>
-        <translation type="unfinished"></translation>
+        <translation>分量 4</translation>
     </message>
 </context>
 <context>
     <name>MeasuringPanel</name>
     <message>
         <source>The picture has no colours to balance.</source>
-        <translation type="unfinished"></translation>
+        <translation>该图像没有颜色，无法进行白平衡。</translation>
     </message>
     <message>
         <source>This place is too dark for a white balance. Pick a brighter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>该处过暗，无法进行白平衡。请选择更亮的位置。</translation>
     </message>
     <message>
         <source>This place is overexposed. Pick a darker one, or reduce the exposure.</source>
-        <translation type="unfinished"></translation>
+        <translation>该处过曝。请选择更暗的位置，或减少曝光。</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>对数</translation>
     </message>
     <message>
         <source>Whole picture</source>
-        <translation type="unfinished"></translation>
+        <translation>整幅图像</translation>
     </message>
     <message>
         <source>Drawn region</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制的区域</translation>
     </message>
     <message>
         <source>Measured area</source>
-        <translation type="unfinished"></translation>
+        <translation>测量区域</translation>
     </message>
     <message>
         <source>Where histogram and statistics are measured. Draw a region in the picture to measure it.</source>
-        <translation type="unfinished"></translation>
+        <translation>直方图和统计的测量范围。可在图像中绘制区域进行测量。</translation>
     </message>
     <message>
         <source>Shows the histogram logarithmically, so that rare values can be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>以对数刻度显示直方图，便于查看少量出现的值。</translation>
     </message>
     <message>
         <source>Fit contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>拉伸对比度</translation>
     </message>
     <message>
         <source>Spreads the values of the picture from black to white. Only the display changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>将图像的值拉伸到从黑到白的范围。仅影响显示。</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>重置</translation>
     </message>
     <message>
         <source>Reset the contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>重置对比度</translation>
     </message>
     <message>
         <source>Histogram</source>
-        <translation type="unfinished"></translation>
+        <translation>直方图</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Copies the statistics to the clipboard, for a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>将统计结果复制到剪贴板，可粘贴到表格中。</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>统计</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>显示</translation>
     </message>
     <message>
         <source>The pixel format is not known, so bytes are measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>像素格式未知，因此按字节测量。</translation>
     </message>
 </context>
 <context>
     <name>NoCameraPage</name>
     <message>
         <source>Connect a camera and switch it on. It appears here by itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Check again</source>
-        <translation type="unfinished"></translation>
+        <translation>请连接相机并接通电源，相机将自动显示在此处。</translation>
     </message>
     <message>
         <source>Show what is in order, too</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no camera</source>
-        <translation type="unfinished"></translation>
+        <translation>同时显示正常项</translation>
     </message>
     <message>
         <source>The checks are running</source>
-        <translation type="unfinished"></translation>
+        <translation>正在检查</translation>
     </message>
     <message>
         <source>Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>检查结果</translation>
     </message>
     <message>
         <source>Checking producers, network, GigE and USB. This takes some seconds.</source>
+        <translation>正在检查 Producer、网络、GigE 和 USB，需要几秒钟。</translation>
+    </message>
+    <message>
+        <source>Check a&amp;gain</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The checks have found nothing to correct.</source>
+        <source>No camera found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Things to correct: %1</source>
+        <source>The checks have found no problem.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problems found: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>NumberEditor</name>
     <message>
-        <source>“%1” is not a number.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The nearest value that the camera allows is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机允许的最接近的值为 %1。</translation>
     </message>
     <message>
         <source>%1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 至 %2 %3</translation>
     </message>
     <message>
         <source>%1, in steps of %2</source>
+        <translation>%1，步长 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1113,103 +1114,104 @@
     <name>PictureReadout</name>
     <message>
         <source>x %1, y %2</source>
-        <translation type="unfinished"></translation>
+        <translation>x %1, y %2</translation>
     </message>
     <message>
         <source>raw %1</source>
-        <translation type="unfinished"></translation>
+        <translation>原始值 %1</translation>
     </message>
     <message>
         <source>shown %1</source>
-        <translation type="unfinished"></translation>
+        <translation>显示值 %1</translation>
     </message>
 </context>
 <context>
     <name>ProfileBox</name>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Drawn line</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制的直线</translation>
     </message>
     <message>
         <source>Line of the profile</source>
-        <translation type="unfinished"></translation>
+        <translation>剖面所用的线</translation>
     </message>
     <message>
         <source>Row and column are those of the pointer in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>行和列由指针在图像中的位置决定。</translation>
     </message>
     <message>
         <source>Line profile</source>
-        <translation type="unfinished"></translation>
+        <translation>线剖面</translation>
     </message>
 </context>
 <context>
     <name>ProfileWidget</name>
     <message>
         <source>Line profile</source>
-        <translation type="unfinished"></translation>
+        <translation>线剖面</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Pixel %1
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>像素 %1
+%2</translation>
     </message>
     <message>
         <source>There is no line to measure.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可测量的线。</translation>
     </message>
 </context>
 <context>
     <name>RateGraph</name>
     <message>
         <source>Images per second and losses of the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>最近一分钟的帧率和丢帧</translation>
     </message>
     <message>
         <source>60 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>60 秒前</translation>
     </message>
     <message>
         <source>30 s ago</source>
-        <translation type="unfinished"></translation>
+        <translation>30 秒前</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished"></translation>
+        <translation>现在</translation>
     </message>
     <message>
         <source>Images/s</source>
-        <translation type="unfinished"></translation>
+        <translation>帧/秒</translation>
     </message>
     <message>
         <source>Lost or incomplete/s</source>
-        <translation type="unfinished"></translation>
+        <translation>丢失或不完整帧/秒</translation>
     </message>
 </context>
 <context>
     <name>RecordingControl</name>
     <message>
         <source>no pictures arrive; start the live picture first</source>
-        <translation type="unfinished"></translation>
+        <translation>没有接收到图像；请先启动实时图像</translation>
     </message>
     <message>
         <source>the camera was closed</source>
-        <translation type="unfinished"></translation>
+        <translation>相机已关闭</translation>
     </message>
     <message>
-        <source>It ended because the limit of free space was reached.</source>
+        <source>The recording ended because the limit of free space was reached.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1217,125 +1219,125 @@
     <name>RecordingSummary</name>
     <message>
         <source>The recording did not begin: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>录制未能开始：%1。</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) recorded in %1 to &quot;%2&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧图像已录制到“%2”，用时 %1。</numerusform>
         </translation>
     </message>
     <message>
         <source>The recording ended early: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>录制提前结束：%1。</translation>
     </message>
     <message>
         <source>No image is missing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera was gone for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有缺失图像。</translation>
     </message>
     <message>
         <source>The image format changed during the recording; the file describes each image.</source>
-        <translation type="unfinished"></translation>
+        <translation>录制期间图像格式发生了变化；文件中包含每帧图像的格式说明。</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) never arrived from the camera</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧未从相机到达</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) found no free buffer</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧没有可用缓冲区</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be kept because the disk or the encoder is too slow</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧因磁盘或编码器过慢未能保留</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be written</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧未能写入</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n recorded image(s) are incomplete</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧已录制但不完整</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>; </source>
         <comment>between parts of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>; </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 left</source>
         <comment>disk space</comment>
-        <translation type="unfinished"></translation>
+        <translation>剩余 %1</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) waiting</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 帧待写入</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The camera was lost for a while.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost or incomplete: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>RegionCall</name>
     <message>
         <source>The camera does not report its region.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机未报告其 ROI。</translation>
     </message>
     <message>
         <source>The camera&apos;s region has changed since it was drawn. Draw it again on the present picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制之后相机的 ROI 已改变。请在当前图像上重新绘制。</translation>
     </message>
 </context>
 <context>
     <name>ShortcutPage</name>
     <message>
         <source>Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘快捷键</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>按键</translation>
     </message>
     <message>
         <source>What they do</source>
-        <translation type="unfinished"></translation>
+        <translation>功能</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSaver</name>
     <message>
         <source>There is no picture to save yet.</source>
+        <translation>尚无可保存的图像。</translation>
+    </message>
+    <message>
+        <source>The snapshot was not saved: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The picture was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture was not saved: %1.</source>
+        <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1343,34 +1345,30 @@
     <name>StatisticsTable</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>分量</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>最小值</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>最大值</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>均值</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>像素数</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>统计</translation>
     </message>
     <message>
-        <source>The deviation is the standard deviation.</source>
+        <source>Std. deviation</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1378,184 +1376,184 @@
     <name>StatusNumbers</name>
     <message>
         <source>Images per second and image data per second that arrive from the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>每秒从相机到达的图像帧数和图像数据量。</translation>
     </message>
     <message>
         <source>Buffers that hold an image which is shown, measured or recorded. If all of them are in use, images are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在显示、测量或录制的图像所占用的缓冲区。全部占用时会丢失图像。</translation>
     </message>
     <message>
         <source>Buffers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>缓冲区：%1</translation>
     </message>
     <message>
         <source>No losses</source>
-        <translation type="unfinished"></translation>
+        <translation>无丢帧</translation>
     </message>
     <message>
         <source>What was lost since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>打开相机以来丢失的图像。</translation>
     </message>
 </context>
 <context>
     <name>StreamNumbers</name>
     <message>
         <source>Delivered</source>
-        <translation type="unfinished"></translation>
+        <translation>已接收</translation>
     </message>
     <message>
         <source>Images that arrived from the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>从相机到达的图像。</translation>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>已显示</translation>
     </message>
     <message>
         <source>Images that were drawn in the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>已在窗口中绘制的图像。</translation>
     </message>
     <message>
         <source>Skipped for display</source>
-        <translation type="unfinished"></translation>
+        <translation>显示跳过</translation>
     </message>
     <message>
         <source>Images that were not drawn because the screen is slower than the camera. They are not lost: recordings contain them.</source>
-        <translation type="unfinished"></translation>
+        <translation>因屏幕刷新慢于相机而未绘制的图像。这些图像并未丢失，仍包含在录制中。</translation>
     </message>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>不完整</translation>
     </message>
     <message>
         <source>Delivered images with missing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>已接收但数据缺失的图像。</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>丢失</translation>
     </message>
     <message>
         <source>Images that never arrived, by gaps in the frame IDs.</source>
-        <translation type="unfinished"></translation>
+        <translation>未到达的图像，根据帧 ID 的间断计算。</translation>
     </message>
     <message>
         <source>Underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>缓冲区不足</translation>
     </message>
     <message>
         <source>Images that were lost because no buffer was free: this computer was too slow.</source>
-        <translation type="unfinished"></translation>
+        <translation>因没有可用缓冲区而丢失的图像：计算机处理速度不足。</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>帧率</translation>
     </message>
     <message>
         <source>Images per second during the last second.</source>
-        <translation type="unfinished"></translation>
+        <translation>最近一秒的帧率。</translation>
     </message>
     <message>
         <source>Data rate</source>
-        <translation type="unfinished"></translation>
+        <translation>数据速率</translation>
     </message>
     <message>
         <source>Image data per second during the last second.</source>
-        <translation type="unfinished"></translation>
+        <translation>最近一秒的图像数据量。</translation>
     </message>
     <message>
         <source>Buffers in use</source>
-        <translation type="unfinished"></translation>
+        <translation>占用的缓冲区</translation>
     </message>
     <message>
         <source>Buffers that hold an image which is shown, measured or recorded. If all of them are in use, images are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在显示、测量或录制的图像所占用的缓冲区。全部占用时会丢失图像。</translation>
     </message>
     <message>
         <source>Link speed</source>
-        <translation type="unfinished"></translation>
+        <translation>链路速率</translation>
     </message>
     <message>
         <source>Speed of the connection that the camera reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机报告的连接速率。</translation>
     </message>
     <message>
         <source>Packet size</source>
-        <translation type="unfinished"></translation>
+        <translation>数据包大小</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 字节</translation>
     </message>
     <message>
         <source>Size of the packets of a GigE camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>GigE 相机的数据包大小。</translation>
     </message>
     <message>
         <source>Resent packets</source>
-        <translation type="unfinished"></translation>
+        <translation>重传数据包</translation>
     </message>
     <message>
         <source>Packets that the camera has sent a second time because they were lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>因丢失而由相机重新发送的数据包。</translation>
     </message>
     <message>
         <source>Continued after a loss</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>How often the camera was gone and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>断线恢复次数</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <comment>rate and data rate</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 丢失</translation>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 without a buffer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不完整</translation>
     </message>
     <message>
         <source>no stream</source>
-        <translation type="unfinished"></translation>
+        <translation>无图像流</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <comment>buffers</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>name and value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>%1 images/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 帧/秒</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 Mbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mbit/s</translation>
     </message>
     <message>
         <source>%1 Gbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gbit/s</translation>
     </message>
     <message>
         <source>not reported</source>
+        <translation>未报告</translation>
+    </message>
+    <message>
+        <source>How often the camera was lost and the stream went on when it was back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 underruns</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1565,50 +1563,51 @@
         <source>%1
 %2 · %3</source>
         <comment>name, size and time of a file</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saved pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+%2 · %3</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>删除(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Copy path</source>
-        <translation type="unfinished"></translation>
+        <translation>复制路径(&amp;C)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not exist any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”已不存在。</translation>
     </message>
     <message>
         <source>No program of this desktop opens &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delete picture</source>
-        <translation type="unfinished"></translation>
+        <translation>此桌面上没有可打开“%1”的程序。</translation>
     </message>
     <message>
         <source>Delete &quot;%1&quot; and its sidecar?</source>
-        <translation type="unfinished"></translation>
+        <translation>是否删除“%1”及其附属文件？</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>删除</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法删除“%1”：%2。</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开(&amp;O)</translation>
     </message>
     <message>
         <source>Open &amp;folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete snapshot</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1616,55 +1615,57 @@
     <name>ToolStarter</name>
     <message>
         <source>%1 cannot be started. Check that the file exists and is executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动 %1。请确认文件存在且可执行。</translation>
     </message>
 </context>
 <context>
     <name>ToolWindow</name>
     <message>
-        <source>Searching for cameras …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Opening %1 …</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>&amp;Other camera…</source>
-        <translation type="unfinished"></translation>
+        <translation>其他相机(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Keyboard shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘快捷键(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
-        <translation type="unfinished"></translation>
+        <translation>用户指南(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>关于%1(&amp;A)</translation>
     </message>
     <message>
         <source>The guide cannot be opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开用户指南：%1</translation>
     </message>
     <message>
         <source>%1 of Corvix X, version %2.
 
 For industrial cameras of any vendor. MIT licence.</source>
+        <translation>Corvix X %1，版本 %2。
+
+适用于任何厂商的工业相机。MIT 许可证。</translation>
+    </message>
+    <message>
+        <source>Searching for cameras…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening %1…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1672,157 +1673,181 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>VideoWriter</name>
     <message>
         <source>videos need the program ffmpeg, which is not installed; install it with: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>录制视频需要 ffmpeg，但尚未安装；安装命令：%1</translation>
     </message>
     <message>
         <source>the images are too small for a video</source>
-        <translation type="unfinished"></translation>
+        <translation>图像尺寸过小，无法生成视频</translation>
     </message>
     <message>
         <source>the format of the images has changed, which a video cannot contain; start another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>图像格式已改变，而一个视频只能包含一种格式；请重新开始录制</translation>
     </message>
 </context>
 <context>
     <name>ViewerActions</name>
     <message>
         <source>&amp;Live</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Freeze</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>保存快照(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Mark clipped pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>录制(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Crosshair</source>
-        <translation type="unfinished"></translation>
+        <translation>十字线(&amp;C)</translation>
     </message>
     <message>
         <source>F&amp;ull screen</source>
-        <translation type="unfinished"></translation>
+        <translation>全屏(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;New window</source>
-        <translation type="unfinished"></translation>
+        <translation>新建窗口(&amp;N)</translation>
     </message>
     <message>
         <source>All &amp;features (Camera Setup)</source>
-        <translation type="unfinished"></translation>
+        <translation>全部特性（Camera Setup）(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Fit into the window</source>
-        <translation type="unfinished"></translation>
+        <translation>适合窗口(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Actual size</source>
-        <translation type="unfinished"></translation>
+        <translation>实际大小(&amp;A)</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>放大(&amp;I)</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>缩小(&amp;O)</translation>
     </message>
     <message>
         <source>Rotate &amp;left</source>
-        <translation type="unfinished"></translation>
+        <translation>向左旋转(&amp;L)</translation>
     </message>
     <message>
         <source>Rotate &amp;right</source>
-        <translation type="unfinished"></translation>
+        <translation>向右旋转(&amp;R)</translation>
     </message>
     <message>
         <source>Mirror &amp;horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>水平镜像(&amp;H)</translation>
     </message>
     <message>
         <source>Mirror &amp;vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直镜像(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Move the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>移动图像(&amp;M)</translation>
     </message>
     <message>
         <source>Draw a re&amp;gion</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Draw a &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制区域(&amp;G)</translation>
     </message>
     <message>
         <source>+, -</source>
-        <translation type="unfinished"></translation>
+        <translation>+、-</translation>
     </message>
     <message>
         <source>Zoom in or out</source>
-        <translation type="unfinished"></translation>
+        <translation>放大或缩小</translation>
     </message>
     <message>
         <source>0, 1</source>
-        <translation type="unfinished"></translation>
+        <translation>0、1</translation>
     </message>
     <message>
         <source>Fit the picture, or show it at its own size</source>
-        <translation type="unfinished"></translation>
+        <translation>适合窗口，或以实际大小显示</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the picture; with Shift, further</source>
-        <translation type="unfinished"></translation>
+        <translation>方向键</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Remove the drawn region or line</source>
-        <translation type="unfinished"></translation>
+        <translation>删除绘制的区域或直线</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>滚轮</translation>
     </message>
     <message>
         <source>Zoom at the pointer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Middle button, Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>以指针为中心缩放</translation>
     </message>
     <message>
         <source>Move the picture, whatever the tool</source>
-        <translation type="unfinished"></translation>
+        <translation>移动图像（任何工具下均可）</translation>
     </message>
     <message>
         <source>Double click</source>
-        <translation type="unfinished"></translation>
+        <translation>双击</translation>
     </message>
     <message>
         <source>Change between the fitted picture and its own size</source>
+        <translation>在适合窗口与实际大小之间切换</translation>
+    </message>
+    <message>
+        <source>Free&amp;ze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark clipped &amp;pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gri&amp;d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a li&amp;ne</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the picture; in larger steps with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a region or a line in the middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl and arrow keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the drawn region or line; resize it with Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finish the region for the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle button, or Space and drag</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1830,77 +1855,77 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>ViewerWindow</name>
     <message>
         <source>Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>图像查看器</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>测量</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>快照</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>视图(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished"></translation>
+        <translation>面板(&amp;P)</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>工具栏</translation>
     </message>
     <message>
         <source>Pixel under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>指针处的像素</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机未发送图像。%1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off in the panel &quot;Camera&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No picture has arrived yet. The panel &quot;Numbers&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机正在等待触发。请发送触发信号，或在“相机”面板中关闭触发模式。</translation>
     </message>
     <message>
         <source>Draw the region that the camera shall send.</source>
+        <translation>请绘制相机要传输的区域。</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stream is stopped. Press %1 to start it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
-        <source>The camera has no factors for its colours.</source>
+        <source>The camera has no white balance ratios.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
