@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>No camera matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kamera entspricht „%1“.</translation>
     </message>
 </context>
 <context>
@@ -250,19 +250,19 @@
     </message>
     <message>
         <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern wird ersetzt, was in der Kamera als „%1“ gespeichert ist.</translation>
     </message>
     <message>
         <source>Resulting rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultierende Rate</translation>
     </message>
     <message>
         <source>Binning location</source>
-        <translation type="unfinished"></translation>
+        <translation>Binning-Ort</translation>
     </message>
     <message>
         <source>Trigger type</source>
-        <translation type="unfinished"></translation>
+        <translation>Triggertyp</translation>
     </message>
 </context>
 <context>
@@ -285,18 +285,18 @@
     </message>
     <message>
         <source>User-defined name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdef. Name</translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
         <source>Expanded group</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgeklappte Gruppe</translation>
     </message>
     <message>
         <source>Collapsed group</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugeklappte Gruppe</translation>
     </message>
 </context>
 <context>
@@ -334,11 +334,11 @@
     </message>
     <message>
         <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Einstellungen der Kamera und deren Änderungen an, ohne sie zu verändern.</translation>
     </message>
     <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Die Verbindung zur Kamera ging um %2 verloren. Das Programm macht automatisch weiter, sobald die Kamera wieder da ist.</translation>
     </message>
 </context>
 <context>
@@ -364,11 +364,11 @@
     </message>
     <message>
         <source>Copy as te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Te&amp;xt kopieren</translation>
     </message>
     <message>
         <source>Copy comma&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;fehl kopieren</translation>
     </message>
 </context>
 <context>
@@ -439,15 +439,15 @@
     </message>
     <message>
         <source>Write to camera</source>
-        <translation type="unfinished"></translation>
+        <translation>In Kamera schreiben</translation>
     </message>
     <message>
         <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe eines Pixels auf dem Objekt. Längen und Maßstabsbalken brauchen diesen Wert.</translation>
     </message>
     <message>
         <source>Size of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Objektpixelgröße</translation>
     </message>
 </context>
 <context>
@@ -462,16 +462,16 @@
     </message>
     <message numerus="yes">
         <source>ffmpeg has not accepted an image for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg hat seit %n Sekunde kein Bild angenommen</numerusform>
+            <numerusform>ffmpeg hat seit %n Sekunden kein Bild angenommen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>ffmpeg has not ended after %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg hat sich nach %n Sekunde noch nicht beendet</numerusform>
+            <numerusform>ffmpeg hat sich nach %n Sekunden noch nicht beendet</numerusform>
         </translation>
     </message>
 </context>
@@ -537,23 +537,23 @@
     </message>
     <message>
         <source>a brace is missing; placeholders look like {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>eine geschweifte Klammer fehlt; Platzhalter haben die Form {number}</translation>
     </message>
     <message>
         <source>the name must not contain &quot;/&quot;; choose the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name darf kein „/“ enthalten; wählen Sie den Ordner oben aus</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist leer</translation>
     </message>
     <message>
         <source>{%1} is not a placeholder; use one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} ist kein Platzhalter; möglich sind %2</translation>
     </message>
     <message>
         <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} muss die Form {number:4} haben, mit 1 bis %2 Stellen</translation>
     </message>
 </context>
 <context>
@@ -684,35 +684,35 @@
     </message>
     <message>
         <source>The folder for snapshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für Bilder und Aufzeichnungen.</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wäh&amp;len…</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelbild</translation>
     </message>
     <message>
         <source>Format of snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Format der Einzelbilder</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild speiche&amp;rn</translation>
     </message>
     <message>
         <source>Folder for snapshots and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für Bilder und Aufzeichnungen</translation>
     </message>
     <message>
         <source>This name cannot be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Name kann nicht verwendet werden: %1.</translation>
     </message>
     <message>
         <source>The camera is lost; the recording goes on when the camera is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zur Kamera ist verloren; die Aufzeichnung geht weiter, sobald die Kamera wieder da ist. %1</translation>
     </message>
 </context>
 <context>
@@ -788,15 +788,15 @@
     </message>
     <message>
         <source>%1 underexposed, %2 overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 unterbelichtet, %2 überbelichtet</translation>
     </message>
     <message>
-        <source>%1 underexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 dark</source>
+        <translation>%1 dunkel</translation>
     </message>
     <message>
-        <source>%1 overexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 bright</source>
+        <translation>%1 hell</translation>
     </message>
 </context>
 <context>
@@ -888,7 +888,7 @@
     </message>
     <message>
         <source>Not available because of the setting of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wegen der Einstellung von %1 nicht verfügbar.</translation>
     </message>
 </context>
 <context>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Check a&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut &amp;prüfen</translation>
     </message>
     <message>
         <source>No camera found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kamera gefunden</translation>
     </message>
     <message>
         <source>The checks have found no problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Prüfungen haben kein Problem gefunden.</translation>
     </message>
     <message>
         <source>Problems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Probleme: %1</translation>
     </message>
 </context>
 <context>
@@ -1112,7 +1112,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl.</translation>
     </message>
 </context>
 <context>
@@ -1217,7 +1217,7 @@
     </message>
     <message>
         <source>The recording ended because the limit of free space was reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung endete, weil die Grenze für den freien Speicherplatz erreicht war.</translation>
     </message>
 </context>
 <context>
@@ -1306,11 +1306,11 @@
     </message>
     <message>
         <source>The camera was lost for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zur Kamera war zeitweise verloren.</translation>
     </message>
     <message>
         <source>Lost or incomplete: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren oder unvollständig: %1.</translation>
     </message>
 </context>
 <context>
@@ -1347,11 +1347,11 @@
     </message>
     <message>
         <source>The snapshot was not saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild wurde nicht gespeichert: %1.</translation>
     </message>
     <message>
         <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild wurde nicht gespeichert, weil frühere noch auf den Datenträger warten.</translation>
     </message>
 </context>
 <context>
@@ -1382,7 +1382,7 @@
     </message>
     <message>
         <source>Std. deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Std.-Abw.</translation>
     </message>
 </context>
 <context>
@@ -1563,11 +1563,11 @@
     </message>
     <message>
         <source>How often the camera was lost and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft die Verbindung zur Kamera verloren ging und der Stream danach weiterlief.</translation>
     </message>
     <message>
         <source>%1 underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pufferunterläufe</translation>
     </message>
 </context>
 <context>
@@ -1617,11 +1617,11 @@
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Bilder</translation>
     </message>
     <message>
         <source>Delete snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild löschen</translation>
     </message>
 </context>
 <context>
@@ -1675,11 +1675,11 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras werden gesucht…</translation>
     </message>
     <message>
         <source>Opening %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geöffnet…</translation>
     </message>
 </context>
 <context>
@@ -1817,51 +1817,51 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfrieren</translation>
     </message>
     <message>
         <source>Mark clipped &amp;pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Clipping markieren</translation>
     </message>
     <message>
         <source>Gri&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>Gi&amp;tter</translation>
     </message>
     <message>
         <source>Draw a li&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie zeich&amp;nen</translation>
     </message>
     <message>
         <source>Move the picture; in larger steps with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild verschieben; mit Umschalt in größeren Schritten</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfg</translation>
     </message>
     <message>
         <source>Draw a region or a line in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich oder Linie in der Mitte zeichnen</translation>
     </message>
     <message>
         <source>Ctrl and arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg und Pfeiltasten</translation>
     </message>
     <message>
         <source>Move the drawn region or line; resize it with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeichneten Bereich oder gezeichnete Linie verschieben; mit Umschalt Größe ändern</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe</translation>
     </message>
     <message>
         <source>Finish the region for the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildausschnitt für die Kamera fertigstellen</translation>
     </message>
     <message>
         <source>Middle button, or Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Maustaste oder Leertaste und ziehen</translation>
     </message>
 </context>
 <context>
@@ -1924,22 +1924,22 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>Stream</translation>
     </message>
     <message>
         <source>The stream is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stream ist gestoppt. Drücken Sie %1, um ihn zu starten.</translation>
     </message>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Bild angekommen. Das Bedienfeld „Stream“ kann den Grund zeigen.</translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
         <source>The camera has no white balance ratios.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat keine Faktoren für den Weißabgleich.</translation>
     </message>
 </context>
 </TS>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Search by name, model, serial number or connection</source>
-        <translation>Rechercher par nom, modèle, n° de série ou connexion</translation>
+        <translation>Rechercher par nom, modèle, n°&#xa0;de série ou connexion</translation>
     </message>
     <message>
         <source>Search cameras</source>
@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>Cameras: %1</source>
-        <translation>Caméras : %1</translation>
+        <translation>Caméras&#xa0;: %1</translation>
     </message>
     <message>
         <source>No camera matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune caméra ne correspond à «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -47,15 +47,15 @@
     <name>CameraFinder</name>
     <message>
         <source>Corvix X is not installed completely: the program CvxProducerHost is missing or not executable. Install the package again.</source>
-        <translation>L’installation de Corvix X est incomplète : le programme CvxProducerHost est absent ou non exécutable. Réinstallez le paquet.</translation>
+        <translation>L’installation de Corvix X est incomplète&#xa0;: le programme CvxProducerHost est absent ou non exécutable. Réinstallez le paquet.</translation>
     </message>
     <message>
         <source>The camera system cannot be started (error %1).</source>
-        <translation>Impossible de démarrer le système de caméras (erreur %1).</translation>
+        <translation>Impossible de démarrer le système de caméras (erreur&#xa0;%1).</translation>
     </message>
     <message>
         <source>The cameras cannot be listed (error %1).</source>
-        <translation>Impossible de lister les caméras (erreur %1).</translation>
+        <translation>Impossible de lister les caméras (erreur&#xa0;%1).</translation>
     </message>
 </context>
 <context>
@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>You are watching this camera, so nothing can be changed here.</source>
-        <translation>Vous ne faites qu’observer cette caméra : rien n’est modifiable ici.</translation>
+        <translation>Vous ne faites qu’observer cette caméra&#xa0;: rien n’est modifiable ici.</translation>
     </message>
     <message>
         <source>Exposure</source>
@@ -250,19 +250,19 @@
     </message>
     <message>
         <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement remplace le contenu de «&#xa0;%1&#xa0;» mémorisé dans la caméra.</translation>
     </message>
     <message>
         <source>Resulting rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence résultante</translation>
     </message>
     <message>
         <source>Binning location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu du binning</translation>
     </message>
     <message>
         <source>Trigger type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de déclencheur</translation>
     </message>
 </context>
 <context>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Serial number</source>
-        <translation>N° de série</translation>
+        <translation>N°&#xa0;de série</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -285,18 +285,18 @@
     </message>
     <message>
         <source>User-defined name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom personnalisé</translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
         <source>Expanded group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe déplié</translation>
     </message>
     <message>
         <source>Collapsed group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe replié</translation>
     </message>
 </context>
 <context>
@@ -318,11 +318,11 @@
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
-        <translation>Impossible d’ouvrir la caméra « %1 ». %2</translation>
+        <translation>Impossible d’ouvrir la caméra «&#xa0;%1&#xa0;». %2</translation>
     </message>
     <message>
         <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation>Observation de « %1 » : ses réglages s’affichent tels qu’un autre programme les modifie. Seul ce programme reçoit les images.</translation>
+        <translation>Observation de «&#xa0;%1&#xa0;»&#xa0;: ses réglages s’affichent tels qu’un autre programme les modifie. Seul ce programme reçoit les images.</translation>
     </message>
     <message>
         <source>&amp;Take control</source>
@@ -334,18 +334,18 @@
     </message>
     <message>
         <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les réglages de la caméra et leur évolution, sans les modifier.</translation>
     </message>
     <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Connexion à la caméra perdue à %2. Le programme reprendra automatiquement à son retour.</translation>
     </message>
 </context>
 <context>
     <name>ContrastHandle</name>
     <message>
         <source>%1: drag it, or use the arrow keys. A double click resets it.</source>
-        <translation>%1 : faites glisser la poignée ou utilisez les touches fléchées. Un double-clic rétablit la valeur initiale.</translation>
+        <translation>%1&#xa0;: faites glisser la poignée ou utilisez les touches fléchées. Un double-clic rétablit la valeur initiale.</translation>
     </message>
 </context>
 <context>
@@ -364,11 +364,11 @@
     </message>
     <message>
         <source>Copy as te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier comme te&amp;xte</translation>
     </message>
     <message>
         <source>Copy comma&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la co&amp;mmande</translation>
     </message>
 </context>
 <context>
@@ -439,39 +439,39 @@
     </message>
     <message>
         <source>Write to camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire dans la caméra</translation>
     </message>
     <message>
         <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille d’un pixel dans le plan de l’objet. Cette valeur est nécessaire aux longueurs et à la barre d’échelle.</translation>
     </message>
     <message>
         <source>Size of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille d’un pixel</translation>
     </message>
 </context>
 <context>
     <name>Encoder</name>
     <message>
         <source>ffmpeg cannot be started: %1</source>
-        <translation>Impossible de démarrer ffmpeg : %1</translation>
+        <translation>Impossible de démarrer ffmpeg&#xa0;: %1</translation>
     </message>
     <message>
         <source>ffmpeg has failed: %1</source>
-        <translation>ffmpeg a échoué : %1</translation>
+        <translation>ffmpeg a échoué&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>ffmpeg has not accepted an image for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg n’a accepté aucune image depuis %n&#xa0;seconde</numerusform>
+            <numerusform>ffmpeg n’a accepté aucune image depuis %n&#xa0;secondes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>ffmpeg has not ended after %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg n’est toujours pas terminé après %n&#xa0;seconde</numerusform>
+            <numerusform>ffmpeg n’est toujours pas terminé après %n&#xa0;secondes</numerusform>
         </translation>
     </message>
 </context>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>serial number of the camera</source>
-        <translation>n° de série de la caméra</translation>
+        <translation>n°&#xa0;de série de la caméra</translation>
     </message>
     <message>
         <source>date of the image, for example 2026-01-31</source>
@@ -521,7 +521,7 @@
     </message>
     <message>
         <source>next free number; {number:4} has at least four digits</source>
-        <translation>prochain numéro libre ; {number:4} a au moins quatre chiffres</translation>
+        <translation>prochain numéro libre&#xa0;; {number:4} a au moins quatre chiffres</translation>
     </message>
     <message>
         <source>frame ID of the image</source>
@@ -533,27 +533,27 @@
     </message>
     <message>
         <source>The name may contain these placeholders:</source>
-        <translation>Le nom peut contenir les champs suivants :</translation>
+        <translation>Le nom peut contenir les champs suivants&#xa0;:</translation>
     </message>
     <message>
         <source>a brace is missing; placeholders look like {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque une accolade&#xa0;; les champs s’écrivent comme {number}</translation>
     </message>
     <message>
         <source>the name must not contain &quot;/&quot;; choose the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom ne doit pas contenir «&#xa0;/&#xa0;»&#xa0;; choisissez le dossier ci-dessus</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom est vide</translation>
     </message>
     <message>
         <source>{%1} is not a placeholder; use one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} n’est pas un champ connu&#xa0;; champs possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} doit s’écrire comme {number:4}, avec 1 à %2 chiffres</translation>
     </message>
 </context>
 <context>
@@ -660,11 +660,11 @@
     </message>
     <message>
         <source>For example: %1</source>
-        <translation>Par exemple : %1</translation>
+        <translation>Par exemple&#xa0;: %1</translation>
     </message>
     <message>
         <source>Videos need the program ffmpeg, which is not installed. Install it with: %1</source>
-        <translation>Les vidéos nécessitent le programme ffmpeg, qui n’est pas installé. Pour l’installer : %1</translation>
+        <translation>Les vidéos nécessitent le programme ffmpeg, qui n’est pas installé. Pour l’installer&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Record</source>
@@ -680,39 +680,39 @@
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
-        <translation>Image enregistrée sous « %1 ».</translation>
+        <translation>Image enregistrée sous «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The folder for snapshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des captures et des séquences.</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;rcourir…</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture</translation>
     </message>
     <message>
         <source>Format of snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Format des captures</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la capture</translation>
     </message>
     <message>
         <source>Folder for snapshots and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des captures et des séquences</translation>
     </message>
     <message>
         <source>This name cannot be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce nom ne peut pas être utilisé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The camera is lost; the recording goes on when the camera is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à la caméra perdue&#xa0;; l’enregistrement reprendra à son retour. %1</translation>
     </message>
 </context>
 <context>
@@ -750,11 +750,11 @@
     <name>HistogramWidget</name>
     <message>
         <source>&lt; %1 %</source>
-        <translation>&lt; %1 %</translation>
+        <translation>&lt; %1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Black point</source>
@@ -788,15 +788,15 @@
     </message>
     <message>
         <source>%1 underexposed, %2 overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sous-exposés, %2 surexposés</translation>
     </message>
     <message>
-        <source>%1 underexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 dark</source>
+        <translation>%1 sous-exposés</translation>
     </message>
     <message>
-        <source>%1 overexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 bright</source>
+        <translation>%1 surexposés</translation>
     </message>
 </context>
 <context>
@@ -811,7 +811,7 @@
     </message>
     <message>
         <source>%1 by %2 pixels, shown at %3 %</source>
-        <translation>%1 × %2 pixels, affichage à %3 %</translation>
+        <translation>%1 × %2 pixels, affichage à %3&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -880,7 +880,7 @@
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
     </message>
     <message>
         <source>Locked while the camera streams.</source>
@@ -888,42 +888,42 @@
     </message>
     <message>
         <source>Not available because of the setting of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponible à cause du réglage de %1.</translation>
     </message>
 </context>
 <context>
     <name>LossAdvice</name>
     <message>
         <source>Packets are lost between camera and computer: check cable and switch, or reduce the frame rate or the region.</source>
-        <translation>Des paquets se perdent entre la caméra et l’ordinateur : vérifiez le câble et le switch, ou réduisez la fréquence d’images ou la région.</translation>
+        <translation>Des paquets se perdent entre la caméra et l’ordinateur&#xa0;: vérifiez le câble et le switch, ou réduisez la fréquence d’images ou la région.</translation>
     </message>
     <message>
         <source>Transfers are lost between camera and computer: check the cable, connect the camera without a hub, or reduce the frame rate or the region.</source>
-        <translation>Des transferts se perdent entre la caméra et l’ordinateur : vérifiez le câble, connectez la caméra sans hub, ou réduisez la fréquence d’images ou la région.</translation>
+        <translation>Des transferts se perdent entre la caméra et l’ordinateur&#xa0;: vérifiez le câble, connectez la caméra sans hub, ou réduisez la fréquence d’images ou la région.</translation>
     </message>
     <message>
         <source>The connection or the computer is too slow: reduce the frame rate or the region, or close other programs.</source>
-        <translation>La connexion ou l’ordinateur est trop lent : réduisez la fréquence d’images ou la région, ou fermez d’autres programmes.</translation>
+        <translation>La connexion ou l’ordinateur est trop lent&#xa0;: réduisez la fréquence d’images ou la région, ou fermez d’autres programmes.</translation>
     </message>
     <message numerus="yes">
         <source>No buffer was free for %n image(s). This computer is too slow at present: close other programs, record to a faster disk, or reduce the frame rate or the region.</source>
         <translation>
-            <numerusform>Aucun tampon libre pour %n image. Cet ordinateur est actuellement trop lent : fermez d’autres programmes, enregistrez sur un disque plus rapide, ou réduisez la fréquence d’images ou la région.</numerusform>
-            <numerusform>Aucun tampon libre pour %n images. Cet ordinateur est actuellement trop lent : fermez d’autres programmes, enregistrez sur un disque plus rapide, ou réduisez la fréquence d’images ou la région.</numerusform>
+            <numerusform>Aucun tampon libre pour %n&#xa0;image. Cet ordinateur est actuellement trop lent&#xa0;: fermez d’autres programmes, enregistrez sur un disque plus rapide, ou réduisez la fréquence d’images ou la région.</numerusform>
+            <numerusform>Aucun tampon libre pour %n&#xa0;images. Cet ordinateur est actuellement trop lent&#xa0;: fermez d’autres programmes, enregistrez sur un disque plus rapide, ou réduisez la fréquence d’images ou la région.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were lost or damaged in the last seconds.</source>
         <translation>
-            <numerusform>%n image perdue ou endommagée ces dernières secondes.</numerusform>
-            <numerusform>%n images perdues ou endommagées ces dernières secondes.</numerusform>
+            <numerusform>%n&#xa0;image perdue ou endommagée ces dernières secondes.</numerusform>
+            <numerusform>%n&#xa0;images perdues ou endommagées ces dernières secondes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) were incomplete in the last seconds.</source>
         <translation>
-            <numerusform>%n image incomplète ces dernières secondes.</numerusform>
-            <numerusform>%n images incomplètes ces dernières secondes.</numerusform>
+            <numerusform>%n&#xa0;image incomplète ces dernières secondes.</numerusform>
+            <numerusform>%n&#xa0;images incomplètes ces dernières secondes.</numerusform>
         </translation>
     </message>
 </context>
@@ -1054,7 +1054,7 @@
     </message>
     <message>
         <source>The pixel format is not known, so bytes are measured.</source>
-        <translation>Format de pixel inconnu : la mesure porte sur les octets.</translation>
+        <translation>Format de pixel inconnu&#xa0;: la mesure porte sur les octets.</translation>
     </message>
 </context>
 <context>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Check a&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier à &amp;nouveau</translation>
     </message>
     <message>
         <source>No camera found</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune caméra trouvée</translation>
     </message>
     <message>
         <source>The checks have found no problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vérifications n’ont révélé aucun problème.</translation>
     </message>
     <message>
         <source>Problems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Problèmes trouvés&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1112,7 +1112,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre.</translation>
     </message>
 </context>
 <context>
@@ -1209,7 +1209,7 @@
     <name>RecordingControl</name>
     <message>
         <source>no pictures arrive; start the live picture first</source>
-        <translation>aucune image reçue ; démarrez d’abord l’image en direct</translation>
+        <translation>aucune image reçue&#xa0;; démarrez d’abord l’image en direct</translation>
     </message>
     <message>
         <source>the camera was closed</source>
@@ -1217,25 +1217,25 @@
     </message>
     <message>
         <source>The recording ended because the limit of free space was reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement arrêté&#xa0;: limite d’espace libre atteinte.</translation>
     </message>
 </context>
 <context>
     <name>RecordingSummary</name>
     <message>
         <source>The recording did not begin: %1.</source>
-        <translation>L’enregistrement n’a pas démarré : %1.</translation>
+        <translation>L’enregistrement n’a pas démarré&#xa0;: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) recorded in %1 to &quot;%2&quot;.</source>
         <translation>
-            <numerusform>%n image enregistrée en %1 dans « %2 ».</numerusform>
-            <numerusform>%n images enregistrées en %1 dans « %2 ».</numerusform>
+            <numerusform>%n&#xa0;image enregistrée en %1 dans «&#xa0;%2&#xa0;».</numerusform>
+            <numerusform>%n&#xa0;images enregistrées en %1 dans «&#xa0;%2&#xa0;».</numerusform>
         </translation>
     </message>
     <message>
         <source>The recording ended early: %1.</source>
-        <translation>L’enregistrement s’est arrêté prématurément : %1.</translation>
+        <translation>L’enregistrement s’est arrêté prématurément&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No image is missing.</source>
@@ -1243,41 +1243,41 @@
     </message>
     <message>
         <source>The image format changed during the recording; the file describes each image.</source>
-        <translation>Le format d’image a changé pendant l’enregistrement ; le fichier décrit chaque image.</translation>
+        <translation>Le format d’image a changé pendant l’enregistrement&#xa0;; le fichier décrit chaque image.</translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) never arrived from the camera</source>
         <translation>
-            <numerusform>%n image jamais reçue de la caméra</numerusform>
-            <numerusform>%n images jamais reçues de la caméra</numerusform>
+            <numerusform>%n&#xa0;image jamais reçue de la caméra</numerusform>
+            <numerusform>%n&#xa0;images jamais reçues de la caméra</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) found no free buffer</source>
         <translation>
-            <numerusform>%n image sans tampon libre</numerusform>
-            <numerusform>%n images sans tampon libre</numerusform>
+            <numerusform>%n&#xa0;image sans tampon libre</numerusform>
+            <numerusform>%n&#xa0;images sans tampon libre</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be kept because the disk or the encoder is too slow</source>
         <translation>
-            <numerusform>%n image abandonnée, car le disque ou l’encodeur est trop lent</numerusform>
-            <numerusform>%n images abandonnées, car le disque ou l’encodeur est trop lent</numerusform>
+            <numerusform>%n&#xa0;image abandonnée, car le disque ou l’encodeur est trop lent</numerusform>
+            <numerusform>%n&#xa0;images abandonnées, car le disque ou l’encodeur est trop lent</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n image(s) could not be written</source>
         <translation>
-            <numerusform>%n image impossible à écrire</numerusform>
-            <numerusform>%n images impossibles à écrire</numerusform>
+            <numerusform>%n&#xa0;image impossible à écrire</numerusform>
+            <numerusform>%n&#xa0;images impossibles à écrire</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n recorded image(s) are incomplete</source>
         <translation>
-            <numerusform>%n image enregistrée incomplète</numerusform>
-            <numerusform>%n images enregistrées incomplètes</numerusform>
+            <numerusform>%n&#xa0;image enregistrée incomplète</numerusform>
+            <numerusform>%n&#xa0;images enregistrées incomplètes</numerusform>
         </translation>
     </message>
     <message>
@@ -1288,8 +1288,8 @@
     <message numerus="yes">
         <source>%n image(s)</source>
         <translation>
-            <numerusform>%n image</numerusform>
-            <numerusform>%n images</numerusform>
+            <numerusform>%n&#xa0;image</numerusform>
+            <numerusform>%n&#xa0;images</numerusform>
         </translation>
     </message>
     <message>
@@ -1300,17 +1300,17 @@
     <message numerus="yes">
         <source>%n image(s) waiting</source>
         <translation>
-            <numerusform>%n image en attente</numerusform>
-            <numerusform>%n images en attente</numerusform>
+            <numerusform>%n&#xa0;image en attente</numerusform>
+            <numerusform>%n&#xa0;images en attente</numerusform>
         </translation>
     </message>
     <message>
         <source>The camera was lost for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra a été momentanément déconnectée.</translation>
     </message>
     <message>
         <source>Lost or incomplete: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdues ou incomplètes&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1347,11 +1347,11 @@
     </message>
     <message>
         <source>The snapshot was not saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture non enregistrée&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture non enregistrée&#xa0;: des captures précédentes attendent encore le disque.</translation>
     </message>
 </context>
 <context>
@@ -1382,7 +1382,7 @@
     </message>
     <message>
         <source>Std. deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart type</translation>
     </message>
 </context>
 <context>
@@ -1397,7 +1397,7 @@
     </message>
     <message>
         <source>Buffers: %1</source>
-        <translation>Tampons : %1</translation>
+        <translation>Tampons&#xa0;: %1</translation>
     </message>
     <message>
         <source>No losses</source>
@@ -1432,7 +1432,7 @@
     </message>
     <message>
         <source>Images that were not drawn because the screen is slower than the camera. They are not lost: recordings contain them.</source>
-        <translation>Images non affichées, car l’écran est plus lent que la caméra. Elles ne sont pas perdues : les séquences enregistrées les contiennent.</translation>
+        <translation>Images non affichées, car l’écran est plus lent que la caméra. Elles ne sont pas perdues&#xa0;: les séquences enregistrées les contiennent.</translation>
     </message>
     <message>
         <source>Incomplete</source>
@@ -1456,7 +1456,7 @@
     </message>
     <message>
         <source>Images that were lost because no buffer was free: this computer was too slow.</source>
-        <translation>Images perdues faute de tampon libre : cet ordinateur était trop lent.</translation>
+        <translation>Images perdues faute de tampon libre&#xa0;: cet ordinateur était trop lent.</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -1521,11 +1521,11 @@
     </message>
     <message>
         <source>%1 lost</source>
-        <translation>perdues : %1</translation>
+        <translation>perdues&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation>incomplètes : %1</translation>
+        <translation>incomplètes&#xa0;: %1</translation>
     </message>
     <message>
         <source>no stream</source>
@@ -1539,7 +1539,7 @@
     <message>
         <source>%1: %2</source>
         <comment>name and value</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 images/s</source>
@@ -1563,11 +1563,11 @@
     </message>
     <message>
         <source>How often the camera was lost and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de fois où la caméra a été déconnectée, puis le flux repris à son retour.</translation>
     </message>
     <message>
         <source>%1 underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>sans tampon&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1589,15 +1589,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; does not exist any more.</source>
-        <translation>« %1 » n’existe plus.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’existe plus.</translation>
     </message>
     <message>
         <source>No program of this desktop opens &quot;%1&quot;.</source>
-        <translation>Aucun programme de ce bureau n’ouvre « %1 ».</translation>
+        <translation>Aucun programme de ce bureau n’ouvre «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Delete &quot;%1&quot; and its sidecar?</source>
-        <translation>Supprimer « %1 » et son fichier annexe ?</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;» et son fichier annexe&#xa0;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1605,7 +1605,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be deleted: %2.</source>
-        <translation>Impossible de supprimer « %1 » : %2.</translation>
+        <translation>Impossible de supprimer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&amp;Open</source>
@@ -1617,11 +1617,11 @@
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Captures</translation>
     </message>
     <message>
         <source>Delete snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la capture</translation>
     </message>
 </context>
 <context>
@@ -1663,7 +1663,7 @@
     </message>
     <message>
         <source>The guide cannot be opened: %1</source>
-        <translation>Impossible d’ouvrir le guide : %1</translation>
+        <translation>Impossible d’ouvrir le guide&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 of Corvix X, version %2.
@@ -1675,18 +1675,18 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de caméras…</translation>
     </message>
     <message>
         <source>Opening %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
     </message>
 </context>
 <context>
     <name>VideoWriter</name>
     <message>
         <source>videos need the program ffmpeg, which is not installed; install it with: %1</source>
-        <translation>les vidéos nécessitent le programme ffmpeg, qui n’est pas installé ; pour l’installer : %1</translation>
+        <translation>les vidéos nécessitent le programme ffmpeg, qui n’est pas installé&#xa0;; pour l’installer&#xa0;: %1</translation>
     </message>
     <message>
         <source>the images are too small for a video</source>
@@ -1694,7 +1694,7 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>the format of the images has changed, which a video cannot contain; start another recording</source>
-        <translation>le format des images a changé, ce qu’une vidéo ne peut pas contenir ; lancez un nouvel enregistrement</translation>
+        <translation>le format des images a changé, ce qu’une vidéo ne peut pas contenir&#xa0;; lancez un nouvel enregistrement</translation>
     </message>
 </context>
 <context>
@@ -1817,51 +1817,51 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Figer</translation>
     </message>
     <message>
         <source>Mark clipped &amp;pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer le&amp;s pixels écrêtés</translation>
     </message>
     <message>
         <source>Gri&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>Grill&amp;e</translation>
     </message>
     <message>
         <source>Draw a li&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer une &amp;ligne</translation>
     </message>
     <message>
         <source>Move the picture; in larger steps with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer l’image&#xa0;; avec Maj, d’un plus grand pas</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Inser</translation>
     </message>
     <message>
         <source>Draw a region or a line in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer une région ou une ligne au centre</translation>
     </message>
     <message>
         <source>Ctrl and arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl + touches fléchées</translation>
     </message>
     <message>
         <source>Move the drawn region or line; resize it with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer la région ou la ligne tracée&#xa0;; avec Maj, la redimensionner</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>Finish the region for the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Valider la région pour la caméra</translation>
     </message>
     <message>
         <source>Middle button, or Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton central ou Espace + glisser</translation>
     </message>
 </context>
 <context>
@@ -1916,7 +1916,7 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off in the panel &quot;Camera&quot;.</source>
-        <translation>La caméra attend un déclenchement. Déclenchez-la ou désactivez le mode de déclenchement dans le panneau « Caméra ».</translation>
+        <translation>La caméra attend un déclenchement. Déclenchez-la ou désactivez le mode de déclenchement dans le panneau «&#xa0;Caméra&#xa0;».</translation>
     </message>
     <message>
         <source>Draw the region that the camera shall send.</source>
@@ -1924,22 +1924,22 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux</translation>
     </message>
     <message>
         <source>The stream is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le flux est arrêté. Appuyez sur %1 pour le démarrer.</translation>
     </message>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image reçue pour l’instant. Le panneau «&#xa0;Flux&#xa0;» peut en indiquer la cause.</translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
         <source>The camera has no white balance ratios.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de facteurs de balance des blancs.</translation>
     </message>
 </context>
 </TS>

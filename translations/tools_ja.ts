@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>No camera matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」に一致するカメラはありません。</translation>
     </message>
 </context>
 <context>
@@ -250,19 +250,19 @@
     </message>
     <message>
         <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存すると、カメラ内の「%1」の内容が上書きされます。</translation>
     </message>
     <message>
         <source>Resulting rate</source>
-        <translation type="unfinished"></translation>
+        <translation>実効レート</translation>
     </message>
     <message>
         <source>Binning location</source>
-        <translation type="unfinished"></translation>
+        <translation>ビニング位置</translation>
     </message>
     <message>
         <source>Trigger type</source>
-        <translation type="unfinished"></translation>
+        <translation>トリガータイプ</translation>
     </message>
 </context>
 <context>
@@ -285,18 +285,18 @@
     </message>
     <message>
         <source>User-defined name</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー定義名</translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
         <source>Expanded group</source>
-        <translation type="unfinished"></translation>
+        <translation>展開されたグループ</translation>
     </message>
     <message>
         <source>Collapsed group</source>
-        <translation type="unfinished"></translation>
+        <translation>折りたたまれたグループ</translation>
     </message>
 </context>
 <context>
@@ -334,11 +334,11 @@
     </message>
     <message>
         <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの設定とその変化を表示します。設定は変更しません。</translation>
     </message>
     <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 にカメラとの接続が切れました。カメラが復帰すると自動的に再開します。</translation>
     </message>
 </context>
 <context>
@@ -364,11 +364,11 @@
     </message>
     <message>
         <source>Copy as te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストでコピー(&amp;X)</translation>
     </message>
     <message>
         <source>Copy comma&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドをコピー(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -439,15 +439,15 @@
     </message>
     <message>
         <source>Write to camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラに書き込み</translation>
     </message>
     <message>
         <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ピクセルに対応する被写体上の寸法。長さとスケールバーの表示に必要です。</translation>
     </message>
     <message>
         <source>Size of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル実寸</translation>
     </message>
 </context>
 <context>
@@ -462,14 +462,14 @@
     </message>
     <message numerus="yes">
         <source>ffmpeg has not accepted an image for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg が %n 秒間画像を受け取っていません</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>ffmpeg has not ended after %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg が %n 秒経過しても終了しません</numerusform>
         </translation>
     </message>
 </context>
@@ -535,23 +535,23 @@
     </message>
     <message>
         <source>a brace is missing; placeholders look like {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>波かっこが不足しています。プレースホルダーは {number} のように指定します</translation>
     </message>
     <message>
         <source>the name must not contain &quot;/&quot;; choose the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>名前に「/」は使用できません。フォルダーは上で選択してください</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>名前が空です</translation>
     </message>
     <message>
         <source>{%1} is not a placeholder; use one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} はプレースホルダーではありません。使用できるのは %2 です</translation>
     </message>
     <message>
         <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} は {number:4} のように 1~%2 桁で指定してください</translation>
     </message>
 </context>
 <context>
@@ -682,35 +682,35 @@
     </message>
     <message>
         <source>The folder for snapshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットと録画の保存先フォルダー。</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation type="unfinished"></translation>
+        <translation>選択(&amp;E)…</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショット</translation>
     </message>
     <message>
         <source>Format of snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットの形式</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを保存(&amp;S)</translation>
     </message>
     <message>
         <source>Folder for snapshots and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットと録画の保存先フォルダー</translation>
     </message>
     <message>
         <source>This name cannot be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前は使用できません: %1。</translation>
     </message>
     <message>
         <source>The camera is lost; the recording goes on when the camera is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラとの接続が切れました。復帰すると録画を再開します。%1</translation>
     </message>
 </context>
 <context>
@@ -786,15 +786,15 @@
     </message>
     <message>
         <source>%1 underexposed, %2 overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>黒つぶれ %1、白飛び %2</translation>
     </message>
     <message>
-        <source>%1 underexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 dark</source>
+        <translation>黒つぶれ %1</translation>
     </message>
     <message>
-        <source>%1 overexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 bright</source>
+        <translation>白飛び %1</translation>
     </message>
 </context>
 <context>
@@ -886,7 +886,7 @@
     </message>
     <message>
         <source>Not available because of the setting of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の設定により使用できません。</translation>
     </message>
 </context>
 <context>
@@ -1076,19 +1076,19 @@
     </message>
     <message>
         <source>Check a&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>再診断(&amp;G)</translation>
     </message>
     <message>
         <source>No camera found</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが見つかりません</translation>
     </message>
     <message>
         <source>The checks have found no problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>診断の結果、問題は見つかりませんでした。</translation>
     </message>
     <message>
         <source>Problems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかった問題: %1 件</translation>
     </message>
 </context>
 <context>
@@ -1107,7 +1107,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は数値ではありません。</translation>
     </message>
 </context>
 <context>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>The recording ended because the limit of free space was reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>空き容量が下限に達したため録画を終了しました。</translation>
     </message>
 </context>
 <context>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>The camera was lost for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの接続が一時切れました。</translation>
     </message>
     <message>
         <source>Lost or incomplete: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>欠落・不完全: %1。</translation>
     </message>
 </context>
 <context>
@@ -1334,11 +1334,11 @@
     </message>
     <message>
         <source>The snapshot was not saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを保存できませんでした: %1。</translation>
     </message>
     <message>
         <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>先のスナップショットがディスクへの書き込み待ちのため、保存できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Std. deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>標準偏差</translation>
     </message>
 </context>
 <context>
@@ -1550,11 +1550,11 @@
     </message>
     <message>
         <source>How often the camera was lost and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの切断後、復帰によりストリームが再開した回数。</translation>
     </message>
     <message>
         <source>%1 underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>アンダーラン %1</translation>
     </message>
 </context>
 <context>
@@ -1604,11 +1604,11 @@
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショット</translation>
     </message>
     <message>
         <source>Delete snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットの削除</translation>
     </message>
 </context>
 <context>
@@ -1662,11 +1662,11 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを検索中…</translation>
     </message>
     <message>
         <source>Opening %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を開いています…</translation>
     </message>
 </context>
 <context>
@@ -1804,51 +1804,51 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>フリーズ(&amp;Z)</translation>
     </message>
     <message>
         <source>Mark clipped &amp;pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>白飛び・黒つぶれを表示(&amp;P)</translation>
     </message>
     <message>
         <source>Gri&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>グリッド(&amp;D)</translation>
     </message>
     <message>
         <source>Draw a li&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation>ラインを指定(&amp;N)</translation>
     </message>
     <message>
         <source>Move the picture; in larger steps with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を移動 (Shift で大きく移動)</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert</translation>
     </message>
     <message>
         <source>Draw a region or a line in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中央に領域またはラインを指定</translation>
     </message>
     <message>
         <source>Ctrl and arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl + 矢印キー</translation>
     </message>
     <message>
         <source>Move the drawn region or line; resize it with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>指定した領域またはラインを移動 (Shift でサイズ変更)</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter</translation>
     </message>
     <message>
         <source>Finish the region for the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの送信領域を確定</translation>
     </message>
     <message>
         <source>Middle button, or Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>中ボタンまたは Space + ドラッグ</translation>
     </message>
 </context>
 <context>
@@ -1911,22 +1911,22 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリーム</translation>
     </message>
     <message>
         <source>The stream is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリームは停止しています。%1 キーで開始します。</translation>
     </message>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像をまだ受信していません。「ストリーム」パネルで原因を確認できる場合があります。</translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
         <source>The camera has no white balance ratios.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはホワイトバランスの係数がありません。</translation>
     </message>
 </context>
 </TS>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>No camera matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’에 해당하는 카메라가 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -250,19 +250,19 @@
     </message>
     <message>
         <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>저장하면 카메라의 ‘%1’ 내용을 덮어씁니다.</translation>
     </message>
     <message>
         <source>Resulting rate</source>
-        <translation type="unfinished"></translation>
+        <translation>실제 속도</translation>
     </message>
     <message>
         <source>Binning location</source>
-        <translation type="unfinished"></translation>
+        <translation>비닝 위치</translation>
     </message>
     <message>
         <source>Trigger type</source>
-        <translation type="unfinished"></translation>
+        <translation>트리거 유형</translation>
     </message>
 </context>
 <context>
@@ -285,18 +285,18 @@
     </message>
     <message>
         <source>User-defined name</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 지정 이름</translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
         <source>Expanded group</source>
-        <translation type="unfinished"></translation>
+        <translation>펼친 그룹</translation>
     </message>
     <message>
         <source>Collapsed group</source>
-        <translation type="unfinished"></translation>
+        <translation>접힌 그룹</translation>
     </message>
 </context>
 <context>
@@ -334,11 +334,11 @@
     </message>
     <message>
         <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 설정과 그 변화를 보여 줍니다. 설정은 변경하지 않습니다.</translation>
     </message>
     <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2에 카메라 연결이 끊겼습니다. 카메라가 다시 연결되면 자동으로 재개됩니다.</translation>
     </message>
 </context>
 <context>
@@ -364,11 +364,11 @@
     </message>
     <message>
         <source>Copy as te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트로 복사(&amp;X)</translation>
     </message>
     <message>
         <source>Copy comma&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>명령 복사(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -439,15 +439,15 @@
     </message>
     <message>
         <source>Write to camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 쓰기</translation>
     </message>
     <message>
         <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 하나에 해당하는 대상물의 크기입니다. 길이와 스케일 바를 표시하는 데 필요합니다.</translation>
     </message>
     <message>
         <source>Size of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀당 크기</translation>
     </message>
 </context>
 <context>
@@ -462,14 +462,14 @@
     </message>
     <message numerus="yes">
         <source>ffmpeg has not accepted an image for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg가 %n초 동안 이미지를 받지 않았습니다</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>ffmpeg has not ended after %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg가 %n초가 지나도 종료되지 않았습니다</numerusform>
         </translation>
     </message>
 </context>
@@ -535,23 +535,23 @@
     </message>
     <message>
         <source>a brace is missing; placeholders look like {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>중괄호가 빠졌습니다. 자리 표시자는 {number}와 같은 형식입니다</translation>
     </message>
     <message>
         <source>the name must not contain &quot;/&quot;; choose the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>이름에는 ‘/’를 쓸 수 없습니다. 폴더는 위에서 선택하십시오</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>이름이 비어 있습니다</translation>
     </message>
     <message>
         <source>{%1} is not a placeholder; use one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1}은(는) 자리 표시자가 아닙니다. 사용 가능: %2</translation>
     </message>
     <message>
         <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1}은(는) {number:4}와 같은 형식이어야 하며, 자릿수는 1~%2입니다</translation>
     </message>
 </context>
 <context>
@@ -682,35 +682,35 @@
     </message>
     <message>
         <source>The folder for snapshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷과 녹화 파일을 저장하는 폴더입니다.</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation type="unfinished"></translation>
+        <translation>선택(&amp;B)…</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷</translation>
     </message>
     <message>
         <source>Format of snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷 형식</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷 저장(&amp;S)</translation>
     </message>
     <message>
         <source>Folder for snapshots and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷 및 녹화 파일 폴더</translation>
     </message>
     <message>
         <source>This name cannot be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 이름은 사용할 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>The camera is lost; the recording goes on when the camera is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 연결이 끊겼습니다. 다시 연결되면 녹화를 계속합니다. %1</translation>
     </message>
 </context>
 <context>
@@ -786,15 +786,15 @@
     </message>
     <message>
         <source>%1 underexposed, %2 overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>노출 부족 %1, 노출 과다 %2</translation>
     </message>
     <message>
-        <source>%1 underexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 dark</source>
+        <translation>암부 %1</translation>
     </message>
     <message>
-        <source>%1 overexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 bright</source>
+        <translation>명부 %1</translation>
     </message>
 </context>
 <context>
@@ -886,7 +886,7 @@
     </message>
     <message>
         <source>Not available because of the setting of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 설정 때문에 사용할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1076,19 +1076,19 @@
     </message>
     <message>
         <source>Check a&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 점검(&amp;G)</translation>
     </message>
     <message>
         <source>No camera found</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 찾을 수 없습니다</translation>
     </message>
     <message>
         <source>The checks have found no problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>점검 결과 문제가 없습니다.</translation>
     </message>
     <message>
         <source>Problems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>발견된 문제: %1</translation>
     </message>
 </context>
 <context>
@@ -1107,7 +1107,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’은(는) 숫자가 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>The recording ended because the limit of free space was reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>남길 공간 한도에 도달하여 녹화가 종료되었습니다.</translation>
     </message>
 </context>
 <context>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>The camera was lost for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>한동안 카메라 연결이 끊겼습니다.</translation>
     </message>
     <message>
         <source>Lost or incomplete: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>손실·불완전: %1.</translation>
     </message>
 </context>
 <context>
@@ -1334,11 +1334,11 @@
     </message>
     <message>
         <source>The snapshot was not saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷을 저장하지 못했습니다: %1.</translation>
     </message>
     <message>
         <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 스냅샷이 아직 디스크 기록을 기다리고 있어 스냅샷을 저장하지 못했습니다.</translation>
     </message>
 </context>
 <context>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Std. deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 편차</translation>
     </message>
 </context>
 <context>
@@ -1550,11 +1550,11 @@
     </message>
     <message>
         <source>How often the camera was lost and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 연결이 끊겼다가 복구되어 스트림이 재개된 횟수입니다.</translation>
     </message>
     <message>
         <source>%1 underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>버퍼 부족 %1</translation>
     </message>
 </context>
 <context>
@@ -1604,11 +1604,11 @@
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷</translation>
     </message>
     <message>
         <source>Delete snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>스냅샷 삭제</translation>
     </message>
 </context>
 <context>
@@ -1662,11 +1662,11 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 검색 중…</translation>
     </message>
     <message>
         <source>Opening %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 여는 중…</translation>
     </message>
 </context>
 <context>
@@ -1804,51 +1804,51 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>화면 정지(&amp;Z)</translation>
     </message>
     <message>
         <source>Mark clipped &amp;pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>클리핑 픽셀 표시(&amp;P)</translation>
     </message>
     <message>
         <source>Gri&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>격자(&amp;D)</translation>
     </message>
     <message>
         <source>Draw a li&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation>선 그리기(&amp;N)</translation>
     </message>
     <message>
         <source>Move the picture; in larger steps with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 이동. Shift와 함께 누르면 더 많이 이동</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert</translation>
     </message>
     <message>
         <source>Draw a region or a line in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>가운데에 영역 또는 선 그리기</translation>
     </message>
     <message>
         <source>Ctrl and arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+화살표 키</translation>
     </message>
     <message>
         <source>Move the drawn region or line; resize it with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>그린 영역 또는 선 이동. Shift와 함께 누르면 크기 조정</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter</translation>
     </message>
     <message>
         <source>Finish the region for the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 전송할 영역 확정</translation>
     </message>
     <message>
         <source>Middle button, or Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>가운데 버튼 또는 Space+드래그</translation>
     </message>
 </context>
 <context>
@@ -1911,22 +1911,22 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>스트림</translation>
     </message>
     <message>
         <source>The stream is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>스트림이 중지되었습니다. 시작하려면 %1 키를 누르십시오.</translation>
     </message>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 수신한 이미지가 없습니다. ‘스트림’ 패널에서 원인을 확인할 수 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
         <source>The camera has no white balance ratios.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 화이트 밸런스 계수 기능이 없습니다.</translation>
     </message>
 </context>
 </TS>

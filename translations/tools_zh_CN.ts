@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>No camera matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有与“%1”匹配的相机。</translation>
     </message>
 </context>
 <context>
@@ -250,19 +250,19 @@
     </message>
     <message>
         <source>Saving replaces what is stored in the camera as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存将覆盖相机中的“%1”。</translation>
     </message>
     <message>
         <source>Resulting rate</source>
-        <translation type="unfinished"></translation>
+        <translation>实际速率</translation>
     </message>
     <message>
         <source>Binning location</source>
-        <translation type="unfinished"></translation>
+        <translation>合并位置</translation>
     </message>
     <message>
         <source>Trigger type</source>
-        <translation type="unfinished"></translation>
+        <translation>触发类型</translation>
     </message>
 </context>
 <context>
@@ -285,18 +285,18 @@
     </message>
     <message>
         <source>User-defined name</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义名称</translation>
     </message>
 </context>
 <context>
     <name>CollapsibleGroup</name>
     <message>
         <source>Expanded group</source>
-        <translation type="unfinished"></translation>
+        <translation>已展开的组</translation>
     </message>
     <message>
         <source>Collapsed group</source>
-        <translation type="unfinished"></translation>
+        <translation>已折叠的组</translation>
     </message>
 </context>
 <context>
@@ -334,11 +334,11 @@
     </message>
     <message>
         <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>只查看相机设置及其变化，不做更改。</translation>
     </message>
     <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 相机连接已于 %2 断开。相机恢复后程序将自动继续。</translation>
     </message>
 </context>
 <context>
@@ -364,11 +364,11 @@
     </message>
     <message>
         <source>Copy as te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>复制为文本(&amp;X)</translation>
     </message>
     <message>
         <source>Copy comma&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>复制命令(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -439,15 +439,15 @@
     </message>
     <message>
         <source>Write to camera</source>
-        <translation type="unfinished"></translation>
+        <translation>写入相机</translation>
     </message>
     <message>
         <source>What one pixel shows of the object. Lengths and the scale bar need this number.</source>
-        <translation type="unfinished"></translation>
+        <translation>一个像素对应的物方实际尺寸。长度测量和比例尺需要该值。</translation>
     </message>
     <message>
         <source>Size of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>像素当量</translation>
     </message>
 </context>
 <context>
@@ -462,14 +462,14 @@
     </message>
     <message numerus="yes">
         <source>ffmpeg has not accepted an image for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg 已有 %n 秒未接收图像</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>ffmpeg has not ended after %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ffmpeg 经过 %n 秒仍未结束</numerusform>
         </translation>
     </message>
 </context>
@@ -535,23 +535,23 @@
     </message>
     <message>
         <source>a brace is missing; placeholders look like {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少花括号；占位符的格式为 {number}</translation>
     </message>
     <message>
         <source>the name must not contain &quot;/&quot;; choose the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>名称不能包含“/”；请在上方选择文件夹</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>名称为空</translation>
     </message>
     <message>
         <source>{%1} is not a placeholder; use one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} 不是占位符；可用的占位符：%2</translation>
     </message>
     <message>
         <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>{%1} 的格式应类似 {number:4}，位数为 1 至 %2</translation>
     </message>
 </context>
 <context>
@@ -682,35 +682,35 @@
     </message>
     <message>
         <source>The folder for snapshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>快照和录制文件的保存文件夹。</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation type="unfinished"></translation>
+        <translation>选择(&amp;E)…</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>快照</translation>
     </message>
     <message>
         <source>Format of snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>快照格式</translation>
     </message>
     <message>
         <source>&amp;Save snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>保存快照(&amp;S)</translation>
     </message>
     <message>
         <source>Folder for snapshots and recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>快照和录制文件夹</translation>
     </message>
     <message>
         <source>This name cannot be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法使用此名称：%1。</translation>
     </message>
     <message>
         <source>The camera is lost; the recording goes on when the camera is back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>相机连接已断开；恢复后将继续录制。%1</translation>
     </message>
 </context>
 <context>
@@ -786,15 +786,15 @@
     </message>
     <message>
         <source>%1 underexposed, %2 overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 欠曝，%2 过曝</translation>
     </message>
     <message>
-        <source>%1 underexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 dark</source>
+        <translation>%1 欠曝</translation>
     </message>
     <message>
-        <source>%1 overexposed</source>
-        <translation type="unfinished"></translation>
+        <source>%1 bright</source>
+        <translation>%1 过曝</translation>
     </message>
 </context>
 <context>
@@ -886,7 +886,7 @@
     </message>
     <message>
         <source>Not available because of the setting of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>受 %1 的设置影响，当前不可用。</translation>
     </message>
 </context>
 <context>
@@ -1076,19 +1076,19 @@
     </message>
     <message>
         <source>Check a&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>重新检查(&amp;G)</translation>
     </message>
     <message>
         <source>No camera found</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到相机</translation>
     </message>
     <message>
         <source>The checks have found no problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>检查未发现问题。</translation>
     </message>
     <message>
         <source>Problems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>发现的问题：%1</translation>
     </message>
 </context>
 <context>
@@ -1107,7 +1107,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是数字。</translation>
     </message>
 </context>
 <context>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>The recording ended because the limit of free space was reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>因磁盘剩余空间达到下限，录制已停止。</translation>
     </message>
 </context>
 <context>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>The camera was lost for a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>期间相机曾断开连接。</translation>
     </message>
     <message>
         <source>Lost or incomplete: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>丢失或不完整：%1。</translation>
     </message>
 </context>
 <context>
@@ -1334,11 +1334,11 @@
     </message>
     <message>
         <source>The snapshot was not saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>快照未保存：%1。</translation>
     </message>
     <message>
         <source>The snapshot was not saved, because earlier ones still wait for the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>快照未保存，因为之前的快照仍在等待写入磁盘。</translation>
     </message>
 </context>
 <context>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Std. deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>标准差</translation>
     </message>
 </context>
 <context>
@@ -1550,11 +1550,11 @@
     </message>
     <message>
         <source>How often the camera was lost and the stream went on when it was back.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机断开后恢复并继续传输图像流的次数。</translation>
     </message>
     <message>
         <source>%1 underruns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 缓冲区不足</translation>
     </message>
 </context>
 <context>
@@ -1604,11 +1604,11 @@
     </message>
     <message>
         <source>Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>快照</translation>
     </message>
     <message>
         <source>Delete snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>删除快照</translation>
     </message>
 </context>
 <context>
@@ -1662,11 +1662,11 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在搜索相机…</translation>
     </message>
     <message>
         <source>Opening %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开 %1…</translation>
     </message>
 </context>
 <context>
@@ -1804,51 +1804,51 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>冻结(&amp;Z)</translation>
     </message>
     <message>
         <source>Mark clipped &amp;pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>标记过曝和欠曝像素(&amp;P)</translation>
     </message>
     <message>
         <source>Gri&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>网格(&amp;D)</translation>
     </message>
     <message>
         <source>Draw a li&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制直线(&amp;N)</translation>
     </message>
     <message>
         <source>Move the picture; in larger steps with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>移动图像；按住 Shift 可加大移动步幅</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert</translation>
     </message>
     <message>
         <source>Draw a region or a line in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>在中央绘制区域或直线</translation>
     </message>
     <message>
         <source>Ctrl and arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl + 方向键</translation>
     </message>
     <message>
         <source>Move the drawn region or line; resize it with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>移动绘制的区域或直线；按住 Shift 可调整大小</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>回车键</translation>
     </message>
     <message>
         <source>Finish the region for the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>确认相机的传输区域</translation>
     </message>
     <message>
         <source>Middle button, or Space and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>中键拖动，或空格键+拖动</translation>
     </message>
 </context>
 <context>
@@ -1911,22 +1911,22 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>图像流</translation>
     </message>
     <message>
         <source>The stream is stopped. Press %1 to start it.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像流已停止。按 %1 启动。</translation>
     </message>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未接收到图像。“图像流”面板可能会显示原因。</translation>
     </message>
 </context>
 <context>
     <name>WhiteBalanceCall</name>
     <message>
         <source>The camera has no white balance ratios.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有白平衡系数。</translation>
     </message>
 </context>
 </TS>

@@ -55,11 +55,18 @@ public:
     /// Does one random thing and waits until the picture goes on.
     void step()
     {
-        using Step = void (Session::*)();
-        constexpr Step steps[] = {&Session::zoom, &Session::zoom, &Session::turn, &Session::freeze,
-            &Session::changeFormat, &Session::changeRegion, &Session::save, &Session::record,
-            &Session::unplug, &Session::killHost};
-        (this->*steps[pick(int(std::size(steps)))])();
+        struct Step
+        {
+            const char *name;
+            void (Session::*run)();
+        };
+        constexpr Step steps[] = {{"zoom", &Session::zoom}, {"zoom", &Session::zoom},
+            {"turn", &Session::turn}, {"freeze", &Session::freeze}, {"format", &Session::changeFormat},
+            {"region", &Session::changeRegion}, {"snapshot", &Session::save}, {"record", &Session::record},
+            {"unplug", &Session::unplug}, {"kill", &Session::killHost}};
+        const Step &step = steps[pick(int(std::size(steps)))];
+        std::fprintf(stderr, "%s\n", step.name);
+        (this->*step.run)();
         m_viewer.awaitNewPicture();
     }
 

@@ -14,7 +14,7 @@ class Encoder
 
 public:
     /// How long the program may take nothing before it counts as hanging.
-    static constexpr int hangTimeout = 30'000; // Milliseconds.
+    static constexpr int hangTimeout = 30000; // Milliseconds.
 
     /// Starts the program. Returns false if that failed; see problem().
     bool start(const QStringList &arguments);

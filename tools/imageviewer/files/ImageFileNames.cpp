@@ -9,7 +9,7 @@ namespace {
 /// Returns the local time at which an image was received.
 QDateTime timeOf(const CvxCPP::Image &image)
 {
-    constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000, nanosecondsPerMillisecond = 1'000'000;
+    constexpr std::int64_t nanosecondsPerSecond = 1000000000, nanosecondsPerMillisecond = 1000000;
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
     const std::int64_t age = now.tv_sec * nanosecondsPerSecond + now.tv_nsec

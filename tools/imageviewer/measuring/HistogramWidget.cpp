@@ -266,9 +266,9 @@ void HistogramWidget::drawTexts(QPainter &painter, const QRectF &area) const
     const QRectF line(area.left(), 0, area.width(), area.top() - sideMargin / 2);
     const auto [dark, bright] = clipShares();
     painter.setPen(QColor(dark > 0 ? warningText : secondaryText));
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, tr("%1 underexposed").arg(percentText(dark)));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, tr("%1 dark").arg(percentText(dark)));
     painter.setPen(QColor(bright > 0 ? warningText : secondaryText));
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("%1 overexposed").arg(percentText(bright)));
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, tr("%1 bright").arg(percentText(bright)));
     if (m_pointer)
         drawPointer(painter, area, *m_pointer, pointerText());
 }

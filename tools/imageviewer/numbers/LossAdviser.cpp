@@ -25,7 +25,7 @@ void LossAdviser::clear()
 
 void LossAdviser::check(const LossQuestion &question)
 {
-    constexpr qint64 interval = 30'000;
+    constexpr qint64 interval = 30000;
     m_nextCheck.setRemainingTime(interval);
     m_isChecking = true;
     m_pool.start([this, question, generation = m_generation] {

@@ -2,7 +2,7 @@
 
 void LossWindow::add(std::int64_t milliseconds, const CvxCPP::StreamStatistics &totals)
 {
-    constexpr std::int64_t length = 10'000;
+    constexpr std::int64_t length = 10000;
     m_samples.push_back({milliseconds, {totals.lost, totals.incomplete, totals.underruns}});
     while (m_samples.size() > 1 && m_samples[1].milliseconds <= milliseconds - length)
         m_samples.pop_front();

@@ -16,7 +16,7 @@ struct NumberFeature
     std::int64_t factor;
 };
 
-constexpr std::int64_t bytesPerMegabit = 125'000;
+constexpr std::int64_t bytesPerMegabit = 125000;
 constexpr NumberFeature linkSpeedFeatures[] = {{"DeviceLinkSpeed", 1}, {"GevLinkSpeed", bytesPerMegabit}};
 constexpr NumberFeature packetSizeFeatures[]
     = {{"GevSCPSPacketSize", 1}, {"DeviceStreamChannelPacketSize", 1}};
