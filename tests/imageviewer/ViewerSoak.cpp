@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QProcess>
 
 #include <cstdio>
 #include <cstdlib>
@@ -153,11 +152,10 @@ private:
 
     void killHost()
     {
-        QProcess::execute(QStringLiteral("pkill"),
-            {QStringLiteral("--signal"), QStringLiteral("KILL"), QStringLiteral("--parent"),
-                QString::number(QCoreApplication::applicationPid()), QStringLiteral("CvxCameraHost")});
-        awaitState(CameraConnection::State::Lost);
-        awaitState(CameraConnection::State::Open);
+        const auto reopenCount = [this] { return m_viewer.window().stream().statistics().reopenCount; };
+        const std::uint32_t before = reopenCount();
+        m_viewer.killCameraHost();
+        ViewerUnderTest::await([&] { return reopenCount() > before; });
     }
 
     void awaitState(CameraConnection::State state)

@@ -2,8 +2,10 @@
 
 #include "tools/kit/measure/Measurements.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QProcess>
 #include <QTimer>
 
 ViewerUnderTest::ViewerUnderTest(const QString &camera, const QVariantMap &choices)
@@ -58,6 +60,15 @@ void ViewerUnderTest::awaitNewPicture()
     const auto frame = [this] { return canvas().picture().image->GetInfo().frameId; };
     const std::uint64_t before = frame();
     await([&] { return frame() > before + imagesOnTheWay || frame() < before; });
+}
+
+void ViewerUnderTest::killCameraHost()
+{
+    const int status = QProcess::execute(QStringLiteral("pkill"),
+        {QStringLiteral("--signal"), QStringLiteral("KILL"), QStringLiteral("--parent"),
+            QString::number(QCoreApplication::applicationPid()), QStringLiteral("CvxCameraHost")});
+    if (status != 0)
+        qFatal("There is no camera host to kill.");
 }
 
 void ViewerUnderTest::call(const CameraConnection::Call &call)

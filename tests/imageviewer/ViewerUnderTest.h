@@ -50,6 +50,9 @@ public:
     /// Waits until a picture is shown that was exposed after this call.
     void awaitNewPicture();
 
+    /// Kills the process of the camera. It may be back before the function returns.
+    void killCameraHost();
+
     /// Makes a call of the SDK and waits for its success.
     void call(const CameraConnection::Call &call);
 
