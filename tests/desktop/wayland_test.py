@@ -1,6 +1,5 @@
 """Tests the unchanged program under Wayland."""
 
-import glob
 import os
 import re
 import unittest
@@ -9,7 +8,7 @@ from desktop import BACKGROUND, DESKTOP, STAGE, DesktopLauncher, DesktopTest
 from launcher import wait_for, xdotool
 from screen import box_of, colour, grab
 
-ENTRY, = glob.glob(f"{STAGE}/share/applications/*.desktop")
+ENTRY = f"{STAGE}/share/applications/example.orvelle.CorvixLauncher.desktop"
 
 
 class WaylandLauncher(DesktopLauncher):

@@ -4,7 +4,7 @@ import os
 import signal
 import sys
 
-from launcher import Launcher, click, keep_to_this_machine, output_of, wait_for
+from launcher import Launcher, click, keep_to_this_machine, output_of, wait_for, xdotool
 from simulator import SimulatorConfiguration, rows_of
 
 STAGE, PLUGINS = sys.argv[1:]
@@ -43,8 +43,9 @@ def click_starts_the_tool_in_its_own_directory(launcher):
     assert os.readlink(f"/proc/{tool}/cwd") == directory
     inherited = connections_of(tool) & connections_of(launcher.process.pid)
     assert not inherited, f"the tool has inherited {inherited}"
-    wait_for("the tool opens the selected camera", lambda: output_of(
-        "xdotool", "search", "--onlyvisible", "--name", r"^Lintaro Qz40 TDI 16k \(L70881\) – Image Viewer$"))
+    window = wait_for("the tool opens the selected camera", lambda: output_of(
+        "xdotool", "search", "--onlyvisible", "--name", r"^Lintaro Qz40 TDI 16k \(L70881\) – Image Viewer$")).strip()
+    xdotool("windowminimize", "--sync", window)  # It would cover the launcher.
     return int(tool)
 
 

@@ -235,6 +235,8 @@ void TestViewer::everyControlHasAnAccessibleName()
 {
     ViewerUnderTest viewer("1002"_s);
     viewer.awaitPicture();
+    const auto *const panel = viewer.find<CameraPanel>();
+    ViewerUnderTest::await([&] { return panel->editor("ExposureTime"_s) != nullptr; });
     QSet<QWidget *> controls;
     const QList<QDockWidget *> docks = viewer.window().findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks) {

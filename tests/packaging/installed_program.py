@@ -8,7 +8,7 @@ import os
 import signal
 import sys
 
-from launcher import Launcher, click, keep_to_this_machine, output_of, wait_for
+from launcher import Launcher, click, keep_to_this_machine, output_of, wait_for, xdotool
 from simulator import SimulatorConfiguration, rows_of
 
 STAGE, PLUGINS, ROOT, PREFIX = sys.argv[1:]
@@ -21,6 +21,9 @@ try:
         wait_for("a tool is enabled", lambda: "Image Viewer" in launcher.enabled_tools())
         click(launcher.tiles()["Image Viewer"])
         tool = wait_for("the tool runs", lambda: output_of("pgrep", "--full", f"^[^ ]*{PREFIX}/bin/ImageViewer"))
+        window = wait_for("the tool shows its window", lambda: output_of(
+            "xdotool", "search", "--onlyvisible", "--name", "– Image Viewer$")).split()[0]
+        xdotool("windowminimize", "--sync", window)  # It would cover the launcher.
         click(launcher.find("pushButton_2"))
         assert launcher.process.wait(timeout=60) == 0, launcher.printed()
         assert launcher.printed() == "", launcher.printed()
