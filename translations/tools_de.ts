@@ -1129,6 +1129,10 @@
         <source>shown %1</source>
         <translation>Anzeige %1</translation>
     </message>
+    <message>
+        <source>unknown pixel format, byte %1</source>
+        <translation>unbekanntes Pixelformat, Byte %1</translation>
+    </message>
 </context>
 <context>
     <name>ProfileBox</name>

@@ -1129,6 +1129,10 @@
         <source>shown %1</source>
         <translation>affiché %1</translation>
     </message>
+    <message>
+        <source>unknown pixel format, byte %1</source>
+        <translation>format de pixel inconnu, octet %1</translation>
+    </message>
 </context>
 <context>
     <name>ProfileBox</name>

@@ -1124,6 +1124,10 @@
         <source>shown %1</source>
         <translation>표시 %1</translation>
     </message>
+    <message>
+        <source>unknown pixel format, byte %1</source>
+        <translation>알 수 없는 픽셀 포맷, 바이트 %1</translation>
+    </message>
 </context>
 <context>
     <name>ProfileBox</name>

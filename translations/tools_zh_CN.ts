@@ -1124,6 +1124,10 @@
         <source>shown %1</source>
         <translation>显示值 %1</translation>
     </message>
+    <message>
+        <source>unknown pixel format, byte %1</source>
+        <translation>未知像素格式，字节 %1</translation>
+    </message>
 </context>
 <context>
     <name>ProfileBox</name>

@@ -64,7 +64,9 @@ QString PictureReadout::describe(const ShownPicture &picture, const QPoint &pixe
     if (!picture.image || !QRect(QPoint(), picture.pictureSize).contains(pixel))
         return {};
     const QString position = tr("x %1, y %2").arg(pixel.x()).arg(pixel.y());
-    const QString raw = tr("raw %1").arg(rawText(picture, pixel));
+    const bool isKnown = findPixelFormat(picture.image->GetInfo().pixelFormat) != nullptr;
+    const QString values = rawText(picture, pixel);
+    const QString raw = isKnown ? tr("raw %1").arg(values) : tr("unknown pixel format, byte %1").arg(values);
     const QString shown = shownText(picture, pixel);
     const QString separator = QStringLiteral("  ·  ");
     return shown.isEmpty() ? position + separator + raw

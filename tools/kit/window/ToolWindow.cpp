@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QUrl>
@@ -229,7 +230,7 @@ void ToolWindow::showProblem(const QString &text)
 void ToolWindow::restoreLayout()
 {
     if (!restoreGeometry(m_settings.value(geometryKey, QByteArray())))
-        resize(1280, 860);
+        resize(QSize(1280, 860).boundedTo(screen()->availableSize() * 9 / 10));
     restoreState(m_settings.value(layoutKey, QByteArray()));
 }
 
