@@ -62,6 +62,7 @@ private slots:
     void drawnRegionBecomesTheRegionOfTheCamera();
     void unpluggedCameraGoesOnWhenItIsBack();
     void windowStaysUsableWhenTheHostCrashes();
+    void windowStaysUsableWhenTheHostHangs();
     void snapshotContainsTheRawValues();
     void recordingHasEveryFrameId();
     void cameraInUseCanBeWatched();
@@ -174,7 +175,19 @@ void TestViewer::windowStaysUsableWhenTheHostCrashes()
 {
     ViewerUnderTest viewer("1001"_s);
     viewer.awaitPicture();
-    viewer.killCameraHost();
+    ViewerUnderTest::signalCameraHost("KILL"_s);
+    ViewerUnderTest::await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
+    viewer.awaitNewPicture();
+}
+
+void TestViewer::windowStaysUsableWhenTheHostHangs()
+{
+    ViewerUnderTest viewer("1001"_s);
+    viewer.awaitPicture();
+    ViewerUnderTest::signalCameraHost("STOP"_s);
+    // The SDK ends a process that does not answer, and opens the camera again with what was written.
+    viewer.window().features().write("ExposureTime"_s, 2500.0);
+    viewer.action("Rotate right"_s).trigger();
     ViewerUnderTest::await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
     viewer.awaitNewPicture();
 }

@@ -154,7 +154,7 @@ private:
     {
         const auto reopenCount = [this] { return m_viewer.window().stream().statistics().reopenCount; };
         const std::uint32_t before = reopenCount();
-        m_viewer.killCameraHost();
+        ViewerUnderTest::signalCameraHost(QStringLiteral("KILL"));
         ViewerUnderTest::await([&] { return reopenCount() > before; });
     }
 

@@ -62,13 +62,13 @@ void ViewerUnderTest::awaitNewPicture()
     await([&] { return frame() > before + imagesOnTheWay || frame() < before; });
 }
 
-void ViewerUnderTest::killCameraHost()
+void ViewerUnderTest::signalCameraHost(const QString &signal)
 {
     const int status = QProcess::execute(QStringLiteral("pkill"),
-        {QStringLiteral("--signal"), QStringLiteral("KILL"), QStringLiteral("--parent"),
+        {QStringLiteral("--signal"), signal, QStringLiteral("--parent"),
             QString::number(QCoreApplication::applicationPid()), QStringLiteral("CvxCameraHost")});
     if (status != 0)
-        qFatal("There is no camera host to kill.");
+        qFatal("There is no camera host.");
 }
 
 void ViewerUnderTest::call(const CameraConnection::Call &call)

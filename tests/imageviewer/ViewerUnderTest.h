@@ -50,8 +50,9 @@ public:
     /// Waits until a picture is shown that was exposed after this call.
     void awaitNewPicture();
 
-    /// Kills the process of the camera. It may be back before the function returns.
-    void killCameraHost();
+    /// Sends a signal to the process of the camera, for example "KILL". A killed process may be back before
+    /// the function returns.
+    static void signalCameraHost(const QString &signal);
 
     /// Makes a call of the SDK and waits for its success.
     void call(const CameraConnection::Call &call);
