@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QProcess>
 #include <QPushButton>
 #include <QSet>
@@ -140,10 +141,15 @@ void TestViewer::drawnRegionBecomesTheRegionOfTheCamera()
     ImageCanvas &canvas = viewer.canvas();
     const QPoint from = canvas.view().toView(QPointF(64.5, 48.5)).toPoint();
     const QPoint to = canvas.view().toView(QPointF(191.5, 143.5)).toPoint();
-    QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
-    QTest::mouseMove(&canvas, (from + to) / 2);
-    QTest::mouseMove(&canvas, to);
-    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, to);
+    // QTest::mouseMove() moves the pointer of the X server, whose events would arrive later.
+    const auto send = [&](QEvent::Type type, const QPoint &position, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, position, canvas.mapToGlobal(position), Qt::LeftButton, buttons, {});
+        QCoreApplication::sendEvent(&canvas, &event);
+    };
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton);
+    send(QEvent::MouseMove, (from + to) / 2, Qt::LeftButton);
+    send(QEvent::MouseMove, to, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, to, Qt::NoButton);
     ViewerUnderTest::await([&] { return canvas.picture().pictureSize.width() < 320; });
     const CvxCPP::ImageInfo info = canvas.picture().image->GetInfo();
     const QRect region(int(info.offsetX), int(info.offsetY), int(info.width), int(info.height));
