@@ -126,9 +126,10 @@ TEST(GigECamera, programThatControlsTheCameraIsNamed)
 {
     constexpr std::size_t controllerAddress = 0x0A14;
     std::atomic<std::uint16_t> status{0};
-    Bytes controller;
+    std::atomic<bool> isNamed{true};
     const RegisterResponder camera([&](const Bytes &command, const Send &send) {
         const bool isAsked = number(command, 8, 4) == controllerAddress;
+        const Bytes controller = isNamed ? Bytes{10, 0, 2, 15} : Bytes{0, 0, 0, 0};
         send(isAsked ? RegisterResponder::answerTo(command, status, controller) : goodAnswer(command));
     });
     const auto text = [] {
@@ -140,9 +141,8 @@ TEST(GigECamera, programThatControlsTheCameraIsNamed)
         }
         return std::string("It is open.");
     };
-    controller = {10, 0, 2, 15};
     EXPECT_EQ(text(), "Cam is in use: a program at 10.0.2.15 controls it.");
-    controller = {0, 0, 0, 0};
+    isNamed = false;
     EXPECT_EQ(text(), "Cam is in use: another program controls it.");
     status = 0x8003;
     EXPECT_EQ(text(), "Cam is in use: another program controls it.") << "the camera has no such register";
