@@ -25,7 +25,8 @@ class Viewer:
         with open(f"{self.root}/cti/CorvixCameraSimulator.json", "w", encoding="utf-8") as file:
             json.dump({"interfaces": [{"id": "Sim", "tlType": "GEV", "devices": CAMERAS}]}, file)
         self.program = shutil.copy(bench.program("view"), f"{self.root}/bin")
-        self.environment = {**os.environ, "XDG_RUNTIME_DIR": self.root}
+        os.mkdir(f"{self.root}/run", 0o700)
+        self.environment = {**os.environ, "XDG_RUNTIME_DIR": f"{self.root}/run"}
 
     def run(self, *arguments):
         """Returns the numbers that the program prints."""
