@@ -138,7 +138,7 @@ TEST(QuirkStream, imagesLargerThanTheBuffersAreIncomplete)
 
 TEST(QuirkStream, lostImagesAreCounted)
 {
-    OpenedHost host("images 7\nframe-ids 65532 65534 65535 1 2 5 6\n");
+    OpenedHost host("images 7\ninterval 50000\nframe-ids 65532 65534 65535 1 2 5 6\n");
     host.stream(7);
     EXPECT_EQ(host.client.ring().counters.lost, 3U) << "65533, 3 and 4";
     EXPECT_TRUE(host.client.stopStream() && host.client.close());
