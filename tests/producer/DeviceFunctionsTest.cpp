@@ -298,8 +298,15 @@ TEST_F(DeviceFunctions, slowRegisterAccessDoesNotDelayTheStream)
     const EVENT_HANDLE event = registerEvent(stream, EVENT_NEW_BUFFER);
     std::future<std::uint64_t> access
         = std::async(std::launch::async, [this] { return readRegister(Registers::gate); });
-    while (readNumber(deviceInfo(DEVICE_INFO_ACCESS_STATUS), INFO_DATATYPE_INT32)
-        != DEVICE_ACCESS_STATUS_CUSTOM_ID)
+    // The status may change between two reads, so each is read once.
+    const auto accessStatus = [info = deviceInfo(DEVICE_INFO_ACCESS_STATUS)] {
+        std::int32_t status = 0;
+        std::size_t size = sizeof status;
+        INFO_DATATYPE type = INFO_DATATYPE_UNKNOWN;
+        EXPECT_EQ(info(&type, &status, &size), GC_ERR_SUCCESS);
+        return status;
+    };
+    while (accessStatus() != DEVICE_ACCESS_STATUS_CUSTOM_ID)
         std::this_thread::yield();
 
     queueBuffer();
