@@ -30,9 +30,9 @@ void TestViewerOnNetwork::cameraIsShownAndGoesOnAfterAPowerCycle()
     QVERIFY(!viewer.canvas().picture().pictureSize.isEmpty());
     camera.kill();
     QVERIFY(camera.waitForFinished());
-    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Lost; });
+    await([&] { return viewer.window().connection().state() == State::Lost; });
     switchOn(camera);
-    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
+    await([&] { return viewer.window().connection().state() == State::Open; });
     viewer.awaitNewPicture();
     camera.kill();
     QVERIFY(camera.waitForFinished());
