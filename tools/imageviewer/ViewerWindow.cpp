@@ -17,10 +17,10 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <chrono>
 #include <utility>
 
 namespace {
