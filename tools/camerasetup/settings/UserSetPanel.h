@@ -1,7 +1,9 @@
 #pragma once
 
+#include "sdk/features/UserSets.h"
 #include "tools/camerasetup/values/CameraJobs.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
+#include "tools/camerasetup/values/OpeningSnapshot.h"
 
 #include <QWidget>
 
@@ -16,9 +18,21 @@ class UserSetPanel : public QWidget
     Q_OBJECT
 
 public:
-    UserSetPanel(FeatureClient &client, CameraJobs &jobs, ChangeHistory &history, QWidget *parent = nullptr);
+    /// What the panel works with; everything outlives it.
+    struct Parts
+    {
+        FeatureClient &client;
+        CameraJobs &jobs;
+        ChangeHistory &history;
+        OpeningSnapshot &opening; ///< Tells how many settings a load would overwrite.
+    };
+
+    explicit UserSetPanel(const Parts &parts, QWidget *parent = nullptr);
 
 signals:
     /// A person wants to compare the camera with this set.
     void compareRequested(const QString &userSet);
+
+private:
+    const Parts m_parts;
 };
