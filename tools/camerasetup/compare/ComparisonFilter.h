@@ -1,8 +1,6 @@
 #pragma once
 
-#include "sdk/features/FeatureComparison.h"
-
-#include <QString>
+#include "tools/camerasetup/compare/DifferenceRow.h"
 
 /// Which features of a comparison are shown. By default, these are the differences that do not belong to one
 /// camera or one moment.
@@ -12,8 +10,7 @@ struct ComparisonFilter
     bool isIgnorableShown = false;
     QString search; ///< Part of a name, of a title or of a value; empty for no search.
 
-    /// @param texts What a person sees of the feature.
-    bool shows(const ComparedFeature &feature, const QStringList &texts) const;
+    bool shows(const DifferenceRow &row) const;
 };
 
 /// The numbers of a comparison.
@@ -23,7 +20,7 @@ struct ComparisonCounts
     int different = 0; ///< Likewise; includes the features that one side lacks.
     int ignorable = 0; ///< Differences that belong to one camera or one moment.
 
-    static ComparisonCounts of(const std::vector<ComparedFeature> &features);
+    static ComparisonCounts of(const std::vector<DifferenceRow> &rows);
 
     /// Returns the numbers as a sentence for people.
     QString summary(const ComparisonFilter &filter) const;

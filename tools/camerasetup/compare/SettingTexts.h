@@ -28,6 +28,7 @@ public:
     static QString rawTitle(const std::string &name, const std::vector<SelectorSetting> &selectors);
 
 private:
+    QString displayName(const std::string &name) const;
     const CvxCPP::NodeInfo *find(const std::string &name) const;
 
     const FeatureDirectory &m_left;

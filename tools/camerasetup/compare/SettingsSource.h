@@ -54,3 +54,6 @@ public:
 
     virtual void cancel() { } ///< Ends the running read or write soon.
 };
+
+/// Returns why a read has no result, for people; empty if it has one.
+QString readProblem(const CvxCPP::CvxResult &result, bool isCancelled);

@@ -33,6 +33,8 @@ public:
 
 private:
     SettingsSnapshot takeSnapshot(const UserSetVisit &visit) const;
+    SourceWriting takeWriting(const UserSetVisit &visit, const CvxCPP::CvxResult &result) const;
+    void noteRemaining(const UserSetVisit &visit); ///< Records what was not put back.
 
     const QString m_userSet;
     CameraConnection &m_connection;
