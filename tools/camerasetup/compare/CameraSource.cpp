@@ -1,0 +1,45 @@
+#include "tools/camerasetup/compare/CameraSource.h"
+
+#include "tools/camerasetup/values/ChangeHistory.h"
+
+using namespace CvxCPP;
+
+QString CameraSource::title() const
+{
+    return tr("This camera now");
+}
+
+void CameraSource::read(const std::vector<FeatureSetting> &others, const ReadDone &done)
+{
+    const auto reading = std::make_shared<SourceReading>();
+    const auto work = [reading, others](Device &device, const FeatureProgress &progress) {
+        return readSnapshot(device, others, reading->snapshot, progress);
+    };
+    m_jobs.start(tr("Reading the settings of this camera"), CameraJobs::StreamUse::Keep, work, &m_context,
+        [this, reading, done](const CvxResult &result) {
+            reading->snapshot.title = tr("This camera now");
+            reading->problem = readProblem(result, reading->snapshot.isCancelled);
+            done(*reading);
+        });
+}
+
+QString CameraSource::readOnlyReason() const
+{
+    return m_connection.isControlled() ? QString() : tr("This camera is not open for control.");
+}
+
+void CameraSource::write(const std::vector<FeatureSetting> &settings, const WriteDone &done)
+{
+    const auto writing = std::make_shared<SourceWriting>();
+    const auto work = [writing, settings](Device &device, const FeatureProgress &progress) {
+        FeatureFile file;
+        file.settings = settings;
+        return loadFeatures(device, file, writing->report, progress);
+    };
+    m_jobs.start(tr("Copying to this camera"), CameraJobs::StreamUse::Pause, work, &m_context,
+        [this, writing, done](const CvxResult &result) {
+            writing->problem = result ? QString() : QString::fromStdString(result.text);
+            m_history.addLoad(tr("Copy of differences"), writing->report);
+            done(*writing);
+        });
+}

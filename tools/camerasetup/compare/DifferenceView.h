@@ -1,0 +1,47 @@
+#pragma once
+
+#include "tools/camerasetup/compare/DifferenceModel.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QTreeView;
+
+/// The differences of two sides as a tree, with a search and filters above it and the numbers below it.
+class DifferenceView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DifferenceView(QWidget *parent = nullptr);
+
+    void setComparison(std::vector<DifferenceRow> rows, const QString &leftTitle, const QString &rightTitle);
+    void clear(const QString &hint); ///< Shows a sentence instead.
+
+    const DifferenceModel &model() const { return *m_model; }
+    std::vector<const DifferenceRow *> selectedRows() const;
+    QString summary() const;
+
+public slots:
+    void focusSearch();
+
+signals:
+    void featureRequested(const QString &name);
+    void choiceChanged(); ///< What is selected or checked.
+
+private:
+    void applyFilter();
+    void showSummary();
+    void requestFeature(const QModelIndex &index);
+
+    DifferenceModel *m_model;
+    QLineEdit *m_search;
+    QCheckBox *m_equal;
+    QCheckBox *m_ignorable;
+    QTreeView *m_tree;
+    QLabel *m_hint;
+    QLabel *m_summary;
+    ComparisonCounts m_counts;
+};

@@ -1,0 +1,84 @@
+#include "tools/camerasetup/compare/UserSetSource.h"
+
+#include "tools/camerasetup/values/ChangeHistory.h"
+
+using namespace CvxCPP;
+
+QString UserSetSource::title() const
+{
+    return tr("User set %1").arg(m_userSet);
+}
+
+QString UserSetSource::readQuestion() const
+{
+    return tr("The camera has to load the user set %1 to show it. The stream is stopped for this, and your "
+              "present settings are put back afterwards.")
+        .arg(m_userSet);
+}
+
+SettingsSnapshot UserSetSource::takeSnapshot(const UserSetVisit &visit) const
+{
+    SettingsSnapshot snapshot = visit.content;
+    snapshot.title = title();
+    snapshot.notes.insert(snapshot.notes.begin(), visit.notes.begin(), visit.notes.end());
+    return snapshot;
+}
+
+void UserSetSource::noteRemaining(const UserSetVisit &visit)
+{
+    if (!visit.remaining.empty())
+        m_history.addEdits(tr("Not put back after the user set %1").arg(m_userSet), visit.remaining);
+}
+
+void UserSetSource::read(const std::vector<FeatureSetting> &others, const ReadDone &done)
+{
+    const auto visit = std::make_shared<UserSetVisit>();
+    const auto work
+        = [visit, others, name = m_userSet.toStdString()](Device &device, const FeatureProgress &progress) {
+              return readUserSet(device, name, others, *visit, progress);
+          };
+    m_jobs.start(tr("Reading the user set %1").arg(m_userSet), CameraJobs::StreamUse::Pause, work, &m_context,
+        [this, visit, done](const CvxResult &result) {
+            noteRemaining(*visit);
+            done({takeSnapshot(*visit), readProblem(result, visit->content.isCancelled)});
+        });
+}
+
+QString UserSetSource::readOnlyReason() const
+{
+    return m_connection.isControlled() ? QString() : tr("This camera is not open for control.");
+}
+
+QString UserSetSource::writeQuestion(int count) const
+{
+    return tr("Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, "
+              "and then your present settings are put back. The stream is stopped for this.",
+        nullptr, count)
+        .arg(m_userSet);
+}
+
+void UserSetSource::write(const std::vector<FeatureSetting> &settings, const WriteDone &done)
+{
+    const auto visit = std::make_shared<UserSetVisit>();
+    const auto work
+        = [visit, settings, name = m_userSet.toStdString()](Device &device, const FeatureProgress &progress) {
+              return writeUserSet(device, name, settings, *visit, progress);
+          };
+    m_jobs.start(tr("Copying to the user set %1").arg(m_userSet), CameraJobs::StreamUse::Pause, work, &m_context,
+        [this, visit, done](const CvxResult &result) {
+            noteRemaining(*visit);
+            done(takeWriting(*visit, result));
+        });
+}
+
+SourceWriting UserSetSource::takeWriting(const UserSetVisit &visit, const CvxResult &result) const
+{
+    SourceWriting writing;
+    writing.report = visit.report;
+    writing.report.notes.insert(writing.report.notes.end(), visit.notes.begin(), visit.notes.end());
+    if (!result)
+        writing.problem = QString::fromStdString(result.text);
+    else if (!visit.content.isCancelled)
+        writing.after = takeSnapshot(visit);
+    return writing;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "tools/camerasetup/compare/SettingsSource.h"
+#include "tools/camerasetup/compare/UserSetWork.h"
+#include "tools/camerasetup/values/CameraJobs.h"
+
+#include <QCoreApplication>
+#include <QObject>
+
+class ChangeHistory;
+
+/// Settings that the connected camera keeps in itself. The camera has to load them to show them, so the
+/// settings from before are written back afterwards; what could not be written back is in the notes and in
+/// the history.
+class UserSetSource : public SettingsSource
+{
+    Q_DECLARE_TR_FUNCTIONS(UserSetSource)
+
+public:
+    /// The objects must outlive the source.
+    UserSetSource(
+        const QString &userSet, CameraConnection &connection, CameraJobs &jobs, ChangeHistory &history)
+        : m_userSet(userSet), m_connection(connection), m_jobs(jobs), m_history(history)
+    { }
+
+    QString title() const override;
+    QString readQuestion() const override;
+    void read(const std::vector<FeatureSetting> &others, const ReadDone &done) override;
+    QString readOnlyReason() const override;
+    QString writeQuestion(int count) const override;
+    void write(const std::vector<FeatureSetting> &settings, const WriteDone &done) override;
+    void cancel() override { m_jobs.cancel(); }
+
+private:
+    SettingsSnapshot takeSnapshot(const UserSetVisit &visit) const;
+    SourceWriting takeWriting(const UserSetVisit &visit, const CvxCPP::CvxResult &result) const;
+    void noteRemaining(const UserSetVisit &visit); ///< Records what was not put back.
+
+    const QString m_userSet;
+    CameraConnection &m_connection;
+    CameraJobs &m_jobs;
+    ChangeHistory &m_history;
+    QObject m_context; // Ends the callbacks of a source that is destroyed.
+};
