@@ -4,18 +4,16 @@
 #include "app/InterfaceObserver.h"
 #include "camera/CorvixCameraProvider.h"
 #include "config/InstallRootResolver.h"
+#include "desktop/StartTool.h"
 #include "ui/MainWindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
-#include <QFileInfo>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QStringList>
 #include <QSystemTrayIcon>
 #include <QThreadPool>
@@ -40,23 +38,6 @@ QVector<CameraInfo> scan(const CorvixCameraProvider *provider)
         qWarning("The camera scan failed: unknown exception");
     }
     return {};
-}
-
-/// Starts the program with its own directory as the working directory. The program finds the ID of the
-/// camera in its environment. Returns true only if a process was created.
-bool startTool(const QString &path, const QString &cameraId)
-{
-    const QFileInfo file(path);
-    if (!file.exists())
-        return false;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CORVIX_CAMERA"), cameraId);
-    QProcess process;
-    process.setProgram(path);
-    process.setWorkingDirectory(file.absolutePath());
-    process.setProcessEnvironment(environment);
-    qint64 processId = 0;
-    return process.startDetached(&processId) && processId > 0;
 }
 
 void clearOverrideCursors()

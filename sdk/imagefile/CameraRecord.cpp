@@ -2,23 +2,11 @@
 
 #include "sdk/imagefile/Sidecar.h"
 #include "sdk/imagefile/ValueJson.h"
+#include "sdk/names/CameraNames.h"
 
 using namespace CvxCPP;
 
 namespace {
-
-/// Calls a function that reads a string with two calls.
-template <typename Read>
-std::string readString(const Read &read)
-{
-    unsigned size = 0;
-    if (read(nullptr, size) != CvxErrorSuccess)
-        return {};
-    std::string text(size, '\0');
-    if (read(text.data(), size) != CvxErrorSuccess)
-        return {};
-    return text.c_str(); // Without the terminating NUL.
-}
 
 nlohmann::ordered_json readSettings(Device &device)
 {
@@ -46,12 +34,11 @@ nlohmann::ordered_json readSettings(Device &device)
 CameraRecord readCameraRecord(const Camera &camera, Device &device)
 {
     CameraRecord record;
-    record.id = readString([&](char *buffer, unsigned &size) { return camera.GetID(buffer, size, true); });
-    record.model = readString([&](char *buffer, unsigned &size) { return camera.GetModel(buffer, size); });
-    record.serialNumber
-        = readString([&](char *buffer, unsigned &size) { return camera.GetSerialNumber(buffer, size); });
-    record.userName
-        = readString([&](char *buffer, unsigned &size) { return camera.GetUserName(buffer, size); });
+    const CameraNames names = readCameraNames(camera);
+    record.id = names.extendedId;
+    record.model = names.model;
+    record.serialNumber = names.serial;
+    record.userName = names.userName;
     if (!device.ReadString("DeviceVendorName", record.vendor))
         record.vendor.clear();
     record.settingsTime = utcNow();

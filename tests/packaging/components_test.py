@@ -15,6 +15,7 @@ BUILD, STAGE = sys.argv[1:]
 COMPONENTS = {
     "launcher": (
         [r"bin/CorvixLauncher", r"bin/cvxctl", r"bin/CvxProducerHost", r"bin/CvxCameraHost", r"bin/ImageViewer",
+         r"bin/CameraSetup",
          r"bin/libCvxCPP\.so[.\d]*", r"bin/CvxC\.xml",
          r"doc/index\.html", r"doc/LICENSE", r"doc/THIRD-PARTY\.md", r"doc/CHANGELOG\.md",
          r"lib/udev/rules\.d/60-corvix-usb3-vision\.rules", r"share/applications/[^/]*\.desktop",
@@ -27,7 +28,7 @@ COMPONENTS = {
         [r"api/include/CvxCPP/CvxCPP\.h", r"api/examples/(list-cameras|save-image)/(main\.cpp|CMakeLists\.txt)",
          r"api/lib/cmake/CvxCPP/CvxCPPConfig\.cmake", r"api/lib/cmake/CvxCPP/CvxCPPTargets\.cmake"],
         [r"api/include/CvxCPP/[^/]*\.h", r"api/lib/cmake/CvxCPP/[^/]*\.cmake", r"bin/libCvxCPP\.so"]),
-    "demo": ([r"bin/CvxToolStandIn", r"bin/CameraSetup"], [r"bin/[A-Z]\w+"]),
+    "demo": ([r"bin/CvxToolStandIn", r"bin/PixelRepair"], [r"bin/[A-Z]\w+"]),
 }
 
 

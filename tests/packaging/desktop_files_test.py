@@ -16,7 +16,7 @@ import unittest
 import xml.etree.ElementTree
 
 STAGE, SOURCES = pathlib.Path(sys.argv.pop(1)), pathlib.Path(sys.argv.pop(1))
-IDS = ("example.orvelle.CorvixLauncher", "example.orvelle.ImageViewer")
+IDS = ("example.orvelle.CorvixLauncher", "example.orvelle.CameraSetup", "example.orvelle.ImageViewer")
 LANGUAGES = {path.stem.partition("_")[2] for path in SOURCES.glob("translations/corvix_*.ts")}
 
 

@@ -10,9 +10,9 @@ import subprocess
 import sys
 
 STAGE, KIND = pathlib.Path(sys.argv[1]), sys.argv[2]
-PROGRAMS = {"CorvixLauncher", "cvxctl", "CvxCameraHost", "CvxProducerHost", "CvxToolStandIn", "ImageViewer"}
+PROGRAMS = {"CameraSetup", "CorvixLauncher", "cvxctl", "CvxCameraHost", "CvxProducerHost", "CvxToolStandIn", "ImageViewer"}
 FORTIFIED = {"CvxProducerHost", "libCvxCPP.so", "CorvixCameraSimulator.cti"}  # These files use fortified functions.
-WITH_RUNPATH = {"CorvixLauncher", "ImageViewer", "cvxctl", "libCvxCPP.so"}  # These files load a library from their own directory.
+WITH_RUNPATH = {"CameraSetup", "CorvixLauncher", "ImageViewer", "cvxctl", "libCvxCPP.so"}  # These files load a library from their own directory.
 
 
 def readelf(option, path):

@@ -1,8 +1,8 @@
 #include "tools/cvxctl/CameraSession.h"
 
+#include "sdk/names/CameraMatch.h"
 #include "tools/cvxctl/Interruption.h"
 #include "tools/cvxctl/Terminal.h"
-#include "tools/kit/names/CameraMatch.h"
 
 #include <chrono>
 #include <thread>

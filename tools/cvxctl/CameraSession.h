@@ -1,8 +1,8 @@
 #pragma once
 
 #include "CvxCPP/Device.h"
+#include "sdk/names/CameraNames.h"
 #include "tools/cvxctl/ExitStatus.h"
-#include "tools/kit/names/CameraNames.h"
 
 #include <memory>
 #include <string>

@@ -273,7 +273,7 @@ void TestFeatureEditors::automaticFunctionLocksAndUpdates()
     WAIT_FOR(time->isEditable());
     bench.client.write(QStringLiteral("ExposureAuto"), std::string("Continuous"));
     WAIT_FOR(!time->isEditable());
-    WAIT_FOR_EQUAL(time->noteText(), "Locked while Exposure Auto is Continuous.");
+    WAIT_FOR_EQUAL(time->noteText(), "Locked while Exposure Auto is Continuous shown.");
     QVERIFY(!time->findChild<QLineEdit *>()->isEnabled());
     bench.device().setByCamera("ExposureTime", 250.0);
     WAIT_FOR_EQUAL(shown(*time), "250");

@@ -1,8 +1,10 @@
 #include "tools/imageviewer/files/FilesPanel.h"
 
 #include "tools/imageviewer/files/FfmpegCommand.h"
-#include "tools/imageviewer/files/PanelParts.h"
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/widgets/ComboBox.h"
+#include "tools/kit/widgets/Message.h"
+#include "tools/kit/widgets/VerticalScrollArea.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -13,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
@@ -51,10 +52,7 @@ FilesPanel::FilesPanel(
     for (QWidget *const part : {createPlace(), createSnapshot(), createRecording()})
         contentLayout->addWidget(part);
     contentLayout->addStretch();
-    auto *const scrollArea = new QScrollArea(this);
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollArea->setFrameShape(QFrame::NoFrame);
+    auto *const scrollArea = new VerticalScrollArea(this);
     scrollArea->setWidget(content);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});

@@ -3,18 +3,18 @@
 #include "sdk/image/PixelLayout.h"
 #include "sdk/image/RawImage.h"
 #include "tools/imageviewer/measuring/DisplayControls.h"
-#include "tools/imageviewer/measuring/Heading.h"
 #include "tools/imageviewer/measuring/HistogramWidget.h"
 #include "tools/imageviewer/measuring/PictureRules.h"
 #include "tools/imageviewer/measuring/ProfileBox.h"
 #include "tools/imageviewer/measuring/StatisticsTable.h"
 #include "tools/kit/picture/WhiteBalance.h"
+#include "tools/kit/widgets/Heading.h"
+#include "tools/kit/widgets/VerticalScrollArea.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -71,15 +71,11 @@ MeasuringPanel::MeasuringPanel(QWidget *parent)
     addDisplay(layout);
     layout->addStretch();
 
-    auto *const scrollArea = new QScrollArea;
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setFrameShape(QFrame::NoFrame);
-    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *const scrollArea = new VerticalScrollArea;
     scrollArea->setWidget(content);
     auto *const outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(scrollArea);
-    setMinimumWidth(content->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 void MeasuringPanel::addHistogram(QVBoxLayout *layout)

@@ -1,7 +1,7 @@
 #include "tools/imageviewer/measuring/ProfileBox.h"
 
-#include "tools/imageviewer/measuring/Heading.h"
 #include "tools/imageviewer/measuring/ProfileWidget.h"
+#include "tools/kit/widgets/Heading.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

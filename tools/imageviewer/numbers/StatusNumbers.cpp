@@ -1,9 +1,10 @@
 #include "tools/imageviewer/numbers/StatusNumbers.h"
 
+#include "tools/kit/widgets/Role.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QStyle>
 
 StatusNumbers::StatusNumbers(StreamMonitor &monitor, QWidget *parent)
     : QWidget(parent),
@@ -43,9 +44,7 @@ void StatusNumbers::showFigures(const StreamFigures &figures, const LossAdvice &
     m_losses->setText(losses.isEmpty() ? tr("No losses") : losses);
     m_losses->setToolTip(
         advice.text.isEmpty() ? tr("What was lost since the camera was opened.") : advice.text);
-    m_losses->setProperty("role", losses.isEmpty() ? QStringLiteral("secondary") : QStringLiteral("warning"));
-    m_losses->style()->unpolish(m_losses);
-    m_losses->style()->polish(m_losses); // The style sheet has rules for the property.
+    changeRole(m_losses, losses.isEmpty() ? "secondary" : "warning");
 }
 
 void StatusNumbers::mouseReleaseEvent(QMouseEvent *event)

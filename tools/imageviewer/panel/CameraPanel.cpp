@@ -4,12 +4,12 @@
 #include "tools/imageviewer/panel/FeatureRow.h"
 #include "tools/imageviewer/panel/PanelLayout.h"
 #include "tools/imageviewer/panel/RegionCall.h"
-#include "tools/imageviewer/panel/VerticalScrollArea.h"
 #include "tools/imageviewer/panel/WhiteBalanceCall.h"
 #include "tools/kit/editors/CommandButton.h"
 #include "tools/kit/editors/FeatureEditors.h"
 #include "tools/kit/editors/FeatureNote.h"
 #include "tools/kit/editors/StreamPauser.h"
+#include "tools/kit/widgets/VerticalScrollArea.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "tools/kit/camera/CameraEntry.h"
 
-#include "tools/kit/names/CameraMatch.h"
+#include "sdk/names/CameraMatch.h"
 
 #include <QStringList>
 

@@ -11,9 +11,7 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// A write waits until the running read has ended, so one read must not take long.
-constexpr int maxNamesPerRead = 32;
-
+constexpr milliseconds maxLoadTime{500}; // A window waits no longer for the states of a slow camera.
 constexpr milliseconds retryInterval{1000}; // After a read that has failed.
 
 bool areEqual(const NodeState &left, const NodeState &right)
@@ -29,15 +27,22 @@ bool areEqual(const NodeState &left, const NodeState &right)
 } // namespace
 
 FeatureClient::FeatureClient(CameraConnection &connection, QObject *parent)
-    : QObject(parent), m_connection(connection), m_readTimer(new QTimer(this)), m_pollTimer(new QTimer(this))
+    : QObject(parent),
+      m_connection(connection),
+      m_readTimer(new QTimer(this)),
+      m_loadTimer(new QTimer(this)),
+      m_pollTimer(new QTimer(this))
 {
     m_readTimer->setSingleShot(true);
     m_readTimer->setInterval(0);
+    m_loadTimer->setSingleShot(true);
+    m_loadTimer->setInterval(maxLoadTime);
     m_pollTimer->setSingleShot(true);
-    connect(m_readTimer, &QTimer::timeout, this, &FeatureClient::readDirty);
+    connect(m_readTimer, &QTimer::timeout, this, &FeatureClient::readWaiting);
+    connect(m_loadTimer, &QTimer::timeout, this, &FeatureClient::finishLoading);
     connect(m_pollTimer, &QTimer::timeout, this, &FeatureClient::poll);
     connect(&connection, &CameraConnection::stateChanged, this, &FeatureClient::followConnection);
-    connect(&connection, &CameraConnection::nodesChanged, this, &FeatureClient::addDirty);
+    connect(&connection, &CameraConnection::nodesChanged, this, &FeatureClient::readLater);
     followConnection();
 }
 
@@ -48,6 +53,7 @@ void FeatureClient::followConnection()
     const CameraConnection::State state = m_connection.state();
     if (state == CameraConnection::State::Opening) { // The results of the previous camera will not arrive.
         m_isReading = false;
+        m_batch = {};
         m_running.reset();
         m_operations.clear();
     }
@@ -63,15 +69,16 @@ void FeatureClient::forget()
     m_nodes.clear();
     m_indexes.clear();
     m_states.clear();
-    m_dirty.clear();
+    m_waiting.clear();
     m_pollTimes.clear();
+    m_loadTimer->stop();
     if (previous == Stage::Loaded)
         emit nodesGone();
 }
 
 void FeatureClient::load()
 {
-    m_stage = Stage::Loading;
+    m_stage = Stage::Listing;
     const auto nodes = std::make_shared<std::vector<NodeInfo>>();
     m_connection.run([nodes](Device &device) { return device.GetNodes(*nodes); }, this,
         [this, nodes](const CvxResult &result) { takeNodes(result, *nodes); });
@@ -79,16 +86,25 @@ void FeatureClient::load()
 
 void FeatureClient::takeNodes(const CvxResult &result, const std::vector<NodeInfo> &nodes)
 {
-    if (m_stage != Stage::Loading || !result)
+    if (m_stage != Stage::Listing || !result)
         return; // The camera was lost meanwhile; the connection reports that.
+    m_stage = Stage::Loading;
     m_nodes.clear();
     m_indexes.clear();
     for (const NodeInfo &node : nodes) {
         m_indexes.insert(QString::fromStdString(node.name), m_nodes.size());
         m_nodes.append(node);
     }
-    addDirty(m_watchCounts.keys());
-    readDirty();
+    m_loadTimer->start();
+    m_waiting.append(watchedOf(m_watchCounts.keys()));
+    readWaiting();
+}
+
+void FeatureClient::finishLoading()
+{
+    m_loadTimer->stop();
+    m_stage = Stage::Loaded;
+    emit nodesLoaded();
 }
 
 const NodeInfo *FeatureClient::info(const QString &name) const
@@ -122,7 +138,7 @@ void FeatureClient::watch(const QStringList &names)
         if (++m_watchCounts[name] == 1)
             added.append(name);
     }
-    addDirty(added);
+    readSoon(watchedOf(added));
 }
 
 void FeatureClient::unwatch(const QStringList &names)
@@ -132,61 +148,83 @@ void FeatureClient::unwatch(const QStringList &names)
             continue;
         m_watchCounts.remove(name);
         m_pollTimes.remove(name);
+        m_waiting.remove(name);
     }
 }
 
-/// Reads those of the features that are watched and that the camera has.
-void FeatureClient::addDirty(const QStringList &names)
+/// Returns those of the features that are watched and that the camera has.
+QStringList FeatureClient::watchedOf(const QStringList &names) const
 {
+    QStringList watched;
     for (const QString &name : names) {
         if (m_watchCounts.contains(name) && m_indexes.contains(name))
-            m_dirty.insert(name);
+            watched.append(name);
     }
-    if (!m_dirty.isEmpty())
+    return watched;
+}
+
+/// Reads those of the features that are watched, after the ones that wait already.
+void FeatureClient::readLater(const QStringList &names)
+{
+    m_waiting.append(watchedOf(names));
+    if (!m_waiting.isEmpty())
         m_readTimer->start();
 }
 
-/// Reads some of the features that have to be read, unless a read is running.
-void FeatureClient::readDirty()
+/// Reads the features before those that wait.
+void FeatureClient::readSoon(const QStringList &names)
 {
-    if (m_isReading || m_stage == Stage::Gone)
+    if (names.isEmpty())
         return;
-    if (m_dirty.isEmpty()) {
-        startPollTimer();
-        if (m_stage == Stage::Loading && !m_nodes.isEmpty()) {
-            m_stage = Stage::Loaded;
-            emit nodesLoaded();
-        }
-        return;
-    }
-    Names names;
-    for (auto name = m_dirty.begin(); name != m_dirty.end() && names.size() < maxNamesPerRead;) {
-        names.push_back(name->toStdString());
-        name = m_dirty.erase(name);
-    }
-    read(names);
+    m_waiting.prepend(names);
+    m_readTimer->start();
 }
 
-void FeatureClient::read(const Names &names)
+/// Reads some of the features that have to be read, unless a read is running.
+void FeatureClient::readWaiting()
+{
+    m_waiting.endGroup();
+    if (m_isReading || m_stage == Stage::Gone || m_stage == Stage::Listing)
+        return;
+    if (!m_waiting.isEmpty())
+        return read(m_waiting.take(m_batch.size()));
+    startPollTimer();
+    if (m_stage == Stage::Loading)
+        finishLoading();
+}
+
+void FeatureClient::read(const QStringList &names)
 {
     m_isReading = true;
-    const auto states = std::make_shared<States>();
-    m_connection.run([names, states](Device &device) { return device.ReadStates(names, *states); }, this,
-        [this, names, states](const CvxResult &result) { takeStates(result, names, *states); });
+    const auto read = std::make_shared<Read>();
+    read->names = names;
+    const auto call = [read](Device &device) {
+        std::vector<std::string> asked;
+        for (const QString &name : read->names)
+            asked.push_back(name.toStdString());
+        const auto start = std::chrono::steady_clock::now();
+        const CvxResult result = device.ReadStates(asked, read->states);
+        read->duration = std::chrono::steady_clock::now() - start;
+        return result;
+    };
+    m_connection.run(call, this, [this, read](const CvxResult &result) { takeRead(result, *read); });
 }
 
-void FeatureClient::takeStates(const CvxResult &result, const Names &names, const States &states)
+void FeatureClient::takeRead(const CvxResult &result, const Read &read)
 {
     m_isReading = false;
+    // Other failures are fast and say nothing about the camera's speed.
+    if (result || result.code == CvxErrorTimeout)
+        m_batch.wasRead(static_cast<std::size_t>(read.names.size()), read.duration);
     if (m_stage == Stage::Gone)
         return;
-    for (const NodeState &state : states) // None after a failure.
+    for (const NodeState &state : read.states) // None after a failure.
         takeState(state);
     if (!result) {
-        for (const std::string &name : names)
-            m_pollTimes.wasRead(QString::fromStdString(name), retryInterval, PollTimes::Clock::now());
+        for (const QString &name : read.names)
+            m_pollTimes.wasRead(name, retryInterval, PollTimes::Clock::now());
     }
-    readDirty();
+    readWaiting();
 }
 
 void FeatureClient::takeState(const NodeState &state)
@@ -209,7 +247,7 @@ void FeatureClient::takeState(const NodeState &state)
 
 void FeatureClient::poll()
 {
-    addDirty(m_pollTimes.takeDue(PollTimes::Clock::now()));
+    readLater(m_pollTimes.takeDue(PollTimes::Clock::now()));
     startPollTimer();
 }
 
@@ -258,24 +296,47 @@ void FeatureClient::takeOperation(const CvxResult &result)
 {
     const FeatureOperation done = *std::exchange(m_running, std::nullopt);
     runNextOperation();
-    if (m_indexes.contains(done.name)) {
-        m_dirty.insert(done.name);
-        m_readTimer->start();
-    }
+    if (m_indexes.contains(done.name))
+        readSoon({done.name});
     if (!result)
         emit failed(done.name, QString::fromStdString(result.text));
     else if (done.value)
         takeWritten(done.name, *done.value);
+    else
+        emit executed(done.name);
+}
+
+void FeatureClient::takeWritten(const QString &name, const NodeValue &value)
+{
+    const auto known = m_states.constFind(name);
+    const NodeValue before = known == m_states.constEnd() ? NodeValue() : known->value;
+    storeValue(name, value);
+    emit written(name, before, value);
 }
 
 /// Stores the value that the camera has accepted, so the next write knows what it replaces.
-void FeatureClient::takeWritten(const QString &name, const NodeValue &value)
+void FeatureClient::storeValue(const QString &name, const NodeValue &value)
 {
     const auto known = m_states.find(name);
-    const NodeValue before = known == m_states.end() ? NodeValue() : known->value;
-    if (known != m_states.end() && known->value != value) {
-        known->value = value;
-        emit stateChanged(name);
-    }
-    emit written(name, before, value);
+    if (known == m_states.end() || known->value == value)
+        return;
+    known->value = value;
+    emit stateChanged(name);
+}
+
+void FeatureClient::noteWritten(const QString &name, const NodeValue &before, const NodeValue &after)
+{
+    if (m_indexes.contains(name))
+        readSoon({name});
+    const NodeState *const known = state(name);
+    if (known && known->value == before) // Otherwise, a newer value was read meanwhile.
+        storeValue(name, after);
+    emit written(name, before, after);
+}
+
+void FeatureClient::noteExecuted(const QString &name)
+{
+    if (m_indexes.contains(name))
+        readSoon({name});
+    emit executed(name);
 }

@@ -4,11 +4,12 @@
 #include "tools/kit/camera/CameraConnection.h"
 #include "tools/kit/camera/FeatureOperations.h"
 #include "tools/kit/camera/PollTimes.h"
+#include "tools/kit/camera/ReadBatch.h"
+#include "tools/kit/camera/ReadQueue.h"
 
 #include <QHash>
 #include <QMetaType>
 #include <QObject>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -24,7 +25,8 @@ class QTimer;
 
 /// The features of the connected camera for a user interface: answers at once with what was read last, and
 /// reads, writes and executes in the background. Watched features are read after every change that the camera
-/// reports, and as often as the camera's description asks, but at most five times per second.
+/// reports, and as often as the camera's description asks, but at most five times per second. Features that
+/// are newly watched are read before the others, and slow cameras are asked for few features at a time.
 class FeatureClient : public QObject
 {
     Q_OBJECT
@@ -49,7 +51,7 @@ public:
     QString firstKnown(const QStringList &names) const;
 
     /// Keeps these features up to date until unwatch() is called as often as watch(). Names that the camera
-    /// does not have are remembered for the next camera.
+    /// does not have are remembered for the next camera. The features of the last call are read first.
     void watch(const QStringList &names);
     void unwatch(const QStringList &names);
 
@@ -63,9 +65,16 @@ public:
     /// Returns true while a write of this feature is waiting or running.
     bool isWriting(const QString &name) const;
 
+    /// Reports a change that was made with CameraConnection::run(), as if write() had made it: the feature is
+    /// read again, and written() is emitted.
+    void noteWritten(const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
+
+    /// Reports a command that was executed with CameraConnection::run().
+    void noteExecuted(const QString &name);
+
 signals:
-    /// The camera was opened, or is another one: all features are new. The features that are watched already
-    /// have a state, unless they cannot be read.
+    /// The camera was opened, or is another one: all features are new. Usually, the watched features have a
+    /// state. If the camera is slow, some of them do not: stateChanged() follows when they were read.
     void nodesLoaded();
 
     /// The camera is closed or lost: no feature has a state.
@@ -77,6 +86,9 @@ signals:
     /// A write has succeeded. `before` has no value if the feature had not been read.
     void written(const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
 
+    /// The camera has accepted a command; NodeState::isCommandDone says when it is done.
+    void executed(const QString &name);
+
     /// A write or a command has failed; `text` is for people.
     void failed(const QString &name, const QString &text);
 
@@ -84,21 +96,31 @@ private:
     enum class Stage
     {
         Gone,
-        Loading, ///< The list of nodes, or the first states, are being read.
+        Listing, ///< The list of nodes is being read.
+        Loading, ///< The first states are being read.
         Loaded
     };
-    using Names = std::vector<std::string>;
-    using States = std::vector<CvxCPP::NodeState>;
+
+    /// One call that reads features.
+    struct Read
+    {
+        QStringList names;
+        std::vector<CvxCPP::NodeState> states;
+        ReadBatch::Duration duration{}; ///< Without the time before the call has begun.
+    };
 
     void followConnection();
     void load();
     void takeNodes(const CvxCPP::CvxResult &result, const std::vector<CvxCPP::NodeInfo> &nodes);
+    void finishLoading();
     void forget();
 
-    void addDirty(const QStringList &names);
-    void readDirty();
-    void read(const Names &names);
-    void takeStates(const CvxCPP::CvxResult &result, const Names &names, const States &states);
+    QStringList watchedOf(const QStringList &names) const;
+    void readLater(const QStringList &names);
+    void readSoon(const QStringList &names);
+    void readWaiting();
+    void read(const QStringList &names);
+    void takeRead(const CvxCPP::CvxResult &result, const Read &read);
     void takeState(const CvxCPP::NodeState &state);
     void poll();
     void startPollTimer();
@@ -106,6 +128,7 @@ private:
     void runNextOperation();
     void takeOperation(const CvxCPP::CvxResult &result);
     void takeWritten(const QString &name, const CvxCPP::NodeValue &value);
+    void storeValue(const QString &name, const CvxCPP::NodeValue &value);
 
     CameraConnection &m_connection;
     Stage m_stage = Stage::Gone;
@@ -114,9 +137,11 @@ private:
     QHash<QString, CvxCPP::NodeState> m_states;
     QHash<QString, int> m_watchCounts;
 
-    QSet<QString> m_dirty; // To be read.
+    ReadQueue m_waiting; // To be read.
+    ReadBatch m_batch;
     bool m_isReading = false;
     QTimer *m_readTimer; // Turns several changes into one read.
+    QTimer *m_loadTimer; // Bounds the stage Loading.
     PollTimes m_pollTimes;
     QTimer *m_pollTimer;
 

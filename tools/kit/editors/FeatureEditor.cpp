@@ -1,9 +1,6 @@
 #include "tools/kit/editors/FeatureEditor.h"
 
 #include "tools/kit/editors/FeatureNote.h"
-#include "tools/kit/editors/LockText.h"
-#include "tools/kit/editors/NumberText.h"
-#include "tools/kit/editors/StreamPauser.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -23,16 +20,6 @@ constexpr int noteRow = 9; ///< The wide controls are between the two rows.
 constexpr int columns = 2;
 constexpr int columnGap = 8;
 constexpr int rowGap = 2;
-
-/// Returns the value of a switch or a mode as text; empty for values that say little without a unit.
-QString modeText(const CvxCPP::NodeValue &value)
-{
-    if (const auto *const name = std::get_if<std::string>(&value))
-        return QString::fromStdString(*name);
-    if (const auto *const isOn = std::get_if<bool>(&value))
-        return *isOn ? FeatureEditor::tr("on") : FeatureEditor::tr("off");
-    return {};
-}
 
 /// Returns true if the line below the control says why the feature is locked. A value that the camera only
 /// reports needs no excuse, and that nothing can be changed while watching is said once by the window.
@@ -64,6 +51,9 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
 
     connect(m_note, &FeatureNote::accepted, this, &FeatureEditor::acceptQuestion);
     connect(m_note, &FeatureNote::rejected, this, &FeatureEditor::rejectQuestion);
+    connect(m_note, &FeatureNote::unlockRequested, this, &FeatureEditor::unlock);
+    connect(m_note, &FeatureNote::featureRequested, this,
+        [this] { emit featureRequested(advice().lockingFeature); });
     connect(&client, &FeatureClient::stateChanged, this, &FeatureEditor::onStateChanged);
     connect(&client, &FeatureClient::written, this, &FeatureEditor::onWritten);
     connect(&client, &FeatureClient::failed, this, &FeatureEditor::onFailed);
@@ -107,6 +97,12 @@ void FeatureEditor::setStreamPauser(StreamPauser *pauser)
     refresh();
 }
 
+void FeatureEditor::setLockHelp(bool isOffered)
+{
+    m_hasLockHelp = isOffered;
+    refresh();
+}
+
 bool FeatureEditor::isEditable() const
 {
     const CvxCPP::NodeState *const read = state();
@@ -118,33 +114,22 @@ bool FeatureEditor::isEditable() const
 
 QString FeatureEditor::lockReason() const
 {
+    return advice().reason;
+}
+
+/// Returns no advice if the feature can be changed.
+LockAdvice FeatureEditor::advice() const
+{
     const CvxCPP::NodeState *const read = state();
     if (!read || isEditable())
         return {};
     const QString lockingNode = QString::fromStdString(read->lockingNode);
-    const CvxCPP::NodeInfo *const lockingInfo = m_client->info(lockingNode);
-    const CvxCPP::NodeState *const lockingState = m_client->state(lockingNode);
-    return lockText(*read, lockingInfo ? QString::fromStdString(lockingInfo->displayName) : lockingNode,
-        lockingState ? modeText(lockingState->value) : QString());
+    return lockAdvice(*read, m_client->info(lockingNode), m_client->state(lockingNode));
 }
 
 QString FeatureEditor::noteText() const
 {
     return m_note->text();
-}
-
-void FeatureEditor::acceptQuestion()
-{
-    const std::function<void()> action = std::exchange(m_action, {});
-    showNote();
-    if (action)
-        action();
-}
-
-void FeatureEditor::rejectQuestion()
-{
-    m_action = {};
-    refresh();
 }
 
 void FeatureEditor::setControl(QWidget *control)
@@ -167,42 +152,6 @@ void FeatureEditor::hideLabel()
     m_label->hide();
 }
 
-void FeatureEditor::submit(const CvxCPP::NodeValue &value)
-{
-    forgetMessages();
-    m_submitted = value;
-    const CvxCPP::NodeState *const read = state();
-    if (read && read->value == value && !m_client->isWriting(m_feature)) {
-        rejectQuestion(); // The change was taken back.
-        return;
-    }
-    if (read && read->lockReason == LockReason::StreamRunning && m_pauser) {
-        askToPause([name = m_info.name, value](CvxCPP::Device &device) { return device.Write(name, value); });
-        return;
-    }
-    m_client->write(m_feature, value);
-    showNote();
-}
-
-void FeatureEditor::execute()
-{
-    forgetMessages();
-    const CvxCPP::NodeState *const read = state();
-    if (read && read->lockReason == LockReason::StreamRunning && m_pauser) {
-        askToPause([name = m_info.name](CvxCPP::Device &device) { return device.Execute(name); });
-        return;
-    }
-    m_client->execute(m_feature);
-    showNote();
-}
-
-void FeatureEditor::ask(const QString &question, const QString &acceptText, std::function<void()> action)
-{
-    forgetMessages();
-    m_action = std::move(action);
-    m_note->showQuestion(question, acceptText);
-}
-
 void FeatureEditor::showRemark(const QString &text)
 {
     m_remark = text;
@@ -221,6 +170,7 @@ void FeatureEditor::refresh()
         m_action = {};
         m_isPausing = false; // If another camera is opened, the result never arrives.
     }
+    followLockingFeature();
     // The question is about the value that is shown, so this value stays until the answer.
     if (read && !m_action && !m_isPausing && !m_client->isWriting(m_feature))
         showState(*read);
@@ -264,7 +214,7 @@ void FeatureEditor::onStateChanged(const QString &name)
     const bool isOwn = name == m_feature;
     if (isOwn && read && read->value != m_submitted && !m_isPausing)
         m_remark.clear(); // It was about a value that is gone.
-    if (isOwn || (read && name == QString::fromStdString(read->lockingNode)))
+    if (isOwn || name == m_lockingFeature)
         refresh();
 }
 
@@ -278,30 +228,25 @@ void FeatureEditor::onWritten(const QString &name)
 
 void FeatureEditor::onFailed(const QString &name, const QString &text)
 {
-    if (name != m_feature)
+    const bool isUnlocking = name == m_lockingFeature && m_hasLockHelp;
+    if (name != m_feature && !isUnlocking)
         return;
     m_error = text;
     refresh();
 }
 
-void FeatureEditor::askToPause(CameraConnection::Call call)
+/// Watches the feature that is responsible for the lock, because the advice depends on its value.
+void FeatureEditor::followLockingFeature()
 {
-    ask(tr("For this change, the stream has to be stopped for a moment."), tr("Stop, set, start"),
-        [this, call = std::move(call)] { pauseFor(call); });
-}
-
-void FeatureEditor::pauseFor(const CameraConnection::Call &call)
-{
-    m_isPausing = true;
-    refresh();
-    m_pauser->pauseFor(call, this, [this](const CvxCPP::CvxResult &result) { onPaused(result); });
-}
-
-void FeatureEditor::onPaused(const CvxCPP::CvxResult &result)
-{
-    m_isPausing = false;
-    m_error = QString::fromStdString(result.text);
-    refresh();
+    const CvxCPP::NodeState *const read = m_isWatching ? state() : nullptr;
+    const QString locking = read ? QString::fromStdString(read->lockingNode) : QString();
+    const QString previous = std::exchange(m_lockingFeature, locking);
+    if (previous == locking)
+        return;
+    if (!locking.isEmpty())
+        m_client->watch({locking});
+    if (!previous.isEmpty())
+        m_client->unwatch({previous});
 }
 
 void FeatureEditor::showNote()
@@ -309,12 +254,15 @@ void FeatureEditor::showNote()
     if (m_action)
         return;
     const CvxCPP::NodeState *const read = state();
-    const QString lock = lockReason();
+    const LockAdvice found = advice();
+    const QString &lock = found.reason;
     if (!m_error.isEmpty())
         m_note->showError(m_error);
     else if (!m_remark.isEmpty())
         m_note->showRemark(m_remark);
-    else if (read && isWorthANote(read->lockReason) && !lock.isEmpty())
+    else if (read && !lock.isEmpty() && m_hasLockHelp)
+        m_note->showLock(lock, found.unlockText, found.showText);
+    else if (read && !lock.isEmpty() && isWorthANote(read->lockReason))
         m_note->showLock(lock);
     else
         m_note->clear();
@@ -324,8 +272,10 @@ void FeatureEditor::showNote()
 void FeatureEditor::stopWatching()
 {
     // The members of a window, such as the client, are destroyed before its widgets.
-    if (std::exchange(m_isWatching, false) && m_client)
-        m_client->unwatch({m_feature});
+    if (!std::exchange(m_isWatching, false) || !m_client)
+        return;
+    m_client->unwatch({m_feature});
+    followLockingFeature();
 }
 
 void FeatureEditor::forgetMessages()

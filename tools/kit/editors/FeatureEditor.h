@@ -2,6 +2,7 @@
 
 #include "CvxCPP/Node.h"
 #include "tools/kit/camera/FeatureClient.h"
+#include "tools/kit/editors/LockAdvice.h"
 
 #include <QPointer>
 #include <QString>
@@ -42,6 +43,10 @@ public:
     /// back.
     void setStreamPauser(StreamPauser *pauser);
 
+    /// Says every reason below the control, also that the camera only reports a value, with buttons that
+    /// switch the responsible feature off or ask to see it; see featureRequested(). Off at first.
+    void setLockHelp(bool isOffered);
+
     /// Returns true if a person can change the feature, if necessary with "stop, set, start".
     bool isEditable() const;
 
@@ -56,6 +61,10 @@ public slots:
     /// Answers the question of the line below the control.
     void acceptQuestion();
     void rejectQuestion();
+
+signals:
+    /// A person wants to see the feature that is responsible for the lock.
+    void featureRequested(const QString &name);
 
 protected:
     FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, QWidget *parent);
@@ -111,9 +120,12 @@ private:
     void onStateChanged(const QString &name);
     void onWritten(const QString &name);
     void onFailed(const QString &name, const QString &text);
-    void askToPause(CameraConnection::Call call);
-    void pauseFor(const CameraConnection::Call &call);
+    void askToPause(const std::optional<CvxCPP::NodeValue> &value);
+    void pauseFor(const std::optional<CvxCPP::NodeValue> &value);
     void onPaused(const CvxCPP::CvxResult &result);
+    LockAdvice advice() const;
+    void unlock();
+    void followLockingFeature();
     void showNote();
     void stopWatching();
     void forgetMessages();
@@ -127,8 +139,10 @@ private:
     FeatureNote *m_note;
     QString m_error; ///< What the last change failed with.
     CvxCPP::NodeValue m_submitted; ///< What the last change was.
+    QString m_lockingFeature; ///< Watched together with the feature; empty if nothing locks it.
     QString m_remark; ///< What is wrong with what was typed last.
     std::function<void()> m_action; ///< What the present question is about.
+    bool m_hasLockHelp = false;
     bool m_hasLabel = true;
     bool m_isLabelInControl = false;
     bool m_isPausing = false;

@@ -18,7 +18,9 @@ FeatureNote::FeatureNote(QWidget *parent)
       m_text(new QLabel(this)),
       m_buttons(new QWidget(this)),
       m_accept(new QPushButton(m_buttons)),
-      m_reject(new QPushButton(tr("Discard"), m_buttons))
+      m_reject(new QPushButton(tr("Discard"), m_buttons)),
+      m_unlock(new QPushButton(this)),
+      m_show(new QPushButton(this))
 {
     m_text->setObjectName(QStringLiteral("featureNote"));
     QFont font = m_text->font();
@@ -40,39 +42,48 @@ FeatureNote::FeatureNote(QWidget *parent)
     layout->setSpacing(4);
     layout->addWidget(m_text);
     layout->addWidget(m_buttons);
+    layout->addWidget(m_unlock, 0, Qt::AlignLeft); // Below each other, because the names can be long.
+    layout->addWidget(m_show, 0, Qt::AlignLeft);
 
     connect(m_accept, &QPushButton::clicked, this, &FeatureNote::accepted);
     connect(m_reject, &QPushButton::clicked, this, &FeatureNote::rejected);
+    connect(m_unlock, &QPushButton::clicked, this, &FeatureNote::unlockRequested);
+    connect(m_show, &QPushButton::clicked, this, &FeatureNote::featureRequested);
     clear();
 }
 
 void FeatureNote::clear()
 {
-    m_buttons->hide();
+    hideButtons();
     m_text->clear();
     hide();
 }
 
-void FeatureNote::showLock(const QString &text)
+void FeatureNote::showLock(const QString &text, const QString &unlockText, const QString &showText)
 {
     m_buttons->hide();
+    m_unlock->setText(unlockText);
+    m_unlock->setHidden(unlockText.isEmpty());
+    m_show->setText(showText);
+    m_show->setHidden(showText.isEmpty());
     showAs(QStringLiteral("secondary"), text);
 }
 
 void FeatureNote::showError(const QString &text)
 {
-    m_buttons->hide();
+    hideButtons();
     showAs(QStringLiteral("error"), text);
 }
 
 void FeatureNote::showRemark(const QString &text)
 {
-    m_buttons->hide();
+    hideButtons();
     showAs(QStringLiteral("warning"), text);
 }
 
 void FeatureNote::showQuestion(const QString &text, const QString &acceptText)
 {
+    hideButtons();
     m_accept->setText(acceptText);
     m_buttons->show();
     showAs({}, text);
@@ -86,6 +97,13 @@ QString FeatureNote::text() const
 bool FeatureNote::isQuestion() const
 {
     return !m_buttons->isHidden();
+}
+
+void FeatureNote::hideButtons()
+{
+    for (QWidget *const button :
+        {m_buttons, static_cast<QWidget *>(m_unlock), static_cast<QWidget *>(m_show)})
+        button->hide();
 }
 
 void FeatureNote::showAs(const QString &role, const QString &text)

@@ -2,6 +2,7 @@
 
 #include "sdk/doctor/Doctor.h"
 #include "tools/kit/pages/FindingCard.h"
+#include "tools/kit/widgets/VerticalScrollArea.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -9,7 +10,6 @@
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <QtConcurrent>
 
@@ -87,9 +87,8 @@ void NoCameraPage::createWidgets()
     cards->setLayout(m_cards);
     m_cards->setContentsMargins(0, 0, 8, 0);
     m_cards->addStretch();
-    auto *const scroller = new QScrollArea;
-    scroller->setWidgetResizable(true);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *const scroller = new VerticalScrollArea;
+    scroller->setFocusPolicy(Qt::StrongFocus); // The arrow keys scroll the findings.
     scroller->setAccessibleName(tr("Findings"));
     scroller->setWidget(cards);
 

@@ -40,9 +40,18 @@ public:
         Copy,
         Close,
         Trigger,
-        WhiteBalance
+        WhiteBalance,
+        Undo,
+        Redo,
+        Save,
+        Search,
+        Star, ///< A favourite.
+        Lock,
+        Compare,
+        Table,
+        Restore
     };
-    static constexpr int count = int(Kind::WhiteBalance) + 1;
+    static constexpr int count = int(Kind::Restore) + 1;
 
     static constexpr QRgb normalColour = 0xffe8edf2;
     static constexpr QRgb disabledColour = 0xff5b6b7f;

@@ -1,20 +1,14 @@
 #include "tools/kit/window/ToolStarter.h"
 
+#include "desktop/StartTool.h"
+
 #include <QDir>
-#include <QProcess>
-#include <QProcessEnvironment>
 
 QString ToolStarter::start(const QString &program, const QString &cameraId)
 {
-    const QDir directory(QCoreApplication::applicationDirPath());
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("CORVIX_CAMERA"), cameraId);
-    QProcess process;
-    process.setProgram(directory.filePath(program));
-    process.setWorkingDirectory(directory.path());
-    process.setProcessEnvironment(environment);
-    if (process.startDetached())
+    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(program);
+    if (startTool(path, cameraId))
         return {};
     return tr("%1 cannot be started. Check that the file exists and is executable.")
-        .arg(QDir::toNativeSeparators(process.program()));
+        .arg(QDir::toNativeSeparators(path));
 }

@@ -50,6 +50,7 @@ protected:
     void addQuitEntry(QMenu *menu);
     void addHelpMenu(const ShortcutPage::Rows &otherKeys);
 
+    CameraFinder &finder() { return m_finder; }
     CameraConnection &connection() { return m_connection; }
     FeatureClient &features() { return m_features; }
     ToolSettings &settings() { return m_settings; }

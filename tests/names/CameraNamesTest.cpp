@@ -1,4 +1,4 @@
-#include "tools/kit/names/CameraNames.h"
+#include "sdk/names/CameraNames.h"
 
 #include "sdk/testing/ScriptedCvxCPP.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/kit/names/CameraNames.h"
+#include "sdk/names/CameraNames.h"
 
 #include <cstddef>
 #include <string>

@@ -1,4 +1,4 @@
-#include "tools/imageviewer/panel/VerticalScrollArea.h"
+#include "tools/kit/widgets/VerticalScrollArea.h"
 
 #include <QEvent>
 #include <QScrollBar>

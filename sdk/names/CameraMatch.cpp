@@ -1,4 +1,4 @@
-#include "tools/kit/names/CameraMatch.h"
+#include "sdk/names/CameraMatch.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "tools/imageviewer/measuring/Heading.h"
+#include "tools/kit/widgets/Heading.h"
 
 #include <QLabel>
 #include <QVariant>
