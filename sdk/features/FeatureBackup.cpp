@@ -22,12 +22,14 @@ CvxResult readBackup(Device &device, const std::vector<FeatureSetting> &others, 
         return result;
     std::stable_partition(reader.readings().begin(), reader.readings().end(),
         [](const FeatureReading &reading) { return reading.state.lockReason != LockReason::None; });
-    backup = {{}, reader.isCancelled()};
+    backup = {{}, 0, reader.isCancelled()};
     for (FeatureReading &reading : reader.readings()) {
         const NodeState &state = reading.state;
-        if (state.access == NodeAccess::ReadWrite && state.value.index() != 0)
-            backup.settings.push_back(
-                {std::move(reading.selectors), state.name, settingText(state.value), 0});
+        if (state.access != NodeAccess::ReadWrite || state.value.index() == 0)
+            continue;
+        backup.settings.push_back({std::move(reading.selectors), state.name, settingText(state.value), 0});
+        if (state.lockReason != LockReason::None)
+            ++backup.lockedCount;
     }
     return result;
 }

@@ -9,6 +9,7 @@
 struct FeatureBackup
 {
     std::vector<FeatureSetting> settings;
+    std::size_t lockedCount = 0; ///< That many of the first settings were locked.
     bool isCancelled = false; ///< True if the progress function has cancelled the work.
 };
 

@@ -32,7 +32,10 @@ CvxResult planFeatures(
     FeatureDirectory directory;
     if (CvxResult result = readDirectory(device, directory); !result)
         return result;
-    LoadRun run(device, directory, directory.resolve(file.settings), progress);
+    const FeatureProgress readProgress = [&progress](std::size_t done, std::size_t total) {
+        return !progress || progress(done, total / 2); // The other half are the writes.
+    };
+    LoadRun run(device, directory, directory.resolve(file.settings), readProgress);
     CvxResult result = run.readBefore();
     report = run.finish(result);
     return result;
