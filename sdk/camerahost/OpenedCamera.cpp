@@ -30,10 +30,14 @@ std::optional<OpenedCamera::Failure> OpenedCamera::open(
     m_nodes->setWatching(isWatching);
     m_mayStream = !isWatching;
     m_ownedStream = std::make_unique<CameraStream>(m_device.library(), m_device.device(), *m_nodes);
+    return std::nullopt;
+}
+
+void OpenedCamera::startMonitor()
+{
     m_monitor.emplace(m_device, *m_port, *m_nodes);
     m_monitor->start(DeviceMonitor::TimePoint::clock::now());
     m_stream = m_ownedStream.get();
-    return std::nullopt;
 }
 
 /// Builds the node map. A camera without one has no features, but is opened nevertheless if it can stream.

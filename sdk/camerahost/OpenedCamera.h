@@ -24,13 +24,16 @@ public:
     /// Opens the camera. Returns the failure if this is not possible; only close() may be called afterwards.
     std::optional<Failure> open(const std::string &producerFile, const OpenDeviceRequest &request);
 
+    /// Starts to check whether the camera answers. Call it once after open().
+    void startMonitor();
+
     /// Returns the features. Before open(), there are none.
     NodeMap &nodes() { return *m_nodes; }
 
-    /// Returns the stream, or null if the camera is not open or may only be watched.
+    /// Returns the stream, or null if the camera is not monitored yet or may only be watched.
     CameraStream *stream() { return m_mayStream ? m_stream.load() : nullptr; }
 
-    /// Returns true if the camera is open.
+    /// Returns true if the camera is open and monitored.
     bool isOpen() const { return m_stream.load() != nullptr; }
 
     /// Checks what is due. Returns a text for people if the camera is lost. The camera must be open.
