@@ -246,6 +246,8 @@ void TestViewer::cameraInUseCanBeWatched()
     }
     ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
     QVERIFY(!viewer.window().connection().isControlled());
+    viewer.awaitPicture();
+    viewer.awaitNewPicture();
     other.terminate();
     QVERIFY(other.waitForFinished(60000));
 }
