@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QProcess>
+#include <QPushButton>
 #include <QTimer>
 
 ViewerUnderTest::ViewerUnderTest(const QString &camera, const QVariantMap &choices)
@@ -45,6 +46,18 @@ void ViewerUnderTest::await(const std::function<bool()> &condition)
             qFatal("Nothing has happened for a minute.");
         processEvents(20);
     }
+}
+
+void ViewerUnderTest::watchOnly()
+{
+    using State = CameraConnection::State;
+    await([this] { return m_window->connection().state() == State::InUse; });
+    const QList<QPushButton *> buttons = m_window->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->text() == QStringLiteral("&Watch only"))
+            button->click();
+    }
+    await([this] { return m_window->connection().state() == State::Open; });
 }
 
 void ViewerUnderTest::awaitPicture()

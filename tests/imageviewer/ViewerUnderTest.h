@@ -45,6 +45,9 @@ public:
     /// Processes events until the condition is true.
     static void await(const std::function<bool()> &condition);
 
+    /// Waits until the viewer reports that another program uses the camera, and chooses to watch it.
+    void watchOnly();
+
     void awaitPicture();
 
     /// Waits until a picture is shown that was exposed after this call.
