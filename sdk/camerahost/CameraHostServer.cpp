@@ -150,7 +150,7 @@ void CameraHostServer::handle(const PrepareStreamRequest &request)
 {
     CameraStream *const stream = m_camera.stream();
     if (!stream)
-        return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
+        return fail({DeviceFailure::NotAvailable, "The camera is not open."});
     auto prepared = stream->prepare(request);
     if (const auto *const failure = std::get_if<RequestFailedReply>(&prepared))
         fail(*failure);
@@ -163,7 +163,7 @@ void CameraHostServer::handle(const StartStreamRequest &request)
 {
     CameraStream *const stream = m_camera.stream();
     if (!stream)
-        return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
+        return fail({DeviceFailure::NotAvailable, "The camera is not open."});
     if (const auto failure = stream->start(request, m_channel.takeDescriptors())) {
         fail(*failure);
     } else {
