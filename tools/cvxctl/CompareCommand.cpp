@@ -125,7 +125,7 @@ void printTexts(const std::vector<ComparedFeature> &features)
         const auto side = [&feature](const std::string &text, FeatureDifference missing) {
             return feature.difference == missing ? "-" : printable(text);
         };
-        rows.push_back({"  " + settingLabel(feature.name, feature.selectors),
+        rows.push_back({"  " + printableLabel(feature.name, feature.selectors),
             side(feature.left, FeatureDifference::OnlyRight),
             side(feature.right, FeatureDifference::OnlyLeft),
             feature.isIgnorable                                  ? "(ignored)"

@@ -41,7 +41,7 @@ nlohmann::ordered_json toJson(const FeatureFile &file, const LoadReport &report)
 
 void printChange(const FeatureChange &change)
 {
-    const std::string label = settingLabel(change.setting.name, change.setting.selectors);
+    const std::string label = printableLabel(change.setting.name, change.setting.selectors);
     if (change.outcome == FeatureOutcome::Changed)
         std::printf("%s: %s -> %s\n", label.c_str(), printable(change.before).c_str(),
             printable(change.after.empty() ? change.setting.value : change.after).c_str());
@@ -61,7 +61,7 @@ void printFailures(const LoadReport &report, const std::string &file)
             && previous->setting.selectors == change.setting.selectors;
         if (!isSame)
             printError(file + ':' + std::to_string(change.setting.line) + ": "
-                + settingLabel(change.setting.name, change.setting.selectors) + ": " + change.reason);
+                + printableLabel(change.setting.name, change.setting.selectors) + ": " + change.reason);
         previous = &change;
     }
 }

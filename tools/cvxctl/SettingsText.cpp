@@ -1,15 +1,13 @@
 #include "tools/cvxctl/SettingsText.h"
 
 #include "sdk/features/FeatureFileStorage.h"
+#include "sdk/features/SettingLabel.h"
 #include "tools/cvxctl/Interruption.h"
 #include "tools/cvxctl/Terminal.h"
 
-std::string settingLabel(const std::string &name, const std::vector<SelectorSetting> &selectors)
+std::string printableLabel(const std::string &name, const std::vector<SelectorSetting> &selectors)
 {
-    std::string list;
-    for (const SelectorSetting &selector : selectors)
-        list += (list.empty() ? "" : ", ") + selector.name + '=' + selector.value;
-    return printable(list.empty() ? name : name + " [" + list + ']');
+    return printable(settingLabel(name, selectors));
 }
 
 nlohmann::ordered_json selectorsJson(const std::vector<SelectorSetting> &selectors)

@@ -5,8 +5,8 @@
 
 #include <nlohmann/json.hpp>
 
-/// Returns a feature with its selectors as a person reads it, for example "Gain [GainSelector=All]".
-std::string settingLabel(const std::string &name, const std::vector<SelectorSetting> &selectors);
+/// Returns what settingLabel() returns, without control characters.
+std::string printableLabel(const std::string &name, const std::vector<SelectorSetting> &selectors);
 
 /// Returns the values of selectors as a JSON object.
 nlohmann::ordered_json selectorsJson(const std::vector<SelectorSetting> &selectors);

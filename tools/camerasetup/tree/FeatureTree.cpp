@@ -45,16 +45,13 @@ private:
         return found == m_indexes.end() ? none : found->second;
     }
 
-    /// Returns the category without a category that contains others.
+    /// Returns the category that the description of every camera begins with.
     int findRoot() const
     {
-        for (const NodeInfo &node : m_nodes) {
-            const int category = find(node.category);
-            if (category != none && m_nodes[category].type == NodeType::Category
-                && m_nodes[category].category.empty())
-                return category;
-        }
-        return none;
+        const int root = find("Root");
+        const bool isRoot
+            = root != none && m_nodes[root].type == NodeType::Category && m_nodes[root].category.empty();
+        return isRoot ? root : none;
     }
 
     int categoryOf(int index) const
@@ -139,8 +136,9 @@ private:
 FeatureTree::FeatureTree(const QVector<NodeInfo> &nodes) : m_items(std::size_t(nodes.size()))
 {
     const ParentFinder finder(nodes);
+    m_root = finder.root();
     for (int feature = 0; feature < nodes.size(); ++feature) {
-        if (feature == finder.root())
+        if (feature == m_root)
             continue;
         Item &item = m_items[std::size_t(feature)];
         item.parent = finder.parent(feature);

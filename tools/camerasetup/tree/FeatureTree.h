@@ -18,6 +18,7 @@ public:
     FeatureTree() = default;
     explicit FeatureTree(const QVector<CvxCPP::NodeInfo> &nodes);
 
+    int root() const { return m_root; } ///< The root category, which has no row; `none` without one.
     int parent(int feature) const { return m_items[std::size_t(feature)].parent; }
     int row(int feature) const { return m_items[std::size_t(feature)].row; } ///< Among its siblings.
 
@@ -37,4 +38,5 @@ private:
 
     std::vector<Item> m_items;
     std::vector<int> m_top;
+    int m_root = none;
 };

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include <atomic>
 #include <utility>
 
 using CvxCPP::CvxResult;

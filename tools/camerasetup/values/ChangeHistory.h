@@ -29,6 +29,7 @@ struct HistoryEntry
     Kind kind = Kind::Edit;
     QString title; ///< For people, for example "Gain [GainSelector=All]" or "Load settings.txt".
     std::vector<FeatureEdit> edits;
+    bool isUndone = false; ///< True while the changes are taken back.
 };
 
 /// The changes of features since the camera was opened, in their order, with undo and redo. Records what is
@@ -73,6 +74,9 @@ signals:
     void failed(const QString &text);
 
 private:
-    // The owner of this class completes the private part.
+    FeatureClient &m_client;
+    CameraJobs &m_jobs;
+    const PresentSelectors &m_selectors;
+    OpeningSnapshot &m_opening;
     QVector<HistoryEntry> m_entries;
 };

@@ -58,7 +58,8 @@ signals:
     void changedFeatures(const QStringList &names);
 
 private:
-    // The owner of this class completes the private part.
+    FeatureClient &m_client;
+    const PresentSelectors &m_selectors;
     State m_state = State::None;
     SettingsSnapshot m_snapshot;
     QSet<QString> m_changed;
