@@ -8,8 +8,10 @@
 
 class FeatureClient;
 class QAction;
+class QFileDialog;
 class QMenu;
 class QWidget;
+class SettingsSave;
 class ToolSettings;
 
 /// Saving the settings of the camera to a file, loading a file, and restoring the settings from the opening.
@@ -57,10 +59,17 @@ signals:
     void reported(const QString &text);
 
 private:
+    CameraConnection &connection() const;
+    QString lockReason() const;
+    void update();
+    QFileDialog *createFileDialog(const QString &title);
+    void rememberDirectory(const QString &path);
     void chooseFileToSave();
     void chooseFileToLoad();
-    void update();
+    void reportSaved(const QString &path, int count, const QStringList &notes);
+    void reportNotSaved(const QString &text);
 
     const Parts m_parts;
     QWidget *const m_window;
+    SettingsSave *const m_save;
 };
