@@ -29,7 +29,10 @@ void scriptSetupCamera(TestDevice &device)
 }
 
 SetupBench::SetupBench(const EditorBench::Script &script)
-    : bench(script), selectors(bench.client), jobs(bench.connection), opening(bench.client, selectors),
+    : bench(script),
+      selectors(bench.client),
+      jobs(bench.connection),
+      opening(bench.client, selectors),
       history(bench.client, jobs, selectors, opening)
 { }
 

@@ -124,12 +124,11 @@ void TestOpeningSnapshot::personWritesWhileSlowCameraIsRead()
     bench.waitUntilComplete();
     QCOMPARE(bench.opening.snapshot().side.settings.size(), std::size_t(3));
     for (const char *const selector : {"All", "Red", "Green"})
-        QCOMPARE(
-            bench.opening.value("Gain", {{"GainSelector", selector}}), std::optional<std::string>("1"));
+        QCOMPARE(bench.opening.value("Gain", {{"GainSelector", selector}}), std::optional<std::string>("1"));
     QVERIFY(bench.opening.isChanged(QStringLiteral("Gain")));
     const auto changed = bench.device().change([](ScriptedDevice &device) { return device.changedValues(); });
-    QCOMPARE(changed,
-        (std::map<std::string, NodeValue>{{"GainSelector", "Red"}, {"Gain/GainSelector=Red", 5.0}}));
+    QCOMPARE(
+        changed, (std::map<std::string, NodeValue>{{"GainSelector", "Red"}, {"Gain/GainSelector=Red", 5.0}}));
 }
 
 void TestOpeningSnapshot::followsFeaturesThatNobodyWatches()
@@ -141,8 +140,9 @@ void TestOpeningSnapshot::followsFeaturesThatNobodyWatches()
     QTRY_VERIFY_WITH_TIMEOUT(bench.opening.isChanged(QStringLiteral("Width")), hangTimeout);
     bench.device().setByCamera("Width", std::int64_t(640));
     QTRY_VERIFY_WITH_TIMEOUT(!bench.opening.isChanged(QStringLiteral("Width")), hangTimeout);
-    QCOMPARE(changes, (QList<QVariantList>{{QStringList{QStringLiteral("Width")}},
-                          {QStringList{QStringLiteral("Width")}}}));
+    QCOMPARE(changes,
+        (QList<QVariantList>{
+            {QStringList{QStringLiteral("Width")}}, {QStringList{QStringLiteral("Width")}}}));
 }
 
 void TestOpeningSnapshot::changeForAnotherSelectorIsFound()

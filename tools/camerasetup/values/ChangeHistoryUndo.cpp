@@ -1,3 +1,4 @@
+#include "sdk/features/SettingLabel.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
 
 #include <QStringList>
@@ -115,7 +116,8 @@ void ChangeHistory::takeSeveral(const std::shared_ptr<Run> &run, const CvxResult
     for (const FeatureChange &change : run->report.changes) {
         const FeatureSetting &setting = change.setting;
         if (change.outcome == FeatureOutcome::Failed || change.outcome == FeatureOutcome::Overruled)
-            run->problems.append(QString::fromStdString(change.reason));
+            run->problems.append(
+                QString::fromStdString(settingLabel(setting.name, setting.selectors) + ": " + change.reason));
         else
             run->edits.push_back({setting.selectors, setting.name, change.before, change.after});
     }
