@@ -114,6 +114,8 @@ void TestHistoryPanel::copiesRowsAsTheyAreInFiles()
     bench.history.addEdits(
         width, {{{}, "Width", "640", "700"}, {{{"GainSelector", "Red"}}, "Gain", "1", "2.25"}});
     QTableView &table = *tableOf(panel);
+    table.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&panel, hangTimeout));
     table.selectAll();
     QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
     const QString time = bench.history.entries()[0].time.toString(Qt::ISODate);

@@ -5,13 +5,19 @@
 #include "tools/camerasetup/values/ValueDisplay.h"
 
 #include <QColor>
+#include <QGuiApplication>
 #include <QLocale>
+#include <QPalette>
 
 using namespace CvxCPP;
 
 namespace {
 
-const QColor undoneColor(0x64, 0x74, 0x8b);
+/// Returns the colour of rows that do not count any more.
+QColor undoneColor()
+{
+    return QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text);
+}
 
 QString timeText(const QDateTime &time)
 {
@@ -97,7 +103,7 @@ QVariant HistoryModel::data(const QModelIndex &index, int role) const
     case rawTextRole:
         return rawText(row, index.column());
     case Qt::ForegroundRole:
-        return entryOf(row).isUndone ? QVariant(undoneColor) : QVariant();
+        return entryOf(row).isUndone ? QVariant(undoneColor()) : QVariant();
     case Qt::ToolTipRole:
         return toolTip(row, index.column());
     default:

@@ -13,7 +13,6 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTableView>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -41,12 +40,15 @@ QTableView *createTable(HistoryModel *model, QWidget *parent)
     return table;
 }
 
-QToolButton *createButton(QAction *action, QWidget *parent)
+QPushButton *createButton(QAction *action, QWidget *parent)
 {
-    auto *const button = new QToolButton(parent);
-    button->setDefaultAction(action);
-    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    button->setFocusPolicy(Qt::StrongFocus);
+    auto *const button = new QPushButton(action->text(), parent);
+    const auto follow = [action, button] {
+        button->setEnabled(action->isEnabled());
+        button->setToolTip(action->toolTip());
+    };
+    QObject::connect(action, &QAction::changed, button, follow);
+    QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
     return button;
 }
 
@@ -63,7 +65,7 @@ HistoryPanel::HistoryPanel(ChangeHistory &history, QWidget *parent)
       m_problem(new QLabel(this))
 {
     m_export->setToolTip(tr("Writes a shell script that makes these changes again with cvxctl."));
-    m_problem->setProperty("severity", QStringLiteral("error"));
+    m_problem->setProperty("role", QStringLiteral("error"));
     m_problem->setWordWrap(true);
     m_problem->hide();
     auto *const copy = new QAction(tr("Copy"), m_table);
@@ -107,8 +109,12 @@ void HistoryPanel::follow()
 
 void HistoryPanel::showNewRows()
 {
-    for (const int column : {HistoryModel::Time, HistoryModel::OldValue, HistoryModel::NewValue})
+    m_table->resizeColumnToContents(HistoryModel::Time);
+    const int maxValueWidth = m_table->fontMetrics().averageCharWidth() * 16; // The tool tip has all of it.
+    for (const int column : {HistoryModel::OldValue, HistoryModel::NewValue}) {
         m_table->resizeColumnToContents(column);
+        m_table->setColumnWidth(column, std::min(m_table->columnWidth(column), maxValueWidth));
+    }
     m_table->scrollToBottom();
 }
 

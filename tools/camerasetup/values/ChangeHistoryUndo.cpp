@@ -1,5 +1,6 @@
-#include "sdk/features/SettingLabel.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
+
+#include "sdk/features/SettingLabel.h"
 
 #include <QStringList>
 
