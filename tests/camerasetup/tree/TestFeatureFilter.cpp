@@ -71,14 +71,14 @@ void TestFeatureFilter::filterShowsMatchesBelowTheirCategories_data()
     QTest::addColumn<QString>("names");
     QTest::addColumn<int>("hiddenByLevel");
 
-    const auto row = [](const char *name, const char *text, NodeVisibility level, const char *names,
-                         int hidden) {
-        QTest::newRow(name) << QString::fromLatin1(text) << int(level) << QString::fromLatin1(names)
-                            << hidden;
-    };
+    const auto row
+        = [](const char *name, const char *text, NodeVisibility level, const char *names, int hidden) {
+              QTest::newRow(name) << QString::fromLatin1(text) << int(level) << QString::fromLatin1(names)
+                                  << hidden;
+          };
     const NodeVisibility guru = NodeVisibility::Guru;
-    row("everything but the invisible", "", guru,
-        "Analog Gain GainAuto BlackLevel Acquisition ExposureTime", 0);
+    row("everything but the invisible", "", guru, "Analog Gain GainAuto BlackLevel Acquisition ExposureTime",
+        0);
     row("beginner", "", NodeVisibility::Beginner, "Analog Gain Acquisition ExposureTime", 2);
     row("part of a name", "gainau", guru, "Analog GainAuto", 0);
     row("display name", "k lev", guru, "Analog BlackLevel", 0);

@@ -92,7 +92,7 @@ void FeatureFilter::refilter()
     const std::vector<char> previous = m_isAccepted;
     update();
     if (m_isAccepted != previous)
-        invalidateFilter();
+        invalidate(); // One new layout; invalidateFilter() reports thousands of groups of rows, one by one.
     emit filtered();
 }
 

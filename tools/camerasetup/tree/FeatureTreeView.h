@@ -30,6 +30,9 @@ public:
     FeatureFilter &filter() const { return m_filter; }
     int currentFeature() const; ///< Index in the list of the camera; FeatureTree::none if there is none.
 
+    /// The values that have changed by themselves.
+    const ValueMarks &marks() const { return m_marks; }
+
     /// Returns the editor that is open; null if there is none.
     InPlaceEditor *openEditor() const;
 

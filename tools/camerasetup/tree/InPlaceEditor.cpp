@@ -1,8 +1,8 @@
 #include "tools/camerasetup/tree/InPlaceEditor.h"
 
 #include "tools/kit/camera/FeatureClient.h"
+#include "tools/kit/editors/EditorNote.h"
 #include "tools/kit/editors/FeatureEditors.h"
-#include "tools/kit/editors/FeatureNote.h"
 #include "tools/kit/editors/NumberEditor.h"
 
 #include <QAbstractButton>
@@ -32,7 +32,7 @@ QWidget *controlOf(const FeatureEditor &editor)
 
 bool asksAQuestion(const FeatureEditor &editor)
 {
-    const auto *const note = editor.findChild<FeatureNote *>();
+    const auto *const note = editor.findChild<EditorNote *>();
     return note && note->isQuestion();
 }
 
@@ -83,6 +83,10 @@ void InPlaceEditor::begin()
         box->showPopup();
         return;
     }
+    if (auto *const box = qobject_cast<QAbstractSpinBox *>(m_control))
+        box->selectAll();
+    if (auto *const line = qobject_cast<QLineEdit *>(m_control))
+        line->selectAll();
     auto *const button = qobject_cast<QAbstractButton *>(m_control);
     if (!button)
         return;
@@ -129,6 +133,12 @@ bool InPlaceEditor::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+/// Keeps the keys that the control has no use for from the tree, which would take them for its own.
+void InPlaceEditor::keyPressEvent(QKeyEvent *event)
+{
+    event->accept();
 }
 
 /// Acts after the control has handled the key.

@@ -27,8 +27,8 @@ public:
     /// Places the editor.
     void setCell(const QRect &cell);
 
-    /// Does what a person most likely wants: opens the list of an enumeration, clicks a button or a check
-    /// box.
+    /// Does what a person most likely wants: selects the text, opens the list of an enumeration, clicks a
+    /// button or a check box.
     void begin();
 
 signals:
@@ -37,6 +37,7 @@ signals:
 protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     InPlaceEditor(FeatureEditor *editor, FeatureClient &client, QWidget *parent);

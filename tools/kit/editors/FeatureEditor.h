@@ -11,7 +11,7 @@
 #include <functional>
 #include <optional>
 
-class FeatureNote;
+class EditorNote;
 class QGridLayout;
 class QLabel;
 class StreamPauser;
@@ -136,7 +136,7 @@ private:
     StreamPauser *m_pauser = nullptr;
     QGridLayout *m_layout;
     QLabel *m_label;
-    FeatureNote *m_note;
+    EditorNote *m_note;
     QString m_error; ///< What the last change failed with.
     CvxCPP::NodeValue m_submitted; ///< What the last change was.
     QString m_lockingFeature; ///< Watched together with the feature; empty if nothing locks it.
