@@ -97,15 +97,6 @@ QString undoneText(const LoadReport &report)
 
 } // namespace
 
-QString settingLabel(const std::string &name, const std::vector<SelectorSetting> &selectors)
-{
-    QStringList list;
-    for (const SelectorSetting &selector : selectors)
-        list.append(QString::fromStdString(selector.name + '=' + selector.value));
-    const QString label = QString::fromStdString(name);
-    return list.isEmpty() ? label : QStringLiteral("%1 [%2]").arg(label, list.join(QStringLiteral(", ")));
-}
-
 QString outcomeText(const FeatureChange &change, const LoadReport &report)
 {
     if (report.isRestored && change.outcome == FeatureOutcome::Changed)
