@@ -1,6 +1,7 @@
 #include "tests/camerasetup/settings/SettingsBench.h"
 
 #include <QTreeView>
+#include <QtTest>
 
 #include <map>
 
@@ -34,6 +35,14 @@ void addUserSets(TestDevice &camera)
 }
 
 } // namespace
+
+SettingsBench::SettingsBench(const EditorBench::Script &script, CvxAccess access)
+    : camera(script, access), pauser(camera)
+{
+    jobs.setStreamPauser(&pauser);
+    if (!QTest::qWaitFor([this] { return opening.state() == OpeningSnapshot::State::Complete; }, hangTimeout))
+        qFatal("The settings at opening are not read.");
+}
 
 void defineSettingsCamera(TestDevice &camera)
 {

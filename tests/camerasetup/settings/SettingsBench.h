@@ -10,12 +10,9 @@
 /// An opened camera with everything that the dialogs and panels of settings work with.
 struct SettingsBench
 {
+    /// Waits until the settings at opening are known.
     explicit SettingsBench(
-        const EditorBench::Script &script, CvxCPP::CvxAccess access = CvxCPP::CvxAccessControl)
-        : camera(script, access), pauser(camera)
-    {
-        jobs.setStreamPauser(&pauser);
-    }
+        const EditorBench::Script &script, CvxCPP::CvxAccess access = CvxCPP::CvxAccessControl);
 
     EditorBench camera;
     CameraJobs jobs{camera.connection};
