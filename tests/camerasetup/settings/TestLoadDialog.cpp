@@ -230,6 +230,7 @@ void TestLoadDialog::undoReportsWhatIsNotPutBack()
     QVERIFY2(
         tableRows(bench.dialog).first().contains(QStringLiteral("Width has not got its previous value 640")),
         qPrintable(tableRows(bench.dialog).first()));
+    QVERIFY(tableRows(bench.dialog).last().endsWith(QStringLiteral("Not put back.")));
     QVERIFY(child<QPushButton>(bench.dialog, "undo")->isEnabled());
 }
 

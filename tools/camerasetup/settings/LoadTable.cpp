@@ -104,6 +104,6 @@ QVariant LoadTable::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     const QString titles[ColumnCount]
-        = {tr("Line"), tr("Feature"), tr("In the camera"), tr("To be loaded"), tr("Read back"), tr("Result")};
+        = {tr("Line"), tr("Feature"), tr("In camera"), tr("New value"), tr("Read back"), tr("Result")};
     return titles[section];
 }
