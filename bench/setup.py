@@ -5,8 +5,8 @@ import shutil
 import subprocess
 
 from frames import BOUND
+from listing import Installation
 from pairs import Figure, at_most, in_pairs
-from streaming import installation
 
 FEATURES = 5000
 
@@ -15,8 +15,9 @@ class Cameras:
     """An installation whose only camera has many features."""
 
     def __init__(self, bench):
-        shutil.copy(f"{bench.build}/bench/ManyFeatures.cti", f"{bench.place}/shipped/cti")
-        self.root = installation(bench, "setup", "ManyFeatures.cti")
+        self.root = Installation(bench, "setup").root
+        shutil.copy(f"{bench.place}/shipped/bin/CvxCameraHost", f"{self.root}/bin")
+        shutil.copy(f"{bench.build}/bench/ManyFeatures.cti", f"{self.root}/cti")
         self.description = f"{self.root}/cti/ManyFeatures.xml"
         self.parser = bench.program("parse_description")
         self.opener = shutil.copy(bench.program("open_features"), f"{self.root}/bin")

@@ -29,7 +29,8 @@ std::string property(const char *name, const std::string &value)
 struct Feature
 {
     unsigned index = 0;
-    std::string name = "Feature" + std::to_string(index);
+    // The camera host reads the width of a camera when it opens it.
+    std::string name = index == 1 ? "Width" : "Feature" + std::to_string(index);
     std::string selector
         = "Feature" + std::to_string(index / featuresPerCategory * featuresPerCategory); ///< Of its category.
 

@@ -1,4 +1,5 @@
 #include "sdk/image/RawImage.h"
+#include "tests/imageviewer/ControllingProgram.h"
 #include "tests/imageviewer/ViewerUnderTest.h"
 #include "tests/support/ScriptFile.h"
 #include "tests/toolundertest/SimulatedCameras.h"
@@ -11,8 +12,6 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QProcess>
-#include <QPushButton>
 #include <QSet>
 #include <QtTest>
 
@@ -231,20 +230,20 @@ void TestViewer::recordingHasEveryFrameId()
 
 void TestViewer::cameraInUseCanBeWatched()
 {
-    QProcess other;
-    other.start(qEnvironmentVariable("CORVIX_TEST_SDK") + "/bin/cvxctl"_s, {"watch"_s, "1001"_s});
-    QVERIFY(other.waitForReadyRead(60000)); // The camera streams.
+    ControllingProgram small("1001"_s, 160);
     ViewerUnderTest viewer("1001"_s);
-    await([&] { return viewer.window().connection().state() == State::InUse; });
-    const QList<QPushButton *> buttons = viewer.window().findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->text() == "&Watch only"_s)
-            button->click();
-    }
-    await([&] { return viewer.window().connection().state() == State::Open; });
+    viewer.watchOnly();
     QVERIFY(!viewer.window().connection().isControlled());
-    other.terminate();
-    QVERIFY(other.waitForFinished(60000));
+    viewer.awaitNewPicture();
+    QCOMPARE(viewer.canvas().picture().pictureSize.width(), 160);
+    small.end();
+    // Larger images do not fit into the buffers of the watcher, whose stream starts again.
+    ControllingProgram large("1001"_s, 320);
+    await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
+    await([&] { return viewer.canvas().picture().pictureSize.width() == 320; });
+    viewer.awaitNewPicture();
+    QVERIFY(viewer.canvas().picture().image->GetInfo().isComplete);
+    large.end();
 }
 
 void TestViewer::everyControlHasAnAccessibleName()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/window/ConnectionBar.h"
 #include "tools/kit/window/ToolWindow.h"
 
 #include <QAction>
@@ -60,6 +61,14 @@ public:
     Object *find()
     {
         return m_window->template findChild<Object *>();
+    }
+
+    /// Waits until the tool reports that another program uses the camera, and chooses to watch it.
+    void watchOnly()
+    {
+        await([this] { return state() == CameraConnection::State::InUse; });
+        emit find<ConnectionBar>()->watchRequested();
+        await([this] { return state() == CameraConnection::State::Open; });
     }
 
     /// Makes a call of the SDK and waits for its success.

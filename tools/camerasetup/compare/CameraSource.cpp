@@ -15,7 +15,7 @@ void CameraSource::read(const std::vector<FeatureSetting> &others, const ReadDon
     const auto work = [reading, others](Device &device, const FeatureProgress &progress) {
         return readSnapshot(device, others, reading->snapshot, progress);
     };
-    m_jobs.start(tr("Reading the settings of this camera"), CameraJobs::StreamUse::Keep, work, &m_context,
+    m_job.start(tr("Reading the settings of this camera"), CameraJobs::StreamUse::Keep, work,
         [this, reading, done](const CvxResult &result) {
             reading->snapshot.title = tr("This camera now");
             reading->problem = readProblem(result, reading->snapshot.isCancelled);
@@ -36,7 +36,7 @@ void CameraSource::write(const std::vector<FeatureSetting> &settings, const Writ
         file.settings = settings;
         return loadFeatures(device, file, writing->report, progress);
     };
-    m_jobs.start(tr("Copying to this camera"), CameraJobs::StreamUse::Pause, work, &m_context,
+    m_job.start(tr("Copying to this camera"), CameraJobs::StreamUse::Pause, work,
         [this, writing, done](const CvxResult &result) {
             writing->problem = result ? QString() : QString::fromStdString(result.text);
             m_history.addLoad(tr("Copy of differences"), writing->report);

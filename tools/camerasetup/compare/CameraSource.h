@@ -1,10 +1,9 @@
 #pragma once
 
+#include "tools/camerasetup/compare/CompareJob.h"
 #include "tools/camerasetup/compare/SettingsSource.h"
-#include "tools/camerasetup/values/CameraJobs.h"
 
 #include <QCoreApplication>
-#include <QObject>
 
 class ChangeHistory;
 
@@ -16,18 +15,17 @@ class CameraSource : public SettingsSource
 public:
     /// The objects must outlive the source.
     CameraSource(CameraConnection &connection, CameraJobs &jobs, ChangeHistory &history)
-        : m_connection(connection), m_jobs(jobs), m_history(history)
+        : m_connection(connection), m_history(history), m_job(jobs)
     { }
 
     QString title() const override;
     void read(const std::vector<FeatureSetting> &others, const ReadDone &done) override;
     QString readOnlyReason() const override;
     void write(const std::vector<FeatureSetting> &settings, const WriteDone &done) override;
-    void cancel() override { m_jobs.cancel(); }
+    void cancel() override { m_job.cancel(); }
 
 private:
     CameraConnection &m_connection;
-    CameraJobs &m_jobs;
     ChangeHistory &m_history;
-    QObject m_context; // Ends the callbacks of a source that is destroyed.
+    CompareJob m_job;
 };

@@ -9,6 +9,7 @@
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/start/ToolIcons.h"
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/widgets/Message.h"
 
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -20,7 +21,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -52,10 +52,7 @@ ComparePanel::ComparePanel(const Parts &parts, QWidget *parent)
     m_view = new DifferenceView(this);
     m_copy = new CopyActions(m_session, *m_view, this);
     m_export = new ExportActions(m_session, *m_view, parts.settings, this);
-    m_message = new QLabel(this);
-    m_message->setWordWrap(true);
-    m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_message->hide();
+    m_message = createMessage(this);
 
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(createSides());
@@ -92,7 +89,6 @@ QWidget *ComparePanel::createButtons()
 {
     auto *const buttons = new QWidget(this);
     m_copyButton = new QPushButton(tr("Copy to the &right"), buttons);
-    m_copyButton->setToolTip(tr("Writes settings of the left side to the right side."));
     auto *const menu = new QMenu(m_copyButton);
     m_copy->addToMenu(menu);
     m_copyButton->setMenu(menu);
@@ -130,13 +126,13 @@ void ComparePanel::connectParts()
     connect(m_cancel, &QPushButton::clicked, &m_session, &CompareSession::cancel);
     connect(m_view, &DifferenceView::featureRequested, this, &ComparePanel::featureRequested);
     connect(m_view, &DifferenceView::choiceChanged, m_copy, &CopyActions::update);
-    connect(m_copy, &CopyActions::finished, this, &ComparePanel::showMessage);
-    connect(m_export, &ExportActions::finished, this, &ComparePanel::showMessage);
+    connect(m_copy, &CopyActions::finished, this, &ComparePanel::report);
+    connect(m_export, &ExportActions::finished, this, &ComparePanel::report);
     connect(&m_session, &CompareSession::changed, this, &ComparePanel::showSession);
     connect(&m_session, &CompareSession::compared, this, &ComparePanel::showComparison);
     connect(&m_parts.jobs, &CameraJobs::changed, this, &ComparePanel::showProgress);
     connect(&m_parts.finder, &CameraFinder::changed, this, &ComparePanel::showSession);
-    connect(&m_parts.client, &FeatureClient::nodesLoaded, this, &ComparePanel::showSession);
+    connect(&m_parts.client, &FeatureClient::nodesLoaded, this, &ComparePanel::readNewCamera);
     m_parts.client.watch({userSetSelector()});
     connect(&m_parts.client, &FeatureClient::stateChanged, this, &ComparePanel::followUserSets);
 }
@@ -158,7 +154,11 @@ void ComparePanel::compareWithUserSet(const QString &userSet)
 
 void ComparePanel::chooseSide(CompareSession::Side side, const SideChoice &choice)
 {
-    if (side == CompareSession::Left)
+    const CompareSession::Side other
+        = side == CompareSession::Left ? CompareSession::Right : CompareSession::Left;
+    if (choice == m_session.choice(other))
+        m_session.swapSides();
+    else if (side == CompareSession::Left)
         choose(choice, m_session.choice(CompareSession::Right));
     else
         choose(m_session.choice(CompareSession::Left), choice);
@@ -166,14 +166,14 @@ void ComparePanel::chooseSide(CompareSession::Side side, const SideChoice &choic
 
 void ComparePanel::choose(const SideChoice &left, const SideChoice &right)
 {
-    showMessage({}, "");
+    report({}, "");
     askAndRun(m_session.readQuestion(left, right, CompareSession::Reread::Changed),
         [this, left, right] { m_session.choose(left, right); });
 }
 
 void ComparePanel::refresh()
 {
-    showMessage({}, "");
+    report({}, "");
     const SideChoice left = m_session.choice(CompareSession::Left);
     const SideChoice right = m_session.choice(CompareSession::Right);
     askAndRun(
@@ -218,8 +218,18 @@ void ComparePanel::takeFile(CompareSession::Side side, const QString &path)
 void ComparePanel::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    const bool isNew = !m_session.isRead(CompareSession::Left) && !m_session.isRead(CompareSession::Right);
-    if (isNew && !m_session.isBusy() && m_parts.client.connection().device())
+    readNewCamera();
+}
+
+/// Reads both sides of a camera that is shown for the first time. A user set is only read on request.
+void ComparePanel::readNewCamera()
+{
+    showSession();
+    bool canRead = isVisible() && !m_session.isBusy() && m_parts.client.connection().device();
+    for (const CompareSession::Side side : bothSides)
+        canRead = canRead && !m_session.isRead(side) && m_session.problem(side).isEmpty()
+            && m_session.choice(side).kind != SideChoice::Kind::UserSet;
+    if (canRead)
         m_session.refresh();
 }
 
@@ -253,6 +263,10 @@ void ComparePanel::showSession()
     m_progress->setVisible(isBusy);
     m_copy->update();
     m_export->update();
+    const QString reason = m_copy->readOnlyReason();
+    m_copyButton->setEnabled(!isBusy && reason.isEmpty());
+    m_copyButton->setToolTip(
+        reason.isEmpty() ? tr("Writes settings of the left side to the right side.") : reason);
     showProgress();
 }
 
@@ -292,11 +306,7 @@ void ComparePanel::showProgress()
     m_progress->setAccessibleDescription(m_session.activity());
 }
 
-void ComparePanel::showMessage(const QString &text, const char *role)
+void ComparePanel::report(const QString &text, const char *role)
 {
-    m_message->setText(text);
-    m_message->setVisible(!text.isEmpty());
-    m_message->setProperty("role", QString::fromLatin1(role));
-    m_message->style()->unpolish(m_message);
-    m_message->style()->polish(m_message);
+    showMessage(m_message, text, role);
 }

@@ -77,12 +77,13 @@ private:
     void choose(const SideChoice &left, const SideChoice &right);
     void refresh();
     void askAndRun(const QString &question, const std::function<void()> &action);
+    void readNewCamera();
     void followUserSets(const QString &feature);
     void showSession();
     void showSide(CompareSession::Side side);
     void showComparison();
     void showProgress();
-    void showMessage(const QString &text, const char *role);
+    void report(const QString &text, const char *role);
 
     const Parts m_parts;
     CompareSession m_session;

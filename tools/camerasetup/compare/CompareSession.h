@@ -93,8 +93,11 @@ private:
 
     std::unique_ptr<SettingsSource> makeSource(const SideChoice &choice);
     std::unique_ptr<SettingsSource> makeOtherCamera(const QString &id);
+    std::unique_ptr<SettingsSource> makeUserSet(const QString &name) const;
+    bool isKnown(const SideChoice &choice) const;
     FeatureDirectory cameraDirectory() const;
     void setChoice(Side side, const SideChoice &choice);
+    void addStaleSides();
     void startReading();
     void readNext();
     std::vector<FeatureSetting> othersFor(Side side) const;
@@ -103,11 +106,13 @@ private:
     void compare();
     void setActivity(const QString &activity);
     void followConnection();
+    void endWork();
     void followOpening();
 
     const Parts m_parts;
     CameraConnection m_otherConnection; // Outlives the sources.
     std::array<SideState, 2> m_sides;
+    SettingsSource *m_active = nullptr; // The source that is being read or written.
     std::deque<Side> m_toRead;
     bool m_isBusy = false;
     QString m_activity;

@@ -124,7 +124,8 @@ QString pageHead(const ComparisonReport &report)
     };
     return QStringLiteral("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\">") + element("title", title)
         + element("style", QString::fromLatin1(pageStyle)) + QStringLiteral("</head>\n<body>\n")
-        + element("h1", title) + element("table", side(headings()[1], report.left) + side(headings()[2], report.right))
+        + element("h1", title)
+        + element("table", side(headings()[1], report.left) + side(headings()[2], report.right))
         + element("p", report.summary.toHtmlEscaped()) + QLatin1Char('\n');
 }
 
@@ -134,7 +135,8 @@ QString comparisonText(const ComparisonReport &report)
 {
     QString text = ReportTexts::tr("Comparison of camera settings") + QStringLiteral("\n\n");
     text += ReportTexts::tr("Left: %1, %2").arg(report.left.title, timeText(report.left)) + QLatin1Char('\n');
-    text += ReportTexts::tr("Right: %1, %2").arg(report.right.title, timeText(report.right)) + QLatin1Char('\n');
+    text += ReportTexts::tr("Right: %1, %2").arg(report.right.title, timeText(report.right))
+        + QLatin1Char('\n');
     text += report.summary + QLatin1Char('\n');
     if (report.rows.isEmpty())
         return text;
@@ -163,7 +165,8 @@ QString comparisonPage(const ComparisonReport &report)
         for (std::size_t column = 0; column < 3; ++column)
             head += element("th", titles[column].toHtmlEscaped());
         page += element("h2", category.toHtmlEscaped()) + QLatin1Char('\n')
-            + element("table", element("thead", element("tr", head)) + element("tbody", rows)) + QLatin1Char('\n');
+            + element("table", element("thead", element("tr", head)) + element("tbody", rows))
+            + QLatin1Char('\n');
         rows.clear();
     };
     for (const ComparisonReport::Row &row : report.rows) {

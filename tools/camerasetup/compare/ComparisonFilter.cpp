@@ -53,8 +53,8 @@ QString ComparisonCounts::summary(const ComparisonFilter &filter) const
     if (ignorable == 0)
         return numbers;
     const QString besides = filter.isIgnorableShown
-        ? translated(QT_TRANSLATE_N_NOOP("ComparisonCounts",
-                         "%n more difference(s) belong to one camera or one moment."),
+        ? translated(QT_TRANSLATE_N_NOOP(
+                         "ComparisonCounts", "%n more difference(s) belong to one camera or one moment."),
             ignorable)
         : translated(QT_TRANSLATE_N_NOOP("ComparisonCounts",
                          "%n more difference(s) that belong to one camera or one moment are hidden."),

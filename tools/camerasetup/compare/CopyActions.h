@@ -24,6 +24,9 @@ public:
     QAction *const checked;
     QAction *const all;
 
+    /// Returns why nothing can be copied to the right side; empty if it is possible.
+    QString readOnlyReason() const;
+
     void update(); ///< Enables the actions that are possible now.
 
 signals:

@@ -4,7 +4,6 @@
 #include "tools/camerasetup/compare/DifferenceRow.h"
 
 #include <QAbstractItemModel>
-#include <QStringList>
 
 #include <set>
 #include <vector>
@@ -63,6 +62,8 @@ private:
     void rebuild();
     QVariant categoryData(const Category &category, int column, int role) const;
     QVariant rowData(std::size_t number, int column, int role) const;
+    static QString cellText(const DifferenceRow &row, int column);
+    static QString toolTip(const DifferenceRow &row, int column);
     Qt::CheckState checkState(const Category &category) const;
     void check(std::size_t number, bool isChecked);
     std::size_t rowNumber(const QModelIndex &index) const;

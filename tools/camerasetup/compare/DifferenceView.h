@@ -32,6 +32,10 @@ signals:
     void choiceChanged(); ///< What is selected or checked.
 
 private:
+    QTreeView *createTree();
+    QWidget *createFilters();
+    void fitColumns();
+    QString emptyHint() const;
     void applyFilter();
     void showSummary();
     void requestFeature(const QModelIndex &index);
@@ -44,4 +48,6 @@ private:
     QLabel *m_hint;
     QLabel *m_summary;
     ComparisonCounts m_counts;
+    QString m_unreadHint;
+    bool m_isComplete = false; // Both sides were read.
 };

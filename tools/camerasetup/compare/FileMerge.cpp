@@ -9,8 +9,8 @@ namespace {
 
 bool hasSelector(const FeatureSetting &setting, const SelectorSetting &selector)
 {
-    return std::any_of(setting.selectors.begin(), setting.selectors.end(),
-        [&selector](const SelectorSetting &other) {
+    return std::any_of(
+        setting.selectors.begin(), setting.selectors.end(), [&selector](const SelectorSetting &other) {
             return other.name == selector.name && isSameText(other.value, selector.value);
         });
 }
@@ -26,7 +26,8 @@ bool isSameSetting(const FeatureSetting &left, const FeatureSetting &right)
 std::vector<FeatureSetting> resolved(const std::vector<FeatureSetting> &file,
     const std::vector<FeatureSetting> &changes, const FeatureDirectory &directory)
 {
-    return directory.nodes().empty() ? guessSelectors({&file, &changes}).resolve(file) : directory.resolve(file);
+    return directory.nodes().empty() ? guessSelectors({&file, &changes}).resolve(file)
+                                     : directory.resolve(file);
 }
 
 /// Returns the setting that a change replaces: the same one, or the only one of this feature in a file that

@@ -38,6 +38,8 @@ private:
     void start(const std::shared_ptr<Task> &task);
     void followConnection();
     void runTask();
+    void takeResult(const std::shared_ptr<Task> &task, const CvxCPP::CvxResult &result);
+    void giveUp();
     void finish(const QString &problem);
 
     const CameraEntry m_camera;

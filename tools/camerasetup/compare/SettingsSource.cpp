@@ -6,5 +6,6 @@ QString readProblem(const CvxCPP::CvxResult &result, bool isCancelled)
 {
     if (!result)
         return QString::fromStdString(result.text);
-    return isCancelled ? QCoreApplication::translate("SettingsSource", "The reading was cancelled.") : QString();
+    return isCancelled ? QCoreApplication::translate("SettingsSource", "The reading was cancelled.")
+                       : QString();
 }

@@ -37,7 +37,7 @@ void UserSetSource::read(const std::vector<FeatureSetting> &others, const ReadDo
         = [visit, others, name = m_userSet.toStdString()](Device &device, const FeatureProgress &progress) {
               return readUserSet(device, name, others, *visit, progress);
           };
-    m_jobs.start(tr("Reading the user set %1").arg(m_userSet), CameraJobs::StreamUse::Pause, work, &m_context,
+    m_job.start(tr("Reading the user set %1").arg(m_userSet), CameraJobs::StreamUse::Pause, work,
         [this, visit, done](const CvxResult &result) {
             noteRemaining(*visit);
             done({takeSnapshot(*visit), readProblem(result, visit->content.isCancelled)});
@@ -64,7 +64,7 @@ void UserSetSource::write(const std::vector<FeatureSetting> &settings, const Wri
         = [visit, settings, name = m_userSet.toStdString()](Device &device, const FeatureProgress &progress) {
               return writeUserSet(device, name, settings, *visit, progress);
           };
-    m_jobs.start(tr("Copying to the user set %1").arg(m_userSet), CameraJobs::StreamUse::Pause, work, &m_context,
+    m_job.start(tr("Copying to the user set %1").arg(m_userSet), CameraJobs::StreamUse::Pause, work,
         [this, visit, done](const CvxResult &result) {
             noteRemaining(*visit);
             done(takeWriting(*visit, result));

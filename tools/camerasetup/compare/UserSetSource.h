@@ -1,11 +1,10 @@
 #pragma once
 
+#include "tools/camerasetup/compare/CompareJob.h"
 #include "tools/camerasetup/compare/SettingsSource.h"
 #include "tools/camerasetup/compare/UserSetWork.h"
-#include "tools/camerasetup/values/CameraJobs.h"
 
 #include <QCoreApplication>
-#include <QObject>
 
 class ChangeHistory;
 
@@ -20,7 +19,7 @@ public:
     /// The objects must outlive the source.
     UserSetSource(
         const QString &userSet, CameraConnection &connection, CameraJobs &jobs, ChangeHistory &history)
-        : m_userSet(userSet), m_connection(connection), m_jobs(jobs), m_history(history)
+        : m_userSet(userSet), m_connection(connection), m_history(history), m_job(jobs)
     { }
 
     QString title() const override;
@@ -29,7 +28,7 @@ public:
     QString readOnlyReason() const override;
     QString writeQuestion(int count) const override;
     void write(const std::vector<FeatureSetting> &settings, const WriteDone &done) override;
-    void cancel() override { m_jobs.cancel(); }
+    void cancel() override { m_job.cancel(); }
 
 private:
     SettingsSnapshot takeSnapshot(const UserSetVisit &visit) const;
@@ -38,7 +37,6 @@ private:
 
     const QString m_userSet;
     CameraConnection &m_connection;
-    CameraJobs &m_jobs;
     ChangeHistory &m_history;
-    QObject m_context; // Ends the callbacks of a source that is destroyed.
+    CompareJob m_job;
 };

@@ -110,7 +110,8 @@ CvxResult keepingSettings(Device &device, const std::string &userSet, const Feat
     const CvxResult restored = isDeviceGone(result) ? CvxResult() : restore(device, before, visit);
     const CvxResult reselected = isDeviceGone(result) ? CvxResult() : device.Write(selectorName, selected);
     if (!reselected)
-        addNote(visit.notes, selectorName, "The choice of the user set could not be restored: " + reselected.text);
+        addNote(visit.notes, selectorName,
+            "The choice of the user set could not be restored: " + reselected.text);
     return result ? restored : result;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/features/FeatureLoader.h"
 #include "tools/camerasetup/values/FeatureEdit.h"
 #include "tools/camerasetup/values/SettingsSnapshot.h"
 

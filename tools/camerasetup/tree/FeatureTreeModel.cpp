@@ -1,7 +1,7 @@
 #include "tools/camerasetup/tree/FeatureTreeModel.h"
 
 #include "tools/camerasetup/tree/ValueText.h"
-#include "tools/kit/editors/LockText.h"
+#include "tools/kit/editors/LockAdvice.h"
 
 #include <QColor>
 
@@ -166,12 +166,8 @@ QString FeatureTreeModel::lockReason(int feature) const
     if (read->lockReason == LockReason::StreamRunning && m_canPause)
         return {};
     const int locking = m_features.value(QString::fromStdString(read->lockingNode), FeatureTree::none);
-    if (locking == FeatureTree::none)
-        return lockText(*read, QString::fromStdString(read->lockingNode));
-    const bool isMode
-        = info(locking).type == NodeType::Enumeration || info(locking).type == NodeType::Boolean;
-    return lockText(
-        *read, QString::fromStdString(info(locking).displayName), isMode ? textOf(locking) : QString());
+    return locking == FeatureTree::none ? lockAdvice(*read, nullptr, nullptr).reason
+                                        : lockAdvice(*read, &info(locking), state(locking)).reason;
 }
 
 FeatureTreeModel::Marks FeatureTreeModel::marks(int feature) const

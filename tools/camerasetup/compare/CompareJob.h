@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tools/camerasetup/values/CameraJobs.h"
+
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <memory>
+
+/// One job of the connected camera at a time, which always ends: also if it was forgotten with the other jobs
+/// or the camera was closed. It can be cancelled without the jobs of others.
+class CompareJob : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The jobs must outlive this object.
+    explicit CompareJob(CameraJobs &jobs);
+    ~CompareJob() override; ///< Cancels the job without waiting for it.
+
+    void start(const QString &title, CameraJobs::StreamUse stream, CameraJobs::Work work,
+        const CameraJobs::Done &done);
+
+    void cancel();
+
+private:
+    void checkJobs();
+    void finishForgotten();
+    void finish(const CvxCPP::CvxResult &result);
+
+    CameraJobs &m_jobs;
+    CameraJobs::Done m_done; // Empty unless a job is waiting or running.
+    std::shared_ptr<std::atomic<bool>> m_isCancelled; // Shared with the thread of the connection.
+};
