@@ -4,6 +4,7 @@
 #include "sdk/features/FeatureSaver.h"
 #include "sdk/features/FeatureText.h"
 #include "sdk/features/LoadRun.h"
+#include "sdk/features/SettingLabel.h"
 
 #include <algorithm>
 
@@ -47,10 +48,11 @@ CvxResult restoreBackup(
         result = run.apply();
     const LoadReport undone = run.finish(result);
     for (const FeatureChange &change : undone.changes) {
-        if (change.outcome == FeatureOutcome::Failed)
-            report.notes.push_back({change.setting.name,
-                change.setting.name + " has not got its previous value " + change.setting.value
-                    + " back: " + change.reason});
+        if (change.outcome != FeatureOutcome::Failed)
+            continue;
+        const std::string label = settingLabel(change.setting.name, change.setting.selectors);
+        report.notes.push_back({label,
+            label + " has not got its previous value " + change.setting.value + " back: " + change.reason});
     }
     report.notes.insert(report.notes.end(), undone.notes.begin(), undone.notes.end());
     report.isRestored = static_cast<bool>(result);

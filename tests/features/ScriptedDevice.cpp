@@ -143,6 +143,12 @@ CvxResult ScriptedDevice::Execute(const std::string &name)
 {
     if (CvxResult result = check(name); !result)
         return result;
+    if (stateOf(name).lockReason != LockReason::None)
+        return {CvxErrorNotWritable, "\"" + name + "\" cannot be executed."};
     writes.push_back(name);
+    if (const auto &onWrite = m_features.at(name).onWrite) {
+        NodeValue none;
+        onWrite(none);
+    }
     return {};
 }

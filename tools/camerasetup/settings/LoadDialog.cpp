@@ -40,14 +40,14 @@ LoadDialog::LoadDialog(
     setObjectName(QStringLiteral("loadDialog"));
     setWindowTitle(tr("Load %1").arg(title));
     setWindowModality(Qt::WindowModal);
-    resize(960, 560);
+    resize(1040, 580);
     m_summary->setObjectName(QStringLiteral("summary"));
     m_progress->setObjectName(QStringLiteral("progress"));
     m_onlyChanges->setObjectName(QStringLiteral("onlyChanges"));
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_summary);
     layout->addWidget(m_progress);
-    layout->addWidget(m_onlyChanges);
+    layout->addWidget(m_onlyChanges, 0, Qt::AlignLeft);
     layout->addWidget(createTable(), 1);
     layout->addWidget(m_current);
     layout->addWidget(createModes());
@@ -55,6 +55,7 @@ LoadDialog::LoadDialog(
     connect(m_onlyChanges, &QCheckBox::toggled, &m_model, &LoadTable::setOnlyChanges);
     connect(&m_load, &SettingsLoad::changed, this, &LoadDialog::showLoad);
     connect(&jobs, &CameraJobs::changed, this, &LoadDialog::showProgress);
+    m_table->setFocus();
     showLoad();
 }
 
@@ -67,7 +68,7 @@ QWidget *LoadDialog::createTable()
     m_table->setUniformRowHeights(true);
     m_table->setAlternatingRowColors(true);
     m_table->setAllColumnsShowFocus(true);
-    constexpr int widths[] = {56, 250, 130, 130, 130};
+    constexpr int widths[] = {52, 250, 105, 105, 105};
     for (int column = 0; column < LoadTable::OutcomeColumn; ++column)
         m_table->setColumnWidth(column, widths[column]);
     m_current->setObjectName(QStringLiteral("current"));

@@ -1,5 +1,6 @@
 #include "tools/camerasetup/settings/LoadTable.h"
 
+#include "sdk/features/SettingLabel.h"
 #include "tools/camerasetup/settings/LoadText.h"
 
 #include <QColor>
@@ -43,7 +44,7 @@ LoadTable::Row LoadTable::rowOf(const FeatureChange &change, const LoadReport &r
     const FeatureSetting &setting = change.setting;
     const bool isKnown = report.isApplied && !report.isRestored;
     return {kinds[std::size_t(change.outcome)],
-        {lineText(setting.line), settingLabel(setting.name, setting.selectors),
+        {lineText(setting.line), QString::fromStdString(settingLabel(setting.name, setting.selectors)),
             QString::fromStdString(change.before), QString::fromStdString(setting.value),
             isKnown ? QString::fromStdString(change.after) : QString(), outcomeText(change, report)}};
 }
@@ -103,6 +104,6 @@ QVariant LoadTable::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     const QString titles[ColumnCount]
-        = {tr("Line"), tr("Feature"), tr("In the camera"), tr("To be loaded"), tr("Read back"), tr("Result")};
+        = {tr("Line"), tr("Feature"), tr("In camera"), tr("New value"), tr("Read back"), tr("Result")};
     return titles[section];
 }

@@ -1,7 +1,11 @@
 #include "tools/camerasetup/settings/LoadText.h"
 
+#include "sdk/features/SettingLabel.h"
+
 #include <QCoreApplication>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -95,21 +99,20 @@ QString undoneText(const LoadReport &report)
             QT_TRANSLATE_NOOP("LoadText", "Not all settings from before the load could be put back."));
 }
 
-} // namespace
-
-QString settingLabel(const std::string &name, const std::vector<SelectorSetting> &selectors)
+bool isPutBack(const FeatureChange &change, const LoadReport &report)
 {
-    QStringList list;
-    for (const SelectorSetting &selector : selectors)
-        list.append(QString::fromStdString(selector.name + '=' + selector.value));
-    const QString label = QString::fromStdString(name);
-    return list.isEmpty() ? label : QStringLiteral("%1 [%2]").arg(label, list.join(QStringLiteral(", ")));
+    const std::string label = settingLabel(change.setting.name, change.setting.selectors);
+    return std::none_of(report.notes.begin(), report.notes.end(),
+        [&label](const FeatureNote &note) { return note.name == label; });
 }
+
+} // namespace
 
 QString outcomeText(const FeatureChange &change, const LoadReport &report)
 {
     if (report.isRestored && change.outcome == FeatureOutcome::Changed)
-        return translate(QT_TRANSLATE_NOOP("LoadText", "Put back."));
+        return isPutBack(change, report) ? translate(QT_TRANSLATE_NOOP("LoadText", "Put back."))
+                                         : translate(QT_TRANSLATE_NOOP("LoadText", "Not put back."));
     const OutcomeTexts &texts = textsOf(change.outcome);
     const QString text = translate(report.isApplied ? texts.done : texts.planned);
     return change.reason.empty() ? text : text + QLatin1Char(' ') + QString::fromStdString(change.reason);

@@ -6,9 +6,6 @@
 
 // What a load would do, or has done, for people.
 
-/// Returns the name of a feature with the values of its selectors, for example "Gain [GainSelector=All]".
-QString settingLabel(const std::string &name, const std::vector<SelectorSetting> &selectors);
-
 /// Returns what becomes of one setting, with the reason.
 QString outcomeText(const FeatureChange &change, const LoadReport &report);
 

@@ -18,6 +18,7 @@ RestoreBar::RestoreBar(CameraConnection &connection, OpeningSnapshot &opening, Q
       m_restore(new QPushButton(tr("&Restore"), this))
 {
     setObjectName(QStringLiteral("restoreBar"));
+    setProperty("role", QStringLiteral("card"));
     setProperty("severity", QStringLiteral("warning"));
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);

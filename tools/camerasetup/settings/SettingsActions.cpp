@@ -117,6 +117,7 @@ QFileDialog *SettingsActions::createFileDialog(const QString &title)
     const QString directory = m_parts.settings.value(directoryKey(), byDefault);
     auto *const dialog
         = new QFileDialog(m_window, title, QDir(directory).exists() ? directory : QDir::homePath());
+    dialog->setObjectName(QStringLiteral("settingsFiles"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setNameFilters({tr("Settings files (%1)").arg(QStringLiteral("*.txt *.pfs *.features")),
         tr("All files (%1)").arg(QStringLiteral("*"))});

@@ -3,6 +3,7 @@
 #include "sdk/features/FeatureText.h"
 
 #include <map>
+#include <utility>
 
 using CvxCPP::CvxResult;
 using CvxCPP::Device;
@@ -32,16 +33,24 @@ std::vector<FeatureEdit> editsBetween(const FeatureBackup &before, const Feature
     std::map<std::string, std::size_t> indexes;
     for (std::size_t index = 0; index < after.settings.size(); ++index)
         indexes.emplace(keyOf(after.settings[index]), index);
-    std::vector<FeatureEdit> edits;
+    std::vector<FeatureEdit> lockedNow;
+    std::vector<FeatureEdit> usual;
+    std::vector<FeatureEdit> lockedBefore;
     for (std::size_t index = 0; index < before.settings.size(); ++index) {
         const FeatureSetting &setting = before.settings[index];
         const auto now = indexes.find(keyOf(setting));
         if (now == indexes.end() || isSameText(setting.value, after.settings[now->second].value))
             continue;
-        if (index >= before.lockedCount || now->second >= after.lockedCount)
-            edits.push_back(
-                {setting.selectors, setting.name, setting.value, after.settings[now->second].value});
+        const bool wasLocked = index < before.lockedCount;
+        const bool isLocked = now->second < after.lockedCount;
+        if (wasLocked && isLocked)
+            continue;
+        auto &edits = wasLocked ? lockedBefore : isLocked ? lockedNow : usual;
+        edits.push_back({setting.selectors, setting.name, setting.value, after.settings[now->second].value});
     }
+    std::vector<FeatureEdit> edits = std::move(lockedNow);
+    edits.insert(edits.end(), usual.begin(), usual.end());
+    edits.insert(edits.end(), lockedBefore.begin(), lockedBefore.end());
     return edits;
 }
 

@@ -7,7 +7,8 @@
 #include <vector>
 
 /// Returns the settings that differ. Leaves out what was locked both times, because the camera changes such
-/// a value by itself, for example an automatic function the exposure time.
+/// a value by itself, for example an automatic function the exposure time. In this order, and backwards, a
+/// value is written before its lock.
 std::vector<FeatureEdit> editsBetween(const FeatureBackup &before, const FeatureBackup &after);
 
 /// Work that changes settings of the camera, with everything that it has changed.
