@@ -144,5 +144,9 @@ CvxResult ScriptedDevice::Execute(const std::string &name)
     if (CvxResult result = check(name); !result)
         return result;
     writes.push_back(name);
+    if (const auto &onWrite = m_features.at(name).onWrite) {
+        NodeValue none;
+        onWrite(none);
+    }
     return {};
 }

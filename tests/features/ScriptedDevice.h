@@ -18,7 +18,8 @@ public:
         CvxCPP::NodeInfo info;
         CvxCPP::NodeState state; ///< Access, limits and entries; the value is the initial one.
         std::function<void(CvxCPP::NodeState &)> rule; ///< Changes the state before it is used.
-        std::function<void(CvxCPP::NodeValue &)> onWrite; ///< Changes the value, or other features.
+        std::function<void(CvxCPP::NodeValue &)>
+            onWrite; ///< Changes the value, or other features; also executes a command.
     };
 
     /// Adds a feature that belongs into a settings file and can be written.
