@@ -20,6 +20,7 @@ import listing
 import pairs
 import plugging
 import querying
+import setup
 import size
 import starting
 import streaming
@@ -27,7 +28,7 @@ import viewing
 from frames import BOUND, Screen
 
 GROUPS = {"starting": starting, "listing": listing, "clicking": clicking, "querying": querying, "plugging": plugging,
-          "discovering": discovering, "streaming": streaming, "converting": converting, "viewing": viewing,
+          "discovering": discovering, "streaming": streaming, "converting": converting, "viewing": viewing, "setup": setup,
           "idling": idling, "size": size}
 
 

@@ -321,10 +321,6 @@
         <translation>%1 kann nicht geöffnet werden. %2</translation>
     </message>
     <message>
-        <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation>%1 wird beobachtet: Änderungen der Einstellungen durch ein anderes Programm werden angezeigt. Bilder empfängt nur jenes Programm.</translation>
-    </message>
-    <message>
         <source>&amp;Take control</source>
         <translation>Kamera &amp;steuern</translation>
     </message>
@@ -333,12 +329,16 @@
         <translation>&amp;Wiederholen</translation>
     </message>
     <message>
-        <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation>Zeigt die Einstellungen der Kamera und deren Änderungen an, ohne sie zu verändern.</translation>
-    </message>
-    <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation>%1 Die Verbindung zur Kamera ging um %2 verloren. Das Programm macht automatisch weiter, sobald die Kamera wieder da ist.</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, and its pictures if it sends them to more than one program. Nothing is changed.</source>
+        <translation>Zeigt die Einstellungen der Kamera und deren Änderungen an, und auch ihre Bilder, falls sie diese an mehr als ein Programm sendet. Nichts wird verändert.</translation>
+    </message>
+    <message>
+        <source>Watching %1: its settings are shown as another program changes them.</source>
+        <translation>%1 wird beobachtet: Änderungen der Einstellungen durch ein anderes Programm werden angezeigt.</translation>
     </message>
 </context>
 <context>
@@ -1937,6 +1937,10 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation>Noch kein Bild angekommen. Das Bedienfeld „Stream“ kann den Grund zeigen.</translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The program that controls the camera may not stream.</source>
+        <translation>Es ist noch kein Bild angekommen. Vielleicht hat das Programm, das die Kamera steuert, den Stream nicht gestartet.</translation>
     </message>
 </context>
 <context>

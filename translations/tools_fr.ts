@@ -321,10 +321,6 @@
         <translation>Impossible d’ouvrir la caméra «&#xa0;%1&#xa0;». %2</translation>
     </message>
     <message>
-        <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation>Observation de «&#xa0;%1&#xa0;»&#xa0;: ses réglages s’affichent tels qu’un autre programme les modifie. Seul ce programme reçoit les images.</translation>
-    </message>
-    <message>
         <source>&amp;Take control</source>
         <translation>Prendre &amp;le contrôle</translation>
     </message>
@@ -333,12 +329,16 @@
         <translation>Réessa&amp;yer</translation>
     </message>
     <message>
-        <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation>Affiche les réglages de la caméra et leur évolution, sans les modifier.</translation>
-    </message>
-    <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation>%1 Connexion à la caméra perdue à %2. Le programme reprendra automatiquement à son retour.</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, and its pictures if it sends them to more than one program. Nothing is changed.</source>
+        <translation>Affiche les réglages de la caméra et leur évolution, ainsi que ses images si elle les envoie à plusieurs programmes. Rien n’est modifié.</translation>
+    </message>
+    <message>
+        <source>Watching %1: its settings are shown as another program changes them.</source>
+        <translation>Observation de «&#xa0;%1&#xa0;»&#xa0;: ses réglages s’affichent tels qu’un autre programme les modifie.</translation>
     </message>
 </context>
 <context>
@@ -1937,6 +1937,10 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation>Aucune image reçue pour l’instant. Le panneau «&#xa0;Flux&#xa0;» peut en indiquer la cause.</translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The program that controls the camera may not stream.</source>
+        <translation>Aucune image n’est encore arrivée. Le programme qui contrôle la caméra n’a peut-être pas démarré le flux.</translation>
     </message>
 </context>
 <context>

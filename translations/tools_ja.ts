@@ -321,10 +321,6 @@
         <translation>%1 を開けません。%2</translation>
     </message>
     <message>
-        <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation>%1 をモニター中: 他のプログラムによる設定の変更が表示されます。画像を受信できるのはそのプログラムだけです。</translation>
-    </message>
-    <message>
         <source>&amp;Take control</source>
         <translation>制御を取得(&amp;T)</translation>
     </message>
@@ -333,12 +329,16 @@
         <translation>再試行(&amp;T)</translation>
     </message>
     <message>
-        <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation>カメラの設定とその変化を表示します。設定は変更しません。</translation>
-    </message>
-    <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation>%1 %2 にカメラとの接続が切れました。カメラが復帰すると自動的に再開します。</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, and its pictures if it sends them to more than one program. Nothing is changed.</source>
+        <translation>カメラの設定とその変化を表示します。カメラが複数のプログラムに画像を送信する場合は、画像も表示します。設定は変更しません。</translation>
+    </message>
+    <message>
+        <source>Watching %1: its settings are shown as another program changes them.</source>
+        <translation>%1 をモニター中: 他のプログラムによる設定の変更が表示されます。</translation>
     </message>
 </context>
 <context>
@@ -1924,6 +1924,10 @@ For industrial cameras of any vendor. MIT licence.</source>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation>画像をまだ受信していません。「ストリーム」パネルで原因を確認できる場合があります。</translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The program that controls the camera may not stream.</source>
+        <translation>まだ画像を受信していません。カメラを制御しているプログラムがストリームを開始していない可能性があります。</translation>
     </message>
 </context>
 <context>

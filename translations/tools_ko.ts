@@ -321,10 +321,6 @@
         <translation>%1: 열 수 없습니다. %2</translation>
     </message>
     <message>
-        <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation>%1 모니터링 중: 다른 프로그램이 변경하는 설정을 보여 줍니다. 이미지는 그 프로그램만 수신합니다.</translation>
-    </message>
-    <message>
         <source>&amp;Take control</source>
         <translation>제어권 가져오기(&amp;T)</translation>
     </message>
@@ -333,12 +329,16 @@
         <translation>다시 시도(&amp;Y)</translation>
     </message>
     <message>
-        <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation>카메라 설정과 그 변화를 보여 줍니다. 설정은 변경하지 않습니다.</translation>
-    </message>
-    <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation>%1 %2에 카메라 연결이 끊겼습니다. 카메라가 다시 연결되면 자동으로 재개됩니다.</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, and its pictures if it sends them to more than one program. Nothing is changed.</source>
+        <translation>카메라 설정과 그 변화를 보여 주고, 카메라가 둘 이상의 프로그램에 이미지를 보내는 경우 이미지도 보여 줍니다. 설정은 변경하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Watching %1: its settings are shown as another program changes them.</source>
+        <translation>%1 모니터링 중: 다른 프로그램이 변경하는 설정을 보여 줍니다.</translation>
     </message>
 </context>
 <context>
@@ -1924,6 +1924,10 @@ For industrial cameras of any vendor. MIT licence.</source>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation>아직 수신한 이미지가 없습니다. ‘스트림’ 패널에서 원인을 확인할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The program that controls the camera may not stream.</source>
+        <translation>아직 수신된 이미지가 없습니다. 카메라를 제어하는 프로그램이 스트림을 시작하지 않았을 수 있습니다.</translation>
     </message>
 </context>
 <context>

@@ -321,10 +321,6 @@
         <translation>无法打开 %1。%2</translation>
     </message>
     <message>
-        <source>Watching %1: its settings are shown as another program changes them. Only that program receives pictures.</source>
-        <translation>正在监视 %1：其设置随另一程序的更改而更新。只有该程序能接收图像。</translation>
-    </message>
-    <message>
         <source>&amp;Take control</source>
         <translation>接管控制(&amp;T)</translation>
     </message>
@@ -333,12 +329,16 @@
         <translation>重试(&amp;T)</translation>
     </message>
     <message>
-        <source>Shows the settings of the camera and how they change, without changing them.</source>
-        <translation>只查看相机设置及其变化，不做更改。</translation>
-    </message>
-    <message>
         <source>%1 The camera was lost at %2. The program continues by itself when the camera is back.</source>
         <translation>%1 相机连接已于 %2 断开。相机恢复后程序将自动继续。</translation>
+    </message>
+    <message>
+        <source>Shows the settings of the camera and how they change, and its pictures if it sends them to more than one program. Nothing is changed.</source>
+        <translation>查看相机设置及其变化；如果相机向多个程序发送图像，也会显示图像。不做任何更改。</translation>
+    </message>
+    <message>
+        <source>Watching %1: its settings are shown as another program changes them.</source>
+        <translation>正在监视 %1：其设置随另一程序的更改而更新。</translation>
     </message>
 </context>
 <context>
@@ -1924,6 +1924,10 @@ For industrial cameras of any vendor. MIT licence.</source>
     <message>
         <source>No picture has arrived yet. The panel &quot;Stream&quot; may say why.</source>
         <translation>尚未接收到图像。“图像流”面板可能会显示原因。</translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet. The program that controls the camera may not stream.</source>
+        <translation>尚未收到图像。控制相机的程序可能没有启动图像流。</translation>
     </message>
 </context>
 <context>

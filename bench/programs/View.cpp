@@ -50,7 +50,7 @@ void setUp(ViewerUnderTest &viewer, const std::string &format, double rate)
             qFatal("%s", result.text.c_str());
         isDone = true;
     });
-    ViewerUnderTest::await([&] { return isDone; });
+    await([&] { return isDone; });
     viewer.awaitNewPicture();
 }
 
@@ -68,7 +68,7 @@ void measureShown(ViewerUnderTest &viewer, double seconds)
     const std::uint64_t lostBefore = missing(stream.statistics()), shownBefore = shown();
     const double before = used();
     const auto start = Clock::now();
-    ViewerUnderTest::processEvents(static_cast<int>(seconds * 1000));
+    processEvents(static_cast<int>(seconds * 1000));
     const double elapsed = microsecondsSince(start);
     std::printf("%f\n%f\n%llu\n", (used() - before) / elapsed * 100,
         static_cast<double>(shown() - shownBefore) / (elapsed / 1e6),
@@ -125,7 +125,7 @@ void measureRecording(ViewerUnderTest &viewer, const QString &folder, double sec
     EventProbe probe;
     recording->start(options);
     while (!isFinished)
-        ViewerUnderTest::processEvents(10);
+        processEvents(10);
     const RecordingProgress &progress = outcome.progress;
     std::printf("%llu\n%f\n%f\n",
         static_cast<unsigned long long>(
@@ -135,7 +135,7 @@ void measureRecording(ViewerUnderTest &viewer, const QString &folder, double sec
 
 void measureMemory(ViewerUnderTest &viewer)
 {
-    ViewerUnderTest::processEvents(5000); // Every buffer is used.
+    processEvents(5000); // Every buffer is used.
     const double buffers
         = static_cast<double>(viewer.canvas().picture().image->GetSize()) * ViewerWindow::streamBuffers;
     std::printf("%f\n", memoryOf("self") + memoryOf(hostProcess()) - buffers);

@@ -4,18 +4,24 @@
 
 void AcquisitionControl::lock()
 {
+    if (isWatching())
+        return;
     m_nodes.writeInteger("TLParamsLocked", 1); // Old cameras do not have the feature.
     m_nodes.setStreaming(true);
 }
 
 void AcquisitionControl::unlock()
 {
+    if (isWatching())
+        return;
     m_nodes.writeInteger("TLParamsLocked", 0);
     m_nodes.setStreaming(false);
 }
 
 std::optional<std::string> AcquisitionControl::start()
 {
+    if (isWatching())
+        return std::nullopt;
     if (!m_nodes.execute("AcquisitionStart") && hasNode("AcquisitionStart"))
         return "The camera refuses the command \"AcquisitionStart\".";
     if (isTransferControlled() && !m_nodes.execute("TransferStart"))
@@ -25,6 +31,8 @@ std::optional<std::string> AcquisitionControl::start()
 
 void AcquisitionControl::stop()
 {
+    if (isWatching())
+        return;
     if (isTransferControlled())
         m_nodes.execute("TransferStop");
     m_nodes.execute("AcquisitionStop"); // Fails if the camera is gone, which does not matter here.
@@ -48,6 +56,14 @@ PictureLayout AcquisitionControl::configuredPicture() const
     layout.offsetX = length("OffsetX");
     layout.offsetY = length("OffsetY");
     return layout;
+}
+
+std::vector<std::optional<std::int64_t>> AcquisitionControl::imageFormat() const
+{
+    std::vector<std::optional<std::int64_t>> format;
+    for (const char *name : {"PayloadSize", "Width", "Height", "PixelFormat"})
+        format.push_back(m_nodes.readInteger(name));
+    return format;
 }
 
 std::vector<ChunkFeature> AcquisitionControl::chunkFeatures() const

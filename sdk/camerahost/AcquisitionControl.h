@@ -7,11 +7,22 @@
 #include <optional>
 #include <string>
 
-/// The features of a camera that a stream needs. Tolerates cameras that lack some of them.
+/// Whether this program may control the acquisition, or only receives what another program lets the camera
+/// send.
+enum class StreamRole
+{
+    Controller,
+    Watcher
+};
+
+/// The features of a camera that a stream needs. Tolerates cameras that lack some of them. With
+/// StreamRole::Watcher, nothing is written to the camera: lock(), unlock(), start() and stop() do nothing.
 class AcquisitionControl
 {
 public:
-    explicit AcquisitionControl(NodeMap &nodes) : m_nodes(nodes) { }
+    AcquisitionControl(NodeMap &nodes, StreamRole role) : m_nodes(nodes), m_role(role) { }
+
+    bool isWatching() const { return m_role == StreamRole::Watcher; }
 
     /// Locks the features that must not change during a stream, or unlocks them.
     void lock();
@@ -27,6 +38,9 @@ public:
     /// Returns the picture that the camera is configured for.
     PictureLayout configuredPicture() const;
 
+    /// Returns what the size and the layout of an image depend on; nothing for a feature that cannot be read.
+    std::vector<std::optional<std::int64_t>> imageFormat() const;
+
     /// Returns the features whose values are sent with the images.
     std::vector<ChunkFeature> chunkFeatures() const;
 
@@ -36,4 +50,5 @@ private:
     bool isTransferControlled() const;
 
     NodeMap &m_nodes;
+    const StreamRole m_role;
 };

@@ -101,11 +101,14 @@ bool CameraHostServer::tryServe(const Message &message)
 
 void CameraHostServer::handle(const OpenDeviceRequest &request)
 {
-    const auto failure = m_camera.open(m_producerFile, request);
-    if (!failure)
-        return reply(DeviceOpenedReply{m_camera.nodes().nodes()});
-    m_isFinished = true;
-    fail(*failure);
+    if (const auto failure = m_camera.open(m_producerFile, request)) {
+        m_isFinished = true;
+        return fail(*failure);
+    }
+    // The list of the nodes can be long. Meanwhile, another thread prepares the first access to a value.
+    const std::string line = Message(m_request, DeviceOpenedReply{m_camera.nodes().nodes()}).toLine();
+    m_camera.startMonitor();
+    m_connection = m_channel.send(line);
 }
 
 void CameraHostServer::handle(const ReadStatesRequest &request)
@@ -147,7 +150,7 @@ void CameraHostServer::handle(const PrepareStreamRequest &request)
 {
     CameraStream *const stream = m_camera.stream();
     if (!stream)
-        return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
+        return fail({DeviceFailure::NotAvailable, "The camera is not open."});
     auto prepared = stream->prepare(request);
     if (const auto *const failure = std::get_if<RequestFailedReply>(&prepared))
         fail(*failure);
@@ -160,7 +163,7 @@ void CameraHostServer::handle(const StartStreamRequest &request)
 {
     CameraStream *const stream = m_camera.stream();
     if (!stream)
-        return fail({DeviceFailure::NotWritable, "The camera was opened for watching only."});
+        return fail({DeviceFailure::NotAvailable, "The camera is not open."});
     if (const auto failure = stream->start(request, m_channel.takeDescriptors())) {
         fail(*failure);
     } else {

@@ -21,8 +21,9 @@ CameraStream::Run::Run(DataStream &stream, std::unique_ptr<StreamMapping> stream
       fetch(stream, buffers, requeue, memory->ring(), images, onlyNewest)
 { }
 
-CameraStream::CameraStream(const DeviceLibrary &library, GenTL::DEV_HANDLE device, NodeMap &nodes)
-    : m_library(library), m_device(device), m_control(nodes), m_stream(library)
+CameraStream::CameraStream(
+    const DeviceLibrary &library, GenTL::DEV_HANDLE device, NodeMap &nodes, StreamRole role)
+    : m_library(library), m_device(device), m_control(nodes, role), m_stream(library)
 { }
 
 std::variant<StreamPreparedReply, CameraStream::Failure> CameraStream::prepare(
@@ -33,8 +34,9 @@ std::variant<StreamPreparedReply, CameraStream::Failure> CameraStream::prepare(
     if (m_stream.handle())
         return Failure{DeviceFailure::InvalidParameter, "The stream is open already."};
     if (const auto problem = m_stream.open(m_device))
-        return toFailure(*problem);
+        return startFailure(*problem);
     m_control.lock(); // Before the sizes are read, because some cameras only then compute them.
+    m_format = m_control.imageFormat(); // Before the sizes, so that no change stays unnoticed.
     const BufferNeeds needs = readNeeds();
     const auto plan = BufferPlan::make(request.buffers, needs);
     if (!plan) {
@@ -89,19 +91,31 @@ std::uint64_t CameraStream::ticksPerSecond() const
     return frequency.valueOr(0);
 }
 
+/// Returns the failure of a call that has to succeed before the stream runs.
+CameraStream::Failure CameraStream::startFailure(const Problem &problem) const
+{
+    Failure failure = toFailure(problem);
+    const bool isRefusal
+        = failure.failure == DeviceFailure::InUse || failure.failure == DeviceFailure::NotAvailable;
+    if (!m_control.isWatching() || !isRefusal)
+        return failure;
+    return {DeviceFailure::NotWritable,
+        "This camera sends its images only to the program that controls it. " + failure.text};
+}
+
 std::optional<CameraStream::Failure> CameraStream::startRun()
 {
     Run &run = *m_run;
     if (const auto problem = run.buffers.announce(m_minBuffers))
-        return toFailure(*problem);
+        return startFailure(*problem);
     for (std::uint32_t buffer = 0; buffer < run.buffers.size(); ++buffer) {
         if (!run.buffers.queue(buffer))
             return Failure{DeviceFailure::Device, "The producer does not accept a buffer (DSQueueBuffer)."};
     }
     if (const auto problem = m_stream.registerEvent())
-        return toFailure(*problem);
+        return startFailure(*problem);
     if (const auto problem = m_stream.startAcquisition())
-        return toFailure(*problem);
+        return startFailure(*problem);
     run.isAcquiring = true;
     run.fetch.start();
     run.requeue.start();
@@ -184,6 +198,18 @@ void CameraStream::attempt(Milliseconds timeout, std::function<void()> call)
 {
     const bool hasReturned = callWithin(timeout, std::move(call));
     m_isStuck = m_isStuck || !hasReturned;
+}
+
+std::optional<std::string> CameraStream::findFormatChange() const
+{
+    if (!m_run || !m_control.isWatching()) // The format is locked during a stream of our own.
+        return std::nullopt;
+    const auto isChanged
+        = [](const auto &before, const auto &now) { return before && now && *before != *now; };
+    const auto format = m_control.imageFormat();
+    if (std::equal(m_format.begin(), m_format.end(), format.begin(), std::not_fn(isChanged)))
+        return std::nullopt;
+    return "The program that controls the camera has changed the format of the images.";
 }
 
 std::uint64_t CameraStream::delivered() const

@@ -14,10 +14,12 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <variant>
 #include <vector>
 
 /// The stream of an opened camera: makes all calls of a start and a stop in the order that producers expect.
+/// The stream of a watcher writes nothing to the camera.
 /// Use each object on one thread.
 class CameraStream
 {
@@ -25,9 +27,10 @@ public:
     using Failure = RequestFailedReply;
     using Milliseconds = std::chrono::milliseconds;
 
-    CameraStream(const DeviceLibrary &library, GenTL::DEV_HANDLE device, NodeMap &nodes);
+    CameraStream(const DeviceLibrary &library, GenTL::DEV_HANDLE device, NodeMap &nodes, StreamRole role);
 
-    /// Opens the data stream, locks the features, and determines the buffers.
+    /// Opens the data stream, locks the features, and determines the buffers. Fails with
+    /// DeviceFailure::NotWritable, like start(), if the producer refuses the stream to a watcher.
     std::variant<StreamPreparedReply, Failure> prepare(const PrepareStreamRequest &request);
 
     /// Announces the buffers and starts the stream, then the camera. Takes over the descriptors. After a
@@ -48,6 +51,10 @@ public:
     /// Returns whether the running stream works; see FetchLoop::takeHealth().
     FetchLoop::Health takeHealth();
 
+    /// Returns a text for people if the program that controls the camera has changed the size or the layout
+    /// of the images since prepare(), so that the stream of a watcher has to start again.
+    std::optional<std::string> findFormatChange() const;
+
     /// Stops the stream at once while another thread may hang in a call of the producer, just before the end
     /// of the process. Any thread may call this function.
     void abandon() { m_stream.stopAcquisition(GenTL::ACQ_STOP_FLAGS_KILL); }
@@ -66,6 +73,7 @@ private:
         bool isAcquiring = false; // DSStartAcquisition has succeeded.
     };
 
+    Failure startFailure(const Problem &problem) const;
     std::optional<Failure> startRun();
     void stopRun(Milliseconds timeout);
     void stopAcquisition(Milliseconds timeout);
@@ -79,6 +87,7 @@ private:
     const GenTL::DEV_HANDLE m_device;
     AcquisitionControl m_control;
     DataStream m_stream;
+    std::vector<std::optional<std::int64_t>> m_format; // The format of the images at prepare().
     bool m_hasChunks = false;
     std::uint32_t m_minBuffers = 1;
     bool m_isStuck = false;

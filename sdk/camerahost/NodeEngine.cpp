@@ -60,18 +60,27 @@ NodeEngine::NodeEngine(RegisterPort &port, const Description &description, const
     : m_description(description),
       m_references(references),
       m_device(makeRegisterDevice(port, m_lastProblem)),
-      m_engine(makeEngine(m_device.get(), makeEngineDocument(description, references))),
+      m_parsedEngine(std::async([device = m_device.get(), &description, &references] {
+          return EnginePointer(makeEngine(device, makeEngineDocument(description, references)));
+      })),
       m_nodes(description.size())
 {
     // The policies stay off: the register cache returns outdated values, and the checks of limits and access
     // reject valid values of some registers. The callers check both.
 }
 
+ArvGc *NodeEngine::engine()
+{
+    if (m_parsedEngine.valid())
+        m_engine = m_parsedEngine.get();
+    return m_engine.get();
+}
+
 ArvGcNode *NodeEngine::find(NodeIndex node)
 {
     ArvGcNode *&found = m_nodes[node];
-    if (!found && m_engine)
-        found = arv_gc_get_node(m_engine.get(), m_description[node].name.c_str());
+    if (!found && engine())
+        found = arv_gc_get_node(engine(), m_description[node].name.c_str());
     return found;
 }
 

@@ -4,6 +4,7 @@
 #include "sdk/camerahost/FormulaCheck.h"
 #include "sdk/camerahost/NodeReferences.h"
 
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,7 +27,8 @@ using AccessResult = std::variant<Value, AccessProblem>;
 class NodeEngine
 {
 public:
-    /// All three must exist as long as the engine.
+    /// All three must exist as long as the engine. Starts a thread that prepares the engine for the first
+    /// access, which waits for it.
     NodeEngine(RegisterPort &port, const Description &description, const NodeReferences &references);
 
     /// Reads an integer or a float, depending on the kind of the node.
@@ -52,6 +54,8 @@ public:
     AccessResult<Number> readMaximum(NodeIndex node);
 
 private:
+    using EnginePointer = std::unique_ptr<ArvGc, GObjectDeleter>;
+
     template <typename Value, typename Call>
     AccessResult<Value> call(NodeIndex node, const Call &call);
     template <typename Call>
@@ -60,12 +64,14 @@ private:
     std::optional<NodeIndex> valueTarget(NodeIndex node);
     std::optional<AccessProblem> checkLengths(NodeIndex node);
     std::optional<AccessProblem> checkFormulas(NodeIndex node);
+    ArvGc *engine();
     ArvGcNode *find(NodeIndex node);
 
     const Description &m_description;
     const NodeReferences &m_references;
     std::optional<Problem> m_lastProblem; // Of the current call.
     std::unique_ptr<ArvRegisterDevice, GObjectDeleter> m_device;
-    std::unique_ptr<ArvGc, GObjectDeleter> m_engine;
+    EnginePointer m_engine; // Null until the first access, or if libaravis cannot parse the document.
+    std::future<EnginePointer> m_parsedEngine; // Taken over by the first access.
     std::vector<ArvGcNode *> m_nodes; // Null until the node is used for the first time.
 };

@@ -28,12 +28,16 @@ std::optional<OpenedCamera::Failure> OpenedCamera::open(
         return failure;
     const bool isWatching = request.access == CvxCPP::CvxAccessWatch || m_device.isReadOnly();
     m_nodes->setWatching(isWatching);
-    m_mayStream = !isWatching;
-    m_ownedStream = std::make_unique<CameraStream>(m_device.library(), m_device.device(), *m_nodes);
+    m_ownedStream = std::make_unique<CameraStream>(m_device.library(), m_device.device(), *m_nodes,
+        isWatching ? StreamRole::Watcher : StreamRole::Controller);
+    return std::nullopt;
+}
+
+void OpenedCamera::startMonitor()
+{
     m_monitor.emplace(m_device, *m_port, *m_nodes);
     m_monitor->start(DeviceMonitor::TimePoint::clock::now());
     m_stream = m_ownedStream.get();
-    return std::nullopt;
 }
 
 /// Builds the node map. A camera without one has no features, but is opened nevertheless if it can stream.
@@ -64,6 +68,13 @@ std::optional<OpenedCamera::Failure> OpenedCamera::doWithoutNodes(const Failure 
         return failure;
     m_nodes = std::make_unique<MissingNodeMap>(failure.text);
     return std::nullopt;
+}
+
+std::optional<std::string> OpenedCamera::tick(DeviceMonitor::TimePoint now)
+{
+    if (auto reason = m_monitor->tick(now, *m_stream))
+        return reason;
+    return m_ownedStream->findFormatChange();
 }
 
 void OpenedCamera::close(Milliseconds timeout)

@@ -24,17 +24,21 @@ public:
     /// Opens the camera. Returns the failure if this is not possible; only close() may be called afterwards.
     std::optional<Failure> open(const std::string &producerFile, const OpenDeviceRequest &request);
 
+    /// Starts to check whether the camera answers. Call it once after open().
+    void startMonitor();
+
     /// Returns the features. Before open(), there are none.
     NodeMap &nodes() { return *m_nodes; }
 
-    /// Returns the stream, or null if the camera is not open or may only be watched.
-    CameraStream *stream() { return m_mayStream ? m_stream.load() : nullptr; }
+    /// Returns the stream, or null if the camera is not monitored yet.
+    CameraStream *stream() { return m_stream; }
 
-    /// Returns true if the camera is open.
+    /// Returns true if the camera is open and monitored.
     bool isOpen() const { return m_stream.load() != nullptr; }
 
-    /// Checks what is due. Returns a text for people if the camera is lost. The camera must be open.
-    std::optional<std::string> tick(DeviceMonitor::TimePoint now) { return m_monitor->tick(now, *m_stream); }
+    /// Checks what is due. Returns a text for people if the camera is lost, or has to be opened again because
+    /// another program has changed the format of the images. The camera must be open.
+    std::optional<std::string> tick(DeviceMonitor::TimePoint now);
 
     /// Stops the stream and closes the camera. Each call of the producer gets `timeout`. No other function
     /// may be called afterwards, because a call may still hang.
@@ -54,6 +58,5 @@ private:
     std::unique_ptr<CameraStream> m_ownedStream;
     std::atomic<CameraStream *> m_stream{nullptr};
     std::optional<DeviceMonitor> m_monitor;
-    bool m_mayStream = false;
     bool m_isClosed = false;
 };

@@ -14,9 +14,6 @@ CvxResult StreamObject::start(const std::shared_ptr<DeviceCore> &device, unsigne
         return device->results.result(CvxErrorInvalidParameter,
             "The stream cannot be started with " + std::to_string(buffers) + " buffers; 2 to "
                 + std::to_string(StreamRing::maxBuffers) + " are possible.");
-    if (device->target.access == CvxAccessWatch)
-        return device->results.result(
-            CvxErrorNotWritable, "The stream cannot be started: the camera was opened for watching only.");
     auto started = device->startStream(buffers, policy);
     if (auto *failed = std::get_if<CvxResult>(&started))
         return std::move(*failed);

@@ -36,25 +36,22 @@ CvxResult readStates(Device &device, const std::vector<std::string> &names, std:
     return {};
 }
 
-namespace {
-
-/// Waits until a command is done. A camera that does not say so is left alone.
-CvxResult waitForCommand(Device &device, const std::string &name)
+CvxResult executeAndWait(Device &device, const std::string &command)
 {
     using Clock = std::chrono::steady_clock;
     using namespace std::chrono_literals;
+    if (CvxResult result = device.Execute(command); !result)
+        return result;
     for (const auto end = Clock::now() + 5s; Clock::now() < end;) {
         std::vector<NodeState> states;
-        if (CvxResult result = device.ReadStates({name}, states); !result)
+        if (CvxResult result = device.ReadStates({command}, states); !result)
             return result;
         if (states.front().isCommandDone)
             return {};
         std::this_thread::sleep_for(20ms);
     }
-    return {};
+    return {CvxErrorDevice, "The camera has not finished the command \"" + command + "\" within 5 s."};
 }
-
-} // namespace
 
 CvxResult announce(
     Device &device, const FeatureDirectory &directory, std::initializer_list<const char *> commands)
@@ -62,9 +59,7 @@ CvxResult announce(
     for (const char *const command : commands) {
         if (!directory.find(command))
             continue;
-        CvxResult result = device.Execute(command);
-        if (result)
-            result = waitForCommand(device, command);
+        CvxResult result = executeAndWait(device, command);
         if (result || isDeviceGone(result))
             return result;
     }

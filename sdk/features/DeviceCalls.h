@@ -28,6 +28,10 @@ bool isDeviceGone(const CvxCPP::CvxResult &result);
 CvxCPP::CvxResult readStates(
     CvxCPP::Device &device, const std::vector<std::string> &names, std::vector<CvxCPP::NodeState> &states);
 
+/// Executes a command and waits until it is done, for at most 5 s; a camera that takes longer than that is an
+/// error of the camera.
+CvxCPP::CvxResult executeAndWait(CvxCPP::Device &device, const std::string &command);
+
 /// Executes the first of these commands that the camera has and waits until it is done, for at most 5 s.
 /// Also succeeds if the camera has none of them or refuses: such commands only announce that many features
 /// follow. Fails only if the device is gone.

@@ -1,8 +1,6 @@
 #include "sdk/features/FeatureLoader.h"
 
-#include "sdk/features/FeatureReader.h"
-#include "sdk/features/FeatureSaver.h"
-#include "sdk/features/FeatureText.h"
+#include "sdk/features/FeatureBackup.h"
 #include "sdk/features/LoadRun.h"
 
 #include <algorithm>
@@ -20,47 +18,6 @@ CvxResult readDirectory(Device &device, FeatureDirectory &directory)
     return result;
 }
 
-/// Reads all settings that loading may change: also features that the file lacks, because cameras change
-/// some features together with others.
-CvxResult readSnapshot(Device &device, const FeatureDirectory &directory, const FeatureFile &file,
-    const FeatureProgress &progress, SavedFeatures &snapshot)
-{
-    FeatureReader reader(device, directory, progress);
-    CvxResult result = reader.read(settingNames(directory, file.settings));
-    snapshot.isCancelled = reader.isCancelled();
-    // What was locked before is written back first, before its lock is restored.
-    std::stable_partition(reader.readings().begin(), reader.readings().end(),
-        [](const FeatureReading &reading) { return reading.state.lockReason != LockReason::None; });
-    for (FeatureReading &reading : reader.readings()) {
-        const NodeState &state = reading.state;
-        if (state.access == NodeAccess::ReadWrite && state.value.index() != 0)
-            snapshot.settings.push_back(
-                {std::move(reading.selectors), state.name, settingText(state.value), 0});
-    }
-    return result;
-}
-
-/// Writes the snapshot back, and reports what could not be written back.
-CvxResult restore(Device &device, const FeatureDirectory &directory,
-    const std::vector<FeatureSetting> &snapshot, LoadReport &report)
-{
-    const FeatureProgress noProgress;
-    LoadRun run(device, directory, snapshot, noProgress);
-    CvxResult result = run.readBefore();
-    if (result)
-        result = run.apply();
-    const LoadReport undone = run.finish(result);
-    for (const FeatureChange &change : undone.changes) {
-        if (change.outcome == FeatureOutcome::Failed)
-            report.notes.push_back({change.setting.name,
-                change.setting.name + " has not got its previous value " + change.setting.value
-                    + " back: " + change.reason});
-    }
-    report.notes.insert(report.notes.end(), undone.notes.begin(), undone.notes.end());
-    report.isRestored = static_cast<bool>(result);
-    return result;
-}
-
 } // namespace
 
 std::size_t LoadReport::count(FeatureOutcome outcome) const
@@ -75,7 +32,10 @@ CvxResult planFeatures(
     FeatureDirectory directory;
     if (CvxResult result = readDirectory(device, directory); !result)
         return result;
-    LoadRun run(device, directory, directory.resolve(file.settings), progress);
+    const FeatureProgress readProgress = [&progress](std::size_t done, std::size_t total) {
+        return !progress || progress(done, total / 2); // The other half are the writes.
+    };
+    LoadRun run(device, directory, directory.resolve(file.settings), readProgress);
     CvxResult result = run.readBefore();
     report = run.finish(result);
     return result;
@@ -98,22 +58,28 @@ CvxResult loadFeatures(
 CvxResult loadAllFeatures(
     Device &device, const FeatureFile &file, LoadReport &report, const FeatureProgress &progress)
 {
+    std::optional<FeatureBackup> backup;
+    return loadAllFeatures(device, file, backup, report, progress);
+}
+
+CvxResult loadAllFeatures(Device &device, const FeatureFile &file, std::optional<FeatureBackup> &backup,
+    LoadReport &report, const FeatureProgress &progress)
+{
     FeatureDirectory directory;
     if (CvxResult result = readDirectory(device, directory); !result)
         return result;
     LoadRun run(device, directory, directory.resolve(file.settings), progress);
     CvxResult result = run.readBefore();
-    SavedFeatures snapshot;
     const bool canStart = result && file.problems.empty() && !run.isHopeless() && !run.isCancelled();
-    if (canStart)
-        result = readSnapshot(device, directory, file, progress, snapshot);
-    const bool isStarted = canStart && result && !snapshot.isCancelled;
+    if (canStart && !backup)
+        result = readBackup(device, file.settings, backup.emplace(), progress);
+    const bool isStarted = canStart && result && !backup->isCancelled;
     if (isStarted)
         result = run.apply();
     report = run.finish(result);
-    report.isCancelled = report.isCancelled || snapshot.isCancelled;
+    report.isCancelled = report.isCancelled || (backup && backup->isCancelled);
     const bool isComplete = !report.isCancelled && report.count(FeatureOutcome::Failed) == 0;
     if (!result || !isStarted || isComplete)
         return result;
-    return restore(device, directory, snapshot.settings, report);
+    return restoreBackup(device, *backup, report);
 }

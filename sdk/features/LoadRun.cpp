@@ -53,13 +53,15 @@ CvxResult LoadRun::readBefore()
 {
     if (CvxResult result = checkStream(); !result)
         return result;
+    std::size_t count = 0;
     for (const Group &group : m_groups) {
-        if (!reportProgress(0)) {
+        if (!reportProgress(count)) {
             m_items.clear(); // Nothing is known about them.
             return {};
         }
         if (CvxResult result = readGroup(group); !result)
             return result;
+        count += group.size();
     }
     for (LoadItem &item : m_items) {
         if (!item.counts())
@@ -192,7 +194,7 @@ CvxResult LoadRun::writePending()
             LoadItem &item = m_items[index];
             if (!item.isPending)
                 continue;
-            if (!reportProgress(m_passes == 0 ? index : m_items.size()))
+            if (!reportProgress(m_items.size() + (m_passes == 0 ? index : m_items.size())))
                 return {};
             CvxResult result = select(item);
             if (result)
@@ -249,8 +251,9 @@ LoadReport LoadRun::finish(CvxResult &result)
     return report;
 }
 
+/// Each setting counts twice: it is read, and later written.
 bool LoadRun::reportProgress(std::size_t done)
 {
-    m_isCancelled = m_isCancelled || (m_progress && !m_progress(done, m_items.size()));
+    m_isCancelled = m_isCancelled || (m_progress && !m_progress(done, 2 * m_items.size()));
     return !m_isCancelled;
 }

@@ -1,20 +1,29 @@
 #include "sdk/protocol/Message.h"
 
 #include <nlohmann/json.hpp>
-#include <stdexcept>
 #include <utility>
+#include <vector>
 
 using nlohmann::json;
 
 namespace {
 
-/// Refuses floating-point numbers, because their conversion to an integer may be undefined. Messages contain
-/// such numbers as text.
-bool refuseFloat(int, json::parse_event_t, const json &value)
+/// Returns true if a floating-point number is in the value. Messages contain such numbers as text, because
+/// their conversion to an integer may be undefined.
+bool containsFloat(const json &value)
 {
-    if (value.is_number_float())
-        throw std::invalid_argument("a message contains no floating-point numbers");
-    return true;
+    std::vector<const json *> open{&value}; // No recursion, because values can be nested deeply.
+    while (!open.empty()) {
+        const json &next = *open.back();
+        open.pop_back();
+        if (next.is_number_float())
+            return true;
+        if (!next.is_structured())
+            continue;
+        for (const json &child : next)
+            open.push_back(&child);
+    }
+    return false;
 }
 
 } // namespace
@@ -26,7 +35,9 @@ Message::Message(Id id, std::string kind)
 std::optional<Message> Message::fromLine(std::string_view line)
 {
     try {
-        json fields = json::parse(line, refuseFloat);
+        json fields = json::parse(line);
+        if (containsFloat(fields))
+            return std::nullopt;
         Message message(fields.at("id").get<Id>(), fields.at("kind").get<std::string>());
         *message.m_body = std::move(fields.at("body"));
         return message;
@@ -37,6 +48,8 @@ std::optional<Message> Message::fromLine(std::string_view line)
 
 std::string Message::toLine() const
 {
-    const json fields{{"id", m_id}, {"kind", m_kind}, {"body", *m_body}};
-    return fields.dump(-1, ' ', false, json::error_handler_t::replace) + '\n';
+    const auto text
+        = [](const json &value) { return value.dump(-1, ' ', false, json::error_handler_t::replace); };
+    // The body can be large, so it is not copied into an object of all three fields.
+    return "{\"body\":" + text(*m_body) + ",\"id\":" + text(m_id) + ",\"kind\":" + text(m_kind) + "}\n";
 }

@@ -125,6 +125,25 @@ std::uint32_t RegisterFile::pulses(std::size_t input) const
     return m_memory->pulses[input];
 }
 
+void RegisterFile::announceImage(std::uint64_t frameId, std::int64_t time)
+{
+    const std::uint64_t number = m_memory->images + 1;
+    ImageSlot &slot = m_memory->imageSlots[number % m_memory->imageSlots.size()];
+    slot.frameId = frameId;
+    slot.time = time;
+    m_memory->images = number;
+    m_memory->wakeCounter.wake();
+}
+
+std::optional<TakenImage> RegisterFile::latestImage() const
+{
+    const std::uint64_t number = m_memory->images;
+    const ImageSlot &slot = m_memory->imageSlots[number % m_memory->imageSlots.size()];
+    const TakenImage image{number, slot.frameId, slot.time};
+    // Its slot is only written again after the number has changed.
+    return m_memory->images == number ? std::optional(image) : std::nullopt;
+}
+
 bool RegisterFile::isRestarting() const
 {
     const std::int64_t remaining = m_memory->restartEnd - monotonicNow();

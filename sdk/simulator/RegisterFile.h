@@ -12,6 +12,14 @@
 #include <mutex>
 #include <optional>
 
+/// An image that the process which controls the camera has taken.
+struct TakenImage
+{
+    std::uint64_t number = 0; ///< Grows by 1 with each image, also over the end of an acquisition.
+    std::uint64_t frameId = 0;
+    std::int64_t time = 0; ///< Nanoseconds of the monotonic clock.
+};
+
 /// The registers, the user sets and the trigger inputs of one simulated camera, in memory that all processes
 /// share. The memory has its power-on contents when the first user opens the camera. All functions may be
 /// called at any time on any thread; one process at a time may change registers.
@@ -50,6 +58,16 @@ public:
     void addPulse(std::size_t input);
     std::uint32_t pulses(std::size_t input) const;
 
+    /// Reports that the camera takes an image. Only the process that controls the camera calls this function.
+    void announceImage(std::uint64_t frameId, std::int64_t time);
+
+    /// Returns the number of images that were announced.
+    std::uint64_t takenImages() const { return m_memory->images; }
+
+    /// Returns the image that was announced last, with the number 0 if there is none; nothing while the next
+    /// one is being stored.
+    std::optional<TakenImage> latestImage() const;
+
     /// Signalled after every change of this file.
     WakeCounter &wakeCounter() { return m_memory->wakeCounter; }
 
@@ -65,6 +83,12 @@ public:
 private:
     using Words = std::array<std::atomic<std::uint64_t>, RegisterBank::wordCount>;
 
+    struct ImageSlot
+    {
+        std::atomic<std::uint64_t> frameId;
+        std::atomic<std::int64_t> time;
+    };
+
     struct Memory
     {
         std::array<std::uint8_t, CameraFile::reservedSize> reserved; // The locks' part of the file.
@@ -77,6 +101,8 @@ private:
         Words registers;
         std::array<std::atomic<std::uint32_t>, userSetCount> isUserSetSaved;
         std::array<Words, userSetCount> userSets;
+        std::atomic<std::uint64_t> images; // Number of images that were announced.
+        std::array<ImageSlot, 2> imageSlots; // Image n is in slot n % 2.
     };
 
     void store(const RegisterBank &bank);

@@ -8,6 +8,7 @@
 #include "sdk/simulator/UserSets.h"
 
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -46,7 +47,8 @@ void SimulatedImages::start(BufferQueue &queue)
 {
     m_isStopping = false;
     m_changes.reset();
-    m_thread = std::thread([this, &queue] { run(queue); });
+    m_followed = m_registers.takenImages();
+    m_thread = std::thread([this, &queue] { m_isController ? run(queue) : follow(queue); });
 }
 
 void SimulatedImages::stop(bool)
@@ -68,8 +70,7 @@ void SimulatedImages::run(BufferQueue &queue)
     while (!m_isStopping) {
         const std::uint32_t wakeCounter = m_registers.wakeCounter().value();
         const std::int64_t now = monotonicNow();
-        if (m_changes != m_registers.changes())
-            updateSettings(now);
+        updateSettings(now);
         const std::optional<std::int64_t> due = m_isLost ? std::nullopt : m_sequence.nextImage();
         const bool isDue = due && *due <= now;
         if (!isDue || !takeImage(queue, now))
@@ -78,17 +79,37 @@ void SimulatedImages::run(BufferQueue &queue)
     }
 }
 
-void SimulatedImages::updateSettings(std::int64_t now)
+/// Copies the images that the process which controls the camera takes. If that process ends, there are none.
+void SimulatedImages::follow(BufferQueue &queue)
 {
-    m_changes = m_registers.changes();
+    while (!m_isStopping) {
+        const std::uint32_t wakeCounter = m_registers.wakeCounter().value();
+        const std::optional<TakenImage> image = m_isLost ? std::nullopt : m_registers.latestImage();
+        const bool isNew = image && image->number != m_followed;
+        // The settings are read after the image, or they could be older.
+        if (isNew && updateSettings(monotonicNow()))
+            copyImage(queue, *image);
+        else
+            m_registers.wakeCounter().wait(wakeCounter, monotonicNow() + idleWait);
+    }
+}
+
+/// Reads the registers if they have changed. Returns false while a change is being stored; the thread is
+/// woken afterwards.
+bool SimulatedImages::updateSettings(std::int64_t now)
+{
+    const std::uint32_t changes = m_registers.changes();
+    if (m_changes == changes)
+        return true;
     const RegisterBank bank = m_registers.load();
-    // Half of a change may have been read. The thread is woken after the change, and reads again.
-    if (*m_changes % 2 != 0 || *m_changes != m_registers.changes())
-        return;
+    if (changes % 2 != 0 || changes != m_registers.changes()) // Half of a change may have been read.
+        return false;
+    m_changes = changes;
     if (!hasSameSettings(bank, m_bank))
         m_pictures.update(sceneSettings(bank));
     m_bank = bank;
     m_sequence.update(m_bank, now);
+    return true;
 }
 
 /// Takes the image that is due. Returns false if the camera runs at full speed and has no buffer.
@@ -98,20 +119,32 @@ bool SimulatedImages::takeImage(BufferQueue &queue, std::int64_t now)
     if (!buffer && m_sequence.isUnlimited())
         return false;
     ++m_started;
+    const std::uint64_t frameId = m_sequence.images() + 1;
+    m_registers.announceImage(frameId, now);
     if (buffer) {
-        const FilledImage image = fill(*buffer, now);
+        const FilledImage image = fill(*buffer, frameId, now);
         m_sequence.imageTaken(now);
         queue.deliver(*buffer, image);
     } else {
         m_sequence.imageTaken(now);
         queue.countUnderrun(1);
     }
-    if (m_isController && m_sequence.isFinished())
+    if (m_sequence.isFinished())
         finishAcquisition();
     return true;
 }
 
-FilledImage SimulatedImages::describe(std::uint64_t timestamp) const
+void SimulatedImages::copyImage(BufferQueue &queue, const TakenImage &image)
+{
+    const std::uint64_t images = image.number - std::exchange(m_followed, image.number);
+    const std::optional<BufferQueue::Buffer> buffer = queue.take();
+    m_started += images;
+    queue.countUnderrun(buffer ? images - 1 : images); // This thread was too slow for the others.
+    if (buffer)
+        queue.deliver(*buffer, fill(*buffer, image.frameId, image.time));
+}
+
+FilledImage SimulatedImages::describe(std::uint64_t frameId, std::int64_t now) const
 {
     FilledImage image;
     image.width = static_cast<std::size_t>(m_bank.integer(Id::Width));
@@ -119,15 +152,15 @@ FilledImage SimulatedImages::describe(std::uint64_t timestamp) const
     image.offsetX = static_cast<std::size_t>(m_bank.integer(Id::OffsetX));
     image.offsetY = static_cast<std::size_t>(m_bank.integer(Id::OffsetY));
     image.pixelFormat = static_cast<std::uint64_t>(m_bank.integer(Id::PixelFormat));
-    image.frameId = m_sequence.images() + 1;
-    image.timestamp = timestamp;
+    image.frameId = frameId;
+    image.timestamp = static_cast<std::uint64_t>(timestampAt(m_bank, now));
     return image;
 }
 
-FilledImage SimulatedImages::fill(const BufferQueue::Buffer &buffer, std::int64_t now)
+FilledImage SimulatedImages::fill(const BufferQueue::Buffer &buffer, std::uint64_t frameId, std::int64_t now)
 {
     m_pictures.setTemperature(sensorTemperature(m_bank, now));
-    FilledImage image = describe(static_cast<std::uint64_t>(timestampAt(m_bank, now)));
+    FilledImage image = describe(frameId, now);
     image.dataSize = m_pictures.imageSize() + chunkOverhead(m_bank);
     if (buffer.size < image.dataSize) { // The buffer gets as much of the picture as it holds.
         std::vector<std::uint8_t> picture(m_pictures.imageSize());

@@ -10,6 +10,8 @@
 #include <thread>
 
 /// The stream of a simulated camera. One thread takes the images and writes them into the consumer's buffers.
+/// In the process that controls the camera, this thread decides when an image is taken. The thread of a
+/// watcher renders the same images, with the same frame IDs and times.
 class SimulatedImages final : public ImageSource
 {
 public:
@@ -30,10 +32,12 @@ public:
 
 private:
     void run(BufferQueue &queue);
-    void updateSettings(std::int64_t now);
+    void follow(BufferQueue &queue);
+    bool updateSettings(std::int64_t now);
     bool takeImage(BufferQueue &queue, std::int64_t now);
-    FilledImage fill(const BufferQueue::Buffer &buffer, std::int64_t now);
-    FilledImage describe(std::uint64_t timestamp) const;
+    void copyImage(BufferQueue &queue, const TakenImage &image);
+    FilledImage fill(const BufferQueue::Buffer &buffer, std::uint64_t frameId, std::int64_t now);
+    FilledImage describe(std::uint64_t frameId, std::int64_t now) const;
     void finishAcquisition();
 
     RegisterFile &m_registers;
@@ -48,5 +52,6 @@ private:
     AcquisitionSequence m_sequence;
     PictureSource m_pictures;
     std::optional<std::uint32_t> m_changes; // RegisterFile::changes() when m_bank was read.
+    std::uint64_t m_followed = 0; // Number of the image that a watcher has copied last.
     RegisterBank m_bank;
 };

@@ -136,6 +136,63 @@ TEST(QuirkStream, imagesLargerThanTheBuffersAreIncomplete)
     EXPECT_TRUE(host.client.stopStream() && host.client.close());
 }
 
+class StreamOfAWatcher : public testing::Test
+{
+protected:
+    void start(const std::string &script)
+    {
+        producer.setScript(script);
+        ASSERT_TRUE(client.open(CvxCPP::CvxAccessWatch)) << client.failure.text;
+        isStarted = client.prepareStream() && client.startStream();
+    }
+
+    QuirkProducer producer;
+    HostClient client{producer.ctiPath()};
+    bool isStarted = false;
+};
+
+TEST_F(StreamOfAWatcher, writesNothing)
+{
+    start("free-running\n");
+    ASSERT_TRUE(isStarted) << client.failure.text;
+    const auto image = client.nextImage();
+    ASSERT_TRUE(image);
+    EXPECT_TRUE(image->record.isComplete);
+    EXPECT_EQ(client.read("TLParamsLocked"), CvxCPP::NodeValue(std::int64_t(0)));
+    EXPECT_TRUE(client.stopStream() && client.close());
+    for (const std::string &call : producer.log()) {
+        EXPECT_EQ(call.find("GCWritePort"), std::string::npos) << call;
+        EXPECT_EQ(call.find("violation"), std::string::npos) << call;
+    }
+}
+
+TEST_F(StreamOfAWatcher, endsWhenTheControllerChangesTheFormat)
+{
+    start("free-running\n");
+    ASSERT_TRUE(isStarted && client.nextImage()) << client.failure.text;
+    producer.setScript("free-running\nline-padding 8\n");
+    EXPECT_NE(client.waitForLoss().value_or("").find("has changed the format"), std::string::npos);
+}
+
+class RefusedStreamOfAWatcher : public StreamOfAWatcher, public testing::WithParamInterface<const char *>
+{ };
+
+TEST_P(RefusedStreamOfAWatcher, isExplained)
+{
+    start(GetParam());
+    EXPECT_FALSE(isStarted);
+    EXPECT_EQ(client.failure.failure, DeviceFailure::NotWritable);
+    EXPECT_EQ(
+        client.failure.text.find("This camera sends its images only to the program that controls it. "), 0U)
+        << client.failure.text;
+    EXPECT_EQ(client.read("Gain"), CvxCPP::NodeValue(std::int64_t(1))) << "the camera is still open";
+    EXPECT_TRUE(client.close());
+}
+
+INSTANTIATE_TEST_SUITE_P(, RefusedStreamOfAWatcher,
+    testing::Values("streams 0\n", "DevOpenDataStream error -1005\n", "DevOpenDataStream error -1004\n",
+        "DSStartAcquisition error -1005\n", "DSStartAcquisition error -1014\n"));
+
 TEST(QuirkStream, lostImagesAreCounted)
 {
     OpenedHost host("images 7\ninterval 50000\nframe-ids 65532 65534 65535 1 2 5 6\n");

@@ -70,7 +70,7 @@ protected:
     }
 
     FakeNodes nodes;
-    AcquisitionControl control{nodes};
+    AcquisitionControl control{nodes, StreamRole::Controller};
 };
 
 } // namespace
@@ -88,6 +88,17 @@ TEST_F(StreamControl, cameraIsStartedAndStopped)
     EXPECT_FALSE(control.start());
     control.stop();
     EXPECT_EQ(nodes.log, (Strings{"AcquisitionStart", "AcquisitionStop"}));
+}
+
+TEST_F(StreamControl, watcherWritesNothing)
+{
+    controlTransfer("UserControlled");
+    AcquisitionControl watcher(nodes, StreamRole::Watcher);
+    watcher.lock();
+    EXPECT_FALSE(watcher.start());
+    watcher.stop();
+    watcher.unlock();
+    EXPECT_EQ(nodes.log, Strings());
 }
 
 TEST_F(StreamControl, transferIsStartedLastAndStoppedFirst)

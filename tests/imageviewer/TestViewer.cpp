@@ -1,21 +1,17 @@
 #include "sdk/image/RawImage.h"
-#include "tests/imageviewer/SimulatedCameras.h"
+#include "tests/imageviewer/ControllingProgram.h"
 #include "tests/imageviewer/ViewerUnderTest.h"
 #include "tests/support/ScriptFile.h"
+#include "tests/toolundertest/SimulatedCameras.h"
 #include "tools/imageviewer/panel/CameraPanel.h"
 #include "tools/kit/canvas/ViewTransform.h"
 #include "tools/kit/pages/CameraChooser.h"
 #include "tools/kit/pages/NoCameraPage.h"
 
-#include <QAbstractScrollArea>
-#include <QAccessible>
 #include <QApplication>
 #include <QDir>
-#include <QDockWidget>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QProcess>
-#include <QPushButton>
 #include <QSet>
 #include <QtTest>
 
@@ -95,14 +91,14 @@ void TestViewer::namedCameraIsShown()
 void TestViewer::onlyCameraIsOpened()
 {
     m_cameras.plug({"2001"_s});
-    ViewerUnderTest viewer({});
+    ViewerUnderTest viewer((QString()));
     viewer.awaitPicture();
     QVERIFY(viewer.window().windowTitle().contains("2001"_s));
 }
 
 void TestViewer::severalCamerasAreOffered()
 {
-    ViewerUnderTest viewer({});
+    ViewerUnderTest viewer((QString()));
     auto *const chooser = viewer.find<CameraChooser>();
     QTRY_VERIFY_WITH_TIMEOUT(chooser->isVisible(), 60000);
     auto *const search = chooser->findChild<QLineEdit *>();
@@ -115,7 +111,7 @@ void TestViewer::severalCamerasAreOffered()
 void TestViewer::cameraIsOpenedWhenItIsPluggedIn()
 {
     m_cameras.plug({});
-    ViewerUnderTest viewer({});
+    ViewerUnderTest viewer((QString()));
     QTRY_VERIFY_WITH_TIMEOUT(viewer.find<NoCameraPage>()->isVisible(), 60000);
     m_cameras.plug({"1001"_s});
     viewer.awaitPicture();
@@ -150,7 +146,7 @@ void TestViewer::drawnRegionBecomesTheRegionOfTheCamera()
     send(QEvent::MouseMove, (from + to) / 2, Qt::LeftButton);
     send(QEvent::MouseMove, to, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, to, Qt::NoButton);
-    ViewerUnderTest::await([&] { return canvas.picture().pictureSize.width() < 320; });
+    await([&] { return canvas.picture().pictureSize.width() < 320; });
     const CvxCPP::ImageInfo info = canvas.picture().image->GetInfo();
     const QRect region(int(info.offsetX), int(info.offsetY), int(info.width), int(info.height));
     // The camera extends the region to its increments.
@@ -169,10 +165,10 @@ void TestViewer::unpluggedCameraGoesOnWhenItIsBack()
     viewer.awaitPicture();
     viewer.write("ExposureTime", 3000.0);
     m_cameras.plug({"1002"_s});
-    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Lost; });
+    await([&] { return viewer.window().connection().state() == State::Lost; });
     QVERIFY(viewer.canvas().picture().image); // The last picture stays.
     m_cameras.plug({"1001"_s, "1002"_s});
-    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
+    await([&] { return viewer.window().connection().state() == State::Open; });
     viewer.awaitNewPicture();
     QCOMPARE(viewer.readFloat("ExposureTime"), 3000.0);
 }
@@ -181,8 +177,8 @@ void TestViewer::windowStaysUsableWhenTheHostCrashes()
 {
     ViewerUnderTest viewer("1001"_s);
     viewer.awaitPicture();
-    ViewerUnderTest::signalCameraHost("KILL"_s);
-    ViewerUnderTest::await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
+    signalCameraHost("KILL"_s);
+    await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
     viewer.awaitNewPicture();
 }
 
@@ -190,11 +186,11 @@ void TestViewer::windowStaysUsableWhenTheHostHangs()
 {
     ViewerUnderTest viewer("1001"_s);
     viewer.awaitPicture();
-    ViewerUnderTest::signalCameraHost("STOP"_s);
+    signalCameraHost("STOP"_s);
     // The SDK ends a process that does not answer, and opens the camera again with what was written.
     viewer.window().features().write("ExposureTime"_s, 2500.0);
     viewer.action("Rotate right"_s).trigger();
-    ViewerUnderTest::await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
+    await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
     viewer.awaitNewPicture();
 }
 
@@ -205,7 +201,7 @@ void TestViewer::snapshotContainsTheRawValues()
     viewer.awaitPicture();
     viewer.action("Freeze"_s).trigger();
     viewer.action("Save snapshot"_s).trigger();
-    ViewerUnderTest::await([&] { return !filesIn(folder, "*.raw"_s).isEmpty(); });
+    await([&] { return !filesIn(folder, "*.raw"_s).isEmpty(); });
     const RawImage image = rawImage(*viewer.canvas().picture().image);
     QCOMPARE(ScriptFile::read(filesIn(folder, "*.raw"_s).constFirst()),
         QByteArray(reinterpret_cast<const char *>(image.data), int(image.size)));
@@ -221,8 +217,8 @@ void TestViewer::recordingHasEveryFrameId()
     viewer.awaitPicture();
     QAction &record = viewer.action("Record"_s);
     record.trigger();
-    ViewerUnderTest::await([&] { return record.isChecked(); });
-    ViewerUnderTest::await([&] { return !record.isChecked(); });
+    await([&] { return record.isChecked(); });
+    await([&] { return !record.isChecked(); });
     // The index has a line for each image, which begins with the frame ID, below a line with the titles.
     const QList<QByteArray> lines
         = ScriptFile::read(filesIn(folder, "*.csv"_s).constFirst()).trimmed().split('\n').mid(1);
@@ -234,20 +230,20 @@ void TestViewer::recordingHasEveryFrameId()
 
 void TestViewer::cameraInUseCanBeWatched()
 {
-    QProcess other;
-    other.start(qEnvironmentVariable("CORVIX_TEST_SDK") + "/bin/cvxctl"_s, {"watch"_s, "1001"_s});
-    QVERIFY(other.waitForReadyRead(60000)); // The camera streams.
+    ControllingProgram small("1001"_s, 160);
     ViewerUnderTest viewer("1001"_s);
-    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::InUse; });
-    const QList<QPushButton *> buttons = viewer.window().findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->text() == "&Watch only"_s)
-            button->click();
-    }
-    ViewerUnderTest::await([&] { return viewer.window().connection().state() == State::Open; });
+    viewer.watchOnly();
     QVERIFY(!viewer.window().connection().isControlled());
-    other.terminate();
-    QVERIFY(other.waitForFinished(60000));
+    viewer.awaitNewPicture();
+    QCOMPARE(viewer.canvas().picture().pictureSize.width(), 160);
+    small.end();
+    // Larger images do not fit into the buffers of the watcher, whose stream starts again.
+    ControllingProgram large("1001"_s, 320);
+    await([&] { return viewer.window().stream().statistics().reopenCount == 1; });
+    await([&] { return viewer.canvas().picture().pictureSize.width() == 320; });
+    viewer.awaitNewPicture();
+    QVERIFY(viewer.canvas().picture().image->GetInfo().isComplete);
+    large.end();
 }
 
 void TestViewer::everyControlHasAnAccessibleName()
@@ -255,26 +251,10 @@ void TestViewer::everyControlHasAnAccessibleName()
     ViewerUnderTest viewer("1002"_s);
     viewer.awaitPicture();
     const auto *const panel = viewer.find<CameraPanel>();
-    ViewerUnderTest::await([&] { return panel->editor("ExposureTime"_s) != nullptr; });
-    QSet<QWidget *> controls;
-    const QList<QDockWidget *> docks = viewer.window().findChildren<QDockWidget *>();
-    for (QDockWidget *dock : docks) {
-        dock->show();
-        dock->raise();
-        QTRY_VERIFY(!dock->widget()->visibleRegion().isEmpty());
-        const QList<QWidget *> widgets = viewer.window().findChildren<QWidget *>();
-        for (QWidget *widget : widgets) {
-            if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy()
-                && !qobject_cast<QAbstractScrollArea *>(widget))
-                controls.insert(widget);
-        }
-    }
-    QVERIFY(controls.size() > 40);
-    QStringList unnamed;
-    for (QWidget *control : controls) {
-        if (QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty())
-            unnamed.append(QLatin1String(control->metaObject()->className()) + ": "_s + control->toolTip());
-    }
+    await([&] { return panel->editor("ExposureTime"_s) != nullptr; });
+    int count = 0;
+    const QStringList unnamed = unnamedControls(viewer.window(), count);
+    QVERIFY(count > 40);
     QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join("; "_s)));
 }
 

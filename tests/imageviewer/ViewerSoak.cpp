@@ -5,8 +5,8 @@
 // usage: viewer_soak MINUTES SEED FOLDER   within with-sdk; FOLDER is for the files, which are deleted
 
 #include "bench/programs/Timing.h"
-#include "tests/imageviewer/SimulatedCameras.h"
 #include "tests/imageviewer/ViewerUnderTest.h"
+#include "tests/toolundertest/SimulatedCameras.h"
 #include "tools/imageviewer/files/RecordingControl.h"
 
 #include <QApplication>
@@ -75,7 +75,7 @@ private:
     void run(double seconds)
     {
         const auto start = Clock::now();
-        ViewerUnderTest::await([&] { return microsecondsSince(start) > seconds * 1e6; });
+        await([&] { return microsecondsSince(start) > seconds * 1e6; });
     }
 
     void zoom()
@@ -106,7 +106,7 @@ private:
         bool isDone = false;
         m_viewer.window().stream().pauseFor(
             call, &m_viewer.window(), [&](const CvxCPP::CvxResult &) { isDone = true; });
-        ViewerUnderTest::await([&] { return isDone; });
+        await([&] { return isDone; });
     }
 
     void changeFormat()
@@ -136,7 +136,7 @@ private:
         changeRegion();
         run(0.5);
         recording->stop();
-        ViewerUnderTest::await([&] { return recording->state() == RecordingControl::State::Idle; });
+        await([&] { return recording->state() == RecordingControl::State::Idle; });
         const QFileInfoList files = QDir(m_folder).entryInfoList(QDir::Files);
         for (const QFileInfo &file : files)
             QFile::remove(file.filePath());
@@ -154,13 +154,13 @@ private:
     {
         const auto reopenCount = [this] { return m_viewer.window().stream().statistics().reopenCount; };
         const std::uint32_t before = reopenCount();
-        ViewerUnderTest::signalCameraHost(QStringLiteral("KILL"));
-        ViewerUnderTest::await([&] { return reopenCount() > before; });
+        signalCameraHost(QStringLiteral("KILL"));
+        await([&] { return reopenCount() > before; });
     }
 
     void awaitState(CameraConnection::State state)
     {
-        ViewerUnderTest::await([&] { return m_viewer.window().connection().state() == state; });
+        await([&] { return m_viewer.window().connection().state() == state; });
     }
 
     std::mt19937 m_random;

@@ -95,20 +95,42 @@ TEST_F(SimulatedImagesTest, acquisitionEndsAfterItsImages)
     EXPECT_EQ(next().info.frameId, 1U);
 }
 
-TEST_F(SimulatedImagesTest, streamOfAWatcherChangesNoRegisters)
+TEST_F(SimulatedImagesTest, watcherGetsTheImagesOfTheController)
 {
-    camera.set(Id::AcquisitionMode, multiFrame);
-    camera.set(Id::AcquisitionFrameCount, 2);
+    camera.set(Id::TriggerMode, 1, frameStartTrigger);
+    TestCamera watcher(folder, smallModel(), watch);
+    TestQueue watched(3, bufferSize);
+    watcher.images().start(watched);
+    start();
+    for (const double exposure : {100.0, 2000.0, 400.0}) {
+        camera.setReal(Id::ExposureTime, exposure);
+        camera.execute(Id::TriggerSoftware, frameStartTrigger);
+        const TestQueue::Image image = next();
+        const TestQueue::Image copy = watched.next(watcher.images());
+        EXPECT_EQ(copy.info.frameId, image.info.frameId);
+        EXPECT_EQ(copy.info.timestamp, image.info.timestamp);
+        EXPECT_EQ(copy.data, image.data);
+    }
+    EXPECT_FALSE(watched.hasImage());
+    EXPECT_EQ(watched.underruns(), 0U);
+    watcher.images().stop(false);
+}
+
+TEST_F(SimulatedImagesTest, watcherTakesNoImagesOfItsOwnAndChangesNoRegisters)
+{
     camera.setReal(Id::ExposureTime, 50);
     camera.set(Id::ExposureAuto, autoOnce);
     TestCamera watcher(folder, smallModel(), watch);
     watcher.images().start(queue);
-    camera.execute(Id::AcquisitionStart);
-    queue.next(watcher.images());
-    queue.next(watcher.images());
+    camera.execute(Id::AcquisitionStart); // No process takes images, as if that of the controller had ended.
+    RegisterFile registers(folder.file("registers"), watch, smallModel());
+    const std::uint32_t changes = registers.changes();
+    registers.announceImage(7, monotonicNow());
+    EXPECT_EQ(queue.next(watcher.images()).info.frameId, 7U);
     watcher.images().stop(false);
-    EXPECT_EQ(camera.real(Id::ExposureTime), 50);
-    EXPECT_EQ(camera.integer(Id::AcquisitionActive), 1);
+    EXPECT_FALSE(queue.hasImage());
+    EXPECT_EQ(watcher.images().startedImages(), 1U);
+    EXPECT_EQ(registers.changes(), changes);
 }
 
 TEST_F(SimulatedImagesTest, eachSoftwareTriggerTakesOneImage)

@@ -34,6 +34,8 @@ using Kind = ToolIcons::Kind;
 /// The picture only helps to see what a change does, so it needs few buffers.
 constexpr unsigned pictureBuffers = 4;
 
+constexpr int reportTime = 8000; // Milliseconds.
+
 /// Returns the file that is being dropped; empty if it is not exactly one local file.
 QString droppedFile(const QMimeData &data)
 {
@@ -117,7 +119,7 @@ void SetupWindow::createDocks()
     m_table = new SelectorTable(features(), m_jobs, m_selectors, m_history, this);
     m_picture = new LivePicture(m_stream, features(), this);
     auto *history = new HistoryPanel(m_history, this);
-    auto *userSets = new UserSetPanel(features(), m_jobs, m_history, this);
+    auto *userSets = new UserSetPanel({features(), m_jobs, m_history, m_opening}, this);
 
     QDockWidget *const details
         = addPanel(QStringLiteral("featureDock"), tr("Feature"), m_details, Qt::RightDockWidgetArea);
@@ -147,6 +149,8 @@ void SetupWindow::createMenus()
     m_settingsActions = new SettingsActions({features(), m_jobs, m_history, m_opening, settings()}, this);
     QMenu *const file = menuBar()->addMenu(tr("&File"));
     m_settingsActions->addToMenu(file);
+    connect(m_settingsActions, &SettingsActions::reported, statusBar(),
+        [this](const QString &text) { statusBar()->showMessage(text, reportTime); });
     file->addSeparator();
     addQuitEntry(file);
 
@@ -286,7 +290,7 @@ void SetupWindow::showCounts()
 
 void SetupWindow::restoreOpening()
 {
-    m_settingsActions->restore->trigger();
+    m_settingsActions->restoreOpening();
 }
 
 void SetupWindow::closeEvent(QCloseEvent *event)

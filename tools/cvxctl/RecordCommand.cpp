@@ -90,7 +90,7 @@ std::string findProblem(Device &device, const RecordOptions &options)
         + "\"; record less, free some space or choose another folder";
 }
 
-/// Gives images to the recorder until there are enough, the time is over, Ctrl-C is pressed or the file
+/// Passes images to the recorder until there are enough, the time is over, Ctrl-C is pressed or the file
 /// fails.
 ExitStatus takeImages(Stream &stream, Recorder &recorder, const RecordOptions &options, Taking &taking)
 {

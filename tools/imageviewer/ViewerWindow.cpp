@@ -17,10 +17,10 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -193,7 +193,7 @@ void ViewerWindow::onConnectionChanged()
         m_canvas->clear();
         m_measuringPanel->clear();
     }
-    if (connection().isControlled() && std::exchange(m_startsWhenOpen, false))
+    if (state == State::Open && std::exchange(m_startsWhenOpen, false))
         startStream();
     m_canvas->setNotice(state == State::Lost ? ConnectionBar::lossText(connection()) : QString());
     onStreamChanged();
@@ -208,13 +208,13 @@ void ViewerWindow::onStreamChanged()
 {
     using State = LiveStream::State;
     const State state = m_stream.state();
-    m_actions->live->setEnabled(
-        connection().isControlled() && state != State::Starting && state != State::Stopping);
+    const bool isOpen = connection().state() == CameraConnection::State::Open;
+    m_actions->live->setEnabled(isOpen && state != State::Starting && state != State::Stopping);
     m_actions->live->setChecked(state == State::Starting || state == State::Running);
     m_canvas->setHint(QString());
     if (state == State::Failed)
         m_canvas->setHint(tr("The camera sends no pictures. %1").arg(m_stream.problem()));
-    else if (state == State::Stopped && connection().isControlled())
+    else if (state == State::Stopped && isOpen)
         m_canvas->setHint(tr("The stream is stopped. Press %1 to start it.")
                               .arg(m_actions->live->shortcut().toString(QKeySequence::NativeText)));
     else if (state == State::Running)
@@ -225,6 +225,9 @@ void ViewerWindow::updateHint()
 {
     if (m_stream.state() != LiveStream::State::Running || m_stream.statistics().delivered > 0)
         return;
+    if (!connection().isControlled())
+        return m_canvas->setHint(
+            tr("No picture has arrived yet. The program that controls the camera may not stream."));
     const CvxCPP::NodeState *const trigger = features().state(QStringLiteral("TriggerMode"));
     const auto *const mode = trigger ? std::get_if<std::string>(&trigger->value) : nullptr;
     m_canvas->setHint(mode && *mode == "On"

@@ -156,8 +156,9 @@ class CVXCPP_API Interface : public FeatureContainer
 /// What a program may do with an opened camera.
 enum CvxAccess : std::uint32_t
 {
-    CvxAccessWatch
-    = 0, ///< Only read features. Never writes; allowed while another program controls the camera.
+    /// Only read features, and receive images while another program lets the camera send them, if the
+    /// producer allows that. Never writes; allowed while another program controls the camera.
+    CvxAccessWatch = 0,
     CvxAccessControl = 1, ///< Read, write and stream. Others may watch.
     CvxAccessExclusive = 2 ///< Read, write and stream. Nobody else may open the camera.
 };

@@ -179,8 +179,15 @@ public:
     }
 
     /// Starts the stream with this number of buffers, 2 to 256, or more if the producer needs more. Locks the
-    /// features that must not change during a stream, then starts the camera. Returns CvxErrorAlreadyStarted
-    /// if a stream of this device runs, CvxErrorNotWritable if the device was opened with CvxAccessWatch,
+    /// features that must not change during a stream, then starts the camera.
+    ///
+    /// With CvxAccessWatch, and if the producer could open the camera for reading only, nothing is written to
+    /// the camera: images arrive when and as long as another program lets the camera send them. If that
+    /// program changes the size or the layout of the images, the device is lost and opened again within about
+    /// a second, and the stream continues; images that do not fit into the buffers until then are incomplete.
+    ///
+    /// Returns CvxErrorAlreadyStarted if a stream of this device runs, CvxErrorNotWritable if the camera
+    /// sends its images only to the program that controls it and this device only watches,
     /// CvxErrorNotAvailable if the camera has no stream, CvxErrorInUse if another program uses the stream,
     /// CvxErrorNotFound if the producer does not know the stream any more, CvxErrorInvalidParameter,
     /// CvxErrorDevice, CvxErrorFailed if there is no memory for the buffers, or CvxErrorTimeout if the camera

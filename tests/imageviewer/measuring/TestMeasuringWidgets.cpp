@@ -134,10 +134,10 @@ void TestMeasuringWidgets::contrastFitsTheHistogram()
 void TestMeasuringWidgets::curveGivesBrightness()
 {
     const ContrastCurve curve{0.2, 0.6, 2};
-    QCOMPARE(brightness(curve, 0.1), 0.0);
-    QCOMPARE(brightness(curve, 0.7), 1.0);
-    QCOMPARE(brightness(curve, 0.3), 0.5); // A quarter of the way, and gamma 2.
-    QVERIFY(qFuzzyCompare(gammaForMiddle(brightness(curve, 0.4)), 2.0));
+    QCOMPARE(curve.brightness(0.1), 0.0);
+    QCOMPARE(curve.brightness(0.7), 1.0);
+    QCOMPARE(curve.brightness(0.3), 0.5); // A quarter of the way, and gamma 2.
+    QVERIFY(qFuzzyCompare(gammaForMiddle(curve.brightness(0.4)), 2.0));
 }
 
 void TestMeasuringWidgets::ticksAreRoundNumbers_data()

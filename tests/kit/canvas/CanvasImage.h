@@ -40,7 +40,7 @@ inline ShownPicture shownPicture(
     return {pixels, region, request.pictureSize, image};
 }
 
-/// Gives the canvas an image, as a stream does.
+/// Shows an image in the canvas, as a stream does.
 inline void show(ImageCanvas &canvas, const std::shared_ptr<const CvxCPP::Image> &image)
 {
     const CvxCPP::ImageInfo &info = image->GetInfo();

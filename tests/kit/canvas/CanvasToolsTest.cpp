@@ -215,7 +215,7 @@ void CanvasToolsTest::valuesHaveAllDigits_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<unsigned>("bits");
-    QTest::addColumn<QVector<quint64>>("components"); // Of the pixel (1, 0), in memory.
+    QTest::addColumn<QVector<quint64>>("components"); // What the pixel (1, 0) has in memory.
     QTest::addColumn<QStringList>("lines");
     const auto row = [](const char *format, unsigned bits, const QVector<quint64> &components,
                          const QStringList &lines) {

@@ -99,7 +99,7 @@ void ViewTransformTest::orientationsTurnThePicture_data()
 {
     QTest::addColumn<int>("turns");
     QTest::addColumn<bool>("isMirrored");
-    QTest::addColumn<QPointF>("place"); // Of the point (1, 0.5) of a picture of 4 x 3.
+    QTest::addColumn<QPointF>("place"); // Where the point (1, 0.5) of a picture of 4 x 3 is shown.
     QTest::newRow("plain") << 0 << false << QPointF(1, 0.5);
     QTest::newRow("right") << 1 << false << QPointF(2.5, 1);
     QTest::newRow("half") << 2 << false << QPointF(3, 2.5);

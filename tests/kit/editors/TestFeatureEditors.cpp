@@ -4,12 +4,14 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
 #include <QStandardItemModel>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace CvxCPP;
@@ -359,7 +361,12 @@ void TestFeatureEditors::textIsWrittenAndKeptWhileTyping()
     bench.device().setByCamera("DeviceUserID", std::string("Side"));
     WAIT_FOR(bench.client.state(QStringLiteral("DeviceUserID"))->value == NodeValue(std::string("Side")));
     QCOMPARE(shown(*editor), QStringLiteral("Bottom"));
+    const auto labels = editor->findChildren<QLabel *>();
+    const auto saysLength
+        = [](const QLabel *label) { return label->isVisible() && label->text() == QStringLiteral("6 of 6"); };
+    QVERIFY(std::any_of(labels.begin(), labels.end(), saysLength));
     QTest::keyClick(editor->findChild<QLineEdit *>(), Qt::Key_Return);
+    QVERIFY(std::none_of(labels.begin(), labels.end(), saysLength));
     WAIT_FOR(bench.value("DeviceUserID") == NodeValue(std::string("Bottom")));
 }
 

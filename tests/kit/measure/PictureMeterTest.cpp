@@ -147,6 +147,20 @@ TEST(PictureMeterTest, highestValueOfFiveBitsIsClipped)
         EXPECT_DOUBLE_EQ(component.brightShare, 0.5);
 }
 
+TEST(PictureMeterTest, lumaIsClippedAtTheEndsOfItsRange)
+{
+    // Luma 0, 16, 235 and 255. All values of chroma are 128.
+    const ByteVector bytes = {0, 128, 16, 128, 235, 128, 255, 128};
+    const auto sharesIn = [&](const char *format) {
+        const Histogram histogram = measure(pictureOf(bytes, 4, 1, format), everything).histogram.value();
+        const ComponentHistogram &luma = histogram.components.at(0);
+        EXPECT_EQ(histogram.components.at(1).darkShare, 0);
+        return std::pair(luma.darkShare, luma.brightShare);
+    };
+    EXPECT_EQ(sharesIn("YCbCr601_422_8"), std::pair(0.5, 0.5));
+    EXPECT_EQ(sharesIn("YUV422_8"), std::pair(0.25, 0.25)); // Its range is 0 to 255.
+}
+
 TEST(PictureMeterTest, deviationOfLargeNumbersIsExact)
 {
     const ByteVector bytes = bytesOf<double>({1e9 + 4, 1e9 + 7, 1e9 + 13, 1e9 + 16});

@@ -13,7 +13,7 @@ constexpr std::uint32_t side = 60;
 struct ClippedCase
 {
     std::string_view format;
-    unsigned bits; ///< Of a component in memory.
+    unsigned bits; ///< The bits that a component occupies in memory.
     std::uint64_t middle;
     std::size_t components; ///< Per pixel.
     std::size_t component;

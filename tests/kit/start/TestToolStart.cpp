@@ -122,7 +122,8 @@ void TestToolStart::applicationHasNamesAndLook()
         {{QStringLiteral("WITH_APPLICATION"), QStringLiteral("1")},
             {QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")}});
     QCOMPARE(run.output, QStringLiteral("camera \"\"\nexample.orvelle.TestTool TestTool 1.2.3 styled\n"));
-    QVERIFY2(!run.error.contains(QStringLiteral("parse")), qPrintable(run.error)); // Of the style sheet.
+    QVERIFY2(!run.error.contains(QStringLiteral("parse")),
+        qPrintable(run.error)); // Qt reports an invalid style sheet.
 }
 
 QTEST_GUILESS_MAIN(TestToolStart)

@@ -7,9 +7,14 @@
 #include <QWidget>
 
 class Favourites;
+class FeatureFilter;
+class FeatureTreeModel;
+class FeatureTreeView;
+class FilterBar;
 class OpeningSnapshot;
 class QSettings;
 class StreamPauser;
+class TreeExpansion;
 
 /// All features of the connected camera by category, with a line for searching, a choice of the visibility
 /// level, and filters for the changed features and the favourites. Selected features sit below their selector
@@ -42,4 +47,20 @@ public slots:
 
 signals:
     void currentChanged(const QString &name);
+
+private:
+    void placeParts();
+    void connectFavourites(OpeningSnapshot &opening, Favourites &favourites);
+    void takeCurrent();
+    void rememberCurrent();
+    void restoreCurrent();
+    void enterTree();
+
+    FeatureTreeModel *m_model;
+    FeatureFilter *m_filter;
+    FilterBar *m_bar;
+    FeatureTreeView *m_view;
+    TreeExpansion *m_expansion;
+    QString m_current; // Kept while a search hides it.
+    bool m_isFiltering = false;
 };

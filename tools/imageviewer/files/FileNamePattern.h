@@ -49,9 +49,9 @@ public:
 private:
     struct Part
     {
-        QString text; // As written, or the name of a placeholder.
+        QString text; // The text itself, or the name of a placeholder.
         bool isPlaceholder = false;
-        int digits = 0; // Of {number}.
+        int digits = 0; // The minimum number of digits of {number}.
     };
 
     void addPlaceholder(const QString &text);

@@ -9,7 +9,7 @@
 #include <mutex>
 #include <optional>
 
-/// Gives the images of the stream to a recording until a limit is reached.
+/// Passes the images of the stream to a recording until a limit is reached.
 class RecordingSink : public QObject, public ImageSink
 {
     Q_OBJECT

@@ -67,8 +67,9 @@ private:
     CameraRecordReader &m_records;
     ImageKeeper m_keeper;
     int m_pending = 0;
-    QString m_lastPattern; // Of the last file, with folder and extension. Used on the pool's one thread,
-    unsigned m_lastNumber = 0; // like these members.
+    // Only the pool's one thread uses these four members.
+    QString m_lastPattern; // The pattern of the last file, with folder and extension.
+    unsigned m_lastNumber = 0;
     ImageFileWriter m_writer;
     ImageConverter m_converter;
     QThreadPool m_pool; // Ends before the other members.

@@ -157,7 +157,7 @@ void HistogramWidget::placeHandles()
     const double middle = (m_curve.black + m_curve.white) / 2;
     place(m_black, m_curve.black, 0);
     place(m_white, m_curve.white, 1);
-    place(m_middle, middle, brightness(m_curve, middle));
+    place(m_middle, middle, m_curve.brightness(middle));
 }
 
 void HistogramWidget::changeCurve(const ContrastCurve &curve)
@@ -249,7 +249,7 @@ void HistogramWidget::drawCurve(QPainter &painter, const QRectF &area) const
     QPolygonF curve;
     for (double x = 0; x <= area.width(); ++x)
         curve << QPointF(
-            area.left() + x, area.bottom() - brightness(m_curve, x / area.width()) * area.height());
+            area.left() + x, area.bottom() - m_curve.brightness(x / area.width()) * area.height());
     QColor color(curveColor);
     color.setAlpha(isEnabled() ? 180 : 60);
     painter.setPen(QPen(color, 1.5));

@@ -64,12 +64,6 @@ ContrastCurve fittedContrast(
     return black < white ? ContrastCurve{black, white, present.gamma} : ContrastCurve{0, 1, present.gamma};
 }
 
-double brightness(const ContrastCurve &curve, double share)
-{
-    const double position = (share - curve.black) / (curve.white - curve.black);
-    return std::pow(std::clamp(position, 0.0, 1.0), 1 / curve.gamma);
-}
-
 double gammaForMiddle(double brightness)
 {
     const double inside = std::clamp(brightness, 0.001, 0.999);

@@ -11,8 +11,5 @@
 ContrastCurve fittedContrast(
     const Histogram &histogram, const std::array<double, 3> &gains, const ContrastCurve &present);
 
-/// Returns the brightness of a value, both as shares of their range.
-double brightness(const ContrastCurve &curve, double share);
-
 /// Returns the gamma for which the middle between black and white has this brightness.
 double gammaForMiddle(double brightness);

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <deque>
 
-/// Tells what was lost in the last ten seconds.
+/// Counts what was lost in the last ten seconds.
 class LossWindow
 {
 public:

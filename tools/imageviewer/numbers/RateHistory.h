@@ -46,5 +46,5 @@ private:
     void append(const Second &second);
 
     QVector<Second> m_seconds; // The complete ones, at most `length`.
-    std::optional<Sample> m_start; // Of the second that is not complete yet.
+    std::optional<Sample> m_start; // The start of the second that is not complete yet.
 };

@@ -22,7 +22,7 @@ public:
     StreamMonitor(LiveStream &stream, PictureFeed &feed, FeatureClient &features, QObject *parent = nullptr);
     ~StreamMonitor() override;
 
-    /// Tells with how many buffers the stream is started.
+    /// Sets the number of buffers with which the stream is started.
     void setBuffers(unsigned buffers) { m_buffers = buffers; }
 
     const StreamFigures &figures() const { return m_figures; }

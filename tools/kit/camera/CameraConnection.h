@@ -59,7 +59,7 @@ public:
     QString reason() const { return m_reason; }
     QDateTime since() const { return m_since; } ///< When the state began.
 
-    /// Returns true if features can be written and streams started: open, and not for watching.
+    /// Returns true if features can be written: open, and not for watching.
     bool isControlled() const;
 
     /// Null unless the state is Open or Lost.

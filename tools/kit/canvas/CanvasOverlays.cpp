@@ -94,8 +94,8 @@ void paintPointer(QPainter &painter, const ViewTransform &view, const QPoint &pi
 void paintScaleBar(QPainter &painter, const ViewTransform &view, double micrometresPerPixel)
 {
     const bool isMetric = micrometresPerPixel > 0;
-    const double unitSide
-        = view.scale() / view.devicePixelRatio() / (isMetric ? micrometresPerPixel : 1); // Of a µm or pixel.
+    // The length of a micrometre or pixel on the screen.
+    const double unitSide = view.scale() / view.devicePixelRatio() / (isMetric ? micrometresPerPixel : 1);
     const double length = pleasantAtMost(longestScaleBar / unitSide);
     if (!isMetric && length < 1)
         return;

@@ -45,7 +45,7 @@ public:
     /// belongs.
     void setPicture(const ShownPicture &picture);
 
-    /// Tells the size of the pictures that follow; keeps "fit" if that is the mode.
+    /// Sets the size of the pictures that follow; keeps "fit" if that is the mode.
     void setPictureSize(const QSize &size);
 
     /// Removes the picture.

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int wheelStep = 120; ///< What QWheelEvent::angleDelta() reports for one notch.
-constexpr double panShare = 0.1; ///< Of the view, for one key press or notch.
+constexpr double panShare = 0.1; ///< The share of the view for one key press or notch.
 constexpr double farPanShare = 0.5;
 
 /// Returns the direction of an arrow key on the screen; null for other keys.

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr QSizeF largestSize(180, 140);
-constexpr double largestShare = 0.3; ///< Of the view's width and height.
+constexpr double largestShare = 0.3; ///< The share of the view's width and height.
 constexpr double distanceFromEdge = 12;
 constexpr double leastSide = 8;
 

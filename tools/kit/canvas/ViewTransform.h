@@ -71,7 +71,7 @@ public:
     /// Turns and mirrors what the view shows about its middle.
     void setOrientation(const Orientation &orientation);
     void rotate(int quarterTurns); ///< Clockwise; negative numbers turn to the left.
-    void mirrorHorizontally(); ///< As the person sees it: left becomes right.
+    void mirrorHorizontally(); ///< Swaps the left and the right that the person sees.
     void mirrorVertically();
 
     /// Returns the transform from the picture to the view. From scale 1 on, the corner of the picture is at a
@@ -101,7 +101,7 @@ public:
     QSize outputSize(const QRect &region) const;
 
 private:
-    QSizeF turnedSize() const; ///< Of the picture, turned and unscaled.
+    QSizeF turnedSize() const; ///< Returns the size of the turned, unscaled picture.
     QSizeF deviceSize() const { return m_viewSize * m_devicePixelRatio; }
     QPointF viewCenter() const { return {m_viewSize.width() / 2, m_viewSize.height() / 2}; }
     QPointF shownCorner() const;

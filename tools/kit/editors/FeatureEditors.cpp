@@ -5,6 +5,7 @@
 #include "tools/kit/editors/EnumerationEditor.h"
 #include "tools/kit/editors/FloatEditor.h"
 #include "tools/kit/editors/IntegerEditor.h"
+#include "tools/kit/editors/RegisterEditor.h"
 #include "tools/kit/editors/TextEditor.h"
 
 using CvxCPP::NodeType;
@@ -24,8 +25,9 @@ FeatureEditor *createFeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &
         return new TextEditor(info, client, parent);
     case NodeType::Command:
         return new CommandButton(info, client, parent);
-    case NodeType::Category:
     case NodeType::Register:
+        return new RegisterEditor(info, client, parent);
+    case NodeType::Category:
         return nullptr;
     }
     return nullptr;

@@ -6,6 +6,6 @@ class FeatureClient;
 class FeatureEditor;
 class QWidget;
 
-/// Returns the editor for a feature of this type; null for a category and for a register.
+/// Returns the editor for a feature of this type; null for a category.
 FeatureEditor *createFeatureEditor(
     const CvxCPP::NodeInfo &info, FeatureClient &client, QWidget *parent = nullptr);

@@ -17,7 +17,7 @@ class NumberEditor : public FeatureEditor
 public:
     enum class SliderUse
     {
-        Automatic, ///< As the camera wants the number to be shown.
+        Automatic, ///< The representation that the camera states.
         Always, ///< If the range has limits.
         Never
     };

@@ -14,7 +14,7 @@ public:
     /// Shows the text, unless a person is typing.
     void showText(const QString &text);
 
-    /// Tells which arrows can be used.
+    /// Sets which arrows can be used.
     void setSteps(StepEnabled steps);
 
     bool isBeingEdited() const { return m_isBeingEdited; }

@@ -1,14 +1,26 @@
 #include "tools/kit/editors/TextEditor.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QVariant>
 
 TextEditor::TextEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, QWidget *parent)
-    : FeatureEditor(info, client, parent), m_line(new QLineEdit(this))
+    : FeatureEditor(info, client, parent), m_line(new QLineEdit(this)), m_length(new QLabel(this))
 {
+    auto *const control = new QWidget(this);
+    auto *const layout = new QHBoxLayout(control);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_line, 1);
+    layout->addWidget(m_length);
+    m_length->setProperty("role", QStringLiteral("secondary"));
     m_line->installEventFilter(this);
-    setControl(m_line);
+    control->setFocusProxy(m_line);
+    setControl(control);
     TextEditor::labelChanged();
+    showLength();
+    connect(m_line, &QLineEdit::textChanged, this, &TextEditor::showLength);
     connect(m_line, &QLineEdit::editingFinished, this, &TextEditor::onEditingFinished);
 }
 
@@ -18,12 +30,15 @@ void TextEditor::showState(const CvxCPP::NodeState &state)
     m_value = text ? QString::fromStdString(*text) : QString();
     if (m_line->isModified())
         return;
-    if (state.maxLength > 0)
-        m_line->setMaxLength(static_cast<int>(qMin<qint64>(state.maxLength, INT16_MAX)));
-    if (m_line->text() == m_value)
-        return;
-    m_line->setText(m_value);
-    m_line->setCursorPosition(0);
+    m_maxLength = static_cast<int>(qBound<qint64>(0, state.maxLength, INT16_MAX));
+    if (m_maxLength > 0)
+        m_line->setMaxLength(m_maxLength);
+    m_line->setToolTip(m_maxLength > 0 ? tr("At most %n character(s)", nullptr, m_maxLength) : QString());
+    if (m_line->text() != m_value) {
+        m_line->setText(m_value);
+        m_line->setCursorPosition(0);
+    }
+    showLength();
 }
 
 void TextEditor::setEditable(bool isEditable)
@@ -49,10 +64,17 @@ bool TextEditor::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
+void TextEditor::showLength()
+{
+    m_length->setText(tr("%1 of %2").arg(m_line->text().size()).arg(m_maxLength));
+    m_length->setVisible(m_maxLength > 0 && m_line->isModified());
+}
+
 void TextEditor::onEditingFinished()
 {
     if (!m_line->isModified())
         return;
     m_line->setModified(false);
+    showLength();
     submit(m_line->text().toStdString());
 }

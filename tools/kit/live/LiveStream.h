@@ -79,11 +79,11 @@ private:
     unsigned m_buffers = 2;
     bool m_startsWhenBack = false; ///< The last start failed because the camera was lost.
     int m_pendingCalls = 0; ///< Calls of the connection whose results are awaited.
-    CvxCPP::CvxResult m_startResult; ///< Of the last call that could start a stream; success after a stop.
+    CvxCPP::CvxResult m_startResult; ///< The result of the last start; success after a stop.
     std::weak_ptr<CvxCPP::Device> m_device; ///< The device of the session.
     std::shared_ptr<StreamSession> m_session; ///< Null unless start() was called for the present device.
     std::vector<std::shared_ptr<StreamSession>> m_releasedSessions; ///< Their threads are ending.
-    CvxCPP::StreamStatistics m_lastStatistics; ///< Those of the last released session.
-    CvxCPP::StreamStatistics m_lastTotals; ///< Those of the last released session.
+    CvxCPP::StreamStatistics m_lastStatistics; ///< The statistics of the last released session.
+    CvxCPP::StreamStatistics m_lastTotals; ///< The totals of the last released session.
     std::vector<ImageSink *> m_sinks;
 };

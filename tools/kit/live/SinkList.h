@@ -18,7 +18,7 @@ public:
     /// Removes all sinks, also those that are added later. Waits as remove() does.
     void close();
 
-    /// Gives the image to all sinks. Called on one thread only.
+    /// Passes the image to all sinks. Called on one thread only.
     void take(const std::shared_ptr<const CvxCPP::Image> &image);
 
 private:

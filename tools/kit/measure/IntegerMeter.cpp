@@ -1,7 +1,10 @@
 #include "tools/kit/measure/IntegerMeter.h"
 
+#include "sdk/image/ClippingRange.h"
+
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 /// The values of a format. Values are counted in ascending order, so those of signed formats are shifted.
 struct IntegerMeter::Format
@@ -9,7 +12,7 @@ struct IntegerMeter::Format
     const PixelLayout &layout;
     ComponentMap map;
     std::uint32_t values; ///< Number of different values.
-    std::uint32_t signBit; ///< Of signed formats; 0 for others.
+    std::uint32_t signBit; ///< The highest bit of a signed format; 0 for other formats.
 
     explicit Format(const PixelLayout &pixelLayout)
         : layout(pixelLayout),
@@ -20,12 +23,7 @@ struct IntegerMeter::Format
 
     double valueAt(std::uint32_t index) const { return double(index) - signBit; }
 
-    /// Returns the index of the highest value of a component.
-    std::uint32_t highest(unsigned component) const
-    {
-        const bool isShort = layout.packing == Packing::Rgb565 && component != 1; // Only green has six bits.
-        return (isShort ? values / 2 : values) - 1;
-    }
+    std::uint32_t indexOf(std::uint16_t word) const { return (word & (values - 1)) ^ signBit; }
 };
 
 namespace {
@@ -42,6 +40,11 @@ void countWords(const std::uint16_t *word, const std::uint16_t *end, std::ptrdif
     }
     if (word < end)
         ++even[(word[0] & highest) ^ signBit];
+}
+
+double sumOf(const std::uint32_t *begin, const std::uint32_t *end)
+{
+    return std::accumulate(begin, end, 0.0);
 }
 
 } // namespace
@@ -90,8 +93,10 @@ void IntegerMeter::measure(
             histogram.counts.resize(format.values >> shift);
             for (std::uint32_t i = minimum; i <= maximum; ++i)
                 histogram.counts[i >> shift] += counts[i];
-            histogram.darkShare = counts[0] / pixels;
-            histogram.brightShare = counts[format.highest(component)] / pixels;
+            const ClippingRange range = clippingRange(format.layout, component);
+            const std::uint32_t *const end = counts + format.values;
+            histogram.darkShare = sumOf(counts, counts + format.indexOf(range.lowest) + 1) / pixels;
+            histogram.brightShare = sumOf(counts + format.indexOf(range.highest), end) / pixels;
             result.histogram->components.push_back(std::move(histogram));
         }
         if (request.wantsStatistics)

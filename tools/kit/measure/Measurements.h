@@ -31,7 +31,8 @@ struct ComponentHistogram
     MeasuredComponent component = MeasuredComponent::Grey;
     std::vector<std::uint64_t> counts; ///< Bins of equal width over the range of the format.
     std::uint64_t pixels = 0;
-    /// Share of the pixels at the lowest value of the format, 0 to 1; 0 for floating-point numbers.
+    /// Share of the pixels at the lowest value of the format or below its range, 0 to 1; 0 for floating-point
+    /// numbers. The range of luma can begin above 0.
     double darkShare = 0;
     double brightShare = 0; ///< The same for the highest value.
 };

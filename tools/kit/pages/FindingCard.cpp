@@ -13,8 +13,8 @@ namespace {
 struct SeverityLook
 {
     const char *name;
-    const char *property; // Of the card; see tools.qss.
-    const char *role; // Of the label.
+    const char *property; // The severity of the card; see tools.qss.
+    const char *role; // The role of the label.
 };
 
 // In the order of Severity.

@@ -1,6 +1,5 @@
 #include "tools/kit/picture/BrightnessTables.h"
 
-#include <algorithm>
 #include <cmath>
 
 void BrightnessTables::set(unsigned depth, unsigned channels, const DisplaySettings &settings)
@@ -21,10 +20,8 @@ void BrightnessTables::compute(unsigned channel, const Key &key)
     std::vector<std::uint8_t> &table = m_tables[channel];
     table.resize(std::size_t(1) << key.depth);
     const double scale = key.gain / static_cast<double>(table.size() - 1);
-    const double range = key.curve.white - key.curve.black;
     for (std::size_t value = 0; value < table.size(); ++value) {
-        const double position = (static_cast<double>(value) * scale - key.curve.black) / range;
-        const double brightness = std::pow(std::clamp(position, 0.0, 1.0), 1 / key.curve.gamma);
+        const double brightness = key.curve.brightness(static_cast<double>(value) * scale);
         table[value] = static_cast<std::uint8_t>(std::lround(255 * brightness));
     }
 }

@@ -1,6 +1,6 @@
 #include "tools/kit/picture/ClipMarks.h"
 
-#include "sdk/image/PixelLayout.h"
+#include "sdk/image/ClippingRange.h"
 #include "sdk/image/RawValues.h"
 
 #include <algorithm>
@@ -11,29 +11,13 @@ namespace {
 constexpr std::uint32_t brightColor = 0xffff0000;
 constexpr std::uint32_t darkColor = 0xff0000ff;
 
-/// The ends of the range of a component, as words of ImageConverter::toWords().
-struct WordRange
-{
-    std::uint16_t lowest = 0;
-    std::uint16_t highest = 0;
-};
-
 /// The components that can be clipped. They are the first ones of a pixel.
 struct ClippingComponents
 {
     unsigned count = 0;
     unsigned step = 1; ///< Words of a pixel.
-    std::array<WordRange, 3> ranges;
+    std::array<ClippingRange, 3> ranges;
 };
-
-WordRange fullRange(unsigned depth, Number number)
-{
-    const unsigned bits = std::min(depth, 16U);
-    if (number == Number::Signed)
-        return {static_cast<std::uint16_t>(0xFFFFU << (bits - 1)),
-            static_cast<std::uint16_t>((1U << (bits - 1)) - 1)};
-    return {0, static_cast<std::uint16_t>((1U << bits) - 1)};
-}
 
 ClippingComponents clippingComponents(const PixelLayout &layout)
 {
@@ -45,18 +29,15 @@ ClippingComponents clippingComponents(const PixelLayout &layout)
     result.count = format.kind == PixelKind::Yuv || format.kind == PixelKind::Depth
         ? 1
         : std::min<unsigned>(format.components, 3);
-    result.ranges.fill(fullRange(format.depth, layout.number));
-    if (format.kind == PixelKind::Yuv && layout.standard != YuvStandard::Bt601Full)
-        result.ranges[0] = {16, 235};
-    if (layout.packing == Packing::Rgb565)
-        result.ranges[0] = result.ranges[2] = fullRange(5, layout.number);
+    for (unsigned component = 0; component < result.count; ++component)
+        result.ranges[component] = clippingRange(layout, component);
     return result;
 }
 
 /// Adds the marks of one component to those of the line. Luma can be beyond the ends of its range. The
 /// distance of two pixels is a constant, so that the compiler vectorises the loop.
 template <unsigned step>
-void addMarks(const std::uint16_t *words, std::uint32_t width, const WordRange &range, bool isSigned,
+void addMarks(const std::uint16_t *words, std::uint32_t width, const ClippingRange &range, bool isSigned,
     std::uint8_t *marks)
 {
     // Signed numbers are moved, so that their order is that of unsigned ones.

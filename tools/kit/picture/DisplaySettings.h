@@ -2,7 +2,9 @@
 
 #include "sdk/image/ImageConverter.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 /// Maps the values of a picture to brightness: `black` and below become black, `white` and above white, both
 /// as shares of the format's range; between them, brightness = position^(1 / gamma).
@@ -13,6 +15,13 @@ struct ContrastCurve
     double gamma = 1; ///< Greater than 0.
 
     bool isNeutral() const { return black == 0 && white == 1 && gamma == 1; }
+
+    /// Returns the brightness of a value, both as shares from 0 to 1.
+    double brightness(double share) const
+    {
+        const double position = (share - black) / (white - black);
+        return std::pow(std::clamp(position, 0.0, 1.0), 1 / gamma);
+    }
 };
 
 /// How pictures are shown. Nothing of this changes what the camera sends or what is saved.

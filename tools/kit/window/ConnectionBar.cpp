@@ -19,7 +19,8 @@ ConnectionBar::ConnectionBar(CameraConnection &connection, QWidget *parent)
     setObjectName(QStringLiteral("connectionBar"));
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
-    m_watch->setToolTip(tr("Shows the settings of the camera and how they change, without changing them."));
+    m_watch->setToolTip(tr("Shows the settings of the camera and how they change, and its pictures if it "
+                           "sends them to more than one program. Nothing is changed."));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 6, 10, 6);
     layout->addWidget(m_text, 1);
@@ -58,9 +59,7 @@ void ConnectionBar::update()
     else if (state == State::Lost)
         m_text->setText(lossText(m_connection));
     else if (isWatching)
-        m_text->setText(tr("Watching %1: its settings are shown as another program changes them. Only that "
-                           "program receives pictures.")
-                            .arg(name));
+        m_text->setText(tr("Watching %1: its settings are shown as another program changes them.").arg(name));
     m_watch->setVisible(state == State::InUse);
     m_control->setText(isWatching ? tr("&Take control") : tr("&Try again"));
     m_control->setVisible(state != State::Lost);

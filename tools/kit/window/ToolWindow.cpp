@@ -15,7 +15,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/// The configuration of the simulator that the SDK that the script with-sdk has copied. Serial numbers that
+/// The configuration of the simulator in the SDK that the script with-sdk has copied. Serial numbers that
 /// begin with 1 are area cameras, 1002 is one with colour; those that begin with 2 are line scan cameras.
 class SimulatedCameras
 {
