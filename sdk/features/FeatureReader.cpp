@@ -95,6 +95,8 @@ CvxResult FeatureReader::readGroup(
         return result;
     for (const NodeValue &value : selectorValues(states.front())) {
         const bool isThere = value.index() != 0;
+        if (isThere && isSkipped(group, selected, {name, settingText(value)}))
+            continue;
         if (CvxResult result = isThere ? m_selectors.select(name, value) : CvxResult(); !result) {
             if (isDeviceGone(result))
                 return result;
@@ -111,6 +113,17 @@ CvxResult FeatureReader::readGroup(
             return result;
     }
     return {};
+}
+
+/// Returns true if the value of the last selector completes a combination that is to be skipped.
+bool FeatureReader::isSkipped(
+    const Group &group, const std::vector<SelectorSetting> &selected, const SelectorSetting &next) const
+{
+    if (!m_skip || selected.size() + 1 != group.selectors.size())
+        return false;
+    std::vector<SelectorSetting> combination = selected;
+    combination.push_back(next);
+    return m_skip(combination);
 }
 
 /// Returns the values that a selector can be given, or only its present one, which may be no value at all.

@@ -3,6 +3,9 @@
 #include "sdk/features/DeviceCalls.h"
 #include "sdk/features/SelectorControl.h"
 
+#include <functional>
+#include <utility>
+
 /// The state of a feature for one combination of its selectors' values.
 struct FeatureReading
 {
@@ -17,6 +20,12 @@ class FeatureReader
 {
 public:
     FeatureReader(CvxCPP::Device &device, const FeatureDirectory &directory, const FeatureProgress &progress);
+
+    /// Returns true for a combination of the selectors' values that is not to be read.
+    using Skip = std::function<bool(const std::vector<SelectorSetting> &selectors)>;
+
+    /// Lets several calls of read() share the work; each one can be cancelled by its progress function.
+    void setSkip(Skip skip) { m_skip = std::move(skip); }
 
     /// Reads the features of these names: those without selectors first, the others grouped by their
     /// selectors. Fails only if the device is gone; the selectors are restored as far as possible.
@@ -37,6 +46,8 @@ private:
     std::vector<Group> grouped(const std::vector<std::string> &names) const;
     CvxCPP::CvxResult readGroup(
         const Group &group, std::vector<SelectorSetting> &selected, std::size_t depth);
+    bool isSkipped(
+        const Group &group, const std::vector<SelectorSetting> &selected, const SelectorSetting &next) const;
     CvxCPP::CvxResult readSelected(const Group &group, const std::vector<SelectorSetting> &selected);
     std::vector<CvxCPP::NodeValue> selectorValues(const CvxCPP::NodeState &state);
     bool reportProgress();
@@ -44,6 +55,7 @@ private:
     CvxCPP::Device &m_device;
     const FeatureDirectory &m_directory;
     const FeatureProgress &m_progress;
+    Skip m_skip;
     SelectorControl m_selectors;
     std::vector<FeatureReading> m_readings;
     std::vector<FeatureNote> m_notes;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CvxCPP/Node.h"
 #include "sdk/features/FeatureFile.h"
 
 #include <string>
@@ -10,6 +11,12 @@ struct FeatureEdit
 {
     std::vector<SelectorSetting> selectors; ///< With which the change was made, outer selectors first.
     std::string name;
-    std::string before; ///< Empty if it is unknown.
+    std::string before; ///< Empty if it is unknown; see isValueText().
     std::string after; ///< Empty for a command.
 };
+
+/// Returns true if the text is a value of the feature. An empty text is one only for a string.
+inline bool isValueText(const CvxCPP::NodeInfo *node, const std::string &text)
+{
+    return !text.empty() || (node && node->type == CvxCPP::NodeType::String);
+}

@@ -1,13 +1,361 @@
 #include "tools/camerasetup/values/OpeningSnapshot.h"
 
-OpeningSnapshot::OpeningSnapshot(FeatureClient &client, const PresentSelectors &selectors, QObject *parent)
-    : QObject(parent), m_client(client), m_selectors(selectors)
-{ }
+#include "sdk/features/FeatureText.h"
 
-std::optional<std::string> OpeningSnapshot::value(
-    const std::string &, const std::vector<SelectorSetting> &) const
+#include <algorithm>
+#include <set>
+#include <utility>
+
+using namespace CvxCPP;
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr int maxFailures = 3; // In a row, of calls for a camera that is not lost.
+constexpr milliseconds staleDelay{300}; // Features that are shown are read meanwhile by the FeatureClient.
+
+/// Returns the value of a file in the form in which values are read.
+std::string normalized(const FeatureDirectory &directory, const std::string &name, const std::string &text)
 {
-    return std::nullopt;
+    const NodeInfo *const node = directory.find(name);
+    if (!node)
+        return text;
+    const auto value = settingValue(node->type, text);
+    const auto *const typed = std::get_if<NodeValue>(&value);
+    return typed ? settingText(*typed) : text;
 }
 
-void OpeningSnapshot::noteEdits(const std::vector<FeatureEdit> &) { }
+} // namespace
+
+OpeningSnapshot::OpeningSnapshot(FeatureClient &client, const PresentSelectors &selectors, QObject *parent)
+    : QObject(parent), m_client(client), m_selectors(selectors)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &OpeningSnapshot::readNext);
+    connect(&client, &FeatureClient::nodesLoaded, this, &OpeningSnapshot::begin);
+    connect(&client, &FeatureClient::stateChanged, this, &OpeningSnapshot::takeState);
+    connect(&client, &FeatureClient::written, this, &OpeningSnapshot::takeWritten);
+    connect(&client, &FeatureClient::executed, this, &OpeningSnapshot::takeExecuted);
+    connect(&client.connection(), &CameraConnection::stateChanged, this, &OpeningSnapshot::followConnection);
+    connect(&client.connection(), &CameraConnection::nodesChanged, this, &OpeningSnapshot::addStale);
+    if (!client.nodes().isEmpty())
+        begin();
+}
+
+std::optional<std::string> OpeningSnapshot::value(
+    const std::string &name, const std::vector<SelectorSetting> &selectors) const
+{
+    return m_values.opening(name, selectors);
+}
+
+// ---- The connection ---------------------------------------------------------------------------------------
+
+void OpeningSnapshot::followConnection()
+{
+    const CameraConnection::State state = m_client.connection().state();
+    if (state == CameraConnection::State::Open)
+        return; // The features follow.
+    m_isOpen = false;
+    m_timer.stop();
+    if (state != CameraConnection::State::Lost)
+        forget();
+}
+
+void OpeningSnapshot::forget()
+{
+    ++m_openCount;
+    m_snapshot = {};
+    m_values.clear();
+    m_earlyEdits.clear();
+    m_directory.reset();
+    m_plan.clear();
+    m_stale.clear();
+    m_written.clear();
+    m_batch = {};
+    m_isReading = false;
+    m_isUntouched = true;
+    m_failureCount = 0;
+    if (std::exchange(m_state, State::None) != State::None)
+        emit stateChanged();
+}
+
+/// The camera was opened for the first time, or again after a loss: then everything is compared.
+void OpeningSnapshot::begin()
+{
+    const QVector<NodeInfo> &nodes = m_client.nodes();
+    m_directory = std::make_shared<FeatureDirectory>(std::vector<NodeInfo>(nodes.begin(), nodes.end()));
+    m_isOpen = true;
+    m_failureCount = 0;
+    m_plan.clear();
+    for (const std::string &name : settingNames(*m_directory))
+        m_plan.add(*m_directory, name);
+    if (m_state == State::None) {
+        m_snapshot.title = tr("This camera at opening");
+        m_snapshot.time = QDateTime::currentDateTime();
+        m_snapshot.side.directory = *m_directory;
+        m_state = State::Reading;
+        emit stateChanged();
+    }
+    for (const NodeInfo &node : nodes)
+        takeState(QString::fromStdString(node.name));
+    readSoon();
+}
+
+// ---- Reading ----------------------------------------------------------------------------------------------
+
+void OpeningSnapshot::readSoon()
+{
+    if (m_isOpen && !m_isReading && !m_timer.isActive())
+        m_timer.start(0);
+}
+
+void OpeningSnapshot::readNext()
+{
+    if (!m_isOpen || m_isReading)
+        return;
+    if (!m_plan.isEmpty())
+        readPart();
+    else if (!m_stale.isEmpty())
+        readPresent();
+    else
+        finish();
+}
+
+void OpeningSnapshot::finish()
+{
+    if (m_state != State::Reading)
+        return;
+    for (const FeatureEdit &edit : std::exchange(m_earlyEdits, {})) {
+        const auto opening = m_values.opening(edit.name, edit.selectors);
+        if (opening && m_values.markListed(edit.name, edit.selectors) && fitsFeatureFile(*opening))
+            m_snapshot.side.settings.push_back({edit.selectors, edit.name, *opening, 0});
+    }
+    m_state = State::Complete;
+    emit stateChanged();
+}
+
+void OpeningSnapshot::readPart()
+{
+    m_isReading = true;
+    const auto reading = std::make_shared<SnapshotReading>();
+    reading->part = m_plan.take(m_batch.size());
+    m_client.connection().run([directory = m_directory, reading](
+                                  Device &device) { return ::readPart(device, *directory, *reading); },
+        this,
+        [this, reading, openCount = m_openCount](const CvxResult &result) {
+            if (openCount == m_openCount)
+                takePart(result, *reading);
+        });
+}
+
+void OpeningSnapshot::takePart(const CvxResult &result, const SnapshotReading &reading)
+{
+    m_isReading = false;
+    m_failureCount = result ? 0 : m_failureCount + 1;
+    for (const FeatureNote &note : reading.notes)
+        addNote(m_snapshot.notes, note.name, note.text);
+    for (const FeatureReading &read : reading.readings)
+        takeSetting(read);
+    if (result)
+        m_batch.wasRead(std::max<std::size_t>(1, reading.readings.size()), reading.duration);
+    else
+        m_batch = {};
+    const bool isGivenUp = !result && m_isOpen && m_failureCount >= maxFailures;
+    if (isGivenUp) {
+        for (const std::string &name : reading.part.names)
+            addNote(m_snapshot.notes, name, result.text);
+        m_failureCount = 0;
+    } else if (!result || !reading.isComplete) {
+        m_plan.putBack(reading.part);
+    }
+    pauseFor(reading.duration);
+}
+
+/// Leaves the camera to the person for as long as the call has taken.
+void OpeningSnapshot::pauseFor(std::chrono::steady_clock::duration callTime)
+{
+    constexpr milliseconds maxPause{500};
+    constexpr milliseconds retryInterval{1000};
+    const auto pause = std::min(maxPause, std::chrono::duration_cast<milliseconds>(callTime));
+    if (m_isOpen)
+        m_timer.start(m_failureCount > 0 ? retryInterval : pause);
+}
+
+void OpeningSnapshot::takeSetting(FeatureReading reading)
+{
+    const NodeState &state = reading.state;
+    const NodeInfo *const node = m_directory->find(state.name);
+    const bool isReadable = state.access == NodeAccess::ReadWrite || state.access == NodeAccess::ReadOnly;
+    if (!node || !isReadable)
+        return;
+    if (state.value.index() == 0) {
+        addNote(m_snapshot.notes, state.name,
+            tr("%1 cannot be read: %2")
+                .arg(QString::fromStdString(state.name), QString::fromStdString(state.problem))
+                .toStdString());
+        return;
+    }
+    const std::string value = settingText(state.value);
+    if (m_state == State::Reading) {
+        m_values.setOpening(state.name, reading.selectors, value);
+        const auto opening = m_values.opening(state.name, reading.selectors);
+        if (m_values.markListed(state.name, reading.selectors) && opening && fitsFeatureFile(*opening))
+            m_snapshot.side.settings.push_back({reading.selectors, state.name, *opening, 0});
+    }
+    setPresent(*node, reading.selectors, value);
+}
+
+void OpeningSnapshot::readPresent()
+{
+    m_isReading = true;
+    std::vector<std::string> names;
+    for (const QString &name : m_stale.take(m_batch.size()))
+        names.push_back(name.toStdString());
+    const auto readings = std::make_shared<std::vector<FeatureReading>>();
+    m_client.connection().run(
+        [directory = m_directory, names, readings](
+            Device &device) { return readWithPresentSelectors(device, *directory, names, *readings); },
+        this,
+        [this, readings, openCount = m_openCount](const CvxResult &result) {
+            if (openCount == m_openCount)
+                takePresent(result, *readings);
+        });
+}
+
+void OpeningSnapshot::takePresent(const CvxResult &result, const std::vector<FeatureReading> &readings)
+{
+    m_isReading = false;
+    if (!m_isOpen || !result)
+        return readSoon(); // After a loss, everything is compared.
+    for (const FeatureReading &reading : readings) {
+        const NodeInfo *const node = m_directory->find(reading.state.name);
+        if (!node || reading.state.value.index() == 0)
+            continue;
+        const std::string value = settingText(reading.state.value);
+        const auto known = m_values.present(node->name, reading.selectors);
+        const bool isWritten = m_written.remove(QString::fromStdString(node->name));
+        setPresent(*node, reading.selectors, value);
+        // What has changed here may have changed for the other values of its selectors.
+        if (!reading.selectors.empty() && !isWritten && known && *known != value)
+            m_plan.add(*m_directory, node->name);
+    }
+    pauseFor(milliseconds(0));
+}
+
+// ---- Changes ----------------------------------------------------------------------------------------------
+
+const NodeInfo *OpeningSnapshot::find(const QString &name) const
+{
+    return m_directory ? m_directory->find(name.toStdString()) : nullptr;
+}
+
+/// Returns true if a change of the feature counts.
+bool OpeningSnapshot::isFollowed(const NodeInfo &node) const
+{
+    return m_directory->hasValue(node.name) && !m_directory->isSelector(node.name)
+        && !isIgnorableFeature(node.name);
+}
+
+void OpeningSnapshot::setPresent(const NodeInfo &node, const Selectors &selectors, const std::string &value)
+{
+    if (isFollowed(node) && m_values.setPresent(node, selectors, value))
+        emit changedFeatures({QString::fromStdString(node.name)});
+}
+
+/// Takes what the FeatureClient has read.
+void OpeningSnapshot::takeState(const QString &name)
+{
+    const NodeInfo *const node = find(name);
+    const NodeState *const state = m_client.state(name);
+    if (!node || !state || state->value.index() == 0 || !isFollowed(*node))
+        return;
+    const auto selectors = m_selectors.of(node->name);
+    if (!selectors)
+        return;
+    const std::string value = settingText(state->value);
+    if (m_isUntouched && !node->isStreamable && state->access == NodeAccess::ReadWrite)
+        m_values.setOpening(node->name, *selectors, value);
+    // The state of a selected feature may have been read before its selector has changed.
+    if (!selectors->empty())
+        return;
+    m_stale.remove(name);
+    m_written.remove(name);
+    setPresent(*node, {}, value);
+}
+
+void OpeningSnapshot::takeWritten(const QString &name, const NodeValue &before, const NodeValue &after)
+{
+    const NodeInfo *const node = find(name);
+    if (!node || !isFollowed(*node))
+        return;
+    const auto selectors = m_selectors.of(node->name);
+    m_isUntouched = false;
+    m_written.insert(name);
+    if (selectors)
+        return noteEdit({*selectors, node->name, settingText(before), settingText(after)});
+    if (m_plan.contains(node->name)) {
+        m_plan.remove(node->name);
+        addNote(m_snapshot.notes, node->name,
+            tr("%1 was changed before its value at opening was read.").arg(name).toStdString());
+    }
+}
+
+void OpeningSnapshot::takeExecuted(const QString &name)
+{
+    m_isUntouched = false;
+    if (m_state == State::Reading)
+        addNote(m_snapshot.notes, name.toStdString(),
+            tr("%1 was executed before all settings were read, so some of them may be those after it.")
+                .arg(name)
+                .toStdString());
+    if (name != QStringLiteral("UserSetLoad") || !m_directory)
+        return;
+    for (const std::string &setting : settingNames(*m_directory))
+        m_plan.add(*m_directory, setting);
+    readSoon();
+}
+
+void OpeningSnapshot::noteEdits(const std::vector<FeatureEdit> &edits)
+{
+    if (!m_directory || edits.empty())
+        return;
+    m_isUntouched = false;
+    for (FeatureEdit edit : edits) {
+        const NodeInfo *const node = m_directory->find(edit.name);
+        if (!node || !isFollowed(*node) || !isValueText(node, edit.after))
+            continue;
+        for (SelectorSetting &selector : edit.selectors)
+            selector.value = normalized(*m_directory, selector.name, selector.value);
+        edit.before = normalized(*m_directory, edit.name, edit.before);
+        edit.after = normalized(*m_directory, edit.name, edit.after);
+        noteEdit(edit);
+    }
+}
+
+void OpeningSnapshot::noteEdit(const FeatureEdit &edit)
+{
+    const NodeInfo &node = *m_directory->find(edit.name);
+    const bool mayBeFirst = m_state == State::Reading || !node.isStreamable;
+    if (mayBeFirst && !isValueText(&node, edit.before))
+        m_values.setLost(edit.name, edit.selectors);
+    else if (mayBeFirst)
+        m_values.setOpening(edit.name, edit.selectors, edit.before);
+    if (m_state == State::Reading && node.isStreamable)
+        m_earlyEdits.push_back(edit);
+    setPresent(node, edit.selectors, edit.after);
+}
+
+/// Compares features again that may have changed, unless they are read anyway.
+void OpeningSnapshot::addStale(const QStringList &names)
+{
+    QStringList followed;
+    for (const QString &name : names) {
+        const NodeInfo *const node = find(name);
+        const bool isKnown = node && isFollowed(*node) && m_values.contains(node->name);
+        if (isKnown && !m_plan.contains(node->name))
+            followed.append(name);
+    }
+    m_stale.append(followed);
+    if (!followed.isEmpty() && m_isOpen && !m_isReading && !m_timer.isActive())
+        m_timer.start(staleDelay);
+}
