@@ -251,6 +251,9 @@ void TestComparePanel::droppedFileIsASide()
     PanelBench bench;
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(bench.writeFile("Width\t320\n"))});
+    QDragEnterEvent enter(QPoint(790, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&bench.panel, &enter);
+    QVERIFY(enter.isAccepted());
     QDropEvent drop(QPointF(790, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&bench.panel, &drop);
     QVERIFY(bench.waitUntilDone());
@@ -263,6 +266,7 @@ void TestComparePanel::doubleClickRequestsTheFeature()
     bench.panel.compareWithFile(bench.writeFile("Width\t320\n"));
     QVERIFY(bench.waitUntilDone());
     bench.panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bench.panel));
     QSignalSpy requests(&bench.panel, &ComparePanel::featureRequested);
     auto &tree = *bench.panel.findChild<QTreeView *>();
     const QModelIndex feature = tree.model()->index(0, 0, tree.model()->index(0, 0));

@@ -166,14 +166,14 @@ void ComparePanel::chooseSide(CompareSession::Side side, const SideChoice &choic
 
 void ComparePanel::choose(const SideChoice &left, const SideChoice &right)
 {
-    report({}, "");
+    report({}, {});
     askAndRun(m_session.readQuestion(left, right, CompareSession::Reread::Changed),
         [this, left, right] { m_session.choose(left, right); });
 }
 
 void ComparePanel::refresh()
 {
-    report({}, "");
+    report({}, {});
     const SideChoice left = m_session.choice(CompareSession::Left);
     const SideChoice right = m_session.choice(CompareSession::Right);
     askAndRun(
@@ -306,7 +306,7 @@ void ComparePanel::showProgress()
     m_progress->setAccessibleDescription(m_session.activity());
 }
 
-void ComparePanel::report(const QString &text, const char *role)
+void ComparePanel::report(const QString &text, const QString &role)
 {
-    showMessage(m_message, text, role);
+    showMessage(m_message, text, role.toLatin1().constData());
 }
