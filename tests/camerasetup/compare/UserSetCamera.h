@@ -3,6 +3,7 @@
 #include "tests/kit/camera/TestDevice.h"
 
 #include <map>
+#include <memory>
 #include <string>
 
 /// Defines a camera with a lock, a selector, a feature of its own and two user sets. "UserSet1" contains

@@ -106,6 +106,7 @@ QWidget *ComparePanel::createButtons()
         auto *const button = new QToolButton(buttons);
         button->setDefaultAction(action);
         button->setFocusPolicy(Qt::StrongFocus);
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         layout->addWidget(button);
     }
     layout->addWidget(m_progress, 1);
@@ -167,6 +168,10 @@ void ComparePanel::chooseSide(CompareSession::Side side, const SideChoice &choic
 void ComparePanel::choose(const SideChoice &left, const SideChoice &right)
 {
     report({}, {});
+    if (m_session.isBusy()) {
+        showSession(); // The boxes stay enabled, so that they keep the focus; they show the old choice again.
+        return;
+    }
     askAndRun(m_session.readQuestion(left, right, CompareSession::Reread::Changed),
         [this, left, right] { m_session.choose(left, right); });
 }
@@ -273,7 +278,6 @@ void ComparePanel::showSession()
 void ComparePanel::showSide(CompareSession::Side side)
 {
     SideBox &box = *m_boxes[side];
-    box.setEnabled(!m_session.isBusy());
     box.setEntries(sideEntries(m_parts.client, m_parts.finder, m_session, side), m_session.choice(side));
     if (m_session.isRead(side))
         box.setContent(m_session.snapshot(side));
