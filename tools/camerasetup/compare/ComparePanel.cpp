@@ -106,6 +106,7 @@ QWidget *ComparePanel::createButtons()
         auto *const button = new QToolButton(buttons);
         button->setDefaultAction(action);
         button->setFocusPolicy(Qt::StrongFocus);
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         layout->addWidget(button);
     }
     layout->addWidget(m_progress, 1);
@@ -166,14 +167,18 @@ void ComparePanel::chooseSide(CompareSession::Side side, const SideChoice &choic
 
 void ComparePanel::choose(const SideChoice &left, const SideChoice &right)
 {
-    report({}, "");
+    report({}, {});
+    if (m_session.isBusy()) {
+        showSession(); // The boxes stay enabled, so that they keep the focus; they show the old choice again.
+        return;
+    }
     askAndRun(m_session.readQuestion(left, right, CompareSession::Reread::Changed),
         [this, left, right] { m_session.choose(left, right); });
 }
 
 void ComparePanel::refresh()
 {
-    report({}, "");
+    report({}, {});
     const SideChoice left = m_session.choice(CompareSession::Left);
     const SideChoice right = m_session.choice(CompareSession::Right);
     askAndRun(
@@ -273,7 +278,6 @@ void ComparePanel::showSession()
 void ComparePanel::showSide(CompareSession::Side side)
 {
     SideBox &box = *m_boxes[side];
-    box.setEnabled(!m_session.isBusy());
     box.setEntries(sideEntries(m_parts.client, m_parts.finder, m_session, side), m_session.choice(side));
     if (m_session.isRead(side))
         box.setContent(m_session.snapshot(side));
@@ -306,7 +310,7 @@ void ComparePanel::showProgress()
     m_progress->setAccessibleDescription(m_session.activity());
 }
 
-void ComparePanel::report(const QString &text, const char *role)
+void ComparePanel::report(const QString &text, const QString &role)
 {
-    showMessage(m_message, text, role);
+    showMessage(m_message, text, role.toLatin1().constData());
 }

@@ -83,7 +83,7 @@ private:
     void showSide(CompareSession::Side side);
     void showComparison();
     void showProgress();
-    void report(const QString &text, const char *role);
+    void report(const QString &text, const QString &role);
 
     const Parts m_parts;
     CompareSession m_session;

@@ -93,7 +93,7 @@ void CopyActions::ask(const Rows &rows)
 void CopyActions::takeResult(const SourceWriting &writing)
 {
     if (!writing.problem.isEmpty()) {
-        emit finished(tr("Nothing was copied: %1").arg(writing.problem), "error");
+        emit finished(tr("Nothing was copied: %1").arg(writing.problem), QStringLiteral("error"));
         return;
     }
     const LoadReport &report = writing.report;
@@ -104,7 +104,8 @@ void CopyActions::takeResult(const SourceWriting &writing)
         text += QLatin1Char(' ') + tr("The copy was cancelled.");
     if (!failures.isEmpty())
         text += QLatin1Char(' ') + tr("%n problem(s) were reported.", nullptr, failures.size());
-    emit finished(text, failures.isEmpty() && !report.isCancelled ? "good" : "warning");
+    emit finished(
+        text, failures.isEmpty() && !report.isCancelled ? QStringLiteral("good") : QStringLiteral("warning"));
     if (failures.isEmpty())
         return;
     auto *const dialog = new NoteListDialog(

@@ -31,7 +31,7 @@ public:
 
 signals:
     /// What has become of the copy, as a sentence. The role is that of the style sheet: "good" or "warning".
-    void finished(const QString &text, const char *role);
+    void finished(const QString &text, const QString &role);
 
 private:
     void ask(const std::vector<const DifferenceRow *> &rows);

@@ -7,10 +7,10 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 DifferenceView::DifferenceView(QWidget *parent) : QWidget(parent)
@@ -78,10 +78,7 @@ void DifferenceView::setComparison(
 {
     m_isComplete = true;
     m_counts = ComparisonCounts::of(rows);
-    const bool isFirst = m_model->rowCount() == 0;
     m_model->setComparison(std::move(rows), leftTitle, rightTitle);
-    if (isFirst)
-        fitColumns();
     showSummary();
 }
 
@@ -94,14 +91,17 @@ void DifferenceView::clear(const QString &hint)
     showSummary();
 }
 
-/// Gives the feature the room that it needs, but leaves room for the values.
-void DifferenceView::fitColumns()
+/// Gives each column the same part of the width as before; at first, the feature has the largest part.
+void DifferenceView::resizeEvent(QResizeEvent *event)
 {
-    const int whole = m_tree->viewport()->width();
-    m_tree->resizeColumnToContents(DifferenceModel::FeatureColumn);
-    const int feature = std::min(m_tree->columnWidth(DifferenceModel::FeatureColumn), whole / 2);
-    m_tree->setColumnWidth(DifferenceModel::FeatureColumn, feature);
-    m_tree->setColumnWidth(DifferenceModel::LeftColumn, (whole - feature) / 2);
+    QWidget::resizeEvent(event);
+    const int before = event->oldSize().width();
+    for (const int column : {DifferenceModel::FeatureColumn, DifferenceModel::LeftColumn}) {
+        const double part = column == DifferenceModel::FeatureColumn ? 0.46 : 0.26;
+        const int width = before > 0 ? m_tree->columnWidth(column) * event->size().width() / before
+                                     : int(part * event->size().width());
+        m_tree->setColumnWidth(column, width);
+    }
 }
 
 void DifferenceView::applyFilter()

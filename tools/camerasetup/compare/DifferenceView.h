@@ -31,10 +31,12 @@ signals:
     void featureRequested(const QString &name);
     void choiceChanged(); ///< What is selected or checked.
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QTreeView *createTree();
     QWidget *createFilters();
-    void fitColumns();
     QString emptyHint() const;
     void applyFilter();
     void showSummary();

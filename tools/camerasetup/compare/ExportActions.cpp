@@ -88,15 +88,16 @@ void ExportActions::saveTo(const QString &path)
     const bool isSaved
         = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
     if (isSaved)
-        emit finished(tr("The comparison was saved as %1.").arg(QDir::toNativeSeparators(path)), "good");
+        emit finished(tr("The comparison was saved as %1.").arg(QDir::toNativeSeparators(path)),
+            QStringLiteral("good"));
     else
         emit finished(tr("The comparison could not be saved as %1: %2")
                           .arg(QDir::toNativeSeparators(path), file.errorString()),
-            "error");
+            QStringLiteral("error"));
 }
 
 void ExportActions::copyText()
 {
     QApplication::clipboard()->setText(comparisonText(report()));
-    emit finished(tr("The comparison was copied."), "good");
+    emit finished(tr("The comparison was copied."), QStringLiteral("good"));
 }

@@ -28,7 +28,7 @@ public:
     void saveTo(const QString &path);
 
 signals:
-    void finished(const QString &text, const char *role);
+    void finished(const QString &text, const QString &role);
 
 private:
     ComparisonReport report() const;

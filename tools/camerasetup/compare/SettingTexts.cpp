@@ -55,7 +55,7 @@ std::vector<DifferenceRow> SettingTexts::rows(const std::vector<ComparedFeature>
         DifferenceRow row{feature, title(feature), category(feature.category),
             value(feature.name, feature.left), value(feature.name, feature.right)};
         const bool looksEqual = feature.difference == FeatureDifference::Different && row.left == row.right;
-        if (looksEqual) { // Rounding, or a text that is no value of this feature.
+        if (looksEqual) { // For example, two entries with the same display name.
             row.left = QString::fromStdString(feature.left);
             row.right = QString::fromStdString(feature.right);
         }

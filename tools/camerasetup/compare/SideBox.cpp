@@ -8,8 +8,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QPushButton>
 #include <QSignalBlocker>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 SideBox::SideBox(const QString &label, QWidget *parent) : QFrame(parent), m_label(label)
@@ -22,11 +22,10 @@ SideBox::SideBox(const QString &label, QWidget *parent) : QFrame(parent), m_labe
     title->setBuddy(m_choice);
     m_detail = new QLabel(this);
     m_detail->setWordWrap(true);
-    m_notesButton = new QToolButton(this);
-    m_notesButton->setFocusPolicy(Qt::StrongFocus);
+    m_notesButton = new QPushButton(this);
     m_notesButton->setToolTip(tr("Shows what could not be read, and why."));
     connect(m_choice, qOverload<int>(&QComboBox::activated), this, &SideBox::choose);
-    connect(m_notesButton, &QToolButton::clicked, this, &SideBox::showNotes);
+    connect(m_notesButton, &QPushButton::clicked, this, &SideBox::showNotes);
 
     auto *const head = new QHBoxLayout;
     head->addWidget(title);

@@ -8,7 +8,7 @@
 
 class QComboBox;
 class QLabel;
-class QToolButton;
+class QPushButton;
 
 /// Lets a person choose one side of a comparison, and shows when it was read and what could not be read.
 class SideBox : public QFrame
@@ -42,7 +42,7 @@ private:
     const QString m_label;
     QComboBox *m_choice;
     QLabel *m_detail;
-    QToolButton *m_notesButton;
+    QPushButton *m_notesButton;
     SideChoice m_current;
     SettingsSnapshot m_shown; // Only its title and its notes.
 };
