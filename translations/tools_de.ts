@@ -495,7 +495,7 @@
     </message>
 </context>
 <context>
-    <name>FeatureNote</name>
+    <name>EditorNote</name>
     <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>

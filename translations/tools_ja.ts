@@ -493,7 +493,7 @@
     </message>
 </context>
 <context>
-    <name>FeatureNote</name>
+    <name>EditorNote</name>
     <message>
         <source>Discard</source>
         <translation>破棄</translation>

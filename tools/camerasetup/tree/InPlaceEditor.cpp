@@ -2,7 +2,7 @@
 
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/editors/FeatureEditors.h"
-#include "tools/kit/editors/FeatureNote.h"
+#include "tools/kit/editors/EditorNote.h"
 #include "tools/kit/editors/NumberEditor.h"
 
 #include <QAbstractButton>
@@ -32,7 +32,7 @@ QWidget *controlOf(const FeatureEditor &editor)
 
 bool asksAQuestion(const FeatureEditor &editor)
 {
-    const auto *const note = editor.findChild<FeatureNote *>();
+    const auto *const note = editor.findChild<EditorNote *>();
     return note && note->isQuestion();
 }
 

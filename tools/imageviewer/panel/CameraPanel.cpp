@@ -6,8 +6,8 @@
 #include "tools/imageviewer/panel/RegionCall.h"
 #include "tools/imageviewer/panel/WhiteBalanceCall.h"
 #include "tools/kit/editors/CommandButton.h"
+#include "tools/kit/editors/EditorNote.h"
 #include "tools/kit/editors/FeatureEditors.h"
-#include "tools/kit/editors/FeatureNote.h"
 #include "tools/kit/editors/StreamPauser.h"
 #include "tools/kit/widgets/VerticalScrollArea.h"
 
@@ -43,7 +43,7 @@ CameraPanel::CameraPanel(FeatureClient &client, QWidget *parent)
     : QWidget(parent),
       m_client(client),
       m_notice(new QLabel(this)),
-      m_failure(new FeatureNote(this)),
+      m_failure(new EditorNote(this)),
       m_groupLayout(new QVBoxLayout)
 {
     for (const PanelGroup &group : panelGroups())

@@ -14,7 +14,7 @@
 
 class CollapsibleGroup;
 class FeatureEditor;
-class FeatureNote;
+class EditorNote;
 class FeatureRow;
 class QLabel;
 class QSettings;
@@ -78,7 +78,7 @@ private:
     FeatureClient &m_client;
     StreamPauser *m_pauser = nullptr;
     QLabel *m_notice; ///< Why nothing can be changed.
-    FeatureNote *m_failure; ///< Why the region or the white balance was not changed.
+    EditorNote *m_failure; ///< Why the region or the white balance was not changed.
     QVBoxLayout *m_groupLayout;
     QWidget *m_regionButtons = nullptr; ///< Null if the camera is not known yet.
     QVector<CollapsibleGroup *> m_groups;

@@ -1,6 +1,6 @@
 #include "tools/kit/editors/FeatureEditor.h"
 
-#include "tools/kit/editors/FeatureNote.h"
+#include "tools/kit/editors/EditorNote.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -38,7 +38,7 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
       m_client(&client),
       m_layout(new QGridLayout(this)),
       m_label(new QLabel(QString::fromStdString(info.displayName), this)),
-      m_note(new FeatureNote(this))
+      m_note(new EditorNote(this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setHorizontalSpacing(columnGap);
@@ -49,10 +49,10 @@ FeatureEditor::FeatureEditor(const CvxCPP::NodeInfo &info, FeatureClient &client
     m_label->setProperty("role", QStringLiteral("secondary"));
     m_label->setWordWrap(true);
 
-    connect(m_note, &FeatureNote::accepted, this, &FeatureEditor::acceptQuestion);
-    connect(m_note, &FeatureNote::rejected, this, &FeatureEditor::rejectQuestion);
-    connect(m_note, &FeatureNote::unlockRequested, this, &FeatureEditor::unlock);
-    connect(m_note, &FeatureNote::featureRequested, this,
+    connect(m_note, &EditorNote::accepted, this, &FeatureEditor::acceptQuestion);
+    connect(m_note, &EditorNote::rejected, this, &FeatureEditor::rejectQuestion);
+    connect(m_note, &EditorNote::unlockRequested, this, &FeatureEditor::unlock);
+    connect(m_note, &EditorNote::featureRequested, this,
         [this] { emit featureRequested(advice().lockingFeature); });
     connect(&client, &FeatureClient::stateChanged, this, &FeatureEditor::onStateChanged);
     connect(&client, &FeatureClient::written, this, &FeatureEditor::onWritten);

@@ -11,7 +11,7 @@
 #include <functional>
 #include <optional>
 
-class FeatureNote;
+class EditorNote;
 class QGridLayout;
 class QLabel;
 class StreamPauser;
@@ -58,6 +58,9 @@ public:
     QString noteText() const;
 
 public slots:
+    /// Writes the value. If the stream locks the feature, asks first.
+    void submit(const CvxCPP::NodeValue &value);
+
     /// Answers the question of the line below the control.
     void acceptQuestion();
     void rejectQuestion();
@@ -90,9 +93,6 @@ protected:
 
     /// Called after setLabel() and setLabelWidth().
     virtual void labelChanged() { }
-
-    /// Writes the value. If the stream locks the feature, asks first.
-    void submit(const CvxCPP::NodeValue &value);
 
     /// Executes the command. If the stream locks it, asks first.
     void execute();
@@ -136,7 +136,7 @@ private:
     StreamPauser *m_pauser = nullptr;
     QGridLayout *m_layout;
     QLabel *m_label;
-    FeatureNote *m_note;
+    EditorNote *m_note;
     QString m_error; ///< What the last change failed with.
     CvxCPP::NodeValue m_submitted; ///< What the last change was.
     QString m_lockingFeature; ///< Watched together with the feature; empty if nothing locks it.

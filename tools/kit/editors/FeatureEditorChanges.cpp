@@ -1,7 +1,7 @@
 // What a person asks of the camera through the editor: changes, with a question first if necessary.
 #include "tools/kit/editors/FeatureEditor.h"
 
-#include "tools/kit/editors/FeatureNote.h"
+#include "tools/kit/editors/EditorNote.h"
 #include "tools/kit/editors/StreamPauser.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-#include "tools/kit/editors/FeatureNote.h"
+#include "tools/kit/editors/EditorNote.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -13,7 +13,7 @@ constexpr double fontScale = 0.9; ///< A note is less important than the values.
 
 } // namespace
 
-FeatureNote::FeatureNote(QWidget *parent)
+EditorNote::EditorNote(QWidget *parent)
     : QWidget(parent),
       m_text(new QLabel(this)),
       m_buttons(new QWidget(this)),
@@ -45,21 +45,21 @@ FeatureNote::FeatureNote(QWidget *parent)
     layout->addWidget(m_unlock, 0, Qt::AlignLeft); // Below each other, because the names can be long.
     layout->addWidget(m_show, 0, Qt::AlignLeft);
 
-    connect(m_accept, &QPushButton::clicked, this, &FeatureNote::accepted);
-    connect(m_reject, &QPushButton::clicked, this, &FeatureNote::rejected);
-    connect(m_unlock, &QPushButton::clicked, this, &FeatureNote::unlockRequested);
-    connect(m_show, &QPushButton::clicked, this, &FeatureNote::featureRequested);
+    connect(m_accept, &QPushButton::clicked, this, &EditorNote::accepted);
+    connect(m_reject, &QPushButton::clicked, this, &EditorNote::rejected);
+    connect(m_unlock, &QPushButton::clicked, this, &EditorNote::unlockRequested);
+    connect(m_show, &QPushButton::clicked, this, &EditorNote::featureRequested);
     clear();
 }
 
-void FeatureNote::clear()
+void EditorNote::clear()
 {
     hideButtons();
     m_text->clear();
     hide();
 }
 
-void FeatureNote::showLock(const QString &text, const QString &unlockText, const QString &showText)
+void EditorNote::showLock(const QString &text, const QString &unlockText, const QString &showText)
 {
     m_buttons->hide();
     m_unlock->setText(unlockText);
@@ -69,19 +69,19 @@ void FeatureNote::showLock(const QString &text, const QString &unlockText, const
     showAs(QStringLiteral("secondary"), text);
 }
 
-void FeatureNote::showError(const QString &text)
+void EditorNote::showError(const QString &text)
 {
     hideButtons();
     showAs(QStringLiteral("error"), text);
 }
 
-void FeatureNote::showRemark(const QString &text)
+void EditorNote::showRemark(const QString &text)
 {
     hideButtons();
     showAs(QStringLiteral("warning"), text);
 }
 
-void FeatureNote::showQuestion(const QString &text, const QString &acceptText)
+void EditorNote::showQuestion(const QString &text, const QString &acceptText)
 {
     hideButtons();
     m_accept->setText(acceptText);
@@ -89,24 +89,24 @@ void FeatureNote::showQuestion(const QString &text, const QString &acceptText)
     showAs({}, text);
 }
 
-QString FeatureNote::text() const
+QString EditorNote::text() const
 {
     return m_text->text();
 }
 
-bool FeatureNote::isQuestion() const
+bool EditorNote::isQuestion() const
 {
     return !m_buttons->isHidden();
 }
 
-void FeatureNote::hideButtons()
+void EditorNote::hideButtons()
 {
     for (QWidget *const button :
         {m_buttons, static_cast<QWidget *>(m_unlock), static_cast<QWidget *>(m_show)})
         button->hide();
 }
 
-void FeatureNote::showAs(const QString &role, const QString &text)
+void EditorNote::showAs(const QString &role, const QString &text)
 {
     m_text->setText(text);
     if (m_text->property("role").toString() != role) {

@@ -8,12 +8,12 @@ class QPushButton;
 /// The line under an editor: why the feature is locked, what failed, what was corrected, or a question with
 /// two buttons. A lock can have buttons too. Takes no room if there is nothing to say. The property "role" of
 /// the label, which the style sheet uses, follows the kind of the text.
-class FeatureNote : public QWidget
+class EditorNote : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit FeatureNote(QWidget *parent = nullptr);
+    explicit EditorNote(QWidget *parent = nullptr);
 
     void clear();
     /// A button without text is not shown.
