@@ -1,6 +1,6 @@
 #include "tools/camerasetup/tree/FeatureTree.h"
 #include "tools/camerasetup/tree/ValueMarks.h"
-#include "tools/camerasetup/tree/ValueText.h"
+#include "tools/camerasetup/values/ValueText.h"
 
 #include <QtTest>
 

@@ -135,8 +135,8 @@ QObject *WindowReaderPlugin::create(const QString &, const QString &socketPath)
     auto *server = new QLocalServer;
     QObject::connect(server, &QLocalServer::newConnection, server,
         [server] { sendVisibleWindows(*server->nextPendingConnection()); });
-    // In a tool, which inherits the launcher's environment, listen() fails because the launcher uses the
-    // path.
-    server->listen(socketPath);
+    // A tool inherits the launcher's environment, so the launcher uses this path already.
+    if (!server->listen(socketPath))
+        server->listen(QStringLiteral("%1.%2").arg(socketPath).arg(QCoreApplication::applicationPid()));
     return server;
 }

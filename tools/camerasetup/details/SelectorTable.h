@@ -1,13 +1,22 @@
 #pragma once
 
+#include "tools/camerasetup/details/SelectorCalls.h"
 #include "tools/kit/camera/FeatureClient.h"
 
 #include <QString>
+#include <QStringList>
+#include <QTimer>
 #include <QWidget>
+
+#include <memory>
 
 class CameraJobs;
 class ChangeHistory;
 class PresentSelectors;
+class QLabel;
+class QPushButton;
+class QTableView;
+class SelectorModel;
 
 /// The features that one selector selects, with the values for each value of the selector side by side, for
 /// example the gain of each tap: one row per feature, one column per value of the selector. A cell can be
@@ -34,6 +43,41 @@ public:
         return !info.selectors.empty() || !info.selected.empty();
     }
 
+    const QString &selector() const { return m_selector; }
+
 signals:
     void featureRequested(const QString &name);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    QString selectorFor(const QString &name) const;
+    void rebuild();
+    void showTitle();
+    void watchRows(bool isWatching);
+    void onStateChanged(const QString &name);
+    void read();
+    void takeValues(const CvxCPP::CvxResult &result, const SelectorValues &values);
+    void write(const QModelIndex &index, const CvxCPP::NodeValue &value);
+    void takeWritten(
+        const CvxCPP::CvxResult &result, const SelectedValue &value, const CvxCPP::NodeValue &before);
+
+    FeatureClient &m_client;
+    CameraJobs &m_jobs;
+    const PresentSelectors &m_selectors;
+    ChangeHistory &m_history;
+    SelectorModel *m_model;
+    QTableView *m_view;
+    QLabel *m_title;
+    QLabel *m_message;
+    QPushButton *m_refresh;
+    QString m_feature; ///< What setFeature() was called with.
+    QString m_selector; ///< Empty if there is no table.
+    QStringList m_rows;
+    QStringList m_watched;
+    QTimer m_readTimer; ///< Turns several changes into one read.
+    bool m_isReading = false;
+    bool m_isOutdated = false; ///< A change arrived while the table was being read.
 };

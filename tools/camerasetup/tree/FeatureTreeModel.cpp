@@ -1,6 +1,6 @@
 #include "tools/camerasetup/tree/FeatureTreeModel.h"
 
-#include "tools/camerasetup/tree/ValueText.h"
+#include "tools/camerasetup/values/ValueText.h"
 #include "tools/kit/editors/LockAdvice.h"
 
 #include <QColor>

@@ -1,7 +1,7 @@
 #include "tools/camerasetup/tree/FilterHint.h"
 
 #include "tools/camerasetup/tree/FeatureFilter.h"
-#include "tools/camerasetup/tree/LevelText.h"
+#include "tools/camerasetup/values/LevelText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

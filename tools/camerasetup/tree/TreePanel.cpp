@@ -6,9 +6,9 @@
 #include "tools/camerasetup/tree/FeatureTreeView.h"
 #include "tools/camerasetup/tree/FilterBar.h"
 #include "tools/camerasetup/tree/FilterHint.h"
-#include "tools/camerasetup/tree/LevelText.h"
 #include "tools/camerasetup/tree/TreeExpansion.h"
 #include "tools/camerasetup/values/Favourites.h"
+#include "tools/camerasetup/values/LevelText.h"
 #include "tools/camerasetup/values/OpeningSnapshot.h"
 
 #include <QHeaderView>

@@ -58,6 +58,9 @@ public:
     QString noteText() const;
 
 public slots:
+    /// Writes the value. If the stream locks the feature, asks first.
+    void submit(const CvxCPP::NodeValue &value);
+
     /// Answers the question of the line below the control.
     void acceptQuestion();
     void rejectQuestion();
@@ -90,9 +93,6 @@ protected:
 
     /// Called after setLabel() and setLabelWidth().
     virtual void labelChanged() { }
-
-    /// Writes the value. If the stream locks the feature, asks first.
-    void submit(const CvxCPP::NodeValue &value);
 
     /// Executes the command. If the stream locks it, asks first.
     void execute();

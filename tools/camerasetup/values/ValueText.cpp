@@ -1,4 +1,4 @@
-#include "tools/camerasetup/tree/ValueText.h"
+#include "tools/camerasetup/values/ValueText.h"
 
 #include "tools/kit/editors/NumberText.h"
 

@@ -1,4 +1,4 @@
-#include "tools/camerasetup/tree/LevelText.h"
+#include "tools/camerasetup/values/LevelText.h"
 
 #include <QCoreApplication>
 

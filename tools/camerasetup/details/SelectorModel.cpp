@@ -1,0 +1,127 @@
+#include "tools/camerasetup/details/SelectorModel.h"
+
+#include "sdk/features/FeatureText.h"
+#include "tools/camerasetup/values/ValueText.h"
+#include "tools/kit/editors/LockAdvice.h"
+
+#include <algorithm>
+
+using namespace CvxCPP;
+
+SelectorModel::SelectorModel(FeatureClient &client, QObject *parent)
+    : QAbstractTableModel(parent), m_client(client)
+{ }
+
+void SelectorModel::setRows(const NodeInfo &selector, const QVector<NodeInfo> &features)
+{
+    beginResetModel();
+    m_selector = selector;
+    m_features = features;
+    m_columns.clear();
+    endResetModel();
+}
+
+void SelectorModel::setValues(const SelectorValues &values)
+{
+    const bool isSame = std::equal(values.columns.begin(), values.columns.end(), m_columns.begin(),
+        m_columns.end(),
+        [](const SelectorColumn &left, const SelectorColumn &right) { return left.value == right.value; });
+    if (isSame && !m_columns.empty()) { // An open editor stays.
+        m_columns = values.columns;
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+        return;
+    }
+    beginResetModel();
+    m_columns = values.columns;
+    endResetModel();
+}
+
+void SelectorModel::clear()
+{
+    beginResetModel();
+    m_features.clear();
+    m_columns.clear();
+    endResetModel();
+}
+
+const NodeState &SelectorModel::state(const QModelIndex &index) const
+{
+    return m_columns[static_cast<std::size_t>(index.column())].states[static_cast<std::size_t>(index.row())];
+}
+
+const std::string &SelectorModel::selectorValue(const QModelIndex &index) const
+{
+    return m_columns[static_cast<std::size_t>(index.column())].value;
+}
+
+int SelectorModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_features.size();
+}
+
+int SelectorModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+QVariant SelectorModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    if (role == Qt::DisplayRole)
+        return valueText(info(index), state(index));
+    if (role == Qt::EditRole)
+        return QVariant::fromValue(state(index).value);
+    if (role == Qt::ToolTipRole)
+        return lockReason(index);
+    if (role == Qt::AccessibleDescriptionRole)
+        return QStringLiteral("%1, %2").arg(columnTitle(index.column()), lockReason(index));
+    return {};
+}
+
+QVariant SelectorModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole)
+        return {};
+    return orientation == Qt::Horizontal ? columnTitle(section)
+                                         : QString::fromStdString(m_features[section].displayName);
+}
+
+QString SelectorModel::columnTitle(int column) const
+{
+    NodeState state;
+    const auto value = settingValue(m_selector.type, m_columns[static_cast<std::size_t>(column)].value);
+    if (const auto *const parsed = std::get_if<NodeValue>(&value))
+        state.value = *parsed;
+    return valueText(m_selector, state);
+}
+
+Qt::ItemFlags SelectorModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return {};
+    const LockReason reason = state(index).lockReason;
+    const bool isEditable = reason == LockReason::None || reason == LockReason::StreamRunning;
+    if (!isEditable)
+        return Qt::ItemIsSelectable; // Grey, but the tool tip says why.
+    if (info(index).type == NodeType::Register || info(index).type == NodeType::Command)
+        return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable;
+}
+
+bool SelectorModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !index.isValid() || !value.canConvert<NodeValue>())
+        return false;
+    const auto wanted = value.value<NodeValue>();
+    if (wanted != state(index).value)
+        emit changeRequested(index, wanted);
+    return true;
+}
+
+QString SelectorModel::lockReason(const QModelIndex &index) const
+{
+    const QString locking = QString::fromStdString(state(index).lockingNode);
+    // The value of the responsible feature may be another one under this value of the selector.
+    return lockAdvice(state(index), m_client.info(locking), nullptr).reason;
+}
