@@ -42,7 +42,7 @@ SettingsActions::SettingsActions(const Parts &parts, QWidget *window)
       save(createAction(
           this, "saveSettings", tr("&Save settings…"), ToolIcons::icon(Kind::Snapshot), QKeySequence::Save)),
       load(createAction(
-          this, "loadSettings", tr("&Load settings…"), ToolIcons::icon(Kind::Folder), QKeySequence::Open)),
+          this, "loadSettings", tr("&Load settings…"), ToolIcons::icon(Kind::Folder), Qt::CTRL + Qt::Key_L)),
       restore(createAction(
           this, "restoreOpening", tr("As it &was when I opened it…"), ToolIcons::icon(Kind::Refresh), {})),
       m_parts(parts),
