@@ -1,8 +1,8 @@
 #include "tools/camerasetup/tree/InPlaceEditor.h"
 
 #include "tools/kit/camera/FeatureClient.h"
-#include "tools/kit/editors/FeatureEditors.h"
 #include "tools/kit/editors/EditorNote.h"
+#include "tools/kit/editors/FeatureEditors.h"
 #include "tools/kit/editors/NumberEditor.h"
 
 #include <QAbstractButton>
