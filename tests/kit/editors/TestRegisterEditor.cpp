@@ -71,6 +71,26 @@ struct TableEditor
     HexView *view;
 };
 
+/// Makes the call and keeps the result, as if the stream took long to start again.
+class SlowPauser : public StreamPauser
+{
+public:
+    explicit SlowPauser(EditorBench &bench) : m_bench(bench) { }
+
+    void pauseFor(CameraConnection::Call call, QObject *, CameraConnection::Done wanted) override
+    {
+        m_bench.device().change(
+            [](ScriptedDevice &device) { device.feature("Table").state.lockReason = LockReason::None; });
+        m_bench.connection.run(std::move(call), nullptr, {});
+        done = std::move(wanted);
+    }
+
+    CameraConnection::Done done;
+
+private:
+    EditorBench &m_bench;
+};
+
 } // namespace
 
 #define WAIT_FOR(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, hangTimeout)
@@ -252,12 +272,19 @@ void TestRegisterEditor::camerasChangeOfAWrittenByteIsNoEdit()
 {
     TableEditor table([](TestDevice &device) {
         addTable(device);
+        device.feature("Table").state.lockReason = LockReason::StreamRunning;
         device.feature("Table").onWrite = [](NodeValue &value) { std::get<Bytes>(value)[0] &= 0xF0; };
     });
+    SlowPauser pauser(table.bench);
+    table.editor->setStreamPauser(&pauser);
     WAIT_FOR(table.editor->isEditable());
     QTest::keyClicks(table.view, QStringLiteral("AA"));
     table.press(Qt::Key_Return, Qt::ControlModifier);
-    WAIT_FOR(table.shown(0, 2) == QStringLiteral("A0 01"));
+    table.editor->acceptQuestion();
+    WAIT_FOR(std::get<Bytes>(table.bench.client.state(QStringLiteral("Table"))->value)[0] == 0xA0);
+    QCOMPARE(table.shown(0, 2), QStringLiteral("AA 01")); // Until it is known whether the write succeeded.
+    pauser.done({});
+    QCOMPARE(table.shown(0, 2), QStringLiteral("A0 01"));
     QVERIFY(!table.view->bytes().isModified());
 }
 

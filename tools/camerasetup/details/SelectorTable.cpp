@@ -69,6 +69,8 @@ SelectorTable::SelectorTable(FeatureClient &client, CameraJobs &jobs, const Pres
     m_readTimer.setInterval(readDelay);
     connect(&m_readTimer, &QTimer::timeout, this, &SelectorTable::read);
     connect(m_refresh, &QPushButton::clicked, this, &SelectorTable::read);
+    // A job that was cancelled before it began reports no result.
+    connect(&jobs, &CameraJobs::changed, this, [this] { m_isReading = m_isReading && m_jobs.isBusy(); });
     connect(m_model, &SelectorModel::changeRequested, this, &SelectorTable::write);
     connect(m_view->verticalHeader(), &QHeaderView::sectionDoubleClicked, this,
         [this](int row) { emit featureRequested(m_rows.value(row)); });
@@ -199,12 +201,13 @@ void SelectorTable::read()
 void SelectorTable::takeValues(const CvxResult &result, const SelectorValues &values)
 {
     m_isReading = false;
-    if (!result)
+    if (!result) {
         showMessage(m_message, QString::fromStdString(result.text), "error");
-    else if (values.isShortened)
-        showMessage(m_message,
-            tr("The selector has more values; the first %1 are shown.").arg(values.columns.size()),
-            "warning");
+        return;
+    }
+    if (values.isShortened)
+        showMessage(
+            m_message, tr("The selector has more values; only the first ones are shown here."), "warning");
     m_model->setValues(values);
     m_view->resizeColumnsToContents();
     if (std::exchange(m_isOutdated, false))
