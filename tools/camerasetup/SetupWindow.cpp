@@ -34,6 +34,8 @@ using Kind = ToolIcons::Kind;
 /// The picture only helps to see what a change does, so it needs few buffers.
 constexpr unsigned pictureBuffers = 4;
 
+constexpr int minPictureHeight = 240;
+constexpr int detailsWidth = 400;
 constexpr int reportTime = 8000; // Milliseconds.
 
 /// Returns the file that is being dropped; empty if it is not exactly one local file.
@@ -134,6 +136,8 @@ void SetupWindow::createDocks()
     tabifyDockWidget(details, historyDock);
     tabifyDockWidget(details, setsDock);
     details->raise();
+    m_picture->setMinimumHeight(minPictureHeight);
+    resizeDocks({details, m_pictureDock}, {detailsWidth, detailsWidth}, Qt::Horizontal);
     m_pictureDock->hide();
     m_tableDock->hide();
     setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);

@@ -40,11 +40,11 @@ QAction *createAction(
 SettingsActions::SettingsActions(const Parts &parts, QWidget *window)
     : QObject(window),
       save(createAction(
-          this, "saveSettings", tr("&Save settings…"), ToolIcons::icon(Kind::Snapshot), QKeySequence::Save)),
+          this, "saveSettings", tr("&Save settings…"), ToolIcons::icon(Kind::Save), QKeySequence::Save)),
       load(createAction(
           this, "loadSettings", tr("&Load settings…"), ToolIcons::icon(Kind::Folder), Qt::CTRL + Qt::Key_L)),
       restore(createAction(
-          this, "restoreOpening", tr("As it &was when I opened it…"), ToolIcons::icon(Kind::Refresh), {})),
+          this, "restoreOpening", tr("As it &was when I opened it…"), ToolIcons::icon(Kind::Restore), {})),
       m_parts(parts),
       m_window(window),
       m_save(new SettingsSave(parts.jobs, this))
