@@ -97,6 +97,7 @@ private slots:
     void lockCanBeEnded();
     void nameIsCopied();
     void favouriteIsMarked();
+    void changedFeatureCanBeSetBack();
     void linksLeadToOtherFeatures();
     void unknownFeatureShowsAHint();
     void featureStaysThroughALoss();
@@ -145,6 +146,20 @@ void TestDetailsPane::favouriteIsMarked()
     pane.pane.setFeature(text("Width"));
     QVERIFY(pane.button("Favourite")->isChecked());
     QVERIFY(!pane.favourites.contains(text("Gain"))); // Showing is no change.
+}
+
+void TestDetailsPane::changedFeatureCanBeSetBack()
+{
+    Pane pane;
+    pane.pane.setFeature(text("Width"));
+    WAIT_FOR(pane.opening.state() == OpeningSnapshot::State::Complete);
+    QVERIFY(!pane.button("Set back"));
+    pane.bench.client.write(text("Width"), std::int64_t(320));
+    WAIT_FOR(pane.button("Set back") && pane.button("Set back")->isEnabled());
+    QVERIFY(pane.labels().contains(text("At opening: 640")));
+    pane.button("Set back")->click();
+    WAIT_FOR(!pane.button("Set back"));
+    QVERIFY(pane.bench.value("Width") == NodeValue(std::int64_t(640)));
 }
 
 void TestDetailsPane::linksLeadToOtherFeatures()
