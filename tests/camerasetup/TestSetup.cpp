@@ -8,11 +8,9 @@
 #include "tools/kit/canvas/ImageCanvas.h"
 #include "tools/kit/editors/FeatureEditor.h"
 
-#include <QDockWidget>
-#include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
-#include <QTreeView>
 #include <QtTest>
 
 using State = CameraConnection::State;
