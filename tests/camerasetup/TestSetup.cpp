@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QTreeView>
 #include <QtTest>
 
 using State = CameraConnection::State;
@@ -23,9 +24,18 @@ QString operator""_s(const char *text, std::size_t size)
     return QString::fromUtf8(text, int(size));
 }
 
+/// Waits until the tree shows the features of the camera.
 void awaitFeatures(SetupUnderTest &setup)
 {
-    await([&] { return !setup.window().features().nodes().isEmpty(); });
+    await([&] { return setup.find<TreePanel>()->findChild<QTreeView *>()->model()->rowCount() > 0; });
+}
+
+/// Changes a feature as the editors do: what is visible was read before.
+void change(SetupUnderTest &setup, const QString &feature, const CvxCPP::NodeValue &value)
+{
+    setup.find<TreePanel>()->showFeature(feature);
+    await([&] { return setup.window().features().state(feature) != nullptr; });
+    setup.window().features().write(feature, value);
 }
 
 /// Returns the names of the settings that differ between the opening (left) and now (right).
@@ -95,15 +105,14 @@ void TestSetup::changeIsTheOnlyDifferenceToTheOpeningAndIsRestored()
 {
     SetupUnderTest setup("1001"_s);
     awaitFeatures(setup);
-    await([&] { return setup.action("Compare with the opening"_s).isEnabled(); });
+    QAction &restore = setup.action("As it was when I opened it…"_s);
+    await([&] { return restore.isEnabled(); }); // The settings at opening are known.
     QCOMPARE(differencesToTheOpening(setup), QStringList());
     const double before = setup.readFloat("Gain");
-    setup.window().features().write("Gain"_s, before + 6);
+    change(setup, "Gain"_s, before + 6);
     await([&] { return setup.readFloat("Gain") == before + 6; });
     QCOMPARE(differencesToTheOpening(setup), QStringList("Gain"_s));
 
-    QAction &restore = setup.action("As it was when I opened it…"_s);
-    await([&] { return restore.isEnabled(); });
     restore.trigger();
     auto *const dialog = setup.find<LoadDialog>();
     QVERIFY(dialog);
@@ -126,7 +135,7 @@ void TestSetup::changeCanBeUndone()
     const double before = setup.readFloat("ExposureTime");
     QAction &undo = setup.action("Undo"_s);
     QVERIFY(!undo.isEnabled());
-    setup.window().features().write("ExposureTime"_s, 1234.0);
+    change(setup, "ExposureTime"_s, 1234.0);
     await([&] { return undo.isEnabled(); });
     undo.trigger();
     await([&] { return setup.readFloat("ExposureTime") == before; });

@@ -46,7 +46,7 @@ QStringList unnamedControls(QMainWindow &window, int &count)
     for (QDockWidget *dock : docks) {
         dock->show();
         dock->raise();
-        await([dock] { return !dock->widget()->visibleRegion().isEmpty(); });
+        await([dock] { return !dock->visibleRegion().isEmpty(); });
         const QList<QWidget *> widgets = window.findChildren<QWidget *>();
         for (QWidget *widget : widgets) {
             if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy()
