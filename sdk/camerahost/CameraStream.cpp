@@ -100,7 +100,7 @@ CameraStream::Failure CameraStream::startFailure(const Problem &problem) const
     if (!m_control.isWatching() || !isRefusal)
         return failure;
     return {DeviceFailure::NotWritable,
-        "This camera sends its images only to the program that controls it. " + failure.text};
+        "The producer gives this camera's images only to a program that controls it. " + failure.text};
 }
 
 std::optional<CameraStream::Failure> CameraStream::startRun()

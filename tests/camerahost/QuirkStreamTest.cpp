@@ -182,8 +182,9 @@ TEST_P(RefusedStreamOfAWatcher, isExplained)
     start(GetParam());
     EXPECT_FALSE(isStarted);
     EXPECT_EQ(client.failure.failure, DeviceFailure::NotWritable);
-    EXPECT_EQ(
-        client.failure.text.find("This camera sends its images only to the program that controls it. "), 0U)
+    EXPECT_EQ(client.failure.text.find(
+                  "The producer gives this camera's images only to a program that controls it. "),
+        0U)
         << client.failure.text;
     EXPECT_EQ(client.read("Gain"), CvxCPP::NodeValue(std::int64_t(1))) << "the camera is still open";
     EXPECT_TRUE(client.close());
