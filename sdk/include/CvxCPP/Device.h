@@ -184,7 +184,7 @@ public:
     /// With CvxAccessWatch, or if the producer could open the camera only for reading, nothing is written to
     /// the camera: images arrive when and as long as another program lets the camera send them. If that
     /// program changes the size or the layout of the images, the device is lost and opened again within about
-    /// a second, and the stream continues; images that do not fit into
+    /// a second, or later if the camera answers slowly, and the stream continues; images that do not fit into
     /// the buffers until then are incomplete.
     ///
     /// Returns CvxErrorAlreadyStarted if a stream of this device runs, CvxErrorNotWritable if this device
