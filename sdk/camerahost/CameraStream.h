@@ -52,8 +52,8 @@ public:
     FetchLoop::Health takeHealth();
 
     /// Returns a text for people if the program that controls the camera has changed the size or the layout
-    /// of the images since prepare(), so that the stream of a watcher has to start again. Call it often: it
-    /// reads the camera only so often that this takes at most a tenth of the time.
+    /// of the images since prepare(), so that the stream of a watcher has to start again. Call it five times
+    /// per second; it reads a slow camera less often, so that this takes at most a tenth of the time.
     std::optional<std::string> findFormatChange();
 
     /// Stops the stream at once while another thread may hang in a call of the producer, just before the end
