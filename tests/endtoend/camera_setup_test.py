@@ -40,7 +40,8 @@ def brightness_settles(viewer, condition, promise):
 
 def main():
     keep_to_this_machine(STAGE)
-    with SimulatorConfiguration(STAGE), Launcher(STAGE, PLUGINS) as launcher:
+    # One unit of the windows is one pixel of the screen.
+    with SimulatorConfiguration(STAGE), Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
         wait_for("the cameras are listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
         click(launcher.cell("Orvelle"))
         wait_for("Camera Setup is enabled", lambda: "Camera Setup" in launcher.enabled_tools())

@@ -16,7 +16,7 @@ class Tool:
         self.process = wait_for(f"{name} runs", lambda: output_of("pgrep", "-fx", f"{directory}/{name}").strip())
         self.reader = f"{launcher.socket}.{self.process}"
         self.window = wait_for(f"{name} shows its window", lambda: output_of(
-            "xdotool", "search", "--onlyvisible", "--pid", self.process, "--name", "–").split())[0]
+            "xdotool", "search", "--all", "--onlyvisible", "--pid", self.process, "--name", "–").split())[0]
 
     def __enter__(self):
         return self
@@ -32,12 +32,18 @@ class Tool:
         return [widget["text"] for widget in self.widgets() if matches(widget["text"])]
 
     def click(self, text):
-        """Clicks the button with this text, which contains no "&", as soon as it can be used."""
-        def button():
-            return next((widget for widget in self.widgets()
-                         if widget["enabled"] and widget["text"].replace("&", "") == text), None)
-        x, y, width, height = wait_for(f'the button "{text}" can be used', button)["onScreen"]
-        xdotool("mousemove", x + width // 2, y + height // 2, "click", 1)
+        """Clicks the button with this text, which contains no "&", as soon as it can be used and stays at its place. The
+        position of the window comes from the X server, because Qt learns the position later."""
+        places = []
+
+        def resting_place():
+            place = next(((window["xWindow"], widget["box"]) for window in read_windows(self.reader)
+                          for widget in descendants(window)
+                          if widget["enabled"] and widget["text"].replace("&", "") == text), None)
+            places.append(place)
+            return place if places[-10:] == [place] * 10 else None
+        window, (x, y, width, height) = wait_for(f'the button "{text}" can be used', resting_place)
+        xdotool("mousemove", "--window", window, x + width // 2, y + height // 2, "click", 1)
 
     def activate(self):
         xdotool("windowactivate", "--sync", self.window)
