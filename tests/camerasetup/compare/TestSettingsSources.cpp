@@ -67,7 +67,9 @@ class TestSettingsSources : public QObject
 
 private slots:
     void userSetIsReadAndEverythingIsPutBack();
+    void visitPutsBackWhatNoFileContains();
     void whatCannotBePutBackIsReported();
+    void cameraThatIsLostStillHasTheSet();
     void failedUserSetIsLeftAndTheSettingsArePutBack();
     void cancelledVisitPutsBack();
     void userSetIsWritten();
@@ -95,6 +97,38 @@ void TestSettingsSources::userSetIsReadAndEverythingIsPutBack()
     QVERIFY(visit.notes.empty());
 }
 
+void TestSettingsSources::visitPutsBackWhatNoFileContains()
+{
+    TestDevice camera;
+    defineUserSetCamera(camera);
+    camera.add("Label", std::string());
+    camera.add("Probe", std::int64_t(1)).info.isStreamable = false;
+    camera.feature("UserSetLoad").onWrite = [&camera](NodeValue &) {
+        camera.set("Label", std::string("Of the set"));
+        camera.set("Probe", std::int64_t(5));
+    };
+    UserSetVisit visit;
+    QVERIFY(readUserSet(camera, "UserSet1", {{{}, "Probe", "2"}}, visit, {}));
+    QCOMPARE(valueOf(visit.content, "Probe"), std::string("5"));
+    QVERIFY(camera.changedValues().empty());
+    UserSetVisit writing;
+    QVERIFY(writeUserSet(camera, "UserSet1", {{{}, "Probe", "2"}}, writing, {}));
+    QCOMPARE(valueOf(writing.content, "Probe"), std::string("2"));
+    QVERIFY(camera.changedValues().empty());
+}
+
+void TestSettingsSources::cameraThatIsLostStillHasTheSet()
+{
+    TestDevice camera;
+    defineUserSetCamera(camera);
+    camera.feature("UserSetLoad").onWrite
+        = [&camera](NodeValue &) { camera.callsUntilLoss = camera.callCount + 3; };
+    UserSetVisit visit;
+    QCOMPARE(readUserSet(camera, "UserSet1", {}, visit, {}).code, CvxErrorDeviceLost);
+    QVERIFY(visit.isStillLoaded);
+    QVERIFY(visit.remaining.empty()); // Nobody knows them.
+}
+
 void TestSettingsSources::whatCannotBePutBackIsReported()
 {
     TestDevice camera;
@@ -106,6 +140,7 @@ void TestSettingsSources::whatCannotBePutBackIsReported()
     QCOMPARE(visit.remaining.front().before, std::string("640"));
     QCOMPARE(visit.remaining.front().after, std::string("600"));
     QVERIFY(hasNote(visit.notes, "Width"));
+    QVERIFY(!visit.isStillLoaded);
 }
 
 void TestSettingsSources::failedUserSetIsLeftAndTheSettingsArePutBack()

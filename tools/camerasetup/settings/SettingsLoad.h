@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/camerasetup/settings/SettingsChange.h"
 #include "tools/camerasetup/values/CameraJobs.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
+#include "tools/camerasetup/values/SettingsChange.h"
 
 #include <QObject>
 

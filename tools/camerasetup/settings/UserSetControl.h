@@ -1,10 +1,10 @@
 #pragma once
 
 #include "sdk/features/UserSets.h"
-#include "tools/camerasetup/settings/SettingsChange.h"
 #include "tools/camerasetup/values/CameraJobs.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
 #include "tools/camerasetup/values/OpeningSnapshot.h"
+#include "tools/camerasetup/values/SettingsChange.h"
 
 #include <QObject>
 
