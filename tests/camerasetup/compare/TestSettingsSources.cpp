@@ -73,6 +73,7 @@ private slots:
     void failedUserSetIsLeftAndTheSettingsArePutBack();
     void cancelledVisitPutsBack();
     void userSetIsWritten();
+    void cancelledWriteSavesNothing();
     void otherCameraIsReadAndClosed();
     void otherCameraInUseIsWatched();
     void otherCameraInUseIsNotWritten();
@@ -180,6 +181,20 @@ void TestSettingsSources::userSetIsWritten()
     UserSetVisit second;
     QVERIFY(readUserSet(camera, "UserSet1", {}, second, {}));
     QCOMPARE(valueOf(second.content, "Width"), std::string("100"));
+}
+
+void TestSettingsSources::cancelledWriteSavesNothing()
+{
+    TestDevice camera;
+    defineUserSetCamera(camera);
+    UserSetVisit visit;
+    const auto untilWritten = [&camera](std::size_t, std::size_t) {
+        return camera.value("Width") != NodeValue(std::int64_t(100));
+    };
+    QVERIFY(writeUserSet(camera, "UserSet1", {{{}, "Width", "100"}, {{}, "Gain", "2"}}, visit, untilWritten));
+    QVERIFY(visit.report.isCancelled && !visit.isSaved);
+    QCOMPARE(std::count(camera.writes.begin(), camera.writes.end(), "UserSetSave"), 0);
+    QVERIFY(camera.changedValues().empty());
 }
 
 void TestSettingsSources::otherCameraIsReadAndClosed()

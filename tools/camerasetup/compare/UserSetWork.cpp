@@ -57,8 +57,10 @@ CvxResult writeUserSet(Device &device, const std::string &userSet,
         file.settings = settings;
         CvxResult result = loadFeatures(device, file, visit.report, part);
         const bool hasChanges = visit.report.count(FeatureOutcome::Changed) > 0;
-        if (result && hasChanges && !visit.report.isCancelled)
+        if (result && hasChanges && !visit.report.isCancelled) {
             result = executeForUserSet(device, userSet, "UserSetSave");
+            visit.isSaved = static_cast<bool>(result);
+        }
         // What was saved is shown, so this is not cancelled any more.
         if (result)
             result = readSnapshot(device, settings, visit.content, withoutCancel(part));
