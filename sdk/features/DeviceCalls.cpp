@@ -1,7 +1,6 @@
 #include "sdk/features/DeviceCalls.h"
 
 #include <algorithm>
-#include <chrono>
 #include <iterator>
 #include <thread>
 
@@ -36,13 +35,13 @@ CvxResult readStates(Device &device, const std::vector<std::string> &names, std:
     return {};
 }
 
-CvxResult executeAndWait(Device &device, const std::string &command)
+CvxResult executeAndWait(Device &device, const std::string &command, std::chrono::seconds limit)
 {
     using Clock = std::chrono::steady_clock;
     using namespace std::chrono_literals;
     if (CvxResult result = device.Execute(command); !result)
         return result;
-    for (const auto end = Clock::now() + 5s; Clock::now() < end;) {
+    for (const auto end = Clock::now() + limit; Clock::now() < end;) {
         std::vector<NodeState> states;
         if (CvxResult result = device.ReadStates({command}, states); !result)
             return result;
@@ -50,7 +49,9 @@ CvxResult executeAndWait(Device &device, const std::string &command)
             return {};
         std::this_thread::sleep_for(20ms);
     }
-    return {CvxErrorDevice, "The camera has not finished the command \"" + command + "\" within 5 s."};
+    return {CvxErrorDevice,
+        "The camera has not finished the command \"" + command + "\" within " + std::to_string(limit.count())
+            + " s."};
 }
 
 CvxResult announce(
