@@ -184,8 +184,8 @@ void UserSetControl::save(const UserSet &userSet)
 
 void UserSetControl::makeDefault(const UserSet &userSet)
 {
-    const auto *const before = std::get_if<std::string>(&m_userSets->byDefault.value);
-    const FeatureEdit edit{{}, m_userSets->defaultFeature, before ? *before : std::string(), userSet.name};
+    const FeatureEdit edit{
+        {}, m_userSets->defaultFeature, knownText(m_userSets->byDefault.value), userSet.name};
     const auto work
         = [edit](Device &device, const FeatureProgress &) { return device.Write(edit.name, edit.after); };
     const QString text = title(userSet);
