@@ -13,6 +13,7 @@ FeatureDirectory directory()
     for (const char *const name : {"Width", "ChannelSelector", "Gain", "BlackLevel"}) {
         NodeInfo node;
         node.name = name;
+        node.type = NodeType::Float;
         nodes.push_back(node);
     }
     nodes[1].selected = {"Gain", "BlackLevel"};
