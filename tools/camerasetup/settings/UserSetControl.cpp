@@ -54,8 +54,10 @@ void UserSetControl::read()
     const auto userSets = std::make_shared<UserSets>();
     m_parts.jobs.start(
         tr("Reading the user sets"), CameraJobs::StreamUse::Keep,
-        [userSets](Device &device, const FeatureProgress &) { return readUserSets(device, *userSets); }, this,
-        [this, userSets](const CvxResult &result) { takeUserSets(result, *userSets); });
+        [userSets](Device &device, const FeatureProgress &progress) {
+            return readUserSets(device, *userSets, progress);
+        },
+        this, [this, userSets](const CvxResult &result) { takeUserSets(result, *userSets); });
 }
 
 void UserSetControl::takeUserSets(const CvxResult &result, const UserSets &userSets)
