@@ -36,7 +36,7 @@ public:
     FeatureDirectory directory() const
     {
         std::vector<NodeInfo> nodes;
-        GetNodes(nodes);
+        EXPECT_TRUE(GetNodes(nodes));
         return FeatureDirectory(std::move(nodes));
     }
 
@@ -82,7 +82,7 @@ TEST(DeviceCallsTest, manyStatesAreReadWithSeveralCalls)
 
 TEST(DeviceCallsTest, oneCommandAnnouncesThatFeaturesFollow)
 {
-    constexpr auto commands = {"DeviceRegistersStreamingStart", "DeviceFeaturePersistenceStart"};
+    const auto commands = {"DeviceRegistersStreamingStart", "DeviceFeaturePersistenceStart"};
     CountingCamera camera;
     for (const char *const command : commands)
         camera.addCommand(command);
