@@ -1,5 +1,7 @@
 #include "sdk/features/DeviceCalls.h"
 
+#include "sdk/features/CallSize.h"
+
 #include <algorithm>
 #include <iterator>
 #include <thread>
@@ -22,25 +24,28 @@ bool isDeviceGone(const CvxResult &result)
 
 CvxResult readStates(Device &device, const std::vector<std::string> &names, std::vector<NodeState> &states)
 {
-    constexpr std::size_t maxNamesPerCall = 25; // A call has to end within 5 s.
+    using Clock = std::chrono::steady_clock;
     states.clear();
-    for (std::size_t start = 0; start < names.size(); start += maxNamesPerCall) {
-        const auto first = names.begin() + static_cast<std::ptrdiff_t>(start);
-        const auto count = static_cast<std::ptrdiff_t>(std::min(maxNamesPerCall, names.size() - start));
+    CallSize size;
+    for (auto first = names.begin(); first != names.end();) {
+        const auto count = std::min<std::ptrdiff_t>(size.next(), names.end() - first);
         std::vector<NodeState> part;
+        const Clock::time_point start = Clock::now();
         if (CvxResult result = device.ReadStates({first, first + count}, part); !result)
             return result;
+        size.wasRead(static_cast<int>(count), Clock::now() - start);
+        first += count;
         std::move(part.begin(), part.end(), std::back_inserter(states));
     }
     return {};
 }
 
-CvxResult executeAndWait(Device &device, const std::string &command, std::chrono::seconds limit)
+namespace {
+
+CvxResult waitUntilDone(Device &device, const std::string &command, std::chrono::seconds limit)
 {
     using Clock = std::chrono::steady_clock;
     using namespace std::chrono_literals;
-    if (CvxResult result = device.Execute(command); !result)
-        return result;
     for (const auto end = Clock::now() + limit; Clock::now() < end;) {
         std::vector<NodeState> states;
         if (CvxResult result = device.ReadStates({command}, states); !result)
@@ -54,15 +59,28 @@ CvxResult executeAndWait(Device &device, const std::string &command, std::chrono
             + " s."};
 }
 
+} // namespace
+
+CvxResult executeAndWait(Device &device, const std::string &command, std::chrono::seconds limit)
+{
+    CvxResult result = device.Execute(command);
+    return result ? waitUntilDone(device, command, limit) : result;
+}
+
 CvxResult announce(
     Device &device, const FeatureDirectory &directory, std::initializer_list<const char *> commands)
 {
     for (const char *const command : commands) {
         if (!directory.find(command))
             continue;
-        CvxResult result = executeAndWait(device, command);
-        if (result || isDeviceGone(result))
+        CvxResult result = device.Execute(command);
+        const bool isAccepted = static_cast<bool>(result);
+        if (isAccepted)
+            result = waitUntilDone(device, command, std::chrono::seconds(5));
+        if (isDeviceGone(result))
             return result;
+        if (isAccepted)
+            break; // Even if it takes too long: the others announce the same.
     }
     return {};
 }

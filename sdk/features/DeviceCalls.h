@@ -34,8 +34,8 @@ CvxCPP::CvxResult readStates(
 CvxCPP::CvxResult executeAndWait(
     CvxCPP::Device &device, const std::string &command, std::chrono::seconds limit = std::chrono::seconds(5));
 
-/// Executes the first of these commands that the camera has and waits until it is done, for at most 5 s.
-/// Also succeeds if the camera has none of them or refuses: such commands only announce that many features
-/// follow. Fails only if the device is gone.
+/// Executes the first of these commands that the camera accepts and waits until it is done, for at most 5 s.
+/// Also succeeds if the camera has none of them, refuses, or takes longer: such commands only announce that
+/// many features follow. Fails only if the device is gone.
 CvxCPP::CvxResult announce(
     CvxCPP::Device &device, const FeatureDirectory &directory, std::initializer_list<const char *> commands);

@@ -94,36 +94,38 @@ CvxResult FeatureReader::readGroup(
     if (CvxResult result = m_device.ReadStates({name}, states); !result)
         return result;
     for (const NodeValue &value : selectorValues(states.front())) {
-        const bool isThere = value.index() != 0;
-        if (isThere && isSkipped(group, selected, {name, settingText(value)}))
-            continue;
-        if (CvxResult result = isThere ? m_selectors.select(name, value) : CvxResult(); !result) {
-            if (isDeviceGone(result))
-                return result;
-            addNote(m_notes, name,
-                "The value " + settingText(value) + " of " + name + " was left out: " + result.text);
-            continue;
-        }
-        if (isThere)
-            selected.push_back({name, settingText(value)});
-        CvxResult result = readGroup(group, selected, depth + 1);
-        if (isThere)
-            selected.pop_back();
+        if (isFull(group) || !reportProgress())
+            return {};
+        // A selector without a value is the same for all combinations.
+        CvxResult result = value.index() == 0 ? readGroup(group, selected, depth + 1)
+                                              : readValue(group, selected, depth, value);
         if (!result || m_isCancelled)
             return result;
     }
     return {};
 }
 
-/// Returns true if the value of the last selector completes a combination that is to be skipped.
-bool FeatureReader::isSkipped(
-    const Group &group, const std::vector<SelectorSetting> &selected, const SelectorSetting &next) const
+/// Reads the combinations with this value of the selector at this depth, unless they are to be skipped.
+CvxResult FeatureReader::readValue(
+    const Group &group, std::vector<SelectorSetting> &selected, std::size_t depth, const NodeValue &value)
 {
-    if (!m_skip || selected.size() + 1 != group.selectors.size())
-        return false;
-    std::vector<SelectorSetting> combination = selected;
-    combination.push_back(next);
-    return m_skip(combination);
+    const std::string &name = group.selectors[depth];
+    const std::string text = settingText(value);
+    selected.push_back({name, text});
+    CvxResult result;
+    if (!m_skip || !m_skip(selected)) {
+        result = m_selectors.select(name, value);
+        if (result) {
+            result = readGroup(group, selected, depth + 1);
+        } else if (!isDeviceGone(result)) {
+            addNote(m_notes, name, "The value " + text + " of " + name + " was left out: " + result.text);
+            result = {};
+        }
+        if (m_skip && result && !m_isCancelled)
+            m_finished.push_back(selected);
+    }
+    selected.pop_back();
+    return result;
 }
 
 /// Returns the values that a selector can be given, or only its present one, which may be no value at all.
@@ -145,18 +147,22 @@ std::vector<NodeValue> FeatureReader::selectorValues(const NodeState &state)
 
 CvxResult FeatureReader::readSelected(const Group &group, const std::vector<SelectorSetting> &selected)
 {
-    if (!reportProgress())
+    if (isFull(group) || !reportProgress())
         return {};
-    if (m_readings.size() >= maxReadings) {
-        addNote(m_notes, group.names.front(), "There are too many values of " + group.names.front() + ".");
-        return {};
-    }
     std::vector<NodeState> states;
     if (CvxResult result = readStates(m_device, group.names, states); !result)
         return result;
     for (NodeState &state : states)
         m_readings.push_back({selected, std::move(state)});
     return {};
+}
+
+bool FeatureReader::isFull(const Group &group)
+{
+    if (m_readings.size() < maxReadings)
+        return false;
+    addNote(m_notes, group.names.front(), "There are too many values of " + group.names.front() + ".");
+    return true;
 }
 
 bool FeatureReader::reportProgress()

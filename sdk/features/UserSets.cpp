@@ -66,7 +66,7 @@ CvxResult readCommands(
 
 } // namespace
 
-CvxResult readUserSets(Device &device, UserSets &userSets)
+CvxResult readUserSets(Device &device, UserSets &userSets, const FeatureProgress &progress)
 {
     FeatureDirectory directory;
     if (CvxResult result = readDirectory(device, directory); !result)
@@ -79,9 +79,12 @@ CvxResult readUserSets(Device &device, UserSets &userSets)
         return result;
     SelectorControl selectors(device, directory);
     CvxResult result = readDefault(device, directory, userSets);
-    for (const std::string &name : states.front().availableEntries) {
+    const std::vector<std::string> &names = states.front().availableEntries;
+    bool isCancelled = false;
+    for (const std::string &name : names) {
+        isCancelled = isCancelled || (progress && !progress(userSets.sets.size(), names.size()));
         userSets.sets.push_back({name, {}, {}});
-        if (result)
+        if (result && !isCancelled)
             result = readCommands(device, directory, selectors, userSets.sets.back());
     }
     return withRestored(selectors, result);

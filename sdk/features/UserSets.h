@@ -25,8 +25,10 @@ struct UserSets
 // before.
 
 /// Reads which user sets the camera has and what can be done with each of them. Selects one after the other
-/// if the camera allows that.
-CvxCPP::CvxResult readUserSets(CvxCPP::Device &device, UserSets &userSets);
+/// if the camera allows that. If the progress function returns false, the remaining sets are known by their
+/// names only.
+CvxCPP::CvxResult readUserSets(
+    CvxCPP::Device &device, UserSets &userSets, const FeatureProgress &progress = {});
 
 /// Executes a command, for example "UserSetLoad", for one user set, and waits until it is done, for at
 /// most 15 s. Also returns the error if the camera refuses.

@@ -239,7 +239,7 @@ TEST_F(FeatureLoaderTest, cancelledAllOrNothingRestores)
 {
     const auto before = m_camera.changedValues();
     bool isEverApplied = false;
-    for (unsigned count = 0; count < 20; ++count) {
+    for (unsigned count = 0; count < 100; ++count) {
         unsigned calls = 0;
         ASSERT_TRUE(loadAllFeatures(m_camera, fileOf("Width\t320\nReverseX\t1\nOffsetX\t8"), m_report,
             [&](std::size_t, std::size_t) { return calls++ < count; }));

@@ -138,7 +138,7 @@ void TestSettingsSources::whatCannotBePutBackIsReported()
     UserSetVisit visit;
     QVERIFY(readUserSet(camera, "UserSet1", {}, visit, {}));
     QCOMPARE(visit.remaining.size(), std::size_t(1));
-    QCOMPARE(visit.remaining.front().before, std::string("640"));
+    QCOMPARE(visit.remaining.front().before, std::optional<std::string>("640"));
     QCOMPARE(visit.remaining.front().after, std::string("600"));
     QVERIFY(hasNote(visit.notes, "Width"));
     QVERIFY(!visit.isStillLoaded);

@@ -1,3 +1,4 @@
+#include "sdk/testing/Gate.h"
 #include "tests/camerasetup/values/SetupBench.h"
 
 #include <QtTest>
@@ -49,6 +50,11 @@ private slots:
     void undoesUnderSelectorsThatAreNotPresent();
     void newChangeLeavesNothingToRedo();
     void emptyTextIsAValue();
+    void unknownValueBecomesEmptyText();
+    void waitsForJobs();
+    void waitsForWrites();
+    void runThatMustWaitIsGivenUp();
+    void valueThatIsThereAlreadyIsNoEdit();
     void pausesStreamOnlyIfNecessary();
     void undoesSeveralFeatures();
     void refusedChangeStays();
@@ -87,7 +93,7 @@ void TestChangeHistory::sliderIsOneEntry()
     for (const std::int64_t value : {700, 710, 720})
         bench.write(width, value);
     QCOMPARE(bench.history.entries().size(), 1);
-    QCOMPARE(bench.history.entries()[0].edits[0].before, std::string("640"));
+    QCOMPARE(bench.history.entries()[0].edits[0].before, std::optional<std::string>("640"));
     QCOMPARE(bench.history.entries()[0].edits[0].after, std::string("720"));
     bench.write(width, std::int64_t(640)); // Back where it began.
     QCOMPARE(bench.history.entries().size(), 0);
@@ -135,6 +141,99 @@ void TestChangeHistory::emptyTextIsAValue()
     undo(bench);
     QCOMPARE(bench.bench.value("DeviceUserID"), NodeValue(std::string()));
     QVERIFY(bench.history.canRedo());
+}
+
+void TestChangeHistory::unknownValueBecomesEmptyText()
+{
+    SetupBench bench;
+    QSignalSpy failures(&bench.history, &ChangeHistory::failed);
+    QSignalSpy written(&bench.bench.client, &FeatureClient::written);
+    bench.bench.client.write(QStringLiteral("DeviceUserID"), std::string()); // Nobody has read it.
+    QTRY_COMPARE_WITH_TIMEOUT(written.size(), 1, hangTimeout);
+    QCOMPARE(bench.history.entries().size(), 1);
+    QCOMPARE(bench.history.entries()[0].edits[0].before, std::nullopt);
+    undo(bench);
+    QCOMPARE(failures.size(), 1);
+    QVERIFY(bench.device().writtenValues("DeviceUserID").size() == 1);
+}
+
+void TestChangeHistory::waitsForJobs()
+{
+    SetupBench bench;
+    bench.write(width, std::int64_t(700));
+    CvxScripted::Gate gate;
+    bench.jobs.start(QStringLiteral("Load"), CameraJobs::StreamUse::Keep,
+        [&gate](Device &device, const FeatureProgress &) {
+            gate.pass();
+            return device.Write("Width", std::int64_t(800));
+        },
+        this, {});
+    QVERIFY(!bench.history.canUndo());
+    bench.history.undo();
+    bench.jobs.cancel(); // Also forgets waiting jobs.
+    bool canUndo = false;
+    connect(&bench.history, &ChangeHistory::changed, this, [&] { canUndo = bench.history.canUndo(); });
+    gate.open();
+    QTRY_VERIFY_WITH_TIMEOUT(canUndo, hangTimeout);
+    QCOMPARE(bench.bench.value("Width"), NodeValue(std::int64_t(800)));
+    undo(bench);
+    QCOMPARE(bench.bench.value("Width"), NodeValue(std::int64_t(640)));
+}
+
+void TestChangeHistory::waitsForWrites()
+{
+    SetupBench bench;
+    bench.write(width, std::int64_t(700));
+    QVector<bool> states; // Each time when changed() is emitted.
+    connect(&bench.history, &ChangeHistory::changed, this, [&] { states.append(bench.history.canUndo()); });
+    bench.bench.client.write(QStringLiteral("OffsetX"), std::int64_t(8));
+    bench.bench.client.write(QStringLiteral("ExposureTime"), 0.0); // Below the minimum.
+    bench.history.undo();
+    QVERIFY(!bench.jobs.isBusy());
+    QTRY_COMPARE_WITH_TIMEOUT(states, (QVector<bool>{false, true}), hangTimeout);
+    QCOMPARE(bench.history.undoTitle(), QStringLiteral("OffsetX"));
+}
+
+void TestChangeHistory::runThatMustWaitIsGivenUp()
+{
+    bool isStreaming = false;
+    SetupBench bench([&isStreaming](TestDevice &device) {
+        scriptSetupCamera(device);
+        device.feature("Width").rule = [&isStreaming](NodeState &state) {
+            state.lockReason = isStreaming ? LockReason::StreamRunning : LockReason::None;
+        };
+    });
+    QSignalSpy failures(&bench.history, &ChangeHistory::failed);
+    bench.write(width, std::int64_t(700));
+    bench.device().change([&isStreaming](ScriptedDevice &) { isStreaming = true; });
+    bench.history.undo();
+    CvxScripted::Gate gate;
+    const auto wait = [&gate](Device &, const FeatureProgress &) {
+        gate.pass();
+        return CvxResult();
+    };
+    bench.jobs.start(QStringLiteral("Load"), CameraJobs::StreamUse::Keep, wait, this, {});
+    QTRY_COMPARE_WITH_TIMEOUT(failures.size(), 1, hangTimeout);
+    bench.jobs.cancel();
+    gate.open();
+    QTRY_VERIFY_WITH_TIMEOUT(bench.history.canUndo(), hangTimeout);
+    QCOMPARE(bench.history.undoTitle(), width);
+}
+
+void TestChangeHistory::valueThatIsThereAlreadyIsNoEdit()
+{
+    SetupBench bench;
+    bench.history.addEdits(
+        QStringLiteral("Load a.txt"), {{{}, "Width", "640", "800"}, {{}, "OffsetX", "0", "8"}});
+    undo(bench); // The camera has the values from before already.
+    QVERIFY(bench.history.entries()[0].isUndone);
+    QCOMPARE(bench.history.entries().size(), 1);
+    QCOMPARE(bench.history.redoTitle(), QStringLiteral("Load a.txt"));
+    bench.device().change([](ScriptedDevice &device) { device.set("Width", std::int64_t(800)); });
+    redo(bench);
+    QCOMPARE(bench.history.entries().size(), 2);
+    QCOMPARE(bench.history.entries()[1].edits.size(), std::size_t(1));
+    QCOMPARE(bench.history.entries()[1].edits[0].name, std::string("OffsetX"));
 }
 
 void TestChangeHistory::pausesStreamOnlyIfNecessary()

@@ -29,33 +29,41 @@ QVector<HistoryEntry> entries()
         undone(entry(Kind::Edit, QStringLiteral("Width"), {{{}, "Width", "640", "700"}})),
         entry(Kind::Undo, QStringLiteral("Undo: Width"), {{{}, "Width", "700", "640"}}),
         entry(Kind::Load, QStringLiteral("Load a.txt"),
-            {{{}, "DeviceUserID", "", "It's $HOME `id` \"x\" \\ \xC3\xA9"}, {{}, "Label", "a", ""}}),
+            {{{}, "DeviceUserID", "", "It's $HOME `id` \"x\" \\ \xC3\xA9"}, {red, "Gain", "1", "2"},
+                {fixed, "Level", "1", "3"}, {{}, "Label", "a", ""}}),
         entry(Kind::Edit, QStringLiteral("Level"), {{fixed, "Level", "1", "2"}}),
         entry(Kind::Command, QStringLiteral("UserSetLoad"),
             {{{{"UserSetSelector", "UserSet0"}}, "UserSetLoad", "", ""}}),
         entry(Kind::Command, QStringLiteral("Start"), {{fixed, "Start", "", ""}})};
 }
 
-/// Returns the calls of cvxctl, each one as its arguments.
+/// Returns the calls of cvxctl, each one as its arguments, and the settings that it loads. The script must
+/// leave no file behind.
 QStringList callsOf(const QString &script, const QStringList &arguments)
 {
     QTemporaryDir dir;
     QFile program(dir.filePath(QStringLiteral("cvxctl")));
     if (!program.open(QIODevice::WriteOnly))
         return {};
-    program.write("#!/bin/sh\nfor argument; do printf '<%s>' \"$argument\"; done\nprintf '\\n'\n");
+    program.write(
+        "#!/bin/sh\nif [ \"$1\" = load ]; then printf '<load><%s>\\n' \"$2\"; grep -v '^#' \"$3\"; exit; fi\n"
+        "for argument; do printf '<%s>' \"$argument\"; done\nprintf '\\n'\n");
     program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     program.close();
     QProcess shell;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(
         QStringLiteral("PATH"), dir.path() + QLatin1Char(':') + environment.value(QStringLiteral("PATH")));
+    QTemporaryDir temporaryFiles;
+    environment.insert(QStringLiteral("TMPDIR"), temporaryFiles.path());
     shell.setProcessEnvironment(environment);
     shell.start(QStringLiteral("/bin/sh"), QStringList{QStringLiteral("-s")} + arguments);
     shell.write(script.toUtf8());
     shell.closeWriteChannel();
     if (!shell.waitForFinished() || shell.exitCode() != 0)
         return {QString::fromUtf8(shell.readAllStandardError())};
+    if (!QDir(temporaryFiles.path()).isEmpty())
+        return {QStringLiteral("The script has left a file behind.")};
     return QString::fromUtf8(shell.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
@@ -91,7 +99,9 @@ void TestChangeScript::makesTheChangesAgain()
     const QString run = QStringLiteral("<run><%1>").arg(camera);
     QCOMPARE(callsOf(script, arguments),
         (QStringList{set + QStringLiteral("<GainSelector=Red><Gain=5.5>"),
-            set + QStringLiteral("<DeviceUserID=It's $HOME `id` \"x\" \\ \u00e9>"),
+            QStringLiteral("<load><%1>").arg(camera),
+            QStringLiteral("DeviceUserID\tIt's $HOME `id` \"x\" \\ \u00e9"),
+            QStringLiteral("GainSelector\tRed"), QStringLiteral("Gain\t2"), QStringLiteral("Level\t3"),
             set + QStringLiteral("<Label=>"), set + QStringLiteral("<Level=2>"),
             set + QStringLiteral("<UserSetSelector=UserSet0>"), run + QStringLiteral("<UserSetLoad>"),
             run + QStringLiteral("<Start>")}));

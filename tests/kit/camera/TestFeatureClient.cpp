@@ -65,6 +65,7 @@ private slots:
     void unwatchedFeaturesAreNotRead();
     void featuresArePolledWhileTheyAreWatched();
     void lastOfSeveralWritesWins();
+    void valueUnderAnotherSelectorIsUnknown();
     void commandKeepsItsPlaceBetweenWrites();
     void refusedWriteIsReported();
     void runningCommandIsFollowed();
@@ -176,6 +177,32 @@ void TestFeatureClient::lastOfSeveralWritesWins()
     QCOMPARE(writes[0][1].value<NodeValue>(), NodeValue(1.0));
     QCOMPARE(writes[1][1].value<NodeValue>(), NodeValue(2.0));
     QCOMPARE(writes[1][2].value<NodeValue>(), NodeValue(5.0));
+}
+
+void TestFeatureClient::valueUnderAnotherSelectorIsUnknown()
+{
+    Client client;
+    client.device().addEntries("LUTSelector", {"Red", "Green"});
+    client.device().add("LUTIndex", std::int64_t(0));
+    client.device().add("LUTValue", std::int64_t(7));
+    client.device().select("LUTSelector", {"LUTIndex"});
+    client.device().select("LUTIndex", {"LUTValue"});
+    client.features.watch({"LUTSelector"_s, "LUTIndex"_s, "LUTValue"_s});
+    QVERIFY(client.open());
+    QSignalSpy written(&client.features, &FeatureClient::written);
+    QVector<bool> outdated; // After each write.
+    connect(&client.features, &FeatureClient::written, this,
+        [&] { outdated.append(client.features.isOutdated("LUTIndex"_s)); });
+    client.features.write("LUTSelector"_s, std::string("Green"));
+    client.features.write("LUTValue"_s, std::int64_t(8));
+    QTRY_COMPARE_WITH_TIMEOUT(written.size(), 2, 10000);
+    QVERIFY(outdated[0]);
+    QCOMPARE(written[0][1].value<NodeValue>(), NodeValue("Red"));
+    QCOMPARE(written[1][1].value<NodeValue>(), NodeValue()); // 7 is the value for Red.
+    QTRY_VERIFY_WITH_TIMEOUT(!client.features.isOutdated("LUTIndex"_s), 10000);
+    client.features.write("LUTValue"_s, std::int64_t(9));
+    QTRY_COMPARE_WITH_TIMEOUT(written.size(), 3, 10000);
+    QCOMPARE(written[2][1].value<NodeValue>(), NodeValue(std::int64_t(8)));
 }
 
 void TestFeatureClient::commandKeepsItsPlaceBetweenWrites()

@@ -122,7 +122,7 @@ QString HistoryModel::text(int row, int column) const
     case Feature:
         return featureText(row);
     case OldValue:
-        return settingValueText(node, edit.before);
+        return edit.before ? settingValueText(node, *edit.before) : QString();
     default:
         return settingValueText(node, edit.after);
     }
@@ -163,7 +163,7 @@ QString HistoryModel::rawText(int row, int column) const
     case Feature:
         return QString::fromStdString(settingLabel(edit.name, edit.selectors));
     case OldValue:
-        return QString::fromStdString(edit.before);
+        return QString::fromStdString(edit.before.value_or(std::string()));
     default:
         return QString::fromStdString(edit.after);
     }
@@ -174,9 +174,11 @@ QString HistoryModel::toolTip(int row, int column) const
     constexpr int maxLength = 500; // A register may have thousands of digits.
     const QString raw = rawText(row, column).left(maxLength).toHtmlEscaped();
     const QString title = entryOf(row).title.left(maxLength).toHtmlEscaped();
-    const QString text = column == Feature && entryOf(row).kind == HistoryEntry::Kind::Load
-        ? title + QStringLiteral("<br>") + raw
-        : raw;
+    // The tag makes Qt show the escaped text as it is.
+    const QString text = QStringLiteral("<qt>")
+        + (column == Feature && entryOf(row).kind == HistoryEntry::Kind::Load ? title + QStringLiteral("<br>")
+                                                                              : QString())
+        + raw;
     return entryOf(row).isUndone ? text + QStringLiteral("<br>") + tr("This change was undone.") : text;
 }
 

@@ -54,7 +54,9 @@ void UserSetControl::read()
     const auto userSets = std::make_shared<UserSets>();
     m_reading.start(
         tr("Reading the user sets"), CameraJobs::StreamUse::Keep,
-        [userSets](Device &device, const FeatureProgress &) { return readUserSets(device, *userSets); },
+        [userSets](Device &device, const FeatureProgress &progress) {
+            return readUserSets(device, *userSets, progress);
+        },
         [this, userSets](const CvxResult &result) { takeUserSets(result, *userSets); });
 }
 
@@ -190,8 +192,8 @@ void UserSetControl::save(const UserSet &userSet)
 
 void UserSetControl::makeDefault(const UserSet &userSet)
 {
-    const auto *const before = std::get_if<std::string>(&m_userSets->byDefault.value);
-    const FeatureEdit edit{{}, m_userSets->defaultFeature, before ? *before : std::string(), userSet.name};
+    const FeatureEdit edit{
+        {}, m_userSets->defaultFeature, knownText(m_userSets->byDefault.value), userSet.name};
     const auto work
         = [edit](Device &device, const FeatureProgress &) { return device.Write(edit.name, edit.after); };
     const QString text = title(userSet);

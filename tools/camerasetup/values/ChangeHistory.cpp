@@ -4,6 +4,8 @@
 #include "sdk/features/SettingLabel.h"
 #include "tools/camerasetup/values/ChangeScript.h"
 
+#include <utility>
+
 using namespace CvxCPP;
 using Kind = HistoryEntry::Kind;
 
@@ -27,6 +29,8 @@ ChangeHistory::ChangeHistory(FeatureClient &client, CameraJobs &jobs, const Pres
 {
     connect(&client, &FeatureClient::written, this, &ChangeHistory::takeWritten);
     connect(&client, &FeatureClient::executed, this, &ChangeHistory::takeExecuted);
+    connect(&client, &FeatureClient::failed, this, &ChangeHistory::changed);
+    connect(&jobs, &CameraJobs::changed, this, &ChangeHistory::checkJobs);
     connect(&client.connection(), &CameraConnection::stateChanged, this, &ChangeHistory::followConnection);
 }
 
@@ -44,6 +48,13 @@ void ChangeHistory::followConnection()
     emit changed();
 }
 
+void ChangeHistory::checkJobs()
+{
+    const bool wasBusy = std::exchange(m_isBusy, m_jobs.isBusy());
+    if (wasBusy != m_isBusy)
+        emit changed();
+}
+
 // ---- Recording --------------------------------------------------------------------------------------------
 
 void ChangeHistory::takeWritten(const QString &name, const NodeValue &before, const NodeValue &after)
@@ -53,15 +64,16 @@ void ChangeHistory::takeWritten(const QString &name, const NodeValue &before, co
     const std::string feature = name.toStdString();
     const auto selectors = m_selectors.of(feature);
     if (selectors)
-        return addEdit({*selectors, feature, settingText(before), settingText(after)});
+        return addEdit({*selectors, feature, knownText(before), settingText(after)});
     // Nobody knows for which values of the selectors the previous value was valid.
-    addEdit({{}, feature, {}, settingText(after)});
+    addEdit({{}, feature, std::nullopt, settingText(after)});
 }
 
 void ChangeHistory::takeExecuted(const QString &name)
 {
     const std::string command = name.toStdString();
-    const FeatureEdit edit{m_selectors.of(command).value_or(std::vector<SelectorSetting>()), command, {}, {}};
+    const FeatureEdit edit{
+        m_selectors.of(command).value_or(std::vector<SelectorSetting>()), command, std::nullopt, {}};
     addEntry(Kind::Command, labelOf(edit), {edit});
 }
 
@@ -71,8 +83,11 @@ void ChangeHistory::addEdit(const FeatureEdit &edit)
         emit changed();
         return;
     }
-    if (isUnchanged(edit))
-        return m_sequence.end();
+    if (isUnchanged(edit)) {
+        m_sequence.end();
+        emit changed(); // The write has ended.
+        return;
+    }
     if (m_selectors.directory().isSelector(edit.name))
         addEntry(Kind::Edit, labelOf(edit), {edit});
     else
@@ -135,7 +150,8 @@ void ChangeHistory::noteEdits(const std::vector<FeatureEdit> &edits)
     for (const FeatureEdit &edit : edits) {
         const NodeValue after = valueOf(edit.name, edit.after);
         if (after.index() != 0 && m_selectors.of(edit.name) == edit.selectors)
-            m_client.noteWritten(QString::fromStdString(edit.name), valueOf(edit.name, edit.before), after);
+            m_client.noteWritten(QString::fromStdString(edit.name),
+                edit.before ? valueOf(edit.name, *edit.before) : NodeValue(), after);
     }
     m_isNoting = false;
 }
@@ -144,12 +160,19 @@ void ChangeHistory::noteEdits(const std::vector<FeatureEdit> &edits)
 
 bool ChangeHistory::canUndo() const
 {
-    return !m_done.empty() && !m_run && m_client.connection().isControlled() && directory();
+    return !m_done.empty() && isFree();
 }
 
 bool ChangeHistory::canRedo() const
 {
-    return !m_undone.empty() && !m_run && m_client.connection().isControlled() && directory();
+    return !m_undone.empty() && isFree();
+}
+
+/// Returns true if undo or redo could begin at once.
+bool ChangeHistory::isFree() const
+{
+    return !m_run && !m_jobs.isBusy() && m_client.isIdle() && m_client.connection().isControlled()
+        && directory();
 }
 
 QString ChangeHistory::undoTitle() const

@@ -33,6 +33,7 @@ public:
     /// effect without changes.
     void addEdits(const QString &title, const std::vector<FeatureEdit> &edits);
 
+    /// Undo and redo wait for all other work, which may change the same features.
     bool canUndo() const;
     bool canRedo() const;
     QString undoTitle() const; ///< What undo() would take back, for people; empty if there is nothing.
@@ -68,6 +69,8 @@ private:
     struct Run;
 
     void followConnection();
+    void checkJobs();
+    bool isFree() const;
     void takeWritten(const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
     void takeExecuted(const QString &name);
     void addEdit(const FeatureEdit &edit);
@@ -94,5 +97,6 @@ private:
     std::vector<int> m_undone; // Entries that can be redone, the last one first to redo.
     EditSequence m_sequence;
     std::shared_ptr<Run> m_run; // Null unless undo or redo is running.
+    bool m_isBusy = false; // Whether a job was running when changed() was emitted last.
     bool m_isNoting = false; // The signals of the FeatureClient come from this object.
 };

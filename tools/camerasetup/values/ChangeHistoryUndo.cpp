@@ -34,11 +34,11 @@ void ChangeHistory::undo()
     const HistoryEntry &entry = m_entries[run->entry];
     run->title = tr("Undo: %1").arg(entry.title);
     for (auto edit = entry.edits.rbegin(); edit != entry.edits.rend(); ++edit) {
-        if (!isValueText(directory()->find(edit->name), edit->before))
+        if (!edit->before || !isValueText(directory()->find(edit->name), *edit->before))
             run->problems.append(
                 tr("The value of %1 before the change is unknown.").arg(QString::fromStdString(edit->name)));
         else
-            run->settings.push_back({edit->selectors, edit->name, edit->before, 0});
+            run->settings.push_back({edit->selectors, edit->name, *edit->before, 0});
     }
     start(run);
 }
@@ -85,7 +85,8 @@ void ChangeHistory::writeOne(const std::shared_ptr<Run> &run, StreamUse stream)
 void ChangeHistory::takeOne(
     const std::shared_ptr<Run> &run, StreamUse stream, const WrittenSetting &written, const CvxResult &result)
 {
-    if (written.isStreamLocked && stream == StreamUse::Keep)
+    // A job that began meanwhile may have changed the feature, so this run must not wait behind it.
+    if (written.isStreamLocked && stream == StreamUse::Keep && !m_jobs.isBusy())
         return writeOne(run, StreamUse::Pause);
     const FeatureSetting &setting = run->settings.front();
     if (!result)
@@ -94,7 +95,7 @@ void ChangeHistory::takeOne(
         run->problems.append(tr("%1 cannot be changed while the camera is streaming.")
                                  .arg(QString::fromStdString(setting.name)));
     run->isHopeless = result.code == CvxErrorNotFound;
-    if (written.isWritten)
+    if (written.isWritten && written.before != written.after)
         run->edits.push_back({setting.selectors, setting.name, written.before, written.after});
     finish(run);
 }
@@ -119,7 +120,7 @@ void ChangeHistory::takeSeveral(const std::shared_ptr<Run> &run, const CvxResult
         if (change.outcome == FeatureOutcome::Failed || change.outcome == FeatureOutcome::Overruled)
             run->problems.append(
                 QString::fromStdString(settingLabel(setting.name, setting.selectors) + ": " + change.reason));
-        else
+        else if (change.outcome == FeatureOutcome::Changed)
             run->edits.push_back({setting.selectors, setting.name, change.before, change.after});
     }
     if (run->report.isCancelled)
@@ -127,13 +128,13 @@ void ChangeHistory::takeSeveral(const std::shared_ptr<Run> &run, const CvxResult
     finish(run);
 }
 
-/// Moves the entry from one stack to the other, unless nothing was written.
+/// Moves the entry from one stack to the other, unless nothing was written because of a problem.
 void ChangeHistory::finish(const std::shared_ptr<Run> &run)
 {
     m_run.reset();
     if (run->edits.empty() && run->isHopeless)
         return passOver(run);
-    if (!run->edits.empty()) {
+    if (!run->edits.empty() || run->problems.isEmpty()) {
         const bool isUndo = run->kind == Kind::Undo;
         auto &from = isUndo ? m_done : m_undone;
         auto &target = isUndo ? m_undone : m_done;
@@ -142,8 +143,10 @@ void ChangeHistory::finish(const std::shared_ptr<Run> &run)
         if (!isUndo || isNewest) // A change that was made meanwhile leaves nothing to redo.
             target.push_back(run->entry);
         m_entries[run->entry].isUndone = isUndo;
-        addEntry(run->kind, run->title, run->edits);
-        noteEdits(run->edits);
+        if (!run->edits.empty()) { // Otherwise, the camera had the values already.
+            addEntry(run->kind, run->title, run->edits);
+            noteEdits(run->edits);
+        }
     }
     emit changed();
     if (!run->problems.isEmpty())

@@ -2,7 +2,9 @@
 
 #include "CvxCPP/Node.h"
 #include "sdk/features/FeatureFile.h"
+#include "sdk/features/FeatureText.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,7 +13,7 @@ struct FeatureEdit
 {
     std::vector<SelectorSetting> selectors; ///< With which the change was made, outer selectors first.
     std::string name;
-    std::string before; ///< Empty if it is unknown; see isValueText().
+    std::optional<std::string> before; ///< No value if it is unknown.
     std::string after; ///< Empty for a command.
 };
 
@@ -19,4 +21,10 @@ struct FeatureEdit
 inline bool isValueText(const CvxCPP::NodeInfo *node, const std::string &text)
 {
     return !text.empty() || (node && node->type == CvxCPP::NodeType::String);
+}
+
+/// Returns the text of the value; no text if there is no value.
+inline std::optional<std::string> knownText(const CvxCPP::NodeValue &value)
+{
+    return value.index() == 0 ? std::nullopt : std::optional(settingText(value));
 }

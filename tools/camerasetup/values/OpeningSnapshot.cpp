@@ -135,27 +135,33 @@ void OpeningSnapshot::readPart()
         });
 }
 
-void OpeningSnapshot::takePart(const CvxResult &result, const SnapshotReading &reading)
+void OpeningSnapshot::takePart(const CvxResult &result, SnapshotReading &reading)
 {
     m_isReading = false;
     m_failureCount = result ? 0 : m_failureCount + 1;
     for (const FeatureNote &note : reading.notes)
         addNote(m_snapshot.notes, note.name, note.text);
-    for (const FeatureReading &read : reading.readings)
-        takeSetting(read);
+    const std::size_t count = reading.readings.size();
+    for (FeatureReading &read : reading.readings)
+        takeSetting(std::move(read));
     if (result)
-        m_batch.wasRead(std::max<std::size_t>(1, reading.readings.size()), reading.duration);
+        m_batch.wasRead(std::max<std::size_t>(1, count), reading.duration);
     else
         m_batch = {};
     const bool isGivenUp = !result && m_isOpen && m_failureCount >= maxFailures;
     if (isGivenUp) {
-        for (const std::string &name : reading.part.names)
-            addNote(m_snapshot.notes, name, result.text);
+        addPartNotes(reading.part, result.text);
         m_failureCount = 0;
-    } else if (!result || !reading.isComplete) {
-        m_plan.putBack(reading.part);
+    } else if ((!result || !reading.isComplete) && !m_plan.putBack(reading.part)) {
+        addPartNotes(reading.part, tr("There are too many values, so only some were read.").toStdString());
     }
     pauseFor(reading.duration);
+}
+
+void OpeningSnapshot::addPartNotes(const SnapshotPart &part, const std::string &text)
+{
+    for (const std::string &name : part.names)
+        addNote(m_snapshot.notes, name, text);
 }
 
 /// Leaves the camera to the person for as long as the call has taken.

@@ -78,7 +78,8 @@ private:
     void readSoon();
     void readNext();
     void readPart();
-    void takePart(const CvxCPP::CvxResult &result, const SnapshotReading &reading);
+    void takePart(const CvxCPP::CvxResult &result, SnapshotReading &reading);
+    void addPartNotes(const SnapshotPart &part, const std::string &text);
     void readPresent();
     void takePresent(const CvxCPP::CvxResult &result, const std::vector<FeatureReading> &readings);
     void pauseFor(std::chrono::steady_clock::duration callTime);

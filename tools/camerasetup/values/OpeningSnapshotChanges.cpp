@@ -72,7 +72,7 @@ void OpeningSnapshot::takeWritten(const QString &name, const NodeValue &before, 
     m_isUntouched = false;
     m_written.insert(name);
     if (selectors)
-        return noteEdit({*selectors, node->name, settingText(before), settingText(after)});
+        return noteEdit({*selectors, node->name, knownText(before), settingText(after)});
     if (m_plan.contains(node->name)) {
         m_plan.remove(node->name);
         addNote(m_snapshot.notes, node->name,
@@ -106,7 +106,8 @@ void OpeningSnapshot::noteEdits(const std::vector<FeatureEdit> &edits)
             continue;
         for (SelectorSetting &selector : edit.selectors)
             selector.value = normalized(*m_directory, selector.name, selector.value);
-        edit.before = normalized(*m_directory, edit.name, edit.before);
+        if (edit.before)
+            edit.before = normalized(*m_directory, edit.name, *edit.before);
         edit.after = normalized(*m_directory, edit.name, edit.after);
         noteEdit(edit);
     }
@@ -116,23 +117,23 @@ void OpeningSnapshot::noteEdit(const FeatureEdit &edit)
 {
     const NodeInfo &node = *m_directory->find(edit.name);
     const bool mayBeFirst = m_state == State::Reading || !node.isStreamable;
-    if (mayBeFirst && !isValueText(&node, edit.before))
+    if (mayBeFirst && (!edit.before || !isValueText(&node, *edit.before)))
         m_values.setLost(edit.name, edit.selectors);
     else if (mayBeFirst)
-        m_values.setOpening(edit.name, edit.selectors, edit.before);
+        m_values.setOpening(edit.name, edit.selectors, *edit.before);
     if (m_state == State::Reading && node.isStreamable)
         m_earlyEdits.push_back(edit);
     setPresent(node, edit.selectors, edit.after);
 }
 
-/// Compares features again that may have changed, unless they are read anyway.
+/// Compares features again that may have changed: also if they are being read under the values of their
+/// selectors, because those that were read already may have changed.
 void OpeningSnapshot::addStale(const QStringList &names)
 {
     QStringList followed;
     for (const QString &name : names) {
         const NodeInfo *const node = find(name);
-        const bool isKnown = node && isFollowed(*node) && m_values.contains(node->name);
-        if (isKnown && !m_plan.contains(node->name))
+        if (node && isFollowed(*node) && m_values.contains(node->name))
             followed.append(name);
     }
     m_stale.append(followed);

@@ -22,8 +22,9 @@ std::optional<std::vector<SelectorSetting>> PresentSelectors::of(const std::stri
 {
     std::vector<SelectorSetting> settings;
     for (const std::string &selector : m_directory.selectorsOf(name)) {
-        const NodeState *const state = m_client.state(QString::fromStdString(selector));
-        if (!state || state->value.index() == 0)
+        const QString selectorName = QString::fromStdString(selector);
+        const NodeState *const state = m_client.state(selectorName);
+        if (!state || state->value.index() == 0 || m_client.isOutdated(selectorName))
             return std::nullopt;
         settings.push_back({selector, settingText(state->value)});
     }

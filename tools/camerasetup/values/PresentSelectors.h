@@ -23,7 +23,7 @@ public:
     const FeatureDirectory &directory() const { return m_directory; }
 
     /// Returns the selectors of the feature with their values, outer selectors first; empty if the feature
-    /// has none. No value if one of the selectors was not read yet or cannot be read.
+    /// has none. No value if one of the selectors cannot be read, or was not read since it may have changed.
     std::optional<std::vector<SelectorSetting>> of(const std::string &name) const;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "sdk/features/FeatureText.h"
 #include "sdk/features/SelectorControl.h"
+#include "tools/camerasetup/values/FeatureEdit.h"
 
 #include <utility>
 
@@ -41,7 +42,7 @@ CvxResult writeSelected(
     std::vector<NodeState> states;
     if (CvxResult result = device.ReadStates({name}, states); !result)
         return result;
-    written.before = settingText(states.front().value);
+    written.before = knownText(states.front().value);
     written.isStreamLocked = states.front().lockReason == LockReason::StreamRunning;
     if (written.isStreamLocked)
         return {};

@@ -3,12 +3,13 @@
 #include "CvxCPP/Device.h"
 #include "sdk/features/FeatureDirectory.h"
 
+#include <optional>
 #include <string>
 
 /// What became of one setting that was to be written.
 struct WrittenSetting
 {
-    std::string before; ///< Empty if the value could not be read.
+    std::optional<std::string> before; ///< No value if it could not be read.
     std::string after; ///< What the camera has made of the value.
     bool isWritten = false;
     bool isStreamLocked = false; ///< Nothing was written, because the stream has to be stopped first.

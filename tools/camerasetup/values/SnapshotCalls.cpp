@@ -16,8 +16,8 @@ CvxResult readPart(Device &device, const FeatureDirectory &directory, SnapshotRe
     const Clock::time_point start = Clock::now();
     FeatureReader *running = nullptr;
     const FeatureProgress progress = [&](std::size_t done, std::size_t total) {
-        const bool hasRead = !running->readings().empty();
-        return done == total || !hasRead || Clock::now() - start < maxTime;
+        const bool isFirst = running->finished().empty(); // Each call has to finish something.
+        return done == total || isFirst || Clock::now() - start < maxTime;
     };
     FeatureReader reader(device, directory, progress);
     running = &reader;
@@ -31,8 +31,8 @@ CvxResult readPart(Device &device, const FeatureDirectory &directory, SnapshotRe
     reading.readings = std::move(reader.readings());
     reading.notes = std::move(reader.notes());
     reading.isComplete = !reader.isCancelled();
-    for (const FeatureReading &read : reading.readings)
-        reading.part.finished.insert(selectorsKey(read.selectors));
+    for (const std::vector<SelectorSetting> &selectors : reader.finished())
+        reading.part.finished.insert(selectorsKey(selectors));
     return result;
 }
 

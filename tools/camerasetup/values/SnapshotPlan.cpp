@@ -11,8 +11,13 @@ void SnapshotPlan::clear()
 
 void SnapshotPlan::add(const FeatureDirectory &directory, const std::string &name)
 {
-    if (!m_waiting.insert(name).second)
+    if (!m_waiting.insert(name).second) {
+        for (SnapshotPart &part : m_parts) {
+            if (std::find(part.names.begin(), part.names.end(), name) != part.names.end())
+                part.finished.clear();
+        }
         return;
+    }
     auto selectors = directory.selectorsOf(name);
     // A part of which something is finished must not grow.
     const auto part = std::find_if(m_parts.begin(), m_parts.end(),
@@ -52,8 +57,10 @@ SnapshotPart SnapshotPlan::take(std::size_t count)
     return part;
 }
 
-void SnapshotPlan::putBack(SnapshotPart part)
+bool SnapshotPlan::putBack(SnapshotPart &part)
 {
+    if (part.finished.size() >= maxCombinations)
+        return false;
     for (const std::string &name : part.names) {
         if (contains(name))
             part.finished.clear(); // Something has changed meanwhile.
@@ -61,4 +68,5 @@ void SnapshotPlan::putBack(SnapshotPart part)
     }
     m_waiting.insert(part.names.begin(), part.names.end());
     m_parts.push_front(std::move(part));
+    return true;
 }

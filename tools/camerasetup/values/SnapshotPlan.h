@@ -22,7 +22,7 @@ class SnapshotPlan
 public:
     void clear();
 
-    /// Adds a feature behind the others, unless it waits already.
+    /// Adds a feature behind the others. If it waits already, all combinations of its part are read again.
     void add(const FeatureDirectory &directory, const std::string &name);
     void remove(const std::string &name);
     bool contains(const std::string &name) const { return m_waiting.count(name) > 0; }
@@ -31,8 +31,11 @@ public:
     /// Removes and returns up to `count` features of the first group. The plan must not be empty.
     SnapshotPart take(std::size_t count);
 
-    /// Puts back a part whose combinations are not all finished; it is taken again first.
-    void putBack(SnapshotPart part);
+    /// Puts back a part whose combinations are not all finished; it is taken again first. Returns false and
+    /// leaves the part as it is if too many combinations were read already.
+    bool putBack(SnapshotPart &part);
+
+    static constexpr std::size_t maxCombinations = 50000; ///< Three colours of a table with 4096 entries fit.
 
 private:
     std::deque<SnapshotPart> m_parts;

@@ -69,6 +69,7 @@ void FeatureClient::forget()
     m_nodes.clear();
     m_indexes.clear();
     m_states.clear();
+    m_outdated.clear();
     m_waiting.clear();
     m_pollTimes.clear();
     m_loadTimer->stop();
@@ -237,6 +238,7 @@ void FeatureClient::takeState(const NodeState &state)
         m_pollTimes.wasRead(name,
             state.isCommandDone ? milliseconds(node->pollingTime) : PollTimes::minInterval,
             PollTimes::Clock::now());
+    m_outdated.remove(name);
     const auto known = m_states.constFind(name);
     if (known != m_states.constEnd() && areEqual(*known, state))
         return;
@@ -309,8 +311,10 @@ void FeatureClient::takeOperation(const CvxResult &result)
 void FeatureClient::takeWritten(const QString &name, const NodeValue &value)
 {
     const auto known = m_states.constFind(name);
-    const NodeValue before = known == m_states.constEnd() ? NodeValue() : known->value;
+    const bool isKnown = known != m_states.constEnd() && !isOutdated(name);
+    const NodeValue before = isKnown ? known->value : NodeValue();
     storeValue(name, value);
+    markOutdated(selectedBy(name));
     emit written(name, before, value);
 }
 
@@ -318,10 +322,39 @@ void FeatureClient::takeWritten(const QString &name, const NodeValue &value)
 void FeatureClient::storeValue(const QString &name, const NodeValue &value)
 {
     const auto known = m_states.find(name);
-    if (known == m_states.end() || known->value == value)
+    if (known == m_states.end())
+        return;
+    m_outdated.remove(name);
+    if (known->value == value)
         return;
     known->value = value;
     emit stateChanged(name);
+}
+
+/// Returns the features that have other values for another value of this selector.
+QStringList FeatureClient::selectedBy(const QString &name) const
+{
+    QStringList names{name};
+    for (int index = 0; index < names.size(); ++index) {
+        const NodeInfo *const node = info(names[index]);
+        for (const std::string &selected : node ? node->selected : std::vector<std::string>()) {
+            const QString added = QString::fromStdString(selected);
+            if (!names.contains(added)) // A wrong description may contain a circle.
+                names.append(added);
+        }
+    }
+    names.removeFirst();
+    return names;
+}
+
+/// The states are those for other values of the selectors until they are read again.
+void FeatureClient::markOutdated(const QStringList &names)
+{
+    for (const QString &name : names) {
+        if (m_states.contains(name))
+            m_outdated.insert(name);
+    }
+    readSoon(watchedOf(names));
 }
 
 void FeatureClient::noteWritten(const QString &name, const NodeValue &before, const NodeValue &after)
@@ -331,6 +364,7 @@ void FeatureClient::noteWritten(const QString &name, const NodeValue &before, co
     const NodeState *const known = state(name);
     if (known && known->value == before) // Otherwise, a newer value was read meanwhile.
         storeValue(name, after);
+    markOutdated(selectedBy(name));
     emit written(name, before, after);
 }
 

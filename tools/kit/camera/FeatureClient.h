@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QMetaType>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -65,6 +66,13 @@ public:
     /// Returns true while a write of this feature is waiting or running.
     bool isWriting(const QString &name) const;
 
+    /// Returns true if no write and no command is waiting or running.
+    bool isIdle() const { return !m_running && m_operations.isEmpty(); }
+
+    /// Returns true if the state was read before a selector of the feature was written, so it is the one for
+    /// another value of the selector. It is being read again if it is watched.
+    bool isOutdated(const QString &name) const { return m_outdated.contains(name); }
+
     /// Reports a change that was made with CameraConnection::run(), as if write() had made it: the feature is
     /// read again, and written() is emitted.
     void noteWritten(const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
@@ -83,7 +91,8 @@ signals:
     /// The state of the feature differs from the previous one.
     void stateChanged(const QString &name);
 
-    /// A write has succeeded. `before` has no value if the feature had not been read.
+    /// A write has succeeded. `before` has no value if the feature had not been read since its selectors were
+    /// written.
     void written(const QString &name, const CvxCPP::NodeValue &before, const CvxCPP::NodeValue &after);
 
     /// The camera has accepted a command; NodeState::isCommandDone says when it is done.
@@ -129,12 +138,15 @@ private:
     void takeOperation(const CvxCPP::CvxResult &result);
     void takeWritten(const QString &name, const CvxCPP::NodeValue &value);
     void storeValue(const QString &name, const CvxCPP::NodeValue &value);
+    QStringList selectedBy(const QString &name) const;
+    void markOutdated(const QStringList &names);
 
     CameraConnection &m_connection;
     Stage m_stage = Stage::Gone;
     QVector<CvxCPP::NodeInfo> m_nodes;
     QHash<QString, int> m_indexes; // Into m_nodes.
     QHash<QString, CvxCPP::NodeState> m_states;
+    QSet<QString> m_outdated; // See isOutdated().
     QHash<QString, int> m_watchCounts;
 
     ReadQueue m_waiting; // To be read.

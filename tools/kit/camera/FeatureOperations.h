@@ -23,6 +23,7 @@ public:
     void addCommand(const QString &name);
     std::optional<FeatureOperation> takeNext();
     bool hasWrite(const QString &name) const;
+    bool isEmpty() const { return m_waiting.empty(); }
     void clear() { m_waiting.clear(); }
 
 private:
