@@ -266,6 +266,29 @@
     </message>
 </context>
 <context>
+    <name>CameraSource</name>
+    <message>
+        <source>This camera now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the settings of this camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This camera is not open for control.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying to this camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy of differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CameraTable</name>
     <message>
         <source>Name</source>
@@ -289,6 +312,29 @@
     </message>
 </context>
 <context>
+    <name>ChangeHistory</name>
+    <message>
+        <source>Undo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value of %1 before the change is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed while the camera is streaming.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CollapsibleGroup</name>
     <message>
         <source>Expanded group</source>
@@ -304,6 +350,169 @@
     <message>
         <source>%1 …</source>
         <translation>%1 …</translation>
+    </message>
+</context>
+<context>
+    <name>ComparePanel</name>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Swap the sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy to the &amp;right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads both sides again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load the user set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings files (*.txt *.pfs *.features);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes settings of the left side to the right side.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings are being read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose two sides that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CompareSession</name>
+    <message>
+        <source>Reading: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying to: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CompareSides</name>
+    <message>
+        <source>User set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This camera now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This camera at opening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonCounts</name>
+    <message numerus="yes">
+        <source>No difference in %n setting(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of %1 setting(s) differ.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more difference(s) belong to one camera or one moment.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonReport</name>
+    <message>
+        <source>(missing)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>belongs to one camera or one moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparison of camera settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left: %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right: %1, %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -349,6 +558,59 @@
     </message>
 </context>
 <context>
+    <name>CopyActions</name>
+    <message>
+        <source>&amp;Selected differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Checked differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy has failed after a part of it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was copied: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) were copied.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The copy was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problem(s) were reported.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What could not be copied or put back:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DetailsPage</name>
     <message>
         <source>Numbers of the stream</source>
@@ -369,6 +631,108 @@
     <message>
         <source>Copy comma&amp;nd</source>
         <translation>Copier la co&amp;mmande</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPane</name>
+    <message>
+        <source>All values side by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a feature to see what the camera says of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the name for programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the value that the camera had when it was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At opening: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As it was when the camera was opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceModel</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1; left: %2; right: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(missing)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+This value belongs to one camera or one moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the differences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also e&amp;qual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the settings that both sides have in common too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also those of one camera or one &amp;moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no difference to show.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing that is shown contains the text.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -451,6 +815,13 @@
     </message>
 </context>
 <context>
+    <name>EditorNote</name>
+    <message>
+        <source>Discard</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>Encoder</name>
     <message>
         <source>ffmpeg cannot be started: %1</source>
@@ -476,15 +847,89 @@
     </message>
 </context>
 <context>
+    <name>ExportActions</name>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copier</translation>
+    </message>
+    <message>
+        <source>Saves what is shown as text or as a page (HTML).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies what is shown as text to the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the comparison</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page (*.html)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The comparison was saved as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The comparison could not be saved as %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The comparison was copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FeatureActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Locking Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy &quot;Name=Value&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expand All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Collapse All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FeatureEditor</name>
-    <message>
-        <source>on</source>
-        <translation>activé</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>désactivé</translation>
-    </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
         <translation>Cette modification exige un bref arrêt du flux.</translation>
@@ -495,10 +940,214 @@
     </message>
 </context>
 <context>
-    <name>EditorNote</name>
+    <name>FeatureFacts</name>
     <message>
-        <source>Discard</source>
-        <translation>Annuler</translation>
+        <source>Category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number with decimals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enumeration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished">Commande</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in this camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not available at present</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read and write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logarithmic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number without slider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation type="unfinished">Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation type="unfinished">Maximum</translation>
+    </message>
+    <message>
+        <source>Increment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Longest text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n character(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Every %1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not allowed now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In settings files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes by itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Depends on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeModel</name>
+    <message>
+        <source>The camera is not connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value was not read yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeView</name>
+    <message>
+        <source>Features</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -554,6 +1203,32 @@
     <message>
         <source>{%1} has to be like {number:4}, with 1 to %2 digits</source>
         <translation>{%1} doit s’écrire comme {number:4}, avec 1 à %2 chiffres</translation>
+    </message>
+</context>
+<context>
+    <name>FileSource</name>
+    <message>
+        <source>File %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>changed by a copy of differences</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -716,6 +1391,75 @@
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Search features</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the features with all of these words in their name or description.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which features are shown: the most important ones, most, or all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows only features that have changed since the camera was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows only the features that you have marked as favourites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FilterHint</name>
+    <message numerus="yes">
+        <source>%n feature(s) are hidden by the level %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show Them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No feature matches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No feature is marked as a favourite. Ctrl+D marks one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No feature has changed since the camera was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This level has no features.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FindingCard</name>
     <message>
         <source>In order</source>
@@ -744,6 +1488,44 @@
     <message>
         <source>Copies the command, which you can paste into a terminal.</source>
         <translation>Copie la commande, à coller dans un terminal.</translation>
+    </message>
+</context>
+<context>
+    <name>HexView</name>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset %1, byte %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset %1, character %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard contains no hexadecimal bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard contains no ASCII text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The last %n byte(s) of the clipboard did not fit.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -800,6 +1582,80 @@
     </message>
 </context>
 <context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Executed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This change was undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPanel</name>
+    <message>
+        <source>Changes since the camera was opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as script…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a shell script that makes these changes again with cvxctl.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copier</translation>
+    </message>
+    <message>
+        <source>Export the changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shell scripts (*.sh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script &quot;%1&quot; cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ImageCanvas</name>
     <message>
         <source>Picture</source>
@@ -812,6 +1668,20 @@
     <message>
         <source>%1 by %2 pixels, shown at %3 %</source>
         <translation>%1 × %2 pixels, affichage à %3&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>JobBar</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LastingJob</name>
+    <message>
+        <source>The work was cancelled before it began, or the camera was closed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -842,10 +1712,213 @@
     </message>
 </context>
 <context>
+    <name>LevelText</name>
+    <message>
+        <source>Beginner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LivePicture</name>
+    <message>
+        <source>The camera sends no pictures. %1</source>
+        <translation type="unfinished">La caméra n’envoie pas d’images. %1</translation>
+    </message>
+    <message>
+        <source>The camera waits for a trigger. Send one, or switch the trigger mode off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No picture has arrived yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LiveStream</name>
     <message>
         <source>The stream of the camera has ended.</source>
         <translation>Le flux de la caméra s’est arrêté.</translation>
+    </message>
+</context>
+<context>
+    <name>LoadDialog</name>
+    <message>
+        <source>Show only what &amp;changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load what &amp;fits. If you cancel, what was loaded stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All or nothing. If a setting fails or you cancel, everything is put back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo the load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Co&amp;py report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is written at all if a line of the file cannot be read, or if a setting cannot fit the camera.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts back all settings from before the load.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The load was not undone. Without this dialog, it cannot be undone any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close &amp;anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LoadTable</name>
+    <message>
+        <source>The line cannot be read. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LoadText</name>
+    <message>
+        <source>Cannot be loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) cannot be loaded.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) failed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Will change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) will change.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) changed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Overruled by another setting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) will be overruled by others.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) were overruled by others.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Already so.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) already have the value.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) already had the value.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -889,6 +1962,22 @@
     <message>
         <source>Not available because of the setting of %1.</source>
         <translation>Indisponible à cause du réglage de %1.</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation type="unfinished">activé</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished">désactivé</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set %1 to %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1097,6 +2186,21 @@
     </message>
 </context>
 <context>
+    <name>NoteListDialog</name>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copier</translation>
+    </message>
+</context>
+<context>
     <name>NumberEditor</name>
     <message>
         <source>The nearest value that the camera allows is %1.</source>
@@ -1113,6 +2217,74 @@
     <message>
         <source>&quot;%1&quot; is not a number.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningSnapshot</name>
+    <message>
+        <source>This camera at opening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was changed before its value at opening was read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OpeningSource</name>
+    <message>
+        <source>This camera at opening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No camera is open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings at opening are still being read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings at opening are in the past. Choose another right side.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OtherCameraSource</name>
+    <message>
+        <source>Camera %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program uses this camera, so it was only watched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Opening the camera was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is not connected any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera did not answer in time.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1329,6 +2501,383 @@
     </message>
 </context>
 <context>
+    <name>RegisterEditor</name>
+    <message>
+        <source>Write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished">Annuler</translation>
+    </message>
+    <message>
+        <source>Writes all bytes to the camera (Ctrl+Return).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the bytes of the camera again (Escape).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, not readable</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RestoreBar</name>
+    <message>
+        <source>Co&amp;mpare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows which settings differ from those when the camera was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Settings that were not made with this program may have the values from power-on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is only watched, so nothing can be changed.</source>
+        <translation type="unfinished">Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
+    </message>
+    <message>
+        <source>The settings were not read completely before the camera was lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SelectorTable</name>
+    <message>
+        <source>Read again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values of the selected features</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The feature has no selector, so it has only one value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The values for each %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, while %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the values for each %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The selector has more values; only the first ones are shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For this change, the stream has to be stopped for a moment.</source>
+        <translation type="unfinished">Cette modification exige un bref arrêt du flux.</translation>
+    </message>
+    <message>
+        <source>Stop, set, start</source>
+        <translation type="unfinished">Régler et relancer</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingTexts</name>
+    <message>
+        <source>Without category</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>&amp;Save settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As it &amp;was when I opened it…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is only watched, so nothing can be changed.</source>
+        <translation type="unfinished">Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
+    </message>
+    <message>
+        <source>The camera is not open.</source>
+        <translation type="unfinished">La caméra n’est pas ouverte.</translation>
+    </message>
+    <message>
+        <source>Saves all settings to a file that other GenICam programs can read, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what a settings file would change, and then loads it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings from the opening are not completely known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings files (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) were saved to &quot;%1&quot;.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remark(s):</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Load settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the settings from the opening</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsLoad</name>
+    <message>
+        <source>Comparing %1 with the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Putting back the settings from before %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo loading %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSave</name>
+    <message>
+        <source>Saving the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving was cancelled. The file was not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no settings that belong into a file. The file was not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSource</name>
+    <message>
+        <source>The reading was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SetupWindow</name>
+    <message>
+        <source>Camera Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished">Image</translation>
+    </message>
+    <message>
+        <source>All selector values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished">&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find a feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation type="unfinished">&amp;Caméra</translation>
+    </message>
+    <message>
+        <source>Live &amp;picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Compare with the opening</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in the &amp;Image Viewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation type="unfinished">&amp;Panneaux</translation>
+    </message>
+    <message>
+        <source>F2, Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit the value of the selected feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close or open a category</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation type="unfinished">Barre d’outils</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s). The settings at opening are being read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed since opening</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ShortcutPage</name>
     <message>
         <source>Keyboard shortcuts</source>
@@ -1341,6 +2890,39 @@
     <message>
         <source>What they do</source>
         <translation>Fonction</translation>
+    </message>
+</context>
+<context>
+    <name>SideBox</name>
+    <message>
+        <source>Shows what could not be read, and why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s), %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not read yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes on what was read:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1575,6 +3157,20 @@
     </message>
 </context>
 <context>
+    <name>TextEditor</name>
+    <message numerus="yes">
+        <source>At most %n character(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>ThumbnailStrip</name>
     <message>
         <source>%1
@@ -1684,6 +3280,273 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <message>
         <source>Opening %1…</source>
         <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+</context>
+<context>
+    <name>UserSetControl</name>
+    <message>
+        <source>Reading the user sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is only watched, so nothing can be changed.</source>
+        <translation type="unfinished">Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
+    </message>
+    <message>
+        <source>The camera does not offer this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera does not let the set for power-on be chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera does not allow this set at power-on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is only watched, so its user sets cannot be loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load user set &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The load was cancelled. Nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Saving &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The present settings were saved as &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choosing &quot;%1&quot; for power-on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use user set &quot;%1&quot; at power-on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera begins with &quot;%1&quot; at power-on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UserSetPanel</name>
+    <message>
+        <source>&amp;Load…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use at &amp;power-on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User sets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User set</source>
+        <translation type="unfinished">Jeu de paramètres</translation>
+    </message>
+    <message>
+        <source>At power-on</source>
+        <translation type="unfinished">Au démarrage</translation>
+    </message>
+    <message>
+        <source>This camera keeps no user sets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The user sets are not known yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✓ yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stores the present settings as &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lets the camera begin with &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used at power-on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows how the settings of the camera differ from this set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s) differ from those when the camera was opened.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Loading can be undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load user set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save user set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UserSetSource</name>
+    <message>
+        <source>User set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has to load the user set %1 to show it. The stream is stopped for this, and your present settings are put back afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not put back after the user set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more setting(s) were not put back; the history lists them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The camera may still have the settings of the user set. Restore those from the opening.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the user set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This camera is not open for control.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copying to the user set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy was cancelled, so the user set was not changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ValueText</name>
+    <message numerus="yes">
+        <source>%1 … (%n bytes)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not in this camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>can only be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Running …</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

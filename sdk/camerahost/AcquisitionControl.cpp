@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr std::array<const char *, std::tuple_size_v<AcquisitionControl::ImageFormat>> formatFeatures{
+    "PayloadSize", "Width", "Height", "PixelFormat"};
+
+} // namespace
+
 void AcquisitionControl::lock()
 {
     if (isWatching())
@@ -58,12 +65,26 @@ PictureLayout AcquisitionControl::configuredPicture() const
     return layout;
 }
 
-std::vector<std::optional<std::int64_t>> AcquisitionControl::imageFormat() const
+AcquisitionControl::ImageFormat AcquisitionControl::imageFormat() const
 {
-    std::vector<std::optional<std::int64_t>> format;
-    for (const char *name : {"PayloadSize", "Width", "Height", "PixelFormat"})
-        format.push_back(m_nodes.readInteger(name));
+    ImageFormat format;
+    for (std::size_t i = 0; i < format.size(); ++i) {
+        if (!isSelected(formatFeatures[i]))
+            format[i] = m_nodes.readInteger(formatFeatures[i]);
+    }
     return format;
+}
+
+bool AcquisitionControl::hasFormatChanged(const ImageFormat &before) const
+{
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        if (!before[i])
+            continue;
+        const auto now = m_nodes.readInteger(formatFeatures[i]);
+        if (now != before[i])
+            return now.has_value();
+    }
+    return false;
 }
 
 std::vector<ChunkFeature> AcquisitionControl::chunkFeatures() const
@@ -85,6 +106,13 @@ bool AcquisitionControl::hasNode(const char *name) const
 {
     const auto &nodes = m_nodes.nodes();
     return std::any_of(nodes.begin(), nodes.end(), [&](const auto &node) { return node.name == name; });
+}
+
+bool AcquisitionControl::isSelected(const char *name) const
+{
+    const auto &nodes = m_nodes.nodes();
+    return std::any_of(nodes.begin(), nodes.end(),
+        [&](const auto &node) { return node.name == name && !node.selectors.empty(); });
 }
 
 bool AcquisitionControl::isTransferControlled() const

@@ -3,6 +3,7 @@
 #include "sdk/camerahost/NodeMap.h"
 #include "sdk/camerahost/PictureReader.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -38,8 +39,17 @@ public:
     /// Returns the picture that the camera is configured for.
     PictureLayout configuredPicture() const;
 
-    /// Returns what the size and the layout of an image depend on; nothing for a feature that cannot be read.
-    std::vector<std::optional<std::int64_t>> imageFormat() const;
+    /// The values of the features that determine the size and the layout of an image; nothing for a feature
+    /// that cannot be read.
+    using ImageFormat = std::array<std::optional<std::int64_t>, 4>;
+
+    /// Returns the present format. Leaves out features that depend on a selector, because their values also
+    /// change when only another region or component is selected.
+    ImageFormat imageFormat() const;
+
+    /// Returns true if a feature that `before` contains has another value now. Stops at the first feature
+    /// that cannot be read, because the camera may be gone and each further read would have to time out.
+    bool hasFormatChanged(const ImageFormat &before) const;
 
     /// Returns the features whose values are sent with the images.
     std::vector<ChunkFeature> chunkFeatures() const;
@@ -47,6 +57,7 @@ public:
 private:
     std::uint64_t number(const char *name) const;
     bool hasNode(const char *name) const;
+    bool isSelected(const char *name) const;
     bool isTransferControlled() const;
 
     NodeMap &m_nodes;

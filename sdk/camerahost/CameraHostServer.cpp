@@ -105,10 +105,11 @@ void CameraHostServer::handle(const OpenDeviceRequest &request)
         m_isFinished = true;
         return fail(*failure);
     }
-    // The list of the nodes can be long. Meanwhile, another thread prepares the first access to a value.
-    const std::string line = Message(m_request, DeviceOpenedReply{m_camera.nodes().nodes()}).toLine();
+    // The list of the nodes can be long. While it is written and read, another thread prepares the first
+    // access to a value, for which the monitor waits.
+    reply(DeviceOpenedReply{m_camera.nodes().nodes()});
+    const CallWatch::Call call(m_watch.calls());
     m_camera.startMonitor();
-    m_connection = m_channel.send(line);
 }
 
 void CameraHostServer::handle(const ReadStatesRequest &request)

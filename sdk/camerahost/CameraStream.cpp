@@ -10,6 +10,7 @@ namespace {
 
 constexpr CameraStream::Milliseconds undoTimeout(500); // For each call after a failed start.
 constexpr int accessAttempts = 3; // A call that accesses the camera may have to repeat the access.
+constexpr int formatCheckPause = 9; // Between two checks of the format, in durations of the last check.
 
 } // namespace
 
@@ -36,7 +37,8 @@ std::variant<StreamPreparedReply, CameraStream::Failure> CameraStream::prepare(
     if (const auto problem = m_stream.open(m_device))
         return startFailure(*problem);
     m_control.lock(); // Before the sizes are read, because some cameras only then compute them.
-    m_format = m_control.imageFormat(); // Before the sizes, so that no change stays unnoticed.
+    if (m_control.isWatching())
+        m_format = m_control.imageFormat(); // Before the sizes, so that no change stays unnoticed.
     const BufferNeeds needs = readNeeds();
     const auto plan = BufferPlan::make(request.buffers, needs);
     if (!plan) {
@@ -100,7 +102,7 @@ CameraStream::Failure CameraStream::startFailure(const Problem &problem) const
     if (!m_control.isWatching() || !isRefusal)
         return failure;
     return {DeviceFailure::NotWritable,
-        "This camera sends its images only to the program that controls it. " + failure.text};
+        "The producer gives this camera's images only to a program that controls it. " + failure.text};
 }
 
 std::optional<CameraStream::Failure> CameraStream::startRun()
@@ -200,14 +202,18 @@ void CameraStream::attempt(Milliseconds timeout, std::function<void()> call)
     m_isStuck = m_isStuck || !hasReturned;
 }
 
-std::optional<std::string> CameraStream::findFormatChange() const
+std::optional<std::string> CameraStream::findFormatChange()
 {
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
     if (!m_run || !m_control.isWatching()) // The format is locked during a stream of our own.
         return std::nullopt;
-    const auto isChanged
-        = [](const auto &before, const auto &now) { return before && now && *before != *now; };
-    const auto format = m_control.imageFormat();
-    if (std::equal(m_format.begin(), m_format.end(), format.begin(), std::not_fn(isChanged)))
+    if (start < m_nextFormatCheck)
+        return std::nullopt;
+    const bool hasChanged = m_control.hasFormatChanged(m_format);
+    const auto end = Clock::now();
+    m_nextFormatCheck = end + formatCheckPause * (end - start);
+    if (!hasChanged)
         return std::nullopt;
     return "The program that controls the camera has changed the format of the images.";
 }

@@ -52,8 +52,9 @@ public:
     FetchLoop::Health takeHealth();
 
     /// Returns a text for people if the program that controls the camera has changed the size or the layout
-    /// of the images since prepare(), so that the stream of a watcher has to start again.
-    std::optional<std::string> findFormatChange() const;
+    /// of the images since prepare(), so that the stream of a watcher has to start again. Call it five times
+    /// per second; it reads a slow camera less often, so that this takes at most a tenth of the time.
+    std::optional<std::string> findFormatChange();
 
     /// Stops the stream at once while another thread may hang in a call of the producer, just before the end
     /// of the process. Any thread may call this function.
@@ -87,7 +88,8 @@ private:
     const GenTL::DEV_HANDLE m_device;
     AcquisitionControl m_control;
     DataStream m_stream;
-    std::vector<std::optional<std::int64_t>> m_format; // The format of the images at prepare().
+    AcquisitionControl::ImageFormat m_format; // At prepare(); empty unless this is a watcher.
+    std::chrono::steady_clock::time_point m_nextFormatCheck;
     bool m_hasChunks = false;
     std::uint32_t m_minBuffers = 1;
     bool m_isStuck = false;

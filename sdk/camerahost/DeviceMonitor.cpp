@@ -5,6 +5,13 @@
 #include <array>
 #include <utility>
 
+void DeviceMonitor::registerEvents()
+{
+    m_wasWritable = !m_device.isReadOnly() && isWritable();
+    registerEvents(m_device.device());
+    registerEvents(m_device.interface());
+}
+
 void DeviceMonitor::start(TimePoint now)
 {
     // Any feature will do whose value is in a register of the camera.
@@ -17,9 +24,6 @@ void DeviceMonitor::start(TimePoint now)
         }
     }
     m_hasStartRegister = m_feature.empty() && readSomething();
-    m_wasWritable = !m_device.isReadOnly() && isWritable();
-    registerEvents(m_device.device());
-    registerEvents(m_device.interface());
     m_detector.start(now);
 }
 

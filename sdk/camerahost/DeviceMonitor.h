@@ -20,7 +20,10 @@ public:
         : m_device(device), m_port(port), m_nodes(nodes)
     { }
 
-    /// Finds out how the camera can be checked, and registers the events.
+    /// Registers the events, and notes whether this process may write. Accesses no register.
+    void registerEvents();
+
+    /// Finds out by which register the camera can be checked, and begins to check it.
     void start(TimePoint now);
 
     /// Checks what is due. Returns a text for people if the camera is lost.

@@ -30,12 +30,13 @@ std::optional<OpenedCamera::Failure> OpenedCamera::open(
     m_nodes->setWatching(isWatching);
     m_ownedStream = std::make_unique<CameraStream>(m_device.library(), m_device.device(), *m_nodes,
         isWatching ? StreamRole::Watcher : StreamRole::Controller);
+    m_monitor.emplace(m_device, *m_port, *m_nodes);
+    m_monitor->registerEvents();
     return std::nullopt;
 }
 
 void OpenedCamera::startMonitor()
 {
-    m_monitor.emplace(m_device, *m_port, *m_nodes);
     m_monitor->start(DeviceMonitor::TimePoint::clock::now());
     m_stream = m_ownedStream.get();
 }

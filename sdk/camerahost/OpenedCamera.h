@@ -24,7 +24,8 @@ public:
     /// Opens the camera. Returns the failure if this is not possible; only close() may be called afterwards.
     std::optional<Failure> open(const std::string &producerFile, const OpenDeviceRequest &request);
 
-    /// Starts to check whether the camera answers. Call it once after open().
+    /// Starts to check whether the camera answers. Call it once after open(). The first access to a feature
+    /// may have to wait for the node map.
     void startMonitor();
 
     /// Returns the features. Before open(), there are none.

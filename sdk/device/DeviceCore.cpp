@@ -120,7 +120,7 @@ std::variant<std::shared_ptr<StreamCore>, CvxResult> DeviceCore::startStream(
     const auto &taken = std::get<DeviceGate::Turn>(turn);
     if (gate.stream())
         return results.result(CvxErrorAlreadyStarted, "The stream is running already.");
-    const auto started = ::startStream(taken.host(), buffers, policy, deadline);
+    const auto started = ::startStream(taken.host(), target.access, buffers, policy, deadline);
     if (const auto *failed = std::get_if<RequestFailedReply>(&started))
         return failure(taken, *failed);
     if (const auto *breakdown = std::get_if<Breakdown>(&started))

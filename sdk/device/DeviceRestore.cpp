@@ -53,8 +53,8 @@ std::variant<RestoredDevice, std::string> restoreDevice(const DeviceCore &core, 
     restored.stream = core.gate.stream();
     if (!restored.stream)
         return restored;
-    auto started = startStream(host, restored.stream->buffers(), restored.stream->policy(),
-        SteadyClock::now() + core.options.startTimeout);
+    auto started = startStream(host, core.target.access, restored.stream->buffers(),
+        restored.stream->policy(), SteadyClock::now() + core.options.startTimeout);
     if (auto *failed = std::get_if<RequestFailedReply>(&started))
         return std::move(failed->text);
     if (auto *breakdown = std::get_if<Breakdown>(&started))

@@ -29,9 +29,7 @@ Result startPrepared(
         memory, std::make_shared<const ChunkDecoder>(prepared.chunkFeatures), policy);
 }
 
-} // namespace
-
-Result startStream(HostChannel &host, std::uint32_t buffers, StreamPolicy policy, TimePoint deadline)
+Result startOnce(HostChannel &host, std::uint32_t buffers, StreamPolicy policy, TimePoint deadline)
 {
     const auto answer = host.ask<StreamPreparedReply>(PrepareStreamRequest{buffers}, deadline);
     if (const auto *breakdown = std::get_if<Breakdown>(&answer))
@@ -45,4 +43,17 @@ Result startStream(HostChannel &host, std::uint32_t buffers, StreamPolicy policy
     if (const auto *breakdown = std::get_if<Breakdown>(&undone))
         return *breakdown;
     return result;
+}
+
+} // namespace
+
+Result startStream(
+    HostChannel &host, CvxAccess access, std::uint32_t buffers, StreamPolicy policy, TimePoint deadline)
+{
+    Result result = startOnce(host, buffers, policy, deadline);
+    const auto *const failed = std::get_if<RequestFailedReply>(&result);
+    const bool isDeviceFailure = failed && failed->failure == DeviceFailure::Device;
+    if (access != CvxAccessWatch || !isDeviceFailure)
+        return result;
+    return startOnce(host, buffers, policy, deadline);
 }

@@ -9,6 +9,7 @@
 #include <variant>
 
 /// Makes a host stream: asks for the size of the buffers, creates their memory, and starts the camera. If
-/// that fails, undoes what was done.
-std::variant<std::shared_ptr<const ImageQueue>, RequestFailedReply, Breakdown> startStream(
-    HostChannel &host, std::uint32_t buffers, CvxCPP::StreamPolicy policy, TimePoint deadline);
+/// that fails, undoes what was done. A watcher tries twice, because the program that controls the camera
+/// may change the format of the images between the request for the size and the start.
+std::variant<std::shared_ptr<const ImageQueue>, RequestFailedReply, Breakdown> startStream(HostChannel &host,
+    CvxCPP::CvxAccess access, std::uint32_t buffers, CvxCPP::StreamPolicy policy, TimePoint deadline);

@@ -3,7 +3,6 @@
 #include "sdk/features/CallSize.h"
 
 #include <algorithm>
-#include <chrono>
 #include <iterator>
 #include <thread>
 
@@ -43,11 +42,11 @@ CvxResult readStates(Device &device, const std::vector<std::string> &names, std:
 
 namespace {
 
-CvxResult waitUntilDone(Device &device, const std::string &command)
+CvxResult waitUntilDone(Device &device, const std::string &command, std::chrono::seconds limit)
 {
     using Clock = std::chrono::steady_clock;
     using namespace std::chrono_literals;
-    for (const auto end = Clock::now() + 5s; Clock::now() < end;) {
+    for (const auto end = Clock::now() + limit; Clock::now() < end;) {
         std::vector<NodeState> states;
         if (CvxResult result = device.ReadStates({command}, states); !result)
             return result;
@@ -55,15 +54,17 @@ CvxResult waitUntilDone(Device &device, const std::string &command)
             return {};
         std::this_thread::sleep_for(20ms);
     }
-    return {CvxErrorDevice, "The camera has not finished the command \"" + command + "\" within 5 s."};
+    return {CvxErrorDevice,
+        "The camera has not finished the command \"" + command + "\" within " + std::to_string(limit.count())
+            + " s."};
 }
 
 } // namespace
 
-CvxResult executeAndWait(Device &device, const std::string &command)
+CvxResult executeAndWait(Device &device, const std::string &command, std::chrono::seconds limit)
 {
     CvxResult result = device.Execute(command);
-    return result ? waitUntilDone(device, command) : result;
+    return result ? waitUntilDone(device, command, limit) : result;
 }
 
 CvxResult announce(
@@ -75,7 +76,7 @@ CvxResult announce(
         CvxResult result = device.Execute(command);
         const bool isAccepted = static_cast<bool>(result);
         if (isAccepted)
-            result = waitUntilDone(device, command);
+            result = waitUntilDone(device, command, std::chrono::seconds(5));
         if (isDeviceGone(result))
             return result;
         if (isAccepted)

@@ -3,6 +3,7 @@
 #include "CvxCPP/Device.h"
 #include "sdk/features/FeatureDirectory.h"
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -28,9 +29,10 @@ bool isDeviceGone(const CvxCPP::CvxResult &result);
 CvxCPP::CvxResult readStates(
     CvxCPP::Device &device, const std::vector<std::string> &names, std::vector<CvxCPP::NodeState> &states);
 
-/// Executes a command and waits until it is done, for at most 5 s; a camera that takes longer than that is an
-/// error of the camera.
-CvxCPP::CvxResult executeAndWait(CvxCPP::Device &device, const std::string &command);
+/// Executes a command and waits until it is done. Returns CvxErrorDevice if that takes longer than the limit:
+/// the camera answers, so it is not gone.
+CvxCPP::CvxResult executeAndWait(
+    CvxCPP::Device &device, const std::string &command, std::chrono::seconds limit = std::chrono::seconds(5));
 
 /// Executes the first of these commands that the camera accepts and waits until it is done, for at most 5 s.
 /// Also succeeds if the camera has none of them, refuses, or takes longer: such commands only announce that

@@ -98,6 +98,6 @@ CvxResult executeForUserSet(Device &device, const std::string &userSet, const st
     SelectorControl selectors(device, directory);
     CvxResult result = selectors.select(selector, userSet);
     if (result)
-        result = executeAndWait(device, command);
+        result = executeAndWait(device, command, std::chrono::seconds(15)); // Flash memory can be slow.
     return withRestored(selectors, result);
 }

@@ -30,7 +30,7 @@ struct UserSets
 CvxCPP::CvxResult readUserSets(
     CvxCPP::Device &device, UserSets &userSets, const FeatureProgress &progress = {});
 
-/// Executes a command, for example "UserSetLoad", for one user set, and waits until it is done. Also returns
-/// the error if the camera refuses.
+/// Executes a command, for example "UserSetLoad", for one user set, and waits until it is done, for at
+/// most 15 s. Also returns the error if the camera refuses.
 CvxCPP::CvxResult executeForUserSet(
     CvxCPP::Device &device, const std::string &userSet, const std::string &command);

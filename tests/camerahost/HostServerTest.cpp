@@ -47,6 +47,8 @@ protected:
     {
         send(OpenDeviceRequest{"net0", "A1", CvxAccessControl});
         ASSERT_TRUE(receive<DeviceOpenedReply>());
+        send(ReadStatesRequest()); // Its reply follows when the host has begun to check the camera.
+        ASSERT_TRUE(receive<NodeStatesReply>());
     }
 
     bool waitForEnd()

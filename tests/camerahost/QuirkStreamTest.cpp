@@ -174,6 +174,16 @@ TEST_F(StreamOfAWatcher, endsWhenTheControllerChangesTheFormat)
     EXPECT_NE(client.waitForLoss().value_or("").find("has changed the format"), std::string::npos);
 }
 
+TEST_F(StreamOfAWatcher, needsAtMostATenthOfTheTimeToCheckTheFormat)
+{
+    start("free-running\n");
+    ASSERT_TRUE(isStarted) << client.failure.text;
+    const auto begin = std::chrono::steady_clock::now();
+    producer.setScript("free-running\nGCReadPort:8@1-3 slow 50\nGCReadPort:8@4 crash\n"); // Height.
+    EXPECT_TRUE(client.waitForEnd());
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 3 * 10 * 50ms) << "until the fourth check";
+}
+
 class RefusedStreamOfAWatcher : public StreamOfAWatcher, public testing::WithParamInterface<const char *>
 { };
 
@@ -182,8 +192,9 @@ TEST_P(RefusedStreamOfAWatcher, isExplained)
     start(GetParam());
     EXPECT_FALSE(isStarted);
     EXPECT_EQ(client.failure.failure, DeviceFailure::NotWritable);
-    EXPECT_EQ(
-        client.failure.text.find("This camera sends its images only to the program that controls it. "), 0U)
+    EXPECT_EQ(client.failure.text.find(
+                  "The producer gives this camera's images only to a program that controls it. "),
+        0U)
         << client.failure.text;
     EXPECT_EQ(client.read("Gain"), CvxCPP::NodeValue(std::int64_t(1))) << "the camera is still open";
     EXPECT_TRUE(client.close());

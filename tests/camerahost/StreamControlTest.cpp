@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
+#include <utility>
 
 using namespace CvxCPP;
 
@@ -27,6 +28,7 @@ public:
     Strings dependents(const std::string &) const override { return {}; }
     std::optional<std::int64_t> readInteger(const std::string &name) override
     {
+        reads.push_back(name);
         const auto value = values.find(name);
         const auto *const number
             = value == values.end() ? nullptr : std::get_if<std::int64_t>(&value->second);
@@ -46,15 +48,17 @@ public:
     void setWatching(bool) override { }
     void setStreaming(bool isStreaming) override { log.push_back(isStreaming ? "streaming" : "idle"); }
 
-    void addNode(const std::string &name)
+    void addNode(const std::string &name, const Strings &selectors = {})
     {
         m_nodes.emplace_back();
         m_nodes.back().name = name;
+        m_nodes.back().selectors = selectors;
     }
 
     std::map<std::string, NodeValue> values;
     std::set<std::string> refused;
     Strings log;
+    Strings reads; // Of readInteger().
 
 private:
     std::vector<NodeInfo> m_nodes;
@@ -132,6 +136,35 @@ TEST_F(StreamControl, configuredPictureIgnoresAbsurdValues)
     EXPECT_EQ(layout.picture.pixelFormat, 0x01080001U);
     EXPECT_EQ(layout.offsetX, 0U);
     EXPECT_EQ(layout.offsetY, 8U);
+}
+
+TEST_F(StreamControl, formatChangesWithAFeatureThatHasNoSelector)
+{
+    nodes.addNode("Width", {"RegionSelector"});
+    nodes.addNode("PixelFormat");
+    nodes.values = {{"PayloadSize", std::int64_t(3072)}, {"Width", std::int64_t(64)},
+        {"PixelFormat", std::int64_t(0x01080001)}};
+    const auto before = control.imageFormat();
+    EXPECT_FALSE(control.hasFormatChanged(before));
+    nodes.values["Width"] = std::int64_t(32); // Another region is selected.
+    nodes.values["Height"] = std::int64_t(48); // Could not be read before.
+    EXPECT_FALSE(control.hasFormatChanged(before));
+    for (const char *feature : {"PayloadSize", "PixelFormat"}) {
+        const NodeValue value = std::exchange(nodes.values[feature], NodeValue(std::int64_t(1)));
+        EXPECT_TRUE(control.hasFormatChanged(before)) << feature;
+        nodes.values[feature] = value;
+    }
+}
+
+TEST_F(StreamControl, nothingIsReadAfterTheFirstFailure)
+{
+    nodes.values = {{"PayloadSize", std::int64_t(3072)}, {"Width", std::int64_t(64)},
+        {"PixelFormat", std::int64_t(0x01080001)}};
+    const auto before = control.imageFormat();
+    nodes.values.clear();
+    nodes.reads.clear();
+    EXPECT_FALSE(control.hasFormatChanged(before));
+    EXPECT_EQ(nodes.reads, Strings{"PayloadSize"});
 }
 
 TEST_F(StreamControl, thereAreNoChunksWhileTheCameraDoesNotSendThem)

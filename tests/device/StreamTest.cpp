@@ -171,6 +171,19 @@ TEST_F(StreamTest, watchedCameraStreamsUnlessTheProducerRefuses)
     EXPECT_EQ(device->StartStream(4, StreamPolicy::EveryImage, stream).code, CvxErrorNotWritable);
 }
 
+TEST_F(StreamTest, watcherTriesTwiceToStart)
+{
+    device = nullptr;
+    access = CvxAccessWatch;
+    device = opened();
+    std::shared_ptr<Stream> stream;
+    setScript("startStream fail 0 The buffers are too small.\n");
+    EXPECT_EQ(device->StartStream(4, StreamPolicy::EveryImage, stream).code, CvxErrorDevice);
+    EXPECT_EQ(count("startStream"), 2U);
+    EXPECT_EQ(count("prepareStream"), 2U) << "the size of the images has changed";
+    EXPECT_EQ(count("stopStream"), 2U);
+}
+
 TEST_F(StreamTest, failedStartIsUndone)
 {
     std::shared_ptr<Stream> stream;

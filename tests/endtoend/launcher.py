@@ -55,6 +55,19 @@ def descendants(node):
         yield from descendants(child)
 
 
+def read_windows(path):
+    """Returns the visible windows of the program whose windowreader uses this socket. The list is empty while the program
+    does not accept connections."""
+    with socket.socket(socket.AF_UNIX) as reader:
+        reader.settimeout(BOUND)
+        try:
+            reader.connect(path)
+            with reader.makefile(encoding="utf-8") as reply:
+                return json.loads(reply.read() or "[]")
+        except (FileNotFoundError, ConnectionRefusedError, ConnectionResetError):
+            return []
+
+
 def keep_to_this_machine(stage):
     """Removes from an installation the producer that searches real networks, unless the test has its own network."""
     producer = f"{stage}/cti/fallback/UniversalGEV.cti"
@@ -99,15 +112,7 @@ class Launcher:
         return output_of("pgrep", "--parent", str(self.process.pid)).split()
 
     def windows(self):
-        """Returns the visible windows. The list is empty while the program does not accept connections."""
-        with socket.socket(socket.AF_UNIX) as reader:
-            reader.settimeout(BOUND)
-            try:
-                reader.connect(self.socket)
-                with reader.makefile(encoding="utf-8") as reply:
-                    return json.loads(reply.read() or "[]")
-            except (FileNotFoundError, ConnectionRefusedError, ConnectionResetError):
-                return []
+        return read_windows(self.socket)
 
     def of_class(self, name):
         """Returns the first visible window of a class, or None if there is no such window."""

@@ -52,6 +52,13 @@ TEST_F(UserSetsTest, commandIsAwaitedBeforeTheSelectorIsRestored)
     EXPECT_EQ(selected(), "Default");
 }
 
+TEST_F(UserSetsTest, slowCommandDoesNotCountAsALostCamera)
+{
+    const CvxResult result = executeAndWait(m_camera, "UserSetLoad", std::chrono::seconds(0));
+    EXPECT_EQ(result.code, CvxErrorDevice);
+    EXPECT_FALSE(isDeviceGone(result));
+}
+
 TEST_F(UserSetsTest, refusalAndLossAreReported)
 {
     m_camera.feature("UserSetLoad").rule

@@ -47,6 +47,7 @@ QStringList unnamedControls(QMainWindow &window, int &count)
         dock->show();
         dock->raise();
         await([dock] { return !dock->visibleRegion().isEmpty(); });
+        QCoreApplication::processEvents(); // The content gets its place.
         const QList<QWidget *> widgets = window.findChildren<QWidget *>();
         for (QWidget *widget : widgets) {
             if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy()

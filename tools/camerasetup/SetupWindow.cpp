@@ -27,6 +27,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 using Kind = ToolIcons::Kind;
@@ -123,7 +125,7 @@ void SetupWindow::createDocks()
     auto *history = new HistoryPanel(m_history, this);
     auto *userSets = new UserSetPanel({features(), m_jobs, m_history, m_opening}, this);
 
-    QDockWidget *const details
+    m_detailsDock
         = addPanel(QStringLiteral("featureDock"), tr("Feature"), m_details, Qt::RightDockWidgetArea);
     QDockWidget *const historyDock
         = addPanel(QStringLiteral("historyDock"), tr("History"), history, Qt::RightDockWidgetArea);
@@ -133,11 +135,11 @@ void SetupWindow::createDocks()
         = addPanel(QStringLiteral("pictureDock"), tr("Picture"), m_picture, Qt::RightDockWidgetArea);
     m_tableDock
         = addPanel(QStringLiteral("tableDock"), tr("All selector values"), m_table, Qt::BottomDockWidgetArea);
-    tabifyDockWidget(details, historyDock);
-    tabifyDockWidget(details, setsDock);
-    details->raise();
+    tabifyDockWidget(m_detailsDock, historyDock);
+    tabifyDockWidget(m_detailsDock, setsDock);
+    m_detailsDock->raise();
     m_picture->setMinimumHeight(minPictureHeight);
-    resizeDocks({details, m_pictureDock}, {detailsWidth, detailsWidth}, Qt::Horizontal);
+    resizeDocks({m_detailsDock, m_pictureDock}, {detailsWidth, detailsWidth}, Qt::Horizontal);
     m_pictureDock->hide();
     m_tableDock->hide();
     setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
@@ -221,6 +223,7 @@ void SetupWindow::createStatusBar()
 void SetupWindow::connectParts()
 {
     connect(m_tree, &TreePanel::currentChanged, m_details, &DetailsPane::setFeature);
+    connect(m_tree, &TreePanel::detailsRequested, m_detailsDock, [this] { showDock(*m_detailsDock); });
     connect(m_tree, &TreePanel::currentChanged, m_table, &SelectorTable::setFeature);
     connect(m_details, &DetailsPane::featureRequested, this, &SetupWindow::showFeature);
     connect(m_details, &DetailsPane::tableRequested, this, &SetupWindow::showTable);
@@ -229,7 +232,8 @@ void SetupWindow::connectParts()
     connect(&m_history, &ChangeHistory::failed, this, &SetupWindow::showProblem);
     connect(&connection(), &CameraConnection::stateChanged, this, &SetupWindow::onConnectionChanged);
     connect(&m_stream, &LiveStream::stateChanged, this, &SetupWindow::followPicture);
-    connect(m_pictureDock, &QDockWidget::visibilityChanged, this, &SetupWindow::followPicture);
+    connect(m_pictureDock, &QDockWidget::visibilityChanged, this, &SetupWindow::onPictureVisible);
+    connect(&features(), &FeatureClient::failed, this, &SetupWindow::showFailure);
     connect(&features(), &FeatureClient::nodesLoaded, this, &SetupWindow::showCounts);
     connect(&m_opening, &OpeningSnapshot::changedFeatures, this, &SetupWindow::showCounts);
     connect(&m_opening, &OpeningSnapshot::stateChanged, this, &SetupWindow::showCounts);
@@ -244,8 +248,34 @@ void SetupWindow::onConnectionChanged()
     }
     m_picture->setNotice(
         state == CameraConnection::State::Lost ? ConnectionBar::lossText(connection()) : QString());
+    const bool wasControlled = std::exchange(m_isControlled, connection().isControlled());
+    if (m_isControlled && !wasControlled)
+        retryPicture();
     followPicture();
     showCounts();
+}
+
+/// The editor of the feature may be closed, or there was none.
+void SetupWindow::showFailure(const QString &name, const QString &text)
+{
+    const CvxCPP::NodeInfo *const info = features().info(name);
+    const QString title = info ? QString::fromStdString(info->displayName) : name;
+    statusBar()->showMessage(tr("%1: %2").arg(title, text), reportTime);
+}
+
+/// Starts a stream that has failed once more, when the picture or the control of the camera is there again.
+void SetupWindow::retryPicture()
+{
+    const bool isWanted = !m_pictureDock->isHidden() && connection().state() == CameraConnection::State::Open;
+    if (isWanted && m_stream.state() == LiveStream::State::Failed)
+        m_stream.start(pictureBuffers);
+}
+
+void SetupWindow::onPictureVisible(bool isVisible)
+{
+    if (isVisible)
+        retryPicture();
+    followPicture();
 }
 
 /// The stream runs while its picture can be seen.

@@ -49,6 +49,9 @@ private:
 
     void onConnectionChanged();
     void followPicture();
+    void retryPicture();
+    void onPictureVisible(bool isVisible);
+    void showFailure(const QString &name, const QString &text);
     void showFeature(const QString &name);
     void showTable(const QString &name);
     void showCompare();
@@ -70,7 +73,9 @@ private:
     LivePicture *m_picture = nullptr;
     SettingsActions *m_settingsActions = nullptr;
     QList<QDockWidget *> m_docks; // In the order of their menu.
+    QDockWidget *m_detailsDock = nullptr;
     QDockWidget *m_tableDock = nullptr;
     QDockWidget *m_pictureDock = nullptr;
     QLabel *m_counts = nullptr;
+    bool m_isControlled = false;
 };

@@ -63,7 +63,8 @@ constexpr CvxError CvxErrorHostMissing = -10;
 constexpr CvxError CvxErrorInUse = -11; ///< Another program or another Device object uses the camera.
 constexpr CvxError CvxErrorDeviceLost = -12; ///< The camera is gone or does not answer; it will be reopened.
 constexpr CvxError CvxErrorClosed = -13; ///< The device or the stream has been closed.
-constexpr CvxError CvxErrorNotWritable = -14; ///< The feature is read-only or locked at present.
+/// The feature is read-only or locked at present, or a watcher gets no images.
+constexpr CvxError CvxErrorNotWritable = -14;
 constexpr CvxError CvxErrorOutOfRange = -15; ///< The feature does not allow this value at present.
 constexpr CvxError CvxErrorDevice = -16; ///< The camera or its producer reports a failure.
 

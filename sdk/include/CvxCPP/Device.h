@@ -181,17 +181,19 @@ public:
     /// Starts the stream with this number of buffers, 2 to 256, or more if the producer needs more. Locks the
     /// features that must not change during a stream, then starts the camera.
     ///
-    /// With CvxAccessWatch, and if the producer could open the camera for reading only, nothing is written to
+    /// With CvxAccessWatch, or if the producer could open the camera only for reading, nothing is written to
     /// the camera: images arrive when and as long as another program lets the camera send them. If that
     /// program changes the size or the layout of the images, the device is lost and opened again within about
-    /// a second, and the stream continues; images that do not fit into the buffers until then are incomplete.
+    /// a second, or later if the camera answers slowly, and the stream continues; images that do not fit into
+    /// the buffers until then are incomplete.
     ///
-    /// Returns CvxErrorAlreadyStarted if a stream of this device runs, CvxErrorNotWritable if the camera
-    /// sends its images only to the program that controls it and this device only watches,
-    /// CvxErrorNotAvailable if the camera has no stream, CvxErrorInUse if another program uses the stream,
-    /// CvxErrorNotFound if the producer does not know the stream any more, CvxErrorInvalidParameter,
-    /// CvxErrorDevice, CvxErrorFailed if there is no memory for the buffers, or CvxErrorTimeout if the camera
-    /// has not answered in time: its process is killed, and the device is lost. Blocks for at most 10 s.
+    /// Returns CvxErrorAlreadyStarted if a stream of this device runs, CvxErrorNotWritable if this device
+    /// only watches and the producer refuses it the stream, usually because the camera sends its images only
+    /// to the program that controls it; otherwise CvxErrorNotAvailable if the camera has no stream,
+    /// CvxErrorInUse if another program uses the stream, CvxErrorNotFound if the producer does not know the
+    /// stream any more, CvxErrorInvalidParameter, CvxErrorDevice, CvxErrorFailed if there is no memory for
+    /// the buffers, or CvxErrorTimeout if the camera has not answered in time: its process is killed, and the
+    /// device is lost. Blocks for at most 10 s.
     virtual CvxResult StartStream(unsigned buffers, StreamPolicy policy, std::shared_ptr<Stream> &stream) = 0;
 
     /// Registers an observer, which the device keeps until it is removed or the device is closed. Returns

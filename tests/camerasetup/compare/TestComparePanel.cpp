@@ -5,9 +5,9 @@
 #include "tools/camerasetup/compare/CopyActions.h"
 #include "tools/camerasetup/compare/DifferenceView.h"
 #include "tools/camerasetup/compare/ExportActions.h"
-#include "tools/camerasetup/compare/NoteListDialog.h"
 #include "tools/kit/camera/CameraFinder.h"
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/widgets/NoteListDialog.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,6 +17,7 @@
 #include <QDropEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
@@ -109,11 +110,15 @@ class TestComparePanel : public QObject
 private slots:
     void init() { CvxScripted::reset(); }
     void openingAndNowDifferInWhatWasChanged();
+    void nowIsReadAgainForEveryChoice();
+    void shownPanelReadsWhatIsMissing();
     void fileIsComparedAndCopiedToTheCamera();
+    void copyIsUndoneWithWhatTheCameraChanged();
     void onlyCheckedDifferencesAreCopied();
     void failuresOfACopyAreListed();
     void copyToAFileIsAskedAndKeepsTheRest();
     void userSetIsAskedAndRead();
+    void cancelledCopyLeavesTheUserSet();
     void closedCameraEndsTheWork();
     void comparisonIsExported();
     void droppedFileIsASide();
@@ -134,6 +139,31 @@ void TestComparePanel::openingAndNowDifferInWhatWasChanged()
     QVERIFY(!bench.copy->all->toolTip().isEmpty());
 }
 
+void TestComparePanel::nowIsReadAgainForEveryChoice()
+{
+    PanelBench bench;
+    QTRY_COMPARE_WITH_TIMEOUT(bench.opening.state(), OpeningSnapshot::State::Complete, hangTimeout);
+    for (const int width : {320, 200}) {
+        bench.setWidth(width);
+        bench.panel.compareWithOpening();
+        QVERIFY(bench.waitUntilDone());
+        QCOMPARE(bench.shown(), QStringList(QStringLiteral("Width: 640 px|%1 px").arg(width)));
+    }
+}
+
+void TestComparePanel::shownPanelReadsWhatIsMissing()
+{
+    PanelBench early; // The opening is not known yet.
+    PanelBench late;
+    QTRY_VERIFY_WITH_TIMEOUT(late.panel.session().isRead(CompareSession::Left), hangTimeout);
+    for (PanelBench *const bench : {&early, &late}) {
+        bench->panel.show();
+        const CompareSession &session = bench->panel.session();
+        QTRY_VERIFY_WITH_TIMEOUT(
+            session.isRead(CompareSession::Left) && session.isRead(CompareSession::Right), hangTimeout);
+    }
+}
+
 void TestComparePanel::fileIsComparedAndCopiedToTheCamera()
 {
     PanelBench bench;
@@ -151,6 +181,22 @@ void TestComparePanel::fileIsComparedAndCopiedToTheCamera()
     QCOMPARE(results.count(), 1);
     QCOMPARE(results.first().last().toString(), QStringLiteral("good"));
     QCOMPARE(bench.pauser.count, 1);
+}
+
+void TestComparePanel::copyIsUndoneWithWhatTheCameraChanged()
+{
+    PanelBench bench;
+    bench.bench.device().change([](ScriptedDevice &device) {
+        device.feature("Width").onWrite = [&device](NodeValue &) { device.set("ExposureTime", 50.0); };
+    });
+    bench.panel.compareWithFile(bench.writeFile("Width\t320\n"));
+    QVERIFY(bench.waitUntilDone());
+    bench.copy->all->trigger();
+    QVERIFY(bench.waitUntilDone());
+    QCOMPARE(bench.bench.value("ExposureTime"), NodeValue(50.0));
+    bench.history.undo();
+    QTRY_COMPARE_WITH_TIMEOUT(bench.bench.value("ExposureTime"), NodeValue(100.0), hangTimeout);
+    QTRY_COMPARE_WITH_TIMEOUT(bench.bench.value("Width"), NodeValue(std::int64_t(640)), hangTimeout);
 }
 
 void TestComparePanel::onlyCheckedDifferencesAreCopied()
@@ -214,6 +260,35 @@ void TestComparePanel::userSetIsAskedAndRead()
     QCOMPARE(bench.bench.value("UserSetSelector"), NodeValue("Default"));
     QCOMPARE(bench.pauser.count, 1);
     QCOMPARE(bench.history.entries().size(), 0);
+}
+
+void TestComparePanel::cancelledCopyLeavesTheUserSet()
+{
+    PanelBench bench;
+    QSignalSpy results(bench.copy, &CopyActions::finished);
+    bench.panel.session().choose({SideChoice::Kind::File, bench.writeFile("Width\t100\n")},
+        {SideChoice::Kind::UserSet, QStringLiteral("UserSet1")});
+    QVERIFY(bench.waitUntilDone());
+    QVERIFY(bench.shown().contains(QStringLiteral("Width: 100 px|320 px")));
+    QSemaphore go;
+    const auto wait = [&go](Device &, const FeatureProgress &) {
+        go.acquire();
+        return CvxResult();
+    };
+    bench.jobs.start(QStringLiteral("Other work"), CameraJobs::StreamUse::Keep, wait, &bench.panel, {});
+    bench.copy->all->trigger();
+    QVERIFY(bench.answer(QMessageBox::AcceptRole));
+    bench.panel.session().cancel();
+    go.release();
+    QVERIFY(bench.waitUntilDone());
+    QCOMPARE(results.first().first().toString(),
+        QStringLiteral("Nothing was copied: The copy was cancelled, so the user set was not changed."));
+    bench.copy->all->trigger();
+    QVERIFY(bench.answer(QMessageBox::AcceptRole));
+    QVERIFY(bench.waitUntilDone());
+    QCOMPARE(results.last().last().toString(), QStringLiteral("good"));
+    QVERIFY(!bench.shown().join(QLatin1Char(' ')).contains(QStringLiteral("Width")));
+    QCOMPARE(bench.bench.value("Width"), NodeValue(std::int64_t(640)));
 }
 
 void TestComparePanel::closedCameraEndsTheWork()

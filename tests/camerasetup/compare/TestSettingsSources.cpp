@@ -67,10 +67,13 @@ class TestSettingsSources : public QObject
 
 private slots:
     void userSetIsReadAndEverythingIsPutBack();
+    void visitPutsBackWhatNoFileContains();
     void whatCannotBePutBackIsReported();
+    void cameraThatIsLostStillHasTheSet();
     void failedUserSetIsLeftAndTheSettingsArePutBack();
     void cancelledVisitPutsBack();
     void userSetIsWritten();
+    void cancelledWriteSavesNothing();
     void otherCameraIsReadAndClosed();
     void otherCameraInUseIsWatched();
     void otherCameraInUseIsNotWritten();
@@ -95,6 +98,38 @@ void TestSettingsSources::userSetIsReadAndEverythingIsPutBack()
     QVERIFY(visit.notes.empty());
 }
 
+void TestSettingsSources::visitPutsBackWhatNoFileContains()
+{
+    TestDevice camera;
+    defineUserSetCamera(camera);
+    camera.add("Label", std::string());
+    camera.add("Probe", std::int64_t(1)).info.isStreamable = false;
+    camera.feature("UserSetLoad").onWrite = [&camera](NodeValue &) {
+        camera.set("Label", std::string("Of the set"));
+        camera.set("Probe", std::int64_t(5));
+    };
+    UserSetVisit visit;
+    QVERIFY(readUserSet(camera, "UserSet1", {{{}, "Probe", "2"}}, visit, {}));
+    QCOMPARE(valueOf(visit.content, "Probe"), std::string("5"));
+    QVERIFY(camera.changedValues().empty());
+    UserSetVisit writing;
+    QVERIFY(writeUserSet(camera, "UserSet1", {{{}, "Probe", "2"}}, writing, {}));
+    QCOMPARE(valueOf(writing.content, "Probe"), std::string("2"));
+    QVERIFY(camera.changedValues().empty());
+}
+
+void TestSettingsSources::cameraThatIsLostStillHasTheSet()
+{
+    TestDevice camera;
+    defineUserSetCamera(camera);
+    camera.feature("UserSetLoad").onWrite
+        = [&camera](NodeValue &) { camera.callsUntilLoss = camera.callCount + 3; };
+    UserSetVisit visit;
+    QCOMPARE(readUserSet(camera, "UserSet1", {}, visit, {}).code, CvxErrorDeviceLost);
+    QVERIFY(visit.isStillLoaded);
+    QVERIFY(visit.remaining.empty()); // Nobody knows them.
+}
+
 void TestSettingsSources::whatCannotBePutBackIsReported()
 {
     TestDevice camera;
@@ -106,6 +141,7 @@ void TestSettingsSources::whatCannotBePutBackIsReported()
     QCOMPARE(visit.remaining.front().before, std::optional<std::string>("640"));
     QCOMPARE(visit.remaining.front().after, std::string("600"));
     QVERIFY(hasNote(visit.notes, "Width"));
+    QVERIFY(!visit.isStillLoaded);
 }
 
 void TestSettingsSources::failedUserSetIsLeftAndTheSettingsArePutBack()
@@ -145,6 +181,20 @@ void TestSettingsSources::userSetIsWritten()
     UserSetVisit second;
     QVERIFY(readUserSet(camera, "UserSet1", {}, second, {}));
     QCOMPARE(valueOf(second.content, "Width"), std::string("100"));
+}
+
+void TestSettingsSources::cancelledWriteSavesNothing()
+{
+    TestDevice camera;
+    defineUserSetCamera(camera);
+    UserSetVisit visit;
+    const auto untilWritten = [&camera](std::size_t, std::size_t) {
+        return camera.value("Width") != NodeValue(std::int64_t(100));
+    };
+    QVERIFY(writeUserSet(camera, "UserSet1", {{{}, "Width", "100"}, {{}, "Gain", "2"}}, visit, untilWritten));
+    QVERIFY(visit.report.isCancelled && !visit.isSaved);
+    QCOMPARE(std::count(camera.writes.begin(), camera.writes.end(), "UserSetSave"), 0);
+    QVERIFY(camera.changedValues().empty());
 }
 
 void TestSettingsSources::otherCameraIsReadAndClosed()

@@ -5,6 +5,7 @@
 #include "tools/camerasetup/values/Favourites.h"
 #include "tools/camerasetup/values/OpeningSnapshot.h"
 #include "tools/camerasetup/values/PresentSelectors.h"
+#include "tools/kit/editors/HexView.h"
 #include "tools/kit/start/ToolSettings.h"
 
 #include <QClipboard>
@@ -36,13 +37,15 @@ void addFeatures(TestDevice &device)
 {
     addCategory(device, "Root", "");
     addCategory(device, "Analog", "Root");
+    addCategory(device, "Gains", "Analog");
     addChoice(device, "GainAuto", {"Off", "Continuous"}).info.displayName = "Automatic <gain>";
-    addNumber(device, "Gain", 1.0, 0.0, 10.0).info.category = "Analog";
+    addNumber(device, "Gain", 1.0, 0.0, 10.0).info.category = "Gains";
     device.feature("Gain").info.displayName = "The gain";
     device.feature("Gain").info.description = "Makes the picture brighter.";
     device.feature("Gain").state.lockReason = LockReason::LockedByNode;
     device.feature("Gain").state.lockingNode = "GainAuto";
     device.add("Width", std::int64_t(640));
+    device.add("Table", std::vector<std::uint8_t>(4)).state.maxLength = 4;
 }
 
 /// A shown pane and what it works with.
@@ -101,6 +104,7 @@ private slots:
     void linksLeadToOtherFeatures();
     void unknownFeatureShowsAHint();
     void featureStaysThroughALoss();
+    void typedBytesStayWhileAnotherFeatureIsShown();
 };
 
 void TestDetailsPane::featureIsDescribed()
@@ -108,7 +112,7 @@ void TestDetailsPane::featureIsDescribed()
     Pane pane;
     pane.pane.setFeature(text("Gain"));
     for (const char *const expected :
-        {"Root shown \u203a Analog shown", "The gain", "Gain", "Makes the picture brighter."})
+        {"Analog shown \u203a Gains shown", "The gain", "Gain", "Makes the picture brighter."})
         QVERIFY2(pane.labels().contains(text(expected)), expected);
     WAIT_FOR(pane.labels().contains(text("10"))); // The maximum.
     pane.pane.setFeature(text("Width"));
@@ -166,7 +170,7 @@ void TestDetailsPane::linksLeadToOtherFeatures()
 {
     Pane pane;
     QSignalSpy requests(&pane.pane, &DetailsPane::featureRequested);
-    pane.pane.setFeature(text("Analog"));
+    pane.pane.setFeature(text("Gains"));
     const auto labels = pane.pane.findChildren<QLabel *>();
     const auto link = std::find_if(labels.begin(), labels.end(),
         [](const QLabel *label) { return label->text().contains(text("href=\"Gain\"")); });
@@ -203,6 +207,33 @@ void TestDetailsPane::featureStaysThroughALoss()
     pane.bench.device().reopen();
     WAIT_FOR(pane.bench.client.state(text("Width"))); // The editor of the pane watches again.
     QVERIFY(pane.labels().contains(text("Width")));
+}
+
+void TestDetailsPane::typedBytesStayWhileAnotherFeatureIsShown()
+{
+    Pane pane;
+    const auto modified = [&pane] {
+        const auto *const view = pane.pane.findChild<HexView *>();
+        return view && view->isVisible() && view->bytes().isModified();
+    };
+    pane.pane.setFeature(text("Table"));
+    auto *const view = pane.pane.findChild<HexView *>();
+    WAIT_FOR(view && view->bytes().size() == 4 && !view->isReadOnly());
+    QCOMPARE(pane.pane.focusProxy(), view);
+    QTest::keyClicks(view, text("AB"));
+    pane.pane.setFeature(text("Width"));
+    QVERIFY(!view->isVisible());
+    pane.pane.setFeature(text("Table"));
+    QVERIFY(modified());
+    QCOMPARE(pane.pane.findChildren<HexView *>().size(), 1);
+
+    pane.pane.setFeature(text("Width"));
+    pane.bench.device().lose("The cable was unplugged.");
+    WAIT_FOR(!pane.bench.client.info(text("Table")));
+    pane.bench.device().reopen();
+    WAIT_FOR(pane.bench.client.info(text("Table")));
+    pane.pane.setFeature(text("Table"));
+    QVERIFY(!modified()); // The camera may be another one now.
 }
 
 QTEST_MAIN(TestDetailsPane)

@@ -75,6 +75,16 @@ void TestFeatureFacts::factsFollowTheType_data()
                                         QStringLiteral("Selects: Gain"),
                                         QStringLiteral("Problem: The camera does not answer.")};
 
+    NodeInfo absent = mode;
+    absent.selected.clear();
+    NodeState absentState;
+    absentState.access = NodeAccess::NotAvailable;
+    QTest::newRow("enumeration that is not available")
+        << absent << absentState
+        << QStringList{QStringLiteral("Type: Enumeration"),
+               QStringLiteral("Access: Not available at present"), QStringLiteral("Level: Guru"),
+               QStringLiteral("In settings files: No")};
+
     NodeInfo category;
     QTest::newRow("category") << category << NodeState()
                               << QStringList{

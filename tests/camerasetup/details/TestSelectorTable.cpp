@@ -1,81 +1,10 @@
-#include "tests/kit/editors/EditorBench.h"
-#include "tools/camerasetup/details/SelectorModel.h"
-#include "tools/camerasetup/details/SelectorTable.h"
-#include "tools/camerasetup/values/CameraJobs.h"
-#include "tools/camerasetup/values/ChangeHistory.h"
-#include "tools/camerasetup/values/OpeningSnapshot.h"
-#include "tools/camerasetup/values/PresentSelectors.h"
+#include "tests/camerasetup/details/TapsBench.h"
 
+#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
-#include <QTableView>
-#include <QtTest>
 
 using namespace CvxCPP;
-
-namespace {
-
-/// A camera with a gain and a mode for each of three taps of two heads.
-void addTaps(TestDevice &device)
-{
-    addChoice(device, "HeadSelector", {"Left", "Right"});
-    addChoice(device, "GainSelector", {"All", "Tap1", "Tap2"}).info.displayName = "Tap";
-    addNumber(device, "Gain", 1.0, 0.0, 10.0).info.displayName = "Gain of the tap";
-    addChoice(device, "GainAuto", {"Off", "Continuous"});
-    device.add("Width", std::int64_t(640));
-    device.select("HeadSelector", {"GainSelector"});
-    device.select("GainSelector", {"Gain", "GainAuto"});
-    device.feature("GainAuto").rule = [&device](NodeState &state) {
-        const bool isAll = device.ScriptedDevice::value("GainSelector") == NodeValue(std::string("All"));
-        state.lockReason = isAll ? LockReason::NotAvailable : LockReason::None;
-    };
-}
-
-/// A shown table.
-struct Taps
-{
-    explicit Taps(const EditorBench::Script &script = addTaps) : bench(script)
-    {
-        table.show();
-        if (!QTest::qWaitFor([this] { return selectors.of("Gain").has_value(); }, hangTimeout))
-            qFatal("The selectors are not read.");
-    }
-
-    void show(const char *feature)
-    {
-        table.setFeature(QString::fromLatin1(feature));
-        if (!QTest::qWaitFor([this] { return view->model()->columnCount() > 0; }, hangTimeout))
-            qFatal("The table is not read.");
-    }
-
-    QString cell(int row, int column) const { return view->model()->index(row, column).data().toString(); }
-
-    QStringList headers(Qt::Orientation orientation) const
-    {
-        QStringList texts;
-        const auto *const model = view->model();
-        const int count = orientation == Qt::Horizontal ? model->columnCount() : model->rowCount();
-        for (int section = 0; section < count; ++section)
-            texts.append(model->headerData(section, orientation).toString());
-        return texts;
-    }
-
-    EditorBench bench;
-    CameraJobs jobs{bench.connection};
-    PresentSelectors selectors{bench.client};
-    OpeningSnapshot opening{bench.client, selectors};
-    ChangeHistory history{bench.client, jobs, selectors, opening};
-    SelectorTable table{bench.client, jobs, selectors, history};
-    QTableView *view = table.findChild<QTableView *>();
-};
-
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 #define WAIT_FOR(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, hangTimeout)
 
@@ -89,10 +18,12 @@ private slots:
     void editedCellIsWrittenUnderItsSelectorValue();
     void refusedCellSaysWhy();
     void lockedCellSaysWhy();
-    void changeOfTheCameraIsShown();
-    void integerSelectorHasItsSteps();
     void rowLeadsToItsFeature();
-    void lostCameraEmptiesTheTable();
+    void listWritesOnlyWhatIsChosen();
+    void typedTextThatIsNoValueIsRefused();
+    void cellIsWrittenUnderTheOuterSelectorsOfItsRead();
+    void streamIsPausedAfterAQuestion();
+    void keyLeadsToTheFeatureOfALockedCell();
 };
 
 void TestSelectorTable::allValuesStandSideBySide()
@@ -167,38 +98,9 @@ void TestSelectorTable::lockedCellSaysWhy()
     taps.show("Gain");
     const QAbstractItemModel &model = *taps.view->model();
     QVERIFY(!(model.index(1, 0).flags() & Qt::ItemIsEditable));
+    QVERIFY(model.index(1, 0).data(Qt::ForegroundRole).isValid());
     QCOMPARE(model.index(1, 0).data(Qt::ToolTipRole).toString(), text("Not available at present."));
     QVERIFY(model.index(1, 1).flags() & Qt::ItemIsEditable);
-}
-
-void TestSelectorTable::changeOfTheCameraIsShown()
-{
-    Taps taps;
-    taps.show("Gain");
-    WAIT_FOR(taps.bench.client.state(text("Gain")));
-    taps.bench.device().setByCamera("Gain", 7.0);
-    WAIT_FOR(taps.cell(0, 0) == text("7"));
-    const std::size_t reads = taps.bench.device().calls("ReadStates").size();
-    taps.table.hide();
-    taps.bench.device().setByCamera("Gain", 8.0);
-    taps.bench.waitForCalls();
-    taps.bench.waitForCalls();
-    QCOMPARE(taps.bench.device().calls("ReadStates").size(), reads); // A hidden table does not read.
-    QCOMPARE(taps.cell(0, 0), text("7"));
-}
-
-void TestSelectorTable::integerSelectorHasItsSteps()
-{
-    Taps taps([](TestDevice &device) {
-        addTaps(device);
-        addNumber(device, "Index", std::int64_t(4), std::int64_t(2), std::int64_t(7)).state.increment
-            = std::int64_t(2);
-        device.add("Entry", std::int64_t(5));
-        device.select("Index", {"Entry"});
-    });
-    taps.show("Entry");
-    QCOMPARE(taps.headers(Qt::Horizontal), (QStringList{text("2"), text("4"), text("6")}));
-    QVERIFY(taps.bench.value("Index") == NodeValue(std::int64_t(4)));
 }
 
 void TestSelectorTable::rowLeadsToItsFeature()
@@ -210,14 +112,99 @@ void TestSelectorTable::rowLeadsToItsFeature()
     QCOMPARE(requests.value(0).value(0).toString(), text("GainAuto"));
 }
 
-void TestSelectorTable::lostCameraEmptiesTheTable()
+void TestSelectorTable::listWritesOnlyWhatIsChosen()
+{
+    Taps taps([](TestDevice &device) {
+        addTaps(device);
+        device.set("GainSelector", std::string("Tap1"));
+        device.set("GainAuto", std::string("Once")); // Only the camera itself can set it.
+        device.set("GainSelector", std::string("All"));
+    });
+    taps.show("Gain");
+    auto *box = taps.edit<QComboBox>(1, 1);
+    QVERIFY(box);
+    QCOMPARE(box->currentIndex(), -1);
+    QTest::keyClick(box, Qt::Key_Return);
+    taps.bench.waitForCalls();
+    QVERIFY(taps.bench.device().writtenValues("GainAuto").empty());
+
+    box = taps.edit<QComboBox>(1, 2);
+    QCOMPARE(box->currentText(), text("Off shown"));
+    box->setCurrentIndex(1);
+    WAIT_FOR(taps.bench.client.state(text("Gain")));
+    taps.bench.device().setByCamera("Gain", 7.0);
+    WAIT_FOR(taps.cell(0, 0) == text("7"));
+    QCOMPARE(box->currentIndex(), 1); // The refresh has not replaced what was chosen.
+    QTest::keyClick(box, Qt::Key_Return);
+    WAIT_FOR(taps.cell(1, 2) == text("Continuous shown"));
+}
+
+void TestSelectorTable::typedTextThatIsNoValueIsRefused()
 {
     Taps taps;
     taps.show("Gain");
-    taps.bench.device().lose("The cable was unplugged.");
-    WAIT_FOR(taps.view->model()->columnCount() == 0);
-    taps.bench.device().reopen();
-    WAIT_FOR(taps.view->model()->columnCount() == 3);
+    auto *const line = taps.edit<QLineEdit>(0, 2);
+    line->selectAll();
+    QTest::keyClicks(line, text("4 apples"));
+    QTest::keyClick(line, Qt::Key_Return);
+    WAIT_FOR(taps.says(text("\"4 apples\" is no value of Gain of the tap.")));
+    QVERIFY(taps.bench.device().writtenValues("Gain").empty());
+}
+
+void TestSelectorTable::cellIsWrittenUnderTheOuterSelectorsOfItsRead()
+{
+    Taps taps([](TestDevice &device) {
+        addTaps(device);
+        device.select("HeadSelector", {"Gain"});
+    });
+    taps.show("Gain");
+    // The table does not know of this yet.
+    taps.bench.device().change(
+        [](ScriptedDevice &device) { device.set("HeadSelector", std::string("Right")); });
+    taps.change(0, 1, 4.5);
+    WAIT_FOR(!taps.bench.device().writtenValues("Gain").empty());
+    taps.bench.waitForCalls();
+    QVERIFY(taps.bench.value("HeadSelector") == NodeValue(std::string("Right")));
+    taps.bench.device().change([](ScriptedDevice &device) {
+        device.set("HeadSelector", std::string("Left"));
+        device.set("GainSelector", std::string("Tap1"));
+    });
+    QVERIFY(taps.bench.value("Gain") == NodeValue(4.5));
+}
+
+void TestSelectorTable::streamIsPausedAfterAQuestion()
+{
+    Taps taps([](TestDevice &device) {
+        addTaps(device);
+        device.feature("Gain").state.lockReason = LockReason::StreamRunning;
+    });
+    TestPauser pauser(taps.bench);
+    pauser.onStop
+        = [](ScriptedDevice &device) { device.feature("Gain").state.lockReason = LockReason::None; };
+    taps.jobs.setStreamPauser(&pauser);
+    taps.show("Gain");
+    taps.change(0, 2, 4.5);
+    QVERIFY(taps.button(text("Stop, set, start")));
+    taps.bench.waitForCalls();
+    QCOMPARE(pauser.count, 0);
+    taps.button(text("Stop, set, start"))->click();
+    WAIT_FOR(taps.cell(0, 2) == text("4.5"));
+    QCOMPARE(pauser.count, 1);
+    QVERIFY(!taps.button(text("Stop, set, start")));
+}
+
+void TestSelectorTable::keyLeadsToTheFeatureOfALockedCell()
+{
+    Taps taps;
+    taps.show("Gain");
+    QSignalSpy requests(&taps.table, &SelectorTable::featureRequested);
+    taps.table.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&taps.table, hangTimeout));
+    taps.view->setFocus();
+    taps.view->setCurrentIndex(taps.view->model()->index(0, 0));
+    QTest::keyClick(taps.view, Qt::Key_Down);
+    QTest::keyClick(taps.view, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(requests.value(0).value(0).toString(), text("GainAuto"));
 }
 
 QTEST_MAIN(TestSelectorTable)

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSemaphore>
@@ -107,6 +108,8 @@ private slots:
 void TestLoadDialog::planShowsWhatWouldChangeAndBadLines()
 {
     DialogBench bench(otherProgramsFile);
+    QCOMPARE(tableRows(bench.dialog).size(), 7);
+    child<QCheckBox>(bench.dialog, "onlyChanges")->setChecked(false);
     QCOMPARE(tableRows(bench.dialog),
         QStringList({QStringLiteral("9|||||The line cannot be read. ")
                 + QString::fromStdString(parsedFile(otherProgramsFile).problems.front().text),
@@ -119,8 +122,6 @@ void TestLoadDialog::planShowsWhatWouldChangeAndBadLines()
             QStringLiteral("11|FrameRate|25|25||Already so.")}));
     QVERIFY2(
         bench.summary().contains(QStringLiteral("4 setting(s) will change.")), qPrintable(bench.summary()));
-    child<QCheckBox>(bench.dialog, "onlyChanges")->setChecked(true);
-    QCOMPARE(tableRows(bench.dialog).size(), 7);
     QCOMPARE(bench.changed(), QStringList());
     QCOMPARE(bench.bench.pauser.count, 1);
 }
@@ -210,6 +211,13 @@ void TestLoadDialog::lostCameraLeavesTheUndo()
     bench.go.release();
     bench.waitFor(State::Failed);
     QCOMPARE(bench.summary(), QStringLiteral("The camera is lost."));
+    bench.click("undo"); // The camera is still gone, and the backup must survive that.
+    bench.waitFor(State::Undoing);
+    bench.waitFor(State::Failed);
+    QVERIFY(child<QPushButton>(bench.dialog, "undo")->isEnabled());
+    bench.click("close"); // Without the dialog, nobody knows what to put back.
+    QVERIFY(bench.dialog.isVisible());
+    child<QMessageBox>(bench.dialog, "question")->reject();
     device.reopen();
     QTRY_VERIFY_WITH_TIMEOUT(bench.bench.camera.connection.isControlled(), hangTimeout);
     bench.click("undo");

@@ -9,9 +9,9 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 #include <QtTest>
 
 using namespace CvxCPP;
@@ -92,7 +92,7 @@ void TestSettingsActions::savesToTheChosenFileAndShowsNotes()
     QMetaObject::invokeMethod(files, "accept");
     auto *const notes = bench.dialog<QDialog>("notes");
     QVERIFY(notes);
-    QVERIFY(notes->findChild<QPlainTextEdit *>()->toPlainText().contains(
+    QVERIFY(notes->findChild<QTreeWidget *>()->topLevelItem(0)->text(1).contains(
         QStringLiteral("DeviceUserID is an empty text")));
     const QByteArray content = contentOf(bench.path("mine.txt"));
     QVERIFY2(

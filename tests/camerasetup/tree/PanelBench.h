@@ -32,7 +32,10 @@ inline void addPanelFeatures(TestDevice &device)
     device.add("ReverseX", false);
     device.addCommand("Reset");
     device.add("Width", std::int64_t(640)).state.lockReason = LockReason::StreamRunning;
-    for (const char *const name : {"Gain", "ExposureAuto", "ExposureTime", "ReverseX", "Reset", "Width"})
+    device.add("UserText", std::string("Line 1"));
+    device.add("Table", std::vector<std::uint8_t>{1, 2});
+    for (const char *const name :
+        {"Gain", "ExposureAuto", "ExposureTime", "ReverseX", "Reset", "Width", "UserText", "Table"})
         device.feature(name).info.category = "Control";
     device.feature("Gain").info.visibility = NodeVisibility::Guru;
     device.feature("ExposureAuto").info.displayName = "Automatic Exposure";

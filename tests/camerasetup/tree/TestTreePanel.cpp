@@ -1,7 +1,9 @@
 #include "tests/camerasetup/tree/PanelBench.h"
 #include "tools/camerasetup/tree/InPlaceEditor.h"
+#include "tools/kit/editors/EditorNote.h"
 
 #include <QComboBox>
+#include <QPushButton>
 #include <QScrollBar>
 
 using namespace CvxCPP;
@@ -29,11 +31,14 @@ private slots:
     void treeStaysWhileTheCameraIsLost();
     void onlyVisibleRowsAreRead();
     void valueIsEditedInItsCell();
+    void textIsEditedInItsCell();
     void typedTextIsKeptUntilItIsGivenUp();
     void keysChangeWithoutEditor();
     void enumerationIsChosenFromItsList();
     void lockedFeatureSaysWhy();
     void streamIsPausedForAChange();
+    void escapeClosesTheEditorAfterAFailedPause();
+    void registerLeadsToTheDetails();
     void onlyForeignChangesAreMarked();
     void searchOpensAndRestoresTheTree();
     void hiddenFeatureCanBeShown();
@@ -113,6 +118,19 @@ void TestTreePanel::valueIsEditedInItsCell()
     press(bench.view, Qt::Key_Escape);
     QVERIFY(bench.waitForClosedEditor());
     QCOMPARE(bench.value("Number3"), NodeValue(std::int64_t(42)));
+}
+
+void TestTreePanel::textIsEditedInItsCell()
+{
+    PanelBench bench;
+    QVERIFY(bench.select("UserText"));
+    QTest::keyClick(&bench.view, Qt::Key_F2);
+    QVERIFY(bench.view.openEditor());
+    type(bench.view, QStringLiteral("Line 2"));
+    press(bench.view, Qt::Key_Return);
+    QVERIFY(bench.waitForClosedEditor());
+    QCOMPARE(bench.value("UserText"), NodeValue("Line 2"));
+    QCOMPARE(bench.valueOf("UserText"), QStringLiteral("Line 2"));
 }
 
 void TestTreePanel::typedTextIsKeptUntilItIsGivenUp()
@@ -202,6 +220,41 @@ void TestTreePanel::streamIsPausedForAChange()
     QVERIFY(bench.waitForClosedEditor());
     QCOMPARE(pauser.count, 1);
     QCOMPARE(bench.value("Width"), NodeValue(std::int64_t(320)));
+}
+
+void TestTreePanel::escapeClosesTheEditorAfterAFailedPause()
+{
+    PanelBench bench;
+    TestPauser pauser(bench); // The feature stays locked, so the write fails.
+    bench.panel.setStreamPauser(&pauser);
+    QVERIFY(bench.select("Width"));
+    QTest::keyClick(&bench.view, Qt::Key_F2);
+    type(bench.view, QStringLiteral("320"));
+    press(bench.view, Qt::Key_Return);
+    auto *const note = bench.view.openEditor()->findChild<EditorNote *>();
+    QTRY_VERIFY_WITH_TIMEOUT(note->isQuestion(), hangTimeout);
+    const auto buttons = note->findChildren<QPushButton *>();
+    auto *const accept = *std::find_if(
+        buttons.begin(), buttons.end(), [](const QPushButton *button) { return button->isVisible(); });
+    accept->setFocus();
+    QTest::keyClick(accept, Qt::Key_Space);
+    QTRY_COMPARE_WITH_TIMEOUT(pauser.count, 1, hangTimeout);
+    bench.waitForCalls();
+    QTRY_VERIFY_WITH_TIMEOUT(
+        bench.view.openEditor() && !note->isQuestion() && !note->text().isEmpty(), hangTimeout);
+    QVERIFY(bench.view.openEditor()->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(bench.waitForClosedEditor());
+}
+
+void TestTreePanel::registerLeadsToTheDetails()
+{
+    PanelBench bench;
+    QSignalSpy requests(&bench.panel, &TreePanel::detailsRequested);
+    QVERIFY(bench.select("Table"));
+    QTest::keyClick(&bench.view, Qt::Key_Return);
+    QCOMPARE(requests.count(), 1);
+    QVERIFY(!bench.view.openEditor());
 }
 
 void TestTreePanel::onlyForeignChangesAreMarked()

@@ -269,13 +269,8 @@ void TestChangeHistory::undoesSeveralFeatures()
         device.set("ExposureTime", 500.0);
         device.set("ExposureAuto", std::string("Continuous")); // Locks the exposure time.
     });
-    LoadReport report;
-    const FeatureChange unchanged{{{}, "OffsetX", "0", 1}, "0", "0", FeatureOutcome::Unchanged, {}};
-    const FeatureChange changed{{{}, "Width", "800", 2}, "640", "800", FeatureOutcome::Changed, {}};
-    report.changes = {unchanged, changed};
-    report.changes.push_back({{{}, "ExposureTime", "500", 3}, "10000", "500", FeatureOutcome::Changed, {}});
-    bench.history.addLoad(QStringLiteral("Load a.txt"), report);
-    QCOMPARE(bench.history.entries()[0].edits.size(), std::size_t(2));
+    bench.history.addEdits(
+        QStringLiteral("Load a.txt"), {{{}, "Width", "640", "800"}, {{}, "ExposureTime", "10000", "500"}});
     QVERIFY(bench.opening.isChanged(width));
     undo(bench);
     QCOMPARE(bench.bench.value("Width"), NodeValue(std::int64_t(640)));

@@ -102,7 +102,9 @@ QJsonObject describe(const QWidget &widget)
     };
     if (const auto *menu = qobject_cast<const QMenu *>(&widget))
         object.insert(QStringLiteral("actions"), actionsOf(*menu));
-    if (const auto *table = qobject_cast<const QTableWidget *>(&widget)) {
+    // Tables of tools may have cells without items.
+    const auto *table = qobject_cast<const QTableWidget *>(&widget);
+    if (table && table->objectName() == QStringLiteral("cameraTable")) {
         object.insert(QStringLiteral("columns"), columnsOf(*table));
         object.insert(QStringLiteral("rows"), rowsOf(*table));
     }

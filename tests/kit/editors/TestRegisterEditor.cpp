@@ -2,6 +2,7 @@
 #include "tools/kit/editors/HexText.h"
 #include "tools/kit/editors/HexView.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -114,6 +115,11 @@ private slots:
     void mousePlacesTheCursor();
     void narrowViewHasShorterRows();
     void lossDropsTheEdit();
+    void unreadableRegisterIsNotWritten();
+    void writeOnlyRegisterBeginsWithZeros();
+    void hugeLengthIsNotBelieved();
+    void undoTakesBackWhatWasTyped();
+    void keysWithAltBelongToTheWindow();
 };
 
 void TestRegisterEditor::typedDigitsAndCharactersAreWrittenTogether()
@@ -344,6 +350,96 @@ void TestRegisterEditor::lossDropsTheEdit()
     WAIT_FOR(!table.editor->isEditable());
     QCOMPARE(table.shown(0, 2), QStringLiteral("00 01"));
     QCOMPARE(table.buttons(), QStringList());
+}
+
+void TestRegisterEditor::unreadableRegisterIsNotWritten()
+{
+    TableEditor table;
+    WAIT_FOR(table.editor->isEditable());
+    table.bench.device().change([](ScriptedDevice &device) {
+        device.feature("Table").rule = [](NodeState &state) {
+            state.value = {};
+            state.problem = "The camera does not answer.";
+        };
+    });
+    table.bench.device().notifyNodes({"Table"});
+    WAIT_FOR(table.view->isReadOnly());
+    QTest::keyClicks(table.view, QStringLiteral("AA"));
+    QCOMPARE(table.shown(0, 2), QStringLiteral("00 01")); // No zeros instead of what was read before.
+    table.press(Qt::Key_Return, Qt::ControlModifier);
+    table.bench.device().change([](ScriptedDevice &device) { device.feature("Table").rule = {}; });
+    table.bench.device().notifyNodes({"Table"});
+    WAIT_FOR(!table.view->isReadOnly());
+    QCOMPARE(table.buttons(), QStringList());
+    QVERIFY(table.bench.device().writtenValues("Table").empty());
+}
+
+void TestRegisterEditor::writeOnlyRegisterBeginsWithZeros()
+{
+    TableEditor table([](TestDevice &device) {
+        addTable(device);
+        device.feature("Table").rule = [](NodeState &state) {
+            state.value = {};
+            state.access = NodeAccess::WriteOnly;
+        };
+    });
+    WAIT_FOR(table.buttons() == QStringList{QStringLiteral("Write")});
+    QCOMPARE(table.view->bytes().shown(), Bytes(32));
+    table.press(Qt::Key_Return, Qt::ControlModifier);
+    WAIT_FOR(table.bench.device().writtenValues("Table") == std::vector<NodeValue>{Bytes(32)});
+}
+
+void TestRegisterEditor::hugeLengthIsNotBelieved()
+{
+    TableEditor table([](TestDevice &device) {
+        addTable(device);
+        device.feature("Table").rule = [](NodeState &state) {
+            state.value = {};
+            state.access = NodeAccess::WriteOnly;
+            state.maxLength = std::int64_t(1) << 40;
+        };
+    });
+    WAIT_FOR(table.editor->isEditable());
+    QVERIFY(table.view->isReadOnly());
+    QCOMPARE(table.view->bytes().size(), std::size_t(0));
+    QCOMPARE(table.buttons(), QStringList());
+}
+
+void TestRegisterEditor::undoTakesBackWhatWasTyped()
+{
+    TableEditor table;
+    QAction undo;
+    undo.setShortcut(QKeySequence::Undo);
+    table.editor->addAction(&undo);
+    QSignalSpy undone(&undo, &QAction::triggered);
+    WAIT_FOR(table.editor->isEditable());
+    QTest::keyClicks(table.view, QStringLiteral("AA"));
+    table.press(Qt::Key_Down);
+    QTest::keyClicks(table.view, QStringLiteral("B"));
+    table.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(table.shown(17, 1), QStringLiteral("11"));
+    QCOMPARE(table.shown(0, 2), QStringLiteral("AA 01"));
+    table.press(Qt::Key_Z, Qt::ControlModifier);
+    table.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(table.shown(0, 2), QStringLiteral("00 01"));
+    QCOMPARE(table.view->cursor(), std::size_t(0));
+    QVERIFY(!table.view->bytes().isModified());
+    QCOMPARE(undone.count(), 0);
+    table.press(Qt::Key_Z, Qt::ControlModifier); // Nothing was typed, so the window undoes.
+    QCOMPARE(undone.count(), 1);
+}
+
+void TestRegisterEditor::keysWithAltBelongToTheWindow()
+{
+    TableEditor table;
+    QAction panel;
+    panel.setShortcut(Qt::ALT + Qt::Key_1);
+    table.editor->addAction(&panel);
+    QSignalSpy shown(&panel, &QAction::triggered);
+    WAIT_FOR(table.editor->isEditable());
+    table.press(Qt::Key_1, Qt::AltModifier);
+    QCOMPARE(shown.count(), 1);
+    QCOMPARE(table.shown(0, 1), QStringLiteral("00"));
 }
 
 QTEST_MAIN(TestRegisterEditor)

@@ -1,6 +1,7 @@
 #include "tools/camerasetup/compare/CameraSource.h"
 
 #include "tools/camerasetup/values/ChangeHistory.h"
+#include "tools/camerasetup/values/SettingsChange.h"
 
 using namespace CvxCPP;
 
@@ -31,15 +32,19 @@ QString CameraSource::readOnlyReason() const
 void CameraSource::write(const std::vector<FeatureSetting> &settings, const WriteDone &done)
 {
     const auto writing = std::make_shared<SourceWriting>();
-    const auto work = [writing, settings](Device &device, const FeatureProgress &progress) {
+    const auto change = std::make_shared<SettingsChange>();
+    const auto work = [writing, change, settings](Device &device, const FeatureProgress &progress) {
         FeatureFile file;
         file.settings = settings;
-        return loadFeatures(device, file, writing->report, progress);
+        const auto load
+            = [&](const FeatureProgress &part) { return loadFeatures(device, file, writing->report, part); };
+        return recordChange(device, settings, load, *change, progress);
     };
     m_job.start(tr("Copying to this camera"), CameraJobs::StreamUse::Pause, work,
-        [this, writing, done](const CvxResult &result) {
+        [this, writing, change, done](const CvxResult &result) {
             writing->problem = result ? QString() : QString::fromStdString(result.text);
-            m_history.addLoad(tr("Copy of differences"), writing->report);
+            writing->report.isCancelled = writing->report.isCancelled || change->before.isCancelled;
+            m_history.addEdits(tr("Copy of differences"), change->edits);
             done(*writing);
         });
 }

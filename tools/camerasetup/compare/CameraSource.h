@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/camerasetup/compare/CompareJob.h"
 #include "tools/camerasetup/compare/SettingsSource.h"
+#include "tools/camerasetup/values/LastingJob.h"
 
 #include <QCoreApplication>
 
@@ -27,5 +27,5 @@ public:
 private:
     CameraConnection &m_connection;
     ChangeHistory &m_history;
-    CompareJob m_job;
+    LastingJob m_job;
 };

@@ -10,6 +10,7 @@
 #include "tools/kit/start/ToolIcons.h"
 #include "tools/kit/start/ToolSettings.h"
 #include "tools/kit/widgets/Message.h"
+#include "tools/kit/widgets/Messages.h"
 
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -133,7 +134,8 @@ void ComparePanel::connectParts()
     connect(&m_session, &CompareSession::compared, this, &ComparePanel::showComparison);
     connect(&m_parts.jobs, &CameraJobs::changed, this, &ComparePanel::showProgress);
     connect(&m_parts.finder, &CameraFinder::changed, this, &ComparePanel::showSession);
-    connect(&m_parts.client, &FeatureClient::nodesLoaded, this, &ComparePanel::readNewCamera);
+    connect(&m_parts.client, &FeatureClient::nodesLoaded, this, &ComparePanel::readNewSides);
+    connect(&m_parts.opening, &OpeningSnapshot::stateChanged, this, &ComparePanel::readNewSides);
     m_parts.client.watch({userSetSelector()});
     connect(&m_parts.client, &FeatureClient::stateChanged, this, &ComparePanel::followUserSets);
 }
@@ -192,13 +194,9 @@ void ComparePanel::askAndRun(const QString &question, const std::function<void()
         action();
         return;
     }
-    auto *const box
-        = new QMessageBox(QMessageBox::Question, tr("Compare settings"), question, QMessageBox::Cancel, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    const auto *const button = box->addButton(tr("Load the user set"), QMessageBox::AcceptRole);
-    connect(button, &QPushButton::clicked, this, action);
-    connect(box, &QMessageBox::rejected, this, &ComparePanel::showSession); // The box shows the old choice.
-    box->open();
+    m_question
+        = askToOverwrite(this, tr("Compare settings"), question, tr("&Load the user set"), this, action);
+    connect(m_question, &QMessageBox::rejected, this, &ComparePanel::readNewSides); // Shows the old choice.
 }
 
 void ComparePanel::chooseFile(CompareSession::Side side)
@@ -223,19 +221,17 @@ void ComparePanel::takeFile(CompareSession::Side side, const QString &path)
 void ComparePanel::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    readNewCamera();
+    // Queued, because whoever shows the panel may choose other sides at once.
+    QMetaObject::invokeMethod(this, &ComparePanel::readNewSides, Qt::QueuedConnection);
 }
 
-/// Reads both sides of a camera that is shown for the first time. A user set is only read on request.
-void ComparePanel::readNewCamera()
+/// Reads what was not read yet, for example of a new camera. A user set is only read on request.
+void ComparePanel::readNewSides()
 {
     showSession();
-    bool canRead = isVisible() && !m_session.isBusy() && m_parts.client.connection().device();
-    for (const CompareSession::Side side : bothSides)
-        canRead = canRead && !m_session.isRead(side) && m_session.problem(side).isEmpty()
-            && m_session.choice(side).kind != SideChoice::Kind::UserSet;
-    if (canRead)
-        m_session.refresh();
+    const bool isAsking = m_question && m_question->isVisible();
+    if (isVisible() && !isAsking && m_parts.client.connection().device())
+        m_session.readNew();
 }
 
 void ComparePanel::dragEnterEvent(QDragEnterEvent *event)

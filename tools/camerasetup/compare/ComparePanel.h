@@ -5,6 +5,7 @@
 #include "tools/camerasetup/values/ChangeHistory.h"
 #include "tools/camerasetup/values/OpeningSnapshot.h"
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -17,6 +18,7 @@ class DifferenceView;
 class ExportActions;
 class FeatureClient;
 class QLabel;
+class QMessageBox;
 class QProgressBar;
 class QPushButton;
 class QToolButton;
@@ -77,7 +79,7 @@ private:
     void choose(const SideChoice &left, const SideChoice &right);
     void refresh();
     void askAndRun(const QString &question, const std::function<void()> &action);
-    void readNewCamera();
+    void readNewSides();
     void followUserSets(const QString &feature);
     void showSession();
     void showSide(CompareSession::Side side);
@@ -97,4 +99,5 @@ private:
     QPushButton *m_cancel = nullptr;
     QProgressBar *m_progress = nullptr;
     QLabel *m_message = nullptr;
+    QPointer<QMessageBox> m_question;
 };

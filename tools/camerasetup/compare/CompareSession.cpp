@@ -53,22 +53,35 @@ void CompareSession::choose(const SideChoice &left, const SideChoice &right)
     for (const Side side : {Left, Right}) {
         if (m_sides[side].choice != choices[side])
             setChoice(side, choices[side]);
-        if (!m_sides[side].isRead)
+        if (!m_sides[side].isRead || choices[side].kind == Kind::Now)
             m_toRead.push_back(side);
     }
     addStaleSides();
     startReading();
 }
 
-/// Reads a camera again for a new file, which may contain features that were not read before.
+void CompareSession::readNew()
+{
+    if (m_isBusy)
+        return;
+    for (const Side side : {Left, Right}) {
+        const SideState &state = m_sides[side];
+        const bool isUntried = state.problem.isEmpty() && state.choice.kind != Kind::UserSet;
+        if (!state.isRead && (isUntried || state.choice.kind == Kind::Opening))
+            m_toRead.push_back(side);
+    }
+    if (!m_toRead.empty())
+        startReading();
+}
+
+/// Reads another camera again for a new file, which may contain features that were not read before.
 void CompareSession::addStaleSides()
 {
     const std::deque<Side> added = m_toRead;
     for (const Side side : added) {
         const Side other = side == Left ? Right : Left;
-        const Kind kind = m_sides[other].choice.kind;
-        const bool canRead = kind == Kind::Now || kind == Kind::OtherCamera;
-        if (m_sides[side].choice.kind == Kind::File && canRead && added.size() == 1)
+        const bool isCamera = m_sides[other].choice.kind == Kind::OtherCamera;
+        if (m_sides[side].choice.kind == Kind::File && isCamera && added.size() == 1)
             m_toRead.push_back(other);
     }
 }

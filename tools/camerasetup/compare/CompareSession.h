@@ -60,8 +60,13 @@ public:
     /// nothing.
     QString readQuestion(const SideChoice &left, const SideChoice &right, Reread reread) const;
 
-    /// Chooses both sides and reads those that are new. Has no effect while the session is busy.
+    /// Chooses both sides and reads those that are new, and this camera now. Has no effect while the session
+    /// is busy.
     void choose(const SideChoice &left, const SideChoice &right);
+
+    /// Reads the sides that nobody has tried to read, except user sets, and the opening as soon as it is
+    /// known. Has no effect while the session is busy.
+    void readNew();
 
     void refresh(); ///< Reads both sides again.
     void swapSides(); ///< Reads nothing.

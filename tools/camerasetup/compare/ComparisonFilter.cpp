@@ -48,8 +48,8 @@ QString ComparisonCounts::summary(const ComparisonFilter &filter) const
 {
     const QString numbers = different == 0
         ? translated(QT_TRANSLATE_N_NOOP("ComparisonCounts", "No difference in %n setting(s)."), all)
-        : translated(QT_TRANSLATE_N_NOOP("ComparisonCounts", "%1 of %n setting(s) differ."), all)
-              .arg(different);
+        : translated(QT_TRANSLATE_N_NOOP("ComparisonCounts", "%n of %1 setting(s) differ."), different)
+              .arg(all);
     if (ignorable == 0)
         return numbers;
     const QString besides = filter.isIgnorableShown

@@ -1,12 +1,11 @@
 #include "tools/camerasetup/compare/CopyActions.h"
 
-#include "tools/camerasetup/compare/NoteListDialog.h"
 #include "tools/camerasetup/compare/SettingTexts.h"
+#include "tools/kit/widgets/Messages.h"
+#include "tools/kit/widgets/NoteListDialog.h"
 
 #include <QAction>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
 
 namespace {
 
@@ -82,18 +81,16 @@ void CopyActions::ask(const Rows &rows)
         m_session.copy(settings);
         return;
     }
-    auto *const box = new QMessageBox(
-        QMessageBox::Question, tr("Copy differences"), question, QMessageBox::Cancel, m_window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    const auto *const button = box->addButton(tr("Write"), QMessageBox::AcceptRole);
-    connect(button, &QPushButton::clicked, this, [this, settings] { m_session.copy(settings); });
-    box->open();
+    askToOverwrite(m_window, tr("Copy differences"), question, tr("&Write"), this,
+        [this, settings] { m_session.copy(settings); });
 }
 
 void CopyActions::takeResult(const SourceWriting &writing)
 {
     if (!writing.problem.isEmpty()) {
-        emit finished(tr("Nothing was copied: %1").arg(writing.problem), QStringLiteral("error"));
+        const QString text = writing.report.isApplied ? tr("The copy has failed after a part of it: %1")
+                                                      : tr("Nothing was copied: %1");
+        emit finished(text.arg(writing.problem), QStringLiteral("error"));
         return;
     }
     const LoadReport &report = writing.report;

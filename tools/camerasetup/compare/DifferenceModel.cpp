@@ -1,6 +1,7 @@
 #include "tools/camerasetup/compare/DifferenceModel.h"
 
 #include "tools/camerasetup/compare/SettingTexts.h"
+#include "tools/kit/widgets/ToolTip.h"
 
 #include <QColor>
 
@@ -170,7 +171,7 @@ QVariant DifferenceModel::rowData(std::size_t number, int column, int role) cons
     case Qt::ForegroundRole:
         return colour(row, column);
     case Qt::ToolTipRole:
-        return toolTip(row, column);
+        return plainToolTip(toolTip(row, column));
     case Qt::AccessibleTextRole:
         return column == FeatureColumn
             ? tr("%1; left: %2; right: %3")

@@ -34,7 +34,7 @@ void OtherCameraSource::read(const std::vector<FeatureSetting> &others, const Re
 {
     const auto reading = std::make_shared<SourceReading>();
     const auto task = std::make_shared<Task>();
-    task->canWatch = true;
+    task->isRead = true;
     task->work = [reading, others](Device &device, const FeatureProgress &progress) {
         return readSnapshot(device, others, reading->snapshot, progress);
     };
@@ -99,7 +99,7 @@ void OtherCameraSource::followConnection()
         return;
     if (m_connection.state() == State::Open)
         runTask();
-    else if (m_connection.state() == State::InUse && m_task->canWatch
+    else if (m_connection.state() == State::InUse && m_task->isRead
         && m_connection.access() != CvxAccessWatch)
         m_connection.open(m_camera, CvxAccessWatch);
     else if (m_connection.state() == State::InUse || m_connection.state() == State::Failed
@@ -119,17 +119,29 @@ void OtherCameraSource::runTask()
 
 void OtherCameraSource::takeResult(const std::shared_ptr<Task> &task, const CvxResult &result)
 {
-    if (task == m_task) // Otherwise, the task was given up.
-        finish(result ? QString() : QString::fromStdString(result.text));
+    if (task != m_task)
+        return; // It was finished already.
+    if (!result)
+        finish(QString::fromStdString(result.text));
+    else
+        finish(task->isLate && task->isRead ? lateText() : QString()); // What was written is in the report.
 }
 
+/// Cancels the work, which ends at the next feature. Until then, its thread uses what it reads or writes.
 void OtherCameraSource::giveUp()
 {
+    m_task->isLate = true;
     m_task->isCancelled = true;
-    finish(tr("The camera did not answer in time."));
+    if (!m_isWorking)
+        finish(lateText());
 }
 
-/// Ends the task once: also if its work still runs, which ends soon because it is cancelled.
+QString OtherCameraSource::lateText()
+{
+    return tr("The camera did not answer in time.");
+}
+
+/// Ends the task once.
 void OtherCameraSource::finish(const QString &problem)
 {
     const auto task = std::exchange(m_task, nullptr);

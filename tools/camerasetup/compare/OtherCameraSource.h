@@ -31,7 +31,8 @@ private:
     {
         std::function<CvxCPP::CvxResult(CvxCPP::Device &, const FeatureProgress &)> work;
         std::function<void(const QString &problem)> done;
-        bool canWatch = false;
+        bool isRead = false; ///< A read can also watch the camera.
+        bool isLate = false;
         std::atomic<bool> isCancelled{false};
     };
 
@@ -40,6 +41,7 @@ private:
     void runTask();
     void takeResult(const std::shared_ptr<Task> &task, const CvxCPP::CvxResult &result);
     void giveUp();
+    static QString lateText();
     void finish(const QString &problem);
 
     const CameraEntry m_camera;

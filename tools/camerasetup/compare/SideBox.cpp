@@ -1,8 +1,9 @@
 #include "tools/camerasetup/compare/SideBox.h"
 
-#include "tools/camerasetup/compare/NoteListDialog.h"
 #include "tools/kit/widgets/ComboBox.h"
+#include "tools/kit/widgets/NoteListDialog.h"
 #include "tools/kit/widgets/Role.h"
+#include "tools/kit/widgets/ToolTip.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -21,6 +22,7 @@ SideBox::SideBox(const QString &label, QWidget *parent) : QFrame(parent), m_labe
     title->setProperty("role", QStringLiteral("heading"));
     title->setBuddy(m_choice);
     m_detail = new QLabel(this);
+    m_detail->setTextFormat(Qt::PlainText);
     m_detail->setWordWrap(true);
     m_notesButton = new QPushButton(this);
     m_notesButton->setToolTip(tr("Shows what could not be read, and why."));
@@ -50,7 +52,7 @@ void SideBox::setEntries(const QVector<Entry> &entries, const SideChoice &curren
         if (entries[index].choice == current)
             m_choice->setCurrentIndex(index);
     }
-    m_choice->setToolTip(current.kind == SideChoice::Kind::File ? current.name : QString());
+    m_choice->setToolTip(current.kind == SideChoice::Kind::File ? plainToolTip(current.name) : QString());
 }
 
 void SideBox::choose(int index)

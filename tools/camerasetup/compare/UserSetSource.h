@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/camerasetup/compare/CompareJob.h"
 #include "tools/camerasetup/compare/SettingsSource.h"
 #include "tools/camerasetup/compare/UserSetWork.h"
+#include "tools/camerasetup/values/LastingJob.h"
 
 #include <QCoreApplication>
 
@@ -32,11 +32,12 @@ public:
 
 private:
     SettingsSnapshot takeSnapshot(const UserSetVisit &visit) const;
+    QString completeProblem(const QString &problem, const UserSetVisit &visit) const;
     SourceWriting takeWriting(const UserSetVisit &visit, const CvxCPP::CvxResult &result) const;
     void noteRemaining(const UserSetVisit &visit); ///< Records what was not put back.
 
     const QString m_userSet;
     CameraConnection &m_connection;
     ChangeHistory &m_history;
-    CompareJob m_job;
+    LastingJob m_job;
 };

@@ -14,6 +14,8 @@ struct UserSetVisit
     LoadReport report; ///< What has become of the settings that were written to the set.
     std::vector<FeatureEdit> remaining; ///< Settings of the camera that differ from those before the visit.
     std::vector<FeatureNote> notes; ///< Why they could not be put back.
+    bool isSaved = false; ///< True if settings were saved in the user set.
+    bool isStillLoaded = false; ///< True if the camera may still have the settings of the user set.
 };
 
 // Both functions load the user set, restore the camera's own settings and the selector of the user sets, and

@@ -1,6 +1,7 @@
 #include "tools/camerasetup/details/DetailsPane.h"
 
 #include "sdk/features/FeatureText.h"
+#include "tools/camerasetup/details/CategoryPath.h"
 #include "tools/camerasetup/details/SelectorTable.h"
 #include "tools/camerasetup/values/Favourites.h"
 #include "tools/camerasetup/values/OpeningSnapshot.h"
@@ -21,6 +22,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace CvxCPP;
 
 namespace {
@@ -39,6 +42,18 @@ QLabel *createText(const char *role)
 bool isLabelInControl(NodeType type)
 {
     return type == NodeType::Boolean || type == NodeType::Command;
+}
+
+/// Returns the control that gets the focus first; null if there is none.
+QWidget *firstControl(QWidget &editor)
+{
+    for (QWidget *widget = editor.nextInFocusChain(); widget != &editor;
+         widget = widget->nextInFocusChain()) {
+        if (editor.isAncestorOf(widget) && widget->focusPolicy() & Qt::TabFocus
+            && widget->isVisibleTo(&editor))
+            return widget;
+    }
+    return nullptr;
 }
 
 bool areSame(const FeatureFact &left, const FeatureFact &right)
@@ -92,7 +107,7 @@ DetailsPane::DetailsPane(const Parts &parts, QWidget *parent)
     connect(m_table, &QPushButton::clicked, this, [this] { emit tableRequested(m_feature); });
     connect(m_setBack, &QPushButton::clicked, this, &DetailsPane::setBack);
     connect(&parts.client, &FeatureClient::stateChanged, this, &DetailsPane::onStateChanged);
-    connect(&parts.client, &FeatureClient::nodesLoaded, this, &DetailsPane::rebuild);
+    connect(&parts.client, &FeatureClient::nodesLoaded, this, &DetailsPane::startAnew);
     connect(&parts.opening, &OpeningSnapshot::stateChanged, this, &DetailsPane::showOpening);
     connect(&parts.opening, &OpeningSnapshot::changedFeatures, this, &DetailsPane::showOpening);
     connect(&parts.favourites, &Favourites::changed, this, &DetailsPane::showFavourite);
@@ -141,6 +156,8 @@ void DetailsPane::setStreamPauser(StreamPauser *pauser)
     m_pauser = pauser;
     if (m_editor)
         m_editor->setStreamPauser(pauser);
+    for (FeatureEditor *const editor : qAsConst(m_kept))
+        editor->setStreamPauser(pauser);
 }
 
 void DetailsPane::setFeature(const QString &name)
@@ -151,16 +168,35 @@ void DetailsPane::setFeature(const QString &name)
     rebuild();
 }
 
+/// Forgets all editors: the features are new ones.
+void DetailsPane::startAnew()
+{
+    delete std::exchange(m_editor, nullptr);
+    qDeleteAll(m_kept);
+    m_kept.clear();
+    rebuild();
+}
+
+/// Keeps the editor while it contains something that was typed and not written.
+void DetailsPane::putEditorAway()
+{
+    FeatureEditor *const editor = std::exchange(m_editor, nullptr);
+    if (!editor || !editor->hasEdits())
+        return delete editor;
+    editor->hide();
+    m_editorLayout->removeWidget(editor);
+    m_kept.insert(editor->feature(), editor);
+}
+
 void DetailsPane::rebuild()
 {
-    delete m_editor;
-    m_editor = nullptr;
+    putEditorAway();
     const NodeInfo *const info = m_parts.client.info(m_feature);
     m_hint->setVisible(!info);
     m_content->setVisible(info);
     if (!info)
         return;
-    m_path->setText(pathText(*info));
+    m_path->setText(categoryPath(m_parts.client, *info));
     m_title->setText(QString::fromStdString(info->displayName));
     m_name->setText(m_feature);
     const std::string &text = info->description.empty() ? info->toolTip : info->description;
@@ -176,16 +212,27 @@ void DetailsPane::rebuild()
 
 void DetailsPane::placeEditor(const NodeInfo &info)
 {
-    m_editor = createFeatureEditor(info, m_parts.client, m_content);
+    m_editor = m_kept.take(m_feature);
+    if (!m_editor)
+        m_editor = createEditor(info);
     if (!m_editor)
         return;
-    if (!isLabelInControl(info.type))
-        m_editor->setLabelWidth(0);
-    m_editor->setLockHelp(true);
-    m_editor->setStreamPauser(m_pauser);
     m_editorLayout->addWidget(m_editor);
     m_editor->show();
-    connect(m_editor, &FeatureEditor::featureRequested, this, &DetailsPane::featureRequested);
+    setFocusProxy(firstControl(*m_editor));
+}
+
+FeatureEditor *DetailsPane::createEditor(const NodeInfo &info)
+{
+    FeatureEditor *const editor = createFeatureEditor(info, m_parts.client, m_content);
+    if (!editor)
+        return nullptr;
+    if (!isLabelInControl(info.type))
+        editor->setLabelWidth(0);
+    editor->setLockHelp(true);
+    editor->setStreamPauser(m_pauser);
+    connect(editor, &FeatureEditor::featureRequested, this, &DetailsPane::featureRequested);
+    return editor;
 }
 
 void DetailsPane::onStateChanged(const QString &name)
@@ -194,18 +241,6 @@ void DetailsPane::onStateChanged(const QString &name)
         showFacts();
     if (name == m_feature || m_parts.selectors.directory().isSelector(name.toStdString()))
         showOpening();
-}
-
-/// Returns the display names of the categories around the feature, the outermost first.
-QString DetailsPane::pathText(const NodeInfo &info) const
-{
-    QStringList names;
-    const NodeInfo *category = m_parts.client.info(QString::fromStdString(info.category));
-    while (category && names.size() < m_parts.client.nodes().size()) {
-        names.prepend(QString::fromStdString(category->displayName));
-        category = m_parts.client.info(QString::fromStdString(category->category));
-    }
-    return names.join(QStringLiteral(" \u203a "));
 }
 
 // ---- What the camera says of the feature ------------------------------------------------------------------
@@ -290,10 +325,8 @@ void DetailsPane::showOpening()
     m_openingRow->setVisible(info && value);
     if (!info || !value)
         return;
-    NodeState opened;
-    opened.value = *value;
     const bool isChanged = state && !isSameValue(state->value, *value);
-    m_openingText->setText(isChanged ? tr("At opening: %1").arg(valueText(*info, opened))
+    m_openingText->setText(isChanged ? tr("At opening: %1").arg(plainValueText(*info, *value))
                                      : tr("As it was when the camera was opened"));
     m_setBack->setVisible(isChanged);
     m_setBack->setEnabled(m_editor && m_editor->isEditable());
@@ -308,8 +341,7 @@ void DetailsPane::setBack()
 void DetailsPane::showFavourite()
 {
     const QSignalBlocker blocker(m_star);
-    const bool isFavourite = m_parts.favourites.contains(m_feature);
-    m_star->setChecked(isFavourite);
+    m_star->setChecked(m_parts.favourites.contains(m_feature));
 }
 
 void DetailsPane::copyName() const

@@ -3,6 +3,7 @@
 #include "tools/camerasetup/details/FeatureFacts.h"
 #include "tools/kit/camera/FeatureClient.h"
 
+#include <QHash>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -62,13 +63,15 @@ signals:
 private:
     QWidget *createTop();
     QWidget *createOpeningRow();
+    void startAnew();
+    void putEditorAway();
     void rebuild();
     void placeEditor(const CvxCPP::NodeInfo &info);
+    FeatureEditor *createEditor(const CvxCPP::NodeInfo &info);
     void onStateChanged(const QString &name);
     void showFacts();
     void showOpening();
     void showFavourite();
-    QString pathText(const CvxCPP::NodeInfo &info) const;
     QString factText(const FeatureFact &fact) const;
     QString linkTo(const QString &feature) const;
     QVector<FeatureFact> facts(const CvxCPP::NodeInfo &info) const;
@@ -84,6 +87,7 @@ private:
     QFormLayout *m_factLayout;
     QVector<FeatureFact> m_shownFacts;
     FeatureEditor *m_editor = nullptr; ///< Null for a category and while nothing is shown.
+    QHash<QString, FeatureEditor *> m_kept; ///< Hidden editors with edits, by their features.
     QLabel *m_hint;
     QLabel *m_path;
     QLabel *m_title;

@@ -51,19 +51,6 @@ constexpr std::array representationTexts{
     QT_TRANSLATE_NOOP("FeatureFacts", "MAC address"),
 };
 
-bool hasValue(const NodeValue &value)
-{
-    return value.index() != 0;
-}
-
-/// Returns a limit or an increment as the value itself is shown.
-QString limitText(const NodeInfo &info, const NodeValue &value)
-{
-    NodeState state;
-    state.value = value;
-    return valueText(info, state);
-}
-
 /// Collects the facts that have something to say.
 class Facts
 {
@@ -91,12 +78,9 @@ private:
 
 void addLimits(Facts &facts, const NodeInfo &info, const NodeState &state)
 {
-    if (hasValue(state.minimum))
-        facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Minimum"), limitText(info, state.minimum));
-    if (hasValue(state.maximum))
-        facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Maximum"), limitText(info, state.maximum));
-    if (hasValue(state.increment))
-        facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Increment"), limitText(info, state.increment));
+    facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Minimum"), plainValueText(info, state.minimum));
+    facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Maximum"), plainValueText(info, state.maximum));
+    facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Increment"), plainValueText(info, state.increment));
     if (state.maxLength <= 0)
         return;
     const auto length = static_cast<int>(std::min<std::int64_t>(state.maxLength, INT32_MAX));
@@ -112,9 +96,11 @@ QString unavailableEntries(const NodeInfo &info, const NodeState &state)
 {
     QStringList names;
     const auto &available = state.availableEntries;
+    if (available.empty())
+        return {}; // The feature itself is not available.
     for (const EnumerationEntry &entry : info.entries) {
         if (std::find(available.begin(), available.end(), entry.name) == available.end())
-            names.append(QString::fromStdString(entry.displayName));
+            names.append(entryText(info, entry.name));
     }
     return names.join(QStringLiteral(", "));
 }

@@ -2,11 +2,15 @@
 
 #include "sdk/features/FeatureText.h"
 
+#include <algorithm>
+#include <chrono>
+
 using namespace CvxCPP;
 
 namespace {
 
 constexpr std::size_t maxColumns = 64; ///< A selector of a large table has thousands of values.
+constexpr std::chrono::milliseconds longestRead{250}; ///< Longer reads are continued by another call.
 
 std::int64_t integerOr(const NodeValue &value, std::int64_t fallback)
 {
@@ -43,17 +47,62 @@ std::vector<NodeValue> allowedValues(const NodeState &state, bool &isShortened)
     return {state.availableEntries.begin(), state.availableEntries.end()};
 }
 
-/// Reads the columns. The selector keeps the last value.
-CvxResult readColumns(Device &device, SelectorControl &control, const std::string &selector,
-    const std::vector<std::string> &features, SelectorValues &values, const FeatureProgress &progress)
+/// Returns the selectors of the selector with their present values. Those that cannot be read are left out.
+CvxResult readOuter(Device &device, const FeatureDirectory &directory, const std::string &selector,
+    std::vector<SelectorSetting> &outer)
 {
+    const std::vector<std::string> names = directory.selectorsOf(selector);
+    std::vector<NodeState> states;
+    if (CvxResult result = readStates(device, names, states); !result)
+        return result;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (states[i].value != NodeValue())
+            outer.push_back({names[i], settingText(states[i].value)});
+    }
+    return {};
+}
+
+bool areSame(const std::vector<SelectorSetting> &left, const std::vector<SelectorSetting> &right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+        [](const SelectorSetting &one, const SelectorSetting &other) {
+            return one.name == other.name && one.value == other.value;
+        });
+}
+
+/// Forgets the columns unless they begin the columns of these values.
+void keepMatching(
+    SelectorValues &values, const std::vector<SelectorSetting> &outer, const std::vector<NodeValue> &allowed)
+{
+    const bool isMatching = areSame(values.outer, outer) && values.columns.size() <= allowed.size()
+        && std::equal(values.columns.begin(), values.columns.end(), allowed.begin(),
+            [](const SelectorColumn &column, const NodeValue &value) {
+                return column.value == settingText(value);
+            });
+    if (!isMatching)
+        values.columns.clear();
+    values.outer = outer;
+}
+
+/// Reads the next columns. The selector keeps the last value.
+CvxResult readColumns(Device &device, SelectorControl &control, const FeatureDirectory &directory,
+    const std::string &selector, const std::vector<std::string> &features, SelectorValues &values,
+    const FeatureProgress &progress)
+{
+    const auto start = std::chrono::steady_clock::now();
+    std::vector<SelectorSetting> outer;
+    if (CvxResult result = readOuter(device, directory, selector, outer); !result)
+        return result;
     std::vector<NodeState> states;
     if (CvxResult result = readStates(device, {selector}, states); !result)
         return result;
+    values.isShortened = false;
     const std::vector<NodeValue> allowed = allowedValues(states.front(), values.isShortened);
-    for (const NodeValue &value : allowed) {
+    keepMatching(values, outer, allowed);
+    while (values.columns.size() < allowed.size()) {
         if (!progress(values.columns.size(), allowed.size()))
             return {};
+        const NodeValue &value = allowed[values.columns.size()];
         if (CvxResult result = control.select(selector, value); !result)
             return result;
         SelectorColumn column;
@@ -61,7 +110,10 @@ CvxResult readColumns(Device &device, SelectorControl &control, const std::strin
         if (CvxResult result = readStates(device, features, column.states); !result)
             return result;
         values.columns.push_back(std::move(column));
+        if (std::chrono::steady_clock::now() - start > longestRead)
+            break;
     }
+    values.isComplete = values.columns.size() == allowed.size();
     return {};
 }
 
@@ -85,7 +137,7 @@ CvxResult readSelectorValues(Device &device, const FeatureDirectory &directory, 
     const std::vector<std::string> &features, SelectorValues &values, const FeatureProgress &progress)
 {
     SelectorControl control(device, directory);
-    const CvxResult read = readColumns(device, control, selector, features, values, progress);
+    const CvxResult read = readColumns(device, control, directory, selector, features, values, progress);
     const CvxResult restored = control.restore();
     return read ? restored : read;
 }

@@ -16,8 +16,10 @@ struct SelectorColumn
 /// The values of a selector side by side.
 struct SelectorValues
 {
+    std::vector<SelectorSetting> outer; ///< The selectors of the selector, which keep their values.
     std::vector<SelectorColumn> columns;
     bool isShortened = false; ///< The selector has more values than can be read.
+    bool isComplete = false; ///< False until all columns were read.
 };
 
 /// A value for a feature under some values of its selectors.
@@ -29,8 +31,10 @@ struct SelectedValue
 };
 
 /// Reads features under each value that the selector allows, and restores the selector. A selector that
-/// cannot be written has one column. The other selectors keep their values. Called on the thread of the
-/// connection, as is the next function.
+/// cannot be written has one column. Returns after a fraction of a second, so that a slow camera is free for
+/// other calls in between; call the function again with the same values until they are complete. Begins anew
+/// if the camera has other values of the outer selectors meanwhile, or allows others. If `progress` returns
+/// false, the values stay incomplete. Called on the thread of the connection, as is the next function.
 CvxCPP::CvxResult readSelectorValues(CvxCPP::Device &device, const FeatureDirectory &directory,
     const std::string &selector, const std::vector<std::string> &features, SelectorValues &values,
     const FeatureProgress &progress);

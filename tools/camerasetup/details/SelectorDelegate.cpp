@@ -11,6 +11,8 @@ using namespace CvxCPP;
 
 namespace {
 
+constexpr const char *isFilledName = "isFilled";
+
 const SelectorModel &modelOf(const QModelIndex &index)
 {
     return *qobject_cast<const SelectorModel *>(index.model());
@@ -29,13 +31,11 @@ std::vector<NodeValue> choices(const NodeState &state, const NodeInfo &info)
 /// Returns the value without its unit.
 QString typedText(const NodeInfo &info, const NodeValue &value)
 {
+    if (info.type == NodeType::String && std::holds_alternative<std::string>(value))
+        return QString::fromStdString(std::get<std::string>(value));
     NodeInfo plain = info;
     plain.unit.clear();
-    NodeState state;
-    state.value = value;
-    return info.type == NodeType::String && std::holds_alternative<std::string>(value)
-        ? QString::fromStdString(std::get<std::string>(value))
-        : valueText(plain, state);
+    return plainValueText(plain, value);
 }
 
 /// Returns no value for a text that does not describe one.
@@ -81,6 +81,10 @@ void SelectorDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
         return;
     }
     auto *const box = qobject_cast<QComboBox *>(editor);
+    if (box->property(isFilledName).toBool())
+        return; // A refresh does not replace what is chosen.
+    box->setProperty(isFilledName, true);
+    box->setCurrentIndex(-1); // The present value may be none of the list.
     for (int row = 0; row < box->count(); ++row) {
         if (box->itemData(row).value<NodeValue>() == value)
             box->setCurrentIndex(row);
@@ -90,11 +94,15 @@ void SelectorDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
 void SelectorDelegate::setModelData(
     QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    const auto *const line = qobject_cast<QLineEdit *>(editor);
-    if (line && !line->isModified())
+    if (const auto *const box = qobject_cast<QComboBox *>(editor)) {
+        if (box->currentIndex() >= 0)
+            model->setData(index, box->currentData(), Qt::EditRole);
         return;
-    const NodeValue value = line ? parse(modelOf(index).info(index), line->text())
-                                 : qobject_cast<QComboBox *>(editor)->currentData().value<NodeValue>();
-    if (value.index() != 0)
-        model->setData(index, QVariant::fromValue(value), Qt::EditRole);
+    }
+    const auto *const line = qobject_cast<QLineEdit *>(editor);
+    if (!line->isModified())
+        return;
+    const NodeValue value = parse(modelOf(index).info(index), line->text());
+    const bool isValue = value != NodeValue();
+    model->setData(index, isValue ? QVariant::fromValue(value) : QVariant(line->text()), Qt::EditRole);
 }

@@ -1,12 +1,19 @@
 #include "tools/camerasetup/details/SelectorModel.h"
 
-#include "sdk/features/FeatureText.h"
 #include "tools/camerasetup/values/ValueText.h"
 #include "tools/kit/editors/LockAdvice.h"
+
+#include <QColor>
 
 #include <algorithm>
 
 using namespace CvxCPP;
+
+namespace {
+
+constexpr QRgb lockedColour = 0xff94a3b8;
+
+} // namespace
 
 SelectorModel::SelectorModel(FeatureClient &client, QObject *parent)
     : QAbstractTableModel(parent), m_client(client)
@@ -72,6 +79,8 @@ QVariant SelectorModel::data(const QModelIndex &index, int role) const
         return valueText(info(index), state(index));
     if (role == Qt::EditRole)
         return QVariant::fromValue(state(index).value);
+    if (role == Qt::ForegroundRole)
+        return isEditable(index) ? QVariant() : QColor::fromRgb(lockedColour);
     if (role == Qt::ToolTipRole)
         return lockReason(index);
     if (role == Qt::AccessibleDescriptionRole)
@@ -89,30 +98,34 @@ QVariant SelectorModel::headerData(int section, Qt::Orientation orientation, int
 
 QString SelectorModel::columnTitle(int column) const
 {
-    NodeState state;
-    const auto value = settingValue(m_selector.type, m_columns[static_cast<std::size_t>(column)].value);
-    if (const auto *const parsed = std::get_if<NodeValue>(&value))
-        state.value = *parsed;
-    return valueText(m_selector, state);
+    return settingValueText(&m_selector, m_columns[static_cast<std::size_t>(column)].value);
+}
+
+/// Returns false for cells that are grey; they can be reached, because their tool tips say why.
+bool SelectorModel::isEditable(const QModelIndex &index) const
+{
+    const LockReason reason = state(index).lockReason;
+    return reason == LockReason::None || reason == LockReason::StreamRunning;
 }
 
 Qt::ItemFlags SelectorModel::flags(const QModelIndex &index) const
 {
     if (!index.isValid())
         return {};
-    const LockReason reason = state(index).lockReason;
-    const bool isEditable = reason == LockReason::None || reason == LockReason::StreamRunning;
-    if (!isEditable)
-        return Qt::ItemIsSelectable; // Grey, but the tool tip says why.
-    if (info(index).type == NodeType::Register || info(index).type == NodeType::Command)
+    const NodeType type = info(index).type;
+    if (!isEditable(index) || type == NodeType::Register || type == NodeType::Command)
         return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable;
 }
 
 bool SelectorModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (role != Qt::EditRole || !index.isValid() || !value.canConvert<NodeValue>())
+    if (role != Qt::EditRole || !index.isValid())
         return false;
+    if (!value.canConvert<NodeValue>()) {
+        emit refused(index, value.toString());
+        return false;
+    }
     const auto wanted = value.value<NodeValue>();
     if (wanted != state(index).value)
         emit changeRequested(index, wanted);

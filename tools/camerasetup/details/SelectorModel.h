@@ -34,13 +34,17 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Asks for a change; the cell shows it once it was read from the camera.
+    /// Asks for a change; the cell shows it once it was read from the camera. Refuses a text.
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
 signals:
     void changeRequested(const QModelIndex &index, const CvxCPP::NodeValue &value);
 
+    /// A person has typed something that is no value of the feature.
+    void refused(const QModelIndex &index, const QString &text);
+
 private:
+    bool isEditable(const QModelIndex &index) const;
     QString lockReason(const QModelIndex &index) const;
     QString columnTitle(int column) const;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/camerasetup/details/SelectorCalls.h"
+#include "tools/camerasetup/values/CameraJobs.h"
 #include "tools/kit/camera/FeatureClient.h"
 
 #include <QString>
@@ -8,15 +9,19 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <chrono>
 #include <memory>
+#include <optional>
+#include <vector>
 
-class CameraJobs;
 class ChangeHistory;
+class EditorNote;
 class PresentSelectors;
 class QLabel;
 class QPushButton;
 class QTableView;
 class SelectorModel;
+struct SelectorReading;
 
 /// The features that one selector selects, with the values for each value of the selector side by side, for
 /// example the gain of each tap: one row per feature, one column per value of the selector. A cell can be
@@ -33,8 +38,8 @@ public:
         ChangeHistory &history, QWidget *parent = nullptr);
 
     /// Shows the table of a selector, or that of the innermost selector of a selected feature. Reads all
-    /// values in the background, and again after each change that the camera reports while the table is
-    /// visible.
+    /// values in the background, and again after each change while the table is visible. Changes that the
+    /// camera reports again and again lead to a read now and then, so that it has time for other calls.
     void setFeature(const QString &name);
 
     /// Returns true if the feature is a selector or has one.
@@ -53,16 +58,33 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    /// A cell that a person has changed.
+    struct Change
+    {
+        SelectedValue written;
+        CvxCPP::NodeValue before;
+    };
+
+    void createView();
+    void connectParts();
     QString selectorFor(const QString &name) const;
     void rebuild();
     void showTitle();
     void watchRows(bool isWatching);
     void onStateChanged(const QString &name);
+    void readSoon();
+    void readLater();
     void read();
-    void takeValues(const CvxCPP::CvxResult &result, const SelectorValues &values);
+    void continueReading();
+    void takeReading(const CvxCPP::CvxResult &result);
+    void showValues(const SelectorValues &values);
+    void showCurrentFeature();
+    void showRefused(const QModelIndex &index, const QString &text);
     void write(const QModelIndex &index, const CvxCPP::NodeValue &value);
-    void takeWritten(
-        const CvxCPP::CvxResult &result, const SelectedValue &value, const CvxCPP::NodeValue &before);
+    void writePaused();
+    void dropQuestion();
+    void startWriting(const Change &change, CameraJobs::StreamUse stream);
+    void takeWritten(const CvxCPP::CvxResult &result, const Change &change);
 
     FeatureClient &m_client;
     CameraJobs &m_jobs;
@@ -71,13 +93,20 @@ private:
     SelectorModel *m_model;
     QTableView *m_view;
     QLabel *m_title;
-    QLabel *m_message;
+    QLabel *m_readMessage; ///< About the last read.
+    QLabel *m_message; ///< About the last change of a cell.
+    EditorNote *m_question;
     QPushButton *m_refresh;
     QString m_feature; ///< What setFeature() was called with.
     QString m_selector; ///< Empty if there is no table.
     QStringList m_rows;
     QStringList m_watched;
     QTimer m_readTimer; ///< Turns several changes into one read.
+    std::shared_ptr<SelectorReading>
+        m_reading; ///< The last read; null if its features are not shown any more.
+    std::chrono::milliseconds m_readTime{0}; ///< What the last complete read took.
+    std::vector<SelectorSetting> m_outer; ///< Under which the shown values were read.
+    std::optional<Change> m_pending; ///< What the question is about.
     bool m_isReading = false;
     bool m_isOutdated = false; ///< A change arrived while the table was being read.
 };

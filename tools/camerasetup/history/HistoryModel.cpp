@@ -2,7 +2,7 @@
 
 #include "sdk/features/SettingLabel.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
-#include "tools/camerasetup/values/ValueDisplay.h"
+#include "tools/camerasetup/values/ValueText.h"
 
 #include <QColor>
 #include <QGuiApplication>
@@ -122,9 +122,9 @@ QString HistoryModel::text(int row, int column) const
     case Feature:
         return featureText(row);
     case OldValue:
-        return edit.before ? displayValue(node, *edit.before) : QString();
+        return edit.before ? settingValueText(node, *edit.before) : QString();
     default:
-        return displayValue(node, edit.after);
+        return settingValueText(node, edit.after);
     }
 }
 
@@ -139,9 +139,9 @@ QString HistoryModel::featureText(int row) const
         feature = QString::fromStdString(edit.name);
     QStringList selectors;
     for (const SelectorSetting &selector : edit.selectors)
-        selectors.append(displayValue(directory ? directory->find(selector.name) : nullptr, selector.value));
-    if (!selectors.isEmpty())
-        feature += QStringLiteral(" [%1]").arg(selectors.join(QStringLiteral(", ")));
+        selectors.append(
+            settingValueText(directory ? directory->find(selector.name) : nullptr, selector.value));
+    feature = withSelectors(feature, selectors);
     switch (entryOf(row).kind) {
     case HistoryEntry::Kind::Command:
         return tr("Executed: %1").arg(feature);

@@ -2,6 +2,7 @@
 
 #include "tools/camerasetup/settings/LoadText.h"
 #include "tools/kit/widgets/Message.h"
+#include "tools/kit/widgets/Messages.h"
 #include "tools/kit/widgets/Role.h"
 
 #include <QCheckBox>
@@ -127,8 +128,18 @@ void LoadDialog::reject()
 {
     const State state = m_load.state();
     m_load.cancel();
-    if (state != State::Loading && state != State::Undoing)
+    if (state == State::Failed && m_load.canUndo())
+        askToClose();
+    else if (state != State::Loading && state != State::Undoing)
         QDialog::reject();
+}
+
+/// The history does not know what a load has changed before it failed.
+void LoadDialog::askToClose()
+{
+    askToOverwrite(this, windowTitle(),
+        tr("The load was not undone. Without this dialog, it cannot be undone any more."),
+        tr("Close &anyway"), this, [this] { QDialog::reject(); });
 }
 
 QString LoadDialog::report() const
@@ -154,6 +165,8 @@ void LoadDialog::showLoad()
     showMessage(m_summary, summaryText(m_load), role);
     if (!m_load.isWorking())
         m_model.show(m_load);
+    if (state == State::Planned)
+        m_onlyChanges->setChecked(report.count(FeatureOutcome::Changed) > 0);
     const bool hasLines = !m_load.file().problems.empty()
         || (!report.changes.empty() && report.changes.front().setting.line > 0);
     m_table->setColumnHidden(LoadTable::LineColumn, !hasLines);

@@ -28,13 +28,15 @@ public:
     /// Returns the summary and the table as text.
     QString report() const;
 
-    /// Cancels the running work; closes the dialog if there is none.
+    /// Cancels the running work; closes the dialog if there is none. Asks before the only way to undo a load
+    /// is lost.
     void reject() override;
 
 private:
     QWidget *createTable();
     QWidget *createModes();
     QWidget *createButtons();
+    void askToClose();
     void copyReport();
     void startLoad();
     void showLoad();

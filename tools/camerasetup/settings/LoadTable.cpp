@@ -2,6 +2,7 @@
 
 #include "sdk/features/SettingLabel.h"
 #include "tools/camerasetup/settings/LoadText.h"
+#include "tools/kit/widgets/ToolTip.h"
 
 #include <QColor>
 #include <QLocale>
@@ -90,8 +91,10 @@ int LoadTable::columnCount(const QModelIndex &parent) const
 QVariant LoadTable::data(const QModelIndex &index, int role) const
 {
     const Row &row = m_rows[index.row()];
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+    if (role == Qt::DisplayRole)
         return row.texts[index.column()];
+    if (role == Qt::ToolTipRole)
+        return plainToolTip(row.texts[index.column()]);
     if (role == Qt::ForegroundRole)
         return QColor::fromRgb(rowColours[int(row.kind)]);
     if (role == Qt::TextAlignmentRole && index.column() == LineColumn)

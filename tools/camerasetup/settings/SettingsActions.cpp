@@ -2,11 +2,12 @@
 
 #include "sdk/features/FeatureFileStorage.h"
 #include "tools/camerasetup/settings/LoadDialog.h"
-#include "tools/camerasetup/settings/Messages.h"
 #include "tools/camerasetup/settings/SettingsSave.h"
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/start/ToolIcons.h"
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/widgets/Messages.h"
+#include "tools/kit/widgets/NoteListDialog.h"
 
 #include <QAction>
 #include <QDate>
@@ -135,14 +136,19 @@ void SettingsActions::rememberDirectory(const QString &path)
     m_parts.settings.setValue(directoryKey(), QFileInfo(path).absolutePath());
 }
 
-void SettingsActions::reportSaved(const QString &path, int count, const QStringList &notes)
+void SettingsActions::reportSaved(const QString &path, int count, const std::vector<FeatureNote> &notes)
 {
     const QString text
         = tr("%n setting(s) were saved to \"%1\".", nullptr, count).arg(QFileInfo(path).fileName());
     emit reported(text);
-    if (!notes.isEmpty())
-        showNotes(m_window, tr("Save settings"),
-            text + QLatin1Char(' ') + tr("%n remark(s):", nullptr, notes.size()), notes);
+    if (notes.empty())
+        return;
+    QVector<NoteListDialog::Row> rows;
+    for (const FeatureNote &note : notes)
+        rows.append({QString::fromStdString(note.name), QString::fromStdString(note.text)});
+    auto *const dialog = new NoteListDialog(tr("Save settings"),
+        text + QLatin1Char(' ') + tr("%n remark(s):", nullptr, rows.size()), rows, m_window);
+    dialog->open();
 }
 
 void SettingsActions::reportNotSaved(const QString &text)

@@ -66,7 +66,7 @@ private:
     void rememberDirectory(const QString &path);
     void chooseFileToSave();
     void chooseFileToLoad();
-    void reportSaved(const QString &path, int count, const QStringList &notes);
+    void reportSaved(const QString &path, int count, const std::vector<FeatureNote> &notes);
     void reportNotSaved(const QString &text);
 
     const Parts m_parts;

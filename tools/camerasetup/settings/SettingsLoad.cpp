@@ -1,7 +1,5 @@
 #include "tools/camerasetup/settings/SettingsLoad.h"
 
-#include <QTimer>
-
 #include <utility>
 
 using CvxCPP::CvxResult;
@@ -18,10 +16,8 @@ struct SettingsLoad::Step
 
 SettingsLoad::SettingsLoad(
     const QString &title, const FeatureFile &file, CameraJobs &jobs, ChangeHistory &history, QObject *parent)
-    : QObject(parent), m_title(title), m_file(file), m_jobs(jobs), m_history(history)
+    : QObject(parent), m_title(title), m_file(file), m_job(jobs), m_history(history)
 {
-    // Queued, because a job ends before it reports its result.
-    connect(&jobs, &CameraJobs::changed, this, &SettingsLoad::checkJobs, Qt::QueuedConnection);
     plan();
 }
 
@@ -72,6 +68,7 @@ void SettingsLoad::undo()
     step->file = m_file;
     step->report = m_report;
     step->report.notes.clear();
+    step->report.isRestored = false;
     step->backup = m_backup;
     const auto work = [step](Device &device, const FeatureProgress &progress) {
         return recordChange(
@@ -88,22 +85,29 @@ void SettingsLoad::undo()
 void SettingsLoad::cancel()
 {
     if (m_state == State::Planning || m_state == State::Loading)
-        m_jobs.cancel();
+        m_job.cancel();
 }
 
 /// @param next The state after a success.
 void SettingsLoad::start(
     State state, const QString &title, const std::shared_ptr<Step> &step, Work work, State next)
 {
-    m_jobs.start(title, CameraJobs::StreamUse::Pause, std::move(work), this,
+    m_job.start(title, CameraJobs::StreamUse::Pause, std::move(work),
         [this, step, next](const CvxResult &result) { finish(*step, result, next); });
     setState(state);
 }
 
 void SettingsLoad::finish(const Step &step, const CvxResult &result, State next)
 {
-    if (!isWorking())
-        return; // The step was given up already.
+    if (result.code
+        != CvxCPP::CvxErrorClosed) // Otherwise, the thread of the connection may still use the step.
+        take(step, result);
+    m_error = QString::fromStdString(result.text);
+    setState(result ? next : State::Failed);
+}
+
+void SettingsLoad::take(const Step &step, const CvxResult &result)
+{
     if (result)
         m_report = step.report;
     if (m_state == State::Loading) {
@@ -113,18 +117,7 @@ void SettingsLoad::finish(const Step &step, const CvxResult &result, State next)
         m_history.addEdits(tr("Undo loading %1").arg(m_title), step.change.edits);
     }
     const bool isPutBack = step.report.isRestored && step.report.notes.empty();
-    m_isWritten = step.report.isApplied && !isPutBack;
-    m_error = QString::fromStdString(result.text);
-    setState(result ? next : State::Failed);
-}
-
-/// Gives up a step that was forgotten: the camera was closed, or all jobs were cancelled.
-void SettingsLoad::checkJobs()
-{
-    if (!isWorking() || m_jobs.isBusy())
-        return;
-    m_error = tr("The work was cancelled before it began, or the camera was closed.");
-    setState(State::Failed);
+    m_isWritten = (m_state == State::Undoing || step.report.isApplied) && !isPutBack;
 }
 
 void SettingsLoad::setState(State state)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/camerasetup/settings/SettingsChange.h"
-#include "tools/camerasetup/values/CameraJobs.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
+#include "tools/camerasetup/values/LastingJob.h"
+#include "tools/camerasetup/values/SettingsChange.h"
 
 #include <QObject>
 
@@ -69,12 +69,12 @@ private:
     void plan();
     void start(State state, const QString &title, const std::shared_ptr<Step> &step, Work work, State next);
     void finish(const Step &step, const CvxCPP::CvxResult &result, State next);
-    void checkJobs();
+    void take(const Step &step, const CvxCPP::CvxResult &result);
     void setState(State state);
 
     const QString m_title;
     const FeatureFile m_file;
-    CameraJobs &m_jobs;
+    LastingJob m_job;
     ChangeHistory &m_history;
     State m_state = State::Planning;
     LoadReport m_report;

@@ -54,9 +54,6 @@ void SettingsSave::finish(const QString &path, const Result &saved, const CvxRes
     else if (!saved.problem.empty())
         emit failed(QString::fromStdString(saved.problem));
     else {
-        QStringList notes;
-        for (const FeatureNote &note : saved.features.notes)
-            notes.append(QString::fromStdString(note.text));
-        emit this->saved(path, int(saved.features.settings.size()), notes);
+        emit this->saved(path, int(saved.features.settings.size()), saved.features.notes);
     }
 }

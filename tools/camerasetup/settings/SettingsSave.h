@@ -22,7 +22,7 @@ public:
 
 signals:
     /// @param notes What could not be saved, and why.
-    void saved(const QString &path, int count, const QStringList &notes);
+    void saved(const QString &path, int count, const std::vector<FeatureNote> &notes);
     void failed(const QString &text);
 
 private:

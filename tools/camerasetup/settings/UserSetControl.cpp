@@ -24,7 +24,8 @@ CameraJobs::StreamUse streamUse(const NodeState &state)
 
 } // namespace
 
-UserSetControl::UserSetControl(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts)
+UserSetControl::UserSetControl(const Parts &parts, QObject *parent)
+    : QObject(parent), m_parts(parts), m_reading(parts.jobs)
 {
     connect(&parts.client, &FeatureClient::nodesGone, this, &UserSetControl::forget);
     connect(&parts.client, &FeatureClient::stateChanged, this, &UserSetControl::followFeature);
@@ -41,34 +42,32 @@ UserSetControl::~UserSetControl()
 
 void UserSetControl::forget()
 {
+    m_reading.abandon();
     m_userSets.reset();
-    m_isReading = false;
     emit changed();
 }
 
 void UserSetControl::read()
 {
-    if (m_userSets || m_isReading || m_parts.client.nodes().isEmpty())
+    if (m_userSets || m_reading.isRunning() || m_parts.client.nodes().isEmpty())
         return;
-    m_isReading = true;
     const auto userSets = std::make_shared<UserSets>();
-    m_parts.jobs.start(
+    m_reading.start(
         tr("Reading the user sets"), CameraJobs::StreamUse::Keep,
         [userSets](Device &device, const FeatureProgress &progress) {
             return readUserSets(device, *userSets, progress);
         },
-        this, [this, userSets](const CvxResult &result) { takeUserSets(result, *userSets); });
+        [this, userSets](const CvxResult &result) { takeUserSets(result, *userSets); });
 }
 
 void UserSetControl::takeUserSets(const CvxResult &result, const UserSets &userSets)
 {
-    m_isReading = false;
-    if (m_parts.client.nodes().isEmpty())
+    if (!result) {
+        emit failed(QString::fromStdString(result.text));
         return;
+    }
     m_userSets = userSets;
     emit changed();
-    if (!result)
-        emit failed(QString::fromStdString(result.text));
 }
 
 void UserSetControl::followFeature(const QString &name)
@@ -146,6 +145,13 @@ QString UserSetControl::defaultProblem(const UserSet &userSet) const
     return lockTextOf(m_userSets->byDefault, title(userSet));
 }
 
+QString UserSetControl::compareProblem(const UserSet &userSet) const
+{
+    return m_parts.client.connection().isControlled()
+        ? loadProblem(userSet)
+        : tr("The camera is only watched, so its user sets cannot be loaded.");
+}
+
 // ---- Doing it ---------------------------------------------------------------------------------------------
 
 void UserSetControl::load(const UserSet &userSet)
@@ -178,7 +184,7 @@ void UserSetControl::save(const UserSet &userSet)
         return executeForUserSet(device, name, "UserSetSave");
     };
     const QString text = title(userSet);
-    m_parts.jobs.start(tr("Saving \"%1\"").arg(text), streamUse(userSet.save), work, this,
+    m_parts.jobs.start(tr("Saving \"%1\"").arg(text), CameraJobs::StreamUse::Pause, work, this,
         [this, text](const CvxResult &result) {
             report(result, tr("The present settings were saved as \"%1\".").arg(text));
         });

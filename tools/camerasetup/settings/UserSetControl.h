@@ -1,10 +1,11 @@
 #pragma once
 
 #include "sdk/features/UserSets.h"
-#include "tools/camerasetup/settings/SettingsChange.h"
 #include "tools/camerasetup/values/CameraJobs.h"
 #include "tools/camerasetup/values/ChangeHistory.h"
+#include "tools/camerasetup/values/LastingJob.h"
 #include "tools/camerasetup/values/OpeningSnapshot.h"
+#include "tools/camerasetup/values/SettingsChange.h"
 
 #include <QObject>
 
@@ -25,7 +26,7 @@ public:
         FeatureClient &client;
         CameraJobs &jobs;
         ChangeHistory &history;
-        OpeningSnapshot &opening; ///< Tells how many settings a load would overwrite.
+        OpeningSnapshot &opening; ///< Tells how many features a load would overwrite.
     };
 
     explicit UserSetControl(const Parts &parts, QObject *parent = nullptr);
@@ -43,8 +44,9 @@ public:
     QString loadProblem(const UserSet &userSet) const;
     QString saveProblem(const UserSet &userSet) const;
     QString defaultProblem(const UserSet &userSet) const;
+    QString compareProblem(const UserSet &userSet) const; ///< A comparison loads the set for a moment.
 
-    /// Returns how many settings differ from the opening; no value while this is unknown.
+    /// Returns how many features differ from the opening; no value while this is unknown.
     std::optional<int> countChanges() const;
 
     /// Reads the sets, unless they are known or no camera is open.
@@ -71,5 +73,5 @@ private:
 
     const Parts m_parts;
     std::optional<UserSets> m_userSets;
-    bool m_isReading = false;
+    LastingJob m_reading;
 };

@@ -1,8 +1,8 @@
 #include "tools/camerasetup/settings/UserSetPanel.h"
 
-#include "tools/camerasetup/settings/Messages.h"
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/widgets/Message.h"
+#include "tools/kit/widgets/Messages.h"
 
 #include <QGridLayout>
 #include <QHeaderView>
@@ -30,8 +30,8 @@ UserSetPanel::UserSetPanel(const Parts &parts, QWidget *parent)
     createList();
     auto *const content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
+    content->addWidget(createButtons()); // Above the texts that come and go, so that no button moves.
     content->addWidget(m_list, 1);
-    content->addWidget(createButtons());
     content->addWidget(m_reason);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
@@ -65,7 +65,6 @@ QWidget *UserSetPanel::createButtons()
     m_save->setObjectName(QStringLiteral("save"));
     m_default->setObjectName(QStringLiteral("default"));
     m_compare->setObjectName(QStringLiteral("compare"));
-    m_compare->setToolTip(tr("Shows how the settings of the camera differ from this set."));
     m_reason->setObjectName(QStringLiteral("reason"));
     auto *const buttons = new QWidget(m_content);
     auto *const layout = new QGridLayout(buttons);
@@ -149,7 +148,10 @@ void UserSetPanel::showButtons()
         {m_save, m_control.saveProblem(*userSet), tr("Stores the present settings as \"%1\".").arg(title),
             tr("\"%1\" cannot be saved.").arg(title)},
         {m_default, m_control.defaultProblem(*userSet), tr("Lets the camera begin with \"%1\".").arg(title),
-            tr("\"%1\" cannot be used at power-on.").arg(title)}};
+            tr("\"%1\" cannot be used at power-on.").arg(title)},
+        {m_compare, m_control.compareProblem(*userSet),
+            tr("Shows how the settings of the camera differ from this set."),
+            tr("\"%1\" cannot be compared.").arg(title)}};
     QStringList reasons;
     for (const Button &button : buttons) {
         button.button->setEnabled(button.problem.isEmpty() && !m_control.isBusy());
@@ -168,8 +170,8 @@ void UserSetPanel::askToLoad()
     const UserSet userSet = *current();
     QStringList text{
         tr("Load \"%1\"? The present settings of the camera are overwritten.").arg(m_control.title(userSet))};
-    if (const std::optional<int> count = m_control.countChanges())
-        text.append(tr("%n setting(s) differ from those when the camera was opened.", nullptr, *count));
+    if (const int count = m_control.countChanges().value_or(0); count > 0)
+        text.append(tr("%n feature(s) differ from those when the camera was opened.", nullptr, count));
     text.append(tr("Loading can be undone."));
     askToOverwrite(window(), tr("Load user set"), text.join(QLatin1Char('\n')), tr("&Load"), this,
         [this, userSet] { m_control.load(userSet); });

@@ -208,7 +208,7 @@ void FeatureTreeView::editCurrent()
     else if (!reason.isEmpty())
         showReason(index, reason);
     else if (model.info(feature).type == NodeType::Register)
-        showReason(index, tr("A register is edited beside the tree, where its bytes have more room."));
+        emit detailsRequested(); // The bytes need more room.
     else if (!changeAtOnce(feature))
         startEditor(feature);
 }

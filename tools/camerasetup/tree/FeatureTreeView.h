@@ -47,8 +47,12 @@ public:
 
 public slots:
     /// Opens the editor of the current feature, sets a check box or executes a command. If the feature is
-    /// locked, shows the reason.
+    /// locked, shows the reason. A register is left to detailsRequested().
     void editCurrent();
+
+signals:
+    /// A person wants to edit the current feature, which has no editor in the tree.
+    void detailsRequested();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -27,7 +27,7 @@ QWidget *controlOf(const FeatureEditor &editor)
         return box;
     if (auto *const button = editor.findChild<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly))
         return button;
-    return editor.findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
+    return editor.findChild<QLineEdit *>();
 }
 
 bool asksAQuestion(const FeatureEditor &editor)
@@ -65,10 +65,29 @@ InPlaceEditor::InPlaceEditor(FeatureEditor *editor, FeatureClient &client, QWidg
         box->view()->installEventFilter(this);
     m_control->installEventFilter(this);
     setFocusProxy(m_control);
+    watchNote();
 
     m_doneTimer.setInterval(doneInterval);
     connect(&m_doneTimer, &QTimer::timeout, this, &InPlaceEditor::checkDone);
     connect(&client, &FeatureClient::nodesGone, this, &InPlaceEditor::giveUp);
+}
+
+/// The buttons of the note can have the focus too.
+void InPlaceEditor::watchNote()
+{
+    auto *const note = m_editor->findChild<EditorNote *>();
+    const auto buttons = note->findChildren<QAbstractButton *>();
+    for (QAbstractButton *const button : buttons)
+        button->installEventFilter(this);
+    connect(note, &EditorNote::accepted, this, &InPlaceEditor::takeFocusBack);
+    connect(note, &EditorNote::rejected, this, &InPlaceEditor::takeFocusBack);
+}
+
+/// A button that vanishes gives the focus to whatever comes next in the window.
+void InPlaceEditor::takeFocusBack()
+{
+    QWidget *const target = m_control->isEnabled() ? m_control : m_editor;
+    target->setFocus();
 }
 
 void InPlaceEditor::setCell(const QRect &cell)
@@ -118,12 +137,12 @@ bool InPlaceEditor::event(QEvent *event)
 
 bool InPlaceEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_control) { // The list of an enumeration.
+    if (qobject_cast<QAbstractItemView *>(watched)) { // The list of an enumeration.
         if (event->type() == QEvent::Hide)
             QTimer::singleShot(0, this, &InPlaceEditor::closeWhenDone);
         return QWidget::eventFilter(watched, event);
     }
-    if (event->type() == QEvent::KeyPress)
+    if (event->type() == QEvent::KeyPress && watched == m_control)
         handleKey(static_cast<QKeyEvent *>(event)->key());
     if (event->type() == QEvent::FocusOut)
         QTimer::singleShot(0, this, &InPlaceEditor::leave);
@@ -139,6 +158,8 @@ bool InPlaceEditor::eventFilter(QObject *watched, QEvent *event)
 void InPlaceEditor::keyPressEvent(QKeyEvent *event)
 {
     event->accept();
+    if (event->key() == Qt::Key_Escape)
+        giveUp();
 }
 
 /// Acts after the control has handled the key.

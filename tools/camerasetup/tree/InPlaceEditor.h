@@ -42,6 +42,8 @@ protected:
 private:
     InPlaceEditor(FeatureEditor *editor, FeatureClient &client, QWidget *parent);
 
+    void watchNote();
+    void takeFocusBack();
     void place();
     void handleKey(int key);
     void leave();

@@ -54,6 +54,7 @@ TreePanel::TreePanel(FeatureClient &client, OpeningSnapshot &opening, Favourites
     connect(m_filter, &QAbstractItemModel::modelReset, this, &TreePanel::restoreCurrent);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &TreePanel::takeCurrent);
     connect(m_bar, &FilterBar::left, this, &TreePanel::enterTree);
+    connect(m_view, &FeatureTreeView::detailsRequested, this, &TreePanel::detailsRequested);
     connectFavourites(opening, favourites);
     placeParts();
 }

@@ -48,6 +48,9 @@ public slots:
 signals:
     void currentChanged(const QString &name);
 
+    /// A person wants to edit the current feature where there is more room, for example a register.
+    void detailsRequested();
+
 private:
     void placeParts();
     void connectFavourites(OpeningSnapshot &opening, Favourites &favourites);

@@ -113,19 +113,6 @@ bool ChangeHistory::mergeEdit(const FeatureEdit &edit)
     return true;
 }
 
-void ChangeHistory::addLoad(const QString &title, const LoadReport &report)
-{
-    if (report.isRestored)
-        return;
-    std::vector<FeatureEdit> edits;
-    for (const FeatureChange &change : report.changes) {
-        const FeatureSetting &setting = change.setting;
-        if (!change.after.empty() && change.after != change.before)
-            edits.push_back({setting.selectors, setting.name, change.before, change.after});
-    }
-    addEdits(title, edits);
-}
-
 void ChangeHistory::addEdits(const QString &title, const std::vector<FeatureEdit> &edits)
 {
     if (edits.empty())

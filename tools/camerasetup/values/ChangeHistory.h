@@ -31,7 +31,6 @@ public:
 
     /// Records changes that were not made through the FeatureClient; see HistoryEntry::Kind::Load. Has no
     /// effect without changes.
-    void addLoad(const QString &title, const LoadReport &report);
     void addEdits(const QString &title, const std::vector<FeatureEdit> &edits);
 
     /// Undo and redo wait for all other work, which may change the same features.

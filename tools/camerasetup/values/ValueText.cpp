@@ -1,5 +1,6 @@
 #include "tools/camerasetup/values/ValueText.h"
 
+#include "sdk/features/FeatureText.h"
 #include "tools/kit/editors/NumberText.h"
 
 #include <QCoreApplication>
@@ -21,13 +22,6 @@ QString text(const char *source)
 QString withUnit(const QString &number, const NodeInfo &info)
 {
     return info.unit.empty() ? number : number + QLatin1Char(' ') + unitText(info.unit);
-}
-
-QString entryText(const NodeInfo &info, const std::string &name)
-{
-    const auto entry = std::find_if(info.entries.begin(), info.entries.end(),
-        [&name](const EnumerationEntry &candidate) { return candidate.name == name; });
-    return QString::fromStdString(entry == info.entries.end() ? name : entry->displayName);
 }
 
 QString registerText(const std::vector<std::uint8_t> &bytes)
@@ -58,9 +52,8 @@ QString missingText(const NodeState &state)
 struct ValueWriter
 {
     const NodeInfo &info;
-    const NodeState &state;
 
-    QString operator()(std::monostate) const { return missingText(state); }
+    QString operator()(std::monostate) const { return {}; }
     QString operator()(std::int64_t value) const
     {
         return withUnit(integerText(value, info.representation), info);
@@ -97,6 +90,27 @@ QString valueText(const NodeInfo &info, const NodeState &state)
     case NodeType::Command:
         return commandText(state);
     default:
-        return std::visit(ValueWriter{info, state}, state.value);
+        return state.value == NodeValue() ? missingText(state) : plainValueText(info, state.value);
     }
+}
+
+QString plainValueText(const NodeInfo &info, const NodeValue &value)
+{
+    return std::visit(ValueWriter{info}, value);
+}
+
+QString settingValueText(const NodeInfo *info, const std::string &text)
+{
+    const QString raw = QString::fromStdString(text);
+    if (!info || text.empty() || info->type == NodeType::String || info->type == NodeType::Register)
+        return raw;
+    const auto value = settingValue(info->type, text);
+    const auto *const parsed = std::get_if<NodeValue>(&value);
+    return parsed ? plainValueText(*info, *parsed) : raw;
+}
+
+QString withSelectors(const QString &title, const QStringList &selectors)
+{
+    return selectors.isEmpty() ? title
+                               : QStringLiteral("%1 [%2]").arg(title, selectors.join(QStringLiteral(", ")));
 }

@@ -54,6 +54,9 @@ public:
     /// if it can.
     QString lockReason() const;
 
+    /// Returns true if the editor contains an unwritten edit that a person would miss.
+    virtual bool hasEdits() const { return false; }
+
     /// Returns the text of the line below the control.
     QString noteText() const;
 

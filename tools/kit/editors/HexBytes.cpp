@@ -1,47 +1,71 @@
 #include "tools/kit/editors/HexBytes.h"
 
 #include <algorithm>
+#include <utility>
 
 void HexBytes::setCamera(const Bytes &bytes)
 {
     m_camera = bytes;
-    if (!m_isModified || m_shown.size() != bytes.size())
+    if (!m_isModified || m_shown.size() != bytes.size()) {
         m_shown = bytes;
-    m_isModified = m_shown != m_camera;
+        m_edits.clear();
+    }
+    compare();
 }
 
 std::size_t HexBytes::overwrite(std::size_t first, const Bytes &bytes)
 {
     const std::size_t count = std::min(bytes.size(), m_shown.size() - first);
-    for (std::size_t index = 0; index < count; ++index)
-        set(first + index, bytes[index]);
+    replace(first, {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(count)});
     return count;
 }
 
 void HexBytes::setHighDigit(std::size_t index, unsigned digit)
 {
-    set(index, (m_shown[index] & 0x0FU) | digit << 4);
+    replace(index, {static_cast<std::uint8_t>((m_shown[index] & 0x0FU) | digit << 4)});
 }
 
 void HexBytes::setLowDigit(std::size_t index, unsigned digit)
 {
-    set(index, (m_shown[index] & 0xF0U) | digit);
+    replace(index, {static_cast<std::uint8_t>((m_shown[index] & 0xF0U) | digit)});
 }
 
 void HexBytes::restore(std::size_t first, std::size_t count)
 {
-    for (std::size_t index = first; index < std::min(first + count, m_shown.size()); ++index)
-        set(index, m_camera[index]);
+    const auto start = m_camera.begin() + static_cast<std::ptrdiff_t>(first);
+    const std::size_t length = std::min(count, m_camera.size() - first);
+    replace(first, {start, start + static_cast<std::ptrdiff_t>(length)});
 }
 
 void HexBytes::restoreAll()
 {
     m_shown = m_camera;
+    m_edits.clear();
     m_isModified = false;
 }
 
-void HexBytes::set(std::size_t index, unsigned byte)
+std::optional<std::size_t> HexBytes::undo()
 {
-    m_shown[index] = static_cast<std::uint8_t>(byte);
+    if (m_edits.empty())
+        return std::nullopt;
+    const Edit edit = std::move(m_edits.back());
+    m_edits.pop_back();
+    std::copy(
+        edit.before.begin(), edit.before.end(), m_shown.begin() + static_cast<std::ptrdiff_t>(edit.first));
+    compare();
+    return edit.first;
+}
+
+void HexBytes::replace(std::size_t first, const Bytes &bytes)
+{
+    const auto start = m_shown.begin() + static_cast<std::ptrdiff_t>(first);
+    m_edits.push_back({first, {start, start + static_cast<std::ptrdiff_t>(bytes.size())}});
+    std::copy(bytes.begin(), bytes.end(), start);
+    compare();
+}
+
+/// Compares the whole register, so it is called once for each edit.
+void HexBytes::compare()
+{
     m_isModified = m_shown != m_camera;
 }

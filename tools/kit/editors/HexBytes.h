@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 /// The bytes of a register while a person changes them: keeps what the camera has beside what was typed. The
@@ -30,10 +31,23 @@ public:
     void restore(std::size_t first, std::size_t count);
     void restoreAll();
 
+    /// Takes back the last edit that was made since the bytes were those of the camera, and returns the index
+    /// of its first byte. Returns no value if there is none.
+    std::optional<std::size_t> undo();
+
 private:
-    void set(std::size_t index, unsigned byte);
+    /// What was shown before an edit.
+    struct Edit
+    {
+        std::size_t first;
+        Bytes before;
+    };
+
+    void replace(std::size_t first, const Bytes &bytes);
+    void compare();
 
     Bytes m_camera;
     Bytes m_shown;
+    std::vector<Edit> m_edits;
     bool m_isModified = false;
 };

@@ -39,7 +39,7 @@ public slots:
 
 signals:
     void edited(); ///< The shown bytes were changed here, not by the camera.
-    void writeRequested(); ///< Ctrl+Return was pressed.
+    void writeRequested(); ///< Ctrl+Return was pressed while the bytes can be changed.
     void discardRequested(); ///< Escape was pressed.
     void pasteRefused(const QString &reason); ///< For people.
 
@@ -88,6 +88,7 @@ private:
     void showCursor();
     void type(QChar character);
     void restore(bool isBackwards);
+    void undo();
     std::size_t selectionStart() const;
     std::size_t selectionSize() const;
     HexBytes::Bytes selectedBytes() const;

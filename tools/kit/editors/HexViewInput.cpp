@@ -12,11 +12,14 @@
 
 // ---- Keys -------------------------------------------------------------------------------------------------
 
-/// Returns true for the keys that must not become shortcuts of the window.
+/// Returns true for the keys that must not become shortcuts of the window, such as the undo of the window,
+/// which would take back the last change of the camera instead of what was typed here.
 bool HexView::takesKey(const QKeyEvent &event) const
 {
-    if (event.key() == Qt::Key_Escape)
+    if (event.key() == Qt::Key_Escape || event.matches(QKeySequence::Undo))
         return m_bytes.isModified();
+    if (event.modifiers() & Qt::AltModifier)
+        return false;
     if (event.modifiers() & Qt::ControlModifier)
         return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     const bool isText = !event.text().isEmpty() && event.text().front().isPrint();
@@ -45,7 +48,9 @@ void HexView::keyPressEvent(QKeyEvent *event)
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape && m_bytes.isModified())
         emit discardRequested();
-    else if (isReturn && event->modifiers() & Qt::ControlModifier && m_bytes.isModified() && !m_isReadOnly)
+    else if (event->matches(QKeySequence::Undo) && m_bytes.isModified())
+        undo();
+    else if (isReturn && event->modifiers() & Qt::ControlModifier && !m_isReadOnly)
         emit writeRequested();
     else
         editByKey(event);
@@ -166,6 +171,16 @@ void HexView::restore(bool isBackwards)
         moveTo(m_cursor - std::min<std::size_t>(m_cursor, 1), false);
     m_bytes.restore(selectionStart(), selectionSize());
     moveTo(selectionStart(), false);
+    afterEdit();
+}
+
+/// Takes back the last edit. If the camera has changed other bytes since, its bytes are shown at the end.
+void HexView::undo()
+{
+    const auto first = m_bytes.undo();
+    if (!first)
+        m_bytes.restoreAll();
+    moveTo(first.value_or(m_cursor), false);
     afterEdit();
 }
 

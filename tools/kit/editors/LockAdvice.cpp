@@ -1,6 +1,7 @@
 #include "tools/kit/editors/LockAdvice.h"
 
 #include "tools/kit/editors/LockText.h"
+#include "tools/kit/editors/NumberText.h"
 
 #include <QCoreApplication>
 
@@ -11,13 +12,6 @@ using namespace CvxCPP;
 namespace {
 
 const std::string offEntry = "Off"; ///< The name that the naming convention gives the entry of every mode.
-
-QString entryText(const NodeInfo &info, const std::string &name)
-{
-    const auto entry = std::find_if(info.entries.begin(), info.entries.end(),
-        [&name](const EnumerationEntry &candidate) { return candidate.name == name; });
-    return QString::fromStdString(entry == info.entries.end() ? name : entry->displayName);
-}
 
 /// Returns the value of a switch or a mode as text; empty for values that say little without a unit.
 QString modeText(const NodeInfo &info, const NodeValue &value)

@@ -131,6 +131,14 @@ std::optional<double> parseFloat(const QString &text)
     return std::nullopt;
 }
 
+QString entryText(const CvxCPP::NodeInfo &info, const std::string &name)
+{
+    const auto entry = std::find_if(info.entries.begin(), info.entries.end(),
+        [&name](const CvxCPP::EnumerationEntry &candidate) { return candidate.name == name; });
+    const bool hasText = entry != info.entries.end() && !entry->displayName.empty();
+    return QString::fromStdString(hasText ? entry->displayName : name);
+}
+
 QString unitText(const std::string &unit)
 {
     static const std::array<std::pair<const char *, const char *>, 5> units{

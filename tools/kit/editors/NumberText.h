@@ -6,8 +6,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
-// Numbers as a person reads and types them.
+// Numbers as a person reads and types them, units and the entries of enumerations.
 
 /// Returns the integer as the camera wants it to be shown: decimal, "0x1F", "192.168.1.2" or
 /// "02:00:5E:10:00:01".
@@ -23,6 +24,9 @@ QString floatText(double value);
 
 /// Returns the number in a text, in the present locale or with a decimal point.
 std::optional<double> parseFloat(const QString &text);
+
+/// Returns the entry of an enumeration as the camera shows it; its name if the camera has no other text.
+QString entryText(const CvxCPP::NodeInfo &info, const std::string &name);
 
 /// Returns the unit as it is written, for example "µs" for "us".
 QString unitText(const std::string &unit);

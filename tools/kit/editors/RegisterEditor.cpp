@@ -7,7 +7,14 @@
 #include <QPushButton>
 #include <QVariant>
 
+using CvxCPP::NodeAccess;
 using CvxCPP::NodeState;
+
+namespace {
+
+constexpr qint64 maxSize = 1 << 20; ///< Of a register that only says how long it is.
+
+} // namespace
 
 RegisterEditor::RegisterEditor(const CvxCPP::NodeInfo &info, FeatureClient &client, QWidget *parent)
     : FeatureEditor(info, client, parent),
@@ -46,9 +53,12 @@ RegisterEditor::RegisterEditor(const CvxCPP::NodeInfo &info, FeatureClient &clie
 void RegisterEditor::showState(const NodeState &state)
 {
     const auto *const bytes = std::get_if<HexBytes::Bytes>(&state.value);
-    // A register that can only be written begins with zeros.
-    const auto length = static_cast<std::size_t>(qMax<qint64>(0, state.maxLength));
-    m_view->setCamera(bytes ? *bytes : HexBytes::Bytes(length));
+    m_isWriteOnly = !bytes && state.access == NodeAccess::WriteOnly && state.maxLength <= maxSize;
+    m_isKnown = bytes || m_isWriteOnly;
+    if (m_isKnown)
+        m_view->setCamera(bytes
+                ? *bytes
+                : HexBytes::Bytes(static_cast<std::size_t>(qBound<qint64>(0, state.maxLength, maxSize))));
     const QString size = tr("%n byte(s)", nullptr, static_cast<int>(m_view->bytes().size()));
     m_size->setText(bytes ? size : tr("%1, not readable").arg(size));
     showButtons();
@@ -56,9 +66,11 @@ void RegisterEditor::showState(const NodeState &state)
 
 void RegisterEditor::setEditable(bool isEditable)
 {
-    if (!state())
+    if (!state()) {
         m_view->discard(); // Another camera may be opened next.
-    m_view->setReadOnly(!isEditable);
+        m_isKnown = false;
+    }
+    m_view->setReadOnly(!isEditable || !m_isKnown);
     showButtons();
 }
 
@@ -67,8 +79,15 @@ void RegisterEditor::labelChanged()
     m_view->setAccessibleName(label());
 }
 
+bool RegisterEditor::hasEdits() const
+{
+    return m_view->bytes().isModified();
+}
+
 void RegisterEditor::write()
 {
+    if (m_write->isHidden() || !m_write->isEnabled())
+        return;
     m_submitted = m_view->bytes().shown();
     submit(m_submitted);
 }
@@ -101,7 +120,7 @@ void RegisterEditor::onWritten(const QString &name)
 void RegisterEditor::showButtons()
 {
     const bool isModified = m_view->bytes().isModified();
-    m_write->setVisible(isModified);
+    m_write->setVisible(isModified || (m_isWriteOnly && m_view->bytes().size() > 0));
     m_write->setEnabled(!m_view->isReadOnly());
     m_discard->setVisible(isModified);
 }

@@ -1,4 +1,4 @@
-#include "tools/camerasetup/settings/SettingsChange.h"
+#include "tools/camerasetup/values/SettingsChange.h"
 
 #include "sdk/features/FeatureText.h"
 

@@ -1,4 +1,6 @@
-#include "tools/camerasetup/compare/NoteListDialog.h"
+#include "tools/kit/widgets/NoteListDialog.h"
+
+#include "tools/kit/widgets/ToolTip.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -14,8 +16,10 @@ NoteListDialog::NoteListDialog(
     : QDialog(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("notes"));
     setWindowTitle(title);
     auto *const text = new QLabel(sentence, this);
+    text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     m_list = new QTreeWidget(this);
     m_list->setAccessibleName(title);
@@ -24,7 +28,7 @@ NoteListDialog::NoteListDialog(
     m_list->setHeaderLabels({tr("Feature"), tr("Reason")});
     for (const Row &row : rows) {
         auto *const item = new QTreeWidgetItem(m_list, {row.feature, row.text});
-        item->setToolTip(1, row.text);
+        item->setToolTip(1, plainToolTip(row.text));
     }
     m_list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_list->setCurrentItem(m_list->topLevelItem(0));

@@ -1,0 +1,71 @@
+"""Changes a camera with Camera Setup while the Image Viewer watches the same camera, compares it with the opening, and
+restores it. Everything is done by mouse and keyboard, on the installed programs."""
+
+import re
+import sys
+
+from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from simulator import SimulatorConfiguration
+from tool import Tool
+
+STAGE, PLUGINS = sys.argv[1:]
+
+
+def start(launcher, title, name):
+    """Starts a tool by its tile, for the selected camera."""
+    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
+    click(launcher.tiles()[title])
+    return Tool(launcher, name)
+
+
+def differences(text):
+    match = re.match(r"(\d+) of \d+ setting\S* differs?\.", text)
+    return match and int(match[1])
+
+
+def set_gain(setup, decibels):
+    setup.activate()
+    setup.press("ctrl+f")
+    setup.type("amplification of the selected part")
+    setup.press("Down", "Down", "Down")  # Category, selector, gain.
+    wait_for("the gain is selected", lambda: "Gain" in setup.shows(lambda text: text == "Gain"))
+    setup.press("F2", "ctrl+a")
+    setup.type(decibels)
+    setup.press("Return")
+
+
+def brightness_settles(viewer, condition, promise):
+    return wait_for(promise, lambda: condition(viewer.brightness()[0]) and viewer.brightness()[0])
+
+
+def main():
+    keep_to_this_machine(STAGE)
+    # One unit of the windows is one pixel of the screen.
+    with SimulatorConfiguration(STAGE), Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
+        wait_for("the cameras are listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
+        click(launcher.cell("Orvelle"))
+        wait_for("Camera Setup is enabled", lambda: "Camera Setup" in launcher.enabled_tools())
+        with start(launcher, "Camera Setup", "CameraSetup") as setup:
+            wait_for("the settings at opening are known", lambda: setup.shows(lambda text: "0 changed since opening" in text))
+            setup.activate()
+            setup.press("F5")  # The camera streams.
+            with start(launcher, "Image Viewer", "ImageViewer") as viewer:
+                viewer.activate()
+                viewer.click("Watch only")
+                wait_for("the watching viewer shows the picture", lambda: viewer.brightness()[1] > 50)
+                before = viewer.brightness()[0]
+                set_gain(setup, "6")
+                brightness_settles(viewer, lambda mean: mean > 1.3 * before, "the picture of the viewer is brighter")
+
+                setup.activate()
+                setup.press("ctrl+e")
+                wait_for("exactly one setting differs from the opening",
+                         lambda: [differences(text) for text in setup.shows(differences)] == [1])
+
+                setup.click("As it was when I opened it…")
+                setup.click("Load")
+                wait_for("the gain is restored", lambda: setup.shows(lambda text: "0 changed since opening" in text))
+                brightness_settles(viewer, lambda mean: mean < 1.1 * before, "the picture of the viewer is as before")
+
+
+main()
