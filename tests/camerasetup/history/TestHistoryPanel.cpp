@@ -58,7 +58,7 @@ void TestHistoryPanel::showsValuesForPeople()
     bench.write(QStringLiteral("ReverseX"), true);
     bench.write(QStringLiteral("Gain"), 2.5);
     bench.history.addEdits(
-        QStringLiteral("Load a.txt"), {{{}, "OffsetX", "0", "8"}, {{}, "OffsetX", "8", "16"}});
+        QStringLiteral("R&D.txt"), {{{}, "OffsetX", "0", "8"}, {{}, "OffsetX", "8", "16"}});
     const QStringList rows[]
         = {{QStringLiteral("Image width"), QStringLiteral("640 px"), QStringLiteral("700 px")},
             {automatic, QStringLiteral("Off shown"), QStringLiteral("Continuous shown")},
@@ -69,8 +69,8 @@ void TestHistoryPanel::showsValuesForPeople()
     QCOMPARE(tableOf(panel)->model()->rowCount(), int(std::size(rows)));
     for (int row = 0; row < int(std::size(rows)); ++row)
         QCOMPARE(rowOf(panel, row), rows[row]);
-    QCOMPARE(rowOf(panel, 0, Qt::ToolTipRole)[0], width);
-    QCOMPARE(rowOf(panel, 4, Qt::ToolTipRole)[0], QStringLiteral("Load a.txt<br>OffsetX"));
+    QCOMPARE(rowOf(panel, 0, Qt::ToolTipRole)[0], QStringLiteral("<qt>Width"));
+    QCOMPARE(rowOf(panel, 4, Qt::ToolTipRole)[0], QStringLiteral("<qt>R&amp;D.txt<br>OffsetX"));
 }
 
 void TestHistoryPanel::actionsFollowHistory()

@@ -174,12 +174,13 @@ QString HistoryModel::toolTip(int row, int column) const
     constexpr int maxLength = 500; // A register may have thousands of digits.
     const QString raw = rawText(row, column).left(maxLength).toHtmlEscaped();
     const QString title = entryOf(row).title.left(maxLength).toHtmlEscaped();
-    // The tag makes Qt show the escaped text as it is.
-    const QString text = QStringLiteral("<qt>")
-        + (column == Feature && entryOf(row).kind == HistoryEntry::Kind::Load ? title + QStringLiteral("<br>")
-                                                                              : QString())
-        + raw;
-    return entryOf(row).isUndone ? text + QStringLiteral("<br>") + tr("This change was undone.") : text;
+    QString text = column == Feature && entryOf(row).kind == HistoryEntry::Kind::Load
+        ? title + QStringLiteral("<br>") + raw
+        : raw;
+    if (entryOf(row).isUndone)
+        text += QStringLiteral("<br>") + tr("This change was undone.");
+    // Without the tag, Qt may show the escaped characters of a short text.
+    return text.isEmpty() ? text : QStringLiteral("<qt>") + text;
 }
 
 QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int role) const
