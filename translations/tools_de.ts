@@ -269,23 +269,23 @@
     <name>CameraSource</name>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera jetzt</translation>
     </message>
     <message>
         <source>Reading the settings of this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen dieser Kamera werden gelesen</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera ist nicht zum Steuern geöffnet.</translation>
     </message>
     <message>
         <source>Copying to this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>In diese Kamera wird kopiert</translation>
     </message>
     <message>
         <source>Copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede kopieren</translation>
     </message>
 </context>
 <context>
@@ -315,23 +315,23 @@
     <name>ChangeHistory</name>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %1</translation>
     </message>
     <message>
         <source>The value of %1 before the change is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert von %1 vor der Änderung ist unbekannt.</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: %1</translation>
     </message>
     <message>
         <source>%1 cannot be changed while the camera is streaming.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geändert werden, solange der Stream der Kamera läuft.</translation>
     </message>
     <message>
         <source>It was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -356,123 +356,123 @@
     <name>ComparePanel</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Swap the sides</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy to the &amp;right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten tauschen</translation>
     </message>
     <message>
         <source>Reads both sides again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liest beide Seiten erneut.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Compare settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen vergleichen</translation>
     </message>
     <message>
         <source>&amp;Load the user set</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set &amp;laden</translation>
     </message>
     <message>
         <source>Compare with a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einer Datei vergleichen</translation>
     </message>
     <message>
         <source>Settings files (*.txt *.pfs *.features);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsdateien (*.txt *.pfs *.features);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Writes settings of the left side to the right side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt Einstellungen der linken Seite in die rechte.</translation>
     </message>
     <message>
         <source>The settings are being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen werden gelesen.</translation>
     </message>
     <message>
         <source>Choose two sides that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zwei Seiten, die sich lesen lassen.</translation>
+    </message>
+    <message>
+        <source>Copy to the ri&amp;ght</source>
+        <translation>Nach &amp;rechts kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Aktualisieren</translation>
     </message>
 </context>
 <context>
     <name>CompareSession</name>
     <message>
         <source>Reading: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen: %1</translation>
     </message>
     <message>
         <source>Copying to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren nach: %1</translation>
     </message>
 </context>
 <context>
     <name>CompareSides</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set %1</translation>
     </message>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera jetzt</translation>
     </message>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera beim Öffnen</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera %1</translation>
     </message>
 </context>
 <context>
     <name>ComparisonCounts</name>
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kein Unterschied in %n Einstellung.</numerusform>
+            <numerusform>Kein Unterschied in %n Einstellungen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n von %1 Einstellungen unterscheidet sich.</numerusform>
+            <numerusform>%n von %1 Einstellungen unterscheiden sich.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weiterer Unterschied ist kamera- oder zeitabhängig.</numerusform>
+            <numerusform>%n weitere Unterschiede sind kamera- oder zeitabhängig.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weiterer kamera- oder zeitabhängiger Unterschied ist ausgeblendet.</numerusform>
+            <numerusform>%n weitere kamera- oder zeitabhängige Unterschiede sind ausgeblendet.</numerusform>
         </translation>
     </message>
 </context>
@@ -480,39 +480,39 @@
     <name>ComparisonReport</name>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(fehlt)</translation>
     </message>
     <message>
         <source>belongs to one camera or one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>kamera- oder zeitabhängig</translation>
     </message>
     <message>
         <source>equal</source>
-        <translation type="unfinished"></translation>
+        <translation>gleich</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Comparison of camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich von Kameraeinstellungen</translation>
     </message>
     <message>
         <source>Left: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Links: %1, %2</translation>
     </message>
     <message>
         <source>Right: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts: %1, %2</translation>
     </message>
 </context>
 <context>
@@ -561,53 +561,53 @@
     <name>CopyActions</name>
     <message>
         <source>&amp;Selected differences</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;usgewählte Unterschiede</translation>
     </message>
     <message>
         <source>&amp;Checked differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Ange&amp;hakte Unterschiede</translation>
     </message>
     <message>
         <source>&amp;All differences</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Unterschiede</translation>
     </message>
     <message>
         <source>Copy differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede kopieren</translation>
     </message>
     <message>
         <source>&amp;Write</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The copy has failed after a part of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schreiben</translation>
     </message>
     <message>
         <source>Nothing was copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts kopiert: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung wurde kopiert.</numerusform>
+            <numerusform>%n Einstellungen wurden kopiert.</numerusform>
         </translation>
     </message>
     <message>
         <source>The copy was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kopieren wurde abgebrochen.</translation>
     </message>
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Problem wurde gemeldet.</numerusform>
+            <numerusform>%n Probleme wurden gemeldet.</numerusform>
         </translation>
     </message>
     <message>
         <source>What could not be copied or put back:</source>
-        <translation type="unfinished"></translation>
+        <translation>Was nicht kopiert oder wiederhergestellt werden konnte:</translation>
+    </message>
+    <message>
+        <source>The copy failed partway: %1</source>
+        <translation>Das Kopieren ist nach einem Teil der Einstellungen fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
@@ -637,102 +637,103 @@
     <name>DetailsPane</name>
     <message>
         <source>All values side by side</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select a feature to see what the camera says of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Werte nebeneinander</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the name for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit</translation>
     </message>
     <message>
         <source>Set back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Writes the value that the camera had when it was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Wert, den die Kamera beim Öffnen hatte.</translation>
     </message>
     <message>
         <source>Contains</source>
-        <translation type="unfinished"></translation>
+        <translation>Enthält</translation>
     </message>
     <message>
         <source>At opening: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Öffnen: %1</translation>
     </message>
     <message>
         <source>As it was when the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie beim Öffnen der Kamera</translation>
+    </message>
+    <message>
+        <source>Select a feature to see what the camera says about it.</source>
+        <translation>Wählen Sie ein Feature aus, um die Angaben der Kamera dazu zu sehen.</translation>
+    </message>
+    <message>
+        <source>Copy the name used in programs</source>
+        <translation>Namen für Programme kopieren</translation>
     </message>
 </context>
 <context>
     <name>DifferenceModel</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1; left: %2; right: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; links: %2; rechts: %3</translation>
     </message>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(fehlt)</translation>
     </message>
     <message>
         <source>%1
 This value belongs to one camera or one moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Dieser Wert ist kamera- oder zeitabhängig.</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
 </context>
 <context>
     <name>DifferenceView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Search the differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede durchsuchen</translation>
     </message>
     <message>
         <source>Also e&amp;qual</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;uch gleiche</translation>
     </message>
     <message>
         <source>Shows the settings that both sides have in common too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt auch die Einstellungen, die auf beiden Seiten gleich sind.</translation>
     </message>
     <message>
         <source>Also those of one camera or one &amp;moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch kamera- oder &amp;zeitabhängige</translation>
     </message>
     <message>
         <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt auch Werte, die sich trotz gleicher Einstellungen von Kamera zu Kamera unterscheiden: Seriennummern, Temperaturen, Zähler.</translation>
     </message>
     <message>
         <source>There is no difference to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Unterschied anzuzeigen.</translation>
     </message>
     <message>
         <source>Nothing that is shown contains the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner der angezeigten Einträge enthält den Text.</translation>
     </message>
 </context>
 <context>
@@ -850,82 +851,82 @@ This value belongs to one camera or one moment.</source>
     <name>ExportActions</name>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren…</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Saves what is shown as text or as a page (HTML).</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert die angezeigten Einträge als Text oder als HTML-Seite.</translation>
     </message>
     <message>
         <source>Copies what is shown as text to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die angezeigten Einträge als Text in die Zwischenablage.</translation>
     </message>
     <message>
         <source>Export the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich exportieren</translation>
     </message>
     <message>
         <source>Page (*.html)</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML-Seite (*.html)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text (*.txt)</translation>
     </message>
     <message>
         <source>The comparison was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vergleich wurde als %1 gespeichert.</translation>
     </message>
     <message>
         <source>The comparison could not be saved as %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vergleich konnte nicht als %1 gespeichert werden: %2</translation>
     </message>
     <message>
         <source>The comparison was copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vergleich wurde kopiert.</translation>
     </message>
 </context>
 <context>
     <name>FeatureActions</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Show Locking Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperrendes Feature zeigen</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit</translation>
     </message>
     <message>
         <source>Copy Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen kopieren</translation>
     </message>
     <message>
         <source>Copy Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert kopieren</translation>
     </message>
     <message>
         <source>Copy &quot;Name=Value&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„Name=Wert“ kopieren</translation>
     </message>
     <message>
         <source>Expand All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle aufklappen</translation>
     </message>
     <message>
         <source>Collapse All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zuklappen</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausführen</translation>
     </message>
 </context>
 <context>
@@ -943,211 +944,211 @@ This value belongs to one camera or one moment.</source>
     <name>FeatureFacts</name>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Number with decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzzahl</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalter</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzählung</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished">Befehl</translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Register</translation>
     </message>
     <message>
         <source>Not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Kamera nicht vorhanden</translation>
     </message>
     <message>
         <source>Not available at present</source>
-        <translation type="unfinished"></translation>
+        <translation>Derzeit nicht verfügbar</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur lesen</translation>
     </message>
     <message>
         <source>Write only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur schreiben</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen und schreiben</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Linear</translation>
     </message>
     <message>
         <source>Logarithmic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logarithmisch</translation>
     </message>
     <message>
         <source>Number without slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl ohne Schieberegler</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Hexadezimal</translation>
     </message>
     <message>
         <source>IPv4 address</source>
-        <translation type="unfinished"></translation>
+        <translation>IPv4-Adresse</translation>
     </message>
     <message>
         <source>MAC address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC-Adresse</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished">Minimum</translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished">Maximum</translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Increment</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrittweite</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Byte</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Longest text</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeichen</numerusform>
+            <numerusform>%n Zeichen</numerusform>
         </translation>
     </message>
     <message>
         <source>Every %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 ms</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>Darstellung</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>Not allowed now</source>
-        <translation type="unfinished"></translation>
+        <translation>Derzeit nicht zulässig</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufe</translation>
     </message>
     <message>
         <source>In settings files</source>
-        <translation type="unfinished"></translation>
+        <translation>In Einstellungsdateien</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Changes by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändert sich von selbst</translation>
     </message>
     <message>
         <source>Selected by</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählt durch</translation>
     </message>
     <message>
         <source>Selects</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt aus</translation>
     </message>
     <message>
         <source>Depends on</source>
-        <translation type="unfinished"></translation>
+        <translation>Hängt ab von</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Floating-point number</source>
+        <translation>Gleitkommazahl</translation>
+    </message>
+    <message>
+        <source>Maximum length</source>
+        <translation>Max. Textlänge</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>
     <message>
         <source>The camera is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist nicht verbunden.</translation>
     </message>
     <message>
         <source>The value was not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert wurde noch nicht gelesen.</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>gesperrt</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>geändert</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeView</name>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>Features</translation>
     </message>
 </context>
 <context>
@@ -1209,26 +1210,26 @@ This value belongs to one camera or one moment.</source>
     <name>FileSource</name>
     <message>
         <source>File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>The file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht geschrieben werden.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung in die Datei %1 schreiben? Die übrigen Einstellungen bleiben erhalten, aber Kommentare und nicht lesbare Zeilen gehen verloren.</numerusform>
+            <numerusform>%n Einstellungen in die Datei %1 schreiben? Die übrigen Einstellungen bleiben erhalten, aber Kommentare und nicht lesbare Zeilen gehen verloren.</numerusform>
         </translation>
     </message>
     <message>
         <source>changed by a copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>geändert durch Kopieren von Unterschieden</translation>
     </message>
 </context>
 <context>
@@ -1394,69 +1395,69 @@ This value belongs to one camera or one moment.</source>
     <name>FilterBar</name>
     <message>
         <source>Search features</source>
-        <translation type="unfinished"></translation>
+        <translation>Features suchen</translation>
     </message>
     <message>
         <source>Shows the features with all of these words in their name or description.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Features, deren Name oder Beschreibung alle diese Wörter enthält.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufe</translation>
     </message>
     <message>
         <source>Which features are shown: the most important ones, most, or all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt fest, welche Features angezeigt werden: die wichtigsten, die meisten oder alle.</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert</translation>
     </message>
     <message>
         <source>Shows only features that have changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur Features, die sich seit dem Öffnen der Kamera geändert haben.</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoriten</translation>
     </message>
     <message>
         <source>Shows only the features that you have marked as favourites.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur die Features, die Sie als Favoriten markiert haben.</translation>
     </message>
 </context>
 <context>
     <name>FilterHint</name>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Feature ist in der Stufe %1 ausgeblendet.</numerusform>
+            <numerusform>%n Features sind in der Stufe %1 ausgeblendet.</numerusform>
         </translation>
     </message>
     <message>
         <source>Show Them</source>
-        <translation type="unfinished"></translation>
+        <translation>Einblenden</translation>
     </message>
     <message>
         <source>Show All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zeigen</translation>
     </message>
     <message>
         <source>No feature matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Feature entspricht der Suche.</translation>
     </message>
     <message>
         <source>No feature is marked as a favourite. Ctrl+D marks one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Feature ist als Favorit markiert. Strg+D markiert eines.</translation>
     </message>
     <message>
         <source>No feature has changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seit dem Öffnen der Kamera hat sich kein Feature geändert.</translation>
     </message>
     <message>
         <source>This level has no features.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Stufe hat keine Features.</translation>
     </message>
 </context>
 <context>
@@ -1494,37 +1495,37 @@ This value belongs to one camera or one moment.</source>
     <name>HexView</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Offset %1, byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset %1, Byte %2</translation>
     </message>
     <message>
         <source>Offset %1, character %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset %1, Zeichen %2</translation>
     </message>
     <message>
         <source>The clipboard contains no hexadecimal bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält keine hexadezimalen Bytes.</translation>
     </message>
     <message>
         <source>The clipboard contains no ASCII text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält keinen ASCII-Text.</translation>
     </message>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Byte am Ende der Zwischenablage passte nicht mehr hinein.</numerusform>
+            <numerusform>%n Byte am Ende der Zwischenablage passten nicht mehr hinein.</numerusform>
         </translation>
     </message>
 </context>
@@ -1585,74 +1586,74 @@ This value belongs to one camera or one moment.</source>
     <name>HistoryModel</name>
     <message>
         <source>Executed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeführt: %1</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: %1</translation>
     </message>
     <message>
         <source>This change was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Änderung wurde rückgängig gemacht.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>Old value</source>
-        <translation type="unfinished"></translation>
+        <translation>Alter Wert</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Wert</translation>
     </message>
 </context>
 <context>
     <name>HistoryPanel</name>
     <message>
         <source>Changes since the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen seit dem Öffnen der Kamera</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Export as script…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Skript exportieren…</translation>
     </message>
     <message>
         <source>Writes a shell script that makes these changes again with cvxctl.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt ein Shell-Skript, das diese Änderungen mit cvxctl erneut ausführt.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Export the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen exportieren</translation>
     </message>
     <message>
         <source>Shell scripts (*.sh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Shell-Skripte (*.sh)</translation>
     </message>
     <message>
         <source>The script &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Skript „%1“ kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -1674,14 +1675,14 @@ This value belongs to one camera or one moment.</source>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>LastingJob</name>
     <message>
         <source>The work was cancelled before it began, or the camera was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorgang wurde vor dem Beginn abgebrochen, oder die Kamera wurde geschlossen.</translation>
     </message>
 </context>
 <context>
@@ -1715,30 +1716,30 @@ This value belongs to one camera or one moment.</source>
     <name>LevelText</name>
     <message>
         <source>Beginner</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginner</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>Expert</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>Guru</translation>
     </message>
 </context>
 <context>
     <name>LivePicture</name>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">Die Kamera sendet keine Bilder. %1</translation>
+        <translation>Die Kamera sendet keine Bilder. %1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera wartet auf einen Trigger. Lösen Sie ihn aus, oder schalten Sie den Triggermodus aus.</translation>
     </message>
     <message>
         <source>No picture has arrived yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist noch kein Bild angekommen.</translation>
     </message>
 </context>
 <context>
@@ -1752,173 +1753,244 @@ This value belongs to one camera or one moment.</source>
     <name>LoadDialog</name>
     <message>
         <source>Show only what &amp;changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Änderungen &amp;zeigen</translation>
     </message>
     <message>
         <source>Load what &amp;fits. If you cancel, what was loaded stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden, was &amp;passt. Beim Abbrechen bleibt, was schon geladen wurde.</translation>
     </message>
     <message>
         <source>&amp;All or nothing. If a setting fails or you cancel, everything is put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles oder nichts. Bei einem Fehler oder beim Abbrechen wird alles wiederhergestellt.</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>&amp;Undo the load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden zu&amp;rücknehmen</translation>
     </message>
     <message>
         <source>Co&amp;py report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht &amp;kopieren</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden: %1</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Nothing is written at all if a line of the file cannot be read, or if a setting cannot fit the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird überhaupt nichts geschrieben, wenn eine Zeile der Datei nicht lesbar ist oder eine Einstellung nicht zur Kamera passen kann.</translation>
     </message>
     <message>
         <source>Puts back all settings from before the load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt alle Einstellungen von vor dem Laden wieder her.</translation>
     </message>
     <message>
         <source>The load was not undone. Without this dialog, it cannot be undone any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden wurde nicht zurückgenommen. Ohne diesen Dialog ist das nicht mehr möglich.</translation>
     </message>
     <message>
         <source>Close &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem &amp;schließen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>LoadTable</name>
     <message>
         <source>The line cannot be read. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile ist nicht lesbar. %1</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>In camera</source>
-        <translation type="unfinished"></translation>
+        <translation>In Kamera</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Wert</translation>
     </message>
     <message>
         <source>Read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgelesen</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
 </context>
 <context>
     <name>LoadText</name>
     <message>
         <source>Cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann nicht geladen werden.</translation>
     </message>
     <message>
         <source>Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung kann nicht geladen werden.</numerusform>
+            <numerusform>%n Einstellungen können nicht geladen werden.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung ist fehlgeschlagen.</numerusform>
+            <numerusform>%n Einstellungen sind fehlgeschlagen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geändert.</translation>
     </message>
     <message>
         <source>Changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung wird geändert.</numerusform>
+            <numerusform>%n Einstellungen werden geändert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung wurde geändert.</numerusform>
+            <numerusform>%n Einstellungen wurden geändert.</numerusform>
         </translation>
     </message>
     <message>
         <source>Overruled by another setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einer anderen Einstellung übersteuert.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung wird von anderen übersteuert.</numerusform>
+            <numerusform>%n Einstellungen werden von anderen übersteuert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung wurde von anderen übersteuert.</numerusform>
+            <numerusform>%n Einstellungen wurden von anderen übersteuert.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Already so.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung hat den Wert bereits.</numerusform>
+            <numerusform>%n Einstellungen haben den Wert bereits.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung hatte den Wert bereits.</numerusform>
+            <numerusform>%n Einstellungen hatten den Wert bereits.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Already has this value.</source>
+        <translation>Bereits gesetzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) cannot be read.</source>
+        <translation>
+            <numerusform>%n Zeile ist nicht lesbar.</numerusform>
+            <numerusform>%n Zeilen sind nicht lesbar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The load was cancelled, and the settings from before were put back.</source>
+        <translation>Das Laden wurde abgebrochen, und die vorherigen Einstellungen wurden wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>The load has failed, and the settings from before were put back.</source>
+        <translation>Das Laden ist fehlgeschlagen, und die vorherigen Einstellungen wurden wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. What was loaded before stays.</source>
+        <translation>Das Laden wurde abgebrochen. Was schon geladen wurde, bleibt.</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. Nothing was changed.</source>
+        <translation>Das Laden wurde abgebrochen. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed, because not everything can be loaded.</source>
+        <translation>Es wurde nichts geändert, weil sich nicht alles laden lässt.</translation>
+    </message>
+    <message>
+        <source>Not everything could be loaded.</source>
+        <translation>Nicht alles konnte geladen werden.</translation>
+    </message>
+    <message>
+        <source>The settings were loaded and read back.</source>
+        <translation>Die Einstellungen wurden geladen und rückgelesen.</translation>
+    </message>
+    <message>
+        <source>All settings from before the load were put back.</source>
+        <translation>Alle Einstellungen von vor dem Laden wurden wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Not all settings from before the load could be put back.</source>
+        <translation>Nicht alle Einstellungen von vor dem Laden konnten wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>Put back.</source>
+        <translation>Wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Not put back.</source>
+        <translation>Nicht wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>The settings are being compared with the camera.</source>
+        <translation>Die Einstellungen werden mit der Kamera verglichen.</translation>
+    </message>
+    <message>
+        <source>The settings are being loaded and read back.</source>
+        <translation>Die Einstellungen werden geladen und rückgelesen.</translation>
+    </message>
+    <message>
+        <source>The settings from before the load are being put back.</source>
+        <translation>Die Einstellungen von vor dem Laden werden wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>Es würde sich nichts ändern.</translation>
+    </message>
+    <message>
+        <source>There are no settings to load.</source>
+        <translation>Es gibt keine Einstellungen zu laden.</translation>
     </message>
 </context>
 <context>
@@ -1965,19 +2037,19 @@ This value belongs to one camera or one moment.</source>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished">ein</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zeigen</translation>
     </message>
     <message>
         <source>Set %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf %2 setzen</translation>
     </message>
 </context>
 <context>
@@ -2189,15 +2261,15 @@ This value belongs to one camera or one moment.</source>
     <name>NoteListDialog</name>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Grund</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
 </context>
 <context>
@@ -2223,68 +2295,72 @@ This value belongs to one camera or one moment.</source>
     <name>OpeningSnapshot</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera beim Öffnen</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>%1 was changed before its value at opening was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde geändert, bevor der Wert beim Öffnen gelesen war.</translation>
     </message>
     <message>
         <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgeführt, bevor alle Einstellungen gelesen waren; einige davon können deshalb den Stand danach zeigen.</translation>
+    </message>
+    <message>
+        <source>There are too many values, so only some were read.</source>
+        <translation>Es gibt zu viele Werte, deshalb wurden nur einige gelesen.</translation>
     </message>
 </context>
 <context>
     <name>OpeningSource</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera beim Öffnen</translation>
     </message>
     <message>
         <source>No camera is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Kamera geöffnet.</translation>
     </message>
     <message>
         <source>The settings at opening are still being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen beim Öffnen werden noch gelesen.</translation>
     </message>
     <message>
-        <source>The settings at opening are in the past. Choose another right side.</source>
-        <translation type="unfinished"></translation>
+        <source>The settings at opening cannot be changed. Choose another right side.</source>
+        <translation>Der Stand beim Öffnen lässt sich nicht mehr ändern. Wählen Sie eine andere rechte Seite.</translation>
     </message>
 </context>
 <context>
     <name>OtherCameraSource</name>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera %1</translation>
     </message>
     <message>
         <source>Another program uses this camera, so it was only watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm verwendet diese Kamera, deshalb wurde sie nur beobachtet.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung in die Kamera %1 schreiben? Das lässt sich hier nicht rückgängig machen.</numerusform>
+            <numerusform>%n Einstellungen in die Kamera %1 schreiben? Das lässt sich hier nicht rückgängig machen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Opening the camera was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Öffnen der Kamera wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The camera is not connected any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist nicht mehr verbunden.</translation>
     </message>
     <message>
         <source>The camera did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat nicht rechtzeitig geantwortet.</translation>
     </message>
 </context>
 <context>
@@ -2504,377 +2580,377 @@ This value belongs to one camera or one moment.</source>
     <name>RegisterEditor</name>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">Verwerfen</translation>
+        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>Writes all bytes to the camera (Ctrl+Return).</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt alle Bytes in die Kamera (Strg+Eingabe).</translation>
     </message>
     <message>
         <source>Shows the bytes of the camera again (Escape).</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt wieder die Bytes der Kamera (Esc).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Byte</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nicht lesbar</translation>
     </message>
 </context>
 <context>
     <name>RestoreBar</name>
     <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shows which settings differ from those when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, welche Einstellungen vom Stand beim Öffnen der Kamera abweichen.</translation>
     </message>
     <message>
         <source>&amp;Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>%1 Settings that were not made with this program may have the values from power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Einstellungen, die nicht mit diesem Programm vorgenommen wurden, haben möglicherweise die Werte vom Einschalten.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
+        <translation>Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
     </message>
     <message>
         <source>The settings were not read completely before the camera was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen waren noch nicht vollständig gelesen, als die Verbindung zur Kamera verloren ging.</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was sich ändern würde, und stellt dann alles so ein, wie es beim Öffnen der Kamera war.</translation>
+    </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore</source>
+        <translation>W&amp;iederherstellen</translation>
     </message>
 </context>
 <context>
     <name>SelectorTable</name>
     <message>
         <source>Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu lesen</translation>
     </message>
     <message>
         <source>Values of the selected features</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte der über den Selektor gewählten Features</translation>
     </message>
     <message>
         <source>Show the feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature zeigen</translation>
     </message>
     <message>
         <source>The feature has no selector, so it has only one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Feature hat keinen Selektor und deshalb nur einen Wert.</translation>
     </message>
     <message>
         <source>%1 is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>The values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte je %1</translation>
     </message>
     <message>
         <source>%1, while %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, bei %2</translation>
     </message>
     <message>
         <source>Reading the values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte je %1 werden gelesen</translation>
     </message>
     <message>
         <source>Reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The selector has more values; only the first ones are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Selektor hat weitere Werte; hier werden nur die ersten angezeigt.</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished">Für diese Änderung muss der Stream kurz angehalten werden.</translation>
+        <translation>Für diese Änderung muss der Stream kurz angehalten werden.</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished">Anhalten und setzen</translation>
+        <translation>Anhalten und setzen</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geschrieben</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Wert von %2.</translation>
     </message>
 </context>
 <context>
     <name>SettingTexts</name>
     <message>
         <source>Without category</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Kategorie</translation>
     </message>
 </context>
 <context>
     <name>SettingsActions</name>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;speichern…</translation>
     </message>
     <message>
         <source>&amp;Load settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;laden…</translation>
     </message>
     <message>
         <source>As it &amp;was when I opened it…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wie beim Öffnen der Kamera…</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
+        <translation>Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
     </message>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished">Die Kamera ist nicht geöffnet.</translation>
+        <translation>Die Kamera ist nicht geöffnet.</translation>
     </message>
     <message>
         <source>Saves all settings to a file that other GenICam programs can read, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert alle Einstellungen in einer Datei, die auch andere GenICam-Programme lesen können.</translation>
     </message>
     <message>
         <source>Shows what a settings file would change, and then loads it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was eine Einstellungsdatei ändern würde, und lädt sie dann.</translation>
     </message>
     <message>
         <source>The settings from the opening are not completely known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen beim Öffnen sind nicht vollständig bekannt.</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was sich ändern würde, und stellt dann alles so ein, wie es beim Öffnen der Kamera war.</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen speichern</translation>
     </message>
     <message>
         <source>Settings files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsdateien (%1)</translation>
     </message>
     <message>
         <source>All files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (%1)</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung wurde in „%1“ gespeichert.</numerusform>
+            <numerusform>%n Einstellungen wurden in „%1“ gespeichert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Hinweis:</numerusform>
+            <numerusform>%n Hinweise:</numerusform>
         </translation>
     </message>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen laden</translation>
     </message>
     <message>
         <source>the settings from the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen beim Öffnen</translation>
     </message>
 </context>
 <context>
     <name>SettingsLoad</name>
     <message>
         <source>Comparing %1 with the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich mit der Kamera: %1</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen: %1</translation>
     </message>
     <message>
         <source>Putting back the settings from before %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden wird zurückgenommen: %1</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden: %1</translation>
     </message>
     <message>
         <source>Undo loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden zurücknehmen: %1</translation>
     </message>
 </context>
 <context>
     <name>SettingsSave</name>
     <message>
         <source>Saving the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen werden gespeichert</translation>
     </message>
     <message>
         <source>Saving was cancelled. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Speichern wurde abgebrochen. Die Datei wurde nicht geschrieben.</translation>
     </message>
     <message>
-        <source>The camera has no settings that belong into a file. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <source>The camera has no settings that belong in a file. The file was not written.</source>
+        <translation>Die Kamera hat keine Einstellungen, die in eine Datei gehören. Die Datei wurde nicht geschrieben.</translation>
     </message>
 </context>
 <context>
     <name>SettingsSource</name>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
     <name>SetupWindow</name>
     <message>
         <source>Camera Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Camera Setup</translation>
     </message>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>Features</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Sets</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">Bild</translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>All selector values</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Selektorwerte</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">&amp;Datei</translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: %1</translation>
     </message>
     <message>
         <source>&amp;Find a feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Feature &amp;suchen</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">&amp;Kamera</translation>
+        <translation>&amp;Kamera</translation>
     </message>
     <message>
         <source>Live &amp;picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Live&amp;bild</translation>
     </message>
     <message>
         <source>&amp;Compare with the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Stand beim Öffnen &amp;vergleichen</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Im &amp;Image Viewer öffnen</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished">&amp;Bedienfelder</translation>
+        <translation>Bedien&amp;felder</translation>
     </message>
     <message>
         <source>F2, Return</source>
-        <translation type="unfinished"></translation>
+        <translation>F2, Eingabe</translation>
     </message>
     <message>
         <source>Edit the value of the selected feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert des ausgewählten Features bearbeiten</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close or open a category</source>
-        <translation type="unfinished"></translation>
+        <translation>Links, Rechts</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished">Werkzeugleiste</translation>
+        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Feature. Die Einstellungen beim Öffnen werden gelesen.</numerusform>
+            <numerusform>%n Features. Die Einstellungen beim Öffnen werden gelesen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Feature</numerusform>
+            <numerusform>%n Features</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n seit dem Öffnen geändert</numerusform>
+            <numerusform>%n seit dem Öffnen geändert</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Collapse or expand a category</source>
+        <translation>Kategorie zu- oder aufklappen</translation>
     </message>
 </context>
 <context>
@@ -2896,33 +2972,33 @@ This value belongs to one camera or one moment.</source>
     <name>SideBox</name>
     <message>
         <source>Shows what could not be read, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was nicht gelesen werden konnte und warum.</translation>
     </message>
     <message>
         <source>File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei…</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung, %1</numerusform>
+            <numerusform>%n Einstellungen, %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Hinweis</numerusform>
+            <numerusform>%n Hinweise</numerusform>
         </translation>
     </message>
     <message>
         <source>Not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht gelesen.</translation>
     </message>
     <message>
         <source>Notes on what was read:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise zum Gelesenen:</translation>
     </message>
 </context>
 <context>
@@ -3160,14 +3236,14 @@ This value belongs to one camera or one moment.</source>
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Höchstens %n Zeichen</numerusform>
+            <numerusform>Höchstens %n Zeichen</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 von %2</translation>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
@@ -3286,267 +3362,267 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     <name>UserSetControl</name>
     <message>
         <source>Reading the user sets</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Sets werden gelesen</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
+        <translation>Die Kamera wird nur beobachtet, deshalb sind keine Änderungen möglich.</translation>
     </message>
     <message>
         <source>The camera does not offer this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera bietet das nicht an.</translation>
     </message>
     <message>
         <source>The camera does not let the set for power-on be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei dieser Kamera lässt sich das Set für das Einschalten nicht wählen.</translation>
     </message>
     <message>
         <source>The camera does not allow this set at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera lässt dieses Set beim Einschalten nicht zu.</translation>
     </message>
     <message>
         <source>The camera is only watched, so its user sets cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera wird nur beobachtet, deshalb können ihre User-Sets nicht geladen werden.</translation>
     </message>
     <message>
         <source>Loading &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird geladen</translation>
     </message>
     <message>
         <source>Load user set &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set „%1“ laden</translation>
     </message>
     <message>
         <source>The load was cancelled. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden wurde abgebrochen. Es wurde nichts geändert.</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“ wurde geladen und hat %n Einstellung geändert.</numerusform>
+            <numerusform>„%1“ wurde geladen und hat %n Einstellungen geändert.</numerusform>
         </translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird gespeichert</translation>
     </message>
     <message>
         <source>The present settings were saved as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aktuellen Einstellungen wurden als „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>Choosing &quot;%1&quot; for power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird für das Einschalten gewählt</translation>
     </message>
     <message>
         <source>Use user set &quot;%1&quot; at power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set „%1“ beim Einschalten verwenden</translation>
     </message>
     <message>
         <source>The camera begins with &quot;%1&quot; at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera startet beim Einschalten mit „%1“.</translation>
     </message>
 </context>
 <context>
     <name>UserSetPanel</name>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden…</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Use at &amp;power-on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;peichern…</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Sets</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished">User-Set</translation>
+        <translation>User-Set</translation>
     </message>
     <message>
         <source>At power-on</source>
-        <translation type="unfinished">Beim Einschalten</translation>
+        <translation>Beim Einschalten</translation>
     </message>
     <message>
         <source>This camera keeps no user sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera hat keine User-Sets.</translation>
     </message>
     <message>
         <source>The user sets are not known yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die User-Sets sind noch nicht bekannt.</translation>
     </message>
     <message>
         <source>✓ yes</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ ja</translation>
     </message>
     <message>
         <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt die Einstellungen der Kamera durch die von „%1“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geladen werden.</translation>
     </message>
     <message>
         <source>Stores the present settings as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert die aktuellen Einstellungen als „%1“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Lets the camera begin with &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt die Kamera beim Einschalten mit „%1“ starten.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann beim Einschalten nicht verwendet werden.</translation>
     </message>
     <message>
         <source>Shows how the settings of the camera differ from this set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, wie sich die Einstellungen der Kamera von diesem Set unterscheiden.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht verglichen werden.</translation>
     </message>
     <message>
         <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ laden? Die aktuellen Einstellungen der Kamera werden überschrieben.</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Feature weicht vom Stand beim Öffnen der Kamera ab.</numerusform>
+            <numerusform>%n Features weichen vom Stand beim Öffnen der Kamera ab.</numerusform>
         </translation>
     </message>
     <message>
         <source>Loading can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden kann rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>Load user set</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set laden</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>Save user set</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set speichern</translation>
     </message>
     <message>
         <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aktuellen Einstellungen als „%1“ speichern? Der bisherige Inhalt dieses Sets wird überschrieben; das kann nicht rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Use at power-on</source>
+        <translation>Als Ei&amp;nschalt-Set</translation>
+    </message>
+    <message>
+        <source>Comp&amp;are</source>
+        <translation>Ver&amp;gleichen</translation>
     </message>
 </context>
 <context>
     <name>UserSetSource</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set %1</translation>
     </message>
     <message>
         <source>The camera has to load the user set %1 to show it. The stream is stopped for this, and your present settings are put back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um das User-Set %1 anzuzeigen, muss die Kamera es laden. Dazu wird der Stream angehalten, und danach werden Ihre aktuellen Einstellungen wiederhergestellt.</translation>
     </message>
     <message>
         <source>Not put back after the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach User-Set %1 nicht wiederhergestellt</translation>
     </message>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weitere Einstellung wurde nicht wiederhergestellt; sie ist im Verlauf aufgeführt.</numerusform>
+            <numerusform>%n weitere Einstellungen wurden nicht wiederhergestellt; sie sind im Verlauf aufgeführt.</numerusform>
         </translation>
     </message>
     <message>
         <source>The camera may still have the settings of the user set. Restore those from the opening.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat möglicherweise noch die Einstellungen des User-Sets. Stellen Sie die Einstellungen vom Öffnen wieder her.</translation>
     </message>
     <message>
         <source>Reading the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set %1 wird gelesen</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera ist nicht zum Steuern geöffnet.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellung in das User-Set %1 schreiben? Die Kamera lädt, ändert und speichert das Set; danach werden Ihre aktuellen Einstellungen wiederhergestellt. Dazu wird der Stream angehalten.</numerusform>
+            <numerusform>%n Einstellungen in das User-Set %1 schreiben? Die Kamera lädt, ändert und speichert das Set; danach werden Ihre aktuellen Einstellungen wiederhergestellt. Dazu wird der Stream angehalten.</numerusform>
         </translation>
     </message>
     <message>
         <source>Copying to the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In das User-Set %1 wird kopiert</translation>
     </message>
     <message>
         <source>The copy was cancelled, so the user set was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kopieren wurde abgebrochen, deshalb wurde das User-Set nicht geändert.</translation>
     </message>
 </context>
 <context>
     <name>ValueText</name>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 … (%n Byte)</numerusform>
+            <numerusform>%1 … (%n Byte)</numerusform>
         </translation>
     </message>
     <message>
         <source>not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>in dieser Kamera nicht vorhanden</translation>
     </message>
     <message>
         <source>not available</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht verfügbar</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht lesbar</translation>
     </message>
     <message>
         <source>can only be written</source>
-        <translation type="unfinished"></translation>
+        <translation>nur schreibbar</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausführen</translation>
     </message>
     <message>
         <source>Running …</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft …</translation>
     </message>
 </context>
 <context>

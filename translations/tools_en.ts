@@ -5,30 +5,30 @@
     <name>ComparisonCounts</name>
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>No difference in %n setting.</numerusform>
+            <numerusform>No difference in %n settings.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n of %1 settings differs.</numerusform>
+            <numerusform>%n of %1 settings differ.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n more difference belongs to one camera or one moment.</numerusform>
+            <numerusform>%n more differences belong to one camera or one moment.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n more difference that belongs to one camera or one moment is hidden.</numerusform>
+            <numerusform>%n more differences that belong to one camera or one moment are hidden.</numerusform>
         </translation>
     </message>
 </context>
@@ -36,16 +36,16 @@
     <name>CopyActions</name>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting was copied.</numerusform>
+            <numerusform>%n settings were copied.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n problem was reported.</numerusform>
+            <numerusform>%n problems were reported.</numerusform>
         </translation>
     </message>
 </context>
@@ -70,16 +70,16 @@
     <name>FeatureFacts</name>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n character</numerusform>
+            <numerusform>%n characters</numerusform>
         </translation>
     </message>
 </context>
@@ -87,9 +87,9 @@
     <name>FileSource</name>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Write %n setting into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</numerusform>
+            <numerusform>Write %n settings into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</numerusform>
         </translation>
     </message>
 </context>
@@ -97,9 +97,9 @@
     <name>FilterHint</name>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n feature is hidden by the level %1.</numerusform>
+            <numerusform>%n features are hidden by the level %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -107,9 +107,9 @@
     <name>HexView</name>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The last %n byte of the clipboard did not fit.</numerusform>
+            <numerusform>The last %n bytes of the clipboard did not fit.</numerusform>
         </translation>
     </message>
 </context>
@@ -117,58 +117,65 @@
     <name>LoadText</name>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting cannot be loaded.</numerusform>
+            <numerusform>%n settings cannot be loaded.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting failed.</numerusform>
+            <numerusform>%n settings failed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting will change.</numerusform>
+            <numerusform>%n settings will change.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting changed.</numerusform>
+            <numerusform>%n settings changed.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting will be overruled by others.</numerusform>
+            <numerusform>%n settings will be overruled by others.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting was overruled by others.</numerusform>
+            <numerusform>%n settings were overruled by others.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting already has the value.</numerusform>
+            <numerusform>%n settings already have the value.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting already had the value.</numerusform>
+            <numerusform>%n settings already had the value.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) cannot be read.</source>
+        <translation>
+            <numerusform>%n line cannot be read.</numerusform>
+            <numerusform>%n lines cannot be read.</numerusform>
         </translation>
     </message>
 </context>
@@ -200,9 +207,9 @@
     <name>OtherCameraSource</name>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Write %n setting to the camera %1? This cannot be undone here.</numerusform>
+            <numerusform>Write %n settings to the camera %1? This cannot be undone here.</numerusform>
         </translation>
     </message>
 </context>
@@ -269,9 +276,9 @@
     <name>RegisterEditor</name>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
         </translation>
     </message>
 </context>
@@ -279,16 +286,16 @@
     <name>SettingsActions</name>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting was saved to &quot;%1&quot;.</numerusform>
+            <numerusform>%n settings were saved to &quot;%1&quot;.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n remark:</numerusform>
+            <numerusform>%n remarks:</numerusform>
         </translation>
     </message>
 </context>
@@ -296,23 +303,23 @@
     <name>SetupWindow</name>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n feature. The settings at opening are being read.</numerusform>
+            <numerusform>%n features. The settings at opening are being read.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n feature</numerusform>
+            <numerusform>%n features</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n changed since opening</numerusform>
+            <numerusform>%n changed since opening</numerusform>
         </translation>
     </message>
 </context>
@@ -320,16 +327,16 @@
     <name>SideBox</name>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n setting, %1</numerusform>
+            <numerusform>%n settings, %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n note</numerusform>
+            <numerusform>%n notes</numerusform>
         </translation>
     </message>
 </context>
@@ -337,9 +344,9 @@
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>At most %n character</numerusform>
+            <numerusform>At most %n characters</numerusform>
         </translation>
     </message>
 </context>
@@ -347,9 +354,9 @@
     <name>UserSetControl</name>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&quot;%1&quot; was loaded, which changed %n setting.</numerusform>
+            <numerusform>&quot;%1&quot; was loaded, which changed %n settings.</numerusform>
         </translation>
     </message>
 </context>
@@ -357,9 +364,9 @@
     <name>UserSetPanel</name>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n feature differs from those when the camera was opened.</numerusform>
+            <numerusform>%n features differ from those when the camera was opened.</numerusform>
         </translation>
     </message>
 </context>
@@ -367,16 +374,16 @@
     <name>UserSetSource</name>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n more setting was not put back; the history lists them.</numerusform>
+            <numerusform>%n more settings were not put back; the history lists them.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Write %n setting into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</numerusform>
+            <numerusform>Write %n settings into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</numerusform>
         </translation>
     </message>
 </context>
@@ -384,9 +391,9 @@
     <name>ValueText</name>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 … (%n byte)</numerusform>
+            <numerusform>%1 … (%n bytes)</numerusform>
         </translation>
     </message>
 </context>

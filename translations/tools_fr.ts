@@ -269,23 +269,23 @@
     <name>CameraSource</name>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra (état actuel)</translation>
     </message>
     <message>
         <source>Reading the settings of this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des réglages de cette caméra</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra n’est pas ouverte en mode contrôle.</translation>
     </message>
     <message>
         <source>Copying to this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie vers cette caméra</translation>
     </message>
     <message>
         <source>Copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie de différences</translation>
     </message>
 </context>
 <context>
@@ -315,23 +315,23 @@
     <name>ChangeHistory</name>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler : %1</translation>
     </message>
     <message>
         <source>The value of %1 before the change is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur de %1 avant la modification est inconnue.</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir : %1</translation>
     </message>
     <message>
         <source>%1 cannot be changed while the camera is streaming.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas modifiable pendant l’acquisition.</translation>
     </message>
     <message>
         <source>It was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’opération a été annulée.</translation>
     </message>
 </context>
 <context>
@@ -356,123 +356,123 @@
     <name>ComparePanel</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Swap the sides</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy to the &amp;right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervertir les côtés</translation>
     </message>
     <message>
         <source>Reads both sides again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relit les deux côtés.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Compare settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer les réglages</translation>
     </message>
     <message>
         <source>&amp;Load the user set</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Charger le jeu</translation>
     </message>
     <message>
         <source>Compare with a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer à un fichier</translation>
     </message>
     <message>
         <source>Settings files (*.txt *.pfs *.features);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de réglages (*.txt *.pfs *.features);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Writes settings of the left side to the right side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit des réglages du côté gauche dans le côté droit.</translation>
     </message>
     <message>
         <source>The settings are being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des réglages en cours.</translation>
     </message>
     <message>
         <source>Choose two sides that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez deux côtés lisibles.</translation>
+    </message>
+    <message>
+        <source>Copy to the ri&amp;ght</source>
+        <translation>Copier &amp;vers la droite</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Actualiser</translation>
     </message>
 </context>
 <context>
     <name>CompareSession</name>
     <message>
         <source>Reading: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture : %1</translation>
     </message>
     <message>
         <source>Copying to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie vers : %1</translation>
     </message>
 </context>
 <context>
     <name>CompareSides</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu de paramètres %1</translation>
     </message>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra (état actuel)</translation>
     </message>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra (à l’ouverture)</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Caméra %1</translation>
     </message>
 </context>
 <context>
     <name>ComparisonCounts</name>
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aucune différence sur %n réglage.</numerusform>
+            <numerusform>Aucune différence sur %n réglages.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage sur %1 diffère.</numerusform>
+            <numerusform>%n réglages sur %1 diffèrent.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n autre différence est propre à une caméra ou à un instant.</numerusform>
+            <numerusform>%n autres différences sont propres à une caméra ou à un instant.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n autre différence, propre à une caméra ou à un instant, est masquée.</numerusform>
+            <numerusform>%n autres différences, propres à une caméra ou à un instant, sont masquées.</numerusform>
         </translation>
     </message>
 </context>
@@ -480,39 +480,39 @@
     <name>ComparisonReport</name>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(absent)</translation>
     </message>
     <message>
         <source>belongs to one camera or one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>propre à une caméra ou à un instant</translation>
     </message>
     <message>
         <source>equal</source>
-        <translation type="unfinished"></translation>
+        <translation>identique</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Comparison of camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison de réglages de caméra</translation>
     </message>
     <message>
         <source>Left: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche : %1, %2</translation>
     </message>
     <message>
         <source>Right: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite : %1, %2</translation>
     </message>
 </context>
 <context>
@@ -561,53 +561,53 @@
     <name>CopyActions</name>
     <message>
         <source>&amp;Selected differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Différences &amp;sélectionnées</translation>
     </message>
     <message>
         <source>&amp;Checked differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Différences &amp;cochées</translation>
     </message>
     <message>
         <source>&amp;All differences</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toutes les différences</translation>
     </message>
     <message>
         <source>Copy differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les différences</translation>
     </message>
     <message>
         <source>&amp;Write</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The copy has failed after a part of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;crire</translation>
     </message>
     <message>
         <source>Nothing was copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été copié : %1</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage copié.</numerusform>
+            <numerusform>%n réglages copiés.</numerusform>
         </translation>
     </message>
     <message>
         <source>The copy was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie a été annulée.</translation>
     </message>
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n problème signalé.</numerusform>
+            <numerusform>%n problèmes signalés.</numerusform>
         </translation>
     </message>
     <message>
         <source>What could not be copied or put back:</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages qui n’ont pas pu être copiés ou restaurés :</translation>
+    </message>
+    <message>
+        <source>The copy failed partway: %1</source>
+        <translation>La copie a échoué après une écriture partielle : %1</translation>
     </message>
 </context>
 <context>
@@ -637,102 +637,103 @@
     <name>DetailsPane</name>
     <message>
         <source>All values side by side</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select a feature to see what the camera says of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les valeurs côte à côte</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the name for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Favori</translation>
     </message>
     <message>
         <source>Set back</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer</translation>
     </message>
     <message>
         <source>Writes the value that the camera had when it was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réécrit la valeur qu’avait la caméra à son ouverture.</translation>
     </message>
     <message>
         <source>Contains</source>
-        <translation type="unfinished"></translation>
+        <translation>Contient</translation>
     </message>
     <message>
         <source>At opening: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’ouverture : %1</translation>
     </message>
     <message>
         <source>As it was when the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Inchangé depuis l’ouverture de la caméra</translation>
+    </message>
+    <message>
+        <source>Select a feature to see what the camera says about it.</source>
+        <translation>Sélectionnez un paramètre pour voir ce que la caméra en indique.</translation>
+    </message>
+    <message>
+        <source>Copy the name used in programs</source>
+        <translation>Copier le nom technique</translation>
     </message>
 </context>
 <context>
     <name>DifferenceModel</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1; left: %2; right: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; gauche : %2 ; droite : %3</translation>
     </message>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(absent)</translation>
     </message>
     <message>
         <source>%1
 This value belongs to one camera or one moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
 </context>
 <context>
     <name>DifferenceView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Différences</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Search the differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans les différences</translation>
     </message>
     <message>
         <source>Also e&amp;qual</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi les identi&amp;ques</translation>
     </message>
     <message>
         <source>Shows the settings that both sides have in common too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche aussi les réglages identiques des deux côtés.</translation>
     </message>
     <message>
         <source>Also those of one camera or one &amp;moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi ceux propres à une caméra ou un i&amp;nstant</translation>
     </message>
     <message>
         <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche aussi les valeurs qui diffèrent entre des caméras réglées à l’identique : numéros de série, températures, compteurs.</translation>
     </message>
     <message>
         <source>There is no difference to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune différence à afficher.</translation>
     </message>
     <message>
         <source>Nothing that is shown contains the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun élément affiché ne contient ce texte.</translation>
     </message>
 </context>
 <context>
@@ -850,82 +851,82 @@ This value belongs to one camera or one moment.</source>
     <name>ExportActions</name>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter…</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Saves what is shown as text or as a page (HTML).</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre le contenu affiché sous forme de texte ou de page (HTML).</translation>
     </message>
     <message>
         <source>Copies what is shown as text to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie le contenu affiché dans le presse-papiers, sous forme de texte.</translation>
     </message>
     <message>
         <source>Export the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter la comparaison</translation>
     </message>
     <message>
         <source>Page (*.html)</source>
-        <translation type="unfinished"></translation>
+        <translation>Page (*.html)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte (*.txt)</translation>
     </message>
     <message>
         <source>The comparison was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison enregistrée sous %1.</translation>
     </message>
     <message>
         <source>The comparison could not be saved as %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer la comparaison sous %1 : %2</translation>
     </message>
     <message>
         <source>The comparison was copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison copiée.</translation>
     </message>
 </context>
 <context>
     <name>FeatureActions</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Show Locking Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le paramètre verrouillant</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favori</translation>
     </message>
     <message>
         <source>Copy Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le nom</translation>
     </message>
     <message>
         <source>Copy Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la valeur</translation>
     </message>
     <message>
         <source>Copy &quot;Name=Value&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier « Nom=Valeur »</translation>
     </message>
     <message>
         <source>Expand All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout déplier</translation>
     </message>
     <message>
         <source>Collapse All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout replier</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter</translation>
     </message>
 </context>
 <context>
@@ -943,211 +944,211 @@ This value belongs to one camera or one moment.</source>
     <name>FeatureFacts</name>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Number with decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Booléen</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>Énumération</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished">Commande</translation>
+        <translation>Commande</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registre</translation>
     </message>
     <message>
         <source>Not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent de cette caméra</translation>
     </message>
     <message>
         <source>Not available at present</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponible actuellement</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture seule</translation>
     </message>
     <message>
         <source>Write only</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture seule</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture et écriture</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Linéaire</translation>
     </message>
     <message>
         <source>Logarithmic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logarithmique</translation>
     </message>
     <message>
         <source>Number without slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre sans curseur</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Hexadécimal</translation>
     </message>
     <message>
         <source>IPv4 address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse IPv4</translation>
     </message>
     <message>
         <source>MAC address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse MAC</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished">Minimum</translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished">Maximum</translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Increment</source>
-        <translation type="unfinished"></translation>
+        <translation>Incrément</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n octet</numerusform>
+            <numerusform>%n octets</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Longest text</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n caractère</numerusform>
+            <numerusform>%n caractères</numerusform>
         </translation>
     </message>
     <message>
         <source>Every %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les %1 ms</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>Représentation</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité</translation>
     </message>
     <message>
         <source>Not allowed now</source>
-        <translation type="unfinished"></translation>
+        <translation>Non admis actuellement</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>In settings files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans les fichiers de réglages</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Changes by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Change de lui-même</translation>
     </message>
     <message>
         <source>Selected by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionné par</translation>
     </message>
     <message>
         <source>Selects</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionne</translation>
     </message>
     <message>
         <source>Depends on</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépend de</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Floating-point number</source>
+        <translation>Nombre décimal</translation>
+    </message>
+    <message>
+        <source>Maximum length</source>
+        <translation>Longueur maximale</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>
     <message>
         <source>The camera is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’est pas connectée.</translation>
     </message>
     <message>
         <source>The value was not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur n’a pas encore été lue.</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>verrouillé</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>modifié</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>favori</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeView</name>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
 </context>
 <context>
@@ -1209,26 +1210,26 @@ This value belongs to one camera or one moment.</source>
     <name>FileSource</name>
     <message>
         <source>File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier %1</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1</translation>
     </message>
     <message>
         <source>The file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est pas accessible en écriture.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Écrire %n réglage dans le fichier %1 ? Les autres réglages sont conservés, mais les commentaires et les lignes illisibles sont perdus.</numerusform>
+            <numerusform>Écrire %n réglages dans le fichier %1 ? Les autres réglages sont conservés, mais les commentaires et les lignes illisibles sont perdus.</numerusform>
         </translation>
     </message>
     <message>
         <source>changed by a copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>modifié par une copie de différences</translation>
     </message>
 </context>
 <context>
@@ -1394,69 +1395,69 @@ This value belongs to one camera or one moment.</source>
     <name>FilterBar</name>
     <message>
         <source>Search features</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des paramètres</translation>
     </message>
     <message>
         <source>Shows the features with all of these words in their name or description.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les paramètres dont le nom ou la description contient tous ces mots.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Which features are shown: the most important ones, most, or all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres affichés : les plus importants, la plupart ou tous.</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifiés</translation>
     </message>
     <message>
         <source>Shows only features that have changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’affiche que les paramètres modifiés depuis l’ouverture de la caméra.</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoris</translation>
     </message>
     <message>
         <source>Shows only the features that you have marked as favourites.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’affiche que les paramètres marqués comme favoris.</translation>
     </message>
 </context>
 <context>
     <name>FilterHint</name>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n paramètre est masqué par le niveau « %1 ».</numerusform>
+            <numerusform>%n paramètres sont masqués par le niveau « %1 ».</numerusform>
         </translation>
     </message>
     <message>
         <source>Show Them</source>
-        <translation type="unfinished"></translation>
+        <translation>Les afficher</translation>
     </message>
     <message>
         <source>Show All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout afficher</translation>
     </message>
     <message>
         <source>No feature matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre ne correspond.</translation>
     </message>
     <message>
         <source>No feature is marked as a favourite. Ctrl+D marks one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre n’est marqué comme favori. Ctrl+D en marque un.</translation>
     </message>
     <message>
         <source>No feature has changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre n’a changé depuis l’ouverture de la caméra.</translation>
     </message>
     <message>
         <source>This level has no features.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce niveau ne contient aucun paramètre.</translation>
     </message>
 </context>
 <context>
@@ -1494,37 +1495,37 @@ This value belongs to one camera or one moment.</source>
     <name>HexView</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Offset %1, byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage %1, octet %2</translation>
     </message>
     <message>
         <source>Offset %1, character %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage %1, caractère %2</translation>
     </message>
     <message>
         <source>The clipboard contains no hexadecimal bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers ne contient pas d’octets hexadécimaux.</translation>
     </message>
     <message>
         <source>The clipboard contains no ASCII text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers ne contient pas de texte ASCII.</translation>
     </message>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le presse-papiers dépassait de %n octet, qui n’a pas été collé.</numerusform>
+            <numerusform>Le presse-papiers dépassait de %n octets, qui n’ont pas été collés.</numerusform>
         </translation>
     </message>
 </context>
@@ -1585,74 +1586,74 @@ This value belongs to one camera or one moment.</source>
     <name>HistoryModel</name>
     <message>
         <source>Executed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution : %1</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation : %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablissement : %1</translation>
     </message>
     <message>
         <source>This change was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette modification a été annulée.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>Old value</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancienne valeur</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle valeur</translation>
     </message>
 </context>
 <context>
     <name>HistoryPanel</name>
     <message>
         <source>Changes since the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications depuis l’ouverture de la caméra</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>Export as script…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en script…</translation>
     </message>
     <message>
         <source>Writes a shell script that makes these changes again with cvxctl.</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée un script shell qui refait ces modifications avec cvxctl.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Export the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les modifications</translation>
     </message>
     <message>
         <source>Shell scripts (*.sh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Scripts shell (*.sh)</translation>
     </message>
     <message>
         <source>The script &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le script « %1 » : %2</translation>
     </message>
 </context>
 <context>
@@ -1674,14 +1675,14 @@ This value belongs to one camera or one moment.</source>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>LastingJob</name>
     <message>
         <source>The work was cancelled before it began, or the camera was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’opération a été annulée avant son début, ou la caméra a été fermée.</translation>
     </message>
 </context>
 <context>
@@ -1715,30 +1716,30 @@ This value belongs to one camera or one moment.</source>
     <name>LevelText</name>
     <message>
         <source>Beginner</source>
-        <translation type="unfinished"></translation>
+        <translation>Débutant</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>Expert</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>Gourou</translation>
     </message>
 </context>
 <context>
     <name>LivePicture</name>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">La caméra n’envoie pas d’images. %1</translation>
+        <translation>La caméra n’envoie pas d’images. %1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra attend un déclenchement. Déclenchez-la ou désactivez le mode de déclenchement.</translation>
     </message>
     <message>
         <source>No picture has arrived yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image reçue pour l’instant.</translation>
     </message>
 </context>
 <context>
@@ -1752,173 +1753,244 @@ This value belongs to one camera or one moment.</source>
     <name>LoadDialog</name>
     <message>
         <source>Show only what &amp;changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher seulement ce qui c&amp;hange</translation>
     </message>
     <message>
         <source>Load what &amp;fits. If you cancel, what was loaded stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger ce qui est &amp;possible. En cas d’annulation, ce qui a été chargé est conservé.</translation>
     </message>
     <message>
         <source>&amp;All or nothing. If a setting fails or you cancel, everything is put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout ou rien. En cas d’échec d’un réglage ou d’annulation, tout est restauré.</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Charger</translation>
     </message>
     <message>
         <source>&amp;Undo the load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Défaire le chargement</translation>
     </message>
     <message>
         <source>Co&amp;py report</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le &amp;rapport</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger %1</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Nothing is written at all if a line of the file cannot be read, or if a setting cannot fit the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est écrit si une ligne du fichier est illisible ou si un réglage ne convient pas à la caméra.</translation>
     </message>
     <message>
         <source>Puts back all settings from before the load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaure tous les réglages d’avant le chargement.</translation>
     </message>
     <message>
         <source>The load was not undone. Without this dialog, it cannot be undone any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chargement n’a pas été défait. Une fois cette boîte de dialogue fermée, il ne pourra plus l’être.</translation>
     </message>
     <message>
         <source>Close &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer quand même</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>LoadTable</name>
     <message>
         <source>The line cannot be read. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne illisible. %1</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>In camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la caméra</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle valeur</translation>
     </message>
     <message>
         <source>Read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur relue</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
 </context>
 <context>
     <name>LoadText</name>
     <message>
         <source>Cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement impossible.</translation>
     </message>
     <message>
         <source>Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage ne peut pas être chargé.</numerusform>
+            <numerusform>%n réglages ne peuvent pas être chargés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage a échoué.</numerusform>
+            <numerusform>%n réglages ont échoué.</numerusform>
         </translation>
     </message>
     <message>
         <source>Will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sera modifié.</translation>
     </message>
     <message>
         <source>Changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifié.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage sera modifié.</numerusform>
+            <numerusform>%n réglages seront modifiés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage a été modifié.</numerusform>
+            <numerusform>%n réglages ont été modifiés.</numerusform>
         </translation>
     </message>
     <message>
         <source>Overruled by another setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrasé par un autre réglage.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage sera écrasé par d’autres.</numerusform>
+            <numerusform>%n réglages seront écrasés par d’autres.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage a été écrasé par d’autres.</numerusform>
+            <numerusform>%n réglages ont été écrasés par d’autres.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Already so.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage a déjà cette valeur.</numerusform>
+            <numerusform>%n réglages ont déjà cette valeur.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage avait déjà cette valeur.</numerusform>
+            <numerusform>%n réglages avaient déjà cette valeur.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Already has this value.</source>
+        <translation>Déjà à cette valeur.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) cannot be read.</source>
+        <translation>
+            <numerusform>%n ligne est illisible.</numerusform>
+            <numerusform>%n lignes sont illisibles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The load was cancelled, and the settings from before were put back.</source>
+        <translation>Le chargement a été annulé et les réglages antérieurs ont été restaurés.</translation>
+    </message>
+    <message>
+        <source>The load has failed, and the settings from before were put back.</source>
+        <translation>Le chargement a échoué et les réglages antérieurs ont été restaurés.</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. What was loaded before stays.</source>
+        <translation>Le chargement a été annulé. Ce qui était déjà chargé est conservé.</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. Nothing was changed.</source>
+        <translation>Le chargement a été annulé. Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed, because not everything can be loaded.</source>
+        <translation>Rien n’a été modifié, car tout ne peut pas être chargé.</translation>
+    </message>
+    <message>
+        <source>Not everything could be loaded.</source>
+        <translation>Tout n’a pas pu être chargé.</translation>
+    </message>
+    <message>
+        <source>The settings were loaded and read back.</source>
+        <translation>Les réglages ont été chargés et relus.</translation>
+    </message>
+    <message>
+        <source>All settings from before the load were put back.</source>
+        <translation>Tous les réglages d’avant le chargement ont été restaurés.</translation>
+    </message>
+    <message>
+        <source>Not all settings from before the load could be put back.</source>
+        <translation>Certains réglages d’avant le chargement n’ont pas pu être restaurés.</translation>
+    </message>
+    <message>
+        <source>Put back.</source>
+        <translation>Restauré.</translation>
+    </message>
+    <message>
+        <source>Not put back.</source>
+        <translation>Non restauré.</translation>
+    </message>
+    <message>
+        <source>The settings are being compared with the camera.</source>
+        <translation>Comparaison des réglages avec la caméra en cours.</translation>
+    </message>
+    <message>
+        <source>The settings are being loaded and read back.</source>
+        <translation>Chargement et relecture des réglages en cours.</translation>
+    </message>
+    <message>
+        <source>The settings from before the load are being put back.</source>
+        <translation>Restauration des réglages d’avant le chargement en cours.</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>Rien ne changerait.</translation>
+    </message>
+    <message>
+        <source>There are no settings to load.</source>
+        <translation>Aucun réglage à charger.</translation>
     </message>
 </context>
 <context>
@@ -1965,19 +2037,19 @@ This value belongs to one camera or one moment.</source>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished">activé</translation>
+        <translation>activé</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">désactivé</translation>
+        <translation>désactivé</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher %1</translation>
     </message>
     <message>
         <source>Set %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Régler %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -2189,15 +2261,15 @@ This value belongs to one camera or one moment.</source>
     <name>NoteListDialog</name>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Cause</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
 </context>
 <context>
@@ -2223,68 +2295,72 @@ This value belongs to one camera or one moment.</source>
     <name>OpeningSnapshot</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra (à l’ouverture)</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire %1 : %2</translation>
     </message>
     <message>
         <source>%1 was changed before its value at opening was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été modifié avant la lecture de sa valeur à l’ouverture.</translation>
     </message>
     <message>
         <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été exécuté avant la lecture complète des réglages : certains peuvent dater d’après cette exécution.</translation>
+    </message>
+    <message>
+        <source>There are too many values, so only some were read.</source>
+        <translation>Les valeurs sont trop nombreuses : seule une partie a été lue.</translation>
     </message>
 </context>
 <context>
     <name>OpeningSource</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra (à l’ouverture)</translation>
     </message>
     <message>
         <source>No camera is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune caméra n’est ouverte.</translation>
     </message>
     <message>
         <source>The settings at opening are still being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des réglages à l’ouverture encore en cours.</translation>
     </message>
     <message>
-        <source>The settings at opening are in the past. Choose another right side.</source>
-        <translation type="unfinished"></translation>
+        <source>The settings at opening cannot be changed. Choose another right side.</source>
+        <translation>Les réglages à l’ouverture appartiennent au passé et ne sont pas modifiables. Choisissez un autre côté droit.</translation>
     </message>
 </context>
 <context>
     <name>OtherCameraSource</name>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Caméra %1</translation>
     </message>
     <message>
         <source>Another program uses this camera, so it was only watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme utilise cette caméra : elle a seulement été observée.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Écrire %n réglage dans la caméra %1 ? Cette opération ne peut pas être annulée ici.</numerusform>
+            <numerusform>Écrire %n réglages dans la caméra %1 ? Cette opération ne peut pas être annulée ici.</numerusform>
         </translation>
     </message>
     <message>
         <source>Opening the camera was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ouverture de la caméra a été annulée.</translation>
     </message>
     <message>
         <source>The camera is not connected any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’est plus connectée.</translation>
     </message>
     <message>
         <source>The camera did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas répondu à temps.</translation>
     </message>
 </context>
 <context>
@@ -2504,377 +2580,377 @@ This value belongs to one camera or one moment.</source>
     <name>RegisterEditor</name>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Writes all bytes to the camera (Ctrl+Return).</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit tous les octets dans la caméra (Ctrl+Entrée).</translation>
     </message>
     <message>
         <source>Shows the bytes of the camera again (Escape).</source>
-        <translation type="unfinished"></translation>
+        <translation>Réaffiche les octets de la caméra (Échap).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n octet</numerusform>
+            <numerusform>%n octets</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, non lisible</translation>
     </message>
 </context>
 <context>
     <name>RestoreBar</name>
     <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shows which settings differ from those when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les réglages qui diffèrent de ceux de l’ouverture de la caméra.</translation>
     </message>
     <message>
         <source>&amp;Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;gnorer</translation>
     </message>
     <message>
         <source>%1 Settings that were not made with this program may have the values from power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Les réglages non effectués avec ce programme peuvent avoir repris leurs valeurs de démarrage.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
     </message>
     <message>
         <source>The settings were not read completely before the camera was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture des réglages n’était pas terminée lorsque la caméra a été perdue.</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qui changerait, puis remet tout dans l’état de l’ouverture de la caméra.</translation>
+    </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>Co&amp;mparer</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore</source>
+        <translation>&amp;Restaurer</translation>
     </message>
 </context>
 <context>
     <name>SelectorTable</name>
     <message>
         <source>Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>Relire</translation>
     </message>
     <message>
         <source>Values of the selected features</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs des paramètres sélectionnés</translation>
     </message>
     <message>
         <source>Show the feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le paramètre</translation>
     </message>
     <message>
         <source>The feature has no selector, so it has only one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce paramètre n’a pas de sélecteur, donc une seule valeur.</translation>
     </message>
     <message>
         <source>%1 is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>The values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs pour chaque %1</translation>
     </message>
     <message>
         <source>%1, while %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, avec %2</translation>
     </message>
     <message>
         <source>Reading the values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des valeurs pour chaque %1</translation>
     </message>
     <message>
         <source>Reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture a été annulée.</translation>
     </message>
     <message>
         <source>The selector has more values; only the first ones are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le sélecteur a d’autres valeurs ; seules les premières sont affichées ici.</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished">Cette modification exige un bref arrêt du flux.</translation>
+        <translation>Cette modification exige un bref arrêt du flux.</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished">Régler et relancer</translation>
+        <translation>Régler et relancer</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture de %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une valeur de %2.</translation>
     </message>
 </context>
 <context>
     <name>SettingTexts</name>
     <message>
         <source>Without category</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans catégorie</translation>
     </message>
 </context>
 <context>
     <name>SettingsActions</name>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer les réglages…</translation>
     </message>
     <message>
         <source>&amp;Load settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Charger des réglages…</translation>
     </message>
     <message>
         <source>As it &amp;was when I opened it…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurer l’état d’ouverture…</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
     </message>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished">La caméra n’est pas ouverte.</translation>
+        <translation>La caméra n’est pas ouverte.</translation>
     </message>
     <message>
         <source>Saves all settings to a file that other GenICam programs can read, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre tous les réglages dans un fichier également lisible par d’autres programmes GenICam.</translation>
     </message>
     <message>
         <source>Shows what a settings file would change, and then loads it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qu’un fichier de réglages changerait, puis le charge.</translation>
     </message>
     <message>
         <source>The settings from the opening are not completely known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages à l’ouverture ne sont pas entièrement connus.</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qui changerait, puis remet tout dans l’état de l’ouverture de la caméra.</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les réglages</translation>
     </message>
     <message>
         <source>Settings files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de réglages (%1)</translation>
     </message>
     <message>
         <source>All files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (%1)</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage enregistré dans « %1 ».</numerusform>
+            <numerusform>%n réglages enregistrés dans « %1 ».</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n remarque :</numerusform>
+            <numerusform>%n remarques :</numerusform>
         </translation>
     </message>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger des réglages</translation>
     </message>
     <message>
         <source>the settings from the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>les réglages à l’ouverture</translation>
     </message>
 </context>
 <context>
     <name>SettingsLoad</name>
     <message>
         <source>Comparing %1 with the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison avec la caméra : %1</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement : %1</translation>
     </message>
     <message>
         <source>Putting back the settings from before %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Restauration des réglages antérieurs au chargement : %1</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger %1</translation>
     </message>
     <message>
         <source>Undo loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Défaire le chargement : %1</translation>
     </message>
 </context>
 <context>
     <name>SettingsSave</name>
     <message>
         <source>Saving the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement des réglages</translation>
     </message>
     <message>
         <source>Saving was cancelled. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement a été annulé. Le fichier n’a pas été écrit.</translation>
     </message>
     <message>
-        <source>The camera has no settings that belong into a file. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <source>The camera has no settings that belong in a file. The file was not written.</source>
+        <translation>La caméra n’a aucun réglage à enregistrer dans un fichier. Le fichier n’a pas été écrit.</translation>
     </message>
 </context>
 <context>
     <name>SettingsSource</name>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture a été annulée.</translation>
     </message>
 </context>
 <context>
     <name>SetupWindow</name>
     <message>
         <source>Camera Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration de caméra</translation>
     </message>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historique</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeux de paramètres</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">Image</translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>All selector values</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les valeurs du sélecteur</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">&amp;Fichier</translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler : %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir : %1</translation>
     </message>
     <message>
         <source>&amp;Find a feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Rec&amp;hercher un paramètre</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">&amp;Caméra</translation>
+        <translation>&amp;Caméra</translation>
     </message>
     <message>
         <source>Live &amp;picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Image en direct</translation>
     </message>
     <message>
         <source>&amp;Compare with the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparer à l’ouverture</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir dans la &amp;visionneuse d’images</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished">&amp;Panneaux</translation>
+        <translation>&amp;Panneaux</translation>
     </message>
     <message>
         <source>F2, Return</source>
-        <translation type="unfinished"></translation>
+        <translation>F2, Entrée</translation>
     </message>
     <message>
         <source>Edit the value of the selected feature</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la valeur du paramètre sélectionné</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close or open a category</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche, Droite</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished">Barre d’outils</translation>
+        <translation>Barre d’outils</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n paramètre. Lecture des réglages à l’ouverture en cours.</numerusform>
+            <numerusform>%n paramètres. Lecture des réglages à l’ouverture en cours.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n paramètre</numerusform>
+            <numerusform>%n paramètres</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n modifié depuis l’ouverture</numerusform>
+            <numerusform>%n modifiés depuis l’ouverture</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Collapse or expand a category</source>
+        <translation>Replier ou déplier une catégorie</translation>
     </message>
 </context>
 <context>
@@ -2896,33 +2972,33 @@ This value belongs to one camera or one moment.</source>
     <name>SideBox</name>
     <message>
         <source>Shows what could not be read, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qui n’a pas pu être lu, et pourquoi.</translation>
     </message>
     <message>
         <source>File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier…</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n réglage, %1</numerusform>
+            <numerusform>%n réglages, %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n remarque</numerusform>
+            <numerusform>%n remarques</numerusform>
         </translation>
     </message>
     <message>
         <source>Not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore lu.</translation>
     </message>
     <message>
         <source>Notes on what was read:</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarques sur la lecture :</translation>
     </message>
 </context>
 <context>
@@ -3160,14 +3236,14 @@ This value belongs to one camera or one moment.</source>
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n caractère au maximum</numerusform>
+            <numerusform>%n caractères au maximum</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 sur %2</translation>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -3286,267 +3362,267 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <name>UserSetControl</name>
     <message>
         <source>Reading the user sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des jeux de paramètres</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
     </message>
     <message>
         <source>The camera does not offer this.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra ne propose pas cette fonction.</translation>
     </message>
     <message>
         <source>The camera does not let the set for power-on be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra ne permet pas de choisir le jeu de démarrage.</translation>
     </message>
     <message>
         <source>The camera does not allow this set at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’admet pas ce jeu au démarrage.</translation>
     </message>
     <message>
         <source>The camera is only watched, so its user sets cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caméra en observation seule : ses jeux de paramètres ne peuvent pas être chargés.</translation>
     </message>
     <message>
         <source>Loading &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement de « %1 »</translation>
     </message>
     <message>
         <source>Load user set &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger le jeu de paramètres « %1 »</translation>
     </message>
     <message>
         <source>The load was cancelled. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chargement a été annulé. Rien n’a été modifié.</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>« %1 » a été chargé ; %n réglage a été modifié.</numerusform>
+            <numerusform>« %1 » a été chargé ; %n réglages ont été modifiés.</numerusform>
         </translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement de « %1 »</translation>
     </message>
     <message>
         <source>The present settings were saved as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages actuels ont été enregistrés dans « %1 ».</translation>
     </message>
     <message>
         <source>Choosing &quot;%1&quot; for power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>Choix de « %1 » pour le démarrage</translation>
     </message>
     <message>
         <source>Use user set &quot;%1&quot; at power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser le jeu « %1 » au démarrage</translation>
     </message>
     <message>
         <source>The camera begins with &quot;%1&quot; at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra démarre désormais avec « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>UserSetPanel</name>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;harger…</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Use at &amp;power-on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregi&amp;strer…</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeux de paramètres</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished">Jeu de paramètres</translation>
+        <translation>Jeu de paramètres</translation>
     </message>
     <message>
         <source>At power-on</source>
-        <translation type="unfinished">Au démarrage</translation>
+        <translation>Au démarrage</translation>
     </message>
     <message>
         <source>This camera keeps no user sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra ne mémorise aucun jeu de paramètres.</translation>
     </message>
     <message>
         <source>The user sets are not known yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les jeux de paramètres ne sont pas encore connus.</translation>
     </message>
     <message>
         <source>✓ yes</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ oui</translation>
     </message>
     <message>
         <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplace les réglages de la caméra par ceux de « %1 ».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être chargé.</translation>
     </message>
     <message>
         <source>Stores the present settings as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémorise les réglages actuels dans « %1 ».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être enregistré.</translation>
     </message>
     <message>
         <source>Lets the camera begin with &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait démarrer la caméra avec « %1 ».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être utilisé au démarrage.</translation>
     </message>
     <message>
         <source>Shows how the settings of the camera differ from this set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche en quoi les réglages de la caméra diffèrent de ce jeu.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être comparé.</translation>
     </message>
     <message>
         <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger « %1 » ? Les réglages actuels de la caméra seront écrasés.</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n paramètre diffère de l’état à l’ouverture de la caméra.</numerusform>
+            <numerusform>%n paramètres diffèrent de l’état à l’ouverture de la caméra.</numerusform>
         </translation>
     </message>
     <message>
         <source>Loading can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chargement peut être annulé.</translation>
     </message>
     <message>
         <source>Load user set</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger le jeu de paramètres</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Charger</translation>
     </message>
     <message>
         <source>Save user set</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le jeu de paramètres</translation>
     </message>
     <message>
         <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les réglages actuels dans « %1 » ? Le contenu actuel de ce jeu sera définitivement écrasé.</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Use at power-on</source>
+        <translation>U&amp;tiliser au démarrage</translation>
+    </message>
+    <message>
+        <source>Comp&amp;are</source>
+        <translation>Compar&amp;er</translation>
     </message>
 </context>
 <context>
     <name>UserSetSource</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu de paramètres %1</translation>
     </message>
     <message>
         <source>The camera has to load the user set %1 to show it. The stream is stopped for this, and your present settings are put back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour afficher le jeu de paramètres %1, la caméra doit le charger. Le flux est arrêté pendant l’opération, puis vos réglages actuels sont restaurés.</translation>
     </message>
     <message>
         <source>Not put back after the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non restaurés après le jeu de paramètres %1</translation>
     </message>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n autre réglage n’a pas été restauré ; il figure dans l’historique.</numerusform>
+            <numerusform>%n autres réglages n’ont pas été restaurés ; ils figurent dans l’historique.</numerusform>
         </translation>
     </message>
     <message>
         <source>The camera may still have the settings of the user set. Restore those from the opening.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra a peut-être encore les réglages du jeu de paramètres. Restaurez ceux de l’ouverture.</translation>
     </message>
     <message>
         <source>Reading the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du jeu de paramètres %1</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra n’est pas ouverte en mode contrôle.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Écrire %n réglage dans le jeu de paramètres %1 ? La caméra charge le jeu, le modifie et l’enregistre, puis vos réglages actuels sont restaurés. Le flux est arrêté pendant l’opération.</numerusform>
+            <numerusform>Écrire %n réglages dans le jeu de paramètres %1 ? La caméra charge le jeu, le modifie et l’enregistre, puis vos réglages actuels sont restaurés. Le flux est arrêté pendant l’opération.</numerusform>
         </translation>
     </message>
     <message>
         <source>Copying to the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie vers le jeu de paramètres %1</translation>
     </message>
     <message>
         <source>The copy was cancelled, so the user set was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie a été annulée : le jeu de paramètres n’a pas été modifié.</translation>
     </message>
 </context>
 <context>
     <name>ValueText</name>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 … (%n octet)</numerusform>
+            <numerusform>%1 … (%n octets)</numerusform>
         </translation>
     </message>
     <message>
         <source>not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>absent de cette caméra</translation>
     </message>
     <message>
         <source>not available</source>
-        <translation type="unfinished"></translation>
+        <translation>indisponible</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>illisible</translation>
     </message>
     <message>
         <source>can only be written</source>
-        <translation type="unfinished"></translation>
+        <translation>écriture seule</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter</translation>
     </message>
     <message>
         <source>Running …</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution …</translation>
     </message>
 </context>
 <context>

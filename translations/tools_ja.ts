@@ -269,23 +269,23 @@
     <name>CameraSource</name>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラ (現在)</translation>
     </message>
     <message>
         <source>Reading the settings of this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラの設定を読み取り中</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラの制御を取得していません。</translation>
     </message>
     <message>
         <source>Copying to this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにコピー中</translation>
     </message>
     <message>
         <source>Copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差分のコピー</translation>
     </message>
 </context>
 <context>
@@ -315,23 +315,23 @@
     <name>ChangeHistory</name>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す: %1</translation>
     </message>
     <message>
         <source>The value of %1 before the change is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の変更前の値は不明です。</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す: %1</translation>
     </message>
     <message>
         <source>%1 cannot be changed while the camera is streaming.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はストリーミング中は変更できません。</translation>
     </message>
     <message>
         <source>It was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルされました。</translation>
     </message>
 </context>
 <context>
@@ -356,119 +356,119 @@
     <name>ComparePanel</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>Swap the sides</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy to the &amp;right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>左右を入れ替え</translation>
     </message>
     <message>
         <source>Reads both sides again.</source>
-        <translation type="unfinished"></translation>
+        <translation>左右の設定を再度読み取ります。</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>進捗</translation>
     </message>
     <message>
         <source>Compare settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の比較</translation>
     </message>
     <message>
         <source>&amp;Load the user set</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセットを読み込む(&amp;L)</translation>
     </message>
     <message>
         <source>Compare with a file</source>
-        <translation type="unfinished"></translation>
+        <translation>比較するファイルの選択</translation>
     </message>
     <message>
         <source>Settings files (*.txt *.pfs *.features);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル (*.txt *.pfs *.features);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Writes settings of the left side to the right side.</source>
-        <translation type="unfinished"></translation>
+        <translation>左側の設定を右側に書き込みます。</translation>
     </message>
     <message>
         <source>The settings are being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を読み取っています。</translation>
     </message>
     <message>
         <source>Choose two sides that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り可能な比較対象を左右に選択してください。</translation>
+    </message>
+    <message>
+        <source>Copy to the ri&amp;ght</source>
+        <translation>右にコピー(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>更新(&amp;F)</translation>
     </message>
 </context>
 <context>
     <name>CompareSession</name>
     <message>
         <source>Reading: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り中: %1</translation>
     </message>
     <message>
         <source>Copying to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 にコピー中</translation>
     </message>
 </context>
 <context>
     <name>CompareSides</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット %1</translation>
     </message>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラ (現在)</translation>
     </message>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラ (開いた時点)</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1</translation>
     </message>
 </context>
 <context>
     <name>ComparisonCounts</name>
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件に差分はありません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %1 件中 %n 件が異なります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほかに、カメラ個体または時点に固有の差分が %n 件あります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほかに、カメラ個体または時点に固有の差分 %n 件が非表示になっています。</numerusform>
         </translation>
     </message>
 </context>
@@ -476,39 +476,39 @@
     <name>ComparisonReport</name>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(なし)</translation>
     </message>
     <message>
         <source>belongs to one camera or one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ個体または時点に固有</translation>
     </message>
     <message>
         <source>equal</source>
-        <translation type="unfinished"></translation>
+        <translation>一致</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>Comparison of camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ設定の比較</translation>
     </message>
     <message>
         <source>Left: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>左: %1、%2</translation>
     </message>
     <message>
         <source>Right: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>右: %1、%2</translation>
     </message>
 </context>
 <context>
@@ -557,51 +557,51 @@
     <name>CopyActions</name>
     <message>
         <source>&amp;Selected differences</source>
-        <translation type="unfinished"></translation>
+        <translation>選択した差分(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Checked differences</source>
-        <translation type="unfinished"></translation>
+        <translation>チェックした差分(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;All differences</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての差分(&amp;A)</translation>
     </message>
     <message>
         <source>Copy differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差分のコピー</translation>
     </message>
     <message>
         <source>&amp;Write</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The copy has failed after a part of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み(&amp;W)</translation>
     </message>
     <message>
         <source>Nothing was copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>何もコピーされませんでした: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件をコピーしました。</numerusform>
         </translation>
     </message>
     <message>
         <source>The copy was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーはキャンセルされました。</translation>
     </message>
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 件の問題が報告されました。</numerusform>
         </translation>
     </message>
     <message>
         <source>What could not be copied or put back:</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーまたは復元できなかった項目:</translation>
+    </message>
+    <message>
+        <source>The copy failed partway: %1</source>
+        <translation>コピーの途中でエラーが発生しました: %1</translation>
     </message>
 </context>
 <context>
@@ -631,102 +631,103 @@
     <name>DetailsPane</name>
     <message>
         <source>All values side by side</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select a feature to see what the camera says of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての値を一覧表示</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the name for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入り</translation>
     </message>
     <message>
         <source>Set back</source>
-        <translation type="unfinished"></translation>
+        <translation>値を戻す</translation>
     </message>
     <message>
         <source>Writes the value that the camera had when it was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開いた時点の値を書き込みます。</translation>
     </message>
     <message>
         <source>Contains</source>
-        <translation type="unfinished"></translation>
+        <translation>内容</translation>
     </message>
     <message>
         <source>At opening: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた時点: %1</translation>
     </message>
     <message>
         <source>As it was when the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開いた時点と同じ</translation>
+    </message>
+    <message>
+        <source>Select a feature to see what the camera says about it.</source>
+        <translation>フィーチャーを選択すると、カメラが提供する情報が表示されます。</translation>
+    </message>
+    <message>
+        <source>Copy the name used in programs</source>
+        <translation>プログラム用の名前をコピー</translation>
     </message>
 </context>
 <context>
     <name>DifferenceModel</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1; left: %2; right: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、左: %2、右: %3</translation>
     </message>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(なし)</translation>
     </message>
     <message>
         <source>%1
 This value belongs to one camera or one moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+この値はカメラ個体または時点に固有です。</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
 </context>
 <context>
     <name>DifferenceView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差分</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索</translation>
     </message>
     <message>
         <source>Search the differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差分を検索</translation>
     </message>
     <message>
         <source>Also e&amp;qual</source>
-        <translation type="unfinished"></translation>
+        <translation>一致も表示(&amp;Q)</translation>
     </message>
     <message>
         <source>Shows the settings that both sides have in common too.</source>
-        <translation type="unfinished"></translation>
+        <translation>左右で一致している設定も表示します。</translation>
     </message>
     <message>
         <source>Also those of one camera or one &amp;moment</source>
-        <translation type="unfinished"></translation>
+        <translation>個体・時点に固有の差分も表示(&amp;M)</translation>
     </message>
     <message>
         <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定が同じでもカメラごとに異なる値 (シリアル番号、温度、カウンターなど) も表示します。</translation>
     </message>
     <message>
         <source>There is no difference to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示する差分はありません。</translation>
     </message>
     <message>
         <source>Nothing that is shown contains the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示中の項目に、このテキストを含むものはありません。</translation>
     </message>
 </context>
 <context>
@@ -842,82 +843,82 @@ This value belongs to one camera or one moment.</source>
     <name>ExportActions</name>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスポート…</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">コピー</translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Saves what is shown as text or as a page (HTML).</source>
-        <translation type="unfinished"></translation>
+        <translation>表示内容をテキストまたは HTML ページとして保存します。</translation>
     </message>
     <message>
         <source>Copies what is shown as text to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示内容をテキストとしてクリップボードにコピーします。</translation>
     </message>
     <message>
         <source>Export the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>比較結果のエクスポート</translation>
     </message>
     <message>
         <source>Page (*.html)</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML ページ (*.html)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト (*.txt)</translation>
     </message>
     <message>
         <source>The comparison was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>比較結果を %1 に保存しました。</translation>
     </message>
     <message>
         <source>The comparison could not be saved as %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>比較結果を %1 に保存できませんでした: %2</translation>
     </message>
     <message>
         <source>The comparison was copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>比較結果をコピーしました。</translation>
     </message>
 </context>
 <context>
     <name>FeatureActions</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>Show Locking Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック元のフィーチャーを表示</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入り</translation>
     </message>
     <message>
         <source>Copy Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前をコピー</translation>
     </message>
     <message>
         <source>Copy Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値をコピー</translation>
     </message>
     <message>
         <source>Copy &quot;Name=Value&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「名前=値」をコピー</translation>
     </message>
     <message>
         <source>Expand All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて展開</translation>
     </message>
     <message>
         <source>Collapse All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて折りたたむ</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>実行</translation>
     </message>
 </context>
 <context>
@@ -935,209 +936,209 @@ This value belongs to one camera or one moment.</source>
     <name>FeatureFacts</name>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>カテゴリー</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Number with decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>整数</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>オン/オフ</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>列挙</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>文字列</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished">コマンド</translation>
+        <translation>コマンド</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>レジスター</translation>
     </message>
     <message>
         <source>Not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラになし</translation>
     </message>
     <message>
         <source>Not available at present</source>
-        <translation type="unfinished"></translation>
+        <translation>現在は使用不可</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り専用</translation>
     </message>
     <message>
         <source>Write only</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み専用</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>読み書き可</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>線形</translation>
     </message>
     <message>
         <source>Logarithmic</source>
-        <translation type="unfinished"></translation>
+        <translation>対数</translation>
     </message>
     <message>
         <source>Number without slider</source>
-        <translation type="unfinished"></translation>
+        <translation>数値 (スライダーなし)</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>16 進数</translation>
     </message>
     <message>
         <source>IPv4 address</source>
-        <translation type="unfinished"></translation>
+        <translation>IPv4 アドレス</translation>
     </message>
     <message>
         <source>MAC address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC アドレス</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished">最小</translation>
+        <translation>最小</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished">最大</translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>Increment</source>
-        <translation type="unfinished"></translation>
+        <translation>ステップ</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>長さ</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n バイト</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Longest text</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 文字</numerusform>
         </translation>
     </message>
     <message>
         <source>Every %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms ごと</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>データ型</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>表示形式</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>単位</translation>
     </message>
     <message>
         <source>Not allowed now</source>
-        <translation type="unfinished"></translation>
+        <translation>現在選択不可</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセス</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>表示レベル</translation>
     </message>
     <message>
         <source>In settings files</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイルに保存</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Changes by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>自動更新</translation>
     </message>
     <message>
         <source>Selected by</source>
-        <translation type="unfinished"></translation>
+        <translation>セレクター</translation>
     </message>
     <message>
         <source>Selects</source>
-        <translation type="unfinished"></translation>
+        <translation>選択対象</translation>
     </message>
     <message>
         <source>Depends on</source>
-        <translation type="unfinished"></translation>
+        <translation>依存先</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Floating-point number</source>
+        <translation>浮動小数点数</translation>
+    </message>
+    <message>
+        <source>Maximum length</source>
+        <translation>最大文字数</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>
     <message>
         <source>The camera is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが接続されていません。</translation>
     </message>
     <message>
         <source>The value was not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>値はまだ読み取られていません。</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック中</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更あり</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入り</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeView</name>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
 </context>
 <context>
@@ -1199,25 +1200,25 @@ This value belongs to one camera or one moment.</source>
     <name>FileSource</name>
     <message>
         <source>File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル %1</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 行目</translation>
     </message>
     <message>
         <source>The file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに書き込めません。</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件をファイル %1 に書き込みますか? その他の設定は保持されますが、コメントと読み取れない行は失われます。</numerusform>
         </translation>
     </message>
     <message>
         <source>changed by a copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差分のコピーにより変更</translation>
     </message>
 </context>
 <context>
@@ -1383,68 +1384,68 @@ This value belongs to one camera or one moment.</source>
     <name>FilterBar</name>
     <message>
         <source>Search features</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャーを検索</translation>
     </message>
     <message>
         <source>Shows the features with all of these words in their name or description.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前または説明に、入力したすべての語を含むフィーチャーを表示します。</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>表示レベル</translation>
     </message>
     <message>
         <source>Which features are shown: the most important ones, most, or all.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示するフィーチャーの範囲: 主要なもの、大部分、すべて。</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更あり</translation>
     </message>
     <message>
         <source>Shows only features that have changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開いてから変更されたフィーチャーだけを表示します。</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入り</translation>
     </message>
     <message>
         <source>Shows only the features that you have marked as favourites.</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入りに登録したフィーチャーだけを表示します。</translation>
     </message>
 </context>
 <context>
     <name>FilterHint</name>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>表示レベル「%1」により、フィーチャー %n 個が非表示になっています。</numerusform>
         </translation>
     </message>
     <message>
         <source>Show Them</source>
-        <translation type="unfinished"></translation>
+        <translation>表示する</translation>
     </message>
     <message>
         <source>Show All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて表示</translation>
     </message>
     <message>
         <source>No feature matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>一致するフィーチャーはありません。</translation>
     </message>
     <message>
         <source>No feature is marked as a favourite. Ctrl+D marks one.</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入りのフィーチャーはありません。Ctrl+D で登録できます。</translation>
     </message>
     <message>
         <source>No feature has changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開いてから変更されたフィーチャーはありません。</translation>
     </message>
     <message>
         <source>This level has no features.</source>
-        <translation type="unfinished"></translation>
+        <translation>この表示レベルにはフィーチャーがありません。</translation>
     </message>
 </context>
 <context>
@@ -1482,36 +1483,36 @@ This value belongs to one camera or one moment.</source>
     <name>HexView</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">コピー</translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>貼り付け</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択</translation>
     </message>
     <message>
         <source>Offset %1, byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>オフセット %1、バイト %2</translation>
     </message>
     <message>
         <source>Offset %1, character %2</source>
-        <translation type="unfinished"></translation>
+        <translation>オフセット %1、文字 %2</translation>
     </message>
     <message>
         <source>The clipboard contains no hexadecimal bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリップボードに 16 進数のバイト列がありません。</translation>
     </message>
     <message>
         <source>The clipboard contains no ASCII text.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリップボードに ASCII テキストがありません。</translation>
     </message>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>クリップボードの末尾 %n バイトは入りきりませんでした。</numerusform>
         </translation>
     </message>
 </context>
@@ -1572,74 +1573,74 @@ This value belongs to one camera or one moment.</source>
     <name>HistoryModel</name>
     <message>
         <source>Executed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>実行: %1</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す: %1</translation>
     </message>
     <message>
         <source>This change was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>この変更は元に戻されました。</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>Old value</source>
-        <translation type="unfinished"></translation>
+        <translation>変更前の値</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>変更後の値</translation>
     </message>
 </context>
 <context>
     <name>HistoryPanel</name>
     <message>
         <source>Changes since the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開いてからの変更</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す</translation>
     </message>
     <message>
         <source>Export as script…</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプトをエクスポート…</translation>
     </message>
     <message>
         <source>Writes a shell script that makes these changes again with cvxctl.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの変更を cvxctl で再実行するシェルスクリプトを作成します。</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">コピー</translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Export the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更のエクスポート</translation>
     </message>
     <message>
         <source>Shell scripts (*.sh)</source>
-        <translation type="unfinished"></translation>
+        <translation>シェルスクリプト (*.sh)</translation>
     </message>
     <message>
         <source>The script &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプト「%1」に書き込めません: %2</translation>
     </message>
 </context>
 <context>
@@ -1661,14 +1662,14 @@ This value belongs to one camera or one moment.</source>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>LastingJob</name>
     <message>
         <source>The work was cancelled before it began, or the camera was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>処理は開始前にキャンセルされたか、カメラが閉じられました。</translation>
     </message>
 </context>
 <context>
@@ -1702,30 +1703,30 @@ This value belongs to one camera or one moment.</source>
     <name>LevelText</name>
     <message>
         <source>Beginner</source>
-        <translation type="unfinished"></translation>
+        <translation>ビギナー</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>エキスパート</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>グル</translation>
     </message>
 </context>
 <context>
     <name>LivePicture</name>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">カメラから画像が送信されていません。%1</translation>
+        <translation>カメラから画像が送信されていません。%1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラはトリガー待ちです。トリガーを送るか、トリガーモードをオフにしてください。</translation>
     </message>
     <message>
         <source>No picture has arrived yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像をまだ受信していません。</translation>
     </message>
 </context>
 <context>
@@ -1739,165 +1740,235 @@ This value belongs to one camera or one moment.</source>
     <name>LoadDialog</name>
     <message>
         <source>Show only what &amp;changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更される設定のみ表示(&amp;C)</translation>
     </message>
     <message>
         <source>Load what &amp;fits. If you cancel, what was loaded stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>適用できる設定を読み込む(&amp;F)。キャンセルしても、読み込み済みの設定は残ります。</translation>
     </message>
     <message>
         <source>&amp;All or nothing. If a setting fails or you cancel, everything is put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて適用できる場合のみ読み込む(&amp;A)。失敗またはキャンセル時は、すべて復元します。</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Undo the load</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みを元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>Co&amp;py report</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートをコピー(&amp;P)</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の読み込み</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Nothing is written at all if a line of the file cannot be read, or if a setting cannot fit the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに読み取れない行がある場合、またはカメラに適用できない設定がある場合は、何も書き込みません。</translation>
     </message>
     <message>
         <source>Puts back all settings from before the load.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定を読み込み前の状態に復元します。</translation>
     </message>
     <message>
         <source>The load was not undone. Without this dialog, it cannot be undone any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みは元に戻されていません。このダイアログを閉じると、元に戻せなくなります。</translation>
     </message>
     <message>
         <source>Close &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>このまま閉じる(&amp;A)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>LoadTable</name>
     <message>
         <source>The line cannot be read. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>行を読み取れません。%1</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>In camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの値</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい値</translation>
     </message>
     <message>
         <source>Read back</source>
-        <translation type="unfinished"></translation>
+        <translation>読み戻し値</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>結果</translation>
     </message>
 </context>
 <context>
     <name>LoadText</name>
     <message>
         <source>Cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み不可。</translation>
     </message>
     <message>
         <source>Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>失敗。</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件を読み込めません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件の書き込みに失敗しました。</numerusform>
         </translation>
     </message>
     <message>
         <source>Will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更予定。</translation>
     </message>
     <message>
         <source>Changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更済み。</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件が変更されます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件が変更されました。</numerusform>
         </translation>
     </message>
     <message>
         <source>Overruled by another setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>他の設定により上書き。</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件が他の設定により上書きされます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件が他の設定により上書きされました。</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Already so.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件は既に同じ値です。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件は既に同じ値でした。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Already has this value.</source>
+        <translation>変更なし。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) cannot be read.</source>
+        <translation>
+            <numerusform>%n 行を読み取れません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The load was cancelled, and the settings from before were put back.</source>
+        <translation>読み込みはキャンセルされ、元の設定に復元しました。</translation>
+    </message>
+    <message>
+        <source>The load has failed, and the settings from before were put back.</source>
+        <translation>読み込みに失敗したため、元の設定に復元しました。</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. What was loaded before stays.</source>
+        <translation>読み込みはキャンセルされました。読み込み済みの設定は残っています。</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. Nothing was changed.</source>
+        <translation>読み込みはキャンセルされました。何も変更されていません。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed, because not everything can be loaded.</source>
+        <translation>読み込めない設定があるため、何も変更しませんでした。</translation>
+    </message>
+    <message>
+        <source>Not everything could be loaded.</source>
+        <translation>一部の設定を読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>The settings were loaded and read back.</source>
+        <translation>設定を読み込み、読み戻しで確認しました。</translation>
+    </message>
+    <message>
+        <source>All settings from before the load were put back.</source>
+        <translation>すべての設定を読み込み前の状態に復元しました。</translation>
+    </message>
+    <message>
+        <source>Not all settings from before the load could be put back.</source>
+        <translation>一部の設定を読み込み前の状態に復元できませんでした。</translation>
+    </message>
+    <message>
+        <source>Put back.</source>
+        <translation>復元済み。</translation>
+    </message>
+    <message>
+        <source>Not put back.</source>
+        <translation>未復元。</translation>
+    </message>
+    <message>
+        <source>The settings are being compared with the camera.</source>
+        <translation>設定をカメラと比較しています。</translation>
+    </message>
+    <message>
+        <source>The settings are being loaded and read back.</source>
+        <translation>設定を読み込み、読み戻しています。</translation>
+    </message>
+    <message>
+        <source>The settings from before the load are being put back.</source>
+        <translation>読み込み前の設定に復元しています。</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>変更される設定はありません。</translation>
+    </message>
+    <message>
+        <source>There are no settings to load.</source>
+        <translation>読み込む設定がありません。</translation>
     </message>
 </context>
 <context>
@@ -1944,19 +2015,19 @@ This value belongs to one camera or one moment.</source>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished">オン</translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">オフ</translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を表示</translation>
     </message>
     <message>
         <source>Set %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を %2 に設定</translation>
     </message>
 </context>
 <context>
@@ -2165,15 +2236,15 @@ This value belongs to one camera or one moment.</source>
     <name>NoteListDialog</name>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>理由</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">コピー</translation>
+        <translation>コピー</translation>
     </message>
 </context>
 <context>
@@ -2199,67 +2270,71 @@ This value belongs to one camera or one moment.</source>
     <name>OpeningSnapshot</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラ (開いた時点)</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を読み取れません: %2</translation>
     </message>
     <message>
         <source>%1 was changed before its value at opening was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 は、開いた時点の値を読み取る前に変更されました。</translation>
     </message>
     <message>
         <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定を読み取る前に %1 が実行されたため、一部は実行後の設定の可能性があります。</translation>
+    </message>
+    <message>
+        <source>There are too many values, so only some were read.</source>
+        <translation>値が多すぎるため、一部だけを読み取りました。</translation>
     </message>
 </context>
 <context>
     <name>OpeningSource</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラ (開いた時点)</translation>
     </message>
     <message>
         <source>No camera is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが開かれていません。</translation>
     </message>
     <message>
         <source>The settings at opening are still being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた時点の設定をまだ読み取っています。</translation>
     </message>
     <message>
-        <source>The settings at opening are in the past. Choose another right side.</source>
-        <translation type="unfinished"></translation>
+        <source>The settings at opening cannot be changed. Choose another right side.</source>
+        <translation>開いた時点の設定は過去の記録のため変更できません。右側に別の対象を選択してください。</translation>
     </message>
 </context>
 <context>
     <name>OtherCameraSource</name>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1</translation>
     </message>
     <message>
         <source>Another program uses this camera, so it was only watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムがこのカメラを使用しているため、モニターのみ行いました。</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件をカメラ %1 に書き込みますか? この操作はここでは元に戻せません。</numerusform>
         </translation>
     </message>
     <message>
         <source>Opening the camera was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開く処理はキャンセルされました。</translation>
     </message>
     <message>
         <source>The camera is not connected any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラはもう接続されていません。</translation>
     </message>
     <message>
         <source>The camera did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが時間内に応答しませんでした。</translation>
     </message>
 </context>
 <context>
@@ -2471,371 +2546,371 @@ This value belongs to one camera or one moment.</source>
     <name>RegisterEditor</name>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">破棄</translation>
+        <translation>破棄</translation>
     </message>
     <message>
         <source>Writes all bytes to the camera (Ctrl+Return).</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのバイトをカメラに書き込みます (Ctrl+Enter)。</translation>
     </message>
     <message>
         <source>Shows the bytes of the camera again (Escape).</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラのバイトを再表示します (Esc)。</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n バイト</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、読み取り不可</translation>
     </message>
 </context>
 <context>
     <name>RestoreBar</name>
     <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shows which settings differ from those when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを開いた時点から変わった設定を表示します。</translation>
     </message>
     <message>
         <source>&amp;Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;D)</translation>
     </message>
     <message>
         <source>%1 Settings that were not made with this program may have the values from power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 このプログラム以外で行った設定は、電源投入時の値に戻っている可能性があります。</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">モニター中のため変更できません。</translation>
+        <translation>モニター中のため変更できません。</translation>
     </message>
     <message>
         <source>The settings were not read completely before the camera was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラとの接続が切れる前に、設定をすべて読み取れませんでした。</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更内容を表示してから、すべての設定をカメラを開いた時点の状態に戻します。</translation>
+    </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>比較(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore</source>
+        <translation>復元(&amp;R)</translation>
     </message>
 </context>
 <context>
     <name>SelectorTable</name>
     <message>
         <source>Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>再読み取り</translation>
     </message>
     <message>
         <source>Values of the selected features</source>
-        <translation type="unfinished"></translation>
+        <translation>選択対象フィーチャーの値</translation>
     </message>
     <message>
         <source>Show the feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャーを表示</translation>
     </message>
     <message>
         <source>The feature has no selector, so it has only one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフィーチャーにはセレクターがないため、値は 1 つだけです。</translation>
     </message>
     <message>
         <source>%1 is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>The values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ごとの値</translation>
     </message>
     <message>
         <source>%1, while %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 のとき)</translation>
     </message>
     <message>
         <source>Reading the values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ごとの値を読み取り中</translation>
     </message>
     <message>
         <source>Reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取りはキャンセルされました。</translation>
     </message>
     <message>
         <source>The selector has more values; only the first ones are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>セレクターの値が多いため、最初の一部だけを表示しています。</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished">変更するには、ストリームを一時的に停止する必要があります。</translation>
+        <translation>変更するには、ストリームを一時的に停止する必要があります。</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished">停止・設定・再開</translation>
+        <translation>停止・設定・再開</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を書き込み中</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は %2 の値として無効です。</translation>
     </message>
 </context>
 <context>
     <name>SettingTexts</name>
     <message>
         <source>Without category</source>
-        <translation type="unfinished"></translation>
+        <translation>カテゴリーなし</translation>
     </message>
 </context>
 <context>
     <name>SettingsActions</name>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Load settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を読み込む(&amp;L)…</translation>
     </message>
     <message>
         <source>As it &amp;was when I opened it…</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた時点の設定に戻す(&amp;W)…</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">モニター中のため変更できません。</translation>
+        <translation>モニター中のため変更できません。</translation>
     </message>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished">カメラが開かれていません。</translation>
+        <translation>カメラが開かれていません。</translation>
     </message>
     <message>
         <source>Saves all settings to a file that other GenICam programs can read, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>他の GenICam プログラムでも読み込めるファイルに、すべての設定を保存します。</translation>
     </message>
     <message>
         <source>Shows what a settings file would change, and then loads it.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイルによる変更内容を表示してから読み込みます。</translation>
     </message>
     <message>
         <source>The settings from the opening are not completely known.</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた時点の設定がすべて揃っていません。</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更内容を表示してから、すべての設定をカメラを開いた時点の状態に戻します。</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の保存</translation>
     </message>
     <message>
         <source>Settings files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル (%1)</translation>
     </message>
     <message>
         <source>All files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイル (%1)</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件を「%1」に保存しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>注記 %n 件:</numerusform>
         </translation>
     </message>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の読み込み</translation>
     </message>
     <message>
         <source>the settings from the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた時点の設定</translation>
     </message>
 </context>
 <context>
     <name>SettingsLoad</name>
     <message>
         <source>Comparing %1 with the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」をカメラと比較中</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を読み込み中</translation>
     </message>
     <message>
         <source>Putting back the settings from before %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の読み込み前の設定に復元中</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の読み込み</translation>
     </message>
     <message>
         <source>Undo loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の読み込みを元に戻す</translation>
     </message>
 </context>
 <context>
     <name>SettingsSave</name>
     <message>
         <source>Saving the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を保存中</translation>
     </message>
     <message>
         <source>Saving was cancelled. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存はキャンセルされました。ファイルは書き込まれていません。</translation>
     </message>
     <message>
-        <source>The camera has no settings that belong into a file. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <source>The camera has no settings that belong in a file. The file was not written.</source>
+        <translation>ファイルに保存できる設定がこのカメラにはありません。ファイルは書き込まれていません。</translation>
     </message>
 </context>
 <context>
     <name>SettingsSource</name>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取りはキャンセルされました。</translation>
     </message>
 </context>
 <context>
     <name>SetupWindow</name>
     <message>
         <source>Camera Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Camera Setup</translation>
     </message>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>比較</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">画像</translation>
+        <translation>画像</translation>
     </message>
     <message>
         <source>All selector values</source>
-        <translation type="unfinished"></translation>
+        <translation>セレクターの全値</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">ファイル(&amp;F)</translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す: %1</translation>
     </message>
     <message>
         <source>&amp;Find a feature</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャーを検索(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">カメラ(&amp;C)</translation>
+        <translation>カメラ(&amp;C)</translation>
     </message>
     <message>
         <source>Live &amp;picture</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Compare with the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>開いた時点と比較(&amp;C)</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Viewer で開く(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished">パネル(&amp;P)</translation>
+        <translation>パネル(&amp;P)</translation>
     </message>
     <message>
         <source>F2, Return</source>
-        <translation type="unfinished"></translation>
+        <translation>F2, Enter</translation>
     </message>
     <message>
         <source>Edit the value of the selected feature</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したフィーチャーの値を編集</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close or open a category</source>
-        <translation type="unfinished"></translation>
+        <translation>←, →</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished">ツールバー</translation>
+        <translation>ツールバー</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>フィーチャー %n 個。開いた時点の設定を読み取っています。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>フィーチャー %n 個</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>開いてから %n 個変更</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Collapse or expand a category</source>
+        <translation>カテゴリーを閉じる / 開く</translation>
     </message>
 </context>
 <context>
@@ -2857,31 +2932,31 @@ This value belongs to one camera or one moment.</source>
     <name>SideBox</name>
     <message>
         <source>Shows what could not be read, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取れなかった項目とその理由を表示します。</translation>
     </message>
     <message>
         <source>File…</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル…</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件、%1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>注記 %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>Not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ読み取られていません。</translation>
     </message>
     <message>
         <source>Notes on what was read:</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り時の注記:</translation>
     </message>
 </context>
 <context>
@@ -3119,13 +3194,13 @@ This value belongs to one camera or one moment.</source>
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>最大 %n 文字</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 / %2</translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -3244,262 +3319,262 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>UserSetControl</name>
     <message>
         <source>Reading the user sets</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセットを読み取り中</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">モニター中のため変更できません。</translation>
+        <translation>モニター中のため変更できません。</translation>
     </message>
     <message>
         <source>The camera does not offer this.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラがこの操作に対応していません。</translation>
     </message>
     <message>
         <source>The camera does not let the set for power-on be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラでは、電源投入時のユーザーセットを選択できません。</translation>
     </message>
     <message>
         <source>The camera does not allow this set at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラでは、このユーザーセットを電源投入時に使用できません。</translation>
     </message>
     <message>
         <source>The camera is only watched, so its user sets cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>モニター中のため、ユーザーセットを読み込めません。</translation>
     </message>
     <message>
         <source>Loading &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を読み込み中</translation>
     </message>
     <message>
         <source>Load user set &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット「%1」の読み込み</translation>
     </message>
     <message>
         <source>The load was cancelled. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みはキャンセルされました。何も変更されていません。</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>「%1」を読み込み、設定 %n 件が変更されました。</numerusform>
         </translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を保存中</translation>
     </message>
     <message>
         <source>The present settings were saved as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の設定を「%1」に保存しました。</translation>
     </message>
     <message>
         <source>Choosing &quot;%1&quot; for power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>電源投入時に使用するセットを「%1」に変更中</translation>
     </message>
     <message>
         <source>Use user set &quot;%1&quot; at power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>電源投入時にユーザーセット「%1」を使用</translation>
     </message>
     <message>
         <source>The camera begins with &quot;%1&quot; at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラは電源投入時に「%1」で起動します。</translation>
     </message>
 </context>
 <context>
     <name>UserSetPanel</name>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み(&amp;L)…</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Use at &amp;power-on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)…</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished">ユーザーセット</translation>
+        <translation>ユーザーセット</translation>
     </message>
     <message>
         <source>At power-on</source>
-        <translation type="unfinished">電源投入時</translation>
+        <translation>電源投入時</translation>
     </message>
     <message>
         <source>This camera keeps no user sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはユーザーセットがありません。</translation>
     </message>
     <message>
         <source>The user sets are not known yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセットの情報をまだ取得していません。</translation>
     </message>
     <message>
         <source>✓ yes</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 使用</translation>
     </message>
     <message>
         <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの設定を「%1」の内容に置き換えます。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は読み込めません。</translation>
     </message>
     <message>
         <source>Stores the present settings as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の設定を「%1」に保存します。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」には保存できません。</translation>
     </message>
     <message>
         <source>Lets the camera begin with &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが「%1」で起動するように設定します。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は電源投入時に使用できません。</translation>
     </message>
     <message>
         <source>Shows how the settings of the camera differ from this set.</source>
-        <translation type="unfinished"></translation>
+        <translation>このセットとカメラの設定の違いを表示します。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は比較できません。</translation>
     </message>
     <message>
         <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を読み込みますか? カメラの現在の設定は上書きされます。</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>フィーチャー %n 個が、カメラを開いた時点と異なります。</numerusform>
         </translation>
     </message>
     <message>
         <source>Loading can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みは元に戻せます。</translation>
     </message>
     <message>
         <source>Load user set</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセットの読み込み</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み(&amp;L)</translation>
     </message>
     <message>
         <source>Save user set</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセットの保存</translation>
     </message>
     <message>
         <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の設定を「%1」に保存しますか? このセットの現在の内容は上書きされ、元に戻せません。</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Use at power-on</source>
+        <translation>電源投入時に使用(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Comp&amp;are</source>
+        <translation>比較(&amp;M)</translation>
     </message>
 </context>
 <context>
     <name>UserSetSource</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット %1</translation>
     </message>
     <message>
         <source>The camera has to load the user set %1 to show it. The stream is stopped for this, and your present settings are put back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット %1 の内容を表示するには、カメラに読み込む必要があります。その間ストリームを停止し、終了後に現在の設定を復元します。</translation>
     </message>
     <message>
         <source>Not put back after the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット %1 の使用後に未復元</translation>
     </message>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほかに設定 %n 件が復元されませんでした。履歴で確認できます。</numerusform>
         </translation>
     </message>
     <message>
         <source>The camera may still have the settings of the user set. Restore those from the opening.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラにユーザーセットの設定が残っている可能性があります。開いた時点の設定に戻してください。</translation>
     </message>
     <message>
         <source>Reading the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット %1 を読み取り中</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラの制御を取得していません。</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>設定 %n 件をユーザーセット %1 に書き込みますか? カメラはセットを読み込み、変更して保存した後、現在の設定を復元します。その間、ストリームを停止します。</numerusform>
         </translation>
     </message>
     <message>
         <source>Copying to the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーセット %1 にコピー中</translation>
     </message>
     <message>
         <source>The copy was cancelled, so the user set was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーはキャンセルされました。ユーザーセットは変更されていません。</translation>
     </message>
 </context>
 <context>
     <name>ValueText</name>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 … (%n バイト)</numerusform>
         </translation>
     </message>
     <message>
         <source>not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラになし</translation>
     </message>
     <message>
         <source>not available</source>
-        <translation type="unfinished"></translation>
+        <translation>使用不可</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り不可</translation>
     </message>
     <message>
         <source>can only be written</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み専用</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>実行</translation>
     </message>
     <message>
         <source>Running …</source>
-        <translation type="unfinished"></translation>
+        <translation>実行中 …</translation>
     </message>
 </context>
 <context>

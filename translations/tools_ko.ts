@@ -269,23 +269,23 @@
     <name>CameraSource</name>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라(현재)</translation>
     </message>
     <message>
         <source>Reading the settings of this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라의 설정을 읽는 중</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라는 제어 모드로 열려 있지 않습니다.</translation>
     </message>
     <message>
         <source>Copying to this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라로 복사하는 중</translation>
     </message>
     <message>
         <source>Copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>차이 복사</translation>
     </message>
 </context>
 <context>
@@ -315,23 +315,23 @@
     <name>ChangeHistory</name>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소: %1</translation>
     </message>
     <message>
         <source>The value of %1 before the change is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 변경 전 값을 알 수 없습니다.</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 실행: %1</translation>
     </message>
     <message>
         <source>%1 cannot be changed while the camera is streaming.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 스트리밍 중에는 변경할 수 없습니다.</translation>
     </message>
     <message>
         <source>It was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>취소되었습니다.</translation>
     </message>
 </context>
 <context>
@@ -356,119 +356,119 @@
     <name>ComparePanel</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽</translation>
     </message>
     <message>
         <source>Swap the sides</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy to the &amp;right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>좌우 바꾸기</translation>
     </message>
     <message>
         <source>Reads both sides again.</source>
-        <translation type="unfinished"></translation>
+        <translation>양쪽을 다시 읽습니다.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>진행률</translation>
     </message>
     <message>
         <source>Compare settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 비교</translation>
     </message>
     <message>
         <source>&amp;Load the user set</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 불러오기(&amp;T)</translation>
     </message>
     <message>
         <source>Compare with a file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일과 비교</translation>
     </message>
     <message>
         <source>Settings files (*.txt *.pfs *.features);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 파일 (*.txt *.pfs *.features);;모든 파일 (*)</translation>
     </message>
     <message>
         <source>Writes settings of the left side to the right side.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽의 설정을 오른쪽에 씁니다.</translation>
     </message>
     <message>
         <source>The settings are being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정을 읽는 중입니다.</translation>
     </message>
     <message>
         <source>Choose two sides that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>읽을 수 있는 비교 대상을 양쪽에 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Copy to the ri&amp;ght</source>
+        <translation>오른쪽으로 복사(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>새로 고침(&amp;N)</translation>
     </message>
 </context>
 <context>
     <name>CompareSession</name>
     <message>
         <source>Reading: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>읽는 중: %1</translation>
     </message>
     <message>
         <source>Copying to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>복사 중(대상: %1)</translation>
     </message>
 </context>
 <context>
     <name>CompareSides</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 %1</translation>
     </message>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라(현재)</translation>
     </message>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라(연 시점)</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1</translation>
     </message>
 </context>
 <context>
     <name>ComparisonCounts</name>
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개에 차이가 없습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %1개 중 %n개가 다릅니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>카메라·시점별 값의 차이가 %n개 더 있습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이 밖에 카메라·시점별 값의 차이 %n개가 숨겨져 있습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -476,39 +476,39 @@
     <name>ComparisonReport</name>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(없음)</translation>
     </message>
     <message>
         <source>belongs to one camera or one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라·시점별 값</translation>
     </message>
     <message>
         <source>equal</source>
-        <translation type="unfinished"></translation>
+        <translation>같음</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽</translation>
     </message>
     <message>
         <source>Comparison of camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 설정 비교</translation>
     </message>
     <message>
         <source>Left: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽: %1, %2</translation>
     </message>
     <message>
         <source>Right: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽: %1, %2</translation>
     </message>
 </context>
 <context>
@@ -557,51 +557,51 @@
     <name>CopyActions</name>
     <message>
         <source>&amp;Selected differences</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 차이(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Checked differences</source>
-        <translation type="unfinished"></translation>
+        <translation>체크한 차이(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;All differences</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 차이(&amp;A)</translation>
     </message>
     <message>
         <source>Copy differences</source>
-        <translation type="unfinished"></translation>
+        <translation>차이 복사</translation>
     </message>
     <message>
         <source>&amp;Write</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The copy has failed after a part of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기(&amp;W)</translation>
     </message>
     <message>
         <source>Nothing was copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>복사한 설정이 없습니다: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 복사했습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>The copy was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>복사를 취소했습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>문제 %n건이 보고되었습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>What could not be copied or put back:</source>
-        <translation type="unfinished"></translation>
+        <translation>복사 또는 복원하지 못한 항목:</translation>
+    </message>
+    <message>
+        <source>The copy failed partway: %1</source>
+        <translation>일부만 복사한 뒤 실패했습니다: %1</translation>
     </message>
 </context>
 <context>
@@ -631,102 +631,103 @@
     <name>DetailsPane</name>
     <message>
         <source>All values side by side</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select a feature to see what the camera says of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 값 나란히 보기</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the name for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>즐겨찾기</translation>
     </message>
     <message>
         <source>Set back</source>
-        <translation type="unfinished"></translation>
+        <translation>되돌리기</translation>
     </message>
     <message>
         <source>Writes the value that the camera had when it was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 시점의 값을 다시 씁니다.</translation>
     </message>
     <message>
         <source>Contains</source>
-        <translation type="unfinished"></translation>
+        <translation>포함 항목</translation>
     </message>
     <message>
         <source>At opening: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>연 시점: %1</translation>
     </message>
     <message>
         <source>As it was when the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 시점과 동일</translation>
+    </message>
+    <message>
+        <source>Select a feature to see what the camera says about it.</source>
+        <translation>기능을 선택하면 카메라가 제공하는 정보를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Copy the name used in programs</source>
+        <translation>프로그래밍용 이름 복사</translation>
     </message>
 </context>
 <context>
     <name>DifferenceModel</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1; left: %2; right: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; 왼쪽: %2; 오른쪽: %3</translation>
     </message>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>(없음)</translation>
     </message>
     <message>
         <source>%1
 This value belongs to one camera or one moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+카메라 또는 시점마다 다른 값입니다.</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
 </context>
 <context>
     <name>DifferenceView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>차이</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>검색</translation>
     </message>
     <message>
         <source>Search the differences</source>
-        <translation type="unfinished"></translation>
+        <translation>차이 검색</translation>
     </message>
     <message>
         <source>Also e&amp;qual</source>
-        <translation type="unfinished"></translation>
+        <translation>같은 값도(&amp;Q)</translation>
     </message>
     <message>
         <source>Shows the settings that both sides have in common too.</source>
-        <translation type="unfinished"></translation>
+        <translation>양쪽의 값이 같은 설정도 표시합니다.</translation>
     </message>
     <message>
         <source>Also those of one camera or one &amp;moment</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라·시점별 값도(&amp;I)</translation>
     </message>
     <message>
         <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정이 같아도 카메라마다 다른 값(시리얼 번호, 온도, 카운터 등)도 표시합니다.</translation>
     </message>
     <message>
         <source>There is no difference to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시할 차이가 없습니다.</translation>
     </message>
     <message>
         <source>Nothing that is shown contains the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시된 항목 중 검색어를 포함하는 것이 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -842,82 +843,82 @@ This value belongs to one camera or one moment.</source>
     <name>ExportActions</name>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기…</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">복사</translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Saves what is shown as text or as a page (HTML).</source>
-        <translation type="unfinished"></translation>
+        <translation>표시된 내용을 텍스트 또는 웹 페이지(HTML)로 저장합니다.</translation>
     </message>
     <message>
         <source>Copies what is shown as text to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시된 내용을 텍스트로 클립보드에 복사합니다.</translation>
     </message>
     <message>
         <source>Export the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>비교 결과 내보내기</translation>
     </message>
     <message>
         <source>Page (*.html)</source>
-        <translation type="unfinished"></translation>
+        <translation>웹 페이지 (*.html)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트 (*.txt)</translation>
     </message>
     <message>
         <source>The comparison was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>비교 결과를 %1(으)로 저장했습니다.</translation>
     </message>
     <message>
         <source>The comparison could not be saved as %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>비교 결과를 %1(으)로 저장하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>The comparison was copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>비교 결과를 복사했습니다.</translation>
     </message>
 </context>
 <context>
     <name>FeatureActions</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>편집</translation>
     </message>
     <message>
         <source>Show Locking Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>잠금 원인 기능 표시</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>즐겨찾기</translation>
     </message>
     <message>
         <source>Copy Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 복사</translation>
     </message>
     <message>
         <source>Copy Value</source>
-        <translation type="unfinished"></translation>
+        <translation>값 복사</translation>
     </message>
     <message>
         <source>Copy &quot;Name=Value&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>‘이름=값’ 복사</translation>
     </message>
     <message>
         <source>Expand All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 펼치기</translation>
     </message>
     <message>
         <source>Collapse All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 접기</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>실행</translation>
     </message>
 </context>
 <context>
@@ -935,209 +936,209 @@ This value belongs to one camera or one moment.</source>
     <name>FeatureFacts</name>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>카테고리</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Number with decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>정수</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>켜짐/꺼짐</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>열거형</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>문자열</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished">명령</translation>
+        <translation>명령</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>레지스터</translation>
     </message>
     <message>
         <source>Not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라에 없음</translation>
     </message>
     <message>
         <source>Not available at present</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 사용 불가</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 전용</translation>
     </message>
     <message>
         <source>Write only</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기 전용</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기/쓰기</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>선형</translation>
     </message>
     <message>
         <source>Logarithmic</source>
-        <translation type="unfinished"></translation>
+        <translation>로그</translation>
     </message>
     <message>
         <source>Number without slider</source>
-        <translation type="unfinished"></translation>
+        <translation>숫자(슬라이더 없음)</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>16진수</translation>
     </message>
     <message>
         <source>IPv4 address</source>
-        <translation type="unfinished"></translation>
+        <translation>IPv4 주소</translation>
     </message>
     <message>
         <source>MAC address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC 주소</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished">최솟값</translation>
+        <translation>최솟값</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished">최댓값</translation>
+        <translation>최댓값</translation>
     </message>
     <message>
         <source>Increment</source>
-        <translation type="unfinished"></translation>
+        <translation>증분</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>길이</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n바이트</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Longest text</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n자</numerusform>
         </translation>
     </message>
     <message>
         <source>Every %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms마다</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>유형</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>표시 형식</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>단위</translation>
     </message>
     <message>
         <source>Not allowed now</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 선택 불가</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>접근 권한</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>수준</translation>
     </message>
     <message>
         <source>In settings files</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 파일에 저장</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>예</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>아니요</translation>
     </message>
     <message>
         <source>Changes by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>자동 변경</translation>
     </message>
     <message>
         <source>Selected by</source>
-        <translation type="unfinished"></translation>
+        <translation>셀렉터</translation>
     </message>
     <message>
         <source>Selects</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 대상</translation>
     </message>
     <message>
         <source>Depends on</source>
-        <translation type="unfinished"></translation>
+        <translation>의존 기능</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>문제</translation>
+    </message>
+    <message>
+        <source>Floating-point number</source>
+        <translation>실수</translation>
+    </message>
+    <message>
+        <source>Maximum length</source>
+        <translation>최대 길이</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>
     <message>
         <source>The camera is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 연결되어 있지 않습니다.</translation>
     </message>
     <message>
         <source>The value was not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 값을 읽지 않았습니다.</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>잠김</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>변경됨</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>즐겨찾기</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>값</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeView</name>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
 </context>
 <context>
@@ -1199,25 +1200,25 @@ This value belongs to one camera or one moment.</source>
     <name>FileSource</name>
     <message>
         <source>File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 %1</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1행</translation>
     </message>
     <message>
         <source>The file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 쓸 수 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 파일 %1에 쓰시겠습니까? 나머지 설정은 유지되지만 주석과 읽을 수 없는 행은 사라집니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>changed by a copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>차이 복사로 변경됨</translation>
     </message>
 </context>
 <context>
@@ -1383,68 +1384,68 @@ This value belongs to one camera or one moment.</source>
     <name>FilterBar</name>
     <message>
         <source>Search features</source>
-        <translation type="unfinished"></translation>
+        <translation>기능 검색</translation>
     </message>
     <message>
         <source>Shows the features with all of these words in their name or description.</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 또는 설명에 입력한 단어가 모두 포함된 기능을 표시합니다.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>수준</translation>
     </message>
     <message>
         <source>Which features are shown: the most important ones, most, or all.</source>
-        <translation type="unfinished"></translation>
+        <translation>표시할 기능의 범위: 주요 기능, 대부분, 전체.</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>변경됨</translation>
     </message>
     <message>
         <source>Shows only features that have changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 뒤에 변경된 기능만 표시합니다.</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>즐겨찾기</translation>
     </message>
     <message>
         <source>Shows only the features that you have marked as favourites.</source>
-        <translation type="unfinished"></translation>
+        <translation>즐겨찾기로 지정한 기능만 표시합니다.</translation>
     </message>
 </context>
 <context>
     <name>FilterHint</name>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>‘%1’ 수준에서는 기능 %n개가 숨겨집니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Show Them</source>
-        <translation type="unfinished"></translation>
+        <translation>표시</translation>
     </message>
     <message>
         <source>Show All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 표시</translation>
     </message>
     <message>
         <source>No feature matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>해당하는 기능이 없습니다.</translation>
     </message>
     <message>
         <source>No feature is marked as a favourite. Ctrl+D marks one.</source>
-        <translation type="unfinished"></translation>
+        <translation>즐겨찾기로 지정한 기능이 없습니다. Ctrl+D 키로 지정할 수 있습니다.</translation>
     </message>
     <message>
         <source>No feature has changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 뒤에 변경된 기능이 없습니다.</translation>
     </message>
     <message>
         <source>This level has no features.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 수준에는 기능이 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1482,36 +1483,36 @@ This value belongs to one camera or one moment.</source>
     <name>HexView</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">복사</translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>붙여넣기</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 선택</translation>
     </message>
     <message>
         <source>Offset %1, byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>오프셋 %1, 바이트 %2</translation>
     </message>
     <message>
         <source>Offset %1, character %2</source>
-        <translation type="unfinished"></translation>
+        <translation>오프셋 %1, 문자 %2</translation>
     </message>
     <message>
         <source>The clipboard contains no hexadecimal bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>클립보드에 16진수 바이트가 없습니다.</translation>
     </message>
     <message>
         <source>The clipboard contains no ASCII text.</source>
-        <translation type="unfinished"></translation>
+        <translation>클립보드에 ASCII 텍스트가 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>클립보드의 마지막 %n바이트는 공간이 부족해 붙여 넣지 못했습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -1572,74 +1573,74 @@ This value belongs to one camera or one moment.</source>
     <name>HistoryModel</name>
     <message>
         <source>Executed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>실행: %1</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 실행: %1</translation>
     </message>
     <message>
         <source>This change was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소된 변경입니다.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>시각</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Old value</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 값</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>새 값</translation>
     </message>
 </context>
 <context>
     <name>HistoryPanel</name>
     <message>
         <source>Changes since the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 뒤의 변경 사항</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 실행</translation>
     </message>
     <message>
         <source>Export as script…</source>
-        <translation type="unfinished"></translation>
+        <translation>스크립트로 내보내기…</translation>
     </message>
     <message>
         <source>Writes a shell script that makes these changes again with cvxctl.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 변경 사항을 cvxctl로 다시 적용하는 셸 스크립트를 저장합니다.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">복사</translation>
+        <translation>복사</translation>
     </message>
     <message>
         <source>Export the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 사항 내보내기</translation>
     </message>
     <message>
         <source>Shell scripts (*.sh)</source>
-        <translation type="unfinished"></translation>
+        <translation>셸 스크립트 (*.sh)</translation>
     </message>
     <message>
         <source>The script &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 스크립트를 저장할 수 없습니다: %2</translation>
     </message>
 </context>
 <context>
@@ -1661,14 +1662,14 @@ This value belongs to one camera or one moment.</source>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
     <name>LastingJob</name>
     <message>
         <source>The work was cancelled before it began, or the camera was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>작업이 시작되기 전에 취소되었거나 카메라가 닫혔습니다.</translation>
     </message>
 </context>
 <context>
@@ -1702,30 +1703,30 @@ This value belongs to one camera or one moment.</source>
     <name>LevelText</name>
     <message>
         <source>Beginner</source>
-        <translation type="unfinished"></translation>
+        <translation>초급</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>전문가</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>구루</translation>
     </message>
 </context>
 <context>
     <name>LivePicture</name>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">카메라가 이미지를 전송하지 않습니다. %1</translation>
+        <translation>카메라가 이미지를 전송하지 않습니다. %1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 트리거를 기다리고 있습니다. 트리거를 보내거나 트리거 모드를 끄십시오.</translation>
     </message>
     <message>
         <source>No picture has arrived yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 수신한 이미지가 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1739,165 +1740,235 @@ This value belongs to one camera or one moment.</source>
     <name>LoadDialog</name>
     <message>
         <source>Show only what &amp;changes</source>
-        <translation type="unfinished"></translation>
+        <translation>변경되는 항목만 표시(&amp;C)</translation>
     </message>
     <message>
         <source>Load what &amp;fits. If you cancel, what was loaded stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>적용 가능한 설정만 불러오기(&amp;F). 취소해도 이미 불러온 설정은 유지됩니다.</translation>
     </message>
     <message>
         <source>&amp;All or nothing. If a setting fails or you cancel, everything is put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>전부 아니면 불러오지 않기(&amp;A). 하나라도 실패하거나 취소하면 모두 복원합니다.</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Undo the load</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기 되돌리기(&amp;U)</translation>
     </message>
     <message>
         <source>Co&amp;py report</source>
-        <translation type="unfinished"></translation>
+        <translation>보고서 복사(&amp;P)</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 불러오기</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Nothing is written at all if a line of the file cannot be read, or if a setting cannot fit the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 읽을 수 없는 행이 있거나 카메라에 적용할 수 없는 설정이 있으면 아무것도 쓰지 않습니다.</translation>
     </message>
     <message>
         <source>Puts back all settings from before the load.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정을 불러오기 전으로 복원합니다.</translation>
     </message>
     <message>
         <source>The load was not undone. Without this dialog, it cannot be undone any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기를 되돌리지 못했습니다. 이 대화 상자를 닫으면 더 이상 되돌릴 수 없습니다.</translation>
     </message>
     <message>
         <source>Close &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>그래도 닫기(&amp;A)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
     </message>
 </context>
 <context>
     <name>LoadTable</name>
     <message>
         <source>The line cannot be read. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>행을 읽을 수 없습니다. %1</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>In camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 값</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>새 값</translation>
     </message>
     <message>
         <source>Read back</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 읽은 값</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>결과</translation>
     </message>
 </context>
 <context>
     <name>LoadText</name>
     <message>
         <source>Cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>불러올 수 없습니다.</translation>
     </message>
     <message>
         <source>Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>실패했습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 불러올 수 없습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개가 실패했습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경됩니다.</translation>
     </message>
     <message>
         <source>Changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경했습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개가 변경됩니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 변경했습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Overruled by another setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 설정이 우선합니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개는 다른 설정이 우선하여 적용되지 않습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개는 다른 설정이 우선하여 적용되지 않았습니다.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Already so.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개는 이미 같은 값입니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개는 이미 같은 값이었습니다.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Already has this value.</source>
+        <translation>이미 같은 값입니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) cannot be read.</source>
+        <translation>
+            <numerusform>%n개 줄을 읽을 수 없습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The load was cancelled, and the settings from before were put back.</source>
+        <translation>불러오기가 취소되었으며 이전 설정으로 되돌렸습니다.</translation>
+    </message>
+    <message>
+        <source>The load has failed, and the settings from before were put back.</source>
+        <translation>불러오기에 실패하여 이전 설정으로 되돌렸습니다.</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. What was loaded before stays.</source>
+        <translation>불러오기가 취소되었습니다. 그때까지 불러온 설정은 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. Nothing was changed.</source>
+        <translation>불러오기가 취소되었습니다. 변경된 것은 없습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed, because not everything can be loaded.</source>
+        <translation>일부 설정을 불러올 수 없어 아무것도 변경하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Not everything could be loaded.</source>
+        <translation>일부 설정을 불러오지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The settings were loaded and read back.</source>
+        <translation>설정을 불러온 뒤 다시 읽어 확인했습니다.</translation>
+    </message>
+    <message>
+        <source>All settings from before the load were put back.</source>
+        <translation>불러오기 전의 모든 설정으로 되돌렸습니다.</translation>
+    </message>
+    <message>
+        <source>Not all settings from before the load could be put back.</source>
+        <translation>불러오기 전의 일부 설정을 되돌리지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>Put back.</source>
+        <translation>되돌렸습니다.</translation>
+    </message>
+    <message>
+        <source>Not put back.</source>
+        <translation>되돌리지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The settings are being compared with the camera.</source>
+        <translation>설정을 카메라와 비교하는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The settings are being loaded and read back.</source>
+        <translation>설정을 불러오고 다시 읽는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The settings from before the load are being put back.</source>
+        <translation>불러오기 전의 설정으로 되돌리는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>변경될 설정이 없습니다.</translation>
+    </message>
+    <message>
+        <source>There are no settings to load.</source>
+        <translation>불러올 설정이 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -1944,19 +2015,19 @@ This value belongs to one camera or one moment.</source>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished">켜짐</translation>
+        <translation>켜짐</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">꺼짐</translation>
+        <translation>꺼짐</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 표시</translation>
     </message>
     <message>
         <source>Set %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2(으)로 설정</translation>
     </message>
 </context>
 <context>
@@ -2165,15 +2236,15 @@ This value belongs to one camera or one moment.</source>
     <name>NoteListDialog</name>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>원인</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">복사</translation>
+        <translation>복사</translation>
     </message>
 </context>
 <context>
@@ -2199,67 +2270,71 @@ This value belongs to one camera or one moment.</source>
     <name>OpeningSnapshot</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라(연 시점)</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 읽을 수 없습니다. %2</translation>
     </message>
     <message>
         <source>%1 was changed before its value at opening was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 연 시점의 값을 읽기 전에 변경되었습니다.</translation>
     </message>
     <message>
         <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정을 읽기 전에 %1 명령이 실행되어, 일부 설정은 실행 후의 값일 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>There are too many values, so only some were read.</source>
+        <translation>값이 너무 많아 일부만 읽었습니다.</translation>
     </message>
 </context>
 <context>
     <name>OpeningSource</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라(연 시점)</translation>
     </message>
     <message>
         <source>No camera is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>열려 있는 카메라가 없습니다.</translation>
     </message>
     <message>
         <source>The settings at opening are still being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>연 시점의 설정을 아직 읽는 중입니다.</translation>
     </message>
     <message>
-        <source>The settings at opening are in the past. Choose another right side.</source>
-        <translation type="unfinished"></translation>
+        <source>The settings at opening cannot be changed. Choose another right side.</source>
+        <translation>연 시점의 설정은 과거 값이므로 쓸 수 없습니다. 오른쪽에 다른 대상을 선택하십시오.</translation>
     </message>
 </context>
 <context>
     <name>OtherCameraSource</name>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1</translation>
     </message>
     <message>
         <source>Another program uses this camera, so it was only watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램이 사용 중인 카메라이므로 모니터링으로만 읽었습니다.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 카메라 %1에 쓰시겠습니까? 이 작업은 여기서 실행 취소할 수 없습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Opening the camera was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 열기를 취소했습니다.</translation>
     </message>
     <message>
         <source>The camera is not connected any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 연결이 해제되었습니다.</translation>
     </message>
     <message>
         <source>The camera did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 제한 시간 안에 응답하지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -2471,371 +2546,371 @@ This value belongs to one camera or one moment.</source>
     <name>RegisterEditor</name>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">변경 취소</translation>
+        <translation>변경 취소</translation>
     </message>
     <message>
         <source>Writes all bytes to the camera (Ctrl+Return).</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 바이트를 카메라에 씁니다(Ctrl+Enter).</translation>
     </message>
     <message>
         <source>Shows the bytes of the camera again (Escape).</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 바이트를 다시 표시합니다(Esc).</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n바이트</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, 읽을 수 없음</translation>
     </message>
 </context>
 <context>
     <name>RestoreBar</name>
     <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shows which settings differ from those when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 시점과 다른 설정을 표시합니다.</translation>
     </message>
     <message>
         <source>&amp;Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;D)</translation>
     </message>
     <message>
         <source>%1 Settings that were not made with this program may have the values from power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 이 프로그램에서 변경하지 않은 설정은 전원을 켤 때의 값으로 바뀌었을 수 있습니다.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
+        <translation>모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
     </message>
     <message>
         <source>The settings were not read completely before the camera was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 연결이 끊기기 전에 설정을 모두 읽지 못했습니다.</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경될 내용을 보여 준 다음, 모든 설정을 카메라를 연 시점으로 복원합니다.</translation>
+    </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>비교(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore</source>
+        <translation>복원(&amp;R)</translation>
     </message>
 </context>
 <context>
     <name>SelectorTable</name>
     <message>
         <source>Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 읽기</translation>
     </message>
     <message>
         <source>Values of the selected features</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 대상 기능의 값</translation>
     </message>
     <message>
         <source>Show the feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능 표시</translation>
     </message>
     <message>
         <source>The feature has no selector, so it has only one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>셀렉터가 없는 기능이므로 값이 하나뿐입니다.</translation>
     </message>
     <message>
         <source>%1 is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>The values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1별 값</translation>
     </message>
     <message>
         <source>%1, while %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(%2)</translation>
     </message>
     <message>
         <source>Reading the values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1별 값을 읽는 중</translation>
     </message>
     <message>
         <source>Reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기를 취소했습니다.</translation>
     </message>
     <message>
         <source>The selector has more values; only the first ones are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>셀렉터의 값이 많아 앞부분만 표시합니다.</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished">이 값을 변경하려면 스트림을 잠시 중지해야 합니다.</translation>
+        <translation>이 값을 변경하려면 스트림을 잠시 중지해야 합니다.</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished">중지 후 설정·재시작</translation>
+        <translation>중지 후 설정·재시작</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 쓰는 중</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’은(는) %2에 쓸 수 있는 값이 아닙니다.</translation>
     </message>
 </context>
 <context>
     <name>SettingTexts</name>
     <message>
         <source>Without category</source>
-        <translation type="unfinished"></translation>
+        <translation>카테고리 없음</translation>
     </message>
 </context>
 <context>
     <name>SettingsActions</name>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Load settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 불러오기(&amp;L)…</translation>
     </message>
     <message>
         <source>As it &amp;was when I opened it…</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 시점으로 복원(&amp;W)…</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
+        <translation>모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
     </message>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished">카메라가 열려 있지 않습니다.</translation>
+        <translation>카메라가 열려 있지 않습니다.</translation>
     </message>
     <message>
         <source>Saves all settings to a file that other GenICam programs can read, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 GenICam 프로그램에서도 읽을 수 있는 파일에 모든 설정을 저장합니다.</translation>
     </message>
     <message>
         <source>Shows what a settings file would change, and then loads it.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 파일로 변경될 내용을 보여 준 다음 불러옵니다.</translation>
     </message>
     <message>
         <source>The settings from the opening are not completely known.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 시점의 설정 중 일부를 알 수 없습니다.</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경될 내용을 보여 준 다음, 모든 설정을 카메라를 연 시점으로 복원합니다.</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 저장</translation>
     </message>
     <message>
         <source>Settings files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 파일 (%1)</translation>
     </message>
     <message>
         <source>All files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 파일 (%1)</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 ‘%1’에 저장했습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>참고 사항 %n건:</numerusform>
         </translation>
     </message>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 불러오기</translation>
     </message>
     <message>
         <source>the settings from the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연 시점의 설정</translation>
     </message>
 </context>
 <context>
     <name>SettingsLoad</name>
     <message>
         <source>Comparing %1 with the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 카메라와 비교하는 중</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 불러오는 중</translation>
     </message>
     <message>
         <source>Putting back the settings from before %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 불러오기 전의 설정으로 복원하는 중</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 불러오기</translation>
     </message>
     <message>
         <source>Undo loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 불러오기 되돌리기</translation>
     </message>
 </context>
 <context>
     <name>SettingsSave</name>
     <message>
         <source>Saving the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정을 저장하는 중</translation>
     </message>
     <message>
         <source>Saving was cancelled. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>저장을 취소했습니다. 파일을 저장하지 않았습니다.</translation>
     </message>
     <message>
-        <source>The camera has no settings that belong into a file. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <source>The camera has no settings that belong in a file. The file was not written.</source>
+        <translation>카메라에 파일로 저장할 설정이 없습니다. 파일을 저장하지 않았습니다.</translation>
     </message>
 </context>
 <context>
     <name>SettingsSource</name>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기를 취소했습니다.</translation>
     </message>
 </context>
 <context>
     <name>SetupWindow</name>
     <message>
         <source>Camera Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 설정</translation>
     </message>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>비교</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능 정보</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 기록</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">이미지</translation>
+        <translation>이미지</translation>
     </message>
     <message>
         <source>All selector values</source>
-        <translation type="unfinished"></translation>
+        <translation>셀렉터별 전체 값</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">파일(&amp;F)</translation>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>편집(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 실행(&amp;R)</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 실행: %1</translation>
     </message>
     <message>
         <source>&amp;Find a feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능 찾기(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">카메라(&amp;C)</translation>
+        <translation>카메라(&amp;C)</translation>
     </message>
     <message>
         <source>Live &amp;picture</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Compare with the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>연 시점과 비교(&amp;C)</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 뷰어에서 열기(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished">패널(&amp;P)</translation>
+        <translation>패널(&amp;P)</translation>
     </message>
     <message>
         <source>F2, Return</source>
-        <translation type="unfinished"></translation>
+        <translation>F2, Enter</translation>
     </message>
     <message>
         <source>Edit the value of the selected feature</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 기능의 값 편집</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close or open a category</source>
-        <translation type="unfinished"></translation>
+        <translation>←, →</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished">도구 모음</translation>
+        <translation>도구 모음</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>기능 %n개. 연 시점의 설정을 읽는 중입니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>기능 %n개</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>연 뒤에 %n개 변경됨</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Collapse or expand a category</source>
+        <translation>카테고리 접기 또는 펼치기</translation>
     </message>
 </context>
 <context>
@@ -2857,31 +2932,31 @@ This value belongs to one camera or one moment.</source>
     <name>SideBox</name>
     <message>
         <source>Shows what could not be read, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>읽지 못한 항목과 원인을 표시합니다.</translation>
     </message>
     <message>
         <source>File…</source>
-        <translation type="unfinished"></translation>
+        <translation>파일…</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개, %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>참고 %n건</numerusform>
         </translation>
     </message>
     <message>
         <source>Not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 읽지 않았습니다.</translation>
     </message>
     <message>
         <source>Notes on what was read:</source>
-        <translation type="unfinished"></translation>
+        <translation>읽은 내용에 대한 참고 사항:</translation>
     </message>
 </context>
 <context>
@@ -3119,13 +3194,13 @@ This value belongs to one camera or one moment.</source>
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>최대 %n자</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 / %2</translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -3244,262 +3319,262 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>UserSetControl</name>
     <message>
         <source>Reading the user sets</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트를 읽는 중</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
+        <translation>모니터링만 하는 중이므로 변경할 수 없습니다.</translation>
     </message>
     <message>
         <source>The camera does not offer this.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 지원하지 않습니다.</translation>
     </message>
     <message>
         <source>The camera does not let the set for power-on be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라에서는 전원을 켤 때 사용할 세트를 선택할 수 없습니다.</translation>
     </message>
     <message>
         <source>The camera does not allow this set at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 세트는 전원을 켤 때 사용할 수 없습니다.</translation>
     </message>
     <message>
         <source>The camera is only watched, so its user sets cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>모니터링만 하는 중이므로 사용자 세트를 불러올 수 없습니다.</translation>
     </message>
     <message>
         <source>Loading &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 불러오는 중</translation>
     </message>
     <message>
         <source>Load user set &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 ‘%1’ 불러오기</translation>
     </message>
     <message>
         <source>The load was cancelled. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기를 취소했습니다. 변경된 설정은 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>‘%1’을(를) 불러와 설정 %n개가 변경되었습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’ 저장 중</translation>
     </message>
     <message>
         <source>The present settings were saved as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 설정을 ‘%1’에 저장했습니다.</translation>
     </message>
     <message>
         <source>Choosing &quot;%1&quot; for power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>전원 켤 때 사용할 세트를 ‘%1’(으)로 지정하는 중</translation>
     </message>
     <message>
         <source>Use user set &quot;%1&quot; at power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>전원 켤 때 사용자 세트 ‘%1’ 사용</translation>
     </message>
     <message>
         <source>The camera begins with &quot;%1&quot; at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>전원을 켜면 카메라가 ‘%1’(으)로 시작합니다.</translation>
     </message>
 </context>
 <context>
     <name>UserSetPanel</name>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기(&amp;L)…</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Use at &amp;power-on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)…</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished">사용자 세트</translation>
+        <translation>사용자 세트</translation>
     </message>
     <message>
         <source>At power-on</source>
-        <translation type="unfinished">전원 켤 때</translation>
+        <translation>전원 켤 때</translation>
     </message>
     <message>
         <source>This camera keeps no user sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라에는 사용자 세트가 없습니다.</translation>
     </message>
     <message>
         <source>The user sets are not known yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 사용자 세트를 읽지 않았습니다.</translation>
     </message>
     <message>
         <source>✓ yes</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 예</translation>
     </message>
     <message>
         <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 설정을 ‘%1’의 설정으로 바꿉니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’을(를) 불러올 수 없습니다.</translation>
     </message>
     <message>
         <source>Stores the present settings as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 설정을 ‘%1’에 저장합니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’을(를) 저장할 수 없습니다.</translation>
     </message>
     <message>
         <source>Lets the camera begin with &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 ‘%1’(으)로 시작하도록 지정합니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’은(는) 전원 켤 때 사용할 수 없습니다.</translation>
     </message>
     <message>
         <source>Shows how the settings of the camera differ from this set.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 설정과 이 세트의 차이를 표시합니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’을(를) 비교할 수 없습니다.</translation>
     </message>
     <message>
         <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’을(를) 불러오시겠습니까? 카메라의 현재 설정을 덮어씁니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>카메라를 연 시점과 다른 기능이 %n개 있습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Loading can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기는 실행 취소할 수 있습니다.</translation>
     </message>
     <message>
         <source>Load user set</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 불러오기</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>불러오기(&amp;L)</translation>
     </message>
     <message>
         <source>Save user set</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 저장</translation>
     </message>
     <message>
         <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 설정을 ‘%1’에 저장하시겠습니까? 이 세트의 기존 내용을 덮어쓰며, 실행 취소할 수 없습니다.</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Use at power-on</source>
+        <translation>전원 켤 때 사용(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Comp&amp;are</source>
+        <translation>비교(&amp;A)</translation>
     </message>
 </context>
 <context>
     <name>UserSetSource</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 %1</translation>
     </message>
     <message>
         <source>The camera has to load the user set %1 to show it. The stream is stopped for this, and your present settings are put back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 %1의 내용을 표시하려면 카메라에서 이 세트를 불러와야 합니다. 그동안 스트림이 중지되며, 이후 현재 설정으로 복원합니다.</translation>
     </message>
     <message>
         <source>Not put back after the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 %1 사용 후 복원되지 않음</translation>
     </message>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>이 밖에 설정 %n개가 복원되지 않았습니다. 변경 기록에서 확인할 수 있습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>The camera may still have the settings of the user set. Restore those from the opening.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 사용자 세트의 설정이 남아 있을 수 있습니다. 카메라를 연 시점의 설정으로 복원하십시오.</translation>
     </message>
     <message>
         <source>Reading the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 %1 읽는 중</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라는 제어 모드로 열려 있지 않습니다.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>설정 %n개를 사용자 세트 %1에 쓰시겠습니까? 카메라에서 세트를 불러와 변경하고 저장한 다음, 현재 설정으로 복원합니다. 그동안 스트림이 중지됩니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Copying to the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자 세트 %1(으)로 복사하는 중</translation>
     </message>
     <message>
         <source>The copy was cancelled, so the user set was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>복사를 취소하여 사용자 세트는 변경되지 않았습니다.</translation>
     </message>
 </context>
 <context>
     <name>ValueText</name>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 … (%n바이트)</numerusform>
         </translation>
     </message>
     <message>
         <source>not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라에 없음</translation>
     </message>
     <message>
         <source>not available</source>
-        <translation type="unfinished"></translation>
+        <translation>사용 불가</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>읽을 수 없음</translation>
     </message>
     <message>
         <source>can only be written</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기 전용</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>켜짐</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>꺼짐</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>실행</translation>
     </message>
     <message>
         <source>Running …</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 중 …</translation>
     </message>
 </context>
 <context>

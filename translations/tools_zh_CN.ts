@@ -269,23 +269,23 @@
     <name>CameraSource</name>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机（当前）</translation>
     </message>
     <message>
         <source>Reading the settings of this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取此相机的设置</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>未以控制方式打开此相机。</translation>
     </message>
     <message>
         <source>Copying to this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>正在复制到此相机</translation>
     </message>
     <message>
         <source>Copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>复制差异</translation>
     </message>
 </context>
 <context>
@@ -315,23 +315,23 @@
     <name>ChangeHistory</name>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销：%1</translation>
     </message>
     <message>
         <source>The value of %1 before the change is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 更改前的值未知。</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>重做：%1</translation>
     </message>
     <message>
         <source>%1 cannot be changed while the camera is streaming.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机采集图像流时无法更改 %1。</translation>
     </message>
     <message>
         <source>It was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>操作已取消。</translation>
     </message>
 </context>
 <context>
@@ -356,119 +356,119 @@
     <name>ComparePanel</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左侧</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右侧</translation>
     </message>
     <message>
         <source>Swap the sides</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy to the &amp;right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>交换左右两侧</translation>
     </message>
     <message>
         <source>Reads both sides again.</source>
-        <translation type="unfinished"></translation>
+        <translation>重新读取两侧。</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>进度</translation>
     </message>
     <message>
         <source>Compare settings</source>
-        <translation type="unfinished"></translation>
+        <translation>比较设置</translation>
     </message>
     <message>
         <source>&amp;Load the user set</source>
-        <translation type="unfinished"></translation>
+        <translation>加载用户集(&amp;L)</translation>
     </message>
     <message>
         <source>Compare with a file</source>
-        <translation type="unfinished"></translation>
+        <translation>与文件比较</translation>
     </message>
     <message>
         <source>Settings files (*.txt *.pfs *.features);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>设置文件 (*.txt *.pfs *.features);;所有文件 (*)</translation>
     </message>
     <message>
         <source>Writes settings of the left side to the right side.</source>
-        <translation type="unfinished"></translation>
+        <translation>将左侧的设置写入右侧。</translation>
     </message>
     <message>
         <source>The settings are being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取设置。</translation>
     </message>
     <message>
         <source>Choose two sides that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择可读取的两侧。</translation>
+    </message>
+    <message>
+        <source>Copy to the ri&amp;ght</source>
+        <translation>复制到右侧(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>刷新(&amp;F)</translation>
     </message>
 </context>
 <context>
     <name>CompareSession</name>
     <message>
         <source>Reading: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取：%1</translation>
     </message>
     <message>
         <source>Copying to: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在复制到：%1</translation>
     </message>
 </context>
 <context>
     <name>CompareSides</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用户集 %1</translation>
     </message>
     <message>
         <source>This camera now</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机（当前）</translation>
     </message>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机（打开时）</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>相机 %1</translation>
     </message>
 </context>
 <context>
     <name>ComparisonCounts</name>
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置无差异。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 项设置中有 %n 项不同。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>另有 %n 项差异因相机或时刻而异。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已隐藏另外 %n 项因相机或时刻而异的差异。</numerusform>
         </translation>
     </message>
 </context>
@@ -476,39 +476,39 @@
     <name>ComparisonReport</name>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>（缺失）</translation>
     </message>
     <message>
         <source>belongs to one camera or one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>因相机或时刻而异</translation>
     </message>
     <message>
         <source>equal</source>
-        <translation type="unfinished"></translation>
+        <translation>相同</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左侧</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右侧</translation>
     </message>
     <message>
         <source>Comparison of camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>相机设置比较</translation>
     </message>
     <message>
         <source>Left: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>左侧：%1，%2</translation>
     </message>
     <message>
         <source>Right: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>右侧：%1，%2</translation>
     </message>
 </context>
 <context>
@@ -557,51 +557,51 @@
     <name>CopyActions</name>
     <message>
         <source>&amp;Selected differences</source>
-        <translation type="unfinished"></translation>
+        <translation>选中的差异(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Checked differences</source>
-        <translation type="unfinished"></translation>
+        <translation>勾选的差异(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;All differences</source>
-        <translation type="unfinished"></translation>
+        <translation>全部差异(&amp;A)</translation>
     </message>
     <message>
         <source>Copy differences</source>
-        <translation type="unfinished"></translation>
+        <translation>复制差异</translation>
     </message>
     <message>
         <source>&amp;Write</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The copy has failed after a part of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>写入(&amp;W)</translation>
     </message>
     <message>
         <source>Nothing was copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未复制任何设置：%1</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已复制 %n 项设置。</numerusform>
         </translation>
     </message>
     <message>
         <source>The copy was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>复制已取消。</translation>
     </message>
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>出现 %n 个问题。</numerusform>
         </translation>
     </message>
     <message>
         <source>What could not be copied or put back:</source>
-        <translation type="unfinished"></translation>
+        <translation>未能复制或恢复的设置：</translation>
+    </message>
+    <message>
+        <source>The copy failed partway: %1</source>
+        <translation>复制中途失败，仅完成一部分：%1</translation>
     </message>
 </context>
 <context>
@@ -631,102 +631,103 @@
     <name>DetailsPane</name>
     <message>
         <source>All values side by side</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select a feature to see what the camera says of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>并排显示所有值</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the name for programs</source>
-        <translation type="unfinished"></translation>
+        <translation>收藏</translation>
     </message>
     <message>
         <source>Set back</source>
-        <translation type="unfinished"></translation>
+        <translation>还原</translation>
     </message>
     <message>
         <source>Writes the value that the camera had when it was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>写入打开相机时的值。</translation>
     </message>
     <message>
         <source>Contains</source>
-        <translation type="unfinished"></translation>
+        <translation>包含</translation>
     </message>
     <message>
         <source>At opening: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>打开时：%1</translation>
     </message>
     <message>
         <source>As it was when the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>与打开相机时相同</translation>
+    </message>
+    <message>
+        <source>Select a feature to see what the camera says about it.</source>
+        <translation>请选择特性，以查看相机提供的信息。</translation>
+    </message>
+    <message>
+        <source>Copy the name used in programs</source>
+        <translation>复制编程用名称</translation>
     </message>
 </context>
 <context>
     <name>DifferenceModel</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1; left: %2; right: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1；左侧：%2；右侧：%3</translation>
     </message>
     <message>
         <source>(missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>（缺失）</translation>
     </message>
     <message>
         <source>%1
 This value belongs to one camera or one moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+该值因相机或时刻而异。</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
 </context>
 <context>
     <name>DifferenceView</name>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>差异</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索</translation>
     </message>
     <message>
         <source>Search the differences</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索差异</translation>
     </message>
     <message>
         <source>Also e&amp;qual</source>
-        <translation type="unfinished"></translation>
+        <translation>含相同项(&amp;Q)</translation>
     </message>
     <message>
         <source>Shows the settings that both sides have in common too.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时显示两侧相同的设置。</translation>
     </message>
     <message>
         <source>Also those of one camera or one &amp;moment</source>
-        <translation type="unfinished"></translation>
+        <translation>含因相机或时刻而异的值(&amp;M)</translation>
     </message>
     <message>
         <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时显示设置相同的相机之间也会不同的值：序列号、温度、计数器。</translation>
     </message>
     <message>
         <source>There is no difference to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可显示的差异。</translation>
     </message>
     <message>
         <source>Nothing that is shown contains the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示的内容中没有匹配的文本。</translation>
     </message>
 </context>
 <context>
@@ -842,82 +843,82 @@ This value belongs to one camera or one moment.</source>
     <name>ExportActions</name>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>导出…</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">复制</translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Saves what is shown as text or as a page (HTML).</source>
-        <translation type="unfinished"></translation>
+        <translation>将显示的内容保存为文本或网页 (HTML)。</translation>
     </message>
     <message>
         <source>Copies what is shown as text to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>将显示的内容以文本形式复制到剪贴板。</translation>
     </message>
     <message>
         <source>Export the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>导出比较结果</translation>
     </message>
     <message>
         <source>Page (*.html)</source>
-        <translation type="unfinished"></translation>
+        <translation>网页 (*.html)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>文本 (*.txt)</translation>
     </message>
     <message>
         <source>The comparison was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>比较结果已保存为“%1”。</translation>
     </message>
     <message>
         <source>The comparison could not be saved as %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将比较结果保存为“%1”：%2</translation>
     </message>
     <message>
         <source>The comparison was copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>比较结果已复制。</translation>
     </message>
 </context>
 <context>
     <name>FeatureActions</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑</translation>
     </message>
     <message>
         <source>Show Locking Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>转到锁定该项的特性</translation>
     </message>
     <message>
         <source>Favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>收藏</translation>
     </message>
     <message>
         <source>Copy Name</source>
-        <translation type="unfinished"></translation>
+        <translation>复制名称</translation>
     </message>
     <message>
         <source>Copy Value</source>
-        <translation type="unfinished"></translation>
+        <translation>复制值</translation>
     </message>
     <message>
         <source>Copy &quot;Name=Value&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>复制“名称=值”</translation>
     </message>
     <message>
         <source>Expand All</source>
-        <translation type="unfinished"></translation>
+        <translation>全部展开</translation>
     </message>
     <message>
         <source>Collapse All</source>
-        <translation type="unfinished"></translation>
+        <translation>全部折叠</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>执行</translation>
     </message>
 </context>
 <context>
@@ -935,209 +936,209 @@ This value belongs to one camera or one moment.</source>
     <name>FeatureFacts</name>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>类别</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Number with decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>整数</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>布尔</translation>
     </message>
     <message>
         <source>Enumeration</source>
-        <translation type="unfinished"></translation>
+        <translation>枚举</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>字符串</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished">命令</translation>
+        <translation>命令</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>寄存器</translation>
     </message>
     <message>
         <source>Not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机不支持</translation>
     </message>
     <message>
         <source>Not available at present</source>
-        <translation type="unfinished"></translation>
+        <translation>当前不可用</translation>
     </message>
     <message>
         <source>Read only</source>
-        <translation type="unfinished"></translation>
+        <translation>只读</translation>
     </message>
     <message>
         <source>Write only</source>
-        <translation type="unfinished"></translation>
+        <translation>只写</translation>
     </message>
     <message>
         <source>Read and write</source>
-        <translation type="unfinished"></translation>
+        <translation>读写</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>线性</translation>
     </message>
     <message>
         <source>Logarithmic</source>
-        <translation type="unfinished"></translation>
+        <translation>对数</translation>
     </message>
     <message>
         <source>Number without slider</source>
-        <translation type="unfinished"></translation>
+        <translation>纯数值</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
-        <translation type="unfinished"></translation>
+        <translation>十六进制</translation>
     </message>
     <message>
         <source>IPv4 address</source>
-        <translation type="unfinished"></translation>
+        <translation>IPv4 地址</translation>
     </message>
     <message>
         <source>MAC address</source>
-        <translation type="unfinished"></translation>
+        <translation>MAC 地址</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished">最小值</translation>
+        <translation>最小值</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished">最大值</translation>
+        <translation>最大值</translation>
     </message>
     <message>
         <source>Increment</source>
-        <translation type="unfinished"></translation>
+        <translation>步长</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>长度</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 字节</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Longest text</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个字符</numerusform>
         </translation>
     </message>
     <message>
         <source>Every %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>每 %1 ms</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>显示形式</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>单位</translation>
     </message>
     <message>
         <source>Not allowed now</source>
-        <translation type="unfinished"></translation>
+        <translation>当前不可选</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>访问权限</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>级别</translation>
     </message>
     <message>
         <source>In settings files</source>
-        <translation type="unfinished"></translation>
+        <translation>存入设置文件</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>是</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>否</translation>
     </message>
     <message>
         <source>Changes by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>自动更新</translation>
     </message>
     <message>
         <source>Selected by</source>
-        <translation type="unfinished"></translation>
+        <translation>选择器</translation>
     </message>
     <message>
         <source>Selects</source>
-        <translation type="unfinished"></translation>
+        <translation>被选特性</translation>
     </message>
     <message>
         <source>Depends on</source>
-        <translation type="unfinished"></translation>
+        <translation>取决于</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Floating-point number</source>
+        <translation>浮点数</translation>
+    </message>
+    <message>
+        <source>Maximum length</source>
+        <translation>最大长度</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>
     <message>
         <source>The camera is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机未连接。</translation>
     </message>
     <message>
         <source>The value was not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未读取该值。</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>已锁定</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>已更改</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>已收藏</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>值</translation>
     </message>
 </context>
 <context>
     <name>FeatureTreeView</name>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
 </context>
 <context>
@@ -1199,25 +1200,25 @@ This value belongs to one camera or one moment.</source>
     <name>FileSource</name>
     <message>
         <source>File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>文件 %1</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 行</translation>
     </message>
     <message>
         <source>The file cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入文件。</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>是否将 %n 项设置写入文件 %1？其他设置保持不变，但注释和无法读取的行将丢失。</numerusform>
         </translation>
     </message>
     <message>
         <source>changed by a copy of differences</source>
-        <translation type="unfinished"></translation>
+        <translation>由复制差异更改</translation>
     </message>
 </context>
 <context>
@@ -1383,68 +1384,68 @@ This value belongs to one camera or one moment.</source>
     <name>FilterBar</name>
     <message>
         <source>Search features</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索特性</translation>
     </message>
     <message>
         <source>Shows the features with all of these words in their name or description.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示名称或说明中包含所有这些词的特性。</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>级别</translation>
     </message>
     <message>
         <source>Which features are shown: the most important ones, most, or all.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示哪些特性：最重要的、大部分或全部。</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>已更改</translation>
     </message>
     <message>
         <source>Shows only features that have changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅显示打开相机后已更改的特性。</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>收藏</translation>
     </message>
     <message>
         <source>Shows only the features that you have marked as favourites.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅显示已收藏的特性。</translation>
     </message>
 </context>
 <context>
     <name>FilterHint</name>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>级别“%1”隐藏了 %n 个特性。</numerusform>
         </translation>
     </message>
     <message>
         <source>Show Them</source>
-        <translation type="unfinished"></translation>
+        <translation>显示这些特性</translation>
     </message>
     <message>
         <source>Show All</source>
-        <translation type="unfinished"></translation>
+        <translation>显示全部</translation>
     </message>
     <message>
         <source>No feature matches.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有匹配的特性。</translation>
     </message>
     <message>
         <source>No feature is marked as a favourite. Ctrl+D marks one.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未收藏任何特性。按 Ctrl+D 可收藏。</translation>
     </message>
     <message>
         <source>No feature has changed since the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>打开相机后没有特性更改。</translation>
     </message>
     <message>
         <source>This level has no features.</source>
-        <translation type="unfinished"></translation>
+        <translation>此级别下没有特性。</translation>
     </message>
 </context>
 <context>
@@ -1482,36 +1483,36 @@ This value belongs to one camera or one moment.</source>
     <name>HexView</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">复制</translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>粘贴</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>全选</translation>
     </message>
     <message>
         <source>Offset %1, byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>偏移 %1，字节 %2</translation>
     </message>
     <message>
         <source>Offset %1, character %2</source>
-        <translation type="unfinished"></translation>
+        <translation>偏移 %1，字符 %2</translation>
     </message>
     <message>
         <source>The clipboard contains no hexadecimal bytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>剪贴板中没有十六进制字节。</translation>
     </message>
     <message>
         <source>The clipboard contains no ASCII text.</source>
-        <translation type="unfinished"></translation>
+        <translation>剪贴板中没有 ASCII 文本。</translation>
     </message>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>剪贴板末尾的 %n 字节超出长度，未粘贴。</numerusform>
         </translation>
     </message>
 </context>
@@ -1572,74 +1573,74 @@ This value belongs to one camera or one moment.</source>
     <name>HistoryModel</name>
     <message>
         <source>Executed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已执行：%1</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销：%1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>重做：%1</translation>
     </message>
     <message>
         <source>This change was undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>此更改已撤销。</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>时间</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>Old value</source>
-        <translation type="unfinished"></translation>
+        <translation>旧值</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>新值</translation>
     </message>
 </context>
 <context>
     <name>HistoryPanel</name>
     <message>
         <source>Changes since the camera was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>打开相机后的更改</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>重做</translation>
     </message>
     <message>
         <source>Export as script…</source>
-        <translation type="unfinished"></translation>
+        <translation>导出为脚本…</translation>
     </message>
     <message>
         <source>Writes a shell script that makes these changes again with cvxctl.</source>
-        <translation type="unfinished"></translation>
+        <translation>生成 shell 脚本，可通过 cvxctl 重新执行这些更改。</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">复制</translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Export the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>导出更改</translation>
     </message>
     <message>
         <source>Shell scripts (*.sh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Shell 脚本 (*.sh)</translation>
     </message>
     <message>
         <source>The script &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入脚本“%1”：%2</translation>
     </message>
 </context>
 <context>
@@ -1661,14 +1662,14 @@ This value belongs to one camera or one moment.</source>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
     <name>LastingJob</name>
     <message>
         <source>The work was cancelled before it began, or the camera was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>操作在开始前已取消，或相机已关闭。</translation>
     </message>
 </context>
 <context>
@@ -1702,30 +1703,30 @@ This value belongs to one camera or one moment.</source>
     <name>LevelText</name>
     <message>
         <source>Beginner</source>
-        <translation type="unfinished"></translation>
+        <translation>初级</translation>
     </message>
     <message>
         <source>Expert</source>
-        <translation type="unfinished"></translation>
+        <translation>专家</translation>
     </message>
     <message>
         <source>Guru</source>
-        <translation type="unfinished"></translation>
+        <translation>大师</translation>
     </message>
 </context>
 <context>
     <name>LivePicture</name>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">相机未发送图像。%1</translation>
+        <translation>相机未发送图像。%1</translation>
     </message>
     <message>
         <source>The camera waits for a trigger. Send one, or switch the trigger mode off.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机正在等待触发。请发送触发信号，或关闭触发模式。</translation>
     </message>
     <message>
         <source>No picture has arrived yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未接收到图像。</translation>
     </message>
 </context>
 <context>
@@ -1739,165 +1740,235 @@ This value belongs to one camera or one moment.</source>
     <name>LoadDialog</name>
     <message>
         <source>Show only what &amp;changes</source>
-        <translation type="unfinished"></translation>
+        <translation>仅显示将更改的项(&amp;C)</translation>
     </message>
     <message>
         <source>Load what &amp;fits. If you cancel, what was loaded stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>加载适用的设置；取消时保留已加载的设置(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;All or nothing. If a setting fails or you cancel, everything is put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>全部加载或全部不加载；出错或取消时全部恢复(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>加载(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Undo the load</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销加载(&amp;U)</translation>
     </message>
     <message>
         <source>Co&amp;py report</source>
-        <translation type="unfinished"></translation>
+        <translation>复制报告(&amp;P)</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>加载“%1”</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Nothing is written at all if a line of the file cannot be read, or if a setting cannot fit the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>如果文件中有无法读取的行，或有设置不适用于相机，则不写入任何设置。</translation>
     </message>
     <message>
         <source>Puts back all settings from before the load.</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复加载前的所有设置。</translation>
     </message>
     <message>
         <source>The load was not undone. Without this dialog, it cannot be undone any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>加载尚未撤销。关闭此对话框后将无法再撤销。</translation>
     </message>
     <message>
         <source>Close &amp;anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍然关闭(&amp;A)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
     <name>LoadTable</name>
     <message>
         <source>The line cannot be read. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取该行。%1</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>In camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机中的值</translation>
     </message>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>新值</translation>
     </message>
     <message>
         <source>Read back</source>
-        <translation type="unfinished"></translation>
+        <translation>读回值</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>结果</translation>
     </message>
 </context>
 <context>
     <name>LoadText</name>
     <message>
         <source>Cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载。</translation>
     </message>
     <message>
         <source>Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>失败。</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置无法加载。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置失败。</numerusform>
         </translation>
     </message>
     <message>
         <source>Will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>将更改。</translation>
     </message>
     <message>
         <source>Changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>已更改。</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置将更改。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置已更改。</numerusform>
         </translation>
     </message>
     <message>
         <source>Overruled by another setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>被其他设置覆盖。</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置将被其他设置覆盖。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置已被其他设置覆盖。</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Already so.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置已是该值。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置原已是该值。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Already has this value.</source>
+        <translation>无需更改。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) cannot be read.</source>
+        <translation>
+            <numerusform>有 %n 行无法读取。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The load was cancelled, and the settings from before were put back.</source>
+        <translation>加载已取消，并已恢复之前的设置。</translation>
+    </message>
+    <message>
+        <source>The load has failed, and the settings from before were put back.</source>
+        <translation>加载失败，并已恢复之前的设置。</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. What was loaded before stays.</source>
+        <translation>加载已取消。此前已加载的设置保留。</translation>
+    </message>
+    <message>
+        <source>The load was cancelled. Nothing was changed.</source>
+        <translation>加载已取消，未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed, because not everything can be loaded.</source>
+        <translation>由于部分设置无法加载，未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Not everything could be loaded.</source>
+        <translation>部分设置未能加载。</translation>
+    </message>
+    <message>
+        <source>The settings were loaded and read back.</source>
+        <translation>设置已加载并回读。</translation>
+    </message>
+    <message>
+        <source>All settings from before the load were put back.</source>
+        <translation>已恢复加载前的全部设置。</translation>
+    </message>
+    <message>
+        <source>Not all settings from before the load could be put back.</source>
+        <translation>加载前的部分设置未能恢复。</translation>
+    </message>
+    <message>
+        <source>Put back.</source>
+        <translation>已恢复。</translation>
+    </message>
+    <message>
+        <source>Not put back.</source>
+        <translation>未恢复。</translation>
+    </message>
+    <message>
+        <source>The settings are being compared with the camera.</source>
+        <translation>正在将设置与相机比较。</translation>
+    </message>
+    <message>
+        <source>The settings are being loaded and read back.</source>
+        <translation>正在加载并回读设置。</translation>
+    </message>
+    <message>
+        <source>The settings from before the load are being put back.</source>
+        <translation>正在恢复加载前的设置。</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>不会有任何更改。</translation>
+    </message>
+    <message>
+        <source>There are no settings to load.</source>
+        <translation>没有可加载的设置。</translation>
     </message>
 </context>
 <context>
@@ -1944,19 +2015,19 @@ This value belongs to one camera or one moment.</source>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished">开</translation>
+        <translation>开启</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">关</translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>转到 %1</translation>
     </message>
     <message>
         <source>Set %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>将 %1 设为 %2</translation>
     </message>
 </context>
 <context>
@@ -2165,15 +2236,15 @@ This value belongs to one camera or one moment.</source>
     <name>NoteListDialog</name>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>原因</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">复制</translation>
+        <translation>复制</translation>
     </message>
 </context>
 <context>
@@ -2199,67 +2270,71 @@ This value belongs to one camera or one moment.</source>
     <name>OpeningSnapshot</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机（打开时）</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1：%2</translation>
     </message>
     <message>
         <source>%1 was changed before its value at opening was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未读取 %1 打开时的值，该特性就已被更改。</translation>
     </message>
     <message>
         <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
-        <translation type="unfinished"></translation>
+        <translation>读取完所有设置之前执行了 %1，因此部分设置可能是执行后的值。</translation>
+    </message>
+    <message>
+        <source>There are too many values, so only some were read.</source>
+        <translation>数值过多，只读取了一部分。</translation>
     </message>
 </context>
 <context>
     <name>OpeningSource</name>
     <message>
         <source>This camera at opening</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机（打开时）</translation>
     </message>
     <message>
         <source>No camera is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>未打开相机。</translation>
     </message>
     <message>
         <source>The settings at opening are still being read.</source>
-        <translation type="unfinished"></translation>
+        <translation>仍在读取打开时的设置。</translation>
     </message>
     <message>
-        <source>The settings at opening are in the past. Choose another right side.</source>
-        <translation type="unfinished"></translation>
+        <source>The settings at opening cannot be changed. Choose another right side.</source>
+        <translation>打开时的设置是历史记录，无法写入。请在右侧选择其他来源。</translation>
     </message>
 </context>
 <context>
     <name>OtherCameraSource</name>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>相机 %1</translation>
     </message>
     <message>
         <source>Another program uses this camera, so it was only watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>另一程序正在使用此相机，因此仅以监视方式读取。</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>是否将 %n 项设置写入相机 %1？此操作无法在此处撤销。</numerusform>
         </translation>
     </message>
     <message>
         <source>Opening the camera was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消打开相机。</translation>
     </message>
     <message>
         <source>The camera is not connected any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机已断开连接。</translation>
     </message>
     <message>
         <source>The camera did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机响应超时。</translation>
     </message>
 </context>
 <context>
@@ -2471,371 +2546,371 @@ This value belongs to one camera or one moment.</source>
     <name>RegisterEditor</name>
     <message>
         <source>Write</source>
-        <translation type="unfinished"></translation>
+        <translation>写入</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">放弃</translation>
+        <translation>放弃</translation>
     </message>
     <message>
         <source>Writes all bytes to the camera (Ctrl+Return).</source>
-        <translation type="unfinished"></translation>
+        <translation>将所有字节写入相机（Ctrl+回车键）。</translation>
     </message>
     <message>
         <source>Shows the bytes of the camera again (Escape).</source>
-        <translation type="unfinished"></translation>
+        <translation>重新显示相机中的字节 (Esc)。</translation>
     </message>
     <message numerus="yes">
         <source>%n byte(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 字节</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，不可读</translation>
     </message>
 </context>
 <context>
     <name>RestoreBar</name>
     <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shows which settings differ from those when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示与打开相机时不同的设置。</translation>
     </message>
     <message>
         <source>&amp;Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>忽略(&amp;D)</translation>
     </message>
     <message>
         <source>%1 Settings that were not made with this program may have the values from power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是由本程序所做的设置可能已变回上电时的值。</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">当前仅监视相机，无法更改。</translation>
+        <translation>当前仅监视相机，无法更改。</translation>
     </message>
     <message>
         <source>The settings were not read completely before the camera was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机断开前未能读取完所有设置。</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>先显示将更改的内容，再将所有设置恢复到打开相机时的状态。</translation>
+    </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>比较(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore</source>
+        <translation>恢复(&amp;R)</translation>
     </message>
 </context>
 <context>
     <name>SelectorTable</name>
     <message>
         <source>Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>重新读取</translation>
     </message>
     <message>
         <source>Values of the selected features</source>
-        <translation type="unfinished"></translation>
+        <translation>选择器各选项的特性值</translation>
     </message>
     <message>
         <source>Show the feature</source>
-        <translation type="unfinished"></translation>
+        <translation>转到该特性</translation>
     </message>
     <message>
         <source>The feature has no selector, so it has only one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>该特性没有选择器，因此只有一个值。</translation>
     </message>
     <message>
         <source>%1 is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 为 %2</translation>
     </message>
     <message>
         <source>The values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 各选项的值</translation>
     </message>
     <message>
         <source>%1, while %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>Reading the values for each %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取 %1 各选项的值</translation>
     </message>
     <message>
         <source>Reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>读取已取消。</translation>
     </message>
     <message>
         <source>The selector has more values; only the first ones are shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>选择器还有更多选项，此处仅显示前面的部分。</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
-        <translation type="unfinished">此更改需要短暂停止图像流。</translation>
+        <translation>此更改需要短暂停止图像流。</translation>
     </message>
     <message>
         <source>Stop, set, start</source>
-        <translation type="unfinished">停止、设置、启动</translation>
+        <translation>停止、设置、启动</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在写入 %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 %2 的有效值。</translation>
     </message>
 </context>
 <context>
     <name>SettingTexts</name>
     <message>
         <source>Without category</source>
-        <translation type="unfinished"></translation>
+        <translation>无类别</translation>
     </message>
 </context>
 <context>
     <name>SettingsActions</name>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存设置(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Load settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>加载设置(&amp;L)…</translation>
     </message>
     <message>
         <source>As it &amp;was when I opened it…</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复到打开时的状态(&amp;W)…</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">当前仅监视相机，无法更改。</translation>
+        <translation>当前仅监视相机，无法更改。</translation>
     </message>
     <message>
         <source>The camera is not open.</source>
-        <translation type="unfinished">相机未打开。</translation>
+        <translation>相机未打开。</translation>
     </message>
     <message>
         <source>Saves all settings to a file that other GenICam programs can read, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>将所有设置保存到文件，其他 GenICam 程序也可读取。</translation>
     </message>
     <message>
         <source>Shows what a settings file would change, and then loads it.</source>
-        <translation type="unfinished"></translation>
+        <translation>先显示设置文件将更改的内容，再加载该文件。</translation>
     </message>
     <message>
         <source>The settings from the opening are not completely known.</source>
-        <translation type="unfinished"></translation>
+        <translation>打开时的设置不完整。</translation>
     </message>
     <message>
         <source>Shows what would change, and then sets everything as it was when the camera was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>先显示将更改的内容，再将所有设置恢复到打开相机时的状态。</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>保存设置</translation>
     </message>
     <message>
         <source>Settings files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>设置文件 (%1)</translation>
     </message>
     <message>
         <source>All files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>所有文件 (%1)</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置已保存到“%1”。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 条提示：</numerusform>
         </translation>
     </message>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>加载设置</translation>
     </message>
     <message>
         <source>the settings from the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>打开时的设置</translation>
     </message>
 </context>
 <context>
     <name>SettingsLoad</name>
     <message>
         <source>Comparing %1 with the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>正在将“%1”与相机比较</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在加载“%1”</translation>
     </message>
     <message>
         <source>Putting back the settings from before %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在恢复加载“%1”之前的设置</translation>
     </message>
     <message>
         <source>Load %1</source>
-        <translation type="unfinished"></translation>
+        <translation>加载“%1”</translation>
     </message>
     <message>
         <source>Undo loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销加载“%1”</translation>
     </message>
 </context>
 <context>
     <name>SettingsSave</name>
     <message>
         <source>Saving the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>正在保存设置</translation>
     </message>
     <message>
         <source>Saving was cancelled. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存已取消。未写入文件。</translation>
     </message>
     <message>
-        <source>The camera has no settings that belong into a file. The file was not written.</source>
-        <translation type="unfinished"></translation>
+        <source>The camera has no settings that belong in a file. The file was not written.</source>
+        <translation>相机没有可保存到文件的设置。未写入文件。</translation>
     </message>
 </context>
 <context>
     <name>SettingsSource</name>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>读取已取消。</translation>
     </message>
 </context>
 <context>
     <name>SetupWindow</name>
     <message>
         <source>Camera Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>相机配置</translation>
     </message>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>比较</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>历史记录</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>用户集</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">图像</translation>
+        <translation>图像</translation>
     </message>
     <message>
         <source>All selector values</source>
-        <translation type="unfinished"></translation>
+        <translation>全部选择器值</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">文件(&amp;F)</translation>
+        <translation>文件(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>重做(&amp;R)</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销：%1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>重做：%1</translation>
     </message>
     <message>
         <source>&amp;Find a feature</source>
-        <translation type="unfinished"></translation>
+        <translation>查找特性(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">相机(&amp;C)</translation>
+        <translation>相机(&amp;C)</translation>
     </message>
     <message>
         <source>Live &amp;picture</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Compare with the opening</source>
-        <translation type="unfinished"></translation>
+        <translation>与打开时比较(&amp;C)</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>在图像查看器中打开(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished">面板(&amp;P)</translation>
+        <translation>面板(&amp;P)</translation>
     </message>
     <message>
         <source>F2, Return</source>
-        <translation type="unfinished"></translation>
+        <translation>F2、回车键</translation>
     </message>
     <message>
         <source>Edit the value of the selected feature</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑选中特性的值</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Close or open a category</source>
-        <translation type="unfinished"></translation>
+        <translation>左、右方向键</translation>
     </message>
     <message>
         <source>Tool bar</source>
-        <translation type="unfinished">工具栏</translation>
+        <translation>工具栏</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个特性。正在读取打开时的设置。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个特性</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>打开后已更改 %n 个</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Collapse or expand a category</source>
+        <translation>折叠或展开类别</translation>
     </message>
 </context>
 <context>
@@ -2857,31 +2932,31 @@ This value belongs to one camera or one moment.</source>
     <name>SideBox</name>
     <message>
         <source>Shows what could not be read, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示无法读取的内容及原因。</translation>
     </message>
     <message>
         <source>File…</source>
-        <translation type="unfinished"></translation>
+        <translation>文件…</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 项设置，%1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 条提示</numerusform>
         </translation>
     </message>
     <message>
         <source>Not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未读取。</translation>
     </message>
     <message>
         <source>Notes on what was read:</source>
-        <translation type="unfinished"></translation>
+        <translation>读取时的提示：</translation>
     </message>
 </context>
 <context>
@@ -3119,13 +3194,13 @@ This value belongs to one camera or one moment.</source>
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>最多 %n 个字符</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1/%2</translation>
+        <translation>%1/%2</translation>
     </message>
 </context>
 <context>
@@ -3244,262 +3319,262 @@ For industrial cameras of any vendor. MIT licence.</source>
     <name>UserSetControl</name>
     <message>
         <source>Reading the user sets</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取用户集</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation type="unfinished">当前仅监视相机，无法更改。</translation>
+        <translation>当前仅监视相机，无法更改。</translation>
     </message>
     <message>
         <source>The camera does not offer this.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机不支持该功能。</translation>
     </message>
     <message>
         <source>The camera does not let the set for power-on be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机不支持选择上电时加载的用户集。</translation>
     </message>
     <message>
         <source>The camera does not allow this set at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机不允许在上电时加载此用户集。</translation>
     </message>
     <message>
         <source>The camera is only watched, so its user sets cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前仅监视相机，无法加载其用户集。</translation>
     </message>
     <message>
         <source>Loading &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>正在加载“%1”</translation>
     </message>
     <message>
         <source>Load user set &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>加载用户集“%1”</translation>
     </message>
     <message>
         <source>The load was cancelled. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>加载已取消。未做任何更改。</translation>
     </message>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已加载“%1”，更改了 %n 项设置。</numerusform>
         </translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>正在保存“%1”</translation>
     </message>
     <message>
         <source>The present settings were saved as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前设置已保存为“%1”。</translation>
     </message>
     <message>
         <source>Choosing &quot;%1&quot; for power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>正在将“%1”设为上电时加载</translation>
     </message>
     <message>
         <source>Use user set &quot;%1&quot; at power-on</source>
-        <translation type="unfinished"></translation>
+        <translation>将用户集“%1”设为上电时加载</translation>
     </message>
     <message>
         <source>The camera begins with &quot;%1&quot; at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机上电时将加载“%1”。</translation>
     </message>
 </context>
 <context>
     <name>UserSetPanel</name>
     <message>
         <source>&amp;Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>加载(&amp;L)…</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Use at &amp;power-on</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Co&amp;mpare</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)…</translation>
     </message>
     <message>
         <source>User sets</source>
-        <translation type="unfinished"></translation>
+        <translation>用户集</translation>
     </message>
     <message>
         <source>User set</source>
-        <translation type="unfinished">用户集</translation>
+        <translation>用户集</translation>
     </message>
     <message>
         <source>At power-on</source>
-        <translation type="unfinished">上电时加载</translation>
+        <translation>上电时加载</translation>
     </message>
     <message>
         <source>This camera keeps no user sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机没有用户集。</translation>
     </message>
     <message>
         <source>The user sets are not known yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未读取用户集。</translation>
     </message>
     <message>
         <source>✓ yes</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 是</translation>
     </message>
     <message>
         <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>用“%1”的设置替换相机的当前设置。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载“%1”。</translation>
     </message>
     <message>
         <source>Stores the present settings as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>将当前设置保存为“%1”。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法保存“%1”。</translation>
     </message>
     <message>
         <source>Lets the camera begin with &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>使相机上电时加载“%1”。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used at power-on.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法在上电时加载“%1”。</translation>
     </message>
     <message>
         <source>Shows how the settings of the camera differ from this set.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示相机设置与此用户集的差异。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法比较“%1”。</translation>
     </message>
     <message>
         <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>是否加载“%1”？相机的当前设置将被覆盖。</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个特性与打开相机时不同。</numerusform>
         </translation>
     </message>
     <message>
         <source>Loading can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>加载操作可以撤销。</translation>
     </message>
     <message>
         <source>Load user set</source>
-        <translation type="unfinished"></translation>
+        <translation>加载用户集</translation>
     </message>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>加载(&amp;L)</translation>
     </message>
     <message>
         <source>Save user set</source>
-        <translation type="unfinished"></translation>
+        <translation>保存用户集</translation>
     </message>
     <message>
         <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>是否将当前设置保存为“%1”？此用户集的现有内容将被覆盖，且无法撤销。</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Use at power-on</source>
+        <translation>设为上电时加载(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Comp&amp;are</source>
+        <translation>比较(&amp;M)</translation>
     </message>
 </context>
 <context>
     <name>UserSetSource</name>
     <message>
         <source>User set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用户集 %1</translation>
     </message>
     <message>
         <source>The camera has to load the user set %1 to show it. The stream is stopped for this, and your present settings are put back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机需要加载用户集 %1 才能显示其内容。为此将停止图像流，之后恢复当前设置。</translation>
     </message>
     <message>
         <source>Not put back after the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>加载用户集 %1 后未恢复的设置</translation>
     </message>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>另有 %n 项设置未恢复，详见历史记录。</numerusform>
         </translation>
     </message>
     <message>
         <source>The camera may still have the settings of the user set. Restore those from the opening.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机可能仍在使用该用户集的设置。请恢复打开时的设置。</translation>
     </message>
     <message>
         <source>Reading the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取用户集 %1</translation>
     </message>
     <message>
         <source>This camera is not open for control.</source>
-        <translation type="unfinished"></translation>
+        <translation>未以控制方式打开此相机。</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>是否将 %n 项设置写入用户集 %1？相机将加载、更改并保存该用户集，然后恢复当前设置。为此将停止图像流。</numerusform>
         </translation>
     </message>
     <message>
         <source>Copying to the user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在复制到用户集 %1</translation>
     </message>
     <message>
         <source>The copy was cancelled, so the user set was not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>复制已取消，用户集未更改。</translation>
     </message>
 </context>
 <context>
     <name>ValueText</name>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 …（%n 字节）</numerusform>
         </translation>
     </message>
     <message>
         <source>not in this camera</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机不支持</translation>
     </message>
     <message>
         <source>not available</source>
-        <translation type="unfinished"></translation>
+        <translation>不可用</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取</translation>
     </message>
     <message>
         <source>can only be written</source>
-        <translation type="unfinished"></translation>
+        <translation>只写</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>开启</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>执行</translation>
     </message>
     <message>
         <source>Running …</source>
-        <translation type="unfinished"></translation>
+        <translation>正在执行…</translation>
     </message>
 </context>
 <context>

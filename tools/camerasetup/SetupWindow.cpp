@@ -201,7 +201,7 @@ void SetupWindow::createMenus()
         show->setShortcut(Qt::ALT + key++);
     }
     addHelpMenu({{tr("F2, Return"), tr("Edit the value of the selected feature")},
-        {tr("Left, Right"), tr("Close or open a category")}});
+        {tr("Left, Right"), tr("Collapse or expand a category")}});
 
     QToolBar *const bar = addToolBar(tr("Tool bar"));
     bar->setObjectName(QStringLiteral("toolBar"));

@@ -134,7 +134,7 @@ void TestDetailsPane::nameIsCopied()
 {
     Pane pane;
     pane.pane.setFeature(text("Gain"));
-    pane.button("Copy the name for programs")->click();
+    pane.button("Copy the name used in programs")->click();
     QCOMPARE(QGuiApplication::clipboard()->text(), text("Gain"));
 }
 

@@ -119,7 +119,7 @@ void TestLoadDialog::planShowsWhatWouldChangeAndBadLines()
             QStringLiteral("4|ExposureTime|10000|500||Will change."),
             QStringLiteral("5|ExposureAuto|Off|Continuous||Will change."),
             QStringLiteral("7|Gain [GainSelector=Tap2]|1|4||Will change."),
-            QStringLiteral("11|FrameRate|25|25||Already so.")}));
+            QStringLiteral("11|FrameRate|25|25||Already has this value.")}));
     QVERIFY2(
         bench.summary().contains(QStringLiteral("4 setting(s) will change.")), qPrintable(bench.summary()));
     QCOMPARE(bench.changed(), QStringList());

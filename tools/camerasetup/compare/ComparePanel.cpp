@@ -89,11 +89,11 @@ QWidget *ComparePanel::createSides()
 QWidget *ComparePanel::createButtons()
 {
     auto *const buttons = new QWidget(this);
-    m_copyButton = new QPushButton(tr("Copy to the &right"), buttons);
+    m_copyButton = new QPushButton(tr("Copy to the ri&ght"), buttons);
     auto *const menu = new QMenu(m_copyButton);
     m_copy->addToMenu(menu);
     m_copyButton->setMenu(menu);
-    m_refresh = new QPushButton(tr("Re&fresh"), buttons);
+    m_refresh = new QPushButton(tr("&Refresh"), buttons);
     m_refresh->setToolTip(tr("Reads both sides again."));
     m_cancel = new QPushButton(tr("Cancel"), buttons);
     m_progress = new QProgressBar(buttons);

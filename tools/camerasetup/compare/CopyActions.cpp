@@ -88,8 +88,8 @@ void CopyActions::ask(const Rows &rows)
 void CopyActions::takeResult(const SourceWriting &writing)
 {
     if (!writing.problem.isEmpty()) {
-        const QString text = writing.report.isApplied ? tr("The copy has failed after a part of it: %1")
-                                                      : tr("Nothing was copied: %1");
+        const QString text
+            = writing.report.isApplied ? tr("The copy failed partway: %1") : tr("Nothing was copied: %1");
         emit finished(text.arg(writing.problem), QStringLiteral("error"));
         return;
     }

@@ -22,7 +22,7 @@ void OpeningSource::read(const std::vector<FeatureSetting> &, const ReadDone &do
 
 QString OpeningSource::readOnlyReason() const
 {
-    return tr("The settings at opening are in the past. Choose another right side.");
+    return tr("The settings at opening cannot be changed. Choose another right side.");
 }
 
 void OpeningSource::write(const std::vector<FeatureSetting> &, const WriteDone &done)

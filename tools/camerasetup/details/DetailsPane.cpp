@@ -78,7 +78,7 @@ DetailsPane::DetailsPane(const Parts &parts, QWidget *parent)
       m_copy(new QToolButton),
       m_table(new QPushButton(tr("All values side by side")))
 {
-    m_hint->setText(tr("Select a feature to see what the camera says of it."));
+    m_hint->setText(tr("Select a feature to see what the camera says about it."));
     m_factLayout->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_factLayout->setContentsMargins(0, 0, 0, 0);
     auto *const layout = new QVBoxLayout(m_content);
@@ -122,8 +122,8 @@ QWidget *DetailsPane::createTop()
     m_star->setToolTip(tr("Favourite"));
     m_star->setAccessibleName(tr("Favourite"));
     m_copy->setIcon(ToolIcons::icon(ToolIcons::Kind::Copy));
-    m_copy->setToolTip(tr("Copy the name for programs"));
-    m_copy->setAccessibleName(tr("Copy the name for programs"));
+    m_copy->setToolTip(tr("Copy the name used in programs"));
+    m_copy->setAccessibleName(tr("Copy the name used in programs"));
     for (QToolButton *const button : {m_star, m_copy})
         button->setFocusPolicy(Qt::StrongFocus);
 

@@ -22,7 +22,7 @@ QString text(const char *source)
 constexpr std::array typeTexts{
     QT_TRANSLATE_NOOP("FeatureFacts", "Category"),
     QT_TRANSLATE_NOOP("FeatureFacts", "Integer"),
-    QT_TRANSLATE_NOOP("FeatureFacts", "Number with decimals"),
+    QT_TRANSLATE_NOOP("FeatureFacts", "Floating-point number"),
     QT_TRANSLATE_NOOP("FeatureFacts", "Switch"),
     QT_TRANSLATE_NOOP("FeatureFacts", "Enumeration"),
     QT_TRANSLATE_NOOP("FeatureFacts", "Text"),
@@ -88,7 +88,7 @@ void addLimits(Facts &facts, const NodeInfo &info, const NodeState &state)
         facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Length"),
             QCoreApplication::translate("FeatureFacts", "%n byte(s)", nullptr, length));
     else
-        facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Longest text"),
+        facts.add(QT_TRANSLATE_NOOP("FeatureFacts", "Maximum length"),
             QCoreApplication::translate("FeatureFacts", "%n character(s)", nullptr, length));
 }
 

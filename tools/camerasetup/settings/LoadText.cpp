@@ -11,7 +11,7 @@ namespace {
 
 using State = SettingsLoad::State;
 
-QString translate(const char *text, int count = -1)
+QString translated(const char *text, int count = -1)
 {
     return QCoreApplication::translate("LoadText", text, nullptr, count);
 }
@@ -39,8 +39,8 @@ constexpr OutcomeTexts outcomes[] = {
         QT_TRANSLATE_NOOP("LoadText", "Overruled by another setting."),
         QT_TRANSLATE_N_NOOP("LoadText", "%n setting(s) will be overruled by others."),
         QT_TRANSLATE_N_NOOP("LoadText", "%n setting(s) were overruled by others.")},
-    {FeatureOutcome::Unchanged, QT_TRANSLATE_NOOP("LoadText", "Already so."),
-        QT_TRANSLATE_NOOP("LoadText", "Already so."),
+    {FeatureOutcome::Unchanged, QT_TRANSLATE_NOOP("LoadText", "Already has this value."),
+        QT_TRANSLATE_NOOP("LoadText", "Already has this value."),
         QT_TRANSLATE_N_NOOP("LoadText", "%n setting(s) already have the value."),
         QT_TRANSLATE_N_NOOP("LoadText", "%n setting(s) already had the value.")},
 };
@@ -61,11 +61,11 @@ QString countText(const SettingsLoad &load)
     for (const OutcomeTexts &texts : outcomes) {
         const int count = int(report.count(texts.outcome));
         if (count > 0)
-            sentences.append(translate(report.isApplied ? texts.doneCount : texts.plannedCount, count));
+            sentences.append(translated(report.isApplied ? texts.doneCount : texts.plannedCount, count));
     }
     const int skipped = int(load.file().problems.size());
     if (skipped > 0)
-        sentences.append(translate(QT_TRANSLATE_N_NOOP("LoadText", "%n line(s) cannot be read."), skipped));
+        sentences.append(translated(QT_TRANSLATE_N_NOOP("LoadText", "%n line(s) cannot be read."), skipped));
     return sentences.join(QLatin1Char(' '));
 }
 
@@ -73,29 +73,29 @@ QString countText(const SettingsLoad &load)
 QString resultText(const LoadReport &report)
 {
     if (report.isRestored && report.isCancelled)
-        return translate(QT_TRANSLATE_NOOP(
+        return translated(QT_TRANSLATE_NOOP(
             "LoadText", "The load was cancelled, and the settings from before were put back."));
     if (report.isRestored)
-        return translate(QT_TRANSLATE_NOOP(
+        return translated(QT_TRANSLATE_NOOP(
             "LoadText", "The load has failed, and the settings from before were put back."));
     if (report.isApplied && report.isCancelled)
-        return translate(
+        return translated(
             QT_TRANSLATE_NOOP("LoadText", "The load was cancelled. What was loaded before stays."));
     if (report.isCancelled)
-        return translate(QT_TRANSLATE_NOOP("LoadText", "The load was cancelled. Nothing was changed."));
+        return translated(QT_TRANSLATE_NOOP("LoadText", "The load was cancelled. Nothing was changed."));
     if (!report.isApplied)
-        return translate(
+        return translated(
             QT_TRANSLATE_NOOP("LoadText", "Nothing was changed, because not everything can be loaded."));
     if (report.count(FeatureOutcome::Failed) > 0)
-        return translate(QT_TRANSLATE_NOOP("LoadText", "Not everything could be loaded."));
-    return translate(QT_TRANSLATE_NOOP("LoadText", "The settings were loaded and read back."));
+        return translated(QT_TRANSLATE_NOOP("LoadText", "Not everything could be loaded."));
+    return translated(QT_TRANSLATE_NOOP("LoadText", "The settings were loaded and read back."));
 }
 
 QString undoneText(const LoadReport &report)
 {
     return report.notes.empty()
-        ? translate(QT_TRANSLATE_NOOP("LoadText", "All settings from before the load were put back."))
-        : translate(
+        ? translated(QT_TRANSLATE_NOOP("LoadText", "All settings from before the load were put back."))
+        : translated(
             QT_TRANSLATE_NOOP("LoadText", "Not all settings from before the load could be put back."));
 }
 
@@ -111,10 +111,10 @@ bool isPutBack(const FeatureChange &change, const LoadReport &report)
 QString outcomeText(const FeatureChange &change, const LoadReport &report)
 {
     if (report.isRestored && change.outcome == FeatureOutcome::Changed)
-        return isPutBack(change, report) ? translate(QT_TRANSLATE_NOOP("LoadText", "Put back."))
-                                         : translate(QT_TRANSLATE_NOOP("LoadText", "Not put back."));
+        return isPutBack(change, report) ? translated(QT_TRANSLATE_NOOP("LoadText", "Put back."))
+                                         : translated(QT_TRANSLATE_NOOP("LoadText", "Not put back."));
     const OutcomeTexts &texts = textsOf(change.outcome);
-    const QString text = translate(report.isApplied ? texts.done : texts.planned);
+    const QString text = translated(report.isApplied ? texts.done : texts.planned);
     return change.reason.empty() ? text : text + QLatin1Char(' ') + QString::fromStdString(change.reason);
 }
 
@@ -124,17 +124,17 @@ QString summaryText(const SettingsLoad &load)
     const QString counts = countText(load);
     switch (load.state()) {
     case State::Planning:
-        return translate(QT_TRANSLATE_NOOP("LoadText", "The settings are being compared with the camera."));
+        return translated(QT_TRANSLATE_NOOP("LoadText", "The settings are being compared with the camera."));
     case State::Loading:
-        return translate(QT_TRANSLATE_NOOP("LoadText", "The settings are being loaded and read back."));
+        return translated(QT_TRANSLATE_NOOP("LoadText", "The settings are being loaded and read back."));
     case State::Undoing:
-        return translate(
+        return translated(
             QT_TRANSLATE_NOOP("LoadText", "The settings from before the load are being put back."));
     case State::Planned:
         if (!report.changes.empty() && report.count(FeatureOutcome::Unchanged) == report.changes.size())
-            return translate(QT_TRANSLATE_NOOP("LoadText", "Nothing would change.")) + QLatin1Char(' ')
+            return translated(QT_TRANSLATE_NOOP("LoadText", "Nothing would change.")) + QLatin1Char(' ')
                 + counts;
-        return counts.isEmpty() ? translate(QT_TRANSLATE_NOOP("LoadText", "There are no settings to load."))
+        return counts.isEmpty() ? translated(QT_TRANSLATE_NOOP("LoadText", "There are no settings to load."))
                                 : counts;
     case State::Loaded:
         return resultText(report) + QLatin1Char(' ') + counts;

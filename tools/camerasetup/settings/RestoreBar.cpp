@@ -14,8 +14,8 @@ RestoreBar::RestoreBar(CameraConnection &connection, OpeningSnapshot &opening, Q
       m_connection(connection),
       m_opening(opening),
       m_text(new QLabel(this)),
-      m_compare(new QPushButton(tr("Co&mpare"), this)),
-      m_restore(new QPushButton(tr("&Restore"), this))
+      m_compare(new QPushButton(tr("C&ompare"), this)),
+      m_restore(new QPushButton(tr("Res&tore"), this))
 {
     setObjectName(QStringLiteral("restoreBar"));
     setProperty("role", QStringLiteral("card"));

@@ -50,7 +50,7 @@ void SettingsSave::finish(const QString &path, const Result &saved, const CvxRes
     else if (saved.features.isCancelled)
         emit failed(tr("Saving was cancelled. The file was not written."));
     else if (saved.features.settings.empty())
-        emit failed(tr("The camera has no settings that belong into a file. The file was not written."));
+        emit failed(tr("The camera has no settings that belong in a file. The file was not written."));
     else if (!saved.problem.empty())
         emit failed(QString::fromStdString(saved.problem));
     else {

@@ -19,8 +19,8 @@ UserSetPanel::UserSetPanel(const Parts &parts, QWidget *parent)
       m_list(new QTreeWidget(m_content)),
       m_load(new QPushButton(tr("&Load…"), m_content)),
       m_save(new QPushButton(tr("&Save…"), m_content)),
-      m_default(new QPushButton(tr("Use at &power-on"), m_content)),
-      m_compare(new QPushButton(tr("Co&mpare"), m_content)),
+      m_default(new QPushButton(tr("&Use at power-on"), m_content)),
+      m_compare(new QPushButton(tr("Comp&are"), m_content)),
       m_reason(createMessage(m_content)),
       m_message(createMessage(this))
 {
