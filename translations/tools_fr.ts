@@ -315,7 +315,7 @@
     <name>ChangeHistory</name>
     <message>
         <source>Undo: %1</source>
-        <translation>Annuler : %1</translation>
+        <translation>Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>The value of %1 before the change is unknown.</source>
@@ -323,7 +323,7 @@
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation>Rétablir : %1</translation>
+        <translation>Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 cannot be changed while the camera is streaming.</source>
@@ -419,11 +419,11 @@
     <name>CompareSession</name>
     <message>
         <source>Reading: %1</source>
-        <translation>Lecture : %1</translation>
+        <translation>Lecture&#xa0;: %1</translation>
     </message>
     <message>
         <source>Copying to: %1</source>
-        <translation>Copie vers : %1</translation>
+        <translation>Copie vers&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -450,29 +450,29 @@
     <message numerus="yes">
         <source>No difference in %n setting(s).</source>
         <translation>
-            <numerusform>Aucune différence sur %n réglage.</numerusform>
-            <numerusform>Aucune différence sur %n réglages.</numerusform>
+            <numerusform>Aucune différence sur %n&#xa0;réglage.</numerusform>
+            <numerusform>Aucune différence sur %n&#xa0;réglages.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 setting(s) differ.</source>
         <translation>
-            <numerusform>%n réglage sur %1 diffère.</numerusform>
-            <numerusform>%n réglages sur %1 diffèrent.</numerusform>
+            <numerusform>%n&#xa0;réglage sur %1 diffère.</numerusform>
+            <numerusform>%n&#xa0;réglages sur %1 diffèrent.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) belong to one camera or one moment.</source>
         <translation>
-            <numerusform>%n autre différence est propre à une caméra ou à un instant.</numerusform>
-            <numerusform>%n autres différences sont propres à une caméra ou à un instant.</numerusform>
+            <numerusform>%n&#xa0;autre différence est propre à une caméra ou à un instant.</numerusform>
+            <numerusform>%n&#xa0;autres différences sont propres à une caméra ou à un instant.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n more difference(s) that belong to one camera or one moment are hidden.</source>
         <translation>
-            <numerusform>%n autre différence, propre à une caméra ou à un instant, est masquée.</numerusform>
-            <numerusform>%n autres différences, propres à une caméra ou à un instant, sont masquées.</numerusform>
+            <numerusform>%n&#xa0;autre différence, propre à une caméra ou à un instant, est masquée.</numerusform>
+            <numerusform>%n&#xa0;autres différences, propres à une caméra ou à un instant, sont masquées.</numerusform>
         </translation>
     </message>
 </context>
@@ -508,11 +508,11 @@
     </message>
     <message>
         <source>Left: %1, %2</source>
-        <translation>Gauche : %1, %2</translation>
+        <translation>Gauche&#xa0;: %1, %2</translation>
     </message>
     <message>
         <source>Right: %1, %2</source>
-        <translation>Droite : %1, %2</translation>
+        <translation>Droite&#xa0;: %1, %2</translation>
     </message>
 </context>
 <context>
@@ -581,13 +581,13 @@
     </message>
     <message>
         <source>Nothing was copied: %1</source>
-        <translation>Rien n’a été copié : %1</translation>
+        <translation>Rien n’a été copié&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were copied.</source>
         <translation>
-            <numerusform>%n réglage copié.</numerusform>
-            <numerusform>%n réglages copiés.</numerusform>
+            <numerusform>%n&#xa0;réglage copié.</numerusform>
+            <numerusform>%n&#xa0;réglages copiés.</numerusform>
         </translation>
     </message>
     <message>
@@ -597,17 +597,17 @@
     <message numerus="yes">
         <source>%n problem(s) were reported.</source>
         <translation>
-            <numerusform>%n problème signalé.</numerusform>
-            <numerusform>%n problèmes signalés.</numerusform>
+            <numerusform>%n&#xa0;problème signalé.</numerusform>
+            <numerusform>%n&#xa0;problèmes signalés.</numerusform>
         </translation>
     </message>
     <message>
         <source>What could not be copied or put back:</source>
-        <translation>Réglages qui n’ont pas pu être copiés ou restaurés :</translation>
+        <translation>Réglages qui n’ont pas pu être copiés ou restaurés&#xa0;:</translation>
     </message>
     <message>
         <source>The copy failed partway: %1</source>
-        <translation>La copie a échoué après une écriture partielle : %1</translation>
+        <translation>La copie a échoué après une écriture partielle&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>At opening: %1</source>
-        <translation>À l’ouverture : %1</translation>
+        <translation>À l’ouverture&#xa0;: %1</translation>
     </message>
     <message>
         <source>As it was when the camera was opened</source>
@@ -680,7 +680,7 @@
     </message>
     <message>
         <source>%1; left: %2; right: %3</source>
-        <translation>%1 ; gauche : %2 ; droite : %3</translation>
+        <translation>%1&#xa0;; gauche&#xa0;: %2&#xa0;; droite&#xa0;: %3</translation>
     </message>
     <message>
         <source>(missing)</source>
@@ -725,7 +725,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Shows values that differ between cameras with the same settings too: serial numbers, temperatures, counters.</source>
-        <translation>Affiche aussi les valeurs qui diffèrent entre des caméras réglées à l’identique : numéros de série, températures, compteurs.</translation>
+        <translation>Affiche aussi les valeurs qui diffèrent entre des caméras réglées à l’identique&#xa0;: numéros de série, températures, compteurs.</translation>
     </message>
     <message>
         <source>There is no difference to show.</source>
@@ -883,7 +883,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>The comparison could not be saved as %1: %2</source>
-        <translation>Impossible d’enregistrer la comparaison sous %1 : %2</translation>
+        <translation>Impossible d’enregistrer la comparaison sous %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The comparison was copied.</source>
@@ -914,7 +914,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Copy &quot;Name=Value&quot;</source>
-        <translation>Copier « Nom=Valeur »</translation>
+        <translation>Copier «&#xa0;Nom=Valeur&#xa0;»</translation>
     </message>
     <message>
         <source>Expand All</source>
@@ -1033,20 +1033,20 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n byte(s)</source>
         <translation>
-            <numerusform>%n octet</numerusform>
-            <numerusform>%n octets</numerusform>
+            <numerusform>%n&#xa0;octet</numerusform>
+            <numerusform>%n&#xa0;octets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n character(s)</source>
         <translation>
-            <numerusform>%n caractère</numerusform>
-            <numerusform>%n caractères</numerusform>
+            <numerusform>%n&#xa0;caractère</numerusform>
+            <numerusform>%n&#xa0;caractères</numerusform>
         </translation>
     </message>
     <message>
         <source>Every %1 ms</source>
-        <translation>Toutes les %1 ms</translation>
+        <translation>Toutes les %1&#xa0;ms</translation>
     </message>
     <message>
         <source>Type</source>
@@ -1223,8 +1223,8 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>Write %n setting(s) into the file %1? The other settings stay, but comments and lines that cannot be read are lost.</source>
         <translation>
-            <numerusform>Écrire %n réglage dans le fichier %1 ? Les autres réglages sont conservés, mais les commentaires et les lignes illisibles sont perdus.</numerusform>
-            <numerusform>Écrire %n réglages dans le fichier %1 ? Les autres réglages sont conservés, mais les commentaires et les lignes illisibles sont perdus.</numerusform>
+            <numerusform>Écrire %n&#xa0;réglage dans le fichier %1&#xa0;? Les autres réglages sont conservés, mais les commentaires et les lignes illisibles sont perdus.</numerusform>
+            <numerusform>Écrire %n&#xa0;réglages dans le fichier %1&#xa0;? Les autres réglages sont conservés, mais les commentaires et les lignes illisibles sont perdus.</numerusform>
         </translation>
     </message>
     <message>
@@ -1407,7 +1407,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Which features are shown: the most important ones, most, or all.</source>
-        <translation>Paramètres affichés : les plus importants, la plupart ou tous.</translation>
+        <translation>Paramètres affichés&#xa0;: les plus importants, la plupart ou tous.</translation>
     </message>
     <message>
         <source>Changed</source>
@@ -1431,8 +1431,8 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n feature(s) are hidden by the level %1.</source>
         <translation>
-            <numerusform>%n paramètre est masqué par le niveau « %1 ».</numerusform>
-            <numerusform>%n paramètres sont masqués par le niveau « %1 ».</numerusform>
+            <numerusform>%n&#xa0;paramètre est masqué par le niveau «&#xa0;%1&#xa0;».</numerusform>
+            <numerusform>%n&#xa0;paramètres sont masqués par le niveau «&#xa0;%1&#xa0;».</numerusform>
         </translation>
     </message>
     <message>
@@ -1524,8 +1524,8 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
         <translation>
-            <numerusform>Le presse-papiers dépassait de %n octet, qui n’a pas été collé.</numerusform>
-            <numerusform>Le presse-papiers dépassait de %n octets, qui n’ont pas été collés.</numerusform>
+            <numerusform>Le presse-papiers dépassait de %n&#xa0;octet, qui n’a pas été collé.</numerusform>
+            <numerusform>Le presse-papiers dépassait de %n&#xa0;octets, qui n’ont pas été collés.</numerusform>
         </translation>
     </message>
 </context>
@@ -1586,15 +1586,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>HistoryModel</name>
     <message>
         <source>Executed: %1</source>
-        <translation>Exécution : %1</translation>
+        <translation>Exécution&#xa0;: %1</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation>Annulation : %1</translation>
+        <translation>Annulation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation>Rétablissement : %1</translation>
+        <translation>Rétablissement&#xa0;: %1</translation>
     </message>
     <message>
         <source>This change was undone.</source>
@@ -1653,7 +1653,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>The script &quot;%1&quot; cannot be written: %2</source>
-        <translation>Impossible d’écrire le script « %1 » : %2</translation>
+        <translation>Impossible d’écrire le script «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1852,15 +1852,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n setting(s) cannot be loaded.</source>
         <translation>
-            <numerusform>%n réglage ne peut pas être chargé.</numerusform>
-            <numerusform>%n réglages ne peuvent pas être chargés.</numerusform>
+            <numerusform>%n&#xa0;réglage ne peut pas être chargé.</numerusform>
+            <numerusform>%n&#xa0;réglages ne peuvent pas être chargés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) failed.</source>
         <translation>
-            <numerusform>%n réglage a échoué.</numerusform>
-            <numerusform>%n réglages ont échoué.</numerusform>
+            <numerusform>%n&#xa0;réglage a échoué.</numerusform>
+            <numerusform>%n&#xa0;réglages ont échoué.</numerusform>
         </translation>
     </message>
     <message>
@@ -1874,15 +1874,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n setting(s) will change.</source>
         <translation>
-            <numerusform>%n réglage sera modifié.</numerusform>
-            <numerusform>%n réglages seront modifiés.</numerusform>
+            <numerusform>%n&#xa0;réglage sera modifié.</numerusform>
+            <numerusform>%n&#xa0;réglages seront modifiés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) changed.</source>
         <translation>
-            <numerusform>%n réglage a été modifié.</numerusform>
-            <numerusform>%n réglages ont été modifiés.</numerusform>
+            <numerusform>%n&#xa0;réglage a été modifié.</numerusform>
+            <numerusform>%n&#xa0;réglages ont été modifiés.</numerusform>
         </translation>
     </message>
     <message>
@@ -1892,29 +1892,29 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n setting(s) will be overruled by others.</source>
         <translation>
-            <numerusform>%n réglage sera écrasé par d’autres.</numerusform>
-            <numerusform>%n réglages seront écrasés par d’autres.</numerusform>
+            <numerusform>%n&#xa0;réglage sera écrasé par d’autres.</numerusform>
+            <numerusform>%n&#xa0;réglages seront écrasés par d’autres.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) were overruled by others.</source>
         <translation>
-            <numerusform>%n réglage a été écrasé par d’autres.</numerusform>
-            <numerusform>%n réglages ont été écrasés par d’autres.</numerusform>
+            <numerusform>%n&#xa0;réglage a été écrasé par d’autres.</numerusform>
+            <numerusform>%n&#xa0;réglages ont été écrasés par d’autres.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already have the value.</source>
         <translation>
-            <numerusform>%n réglage a déjà cette valeur.</numerusform>
-            <numerusform>%n réglages ont déjà cette valeur.</numerusform>
+            <numerusform>%n&#xa0;réglage a déjà cette valeur.</numerusform>
+            <numerusform>%n&#xa0;réglages ont déjà cette valeur.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n setting(s) already had the value.</source>
         <translation>
-            <numerusform>%n réglage avait déjà cette valeur.</numerusform>
-            <numerusform>%n réglages avaient déjà cette valeur.</numerusform>
+            <numerusform>%n&#xa0;réglage avait déjà cette valeur.</numerusform>
+            <numerusform>%n&#xa0;réglages avaient déjà cette valeur.</numerusform>
         </translation>
     </message>
     <message>
@@ -1924,8 +1924,8 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n line(s) cannot be read.</source>
         <translation>
-            <numerusform>%n ligne est illisible.</numerusform>
-            <numerusform>%n lignes sont illisibles.</numerusform>
+            <numerusform>%n&#xa0;ligne est illisible.</numerusform>
+            <numerusform>%n&#xa0;lignes sont illisibles.</numerusform>
         </translation>
     </message>
     <message>
@@ -2299,7 +2299,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>Impossible de lire %1 : %2</translation>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 was changed before its value at opening was read.</source>
@@ -2307,11 +2307,11 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>%1 was executed before all settings were read, so some of them may be those after it.</source>
-        <translation>%1 a été exécuté avant la lecture complète des réglages : certains peuvent dater d’après cette exécution.</translation>
+        <translation>%1 a été exécuté avant la lecture complète des réglages&#xa0;: certains peuvent dater d’après cette exécution.</translation>
     </message>
     <message>
         <source>There are too many values, so only some were read.</source>
-        <translation>Les valeurs sont trop nombreuses : seule une partie a été lue.</translation>
+        <translation>Les valeurs sont trop nombreuses&#xa0;: seule une partie a été lue.</translation>
     </message>
 </context>
 <context>
@@ -2341,13 +2341,13 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Another program uses this camera, so it was only watched.</source>
-        <translation>Un autre programme utilise cette caméra : elle a seulement été observée.</translation>
+        <translation>Un autre programme utilise cette caméra&#xa0;: elle a seulement été observée.</translation>
     </message>
     <message numerus="yes">
         <source>Write %n setting(s) to the camera %1? This cannot be undone here.</source>
         <translation>
-            <numerusform>Écrire %n réglage dans la caméra %1 ? Cette opération ne peut pas être annulée ici.</numerusform>
-            <numerusform>Écrire %n réglages dans la caméra %1 ? Cette opération ne peut pas être annulée ici.</numerusform>
+            <numerusform>Écrire %n&#xa0;réglage dans la caméra %1&#xa0;? Cette opération ne peut pas être annulée ici.</numerusform>
+            <numerusform>Écrire %n&#xa0;réglages dans la caméra %1&#xa0;? Cette opération ne peut pas être annulée ici.</numerusform>
         </translation>
     </message>
     <message>
@@ -2597,8 +2597,8 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n byte(s)</source>
         <translation>
-            <numerusform>%n octet</numerusform>
-            <numerusform>%n octets</numerusform>
+            <numerusform>%n&#xa0;octet</numerusform>
+            <numerusform>%n&#xa0;octets</numerusform>
         </translation>
     </message>
     <message>
@@ -2622,7 +2622,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
     </message>
     <message>
         <source>The settings were not read completely before the camera was lost.</source>
@@ -2681,7 +2681,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>The selector has more values; only the first ones are shown here.</source>
-        <translation>Le sélecteur a d’autres valeurs ; seules les premières sont affichées ici.</translation>
+        <translation>Le sélecteur a d’autres valeurs&#xa0;; seules les premières sont affichées ici.</translation>
     </message>
     <message>
         <source>For this change, the stream has to be stopped for a moment.</source>
@@ -2697,7 +2697,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
-        <translation>« %1 » n’est pas une valeur de %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une valeur de %2.</translation>
     </message>
 </context>
 <context>
@@ -2723,7 +2723,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
     </message>
     <message>
         <source>The camera is not open.</source>
@@ -2760,15 +2760,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n setting(s) were saved to &quot;%1&quot;.</source>
         <translation>
-            <numerusform>%n réglage enregistré dans « %1 ».</numerusform>
-            <numerusform>%n réglages enregistrés dans « %1 ».</numerusform>
+            <numerusform>%n&#xa0;réglage enregistré dans «&#xa0;%1&#xa0;».</numerusform>
+            <numerusform>%n&#xa0;réglages enregistrés dans «&#xa0;%1&#xa0;».</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n remark(s):</source>
         <translation>
-            <numerusform>%n remarque :</numerusform>
-            <numerusform>%n remarques :</numerusform>
+            <numerusform>%n&#xa0;remarque&#xa0;:</numerusform>
+            <numerusform>%n&#xa0;remarques&#xa0;:</numerusform>
         </translation>
     </message>
     <message>
@@ -2784,15 +2784,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>SettingsLoad</name>
     <message>
         <source>Comparing %1 with the camera</source>
-        <translation>Comparaison avec la caméra : %1</translation>
+        <translation>Comparaison avec la caméra&#xa0;: %1</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation>Chargement : %1</translation>
+        <translation>Chargement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Putting back the settings from before %1</source>
-        <translation>Restauration des réglages antérieurs au chargement : %1</translation>
+        <translation>Restauration des réglages antérieurs au chargement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Load %1</source>
@@ -2800,7 +2800,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Undo loading %1</source>
-        <translation>Défaire le chargement : %1</translation>
+        <translation>Défaire le chargement&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2877,11 +2877,11 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Undo: %1</source>
-        <translation>Annuler : %1</translation>
+        <translation>Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>Redo: %1</source>
-        <translation>Rétablir : %1</translation>
+        <translation>Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Find a feature</source>
@@ -2925,27 +2925,27 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s). The settings at opening are being read.</source>
         <translation>
-            <numerusform>%n paramètre. Lecture des réglages à l’ouverture en cours.</numerusform>
-            <numerusform>%n paramètres. Lecture des réglages à l’ouverture en cours.</numerusform>
+            <numerusform>%n&#xa0;paramètre. Lecture des réglages à l’ouverture en cours.</numerusform>
+            <numerusform>%n&#xa0;paramètres. Lecture des réglages à l’ouverture en cours.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s)</source>
         <translation>
-            <numerusform>%n paramètre</numerusform>
-            <numerusform>%n paramètres</numerusform>
+            <numerusform>%n&#xa0;paramètre</numerusform>
+            <numerusform>%n&#xa0;paramètres</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n changed since opening</source>
         <translation>
-            <numerusform>%n modifié depuis l’ouverture</numerusform>
-            <numerusform>%n modifiés depuis l’ouverture</numerusform>
+            <numerusform>%n&#xa0;modifié depuis l’ouverture</numerusform>
+            <numerusform>%n&#xa0;modifiés depuis l’ouverture</numerusform>
         </translation>
     </message>
     <message>
@@ -2981,15 +2981,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>%n setting(s), %1</source>
         <translation>
-            <numerusform>%n réglage, %1</numerusform>
-            <numerusform>%n réglages, %1</numerusform>
+            <numerusform>%n&#xa0;réglage, %1</numerusform>
+            <numerusform>%n&#xa0;réglages, %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s)</source>
         <translation>
-            <numerusform>%n remarque</numerusform>
-            <numerusform>%n remarques</numerusform>
+            <numerusform>%n&#xa0;remarque</numerusform>
+            <numerusform>%n&#xa0;remarques</numerusform>
         </translation>
     </message>
     <message>
@@ -2998,7 +2998,7 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     </message>
     <message>
         <source>Notes on what was read:</source>
-        <translation>Remarques sur la lecture :</translation>
+        <translation>Remarques sur la lecture&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -3237,8 +3237,8 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message numerus="yes">
         <source>At most %n character(s)</source>
         <translation>
-            <numerusform>%n caractère au maximum</numerusform>
-            <numerusform>%n caractères au maximum</numerusform>
+            <numerusform>%n&#xa0;caractère au maximum</numerusform>
+            <numerusform>%n&#xa0;caractères au maximum</numerusform>
         </translation>
     </message>
     <message>
@@ -3366,7 +3366,7 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>The camera is only watched, so nothing can be changed.</source>
-        <translation>Caméra en observation seule : rien n’est modifiable.</translation>
+        <translation>Caméra en observation seule&#xa0;: rien n’est modifiable.</translation>
     </message>
     <message>
         <source>The camera does not offer this.</source>
@@ -3382,15 +3382,15 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>The camera is only watched, so its user sets cannot be loaded.</source>
-        <translation>Caméra en observation seule : ses jeux de paramètres ne peuvent pas être chargés.</translation>
+        <translation>Caméra en observation seule&#xa0;: ses jeux de paramètres ne peuvent pas être chargés.</translation>
     </message>
     <message>
         <source>Loading &quot;%1&quot;</source>
-        <translation>Chargement de « %1 »</translation>
+        <translation>Chargement de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Load user set &quot;%1&quot;</source>
-        <translation>Charger le jeu de paramètres « %1 »</translation>
+        <translation>Charger le jeu de paramètres «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The load was cancelled. Nothing was changed.</source>
@@ -3399,29 +3399,29 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <message numerus="yes">
         <source>&quot;%1&quot; was loaded, which changed %n setting(s).</source>
         <translation>
-            <numerusform>« %1 » a été chargé ; %n réglage a été modifié.</numerusform>
-            <numerusform>« %1 » a été chargé ; %n réglages ont été modifiés.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a été chargé&#xa0;; %n&#xa0;réglage a été modifié.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a été chargé&#xa0;; %n&#xa0;réglages ont été modifiés.</numerusform>
         </translation>
     </message>
     <message>
         <source>Saving &quot;%1&quot;</source>
-        <translation>Enregistrement de « %1 »</translation>
+        <translation>Enregistrement de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The present settings were saved as &quot;%1&quot;.</source>
-        <translation>Les réglages actuels ont été enregistrés dans « %1 ».</translation>
+        <translation>Les réglages actuels ont été enregistrés dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Choosing &quot;%1&quot; for power-on</source>
-        <translation>Choix de « %1 » pour le démarrage</translation>
+        <translation>Choix de «&#xa0;%1&#xa0;» pour le démarrage</translation>
     </message>
     <message>
         <source>Use user set &quot;%1&quot; at power-on</source>
-        <translation>Utiliser le jeu « %1 » au démarrage</translation>
+        <translation>Utiliser le jeu «&#xa0;%1&#xa0;» au démarrage</translation>
     </message>
     <message>
         <source>The camera begins with &quot;%1&quot; at power-on.</source>
-        <translation>La caméra démarre désormais avec « %1 ».</translation>
+        <translation>La caméra démarre désormais avec «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3460,27 +3460,27 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>Replaces the settings of the camera by those of &quot;%1&quot;.</source>
-        <translation>Remplace les réglages de la caméra par ceux de « %1 ».</translation>
+        <translation>Remplace les réglages de la caméra par ceux de «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be loaded.</source>
-        <translation>« %1 » ne peut pas être chargé.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être chargé.</translation>
     </message>
     <message>
         <source>Stores the present settings as &quot;%1&quot;.</source>
-        <translation>Mémorise les réglages actuels dans « %1 ».</translation>
+        <translation>Mémorise les réglages actuels dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved.</source>
-        <translation>« %1 » ne peut pas être enregistré.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être enregistré.</translation>
     </message>
     <message>
         <source>Lets the camera begin with &quot;%1&quot;.</source>
-        <translation>Fait démarrer la caméra avec « %1 ».</translation>
+        <translation>Fait démarrer la caméra avec «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used at power-on.</source>
-        <translation>« %1 » ne peut pas être utilisé au démarrage.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être utilisé au démarrage.</translation>
     </message>
     <message>
         <source>Shows how the settings of the camera differ from this set.</source>
@@ -3488,17 +3488,17 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be compared.</source>
-        <translation>« %1 » ne peut pas être comparé.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être comparé.</translation>
     </message>
     <message>
         <source>Load &quot;%1&quot;? The present settings of the camera are overwritten.</source>
-        <translation>Charger « %1 » ? Les réglages actuels de la caméra seront écrasés.</translation>
+        <translation>Charger «&#xa0;%1&#xa0;»&#xa0;? Les réglages actuels de la caméra seront écrasés.</translation>
     </message>
     <message numerus="yes">
         <source>%n feature(s) differ from those when the camera was opened.</source>
         <translation>
-            <numerusform>%n paramètre diffère de l’état à l’ouverture de la caméra.</numerusform>
-            <numerusform>%n paramètres diffèrent de l’état à l’ouverture de la caméra.</numerusform>
+            <numerusform>%n&#xa0;paramètre diffère de l’état à l’ouverture de la caméra.</numerusform>
+            <numerusform>%n&#xa0;paramètres diffèrent de l’état à l’ouverture de la caméra.</numerusform>
         </translation>
     </message>
     <message>
@@ -3519,7 +3519,7 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>Save the present settings as &quot;%1&quot;? What is in this set now is overwritten, which cannot be undone.</source>
-        <translation>Enregistrer les réglages actuels dans « %1 » ? Le contenu actuel de ce jeu sera définitivement écrasé.</translation>
+        <translation>Enregistrer les réglages actuels dans «&#xa0;%1&#xa0;»&#xa0;? Le contenu actuel de ce jeu sera définitivement écrasé.</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -3551,8 +3551,8 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <message numerus="yes">
         <source>%n more setting(s) were not put back; the history lists them.</source>
         <translation>
-            <numerusform>%n autre réglage n’a pas été restauré ; il figure dans l’historique.</numerusform>
-            <numerusform>%n autres réglages n’ont pas été restaurés ; ils figurent dans l’historique.</numerusform>
+            <numerusform>%n&#xa0;autre réglage n’a pas été restauré&#xa0;; il figure dans l’historique.</numerusform>
+            <numerusform>%n&#xa0;autres réglages n’ont pas été restaurés&#xa0;; ils figurent dans l’historique.</numerusform>
         </translation>
     </message>
     <message>
@@ -3570,8 +3570,8 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <message numerus="yes">
         <source>Write %n setting(s) into the user set %1? The camera loads the set, changes it and saves it, and then your present settings are put back. The stream is stopped for this.</source>
         <translation>
-            <numerusform>Écrire %n réglage dans le jeu de paramètres %1 ? La caméra charge le jeu, le modifie et l’enregistre, puis vos réglages actuels sont restaurés. Le flux est arrêté pendant l’opération.</numerusform>
-            <numerusform>Écrire %n réglages dans le jeu de paramètres %1 ? La caméra charge le jeu, le modifie et l’enregistre, puis vos réglages actuels sont restaurés. Le flux est arrêté pendant l’opération.</numerusform>
+            <numerusform>Écrire %n&#xa0;réglage dans le jeu de paramètres %1&#xa0;? La caméra charge le jeu, le modifie et l’enregistre, puis vos réglages actuels sont restaurés. Le flux est arrêté pendant l’opération.</numerusform>
+            <numerusform>Écrire %n&#xa0;réglages dans le jeu de paramètres %1&#xa0;? La caméra charge le jeu, le modifie et l’enregistre, puis vos réglages actuels sont restaurés. Le flux est arrêté pendant l’opération.</numerusform>
         </translation>
     </message>
     <message>
@@ -3580,7 +3580,7 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>The copy was cancelled, so the user set was not changed.</source>
-        <translation>La copie a été annulée : le jeu de paramètres n’a pas été modifié.</translation>
+        <translation>La copie a été annulée&#xa0;: le jeu de paramètres n’a pas été modifié.</translation>
     </message>
 </context>
 <context>
@@ -3588,8 +3588,8 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     <message numerus="yes">
         <source>%1 … (%n bytes)</source>
         <translation>
-            <numerusform>%1 … (%n octet)</numerusform>
-            <numerusform>%1 … (%n octets)</numerusform>
+            <numerusform>%1 … (%n&#xa0;octet)</numerusform>
+            <numerusform>%1 … (%n&#xa0;octets)</numerusform>
         </translation>
     </message>
     <message>
