@@ -107,7 +107,7 @@ void SelectorTable::connectParts()
     connect(&m_client, &FeatureClient::nodesLoaded, this, &SelectorTable::rebuild);
     connect(&m_client, &FeatureClient::nodesGone, this, &SelectorTable::rebuild);
     // Changes under other values of the selector do not change the states of the client.
-    connect(&m_history, &ChangeHistory::changed, this, &SelectorTable::readSoon);
+    connect(&m_history, &ChangeHistory::changed, this, &SelectorTable::followHistory);
 }
 
 void SelectorTable::setFeature(const QString &name)
@@ -202,6 +202,14 @@ void SelectorTable::onStateChanged(const QString &name)
         readSoon();
     else if (m_rows.contains(name))
         readLater();
+}
+
+/// An undo or a load may have changed features for other values of the selector than the present one.
+void SelectorTable::followHistory()
+{
+    // The history also reports when a job starts or ends, which reading the table does all the time.
+    if (std::exchange(m_entryCount, m_history.entries().size()) != m_history.entries().size())
+        readSoon();
 }
 
 // ---- Reading and writing ----------------------------------------------------------------------------------

@@ -72,6 +72,7 @@ private:
     void showTitle();
     void watchRows(bool isWatching);
     void onStateChanged(const QString &name);
+    void followHistory();
     void readSoon();
     void readLater();
     void read();
@@ -109,4 +110,5 @@ private:
     std::optional<Change> m_pending; ///< What the question is about.
     bool m_isReading = false;
     bool m_isOutdated = false; ///< A change arrived while the table was being read.
+    int m_entryCount = 0; ///< Length of the history when it was looked at last.
 };
