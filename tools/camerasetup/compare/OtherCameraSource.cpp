@@ -3,7 +3,7 @@
 #include <utility>
 
 using namespace CvxCPP;
-using State = CameraConnection::State;
+using ConnectionState = CameraConnection::State;
 
 namespace {
 
@@ -97,13 +97,13 @@ void OtherCameraSource::followConnection()
 {
     if (!m_task || m_isWorking)
         return;
-    if (m_connection.state() == State::Open)
+    if (m_connection.state() == ConnectionState::Open)
         runTask();
-    else if (m_connection.state() == State::InUse && m_task->isRead
+    else if (m_connection.state() == ConnectionState::InUse && m_task->isRead
         && m_connection.access() != CvxAccessWatch)
         m_connection.open(m_camera, CvxAccessWatch);
-    else if (m_connection.state() == State::InUse || m_connection.state() == State::Failed
-        || m_connection.state() == State::Closed)
+    else if (m_connection.state() == ConnectionState::InUse || m_connection.state() == ConnectionState::Failed
+        || m_connection.state() == ConnectionState::Closed)
         finish(m_connection.reason());
 }
 

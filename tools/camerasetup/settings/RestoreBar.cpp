@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVariant>
 
-using State = CameraConnection::State;
+using ConnectionState = CameraConnection::State;
 
 RestoreBar::RestoreBar(CameraConnection &connection, OpeningSnapshot &opening, QWidget *parent)
     : QFrame(parent),
@@ -43,14 +43,14 @@ RestoreBar::RestoreBar(CameraConnection &connection, OpeningSnapshot &opening, Q
 
 void RestoreBar::followConnection()
 {
-    const State state = m_connection.state();
-    const bool isBack = state == State::Open && m_wasLost;
-    m_wasLost = state == State::Lost;
+    const ConnectionState state = m_connection.state();
+    const bool isBack = state == ConnectionState::Open && m_wasLost;
+    m_wasLost = state == ConnectionState::Lost;
     if (isBack)
         m_text->setText(tr("%1 Settings that were not made with this program may have the values from "
                            "power-on.")
                             .arg(m_connection.reason()));
-    if (isBack || state != State::Open)
+    if (isBack || state != ConnectionState::Open)
         setVisible(isBack);
     followOpening();
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int markSize = 12;
 constexpr int markGap = 4;
-constexpr QRgb changedColour = 0xff64b5f6;
+constexpr QRgb changedMarkColour = 0xff64b5f6;
 constexpr QRgb favouriteColour = 0xfff59e0b;
 constexpr QRgb lockedColour = 0xff94a3b8;
 
@@ -54,7 +54,7 @@ struct MarkLook
 constexpr MarkLook looks[] = {
     {FeatureTreeModel::LockedMark, lockedColour, padlock},
     {FeatureTreeModel::FavouriteMark, favouriteColour, star},
-    {FeatureTreeModel::ChangedMark, changedColour, dot},
+    {FeatureTreeModel::ChangedMark, changedMarkColour, dot},
 };
 
 } // namespace
