@@ -35,6 +35,7 @@ def set_gain(setup, decibels):
 
 
 def brightness_settles(viewer, condition, promise):
+    viewer.activate()  # Another window would cover the picture.
     return wait_for(promise, lambda: condition(viewer.brightness()[0]) and viewer.brightness()[0])
 
 
@@ -52,7 +53,7 @@ def main():
             with start(launcher, "Image Viewer", "ImageViewer") as viewer:
                 viewer.activate()
                 viewer.click("Watch only")
-                wait_for("the watching viewer shows the picture", lambda: viewer.brightness()[1] > 50)
+                wait_for("the watching viewer shows the picture", lambda: viewer.brightness()[1] > 5000)
                 before = viewer.brightness()[0]
                 set_gain(setup, "6")
                 brightness_settles(viewer, lambda mean: mean > 1.3 * before, "the picture of the viewer is brighter")

@@ -11,6 +11,7 @@
 
 #include <QLineEdit>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QtTest>
 
 /// Adds features with limits, a lock and a level, and a category with more numbers than rows are visible.
@@ -62,6 +63,20 @@ struct PanelBench : EditorBench
         if (!QTest::qWaitForWindowActive(&panel, hangTimeout))
             qFatal("The window does not become active.");
         view.setFocus();
+    }
+
+    /// Waits until the clear button of the search has faded, because its animation has no owner.
+    ~PanelBench()
+    {
+        const QList<QToolButton *> buttons = search.findChildren<QToolButton *>();
+        for (const QToolButton *button : buttons) {
+            const auto hasFaded = [button] {
+                const double opacity = button->property("opacity").toDouble();
+                return opacity <= 0 || opacity >= 1;
+            };
+            if (!QTest::qWaitFor(hasFaded, hangTimeout))
+                qWarning("The clear button fades without end.");
+        }
     }
 
     FeatureTreeModel &model() { return view.filter().model(); }
