@@ -6,7 +6,7 @@
 namespace {
 
 constexpr unsigned featuresPerCategory = 84; // Makes 60 categories of 5,000 features.
-constexpr unsigned entryCount = 6; // Of enumerations.
+constexpr unsigned entryCount = 6; // Number of entries of each enumeration.
 
 // The registers of one feature, in bytes from its block. The registers of a selected feature fill the block.
 constexpr unsigned blockSize = 32;
@@ -31,8 +31,9 @@ struct Feature
     unsigned index = 0;
     // The camera host reads the width of a camera when it opens it.
     std::string name = index == 1 ? "Width" : "Feature" + std::to_string(index);
-    std::string selector
-        = "Feature" + std::to_string(index / featuresPerCategory * featuresPerCategory); ///< Of its category.
+    std::string selector = "Feature"
+        + std::to_string(
+            index / featuresPerCategory * featuresPerCategory); ///< The first feature of its category.
 
     std::string part(const char *suffix) const { return name + suffix; }
 };

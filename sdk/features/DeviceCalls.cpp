@@ -22,6 +22,15 @@ bool isDeviceGone(const CvxResult &result)
     return std::find(std::begin(errors), std::end(errors), result.code) != std::end(errors);
 }
 
+CvxResult readDirectory(Device &device, FeatureDirectory &directory)
+{
+    std::vector<NodeInfo> nodes;
+    CvxResult result = device.GetNodes(nodes);
+    if (result)
+        directory = FeatureDirectory(std::move(nodes));
+    return result;
+}
+
 CvxResult readStates(Device &device, const std::vector<std::string> &names, std::vector<NodeState> &states)
 {
     using Clock = std::chrono::steady_clock;

@@ -25,6 +25,9 @@ void addNote(std::vector<FeatureNote> &notes, const std::string &name, const std
 /// Returns true if no further call for this device can succeed at present: the camera is lost or closed.
 bool isDeviceGone(const CvxCPP::CvxResult &result);
 
+/// Reads the list of features, which does not access the camera.
+CvxCPP::CvxResult readDirectory(CvxCPP::Device &device, FeatureDirectory &directory);
+
 /// Reads the states of any number of features, in calls that are short enough for slow cameras.
 CvxCPP::CvxResult readStates(
     CvxCPP::Device &device, const std::vector<std::string> &names, std::vector<CvxCPP::NodeState> &states);

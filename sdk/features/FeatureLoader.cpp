@@ -7,19 +7,6 @@
 
 using namespace CvxCPP;
 
-namespace {
-
-CvxResult readDirectory(Device &device, FeatureDirectory &directory)
-{
-    std::vector<NodeInfo> nodes;
-    CvxResult result = device.GetNodes(nodes);
-    if (result)
-        directory = FeatureDirectory(std::move(nodes));
-    return result;
-}
-
-} // namespace
-
 std::size_t LoadReport::count(FeatureOutcome outcome) const
 {
     return static_cast<std::size_t>(std::count_if(changes.begin(), changes.end(),

@@ -12,15 +12,6 @@ constexpr const char *selector = "UserSetSelector";
 constexpr const char *loadCommand = "UserSetLoad";
 constexpr const char *saveCommand = "UserSetSave";
 
-CvxResult readDirectory(Device &device, FeatureDirectory &directory)
-{
-    std::vector<NodeInfo> nodes;
-    CvxResult result = device.GetNodes(nodes);
-    if (result)
-        directory = FeatureDirectory(std::move(nodes));
-    return result;
-}
-
 /// Returns the result of restoring the selectors if everything before has succeeded.
 CvxResult withRestored(SelectorControl &selectors, const CvxResult &result)
 {

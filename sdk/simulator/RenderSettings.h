@@ -69,8 +69,7 @@ struct RenderSettings
     TestPattern testPattern = TestPattern::Off;
     SceneTarget target = SceneTarget::Chart;
 
-    std::uint64_t frameNumber
-        = 0; ///< The scene and the noise of a picture depend on nothing else but the seed.
+    std::uint64_t frameNumber = 0; ///< Decides, with the sensor's seed, what moves and which noise there is.
 
     // Line scan sensors only.
     double linePosition = 0; ///< Position of the object at the first line, in pixels of the object plane.

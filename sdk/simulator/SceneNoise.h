@@ -23,7 +23,7 @@ constexpr double uniformRandom(std::uint64_t key)
 class SceneNoise
 {
 public:
-    /// Computes the numbers from the seed. Lines have at most `maxLength` numbers.
+    /// Computes the numbers; the same `seed` gives the same numbers. Lines have at most `maxLength` numbers.
     SceneNoise(std::uint64_t seed, double mean, double deviation, int maxLength);
 
     /// Returns the numbers of a line.

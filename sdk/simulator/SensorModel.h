@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-/// A simulated sensor and its flaws. The flaws are distributed over the sensor by the seed; SensorFlaws
-/// reports where they are.
+/// A simulated sensor and its flaws. `seed` decides where the flaws are; SensorFlaws reports their places.
 struct SensorModel
 {
     int width = 2448; ///< Pixels; even for colour sensors.

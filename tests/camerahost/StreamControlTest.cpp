@@ -58,7 +58,7 @@ public:
     std::map<std::string, NodeValue> values;
     std::set<std::string> refused;
     Strings log;
-    Strings reads; // Of readInteger().
+    Strings reads; // The features that readInteger() was called for.
 
 private:
     std::vector<NodeInfo> m_nodes;

@@ -42,7 +42,7 @@ void TestSelectorTable::allValuesStandSideBySide()
     QCOMPARE(taps.headers(Qt::Vertical).size(), 2);
     QCOMPARE(taps.cell(0, 0), text("1"));
     QCOMPARE(taps.cell(0, 2), text("2.5"));
-    QVERIFY(taps.bench.value("GainSelector") == NodeValue(std::string("Tap1"))); // As it was before.
+    QVERIFY(taps.bench.value("GainSelector") == NodeValue(std::string("Tap1"))); // The selector is restored.
     const auto labels = taps.table.findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.begin(), labels.end(),
         [](const QLabel *label) { return label->text().contains(text("Left shown")); }));

@@ -47,7 +47,8 @@ SettingsBench::SettingsBench(const EditorBench::Script &script, CvxAccess access
 void defineSettingsCamera(TestDevice &camera)
 {
     addNumber(camera, "Width", std::int64_t(640), std::int64_t(16), std::int64_t(1280)).onWrite
-        = [&camera](NodeValue &) { camera.set("FrameRate", 50.0); }; // As cameras do without being asked.
+        = [&camera](
+              NodeValue &) { camera.set("FrameRate", 50.0); }; // Cameras change such values by themselves.
     camera.add("FrameRate", 25.0);
     addChoice(camera, "ExposureAuto", {"Off", "Continuous"});
     camera.add("ExposureTime", 10000.0).rule = [&camera](NodeState &state) {

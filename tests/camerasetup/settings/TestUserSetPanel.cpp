@@ -86,7 +86,7 @@ void TestUserSetPanel::showsTheSetsAndWhatTheyAllow()
     bench.select(1);
     QVERIFY(bench.button("save")->isEnabled());
     QVERIFY(bench.button("default")->isEnabled());
-    QCOMPARE(bench.value("UserSetSelector"), QStringLiteral("Default")); // As it was before.
+    QCOMPARE(bench.value("UserSetSelector"), QStringLiteral("Default")); // The selector is restored.
     QSignalSpy compared(&bench.panel, &UserSetPanel::compareRequested);
     bench.button("compare")->click();
     QCOMPARE(compared.first().first().toString(), QStringLiteral("UserSet0"));

@@ -155,7 +155,7 @@ void TestFeatureReading::newlyWatchedFeaturesAreReadFirst()
     held.features.watch(early);
     QTRY_COMPARE_WITH_TIMEOUT(held.readNames().size(), 2, hangTimeout); // This read blocks, so others wait.
     held.features.unwatch({early[3]});
-    for (const QString &name : shown) // As rows that become visible.
+    for (const QString &name : shown) // Each is watched like a row that becomes visible.
         held.features.watch({name});
     held.gate.open();
     QTRY_VERIFY_WITH_TIMEOUT(

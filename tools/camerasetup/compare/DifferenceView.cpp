@@ -91,7 +91,7 @@ void DifferenceView::clear(const QString &hint)
     showSummary();
 }
 
-/// Gives each column the same part of the width as before; at first, the feature has the largest part.
+/// Keeps for each column the same part of the width as before; at first, the feature has the largest part.
 void DifferenceView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);

@@ -9,7 +9,7 @@
 /// The states of some features under one value of a selector.
 struct SelectorColumn
 {
-    std::string value; ///< Of the selector, as the text of a settings file.
+    std::string value; ///< The value of the selector as the text of a settings file.
     std::vector<CvxCPP::NodeState> states; ///< In the order of the features.
 };
 

@@ -26,7 +26,7 @@ public:
         FeatureClient &client;
         CameraJobs &jobs;
         ChangeHistory &history;
-        OpeningSnapshot &opening; ///< Tells how many features a load would overwrite.
+        OpeningSnapshot &opening; ///< Knows how many features a load would overwrite.
     };
 
     explicit UserSetControl(const Parts &parts, QObject *parent = nullptr);

@@ -21,7 +21,7 @@ public:
     {
         m_indexes.reserve(size());
         for (int i = 0; i < nodes.size(); ++i)
-            m_indexes.emplace(nodes[i].name, i); // Of several features of one name, the first one is known.
+            m_indexes.emplace(nodes[i].name, i); // The first feature of a name counts.
         m_root = findRoot();
         m_parents.reserve(size());
         for (int i = 0; i < nodes.size(); ++i)

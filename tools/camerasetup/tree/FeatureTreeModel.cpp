@@ -81,7 +81,7 @@ void FeatureTreeModel::follow()
         m_features.clear();
         m_features.reserve(m_nodes.size());
         for (int feature = m_nodes.size() - 1; feature >= 0; --feature)
-            m_features.insert(name(feature), feature); // Of several features of one name, the first one.
+            m_features.insert(name(feature), feature); // The first feature of a name counts.
     }
     m_states.clear();
     for (auto feature = m_features.cbegin(); feature != m_features.cend(); ++feature) {
