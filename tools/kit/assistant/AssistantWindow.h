@@ -1,0 +1,90 @@
+#pragma once
+
+#include "tools/kit/assistant/MeasureJob.h"
+#include "tools/kit/assistant/ResultSaver.h"
+#include "tools/kit/live/LiveStream.h"
+#include "tools/kit/window/LivePauser.h"
+#include "tools/kit/window/ToolWindow.h"
+
+#include <QStringList>
+#include <QVector>
+
+class ImageCanvas;
+class LivePicture;
+class QAction;
+class QLabel;
+class QMenu;
+
+/// The window of an assistant: the live picture on the left, a panel with the measurement and the next step
+/// on the right, progress with cancel below. Starts the stream when the camera is open, and says which
+/// feature the camera lacks. A tool derives from it and adds its panel and its actions.
+class AssistantWindow : public ToolWindow
+{
+    Q_OBJECT
+
+public:
+    /// A feature that the tool cannot work without.
+    struct Need
+    {
+        QStringList anyOf; ///< The camera has at least one of these features.
+        QString sentence; ///< Says what is missing and what the person can do instead.
+    };
+
+    struct Plan
+    {
+        Setup setup;
+        QVector<Need> needs;
+        /// Features that can be changed in the panel if the camera has them, for example "ExposureTime".
+        QStringList settings;
+    };
+
+    /// Enough for the picture, an analysis and a measurement.
+    static constexpr unsigned streamBuffers = 12;
+
+    AssistantWindow(const Plan &plan, ToolSettings &settings);
+    ~AssistantWindow() override;
+
+    LiveStream &stream() { return m_stream; }
+    MeasureJob &job() { return m_job; }
+
+signals:
+    /// The camera was opened or is gone, another one is being opened, or the control was given up: a tool
+    /// forgets what belongs to another camera, and enables its steps.
+    void cameraChanged();
+
+protected:
+    /// Shows the panel of the tool. The window takes the ownership. Call it once.
+    void setPanel(QWidget *panel);
+
+    /// The features that the camera lacks make the tool useless; false also while no camera is open.
+    bool canMeasure() const;
+
+    ImageCanvas &canvas();
+    LivePicture &picture() { return *m_picture; }
+    ResultSaver &saver() { return m_saver; }
+    LivePauser &pauser() { return m_pauser; }
+
+    /// The menu for results: the tool adds its entries before those that every tool has.
+    QMenu *resultMenu() { return m_resultMenu; }
+
+    /// Adds the menus "Camera" and "Help" after those of the tool, and restores the layout. Call it at the
+    /// end of the constructor.
+    void finish(const ShortcutPage::Rows &otherKeys = {});
+
+private:
+    void followConnection();
+    void checkNeeds();
+    void followStream();
+
+    const Plan m_plan;
+    LiveStream m_stream;
+    LivePauser m_pauser;
+    MeasureJob m_job;
+    ResultSaver m_saver;
+    LivePicture *m_picture = nullptr;
+    QLabel *m_missing = nullptr; // Names the feature that the camera lacks.
+    QAction *m_live = nullptr;
+    QMenu *m_resultMenu = nullptr;
+    bool m_startsWhenOpen = false; // The camera was chosen, and its stream was not started yet.
+    bool m_hasNeeds = false; // The camera has everything that the tool needs.
+};
