@@ -51,8 +51,8 @@ public:
     /// Returns the value of the nearest pixel on the left, or on the right at the edge.
     float beside(std::uint32_t x, std::uint32_t y) const
     {
-        const std::uint32_t other = x >= m_mosaic.step ? x - m_mosaic.step
-                                                       : std::min(x + m_mosaic.step, m_mosaic.width - 1);
+        const std::uint32_t other
+            = x >= m_mosaic.step ? x - m_mosaic.step : std::min(x + m_mosaic.step, m_mosaic.width - 1);
         return m_values[std::size_t(y) * m_mosaic.width + other];
     }
 
@@ -70,7 +70,8 @@ std::vector<float> differenceOf(const std::vector<float> &bright, const std::vec
 }
 
 /// Returns the level of each channel after the correction; channels of a colour have the same.
-std::vector<double> targetLevels(const ChannelMosaic &mosaic, const std::vector<float> &signal, GainLevel level)
+std::vector<double> targetLevels(
+    const ChannelMosaic &mosaic, const std::vector<float> &signal, GainLevel level)
 {
     std::vector<double> own;
     for (std::size_t channel = 0; channel < mosaic.channels(); ++channel) {
@@ -160,7 +161,8 @@ private:
 };
 
 /// Returns the gains with those of defect pixels replaced.
-std::vector<float> withoutDefects(const MeanImage &dark, const std::vector<float> &gains, std::uint32_t &defects)
+std::vector<float> withoutDefects(
+    const MeanImage &dark, const std::vector<float> &gains, std::uint32_t &defects)
 {
     const ChannelMosaic &mosaic = dark.mosaic;
     const DefectFinder finder(dark, gains);
@@ -187,8 +189,8 @@ double darkLevel(const MeanImage &dark)
 void limitGains(BuiltFlatField &built)
 {
     for (float &gain : built.field.gain) {
-        const float limited = std::clamp(
-            gain, static_cast<float>(minFlatFieldGain), static_cast<float>(maxFlatFieldGain));
+        const float limited
+            = std::clamp(gain, static_cast<float>(minFlatFieldGain), static_cast<float>(maxFlatFieldGain));
         built.limitedPixels += limited != gain;
         gain = limited;
     }
@@ -236,7 +238,7 @@ MeanImage correctedMean(const MeanImage &image, const FlatField &field)
         squaredGains[image.mosaic.channel(x, y)] += gain * gain;
     }
     for (std::size_t channel = 0; channel < squaredGains.size(); ++channel)
-        corrected.temporalVariance[channel] *= squaredGains[channel]
-            / (double(image.mosaic.columns(channel)) * image.mosaic.lines(channel));
+        corrected.temporalVariance[channel]
+            *= squaredGains[channel] / (double(image.mosaic.columns(channel)) * image.mosaic.lines(channel));
     return corrected;
 }

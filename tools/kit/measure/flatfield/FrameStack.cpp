@@ -30,15 +30,16 @@ Sentence FrameStack::begin(const RawImage &picture, std::uint32_t offsetX, std::
 {
     const PixelLayout &layout = findPixelLayout(picture.pixelFormat);
     if (!isFlatFieldFormat(picture.pixelFormat))
-        return {QT_TRANSLATE_NOOP("Sentence",
-                    "The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits."),
+        return {
+            QT_TRANSLATE_NOOP("Sentence",
+                "The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits."),
             {std::string(layout.format.name)}};
     const bool isBayer = layout.format.kind == PixelKind::Bayer;
     if (isBayer && m_isLineScan)
         return {QT_TRANSLATE_NOOP(
             "Sentence", "The colours of a line scan camera cannot be corrected. Choose a Mono format.")};
-    m_mean.mosaic = {picture.width, m_isLineScan ? 1 : picture.height, isBayer ? 2U : 1U, layout.redX,
-        layout.redY};
+    m_mean.mosaic
+        = {picture.width, m_isLineScan ? 1 : picture.height, isBayer ? 2U : 1U, layout.redX, layout.redY};
     m_mean.offsetX = offsetX;
     m_mean.offsetY = m_isLineScan ? 0 : offsetY;
     m_mean.depth = layout.format.depth;

@@ -65,7 +65,8 @@ double ShadingGrid::cellMean(const std::vector<float> &values, std::uint32_t col
         double squares = 0;
         double count = 0;
         for (std::uint32_t y = ys.first; y < ys.end; ++y) {
-            const std::size_t start = std::size_t(m_mosaic.firstY(m_channel) + y * m_mosaic.step) * m_mosaic.width
+            const std::size_t start
+                = std::size_t(m_mosaic.firstY(m_channel) + y * m_mosaic.step) * m_mosaic.width
                 + m_mosaic.firstX(m_channel);
             for (std::uint32_t x = xs.first; x < xs.end; ++x) {
                 const double deviation = double(values[start + std::size_t(x) * m_mosaic.step]) - mean;

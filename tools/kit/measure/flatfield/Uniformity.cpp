@@ -90,8 +90,8 @@ double robustVariance(const std::vector<float> &deviations)
     return squares / count - (sum / count) * (sum / count);
 }
 
-ChannelUniformity measureChannel(const MeanImage &dark, const MeanImage &bright,
-    const std::vector<float> &signal, std::size_t channel)
+ChannelUniformity measureChannel(
+    const MeanImage &dark, const MeanImage &bright, const std::vector<float> &signal, std::size_t channel)
 {
     const ChannelMosaic &mosaic = dark.mosaic;
     const SpatialStatistics darkSpatial = spatialStatistics(dark, channel);
