@@ -2,6 +2,7 @@
 
 #if defined(__x86_64__)
 
+#include "sdk/image/FieldKernels.h"
 #include "sdk/image/PixelLoops.h"
 
 #include <immintrin.h>
@@ -99,6 +100,7 @@ void useAvx2(SampleKernels<Sample> &kernels)
     kernels.findGreen = findGreenAvx<Sample>;
     kernels.findColors = findColorsAvx<Sample>;
     kernels.convertYuv = convertYuvAvx<Sample>;
+    kernels.correctField = correctFieldAvx2;
 }
 
 PixelKernels makeAvx2Kernels(const PixelKernels &base)

@@ -34,6 +34,12 @@ ImageConverter::ImageConverter(ImageConverter &&) noexcept = default;
 ImageConverter &ImageConverter::operator=(ImageConverter &&) noexcept = default;
 ImageConverter::~ImageConverter() = default;
 
+void ImageConverter::setCorrection(const PlacedCorrection &correction)
+{
+    m_workspace->bytes.reader().setCorrection(correction);
+    m_workspace->words.reader().setCorrection(correction);
+}
+
 unsigned ImageConverter::screenChannels(std::uint32_t pixelFormat)
 {
     return findPixelLayout(pixelFormat).screenChannels();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/image/Correction.h"
 #include "sdk/image/PixelFormat.h"
 #include "sdk/image/RawImage.h"
 
@@ -33,6 +34,10 @@ public:
     ImageConverter &operator=(ImageConverter &&) noexcept;
     ~ImageConverter();
 
+    /// Corrects the pictures that follow, before colours are computed: defect pixels, then offset and gain.
+    /// Pictures that the correction does not fit are converted without it; see Correction::problem().
+    void setCorrection(const PlacedCorrection &correction);
+
     /// What toScreen() converts: the region of the picture, scaled to `width` x `height` output pixels.
     struct ScreenRequest
     {
@@ -57,11 +62,11 @@ public:
     /// Returns the values per pixel of toWords() for a format: 1 to 4.
     static unsigned wordChannels(std::uint32_t pixelFormat);
 
-    /// Unpacks a region to words of 16 bits without changing the values: Bayer pictures keep their pattern,
-    /// RGB gets the order red, green, blue (alpha), luma and chroma stay what they are and belong to each
-    /// pixel. Signed numbers are in two's complement. Integers of 32 and 64 bits keep their highest 16 bits,
-    /// and floating-point numbers are mapped to the range of 16 bits as for the screen. `output` has one line
-    /// of `stride` words per line of the region.
+    /// Unpacks a region to words of 16 bits without changing the values except by the correction: Bayer
+    /// pictures keep their pattern, RGB gets the order red, green, blue (alpha), luma and chroma stay what
+    /// they are and belong to each pixel. Signed numbers are in two's complement. Integers of 32 and 64 bits
+    /// keep their highest 16 bits, and floating-point numbers are mapped to the range of 16 bits as for the
+    /// screen. `output` has one line of `stride` words per line of the region.
     void toWords(const RawImage &picture, const Region &region, std::uint16_t *output, std::size_t stride);
 
     /// Converts a region to red, green and blue of 16 bits with the range of the component's depth, but at

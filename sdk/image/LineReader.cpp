@@ -36,6 +36,7 @@ template <typename Sample>
 void LineReader<Sample>::setPicture(const RawImage &picture, const PixelLayout &layout)
 {
     m_components.setPicture(picture, layout);
+    m_isCorrected = m_corrected.setPicture(picture, layout);
 }
 
 template <typename Sample>
@@ -85,6 +86,8 @@ typename LineReader<Sample>::Channels LineReader<Sample>::interleaved(
     std::uint32_t y, std::uint32_t x, std::uint32_t count, unsigned channels)
 {
     const Arrangement &arrangement = layout().arrangement;
+    if (m_isCorrected)
+        return {m_corrected.template read<Sample>(y, x, count)};
     if (arrangement.components == 1)
         return {m_components.read(0, y, x, count, m_planes[0])};
     std::size_t firstGroup = x / arrangement.pixels;

@@ -1,15 +1,19 @@
 #pragma once
 
-#include "sdk/image/ComponentReader.h"
+#include "sdk/image/CorrectedLines.h"
 
-/// Reads lines of a picture channel by channel, as samples of ComponentReader.
+/// Reads lines of a picture channel by channel, as samples of ComponentReader, with the correction if it fits
+/// the picture.
 template <typename Sample>
 class LineReader
 {
 public:
     using Channels = std::array<const Sample *, 4>;
 
-    explicit LineReader(const PixelKernels &kernels) : m_components(kernels) { }
+    explicit LineReader(const PixelKernels &kernels) : m_components(kernels), m_corrected(kernels) { }
+
+    /// Applies to the pictures from the next setPicture() on.
+    void setCorrection(const PlacedCorrection &correction) { m_corrected.setCorrection(correction); }
 
     void setPicture(const RawImage &picture, const PixelLayout &layout);
     const RawImage &picture() const { return m_components.picture(); }
@@ -40,6 +44,8 @@ private:
         std::size_t count);
 
     ComponentReader<Sample> m_components;
+    CorrectedLines m_corrected;
+    bool m_isCorrected = false;
     std::array<std::vector<Sample>, 4> m_planes; ///< Components of each plane of the picture.
     std::array<std::vector<Sample>, 4> m_channels;
 };

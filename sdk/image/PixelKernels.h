@@ -70,6 +70,21 @@ struct YuvWeights
 };
 constexpr int yuvFractionBits = 13;
 
+/// Gain and offset of the pixels of a line in fixed point. The corrected value is
+/// ((value * gain >> droppedBits) + (offset << offsetUnit >> offsetShift) + half) >> sumBits, where half
+/// makes it rounded, between 0 and `maximum`. All intermediate values fit into 32 bits.
+struct FieldLine
+{
+    static constexpr int droppedBits = 2;
+    static constexpr int offsetUnit = 16;
+
+    const std::uint16_t *gains;
+    const std::int16_t *offsets;
+    int offsetShift; ///< From 0 to 31.
+    int sumBits; ///< At least 1.
+    std::int32_t maximum;
+};
+
 /// Eight neighbouring output pixels, each of which is made of two input pixels.
 struct InterpolationStep
 {
@@ -107,6 +122,9 @@ struct SampleKernels
     /// Turns luma, U and V into red, green and blue.
     void (*convertYuv)(const std::array<const Sample *, 3> &yuv, std::size_t count, const YuvWeights &weights,
         const std::array<Sample *, 3> &rgb);
+
+    /// Corrects offset and gain. Input and output may be the same.
+    void (*correctField)(const Sample *input, const FieldLine &field, std::size_t count, Sample *output);
 };
 
 /// The innermost loops of the conversions. All sets of kernels give the same results.

@@ -252,6 +252,20 @@ CVX_INLINE void convertYuv(const std::array<const Sample *, 3> &yuv, std::size_t
     }
 }
 
+template <typename Sample>
+CVX_INLINE void correctField(const Sample *input, const FieldLine &field, std::size_t count, Sample *output)
+{
+    const FieldLine line = field; // A copy, which the output cannot overlap.
+    const std::int32_t half = 1 << (line.sumBits - 1);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint32_t product = std::uint32_t(input[i]) * line.gains[i] >> FieldLine::droppedBits;
+        const std::uint32_t high = std::uint32_t(std::uint16_t(line.offsets[i])) << FieldLine::offsetUnit;
+        const std::int32_t sum = static_cast<std::int32_t>(product)
+            + (static_cast<std::int32_t>(high) >> line.offsetShift) + half;
+        output[i] = static_cast<Sample>(std::min(std::max(sum >> line.sumBits, 0), line.maximum));
+    }
+}
+
 CVX_INLINE void average(
     const std::uint8_t *first, const std::uint8_t *second, std::size_t count, std::uint8_t *output)
 {

@@ -29,6 +29,9 @@ constexpr SampleKernels<Sample> plainSampleKernels()
         },
         [](const std::array<const Sample *, 3> &yuv, std::size_t count, const YuvWeights &weights,
             const std::array<Sample *, 3> &rgb) { pixelloops::convertYuv(yuv, count, weights, rgb); },
+        [](const Sample *input, const FieldLine &field, std::size_t count, Sample *output) {
+            pixelloops::correctField(input, field, count, output);
+        },
     };
 }
 

@@ -2,6 +2,7 @@
 
 #if defined(__x86_64__)
 
+#include "sdk/image/FieldKernels.h"
 #include "sdk/image/PixelLoops.h"
 
 #include <immintrin.h>
@@ -319,7 +320,7 @@ template <typename Sample>
 constexpr SampleKernels<Sample> sse41SampleKernels()
 {
     return {unpackBitsSse<Sample>, unpackPairsSse<Sample>, unpackWordsSse<Sample>, demosaicSse<Sample>,
-        findGreenSse<Sample>, findColorsSse<Sample>, convertYuvSse<Sample>};
+        findGreenSse<Sample>, findColorsSse<Sample>, convertYuvSse<Sample>, correctFieldSse41};
 }
 
 PixelKernels makeSse41Kernels()

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "sdk/image/Correction.h"
+#include "sdk/imagefile/CameraRecord.h"
+
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+/// A correction and the files that it was read from.
+struct CorrectionSource
+{
+    std::shared_ptr<const Correction> correction; ///< Null: pictures are not corrected.
+    /// For sidecars: a list with "file", "format", "created" and "camera" of each file.
+    nlohmann::ordered_json files = nlohmann::ordered_json::array();
+    std::string problem; ///< Why the files cannot be used, for people; empty if they can.
+};
+
+/// Reads a defect map (JSON or CSV) and a flat field (TIFF), or one of them. The contents decide what a file
+/// is, not its name. Two files of the same kind are refused.
+CorrectionSource readCorrection(const std::vector<std::string> &paths);
+
+/// Returns why the correction does not fit the settings of the camera: the pictures of a file were mirrored,
+/// binned or decimated in another way, as far as both records say it. Pictures themselves do not tell that.
+/// Empty if nothing speaks against the correction.
+std::string settingsProblem(const CorrectionSource &source, const CameraRecord &camera);
