@@ -18,7 +18,7 @@ FieldBench::FieldBench(const SensorModel &model, std::uint32_t pixelFormat)
     : m_model(model), m_pictures(model)
 {
     settings.width = model.width;
-    settings.height = model.isLineScan ? 64 : model.height;
+    settings.height = model.isLineScan ? 16 : model.height;
     settings.pixelFormat = pixelFormat;
     settings.exposureTime = 9000;
 }
