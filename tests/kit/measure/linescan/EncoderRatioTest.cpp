@@ -47,8 +47,8 @@ TEST_P(EncoderRatios, bestOneIsFound)
     const auto &[name, target, limits, best, maxErrorPercent] = GetParam();
     const EncoderRatio ratio = bestEncoderRatio(target, limits);
     EXPECT_LE(std::abs(ratio.linesPerPulse() / target - 1) * 100, maxErrorPercent);
-    EXPECT_EQ(std::make_tuple(
-                  ratio.countsPerPulse, ratio.multiplier, ratio.encoderDivider, ratio.triggerDivider),
+    EXPECT_EQ(
+        std::make_tuple(ratio.countsPerPulse, ratio.multiplier, ratio.encoderDivider, ratio.triggerDivider),
         std::make_tuple(best.countsPerPulse, best.multiplier, best.encoderDivider, best.triggerDivider));
 }
 

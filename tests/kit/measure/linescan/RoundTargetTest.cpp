@@ -1,47 +1,17 @@
 // These tests look for the round targets of the simulator's chart, whose true shape is known.
 
-#include "tests/simulator/RenderedPicture.h"
 #include "tools/kit/measure/linescan/RoundTarget.h"
+#include "tests/kit/measure/linescan/RolledPicture.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-SensorModel webSensor(int width)
-{
-    SensorModel model;
-    model.width = width;
-    model.height = 1;
-    model.isLineScan = true;
-    model.shading = 0.3;
-    return model;
-}
-
-struct RolledPicture
-{
-    std::vector<std::uint8_t> bytes;
-    RawImage raw;
-};
-
-/// @param linesPerRow Lines that the camera takes while the object moves by one pixel.
-RolledPicture rolled(int width, int height, double linesPerRow, double jitter = 0, double position = 0,
-    std::uint32_t format = mono8)
-{
-    const SensorModel model = webSensor(width);
-    RenderSettings settings = wholeSensor(model, format);
-    settings.height = height;
-    settings.lineStep = 1 / linesPerRow;
-    settings.linePosition = position;
-    settings.lineJitter = jitter;
-    settings.exposureTime = 4000;
-    SceneRenderer renderer(model);
-    RolledPicture picture{renderBytes(renderer, settings), {}};
-    picture.raw = {picture.bytes.data(), picture.bytes.size(), static_cast<std::uint32_t>(width),
-        static_cast<std::uint32_t>(height), 0, format, false};
-    return picture;
-}
+constexpr std::uint32_t mono8 = 0x01080001;
+constexpr std::uint32_t mono16 = 0x01100007;
 
 /// A drawn disc or ring with soft borders.
 RolledPicture drawn(double halfWidth, double halfHeight, double shear, double hole)
@@ -115,7 +85,7 @@ TEST(RoundTarget, wideSensorIsMeasuredOnAReducedPicture)
 
 TEST(RoundTarget, wordsAreMeasuredAsBytesAre)
 {
-    const RolledPicture picture = rolled(640, 480, 1, 0, 0, mono16);
+    const RolledPicture picture = rolled(640, 480, 1, 0, mono16);
     const TargetSearch search = RoundTargetFinder().find(picture.raw);
     ASSERT_TRUE(search.target);
     EXPECT_NEAR(search.target->heightToWidth(), 1, 0.005);
@@ -153,5 +123,6 @@ TEST(RoundTarget, capOnTheLensIsNamed)
 {
     std::vector<std::uint8_t> bytes(200 * 200, 12);
     const RawImage dark{bytes.data(), bytes.size(), 200, 200, 0, mono8, false};
-    EXPECT_NE(toEnglish(RoundTargetFinder().find(dark).problem).find("too little contrast"), std::string::npos);
+    EXPECT_NE(
+        toEnglish(RoundTargetFinder().find(dark).problem).find("too little contrast"), std::string::npos);
 }
