@@ -107,4 +107,6 @@ TEST(LineScanResult, tableAndFileContainTargetsAndSettings)
     EXPECT_EQ(json["format"], "corvix-x-linescan");
     EXPECT_EQ(json["result"]["before"]["heightToWidth"], 1.25);
     EXPECT_EQ(json["result"]["inputs"]["speedMmPerS"], 140);
+    EXPECT_EQ(tablePath("/a.b/web.json"), "/a.b/web.csv");
+    EXPECT_EQ(tablePath("/a.b/web"), "/a.b/web.csv");
 }

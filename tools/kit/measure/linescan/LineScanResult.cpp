@@ -1,6 +1,7 @@
 #include "tools/kit/measure/linescan/LineScanResult.h"
 
 #include "sdk/features/SettingLabel.h"
+#include "sdk/imagefile/OutputFile.h"
 #include "sdk/imagefile/Sidecar.h"
 
 namespace {
@@ -70,4 +71,22 @@ std::string resultCsv(const LineScanResult &result)
     addTargets(csv, "before", result.before);
     addTargets(csv, "after", result.after);
     return csv;
+}
+
+std::string tablePath(const std::string &resultPath)
+{
+    const std::size_t slash = resultPath.rfind('/');
+    const std::size_t nameBegin = slash == std::string::npos ? 0 : slash + 1;
+    const std::size_t dot = resultPath.rfind('.');
+    const bool hasEnding = dot != std::string::npos && dot > nameBegin;
+    return resultPath.substr(0, hasEnding ? dot : resultPath.size()) + ".csv";
+}
+
+std::string writeLineScanCsv(const std::string &path, const LineScanResult &result)
+{
+    const std::string csv = resultCsv(result);
+    OutputFile file;
+    if (file.createHidden(path) && file.append(csv.data(), csv.size()))
+        file.publish();
+    return file.problem();
 }

@@ -55,25 +55,22 @@ Sentence measureRoundness(
     std::vector<RoundTarget> targets;
     std::size_t images = 0;
     Sentence problem;
-    // Every image is a step; a target in each makes the measurement shorter.
-    for (; images < options.maxImages && targets.size() < options.targets; ++images) {
-        if (!context.progress(targets.size(), options.targets))
-            return cancelledSentence();
-        const MeasureProgress onlyCancel = [&context, &targets, &options](std::size_t, std::size_t) {
-            return context.progress(targets.size(), options.targets);
-        };
-        const MeasureContext one{context.device, context.frames, onlyCancel};
-        const Sentence failed = takeImages(one, 1, usualImageLimit, [&](const Image &image) -> Sentence {
-            TargetSearch search = finder.find(rawImage(image), options.columns);
-            if (search.target)
-                targets.push_back(*search.target);
-            else
-                problem = search.problem;
-            return {};
-        });
-        if (!failed.isEmpty())
-            return failed;
-    }
+    const MeasureProgress progress = [&](std::size_t, std::size_t) {
+        return context.progress(targets.size(), options.targets); // Targets are what a person waits for.
+    };
+    const Sentence enough = untranslated("There are enough targets."); // Ends the loop; is not shown.
+    const auto take = [&](const Image &image) -> Sentence {
+        ++images;
+        const TargetSearch search = finder.find(rawImage(image), options.columns);
+        problem = search.problem;
+        if (search.target)
+            targets.push_back(*search.target);
+        return targets.size() < options.targets ? Sentence() : enough;
+    };
+    const Sentence ended
+        = takeImages({context.device, context.frames, progress}, options.maxImages, usualImageLimit, take);
+    if (!ended.isEmpty() && targets.size() < options.targets)
+        return ended;
     if (targets.empty())
         return problem;
     roundness = roundnessOf(targets, images);
