@@ -19,6 +19,8 @@ constexpr Milliseconds tickInterval(200); // Between two looks at events and the
 constexpr Milliseconds stopTimeout(500);
 constexpr Milliseconds closeTimeout(150); // All of them have to fit into the time that SocketWatch grants.
 
+constexpr Milliseconds putBackLimit(3000); // For all calls that put values back.
+
 constexpr const char *streamLock = "TLParamsLocked"; // Locks the nodes that must not change during a stream.
 
 } // namespace
@@ -37,6 +39,8 @@ int CameraHostServer::run()
     while (!m_isFinished && (m_connection = waitForRequest(line)) == LineChannel::Status::Line)
         serve(line);
     m_watch.noteShutdown();
+    if (!m_isLost)
+        m_camera.putBackWithin(putBackLimit, closeTimeout);
     m_camera.close(closeTimeout);
     return m_connection == LineChannel::Status::Lost ? connectionLostStatus : EXIT_SUCCESS;
 }
@@ -83,7 +87,9 @@ void CameraHostServer::serve(const std::string &line)
         && (tryServe<ReadStatesRequest>(*message) || tryServe<ReadValueRequest>(*message)
             || tryServe<WriteValueRequest>(*message) || tryServe<OpenDeviceRequest>(*message)
             || tryServe<PrepareStreamRequest>(*message) || tryServe<StartStreamRequest>(*message)
-            || tryServe<StopStreamRequest>(*message) || tryServe<CloseDeviceRequest>(*message));
+            || tryServe<BeginTemporaryChangesRequest>(*message)
+            || tryServe<EndTemporaryChangesRequest>(*message) || tryServe<StopStreamRequest>(*message)
+            || tryServe<CloseDeviceRequest>(*message));
     if (!isServed) // This does not happen, because library and host are installed together.
         m_isFinished = true;
 }
@@ -141,10 +147,29 @@ void CameraHostServer::handle(const ReadValueRequest &request)
 
 void CameraHostServer::handle(const WriteValueRequest &request)
 {
-    if (const auto failure = m_camera.nodes().write(request.name, request.value))
+    NodeValueReply written;
+    if (const auto failure = m_camera.write(request.name, request.value, written.remembered))
         return fail(*failure);
-    reply(NodeValueReply());
+    m_watch.setPutBack(m_camera.hasOriginals());
+    reply(written);
     notifyChanged(request.name);
+}
+
+void CameraHostServer::handle(const BeginTemporaryChangesRequest &request)
+{
+    if (const auto failure = m_camera.beginTemporaryChanges(request))
+        return fail(*failure);
+    m_watch.setPutBack(m_camera.hasOriginals());
+    reply(TemporaryChangesBegunReply());
+}
+
+void CameraHostServer::handle(const EndTemporaryChangesRequest &request)
+{
+    OriginalValues::PutBack ended = m_camera.endTemporaryChanges(request);
+    m_watch.setPutBack(m_camera.hasOriginals());
+    reply(TemporaryChangesEndedReply{std::move(ended.refused), std::move(ended.reasons)});
+    for (const std::string &name : ended.written)
+        notifyChanged(name);
 }
 
 void CameraHostServer::handle(const PrepareStreamRequest &request)
@@ -187,6 +212,8 @@ void CameraHostServer::handle(const CloseDeviceRequest &)
 {
     m_isFinished = true;
     m_watch.noteShutdown();
+    if (!m_isLost)
+        m_camera.putBackWithin(putBackLimit, stopTimeout);
     m_camera.close(stopTimeout);
     reply(DeviceClosedReply());
 }

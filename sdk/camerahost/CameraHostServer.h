@@ -39,6 +39,8 @@ private:
     void handle(const ReadStatesRequest &request);
     void handle(const ReadValueRequest &request);
     void handle(const WriteValueRequest &request);
+    void handle(const BeginTemporaryChangesRequest &request);
+    void handle(const EndTemporaryChangesRequest &request);
     void handle(const PrepareStreamRequest &request);
     void handle(const StartStreamRequest &request);
     void handle(const StopStreamRequest &request);

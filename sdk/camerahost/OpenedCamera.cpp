@@ -26,10 +26,10 @@ std::optional<OpenedCamera::Failure> OpenedCamera::open(
     m_port = std::make_unique<ProducerPort>(m_device.library(), m_device.port());
     if (auto failure = createNodes(producerFile))
         return failure;
-    const bool isWatching = request.access == CvxCPP::CvxAccessWatch || m_device.isReadOnly();
-    m_nodes->setWatching(isWatching);
+    m_isWatching = request.access == CvxCPP::CvxAccessWatch || m_device.isReadOnly();
+    m_nodes->setWatching(m_isWatching);
     m_ownedStream = std::make_unique<CameraStream>(m_device.library(), m_device.device(), *m_nodes,
-        isWatching ? StreamRole::Watcher : StreamRole::Controller);
+        m_isWatching ? StreamRole::Watcher : StreamRole::Controller);
     m_monitor.emplace(m_device, *m_port, *m_nodes);
     m_monitor->registerEvents();
     return std::nullopt;
@@ -78,13 +78,57 @@ std::optional<std::string> OpenedCamera::tick(DeviceMonitor::TimePoint now)
     return m_ownedStream->findFormatChange();
 }
 
+std::optional<OpenedCamera::Failure> OpenedCamera::write(
+    const std::string &name, const CvxCPP::NodeValue &value, std::vector<SelectedValue> &remembered)
+{
+    auto original = m_remembersWrites ? m_originals.findNew(*m_nodes, name) : std::nullopt;
+    if (auto failure = m_nodes->write(name, value))
+        return failure;
+    if (original) {
+        remembered.push_back(*original);
+        m_originals.remember(std::move(*original));
+    }
+    return std::nullopt;
+}
+
+std::optional<OpenedCamera::Failure> OpenedCamera::beginTemporaryChanges(
+    const BeginTemporaryChangesRequest &request)
+{
+    if (m_isWatching)
+        return Failure{DeviceFailure::NotWritable, "The camera was opened only to watch it."};
+    for (const SelectedValue &value : request.remembered)
+        m_originals.remember(value);
+    m_remembersWrites = request.remembersWrites;
+    return std::nullopt;
+}
+
+OriginalValues::PutBack OpenedCamera::endTemporaryChanges(const EndTemporaryChangesRequest &request)
+{
+    constexpr std::chrono::seconds writeTime(4); // The library waits for 5 s.
+    m_remembersWrites = false;
+    if (request.putsBack)
+        return m_originals.putBack(*m_nodes, OriginalValues::Clock::now() + writeTime);
+    m_originals.forget();
+    return {};
+}
+
+void OpenedCamera::putBackWithin(Milliseconds limit, Milliseconds stopTimeout)
+{
+    if (m_originals.isEmpty() || m_isClosed)
+        return;
+    const auto deadline = OriginalValues::Clock::now() + limit;
+    if (m_ownedStream && !m_ownedStream->isStuck())
+        m_ownedStream->stop(stopTimeout);
+    m_isStuck = !callWithin(limit, [this, deadline] { m_originals.putBack(*m_nodes, deadline); });
+}
+
 void OpenedCamera::close(Milliseconds timeout)
 {
     if (std::exchange(m_isClosed, true))
         return;
-    if (m_ownedStream && !m_ownedStream->isStuck())
+    if (m_ownedStream && !m_ownedStream->isStuck() && !m_isStuck)
         m_ownedStream->stop(timeout);
-    const bool isStuck = m_ownedStream && m_ownedStream->isStuck();
+    const bool isStuck = m_isStuck || (m_ownedStream && m_ownedStream->isStuck());
     callWithin(timeout, [this, isStuck] { isStuck ? m_device.abandon() : m_device.close(); });
 }
 

@@ -4,6 +4,7 @@
 #include "sdk/camerahost/DeviceMonitor.h"
 #include "sdk/camerahost/NodeMap.h"
 #include "sdk/camerahost/OpenedDevice.h"
+#include "sdk/camerahost/OriginalValues.h"
 #include "sdk/camerahost/ProducerPort.h"
 
 #include <atomic>
@@ -41,6 +42,24 @@ public:
     /// another program has changed the format of the images. The camera must be open.
     std::optional<std::string> tick(DeviceMonitor::TimePoint now);
 
+    /// Writes a feature; see NodeMap::write(). During temporary changes, stores in `remembered` the value
+    /// that the feature had before, if it is new.
+    std::optional<Failure> write(
+        const std::string &name, const CvxCPP::NodeValue &value, std::vector<SelectedValue> &remembered);
+
+    /// Begins temporary changes. Returns the failure if the camera was opened only to watch it.
+    std::optional<Failure> beginTemporaryChanges(const BeginTemporaryChangesRequest &request);
+
+    /// Ends temporary changes, and puts the values back if `request` says so.
+    OriginalValues::PutBack endTemporaryChanges(const EndTemporaryChangesRequest &request);
+
+    /// Returns true if close() has to put values back.
+    bool hasOriginals() const { return !m_originals.isEmpty(); }
+
+    /// Stops the stream and puts back what has to be, before close(). Gives up after `limit`; a call of the
+    /// producer may then still hang, so only close() and abandon() may be called.
+    void putBackWithin(Milliseconds limit, Milliseconds stopTimeout);
+
     /// Stops the stream and closes the camera. Each call of the producer gets `timeout`. No other function
     /// may be called afterwards, because a call may still hang.
     void close(Milliseconds timeout);
@@ -59,5 +78,9 @@ private:
     std::unique_ptr<CameraStream> m_ownedStream;
     std::atomic<CameraStream *> m_stream{nullptr};
     std::optional<DeviceMonitor> m_monitor;
+    OriginalValues m_originals;
+    bool m_isWatching = true;
+    bool m_remembersWrites = false; // During temporary changes.
+    bool m_isStuck = false; // A call hangs that is not the stream's.
     bool m_isClosed = false;
 };

@@ -1,6 +1,7 @@
 #include "sdk/camerahost/SocketWatch.h"
 
 #include <array>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdlib>
@@ -16,8 +17,14 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds abandonAfter(300); // The main thread is probably in a call that hangs.
-constexpr std::chrono::milliseconds exitAfter(900);
+/// Times after the end of the connection.
+struct Limits
+{
+    std::chrono::milliseconds abandonAfter; // The main thread is probably in a call that hangs.
+    std::chrono::milliseconds exitAfter;
+};
+constexpr Limits closeLimits{std::chrono::milliseconds(300), std::chrono::milliseconds(900)};
+constexpr Limits putBackLimits{std::chrono::milliseconds(1000), std::chrono::milliseconds(5000)};
 
 constexpr int lookInterval = 1000; // Milliseconds, between two looks at the calls of the main thread.
 constexpr int maxLooks = 5; // A call that is seen running so often in a row hangs.
@@ -51,9 +58,10 @@ struct SocketWatch::State
     int socket;
     std::function<void()> abandon;
     CallWatch calls;
-    std::mutex mutex;
+    std::mutex mutex; // Guards isShuttingDown.
     std::condition_variable change;
     bool isShuttingDown = false;
+    std::atomic<bool> isPutBackNeeded{false};
 
     void run();
 };
@@ -62,12 +70,13 @@ void SocketWatch::State::run()
 {
     waitForEnd(socket, calls);
     const auto end = Clock::now();
+    const Limits limits = isPutBackNeeded ? putBackLimits : closeLimits;
     shutdown(socket, SHUT_RDWR); // The main thread sees the end even if another process has the socket.
     std::unique_lock lock(mutex);
-    if (!change.wait_until(lock, end + abandonAfter, [this] { return isShuttingDown; }))
+    if (!change.wait_until(lock, end + limits.abandonAfter, [this] { return isShuttingDown; }))
         std::thread(abandon).detach();
     lock.unlock();
-    std::this_thread::sleep_until(end + exitAfter);
+    std::this_thread::sleep_until(end + limits.exitAfter);
     _exit(EXIT_FAILURE);
 }
 
@@ -76,6 +85,11 @@ SocketWatch::SocketWatch(int socket, std::function<void()> abandon) : m_state(ne
     m_state->socket = socket;
     m_state->abandon = std::move(abandon);
     std::thread([state = m_state] { state->run(); }).detach();
+}
+
+void SocketWatch::setPutBack(bool isNeeded)
+{
+    m_state->isPutBackNeeded = isNeeded;
 }
 
 void SocketWatch::noteShutdown()

@@ -15,6 +15,9 @@ public:
     /// its main thread hangs, `abandon` is called on another thread.
     SocketWatch(int socket, std::function<void()> abandon);
 
+    /// Grants more time while the main thread has to put values back before it closes the camera.
+    void setPutBack(bool isNeeded);
+
     /// Notes that the main thread itself closes the camera.
     void noteShutdown();
 

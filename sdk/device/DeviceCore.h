@@ -7,6 +7,7 @@
 #include "sdk/device/DeviceOptions.h"
 #include "sdk/device/DeviceThread.h"
 #include "sdk/device/NodeDirectory.h"
+#include "sdk/device/TemporaryValues.h"
 #include "sdk/device/WriteJournal.h"
 
 #include <memory>
@@ -83,6 +84,7 @@ public:
     DeviceGate gate;
     DeviceNotifier notifier;
     WriteJournal journal;
+    TemporaryValues temporary;
 
     std::shared_ptr<const NodeDirectory> directory() const;
     void setDirectory(std::shared_ptr<const NodeDirectory> directory);

@@ -3,6 +3,7 @@
 #include "sdk/device/NodeRequests.h"
 #include "sdk/device/NodeText.h"
 #include "sdk/device/StreamObject.h"
+#include "sdk/device/TemporaryRequests.h"
 
 #include <utility>
 
@@ -60,6 +61,16 @@ CvxResult DeviceObject::ReadText(const std::string &name, std::string &text)
 CvxResult DeviceObject::WriteText(const std::string &name, const std::string &text)
 {
     return m_core->results.guarded([&] { return NodeRequests(*m_core).writeText(name, text); });
+}
+
+CvxResult DeviceObject::BeginTemporaryChanges()
+{
+    return m_core->results.guarded([&] { return TemporaryRequests(*m_core).begin(); });
+}
+
+CvxResult DeviceObject::EndTemporaryChanges(TemporaryChanges how)
+{
+    return m_core->results.guarded([&] { return TemporaryRequests(*m_core).end(how); });
 }
 
 CvxResult DeviceObject::StartStream(unsigned buffers, StreamPolicy policy, std::shared_ptr<Stream> &stream)

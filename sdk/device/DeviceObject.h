@@ -22,6 +22,8 @@ public:
     CvxCPP::CvxResult Execute(const std::string &name) override;
     CvxCPP::CvxResult ReadText(const std::string &name, std::string &text) override;
     CvxCPP::CvxResult WriteText(const std::string &name, const std::string &text) override;
+    CvxCPP::CvxResult BeginTemporaryChanges() override;
+    CvxCPP::CvxResult EndTemporaryChanges(CvxCPP::TemporaryChanges how) override;
     CvxCPP::CvxResult StartStream(
         unsigned buffers, CvxCPP::StreamPolicy policy, std::shared_ptr<CvxCPP::Stream> &stream) override;
     CvxCPP::CvxResult AddObserver(const std::shared_ptr<CvxCPP::IDeviceObserver> &observer) override;

@@ -16,5 +16,6 @@ struct DeviceOptions
     Milliseconds startTimeout{10000}; ///< Time that a host has to start a stream.
     Milliseconds stopTimeout{3000}; ///< Time that a host has to stop a stream.
     Milliseconds closeTimeout{3000}; ///< The longest time that closing a device takes.
+    Milliseconds putBackTimeout{3000}; ///< How much longer that may take if temporary changes are put back.
     Milliseconds reopenInterval{1000}; ///< Time between two attempts to open a lost camera.
 };

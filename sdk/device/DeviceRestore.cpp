@@ -19,6 +19,31 @@ public:
         return ask(WriteValueRequest{name, value}).has_value();
     }
 
+    /// Lets the host remember the values that it has to put back, and those of later writes if `isActive`.
+    void continueTemporaryChanges(const TemporaryValues &temporary)
+    {
+        if (m_breakdown)
+            return;
+        const auto answer = m_host.ask<TemporaryChangesBegunReply>(
+            BeginTemporaryChangesRequest{temporary.remembered(), temporary.isActive()},
+            SteadyClock::now() + m_timeout);
+        if (const auto *breakdown = std::get_if<Breakdown>(&answer))
+            m_breakdown = *breakdown;
+    }
+
+    /// Ends the changes in this way. What the camera refuses stays remembered.
+    void endTemporaryChanges(DeviceCore &core, TemporaryChanges how)
+    {
+        if (m_breakdown)
+            return;
+        const auto answer = m_host.ask<TemporaryChangesEndedReply>(
+            EndTemporaryChangesRequest{how == TemporaryChanges::PutBack}, SteadyClock::now() + m_timeout);
+        if (const auto *breakdown = std::get_if<Breakdown>(&answer))
+            m_breakdown = *breakdown;
+        else if (const auto *ended = std::get_if<TemporaryChangesEndedReply>(&answer))
+            core.temporary.end(how, core.journal, ended->refused);
+    }
+
     bool isLost() const override { return m_breakdown.has_value(); }
     const std::string &reason() const { return m_breakdown->reason; }
 
@@ -41,13 +66,37 @@ private:
     std::optional<Breakdown> m_breakdown;
 };
 
+/// Writes the settings of the program. Returns the names of the nodes whose values were refused.
+std::vector<std::string> restoreSettings(DeviceCore &core, HostTarget &target)
+{
+    TemporaryValues &temporary = core.temporary;
+    const auto requested = temporary.requestedEnd();
+    if (temporary.isActive() && requested == TemporaryChanges::Keep)
+        temporary.end(TemporaryChanges::Keep, core.journal);
+    if (!temporary.isPutBackAtClose())
+        return core.journal.replay(target);
+    if (!temporary.isActive()) {
+        auto refused = core.journal.replay(target);
+        target.continueTemporaryChanges(temporary);
+        return refused;
+    }
+    // The host must not remember a temporary value as the original one, so the temporary values come last.
+    auto refused = temporary.journalBefore().replay(target);
+    target.continueTemporaryChanges(temporary);
+    if (requested) {
+        target.endTemporaryChanges(core, *requested);
+        return refused;
+    }
+    return core.journal.replay(target);
+}
+
 } // namespace
 
-std::variant<RestoredDevice, std::string> restoreDevice(const DeviceCore &core, HostChannel &host)
+std::variant<RestoredDevice, std::string> restoreDevice(DeviceCore &core, HostChannel &host)
 {
     RestoredDevice restored;
     HostTarget target(host, core.options.requestTimeout);
-    restored.refused = core.journal.replay(target);
+    restored.refused = restoreSettings(core, target);
     if (target.isLost())
         return target.reason();
     restored.stream = core.gate.stream();

@@ -15,6 +15,7 @@ struct RestoredDevice
     std::vector<std::string> refused; ///< Names of the nodes whose values the camera has refused.
 };
 
-/// Writes back what the program has written, and starts the host's part of the running stream. Returns a
+/// Writes back what the program has written, continues or ends its temporary changes, and starts the host's
+/// part of the running stream. Returns a
 /// sentence with the reason if the host fails or the stream cannot be started.
-std::variant<RestoredDevice, std::string> restoreDevice(const DeviceCore &core, HostChannel &host);
+std::variant<RestoredDevice, std::string> restoreDevice(DeviceCore &core, HostChannel &host);

@@ -3,6 +3,7 @@
 #include "sdk/device/DeviceCore.h"
 #include "sdk/device/DeviceRestore.h"
 #include "sdk/device/InUseRetry.h"
+#include "sdk/device/TemporaryRequests.h"
 
 #include <algorithm>
 #include <array>
@@ -244,6 +245,8 @@ void DeviceThread::reopen()
         return reopeningFailed("The stream cannot be stopped.");
     m_core.notifier.stateChanged(DeviceState::Open, m_core.results.text(openSentence(device.refused)));
     m_core.notifier.nodesChanged(m_core.directory()->names());
+    if (m_core.temporary.requestedEnd()) // Requested after the settings were restored.
+        static_cast<void>(TemporaryRequests(m_core).endAsRequested());
 }
 
 /// Lets the program use the camera. If the program has stopped the stream meanwhile, stops it first. Returns
@@ -276,7 +279,9 @@ void DeviceThread::reopeningFailed(const std::string &reason)
 void DeviceThread::closeHost()
 {
     DeviceGate &gate = m_core.gate;
-    const TimePoint deadline = gate.closeDeadline() - HostRunner::killTimeout;
+    const Milliseconds putBackTime
+        = m_core.temporary.isPutBackAtClose() ? m_core.options.putBackTimeout : Milliseconds(0);
+    const TimePoint deadline = gate.closeDeadline() + putBackTime - HostRunner::killTimeout;
     const bool isIdle = gate.waitIdle(deadline);
     if (const auto host = gate.host()) {
         if (isIdle)

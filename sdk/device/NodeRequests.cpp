@@ -87,6 +87,8 @@ CvxResult NodeRequests::write(const std::string &name, const NodeValue &value)
     if (auto *failed = std::get_if<CvxResult>(&answer))
         return std::move(*failed);
     m_core.journal.written(name, value, selectors, !node->selected.empty());
+    for (const SelectedValue &remembered : std::get<NodeValueReply>(answer).remembered)
+        m_core.temporary.remember(remembered);
     return {};
 }
 

@@ -18,6 +18,10 @@ CORVIX_JSON_CONVERSIONS(DeviceOpenedReply, nodes)
 CORVIX_JSON_CONVERSIONS(ReadStatesRequest, names)
 CORVIX_JSON_CONVERSIONS(NodeStatesReply, states)
 CORVIX_JSON_CONVERSIONS(ReadValueRequest, name)
+CORVIX_JSON_CONVERSIONS(BeginTemporaryChangesRequest, remembered, remembersWrites)
+CORVIX_EMPTY_MESSAGE(TemporaryChangesBegunReply)
+CORVIX_JSON_CONVERSIONS(EndTemporaryChangesRequest, putsBack)
+CORVIX_JSON_CONVERSIONS(TemporaryChangesEndedReply, refused, reasons)
 CORVIX_JSON_CONVERSIONS(PrepareStreamRequest, buffers)
 CORVIX_JSON_CONVERSIONS(StreamPreparedReply, buffers, bufferSize, alignment, chunkFeatures)
 CORVIX_JSON_CONVERSIONS(StartStreamRequest, buffers, bufferSize, onlyNewest)
@@ -51,14 +55,34 @@ void from_json(const Json &json, WriteValueRequest &value)
     value.value = toNodeValue(json.at("value"));
 }
 
+void to_json(Json &json, const SelectedValue &value)
+{
+    Json selectors = Json::array();
+    for (const SelectedValue::Selector &selector : value.selectors)
+        selectors.push_back({{"name", selector.name}, {"value", toJson(selector.value)}});
+    json = {{"selectors", std::move(selectors)}, {"name", value.name}, {"value", toJson(value.value)}};
+}
+
+void from_json(const Json &json, SelectedValue &value)
+{
+    for (const Json &selector : json.at("selectors"))
+        value.selectors.push_back({selector.at("name"), toNodeValue(selector.at("value"))});
+    json.at("name").get_to(value.name);
+    value.value = toNodeValue(json.at("value"));
+}
+
 void to_json(Json &json, const NodeValueReply &value)
 {
     json = {{"value", toJson(value.value)}};
+    if (!value.remembered.empty())
+        json["remembered"] = value.remembered;
 }
 
 void from_json(const Json &json, NodeValueReply &value)
 {
     value.value = toNodeValue(json.at("value"));
+    if (json.contains("remembered"))
+        json.at("remembered").get_to(value.remembered);
 }
 
 void to_json(Json &json, const ChunkFeature &value)

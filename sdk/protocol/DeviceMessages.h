@@ -94,13 +94,69 @@ struct WriteValueRequest
 void to_json(nlohmann::json &json, const WriteValueRequest &value);
 void from_json(const nlohmann::json &json, WriteValueRequest &value);
 
+/// The value of a node for certain values of its selectors.
+struct SelectedValue
+{
+    struct Selector
+    {
+        std::string name;
+        CvxCPP::NodeValue value;
+
+        bool operator==(const Selector &other) const { return name == other.name && value == other.value; }
+    };
+
+    std::vector<Selector> selectors; ///< Each after its own selectors.
+    std::string name;
+    CvxCPP::NodeValue value;
+};
+void to_json(nlohmann::json &json, const SelectedValue &value);
+void from_json(const nlohmann::json &json, SelectedValue &value);
+
 struct NodeValueReply
 {
     static constexpr const char *kind = "nodeValue";
     CvxCPP::NodeValue value;
+    /// During temporary changes: the value before the write, if the host has remembered it now. None or one.
+    std::vector<SelectedValue> remembered = {};
 };
 void to_json(nlohmann::json &json, const NodeValueReply &value);
 void from_json(const nlohmann::json &json, NodeValueReply &value);
+
+/// Begins temporary changes; see Device::BeginTemporaryChanges(). The host replies with a
+/// TemporaryChangesBegunReply, or fails with DeviceFailure::NotWritable if it only watches.
+struct BeginTemporaryChangesRequest
+{
+    static constexpr const char *kind = "beginTemporaryChanges";
+    std::vector<SelectedValue> remembered = {}; ///< Remembered before the camera was opened again.
+    bool remembersWrites = true; ///< False if only `remembered` has to be put back at the end.
+};
+void to_json(nlohmann::json &json, const BeginTemporaryChangesRequest &value);
+void from_json(const nlohmann::json &json, BeginTemporaryChangesRequest &value);
+
+struct TemporaryChangesBegunReply
+{
+    static constexpr const char *kind = "temporaryChangesBegun";
+};
+void to_json(nlohmann::json &json, const TemporaryChangesBegunReply &value);
+void from_json(const nlohmann::json &json, TemporaryChangesBegunReply &value);
+
+/// Ends temporary changes. The host replies with a TemporaryChangesEndedReply, then with NodesChangedNotices.
+struct EndTemporaryChangesRequest
+{
+    static constexpr const char *kind = "endTemporaryChanges";
+    bool putsBack = true;
+};
+void to_json(nlohmann::json &json, const EndTemporaryChangesRequest &value);
+void from_json(const nlohmann::json &json, EndTemporaryChangesRequest &value);
+
+struct TemporaryChangesEndedReply
+{
+    static constexpr const char *kind = "temporaryChangesEnded";
+    std::vector<SelectedValue> refused; ///< Values that could not be put back; they stay remembered.
+    std::vector<std::string> reasons; ///< One sentence for each of them.
+};
+void to_json(nlohmann::json &json, const TemporaryChangesEndedReply &value);
+void from_json(const nlohmann::json &json, TemporaryChangesEndedReply &value);
 
 /// Prepares a stream: opens the data stream, locks the features that must not change, and determines the size
 /// of the buffers. The host replies with a StreamPreparedReply.

@@ -106,12 +106,18 @@ void addFlaws(SensorModel &sensor, const DeviceRecord &record)
     sensor.focusPosition = 470 + 60 * share(40); // Near 500, where the lens is after power-on.
     sensor.focusTilt = 20 * share(48);
     sensor.focusTiltAngle = 360 * share(56);
-    if (contains(record.model, "SWIR")) { // InGaAs sensors have much more dark current and defects.
-        sensor.darkCurrent = 4000;
+    if (contains(record.model, "SWIR"))
         sensor.hotPixels *= 10;
-        sensor.fullWell = 40000;
-        sensor.sensitivity = 4; // A picture is as bright as those of other cameras.
-    }
+}
+
+/// InGaAs sensors have much more dark current.
+void setMaterial(SensorModel &sensor, const DeviceRecord &record)
+{
+    if (!contains(record.model, "SWIR"))
+        return;
+    sensor.darkCurrent = 4000;
+    sensor.fullWell = 40000;
+    sensor.sensitivity = 4; // A picture is as bright as those of other cameras.
 }
 
 } // namespace
@@ -135,7 +141,9 @@ CameraModel cameraModel(const DeviceRecord &record, const SensorKeys &keys)
         = !sensor.isLineScan && keys.isColor.value_or(link.isColor || endsWith(record.model, "-C"));
     sensor.taps = keys.taps.value_or(link.taps);
     sensor.seed = keys.seed.value_or(hashOf(record.serial.empty() ? record.id : record.serial));
-    addFlaws(sensor, record);
+    if (keys.hasFlaws.value_or(true))
+        addFlaws(sensor, record);
+    setMaterial(sensor, record);
     model.exposureTime = sensor.isLineScan ? 80 : 8000;
     if (sensor.isLineScan)
         sensor.sensitivity = 100;
@@ -147,11 +155,13 @@ CameraModel cameraModel(const DeviceRecord &record, const SensorKeys &keys)
 std::uint64_t fingerprint(const CameraModel &model)
 {
     const SensorModel &sensor = model.sensor;
+    // Every sensor with flaws has hot pixels.
     std::uint64_t hash = hashOf(model.record.model + '\n' + model.record.vendor + '\n' + model.record.tlType);
     for (const std::uint64_t value :
         {static_cast<std::uint64_t>(sensor.width), static_cast<std::uint64_t>(sensor.height),
             static_cast<std::uint64_t>(sensor.isColor), static_cast<std::uint64_t>(sensor.isLineScan),
-            static_cast<std::uint64_t>(sensor.taps), sensor.seed, static_cast<std::uint64_t>(registersSize)})
+            static_cast<std::uint64_t>(sensor.taps), sensor.seed,
+            static_cast<std::uint64_t>(sensor.hotPixels > 0), static_cast<std::uint64_t>(registersSize)})
         hash = hashOf({reinterpret_cast<const char *>(&value), sizeof value}, hash);
     return hash;
 }

@@ -91,6 +91,7 @@ SensorKeys parseSensor(const Json &object, const std::string &place)
     keys.taps = optionalInteger(object, "taps", 1, 8, place);
     keys.seed
         = optionalInteger<std::uint64_t>(object, "seed", 0, std::numeric_limits<std::uint64_t>::max(), place);
+    keys.hasFlaws = optionalBoolean(object, "flaws", place);
     return keys;
 }
 

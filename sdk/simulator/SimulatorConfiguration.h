@@ -17,6 +17,7 @@ struct SensorKeys
     std::optional<bool> isLineScan;
     std::optional<int> taps;
     std::optional<std::uint64_t> seed; ///< Decides where the flaws of the sensor are.
+    std::optional<bool> hasFlaws; ///< Without flaws, there is only the noise that every sensor has.
 };
 
 /// A simulated interface and the devices that are connected to it.
@@ -50,12 +51,14 @@ SimulatorConfiguration defaultConfiguration();
 ///                         "userName": "…",
 ///                         "displayName": "…",  if empty: user name, else vendor, model and ID
 ///                         "tlType": "…",       the interface's tlType if absent or empty
-///                         "sensorWidth": 2448, pixels; this and the next five follow from the model's name
+///                         "sensorWidth": 2448, pixels; this and the next six follow from the model's name
 ///                         "sensorHeight": 2048,     and from tlType if absent
 ///                         "color": false,      true for a sensor with colour filters; ignored for line scan
 ///                         "lineScan": false,   true for a sensor of one line
 ///                         "taps": 1,           number of stripes that are read out separately, 1 to 8
-///                         "seed": 1            decides where the flaws of the sensor are
+///                         "seed": 1,           decides where the flaws of the sensor are
+///                         "flaws": true        false for a sensor without shading, defect pixels,
+///                                                   differences of the taps and tilt, but with noise
 ///                     }
 ///                 ]
 ///             }

@@ -152,3 +152,21 @@ CvxResult ScriptedDevice::Execute(const std::string &name)
     }
     return {};
 }
+
+CvxResult ScriptedDevice::BeginTemporaryChanges()
+{
+    if (m_valuesBefore)
+        return {CvxErrorAlreadyStarted, "Temporary changes have begun already."};
+    m_valuesBefore = m_values;
+    return {};
+}
+
+CvxResult ScriptedDevice::EndTemporaryChanges(TemporaryChanges how)
+{
+    if (!m_valuesBefore)
+        return {CvxErrorNotAvailable, "No temporary changes have begun."};
+    if (how == TemporaryChanges::PutBack)
+        m_values = std::move(*m_valuesBefore);
+    m_valuesBefore.reset();
+    return {};
+}

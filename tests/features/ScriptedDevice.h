@@ -5,6 +5,7 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,8 @@ public:
 
     CvxCPP::CvxResult ReadText(const std::string &, std::string &) override { return unused(); }
     CvxCPP::CvxResult WriteText(const std::string &, const std::string &) override { return unused(); }
+    CvxCPP::CvxResult BeginTemporaryChanges() override;
+    CvxCPP::CvxResult EndTemporaryChanges(CvxCPP::TemporaryChanges how) override;
     CvxCPP::CvxResult StartStream(unsigned, CvxCPP::StreamPolicy, std::shared_ptr<CvxCPP::Stream> &) override
     {
         return unused();
@@ -72,4 +75,5 @@ private:
     std::vector<std::string> m_order;
     std::map<std::string, Feature> m_features;
     std::map<std::string, CvxCPP::NodeValue> m_values; // By name and values of the selectors.
+    std::optional<std::map<std::string, CvxCPP::NodeValue>> m_valuesBefore; // During temporary changes.
 };

@@ -87,6 +87,26 @@ TEST(CameraModel, lineScanSensorHasNoColorFilters)
     EXPECT_FALSE(cameraModel(deviceOf("Kx200", "GEV"), keys).sensor.isColor);
 }
 
+TEST(CameraModel, sensorWithoutFlawsHasOnlyItsNoise)
+{
+    const auto sensorKeys
+        = [](const std::string &keys) { return parseConfiguration(withDevice(keys)).at(0).sensors.at("a"); };
+    const DeviceRecord record = deviceOf("SWIR HX", "CL");
+    const CameraModel flawless = cameraModel(record, sensorKeys(R"(, "flaws": false)"));
+    const SensorModel &sensor = flawless.sensor;
+    for (const double flaw : {sensor.shading, sensor.tapMismatch, sensor.hotPixels, sensor.stuckPixels,
+             sensor.blinkingPixels, sensor.focusTilt})
+        EXPECT_EQ(flaw, 0);
+    EXPECT_EQ(sensor.focusPosition, 500);
+    const CameraModel ordinary = cameraModel(record, sensorKeys(""));
+    EXPECT_GT(ordinary.sensor.tapMismatch, 0);
+    EXPECT_EQ(sensor.taps, ordinary.sensor.taps);
+    EXPECT_EQ(sensor.readNoise, ordinary.sensor.readNoise);
+    EXPECT_EQ(sensor.darkCurrent, ordinary.sensor.darkCurrent);
+    EXPECT_NE(fingerprint(flawless), fingerprint(ordinary));
+    EXPECT_EQ(problemOf(R"(, "flaws": 0)"), "interfaces[0].devices[0]: \"flaws\" is neither true nor false");
+}
+
 TEST(CameraModel, mistakeInAKeyIsReported)
 {
     const std::string place = "interfaces[0].devices[0]: ";

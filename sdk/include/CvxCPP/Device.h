@@ -86,6 +86,13 @@ struct StreamStatistics
     std::uint32_t reopenCount = 0; ///< How often the stream was continued after a loss.
 };
 
+/// What happens to the values that a program has written for a while; see Device::BeginTemporaryChanges().
+enum class TemporaryChanges : std::uint8_t
+{
+    PutBack, ///< The features get the values back that they had before.
+    Keep ///< The features keep their present values.
+};
+
 /// A running stream. The last reference stops it.
 class CVXCPP_API Stream
 {
@@ -178,6 +185,31 @@ public:
         return Write(name, value);
     }
 
+    /// Begins temporary changes: from now on, the process of the camera remembers the value that a feature
+    /// has before it is written for the first time, with the values of its selectors. If the program crashes,
+    /// is killed, or closes the device before EndTemporaryChanges(), this process stops the stream and writes
+    /// the remembered values back, the last change first, then the selectors; if the camera or its producer
+    /// does not answer, it gives up after 5 s. Other programs find the camera in use meanwhile. If the device
+    /// is lost and opened again, its temporary values are written again as usual, and the remembered values
+    /// stay remembered.
+    ///
+    /// Commands, for example to load a user set, are not undone. Features that the camera itself changes as a
+    /// consequence of a write are put back only if the program has written them, too.
+    ///
+    /// Returns CvxErrorAlreadyStarted if temporary changes of this device have begun already, or
+    /// CvxErrorNotWritable if the device only watches. Blocks for at most 5 s.
+    virtual CvxResult BeginTemporaryChanges() = 0;
+
+    /// Ends the temporary changes. The stream goes on. The observers are notified of all nodes that are put
+    /// back.
+    ///
+    /// Returns CvxErrorNotWritable if the camera refuses some values, for example because the running stream
+    /// locks these features; the text names them. Their values stay remembered: the next
+    /// EndTemporaryChanges() or the end of the device puts them back. Returns CvxErrorNotAvailable if no
+    /// temporary changes have begun. Returns CvxErrorDeviceLost if the camera is lost; the changes end
+    /// nevertheless, and the values are put back as soon as the camera is open again. Blocks for at most 5 s.
+    virtual CvxResult EndTemporaryChanges(TemporaryChanges how) = 0;
+
     /// Starts the stream with this number of buffers, 2 to 256, or more if the producer needs more. Locks the
     /// features that must not change during a stream, then starts the camera.
     ///
@@ -207,7 +239,8 @@ public:
     virtual DeviceState GetState(std::uint32_t &reopenCount) const = 0;
 
     /// Stops the stream, closes the camera and releases the observers. Also succeeds if the device is closed
-    /// already. Blocks for at most 3 s; a producer that has not closed the camera by then is killed. An
+    /// already. Blocks for at most 3 s, or 6 s if temporary changes have to be put back; a producer that has
+    /// not closed the camera by then is killed. An
     /// observer that blocks delays the function. Returns CvxErrorFailed, without any effect, if an observer
     /// of this device makes the call.
     virtual CvxResult Close() = 0;

@@ -1,6 +1,6 @@
 #include "tests/kit/editors/EditorBench.h"
 #include "tools/imageviewer/panel/CameraPanel.h"
-#include "tools/imageviewer/panel/CollapsibleGroup.h"
+#include "tools/kit/widgets/CollapsibleGroup.h"
 
 #include <QLabel>
 #include <QPushButton>

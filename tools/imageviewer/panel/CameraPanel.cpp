@@ -1,14 +1,14 @@
 #include "tools/imageviewer/panel/CameraPanel.h"
 
-#include "tools/imageviewer/panel/CollapsibleGroup.h"
-#include "tools/imageviewer/panel/FeatureRow.h"
 #include "tools/imageviewer/panel/PanelLayout.h"
 #include "tools/imageviewer/panel/RegionCall.h"
 #include "tools/imageviewer/panel/WhiteBalanceCall.h"
 #include "tools/kit/editors/CommandButton.h"
 #include "tools/kit/editors/EditorNote.h"
 #include "tools/kit/editors/FeatureEditors.h"
+#include "tools/kit/editors/FeatureRow.h"
 #include "tools/kit/editors/StreamPauser.h"
+#include "tools/kit/widgets/CollapsibleGroup.h"
 #include "tools/kit/widgets/VerticalScrollArea.h"
 
 #include <QHBoxLayout>

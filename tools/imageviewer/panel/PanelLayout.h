@@ -1,19 +1,11 @@
 #pragma once
 
-#include "tools/kit/editors/NumberEditor.h"
+#include "tools/kit/editors/FeatureRow.h"
 
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
-/// One feature of the panel.
-struct PanelRow
-{
-    QString label; ///< Translated.
-    QStringList names; ///< Names that cameras use for the feature; the first one is the present standard's.
-    NumberEditor::SliderUse slider = NumberEditor::SliderUse::Never;
-    bool isSelector = false; ///< Only shown if there is a choice, and never alone.
-};
+using PanelRow = FeatureRowContent;
 
 /// Features that belong together.
 struct PanelGroup

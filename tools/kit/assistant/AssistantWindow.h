@@ -9,11 +9,14 @@
 #include <QStringList>
 #include <QVector>
 
+class CameraSettings;
 class ImageCanvas;
 class LivePicture;
 class QAction;
 class QLabel;
 class QMenu;
+class QSplitter;
+class QVBoxLayout;
 
 /// The window of an assistant: the live picture on the left, a panel with the measurement and the next step
 /// on the right, progress with cancel below. Starts the stream when the camera is open, and says which
@@ -38,9 +41,6 @@ public:
         QStringList settings;
     };
 
-    /// Enough for the picture, an analysis and a measurement.
-    static constexpr unsigned streamBuffers = 12;
-
     AssistantWindow(const Plan &plan, ToolSettings &settings);
     ~AssistantWindow() override;
 
@@ -48,15 +48,18 @@ public:
     MeasureJob &job() { return m_job; }
 
 signals:
-    /// The camera was opened or is gone, another one is being opened, or the control was given up: a tool
-    /// forgets what belongs to another camera, and enables its steps.
+    /// The camera was opened, lost or closed, another one is being opened, or canMeasure() has changed: a
+    /// tool enables its steps, and forgets what belongs to another camera if the ID of connection().camera()
+    /// is another one.
     void cameraChanged();
 
 protected:
-    /// Shows the panel of the tool. The window takes the ownership. Call it once.
+    /// Shows the panel of the tool, which need not scroll by itself. The window takes the ownership. The
+    /// panel is disabled while the camera lacks a feature. Call it once.
     void setPanel(QWidget *panel);
 
-    /// The features that the camera lacks make the tool useless; false also while no camera is open.
+    /// Returns true if the camera is open for control and has everything that the tool needs. A running
+    /// measurement is no obstacle here.
     bool canMeasure() const;
 
     ImageCanvas &canvas();
@@ -72,9 +75,14 @@ protected:
     void finish(const ShortcutPage::Rows &otherKeys = {});
 
 private:
+    void createContent();
+    void createActions();
     void followConnection();
-    void checkNeeds();
     void followStream();
+    void followJob();
+    void checkNeeds();
+    void setLive(bool isLive);
+    void closeEvent(QCloseEvent *event) override;
 
     const Plan m_plan;
     LiveStream m_stream;
@@ -82,6 +90,10 @@ private:
     MeasureJob m_job;
     ResultSaver m_saver;
     LivePicture *m_picture = nullptr;
+    QSplitter *m_splitter = nullptr;
+    QVBoxLayout *m_panelLayout = nullptr;
+    QWidget *m_panel = nullptr; // The tool's one.
+    CameraSettings *m_cameraSettings = nullptr;
     QLabel *m_missing = nullptr; // Names the feature that the camera lacks.
     QAction *m_live = nullptr;
     QMenu *m_resultMenu = nullptr;

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <string>
+
 /// A report of one page: one HTML file that contains its pictures, for browsers and printers.
 class HtmlReport
 {
@@ -23,6 +25,9 @@ public:
 
     /// Adds the settings of the camera at the end and returns the document, in UTF-8.
     QByteArray html() const;
+
+    /// Writes the document. Returns why that failed; empty if it succeeded.
+    std::string write(const std::string &path) const;
 
 private:
     QString m_title;

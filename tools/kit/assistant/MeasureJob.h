@@ -6,10 +6,14 @@
 #include "tools/kit/measure/run/MeasureContext.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
+
+class MeasureThread;
 
 /// Runs one measurement at a time on a thread of its own, with the images of the live stream. Settings that
 /// the measurement changes are put back when it ends, however it ends; see Device::BeginTemporaryChanges().
@@ -33,6 +37,9 @@ public:
         Keep
     };
 
+    /// Enough for the picture, an analysis and a measurement.
+    static constexpr unsigned streamBuffers = 12;
+
     MeasureJob(CameraConnection &connection, LiveStream &stream, QObject *parent = nullptr);
 
     /// Cancels a running measurement and waits for it: for at most the time of one call of the SDK.
@@ -41,8 +48,7 @@ public:
     /// Starts the work, and the stream before if it does not run. Does nothing if isRunning(). Fails with a
     /// text if the camera is not open for control. `done` is not called if `context` was destroyed.
     /// @param title What is being done, for people, for example "Taking the dark images".
-    void start(
-        const QString &title, Changes changes, const Work &work, QObject *context, const Done &done);
+    void start(const QString &title, Changes changes, const Work &work, QObject *context, const Done &done);
 
     bool isRunning() const;
     QString title() const; ///< Empty if nothing runs.
@@ -57,6 +63,17 @@ signals:
     void changed();
 
 private:
-    class Private;
-    std::unique_ptr<Private> m_d;
+    void watchConnection();
+    void watchStream();
+    void abort(const QString &problem);
+    void finish(const Sentence &sentence, const std::string &notPutBack);
+
+    CameraConnection &m_connection;
+    LiveStream &m_stream;
+    QTimer m_progressTimer;
+    std::unique_ptr<MeasureThread> m_thread; ///< Null if nothing runs.
+    QString m_title;
+    QString m_problem; ///< Why the measurement was ended by this object; empty if it was not.
+    QPointer<QObject> m_context;
+    Done m_done;
 };

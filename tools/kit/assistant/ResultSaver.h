@@ -29,15 +29,20 @@ public:
     ResultSaver(ToolSettings &settings, QWidget *window);
 
     /// Asks for the name, proposing `name` without ending in the last folder, and writes all files.
+    /// Says what cannot be written, and asks before it replaces files.
     void save(const QString &name, const QVector<File> &files);
 
-    /// Writes all files without asking. Returns why that failed; empty if it succeeded.
+    /// Writes all files without asking, up to the first one that fails. Returns why that failed; empty if it
+    /// succeeded.
     static QString write(const QString &mainPath, const QVector<File> &files);
 
 signals:
     void saved(const QString &mainPath);
 
 private:
+    void saveAs(const QString &path, const QVector<File> &files);
+    void writeAndReport(const QString &path, const QVector<File> &files);
+
     ToolSettings &m_settings;
     QWidget *m_window;
 };

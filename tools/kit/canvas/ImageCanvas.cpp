@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <utility>
 
 ImageCanvas::ImageCanvas(QWidget *parent) : QWidget(parent)
@@ -160,6 +161,18 @@ void ImageCanvas::setOrientation(const Orientation &orientation)
 {
     m_view.setOrientation(orientation);
     finishViewChange();
+}
+
+void ImageCanvas::addOverlay(const CanvasOverlay *overlay)
+{
+    m_overlays.push_back(overlay);
+    update();
+}
+
+void ImageCanvas::removeOverlay(const CanvasOverlay *overlay)
+{
+    m_overlays.erase(std::remove(m_overlays.begin(), m_overlays.end(), overlay), m_overlays.end());
+    update();
 }
 
 void ImageCanvas::fit()

@@ -13,6 +13,9 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
+
+class CanvasOverlay;
 
 /// Shows a picture: fitted, at its own size, or zoomed and moved with wheel, mouse and keys. Draws what helps
 /// to read the picture, and lets a person draw a region or a line on it. All coordinates in the interface are
@@ -78,6 +81,11 @@ public:
 
     /// Sets how the picture is turned, for example as it was when the program ended.
     void setOrientation(const Orientation &orientation);
+
+    /// Paints the overlay over every picture, above the overlays that were added before. It must stay valid
+    /// until removeOverlay(). Call update() when what it paints has changed.
+    void addOverlay(const CanvasOverlay *overlay);
+    void removeOverlay(const CanvasOverlay *overlay);
 
 public slots:
     void fit();
@@ -170,6 +178,7 @@ private:
     QString m_hint;
 
     Tool m_tool = Tool::Pan;
+    std::vector<const CanvasOverlay *> m_overlays; ///< The first one is painted first.
     RegionTool m_regionTool;
     LineTool m_lineTool;
     bool m_hasGrid = false;

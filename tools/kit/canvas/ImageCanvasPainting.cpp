@@ -1,4 +1,5 @@
 #include "tools/kit/canvas/CanvasColors.h"
+#include "tools/kit/canvas/CanvasOverlay.h"
 #include "tools/kit/canvas/CanvasOverlays.h"
 #include "tools/kit/canvas/ImageCanvas.h"
 #include "tools/kit/canvas/Minimap.h"
@@ -70,6 +71,11 @@ void ImageCanvas::paintOverlays(QPainter &painter)
         canvasoverlays::paintGrid(painter, m_view);
     if (m_hasCrosshair)
         canvasoverlays::paintCrosshair(painter, m_view);
+    for (const CanvasOverlay *const overlay : m_overlays) {
+        painter.save();
+        overlay->paint(painter, m_view);
+        painter.restore();
+    }
     m_regionTool.paint(painter, m_view, m_tool == Tool::Region, m_micrometresPerPixel);
     m_lineTool.paint(painter, m_view, m_tool == Tool::Line, m_micrometresPerPixel);
     if (m_tool == Tool::Pick && m_reportedPixel)

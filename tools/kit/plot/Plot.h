@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QImage>
 #include <QPointF>
 #include <QString>
@@ -28,7 +27,8 @@ public:
     void setHorizontalAxis(Axis axis, const QString &title);
     void setVerticalAxis(const QString &title);
 
-    /// Adds a curve and returns its number. The colours are those of the tools, one after the other.
+    /// Adds a curve and returns its number, from 0 on. The colours are those of the tools, one after the
+    /// other. Two curves and more have a legend.
     int addCurve(const QString &title);
     void setTitleOf(int curve, const QString &title);
     void setSamples(int curve, const QVector<QPointF> &samples);
@@ -38,7 +38,7 @@ public:
     void setLimit(int line, double value, const QString &label);
     /// Replaces the vertical line of this number.
     void setMoment(int line, double position, const QString &label);
-    void removeLines();
+    void removeLines(); ///< All limits and moments.
 
     /// Returns the diagram on white paper, for a report.
     QImage paper(const QSize &size) const;

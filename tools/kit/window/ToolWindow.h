@@ -52,6 +52,7 @@ protected:
 
     CameraFinder &finder() { return m_finder; }
     CameraConnection &connection() { return m_connection; }
+    const CameraConnection &connection() const { return m_connection; }
     FeatureClient &features() { return m_features; }
     ToolSettings &settings() { return m_settings; }
 

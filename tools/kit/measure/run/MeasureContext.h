@@ -25,8 +25,9 @@ Sentence cancelledSentence();
 
 /// Takes `count` complete images and passes each to `take`, which returns a sentence to end the measurement,
 /// or an empty one. The first image is one whose exposure has begun after this call: images that the camera
-/// may have begun before are left out. Waits for at most `imageLimit` for each image; cancels if the progress
-/// says so. Returns why not all images were taken; empty if they were.
+/// may have begun before are left out, and so are incomplete ones. Waits for each image for at most
+/// `imageLimit` in addition to the exposure time and a few image periods of the camera; cancels if the
+/// progress says so. Returns why not all images were taken; empty if they were.
 Sentence takeImages(const MeasureContext &context, std::size_t count, std::chrono::milliseconds imageLimit,
     const std::function<Sentence(const CvxCPP::Image &)> &take);
 

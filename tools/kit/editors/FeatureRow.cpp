@@ -1,4 +1,4 @@
-#include "tools/imageviewer/panel/FeatureRow.h"
+#include "tools/kit/editors/FeatureRow.h"
 
 #include "tools/kit/camera/FeatureClient.h"
 #include "tools/kit/editors/FeatureEditors.h"
@@ -7,7 +7,7 @@
 
 #include <utility>
 
-FeatureRow::FeatureRow(const PanelRow &row, FeatureClient &client, QWidget *parent)
+FeatureRow::FeatureRow(const FeatureRowContent &row, FeatureClient &client, QWidget *parent)
     : QWidget(parent), m_row(row), m_client(&client)
 {
     auto *const layout = new QVBoxLayout(this);
@@ -63,7 +63,8 @@ void FeatureRow::place()
         return;
     if (auto *const number = qobject_cast<NumberEditor *>(m_editor))
         number->setSliderUse(m_row.slider);
-    m_editor->setLabel(m_row.label);
+    if (!m_row.label.isEmpty())
+        m_editor->setLabel(m_row.label);
     layout()->addWidget(m_editor);
     setVisible(!m_row.isSelector || state->availableEntries.size() > 1);
     emit found(m_editor);

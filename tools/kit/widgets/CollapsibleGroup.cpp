@@ -1,4 +1,4 @@
-#include "tools/imageviewer/panel/CollapsibleGroup.h"
+#include "tools/kit/widgets/CollapsibleGroup.h"
 
 #include <QToolButton>
 #include <QVBoxLayout>
