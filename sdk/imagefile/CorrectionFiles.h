@@ -2,6 +2,7 @@
 
 #include "sdk/image/Correction.h"
 #include "sdk/imagefile/CameraRecord.h"
+#include "sdk/imagefile/MapOrigin.h"
 
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -12,6 +13,7 @@
 struct CorrectionSource
 {
     std::shared_ptr<const Correction> correction; ///< Null: pictures are not corrected.
+    std::vector<MapOrigin> origins; ///< Of each file.
     /// For sidecars: a list with "file", "format", "created" and "camera" of each file.
     nlohmann::ordered_json files = nlohmann::ordered_json::array();
     std::string problem; ///< Why the files cannot be used, for people; empty if they can.
@@ -21,7 +23,7 @@ struct CorrectionSource
 /// is, not its name. Two files of the same kind are refused.
 CorrectionSource readCorrection(const std::vector<std::string> &paths);
 
-/// Returns why the correction does not fit the settings of the camera: the pictures of a file were mirrored,
-/// binned or decimated in another way, as far as both records say it. Pictures themselves do not tell that.
-/// Empty if nothing speaks against the correction.
-std::string settingsProblem(const CorrectionSource &source, const CameraRecord &camera);
+/// Returns why the correction does not fit the camera, as far as both records say it: the files are of
+/// another camera, or its pictures were mirrored, binned or decimated in another way. Pictures themselves do
+/// not tell that. Empty if nothing speaks against the correction.
+std::string cameraProblem(const CorrectionSource &source, const CameraRecord &camera);

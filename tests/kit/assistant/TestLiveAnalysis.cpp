@@ -33,7 +33,8 @@ struct AnalysisTest
     std::atomic<bool> wasOnGuiThread = false;
     bool wasDeliveredElsewhere = false;
     QVector<int> delivered;
-    LiveAnalysis analysis{[this](const std::shared_ptr<const Image> &image) { return analyse(image); }, maxRate};
+    LiveAnalysis analysis{
+        [this](const std::shared_ptr<const Image> &image) { return analyse(image); }, maxRate};
 };
 
 } // namespace

@@ -147,15 +147,14 @@ void PlanBuilder::checkLimits()
                                        "to %2 µs, so the picture becomes darker: add light or gain."),
             {SentenceNumber{m_camera.facts.exposure, 1}, SentenceNumber{*m_plan.exposure, 1}}});
     if (std::abs(m_plan.errorPercent) > largeErrorPercent)
-        m_plan.warnings.push_back(
-            {m_plan.errorPercent > 0
-                    ? QT_TRANSLATE_NOOP("Sentence",
-                        "The closest setting of the camera makes objects %1 % too tall. Change the "
-                        "magnification, or use another encoder.")
-                    : QT_TRANSLATE_NOOP("Sentence",
-                        "The closest setting of the camera makes objects %1 % too flat. Change the "
-                        "magnification, or use another encoder."),
-                {SentenceNumber{std::abs(m_plan.errorPercent), 1}}});
+        m_plan.warnings.push_back({m_plan.errorPercent > 0
+                ? QT_TRANSLATE_NOOP("Sentence",
+                    "The closest setting of the camera makes objects %1 % too tall. Change the "
+                    "magnification, or use another encoder.")
+                : QT_TRANSLATE_NOOP("Sentence",
+                    "The closest setting of the camera makes objects %1 % too flat. Change the "
+                    "magnification, or use another encoder."),
+            {SentenceNumber{std::abs(m_plan.errorPercent), 1}}});
 }
 
 void PlanBuilder::planRate()
