@@ -25,6 +25,7 @@ int main(int argc, char *argv[])
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
     addThermalCommand(program, status);
+    addLineScanCommand(program, status);
 
     catchInterruption();
     try {
