@@ -24,6 +24,8 @@ int main(int argc, char *argv[])
     addRecordCommand(program, status);
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
+    addThermalCommand(program, status);
+    addLineScanCommand(program, status);
 
     catchInterruption();
     try {
