@@ -41,8 +41,10 @@ nlohmann::ordered_json tapDocument(const CameraRecord &camera, const TapResult &
         content["gain"] = toJson(*result.gain);
     if (result.blackLevel)
         content["blackLevel"] = toJson(*result.blackLevel);
-    return {{"format", "corvix-x-taps"}, {"version", 1}, {"created", utcNow()},
-        {"camera", cameraJson(camera)}, {"result", std::move(content)}};
+    nlohmann::ordered_json document{{"format", "corvix-x-taps"}, {"version", 1}, {"created", utcNow()}};
+    document.update(cameraJson(camera));
+    document["result"] = std::move(content);
+    return document;
 }
 
 std::string writeTapTable(const std::string &path, const TapResult &result)

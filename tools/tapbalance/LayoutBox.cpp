@@ -1,0 +1,86 @@
+#include "tools/tapbalance/LayoutBox.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QSpinBox>
+#include <QStandardItemModel>
+
+namespace {
+
+enum Source
+{
+    FromCamera,
+    ByHand
+};
+
+} // namespace
+
+LayoutBox::LayoutBox(QWidget *parent)
+    : QWidget(parent), m_source(new QComboBox), m_byHand(new QWidget), m_reference(new QComboBox)
+{
+    auto *const form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    m_source->addItem(tr("As the camera says"));
+    m_source->addItem(tr("By hand"));
+    form->addRow(tr("Taps:"), m_source);
+
+    auto *const byHand = new QFormLayout(m_byHand);
+    byHand->setContentsMargins(0, 0, 0, 0);
+    m_zonesX = addNumber(tr("Side by side:"), tr("Stripes of the picture, from left to right"), 2, 16);
+    m_zonesY = addNumber(tr("One above the other:"), tr("Stripes of the picture, from top to bottom"), 1, 4);
+    m_tapsX = addNumber(tr("Neighbouring columns:"),
+        tr("Taps that read the columns of a stripe in turn; 1 if a stripe has one tap"), 1, 8);
+    form->addRow(m_byHand);
+
+    m_reference->addItem(tr("Mean of all taps"));
+    m_reference->addItem(tr("Tap 1"));
+    form->addRow(tr("Compare with:"), m_reference);
+    m_images = new QSpinBox;
+    m_images->setRange(2, 256);
+    m_images->setValue(8);
+    m_images->setToolTip(tr("Images of each measurement; more images make the numbers more certain"));
+    form->addRow(tr("Images:"), m_images);
+
+    connect(m_source, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LayoutBox::followSource);
+    connect(m_reference, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LayoutBox::changed);
+    connect(m_images, QOverload<int>::of(&QSpinBox::valueChanged), this, &LayoutBox::changed);
+    followSource();
+}
+
+QSpinBox *LayoutBox::addNumber(const QString &label, const QString &toolTip, int value, int maximum)
+{
+    auto *const box = new QSpinBox;
+    box->setRange(1, maximum);
+    box->setValue(value);
+    box->setToolTip(toolTip);
+    static_cast<QFormLayout *>(m_byHand->layout())->addRow(label, box);
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &LayoutBox::changed);
+    return box;
+}
+
+TapOptions LayoutBox::options() const
+{
+    TapOptions options;
+    if (m_source->currentIndex() == ByHand)
+        options.layout = TapLayout{static_cast<unsigned>(m_zonesX->value()),
+            static_cast<unsigned>(m_tapsX->value()), static_cast<unsigned>(m_zonesY->value()), 1};
+    options.reference = m_reference->currentIndex() == 0 ? TapReference::Mean : TapReference::FirstTap;
+    options.images = static_cast<std::size_t>(m_images->value());
+    return options;
+}
+
+void LayoutBox::setGeometry(const QString &geometry)
+{
+    const bool isKnown = parseTapGeometry(geometry.toStdString()).has_value();
+    m_source->setItemText(
+        FromCamera, isKnown ? tr("As the camera says (%1)").arg(geometry) : tr("The camera does not say it"));
+    static_cast<QStandardItemModel *>(m_source->model())->item(FromCamera)->setEnabled(isKnown);
+    if (!isKnown)
+        m_source->setCurrentIndex(ByHand);
+}
+
+void LayoutBox::followSource()
+{
+    m_byHand->setVisible(m_source->currentIndex() == ByHand);
+    emit changed();
+}
