@@ -1,6 +1,7 @@
 #include "tools/tapbalance/LayoutBox.h"
 
-#include <QComboBox>
+#include "tools/kit/widgets/ComboBox.h"
+
 #include <QFormLayout>
 #include <QSpinBox>
 #include <QStandardItemModel>

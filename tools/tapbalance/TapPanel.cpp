@@ -48,11 +48,11 @@ TapPanel::TapPanel(TapSession &session, QWidget *parent)
     layout->setSpacing(10);
     layout->addWidget(m_mismatch);
     layout->addWidget(m_bars);
-    layout->addWidget(m_table);
-    layout->addWidget(m_layout);
     layout->addWidget(m_steps);
+    layout->addWidget(m_table);
     m_table->setObjectName(QStringLiteral("tapTable"));
     m_table->setAccessibleName(tr("Mean and noise of each tap"));
+    m_table->setToolTip(tr("Shading changes the means, so the steps at the borders say how the taps differ."));
     addSteps();
     connect(m_layout, &LayoutBox::changed, this, [this] { m_session.setOptions(m_layout->options()); });
     connect(&m_session, &TapSession::changed, this, &TapPanel::showResult);
@@ -65,9 +65,10 @@ TapPanel::TapPanel(TapSession &session, QWidget *parent)
 
 void TapPanel::addSteps()
 {
-    m_steps->addStep(tr("Measure"),
+    StepCard *const measure = m_steps->addStep(tr("Measure"),
         tr("Show an even, bright surface that fills the picture, for example a white sheet out of focus."),
         tr("Measure the taps"));
+    measure->addWidget(m_layout);
     StepCard *const black = m_steps->addStep(tr("Black levels"),
         tr("Cover the lens. Without this step, differences of the black levels count as those of the gains."),
         tr("Balance the black levels"));
