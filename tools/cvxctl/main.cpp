@@ -26,6 +26,7 @@ int main(int argc, char *argv[])
     addDoctorCommand(program, status);
     addThermalCommand(program, status);
     addLineScanCommand(program, status);
+    addFocusCommand(program, status);
 
     catchInterruption();
     try {
