@@ -24,6 +24,7 @@ int main(int argc, char *argv[])
     addRecordCommand(program, status);
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
+    addFlatFieldCommand(program, status);
 
     catchInterruption();
     try {
