@@ -54,6 +54,8 @@ constexpr IntegerRule integerRules[] = {
     {Id::AcquisitionLineRateEnable, {0, 1, 1}},
     {Id::TriggerMode, {0, 1, 1}},
     {Id::TriggerActivation, {0, 2, 1}},
+    {Id::TriggerDivider, {1, 256, 1}},
+    {Id::TriggerMultiplier, {1, 64, 1}},
     {Id::ExposureAuto, {0, 2, 1}},
     {Id::LineSelector, {0, 1, 1}},
     {Id::GainRaw, {0, 3600, 1}},

@@ -46,3 +46,9 @@ double encoderFrequency(const RegisterBank &bank)
         ? bank.real(Id::EncoderSpeed) * edges / static_cast<double>(bank.integer(Id::EncoderDivider))
         : 0;
 }
+
+double triggersPerPulse(const RegisterBank &bank, std::size_t trigger)
+{
+    return static_cast<double>(bank.integer(Id::TriggerMultiplier, trigger))
+        / static_cast<double>(bank.integer(Id::TriggerDivider, trigger));
+}

@@ -2,6 +2,7 @@
 
 #include "sdk/simulator/RegisterBank.h"
 
+#include <cstddef>
 #include <cstdint>
 
 /// A simulated square wave at an input of the camera. All times are nanoseconds of the monotonic clock.
@@ -21,3 +22,7 @@ struct LineSignal
 
 /// Returns the pulses per second that the encoder passes on: none unless both of its sources are connected.
 double encoderFrequency(const RegisterBank &bank);
+
+/// Returns the triggers for each pulse of the trigger's source.
+/// @param trigger One of the values of TriggerSelector.
+double triggersPerPulse(const RegisterBank &bank, std::size_t trigger);

@@ -79,8 +79,11 @@ RegisterBank powerOnRegisters(const CameraModel &model)
     bank.setReal(Id::AcquisitionFrameRate, 25);
     bank.setInteger(Id::AcquisitionLineRateEnable, model.sensor.isLineScan);
     bank.setReal(Id::AcquisitionLineRate, 10'000);
-    for (std::size_t trigger = 0; trigger < triggerCount; ++trigger)
+    for (std::size_t trigger = 0; trigger < triggerCount; ++trigger) {
         bank.setInteger(Id::TriggerSource, softwareSource, trigger);
+        bank.setInteger(Id::TriggerDivider, 1, trigger);
+        bank.setInteger(Id::TriggerMultiplier, 1, trigger);
+    }
     bank.setReal(Id::Gamma, 1);
     const std::array<double, 3> response = SensorFlaws::colorResponse();
     for (std::size_t color = 0; color < response.size(); ++color)

@@ -91,6 +91,8 @@ enum class RegisterUse
     X(TriggerSource, Integer, 3, Setting, "TriggerSelector", "") \
     X(TriggerActivation, Integer, 3, Setting, "TriggerSelector", "") \
     X(TriggerDelay, Float, 3, Setting, "TriggerSelector", "") \
+    X(TriggerDivider, Integer, 3, Setting, "TriggerSelector", "") \
+    X(TriggerMultiplier, Integer, 3, Setting, "TriggerSelector", "") \
     X(TriggerSoftware, Integer, 3, Command, "TriggerSelector", "") \
     X(ExposureAuto, Integer, 1, Setting, "", "*") \
     X(ExposureTime, Float, 1, Setting, "", "*") \

@@ -40,13 +40,19 @@ void setGeometry(RenderSettings &settings, const RegisterBank &bank)
     settings.pixelFormat = static_cast<std::uint32_t>(bank.integer(Id::PixelFormat));
 }
 
+double encoderLineRate(const RegisterBank &bank)
+{
+    const bool isAnyEdge = bank.integer(Id::TriggerActivation, lineStartTrigger) == anyEdge;
+    return encoderFrequency(bank) * triggersPerPulse(bank, lineStartTrigger) * (isAnyEdge ? 2 : 1);
+}
+
 void setLines(RenderSettings &settings, const RegisterBank &bank)
 {
     const bool isEncoder = bank.isOn(Id::TriggerMode, lineStartTrigger)
         && bank.integer(Id::TriggerSource, lineStartTrigger) == encoderSource;
-    const double speed = encoderFrequency(bank) * static_cast<double>(bank.integer(Id::EncoderDivider));
-    settings.lineStep = isEncoder ? static_cast<double>(bank.integer(Id::EncoderDivider))
-                                  : speed / bank.real(Id::AcquisitionLineRate);
+    const double lineRate = isEncoder ? encoderLineRate(bank) : bank.real(Id::AcquisitionLineRate);
+    // The object moves by one line of the scene per cycle of the encoder. Without pulses, there are no lines.
+    settings.lineStep = lineRate > 0 ? bank.real(Id::EncoderSpeed) / lineRate : 1;
     settings.lineJitter = isEncoder ? 0 : 0.3;
 }
 

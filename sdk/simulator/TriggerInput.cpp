@@ -2,6 +2,7 @@
 
 #include "sdk/simulator/LineSignal.h"
 
+#include <cmath>
 #include <tuple>
 
 using Id = RegisterId;
@@ -42,15 +43,18 @@ void TriggerInput::updateSource(const RegisterBank &bank)
         m_input = lineInput + line;
         m_frequency = bank.real(Id::LineSignalFrequency, line);
     }
+    m_triggersPerPulse = triggersPerPulse(bank, m_trigger);
+    m_frequency *= m_triggersPerPulse;
 }
 
 std::optional<std::int64_t> TriggerInput::take(std::uint32_t count, std::int64_t from)
 {
     if (m_frequency > 0)
         return LineSignal{m_frequency}.edgeTime(m_activation, from, count) + m_delay;
-    if (!m_input || m_registers.pulses(*m_input) - m_usedPulses < count)
+    const auto pulses = static_cast<std::uint32_t>(std::ceil(count / m_triggersPerPulse));
+    if (!m_input || m_registers.pulses(*m_input) - m_usedPulses < pulses)
         return std::nullopt;
-    m_usedPulses += count;
+    m_usedPulses += pulses;
     return monotonicNow() + m_delay;
 }
 

@@ -35,6 +35,7 @@ private:
     double m_frequency = 0; // Frequency of the signal; 0 if the source counts pulses.
     std::int64_t m_activation = 0;
     std::int64_t m_delay = 0; // Nanoseconds.
+    double m_triggersPerPulse = 1;
     std::optional<std::size_t> m_input; // Input that counts the pulses; nothing for the encoder.
     std::uint32_t m_usedPulses = 0;
 };

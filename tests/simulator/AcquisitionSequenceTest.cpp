@@ -3,6 +3,7 @@
 #include "sdk/simulator/AcquisitionSequence.h"
 #include "sdk/simulator/CameraTemperature.h"
 #include "sdk/simulator/LineSignal.h"
+#include "sdk/simulator/SceneSettings.h"
 #include "tests/simulator/TestCamera.h"
 
 #include <gtest/gtest.h>
@@ -216,4 +217,40 @@ TEST_F(AcquisitionSequenceTest, imageOfALineScanCameraNeedsATriggerForEachLine)
         registers.addPulse(lineStartTrigger);
     }
     EXPECT_TRUE(sequence.nextImage().has_value());
+}
+
+TEST_F(AcquisitionSequenceTest, multiplierAndDividerChangeTheNumberOfTriggers)
+{
+    RegisterBank bank = registersWith({{Id::Height, 10}}, {{Id::EncoderSpeed, 500}}, true);
+    bank.setInteger(Id::TriggerMode, 1, lineStartTrigger);
+    bank.setInteger(Id::TriggerSource, encoderSource, lineStartTrigger);
+    bank.setInteger(Id::TriggerMultiplier, 2, lineStartTrigger);
+    bank.setInteger(Id::TriggerDivider, 5, lineStartTrigger);
+    bank.setInteger(Id::AcquisitionLineRateEnable, 0);
+    update(bank, 1001 * oneMillisecond); // 200 lines per oneSecond.
+    EXPECT_EQ(sequence.nextImage(), 1050 * oneMillisecond);
+    bank.setInteger(Id::TriggerSource, softwareSource, lineStartTrigger);
+    bank.setInteger(Id::AcquisitionStarts, 2);
+    bank.setInteger(Id::AcquisitionActive, 1);
+    sequence.update(bank, oneSecond);
+    for (int pulse = 0; pulse < 25; ++pulse) {
+        EXPECT_EQ(sequence.nextImage(), std::nullopt);
+        registers.addPulse(lineStartTrigger);
+    }
+    EXPECT_TRUE(sequence.nextImage().has_value());
+}
+
+TEST(SceneSettings, objectMovesByOneLineOfTheScenePerCycleOfTheEncoder)
+{
+    RegisterBank bank = registersWith({{Id::EncoderDivider, 3}}, {{Id::EncoderSpeed, 5000}}, true);
+    EXPECT_DOUBLE_EQ(sceneSettings(bank).lineStep, 0.5); // 10,000 lines per second.
+    bank.setInteger(Id::TriggerMode, 1, lineStartTrigger);
+    bank.setInteger(Id::TriggerSource, encoderSource, lineStartTrigger);
+    EXPECT_DOUBLE_EQ(sceneSettings(bank).lineStep, 3);
+    bank.setInteger(Id::EncoderMode, 1); // Counts all four edges.
+    bank.setInteger(Id::TriggerMultiplier, 5, lineStartTrigger);
+    bank.setInteger(Id::TriggerDivider, 2, lineStartTrigger);
+    EXPECT_DOUBLE_EQ(sceneSettings(bank).lineStep, 3.0 / 4 * 2 / 5);
+    bank.setInteger(Id::TriggerActivation, anyEdge, lineStartTrigger);
+    EXPECT_DOUBLE_EQ(sceneSettings(bank).lineStep, 3.0 / 4 * 2 / 5 / 2);
 }

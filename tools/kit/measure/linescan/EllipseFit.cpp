@@ -165,8 +165,8 @@ std::vector<FitPoint> Ellipse::outline(int count) const
     for (int i = 0; i < count; ++i) {
         const double angle = fullTurn * i / count;
         const double x = std::cos(angle);
-        points.push_back({centerX + halfWidth * x,
-            centerY + halfHeight * (correlation * x + rest * std::sin(angle))});
+        points.push_back(
+            {centerX + halfWidth * x, centerY + halfHeight * (correlation * x + rest * std::sin(angle))});
     }
     return points;
 }

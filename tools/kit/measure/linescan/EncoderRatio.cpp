@@ -29,8 +29,7 @@ struct BestRatio
 /// Returns the largest allowed value that is not above the wanted one, or the smallest allowed one.
 std::int64_t allowedBelow(const FactorRange &range, double wanted)
 {
-    const double limited
-        = std::clamp(wanted, static_cast<double>(range.min), static_cast<double>(range.max));
+    const double limited = std::clamp(wanted, static_cast<double>(range.min), static_cast<double>(range.max));
     const auto steps = static_cast<std::int64_t>(
         (limited - static_cast<double>(range.min)) / static_cast<double>(range.increment));
     return range.min + steps * range.increment;

@@ -136,8 +136,8 @@ private:
         if (CvxResult result = readState("DeviceScanType", scanType); !result)
             return result;
         camera.takesLines = scanType.value == NodeValue("Linescan") || camera.find(LineFeature::LineRate);
-        camera.binning = readNumber("BinningHorizontal").value_or(1)
-            * readNumber("DecimationHorizontal").value_or(1);
+        camera.binning
+            = readNumber("BinningHorizontal").value_or(1) * readNumber("DecimationHorizontal").value_or(1);
         camera.sensorPixelSize = readNumber("SensorPixelWidth");
         RateFacts &facts = camera.facts;
         if (const LineFeatureState *const exposure = camera.find(LineFeature::ExposureTime)) {

@@ -40,8 +40,8 @@ Sentence problemOf(const LineScanInputs &inputs)
     if (isNegative(inputs))
         return {QT_TRANSLATE_NOOP("Sentence", "Every number must be greater than 0.")};
     if (!objectPixelOf(inputs, 1))
-        return {QT_TRANSLATE_NOOP("Sentence",
-            "Enter the pixel size and the magnification, or the size of a pixel on the object.")};
+        return {QT_TRANSLATE_NOOP(
+            "Sentence", "Enter the pixel size and the magnification, or the size of a pixel on the object.")};
     if (inputs.trigger == LineScanInputs::Trigger::LineRate && inputs.speed <= 0)
         return {QT_TRANSLATE_NOOP("Sentence", "Enter the speed of the object.")};
     if (inputs.trigger == LineScanInputs::Trigger::Encoder && !encoderStepOf(inputs))

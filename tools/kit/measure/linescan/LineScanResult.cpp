@@ -1,6 +1,7 @@
 #include "tools/kit/measure/linescan/LineScanResult.h"
 
 #include "sdk/features/SettingLabel.h"
+#include "sdk/imagefile/OutputFile.h"
 #include "sdk/imagefile/Sidecar.h"
 
 namespace {
@@ -22,9 +23,9 @@ void addTargets(std::string &csv, const char *when, const std::optional<Roundnes
         return;
     for (const RoundTarget &target : roundness->targets) {
         csv += when;
-        for (const double number : {target.ellipse.centerX, target.ellipse.centerY,
-                 2 * target.ellipse.halfWidth, 2 * target.ellipse.halfHeight, target.heightToWidth(),
-                 target.turnDegrees(), target.residual})
+        for (const double number :
+            {target.ellipse.centerX, target.ellipse.centerY, 2 * target.ellipse.halfWidth,
+                2 * target.ellipse.halfHeight, target.heightToWidth(), target.turnDegrees(), target.residual})
             csv += ',' + numberCell(number);
         csv += '\n';
     }
@@ -48,10 +49,10 @@ nlohmann::ordered_json toJson(const Roundness &roundness)
 
 nlohmann::ordered_json resultJson(const LineScanResult &result, const CameraRecord &camera)
 {
-    nlohmann::ordered_json json{
-        {"format", "corvix-x-linescan"}, {"version", 1}, {"created", utcNow()}, {"camera", cameraJson(camera)}};
-    json["result"] = {
-        {"inputs", toJson(result.inputs)}, {"plan", toJson(result.plan)}, {"isApplied", result.isApplied}};
+    nlohmann::ordered_json json{{"format", "corvix-x-linescan"}, {"version", 1}, {"created", utcNow()},
+        {"camera", cameraJson(camera)}};
+    json["result"]
+        = {{"inputs", toJson(result.inputs)}, {"plan", toJson(result.plan)}, {"isApplied", result.isApplied}};
     if (result.before)
         json["result"]["before"] = toJson(*result.before);
     if (result.after)
@@ -63,11 +64,29 @@ std::string resultCsv(const LineScanResult &result)
 {
     std::string csv = "setting,before,value\n";
     for (const PlannedSetting &setting : result.plan.settings) {
-        csv += cell(settingLabel(setting.name, setting.selectors)) + ',' + cell(plannedValueText(setting.before)) + ','
-            + cell(plannedValueText(setting.value)) + '\n';
+        csv += cell(settingLabel(setting.name, setting.selectors)) + ','
+            + cell(plannedValueText(setting.before)) + ',' + cell(plannedValueText(setting.value)) + '\n';
     }
     csv += "\nmeasured,centerX,centerY,width,height,heightToWidth,turnDegrees,residual\n";
     addTargets(csv, "before", result.before);
     addTargets(csv, "after", result.after);
     return csv;
+}
+
+std::string tablePath(const std::string &resultPath)
+{
+    const std::size_t slash = resultPath.rfind('/');
+    const std::size_t nameBegin = slash == std::string::npos ? 0 : slash + 1;
+    const std::size_t dot = resultPath.rfind('.');
+    const bool hasEnding = dot != std::string::npos && dot > nameBegin;
+    return resultPath.substr(0, hasEnding ? dot : resultPath.size()) + ".csv";
+}
+
+std::string writeLineScanCsv(const std::string &path, const LineScanResult &result)
+{
+    const std::string csv = resultCsv(result);
+    OutputFile file;
+    if (file.createHidden(path) && file.append(csv.data(), csv.size()))
+        file.publish();
+    return file.problem();
 }

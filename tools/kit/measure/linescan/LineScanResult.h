@@ -22,3 +22,9 @@ nlohmann::ordered_json resultJson(const LineScanResult &result, const CameraReco
 /// Returns a table of the settings and of the measured targets, with commas and points, and with a header
 /// line for each of the two parts.
 std::string resultCsv(const LineScanResult &result);
+
+/// Returns the name of the table that belongs to a result file: with the ending ".csv".
+std::string tablePath(const std::string &resultPath);
+
+/// Writes the table. Returns why that failed; empty if it succeeded.
+std::string writeLineScanCsv(const std::string &path, const LineScanResult &result);

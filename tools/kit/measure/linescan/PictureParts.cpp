@@ -95,11 +95,9 @@ std::vector<PicturePart> pictureParts(const GreyPicture &picture, float threshol
     std::vector<PicturePart> parts;
     for (const bool isBright : {false, true})
         addParts(picture, threshold, isBright, minSize, parts);
-    const auto area = [](const PicturePart &part) {
-        return static_cast<std::int64_t>(part.width()) * part.height();
-    };
-    std::stable_sort(parts.begin(), parts.end(), [area](const PicturePart &left, const PicturePart &right) {
-        return area(left) > area(right);
-    });
+    const auto area
+        = [](const PicturePart &part) { return static_cast<std::int64_t>(part.width()) * part.height(); };
+    std::stable_sort(parts.begin(), parts.end(),
+        [area](const PicturePart &left, const PicturePart &right) { return area(left) > area(right); });
     return parts;
 }

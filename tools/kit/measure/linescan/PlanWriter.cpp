@@ -40,8 +40,7 @@ Sentence refusedSetting(Device &device, const PlannedSetting &refused, const Cvx
 {
     if (Sentence sentence = refusedRate(device, refused, result); !sentence.isEmpty())
         return sentence;
-    return {QT_TRANSLATE_NOOP("Sentence",
-                "The camera has refused %1, so nothing was changed. %2"),
+    return {QT_TRANSLATE_NOOP("Sentence", "The camera has refused %1, so nothing was changed. %2"),
         {settingText(refused), result.text}};
 }
 

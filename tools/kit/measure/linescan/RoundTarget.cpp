@@ -48,9 +48,8 @@ struct PartOutline
 /// Returns where the brightness crosses the threshold, 0 to 1 from the inner to the outer pixel.
 double crossing(float inner, float outer, float threshold)
 {
-    return inner == outer
-        ? 0.5
-        : std::clamp(static_cast<double>((threshold - inner) / (outer - inner)), 0.0, 1.0);
+    return inner == outer ? 0.5
+                          : std::clamp(static_cast<double>((threshold - inner) / (outer - inner)), 0.0, 1.0);
 }
 
 /// The points of the border. Where the border is more vertical than horizontal, lines cut it more precisely
@@ -64,8 +63,7 @@ std::vector<FitPoint> borderPoints(const GreyPicture &picture, const PicturePart
     const double height = part.height();
     std::vector<FitPoint> points;
     const auto add = [&](int x, int y, int stepX, int stepY) {
-        const double share
-            = crossing(picture.at(x, y), picture.at(x + stepX, y + stepY), threshold);
+        const double share = crossing(picture.at(x, y), picture.at(x + stepX, y + stepY), threshold);
         const FitPoint point{x + 0.5 + stepX * share, y + 0.5 + stepY * share};
         const double across = std::abs(point.x - centerX) / width;
         const double along = std::abs(point.y - centerY) / height;
@@ -105,7 +103,8 @@ Region searchedRegion(const RawImage &picture, const TargetColumns &columns)
 {
     if (columns.count == 0)
         return {0, 0, picture.width, picture.height};
-    const std::uint32_t first = std::min(columns.first, picture.width) & ~1U; // Whole cells of Bayer patterns.
+    const std::uint32_t first
+        = std::min(columns.first, picture.width) & ~1U; // Whole cells of Bayer patterns.
     return {first, 0, std::min(columns.count, picture.width - first), picture.height};
 }
 
@@ -118,15 +117,16 @@ bool containsColumn(const RoundTarget &target, const std::optional<double> &colu
 
 double RoundTarget::turnDegrees() const
 {
-    return std::asin(std::clamp(-ellipse.correlation, -1.0, 1.0)) * degreesPerRadian;
+    return 0 - std::asin(std::clamp(ellipse.correlation, -1.0, 1.0)) * degreesPerRadian;
 }
 
 TargetSearch RoundTargetFinder::find(const RawImage &picture, const TargetColumns &columns)
 {
     const Region region = searchedRegion(picture, columns);
-    const Sentence noTarget{QT_TRANSLATE_NOOP("Sentence",
-                                "There is no complete round target in the picture of %1 lines. Show the camera "
-                                "a dark or bright disc or ring, or make the picture higher (Height)."),
+    const Sentence noTarget{
+        QT_TRANSLATE_NOOP("Sentence",
+            "There is no complete round target in the picture of %1 lines. Show the camera "
+            "a dark or bright disc or ring, or make the picture higher (Height)."),
         {SentenceNumber{static_cast<double>(picture.height)}}};
     if (region.width < minSize || region.height < minSize)
         return {std::nullopt, noTarget};

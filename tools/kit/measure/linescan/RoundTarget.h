@@ -28,8 +28,8 @@ struct RoundTarget
     double heightToWidth() const { return ellipse.halfHeight / ellipse.halfWidth; }
 
     /// Returns the angle in degrees by which the sensor's line is turned against the perpendicular of the
-    /// movement. With x' = x / cos(angle) and y' = (y - x tan(angle)) / pitch, the correlation of the border's
-    /// coordinates is -sin(angle).
+    /// movement. With x' = x / cos(angle) and y' = (y - x tan(angle)) / pitch, the correlation of the
+    /// border's coordinates is -sin(angle).
     double turnDegrees() const;
 };
 

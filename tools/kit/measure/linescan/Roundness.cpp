@@ -13,10 +13,8 @@ constexpr double hertzPerKilohertz = 1e3;
 double medianWidth(std::vector<RoundTarget> targets)
 {
     const auto middle = targets.begin() + static_cast<std::ptrdiff_t>(targets.size() / 2);
-    std::nth_element(
-        targets.begin(), middle, targets.end(), [](const RoundTarget &a, const RoundTarget &b) {
-            return a.ellipse.halfWidth < b.ellipse.halfWidth;
-        });
+    std::nth_element(targets.begin(), middle, targets.end(),
+        [](const RoundTarget &a, const RoundTarget &b) { return a.ellipse.halfWidth < b.ellipse.halfWidth; });
     return middle->ellipse.halfWidth;
 }
 
@@ -57,27 +55,22 @@ Sentence measureRoundness(
     std::vector<RoundTarget> targets;
     std::size_t images = 0;
     Sentence problem;
-    // Every image is a step; a target in each makes the measurement shorter.
-    for (; images < options.maxImages && targets.size() < options.targets; ++images) {
-        if (!context.progress(targets.size(), options.targets))
-            return cancelledSentence();
-        const MeasureProgress onlyCancel
-            = [&context, &targets, &options](std::size_t, std::size_t) {
-                  return context.progress(targets.size(), options.targets);
-              };
-        const MeasureContext one{context.device, context.frames, onlyCancel};
-        const Sentence failed
-            = takeImages(one, 1, usualImageLimit, [&](const Image &image) -> Sentence {
-                  TargetSearch search = finder.find(rawImage(image), options.columns);
-                  if (search.target)
-                      targets.push_back(*search.target);
-                  else
-                      problem = search.problem;
-                  return {};
-              });
-        if (!failed.isEmpty())
-            return failed;
-    }
+    const MeasureProgress progress = [&](std::size_t, std::size_t) {
+        return context.progress(targets.size(), options.targets); // Targets are what a person waits for.
+    };
+    const Sentence enough = untranslated("There are enough targets."); // Ends the loop; is not shown.
+    const auto take = [&](const Image &image) -> Sentence {
+        ++images;
+        const TargetSearch search = finder.find(rawImage(image), options.columns);
+        problem = search.problem;
+        if (search.target)
+            targets.push_back(*search.target);
+        return targets.size() < options.targets ? Sentence() : enough;
+    };
+    const Sentence ended
+        = takeImages({context.device, context.frames, progress}, options.maxImages, usualImageLimit, take);
+    if (!ended.isEmpty() && targets.size() < options.targets)
+        return ended;
     if (targets.empty())
         return problem;
     roundness = roundnessOf(targets, images);
@@ -93,18 +86,19 @@ Sentence roundnessSentence(const Roundness &roundness, const LineScanCamera &cam
     const SentenceNumber percent{std::abs(error), 1};
     if (camera.usesEncoder()) {
         const double lines = camera.presentRatio().linesPerPulse();
-        return {error > 0 ? QT_TRANSLATE_NOOP("Sentence",
-                                "The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.")
-                          : QT_TRANSLATE_NOOP("Sentence",
-                                "The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3."),
+        return {error > 0
+                ? QT_TRANSLATE_NOOP("Sentence",
+                    "The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.")
+                : QT_TRANSLATE_NOOP("Sentence",
+                    "The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3."),
             {percent, SentenceNumber{lines, 4}, SentenceNumber{lines * roundness.rateFactor(), 4}}};
     }
     const LineFeatureState *const rate = camera.find(LineFeature::LineRate);
     const double kilohertz = rate ? rate->number() / hertzPerKilohertz : 0;
-    return {error > 0 ? QT_TRANSLATE_NOOP("Sentence",
-                            "The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.")
+    return {error > 0 ? QT_TRANSLATE_NOOP(
+                "Sentence", "The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.")
                       : QT_TRANSLATE_NOOP("Sentence",
-                            "The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz."),
+                          "The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz."),
         {percent, SentenceNumber{kilohertz, 3}, SentenceNumber{kilohertz * roundness.rateFactor(), 3}}};
 }
 
@@ -118,8 +112,7 @@ std::optional<LineScanInputs> correctedInputs(
     LineScanInputs corrected = inputs;
     if (camera.usesEncoder()) {
         corrected.trigger = LineScanInputs::Trigger::Encoder;
-        const double step
-            = camera.presentRatio().linesPerPulse() * roundness.rateFactor() * millimetres;
+        const double step = camera.presentRatio().linesPerPulse() * roundness.rateFactor() * millimetres;
         if (corrected.encoderStep <= 0 && corrected.pulsesPerRevolution > 0)
             corrected.rollerDiameter *= step / encoderStepOf(inputs).value_or(step);
         else
