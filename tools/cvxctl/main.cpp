@@ -25,6 +25,7 @@ int main(int argc, char *argv[])
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
     addDefectsCommand(program, status);
+    addFlatFieldCommand(program, status);
     addThermalCommand(program, status);
     addLineScanCommand(program, status);
     addFocusCommand(program, status);
