@@ -24,6 +24,11 @@ int main(int argc, char *argv[])
     addRecordCommand(program, status);
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
+    addDefectsCommand(program, status);
+    addFlatFieldCommand(program, status);
+    addThermalCommand(program, status);
+    addLineScanCommand(program, status);
+    addFocusCommand(program, status);
 
     catchInterruption();
     try {
