@@ -25,6 +25,10 @@ int main(int argc, char *argv[])
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
     addFocusCommand(program, status);
+    addThermalCommand(program, status);
+    addDefectsCommand(program, status);
+    addFlatFieldCommand(program, status);
+    addLineScanCommand(program, status);
 
     catchInterruption();
     try {
