@@ -127,7 +127,7 @@ TEST(FocusMeter, RegionWithoutEdgesIsMarkedAndTheOthersAreNot)
     constexpr std::uint32_t height = 240;
     std::vector<std::uint8_t> bytes(std::size_t{width} * height, 90);
     for (std::size_t i = 0; i < bytes.size(); ++i)
-        if (i % width >= width / 2)
+        if (i % width >= width / 2 + 8)
             bytes[i] = static_cast<std::uint8_t>(i / 6 % 2 == 0 ? 60 : 140);
     FocusOptions options;
     options.grid = {4, 3};
