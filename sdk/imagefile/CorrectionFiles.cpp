@@ -121,6 +121,19 @@ CorrectionSource readCorrection(const std::vector<std::string> &paths)
     return std::move(parts.source);
 }
 
+PlacedCorrection placedCorrection(const CorrectionSource &source, const CvxCPP::ImageInfo &image)
+{
+    return {source.correction, image.offsetX, image.offsetY};
+}
+
+std::string correctionProblem(const CorrectionSource &source, const CvxCPP::ImageInfo &image)
+{
+    if (!source.correction)
+        return {};
+    return source.correction->problem(
+        image.pixelFormat, image.offsetX, image.offsetY, image.width, image.height);
+}
+
 std::string cameraProblem(const CorrectionSource &source, const CameraRecord &camera)
 {
     for (std::size_t i = 0; i < source.origins.size(); ++i) {

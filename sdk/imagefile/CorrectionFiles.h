@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CvxCPP/Image.h"
 #include "sdk/image/Correction.h"
 #include "sdk/imagefile/CameraRecord.h"
 #include "sdk/imagefile/MapOrigin.h"
@@ -22,6 +23,12 @@ struct CorrectionSource
 /// Reads a defect map (JSON or CSV) and a flat field (TIFF), or one of them. The contents decide what a file
 /// is, not its name. Two files of the same kind are refused.
 CorrectionSource readCorrection(const std::vector<std::string> &paths);
+
+/// Returns the correction at the place of the image on the sensor.
+PlacedCorrection placedCorrection(const CorrectionSource &source, const CvxCPP::ImageInfo &image);
+
+/// Returns why the image cannot be corrected; empty if it can, or if there is no correction.
+std::string correctionProblem(const CorrectionSource &source, const CvxCPP::ImageInfo &image);
 
 /// Returns why the correction does not fit the camera, as far as both records say it: the files are of
 /// another camera, or its pictures were mirrored, binned or decimated in another way. Pictures themselves do

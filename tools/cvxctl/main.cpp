@@ -25,6 +25,8 @@ int main(int argc, char *argv[])
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
     addDefectsCommand(program, status);
+    addThermalCommand(program, status);
+    addLineScanCommand(program, status);
 
     catchInterruption();
     try {

@@ -109,7 +109,7 @@ void TestMeasureJob::workReceivesTheImagesOfTheStream()
     QVERIFY(test.waitForEnd());
     QCOMPARE(*test.problem, QString());
     QCOMPARE(ids, (std::vector<std::uint64_t>{1, 2, 3}));
-    QCOMPARE(id, std::string("CAM-1"));
+    QCOMPARE(id, std::string("test.cti/interface/CAM-1"));
     QVERIFY(!test.job.isRunning());
     QCOMPARE(test.stream.state(), LiveStream::State::Running); // The live picture goes on.
 }

@@ -40,7 +40,7 @@ TEST(TemperatureReaderTest, readsEveryPlaceAndPutsTheSelectorBack)
 {
     WarmCamera camera;
     TemperatureSource source;
-    ASSERT_TRUE(findTemperatures(camera, true, source).isEmpty());
+    ASSERT_TRUE(findTemperatures(camera, source).isEmpty());
     EXPECT_THAT(source.places, ElementsAre("Sensor", "Mainboard"));
     const TemperatureReading reading = readTemperatures(camera, source);
     EXPECT_TRUE(reading.problem);
@@ -52,7 +52,9 @@ TEST(TemperatureReaderTest, readsThePresentPlaceWithoutWriting)
 {
     WarmCamera camera;
     TemperatureSource source;
-    ASSERT_TRUE(findTemperatures(camera, false, source).isEmpty());
+    camera.feature("DeviceTemperatureSelector").rule
+        = [](CvxCPP::NodeState &state) { state.lockReason = CvxCPP::LockReason::Watching; };
+    ASSERT_TRUE(findTemperatures(camera, source).isEmpty());
     EXPECT_THAT(source.places, ElementsAre("Mainboard"));
     EXPECT_THAT(readTemperatures(camera, source).celsius, ElementsAre(Optional(50.5)));
     EXPECT_TRUE(camera.writes.empty());
@@ -62,7 +64,7 @@ TEST(TemperatureReaderTest, hasNoValueForALostCamera)
 {
     WarmCamera camera;
     TemperatureSource source;
-    ASSERT_TRUE(findTemperatures(camera, true, source).isEmpty());
+    ASSERT_TRUE(findTemperatures(camera, source).isEmpty());
     camera.callsUntilLoss = camera.callCount;
     const TemperatureReading reading = readTemperatures(camera, source);
     EXPECT_EQ(reading.problem.code, CvxCPP::CvxErrorDeviceLost);
@@ -73,7 +75,7 @@ TEST(TemperatureReaderTest, readsTheOtherPlacesIfOneFails)
 {
     HalfReadableCamera camera;
     TemperatureSource source;
-    ASSERT_TRUE(findTemperatures(camera, true, source).isEmpty());
+    ASSERT_TRUE(findTemperatures(camera, source).isEmpty());
     const TemperatureReading reading = readTemperatures(camera, source);
     EXPECT_THAT(reading.celsius, ElementsAre(std::nullopt, Optional(50.5)));
     EXPECT_FALSE(reading.problem);
@@ -85,17 +87,17 @@ TEST(TemperatureReaderTest, knowsTheNamesOfOlderCameras)
     ScriptedDevice old;
     old.add("TemperatureAbs", 41.0);
     TemperatureSource source;
-    ASSERT_TRUE(findTemperatures(old, true, source).isEmpty());
+    ASSERT_TRUE(findTemperatures(old, source).isEmpty());
     EXPECT_EQ(source.feature, "TemperatureAbs");
     EXPECT_THAT(source.places, ElementsAre(""));
     EXPECT_THAT(readTemperatures(old, source).celsius, ElementsAre(Optional(41.0)));
 
     ScriptedDevice raw;
     raw.add("DeviceTemperatureRaw", std::int64_t(1234));
-    EXPECT_STREQ(findTemperatures(raw, true, source).text,
+    EXPECT_STREQ(findTemperatures(raw, source).text,
         "The camera has no feature DeviceTemperature, so it does not report its temperature.");
     raw.feature("DeviceTemperatureRaw").info.unit = "C";
-    EXPECT_TRUE(findTemperatures(raw, true, source).isEmpty());
+    EXPECT_TRUE(findTemperatures(raw, source).isEmpty());
 }
 
 } // namespace

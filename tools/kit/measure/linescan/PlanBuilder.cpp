@@ -11,6 +11,15 @@ constexpr double micrometresPerMillimetre = 1e3;
 constexpr double largeErrorPercent = 0.5; // Half of what a round object may be off.
 constexpr double equalNumbers = 1e-9;
 
+/// Returns the number without digits that only come from the calculation, so that a rate and an exposure that
+/// fit exactly are not above their limits.
+double roundedDown(double value)
+{
+    constexpr double stepsPerUnit = 1e3;
+    constexpr double calculationError = 1e-6; // Steps.
+    return std::floor(value * stepsPerUnit + calculationError) / stepsPerUnit;
+}
+
 /// Returns the nearest value that the feature allows.
 double allowedNumber(const LineFeatureState &feature, double value)
 {
@@ -92,7 +101,7 @@ bool PlanBuilder::calculateRate()
             "trigger.")};
         return false;
     }
-    m_plan.rate = allowedNumber(*feature, *m_plan.wantedRate);
+    m_plan.rate = allowedNumber(*feature, roundedDown(*m_plan.wantedRate));
     m_plan.errorPercent = (*m_plan.rate / *m_plan.wantedRate - 1) * 100;
     return true;
 }
@@ -125,7 +134,7 @@ void PlanBuilder::calculateExposure()
     m_plan.longestExposure = m_limits.longestExposure(*m_plan.rate);
     const bool isTooLong = m_camera.facts.exposure > *m_plan.longestExposure * (1 + equalNumbers);
     if (isTooLong || m_inputs.usesLongestExposure)
-        m_plan.exposure = allowedExposure(*feature, *m_plan.longestExposure);
+        m_plan.exposure = allowedExposure(*feature, roundedDown(*m_plan.longestExposure));
 }
 
 void PlanBuilder::checkLimits()

@@ -27,14 +27,14 @@ const NodeInfo *findNode(Device &device, const std::vector<NodeInfo> &nodes, con
     return states.front().access == NodeAccess::NotImplemented ? nullptr : &*node;
 }
 
-void addPlaces(Device &device, const std::string &selector, bool canSelect, TemperatureSource &source)
+void addPlaces(Device &device, const std::string &selector, TemperatureSource &source)
 {
     std::vector<NodeState> states;
     if (!device.ReadStates({selector}, states) || states.empty())
         return;
     source.selector = selector;
     source.places = states.front().availableEntries;
-    const bool isFixed = !canSelect || states.front().lockReason != LockReason::None;
+    const bool isFixed = states.front().lockReason != LockReason::None;
     if (const auto *const present = std::get_if<std::string>(&states.front().value);
         present && (isFixed || source.places.empty()))
         source.places = {*present};
@@ -50,7 +50,7 @@ std::optional<double> number(const NodeValue &value)
 
 } // namespace
 
-Sentence findTemperatures(Device &device, bool canSelect, TemperatureSource &source)
+Sentence findTemperatures(Device &device, TemperatureSource &source)
 {
     std::vector<NodeInfo> nodes;
     if (const CvxResult result = device.GetNodes(nodes); !result)
@@ -61,7 +61,7 @@ Sentence findTemperatures(Device &device, bool canSelect, TemperatureSource &sou
             continue;
         source = {name, {}, {}};
         if (!node->selectors.empty())
-            addPlaces(device, node->selectors.front(), canSelect, source);
+            addPlaces(device, node->selectors.front(), source);
         if (source.places.empty())
             source.places = {""};
         return {};
