@@ -1,6 +1,7 @@
 // Measures conversions of pictures of 2448 x 2048 pixels on one core. Prints one line per conversion and
 // round, with fields separated by tabs: the name, gigabytes of output per second, those of memcpy() of as
-// many bytes, those of libswscale for the same conversion or 0.
+// many bytes, those of libswscale for the same conversion or 0. For a conversion with corrections, the last
+// one is that of the same conversion without.
 //
 // usage: bench_pixel_formats ROUNDS [NAME]   with NAME: only the conversions whose names contain it
 
@@ -44,6 +45,7 @@ struct Conversion
     std::uint32_t outputHeight = height;
     AVPixelFormat theirFormat = AV_PIX_FMT_NONE; ///< The format for libswscale, if it knows it.
     int theirFlags = SWS_FAST_BILINEAR;
+    bool isCorrected = false; ///< With a defect map and a flat field.
 };
 
 const std::vector<Conversion> conversions = {
@@ -70,7 +72,27 @@ const std::vector<Conversion> conversions = {
     {"YUV422_8_UYVY to RGB", "YUV422_8_UYVY", Output::Screen, width, height, AV_PIX_FMT_UYVY422},
     {"YCbCr420_8 semiplanar to RGB", "YCbCr420_8_YY_CbCr_Semiplanar", Output::Screen, width, height,
         AV_PIX_FMT_NV12},
+    {"BayerRG8 to RGB, corrected", "BayerRG8", Output::Screen, width, height, AV_PIX_FMT_NONE, 0, true},
+    {"Mono12p to 8 bits, corrected", "Mono12p", Output::Screen, width, height, AV_PIX_FMT_NONE, 0, true},
 };
+
+/// Returns a flat field with shading, and a defect map with one pixel of 1000 and two columns.
+std::shared_ptr<const Correction> makeCorrection(unsigned depth)
+{
+    FlatField field{0, 0, width, height, depth, 0, {}, {}};
+    DefectMap map{width, height, {}};
+    const auto range = static_cast<float>(1U << depth);
+    for (std::uint32_t y = 0; y < height; ++y) {
+        for (std::uint32_t x = 0; x < width; ++x) {
+            field.offset.push_back(range * 0.0001F * static_cast<float>(std::rand() % 100));
+            const float distance = static_cast<float>(x) / static_cast<float>(width) - 0.5F;
+            field.gain.push_back(1 + distance * distance);
+            if (std::rand() % 1000 == 0 || x == 700 || x == 1500)
+                map.pixels.push_back({x, y, DefectKind::Hot, 9});
+        }
+    }
+    return std::make_shared<Correction>(std::move(map), std::move(field));
+}
 
 /// Returns the processor time of this thread in microseconds.
 double threadTime()
@@ -92,7 +114,8 @@ public:
     void measureRound();
 
 private:
-    void convert(std::size_t index);
+    void convert(std::size_t index) { convert(m_converter, index); }
+    void convert(ImageConverter &converter, std::size_t index);
     void convertTheirs(std::size_t index);
     double speed(const std::function<void(std::size_t)> &convert);
 
@@ -104,6 +127,7 @@ private:
     std::vector<std::vector<std::uint8_t>> m_outputs;
     std::size_t m_index = 0; ///< Position of the next buffers.
     ImageConverter m_converter;
+    ImageConverter m_uncorrected;
     SwsContext *m_context = nullptr;
 };
 
@@ -121,6 +145,8 @@ Measurement::Measurement(const Conversion &conversion)
         byte = static_cast<std::uint8_t>(std::rand() >> 8);
     m_inputs.assign(ringBytes / inputBytes + 1, input);
     m_outputs.assign(ringBytes / m_outputBytes + 1, std::vector<std::uint8_t>(m_outputBytes + 64, 1));
+    if (conversion.isCorrected)
+        m_converter.setCorrection({makeCorrection(findPixelFormat(m_code)->depth)});
     if (conversion.theirFormat == AV_PIX_FMT_NONE)
         return;
     m_context
@@ -132,19 +158,19 @@ Measurement::Measurement(const Conversion &conversion)
         sws_getCoefficients(SWS_CS_DEFAULT), 1, 0, 1 << 16, 1 << 16);
 }
 
-void Measurement::convert(std::size_t index)
+void Measurement::convert(ImageConverter &converter, std::size_t index)
 {
     const std::vector<std::uint8_t> &input = m_inputs[index % m_inputs.size()];
     std::uint8_t *const output = m_outputs[index % m_outputs.size()].data();
     const RawImage picture = {input.data(), input.size(), width, height, 0, m_code, false};
     const Region all = {0, 0, width, height};
     if (m_conversion.output == Output::Words) {
-        m_converter.toWords(picture, all, reinterpret_cast<std::uint16_t *>(output), m_lineBytes / 2);
+        converter.toWords(picture, all, reinterpret_cast<std::uint16_t *>(output), m_lineBytes / 2);
         return;
     }
     const Demosaicing demosaicing
         = m_conversion.output == Output::EdgeAwareScreen ? Demosaicing::EdgeAware : Demosaicing::Bilinear;
-    m_converter.toScreen(picture, {all, m_conversion.outputWidth, m_conversion.outputHeight, demosaicing},
+    converter.toScreen(picture, {all, m_conversion.outputWidth, m_conversion.outputHeight, demosaicing},
         output, m_lineBytes);
 }
 
@@ -177,7 +203,11 @@ void Measurement::measureRound()
         std::memcpy(m_outputs[index % m_outputs.size()].data(),
             m_outputs[(index + m_outputs.size() / 2) % m_outputs.size()].data(), m_outputBytes);
     });
-    const double theirs = m_context ? speed([this](std::size_t index) { convertTheirs(index); }) : 0;
+    double theirs = 0;
+    if (m_context)
+        theirs = speed([this](std::size_t index) { convertTheirs(index); });
+    if (m_conversion.isCorrected)
+        theirs = speed([this](std::size_t index) { convert(m_uncorrected, index); });
     std::printf("%s\t%f\t%f\t%f\n", m_conversion.name, ours, copy, theirs);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "CvxCPP/Image.h"
 #include "sdk/image/Correction.h"
 #include "sdk/imagefile/CameraRecord.h"
+#include "sdk/imagefile/MapOrigin.h"
 
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -12,6 +14,7 @@
 struct CorrectionSource
 {
     std::shared_ptr<const Correction> correction; ///< Null: pictures are not corrected.
+    std::vector<MapOrigin> origins; ///< Of each file.
     /// For sidecars: a list with "file", "format", "created" and "camera" of each file.
     nlohmann::ordered_json files = nlohmann::ordered_json::array();
     std::string problem; ///< Why the files cannot be used, for people; empty if they can.
@@ -21,7 +24,13 @@ struct CorrectionSource
 /// is, not its name. Two files of the same kind are refused.
 CorrectionSource readCorrection(const std::vector<std::string> &paths);
 
-/// Returns why the correction does not fit the settings of the camera: the pictures of a file were mirrored,
-/// binned or decimated in another way, as far as both records say it. Pictures themselves do not tell that.
-/// Empty if nothing speaks against the correction.
-std::string settingsProblem(const CorrectionSource &source, const CameraRecord &camera);
+/// Returns the correction at the place of the image on the sensor.
+PlacedCorrection placedCorrection(const CorrectionSource &source, const CvxCPP::ImageInfo &image);
+
+/// Returns why the image cannot be corrected; empty if it can, or if there is no correction.
+std::string correctionProblem(const CorrectionSource &source, const CvxCPP::ImageInfo &image);
+
+/// Returns why the correction does not fit the camera, as far as both records say it: the files are of
+/// another camera, or its pictures were mirrored, binned or decimated in another way. Pictures themselves do
+/// not tell that. Empty if nothing speaks against the correction.
+std::string cameraProblem(const CorrectionSource &source, const CameraRecord &camera);

@@ -43,4 +43,5 @@ struct DefectMapReading
 
 /// Reads a JSON or CSV file. Width and height of a map from a CSV file are 0, because they are not known; the
 /// height is 1 for a line scan sensor. Maps of more than 500000 pixels are refused.
+
 DefectMapReading readDefectMap(const std::string &path);

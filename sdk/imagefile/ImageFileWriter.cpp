@@ -34,9 +34,12 @@ std::string ImageFileWriter::write(
     const CvxCPP::Image &image, const std::string &path, ImageFileFormat format, const CameraRecord &camera)
 {
     if (format != ImageFileFormat::Raw) {
-        const std::string problem = imageFileProblem(image.GetInfo());
+        std::string problem = imageFileProblem(image.GetInfo());
+        if (problem.empty())
+            problem = correctionProblem(m_correction, image.GetInfo());
         if (!problem.empty())
             return problem;
+        m_converter.setCorrection(placedCorrection(m_correction, image.GetInfo()));
     }
     OutputFile file;
     if (!file.createHidden(path) || !writePicture(file, image, format, camera, m_converter))
@@ -44,6 +47,8 @@ std::string ImageFileWriter::write(
     if (!isSpecialFile(path)) {
         nlohmann::ordered_json json{{"file", std::filesystem::path(path).filename().string()},
             {"format", formatText(format)}, {"image", imageJson(image)}};
+        if (format != ImageFileFormat::Raw && m_correction.correction)
+            json["corrections"] = m_correction.files;
         json.update(cameraJson(camera));
         if (std::string problem = writeSidecar(sidecarPath(path), json); !problem.empty())
             return problem;

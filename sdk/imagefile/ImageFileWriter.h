@@ -2,6 +2,7 @@
 
 #include "CvxCPP/Image.h"
 #include "sdk/imagefile/CameraRecord.h"
+#include "sdk/imagefile/CorrectionFiles.h"
 #include "sdk/imagefile/ImageFileFormat.h"
 #include "sdk/imagefile/SampleConverter.h"
 
@@ -11,6 +12,10 @@
 class ImageFileWriter
 {
 public:
+    /// Corrects the pictures of the PNG and TIFF files that follow; their sidecars name the files of the
+    /// correction. Raw files stay what the camera has sent.
+    void setCorrection(CorrectionSource correction) { m_correction = std::move(correction); }
+
     /// Writes the file and its sidecar; existing ones are replaced. Whoever sees the file sees all of it, and
     /// its sidecar too. A pipe or a device gets no sidecar. Returns why the file cannot be written, for
     /// people; empty if it was.
@@ -18,5 +23,6 @@ public:
         const CameraRecord &camera);
 
 private:
+    CorrectionSource m_correction;
     SampleConverter m_converter;
 };

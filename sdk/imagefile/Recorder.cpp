@@ -1,6 +1,7 @@
 #include "sdk/imagefile/Recorder.h"
 
 #include "sdk/imagefile/DiskSpace.h"
+#include "sdk/imagefile/ImageFileFormat.h"
 #include "sdk/imagefile/OutputFile.h"
 #include "sdk/imagefile/Sidecar.h"
 
@@ -14,11 +15,13 @@ Recorder::~Recorder()
 std::string Recorder::open(const std::string &path, const CameraRecord &camera)
 {
     m_path = path;
-    m_file = createRecordingFile(path, camera);
+    m_file = createRecordingFile(path, camera, m_correction);
     if (std::string problem = m_file->problem(); !problem.empty())
         return problem;
     m_sidecar = {{"file", std::filesystem::path(path).filename().string()},
         {"recording", {{"started", utcNow()}, {"ended", nullptr}}}};
+    if (m_correction.correction && imageFileFormat(path) == ImageFileFormat::Tiff)
+        m_sidecar["corrections"] = m_correction.files;
     m_sidecar.update(cameraJson(camera));
     if (std::string problem = updateSidecar(); !problem.empty())
         return problem;

@@ -40,6 +40,10 @@ public:
     /// if it succeeded.
     std::string open(const std::string &path, const CameraRecord &camera);
 
+    /// Corrects the pictures of a TIFF recording; the sidecar names the files of the correction. Raw
+    /// recordings stay what the camera has sent. Call this function before open().
+    void setCorrection(CorrectionSource correction) { m_correction = std::move(correction); }
+
     /// Appends an image. Returns immediately. Once a failure has ended the recording, images are only
     /// counted.
     void add(std::shared_ptr<const CvxCPP::Image> image);
@@ -63,6 +67,7 @@ private:
     std::string updateSidecar() const;
     void end();
 
+    CorrectionSource m_correction;
     std::string m_path;
     nlohmann::ordered_json m_sidecar;
     std::unique_ptr<RecordingFile> m_file; // Used by the thread while it runs.

@@ -15,10 +15,11 @@ bool isTiff(const std::string &path)
 
 } // namespace
 
-std::unique_ptr<RecordingFile> createRecordingFile(const std::string &path, const CameraRecord &camera)
+std::unique_ptr<RecordingFile> createRecordingFile(
+    const std::string &path, const CameraRecord &camera, const CorrectionSource &correction)
 {
     if (isTiff(path))
-        return std::make_unique<TiffRecording>(path, camera);
+        return std::make_unique<TiffRecording>(path, camera, correction);
     return std::make_unique<RawRecording>(path);
 }
 

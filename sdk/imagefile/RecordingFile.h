@@ -2,6 +2,7 @@
 
 #include "CvxCPP/Image.h"
 #include "sdk/imagefile/CameraRecord.h"
+#include "sdk/imagefile/CorrectionFiles.h"
 
 #include <cstdint>
 #include <memory>
@@ -24,8 +25,10 @@ public:
 };
 
 /// Creates or replaces the file: a BigTIFF file if its name ends in ".tif" or ".tiff", otherwise a raw file
-/// with an index. RecordingFile::problem() says if that failed.
-std::unique_ptr<RecordingFile> createRecordingFile(const std::string &path, const CameraRecord &camera);
+/// with an index. RecordingFile::problem() says if that failed. Pictures of a TIFF file are corrected; raw
+/// files stay what the camera has sent.
+std::unique_ptr<RecordingFile> createRecordingFile(
+    const std::string &path, const CameraRecord &camera, const CorrectionSource &correction);
 
 /// How many bytes an image takes in a recording, without what describes it.
 struct RecordedSize

@@ -60,6 +60,19 @@ Region wholePicture(const RawImage &picture)
 
 } // namespace
 
+void SampleConverter::setCorrection(const PlacedCorrection &correction)
+{
+    m_correction = correction;
+    m_converter.setCorrection(correction);
+}
+
+bool SampleConverter::isCorrected(const RawImage &picture) const
+{
+    const auto &[correction, offsetX, offsetY] = m_correction;
+    return correction
+        && correction->problem(picture.pixelFormat, offsetX, offsetY, picture.width, picture.height).empty();
+}
+
 Samples SampleConverter::unscaled(const RawImage &picture)
 {
     const PixelFormat &format = *findPixelFormat(picture.pixelFormat);
@@ -67,7 +80,7 @@ Samples SampleConverter::unscaled(const RawImage &picture)
     samples.width = picture.width;
     samples.height = picture.height;
     samples.data = picture.data;
-    if (isStoredAlready(picture, format, samples))
+    if (isStoredAlready(picture, format, samples) && !isCorrected(picture))
         return samples;
     // Chroma becomes colours, and the colours of 565 get the same depth.
     const bool isConverted

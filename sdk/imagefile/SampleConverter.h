@@ -11,6 +11,9 @@
 class SampleConverter
 {
 public:
+    /// Corrects the pictures that follow, unless the correction does not fit them; see Correction::problem().
+    void setCorrection(const PlacedCorrection &correction);
+
     /// Returns the samples with the values that the camera has measured: 8 bits if the format has at most 8,
     /// otherwise 16. Bayer pictures keep their pattern. A picture in memory that already looks like this is
     /// not copied.
@@ -23,6 +26,9 @@ public:
     Samples fullRange16(const RawImage &picture);
 
 private:
+    bool isCorrected(const RawImage &picture) const;
+
+    PlacedCorrection m_correction;
     ImageConverter m_converter;
     std::vector<std::uint16_t> m_words;
     std::vector<std::uint8_t> m_bytes;

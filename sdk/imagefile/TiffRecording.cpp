@@ -18,7 +18,8 @@ std::string tiffTime(const std::string &time)
 
 } // namespace
 
-TiffRecording::TiffRecording(const std::string &path, const CameraRecord &camera) : m_camera(camera)
+TiffRecording::TiffRecording(const std::string &path, const CameraRecord &camera, CorrectionSource correction)
+    : m_camera(camera), m_correction(std::move(correction))
 {
     m_file.create(path);
 }
@@ -27,6 +28,9 @@ bool TiffRecording::append(const CvxCPP::Image &image)
 {
     if (const std::string problem = imageFileProblem(image.GetInfo()); !problem.empty())
         return m_file.fail(problem);
+    if (const std::string problem = correctionProblem(m_correction, image.GetInfo()); !problem.empty())
+        return m_file.fail(problem);
+    m_converter.setCorrection(placedCorrection(m_correction, image.GetInfo()));
     return m_writer.append(m_converter.unscaled(rawImage(image)), tiffTexts(image, m_camera));
 }
 

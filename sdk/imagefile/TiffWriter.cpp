@@ -85,18 +85,24 @@ bool setText(TIFF *tiff, std::uint32_t tag, const std::string &text)
     return text.empty() || TIFFSetField(tiff, tag, text.c_str()) != 0;
 }
 
+bool setNumbers(TIFF *tiff, const Samples &samples)
+{
+    if (samples.isFloat)
+        return TIFFSetField(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_IEEEFP) != 0;
+    const unsigned maximum = (1U << (samples.significantBits - (samples.isSigned ? 1U : 0U))) - 1;
+    return TIFFSetField(tiff, TIFFTAG_MAXSAMPLEVALUE, maximum) != 0
+        && (!samples.isSigned || TIFFSetField(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_INT) != 0);
+}
+
 bool setLayout(TIFF *tiff, const Samples &samples)
 {
     const unsigned colors = samples.isColor ? 3 : 1;
     const std::array<std::uint16_t, 4> extraSamples{}; // Without a meaning that a reader would use.
     const unsigned extraCount = samples.channels - colors;
-    const unsigned maximum = (1U << (samples.significantBits - (samples.isSigned ? 1U : 0U))) - 1;
     return TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, samples.width) != 0
         && TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, samples.height) != 0
         && TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, samples.channels) != 0
-        && TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, samples.bits) != 0
-        && TIFFSetField(tiff, TIFFTAG_MAXSAMPLEVALUE, maximum) != 0
-        && (!samples.isSigned || TIFFSetField(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_INT) != 0)
+        && TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, samples.bits) != 0 && setNumbers(tiff, samples)
         && TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, samples.isColor ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK)
         != 0
         && (extraCount == 0 || TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, extraCount, extraSamples.data()) != 0)
@@ -119,6 +125,17 @@ bool writeStrip(TIFF *tiff, const Samples &samples)
     return TIFFWriteRawStrip(tiff, 0, const_cast<std::uint8_t *>(samples.data), size) == size;
 }
 
+/// Returns a number of 2, 4 or 8 bytes in the byte order of this machine, which is that of the file.
+std::uint64_t numberAt(const std::uint8_t *bytes, std::size_t size)
+{
+    std::uint64_t number = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        constexpr bool isBigEndian = __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__;
+        number |= std::uint64_t(bytes[i]) << (8 * (isBigEndian ? size - 1 - i : i));
+    }
+    return number;
+}
+
 /// Writes an image at the end of the target.
 bool writeImage(TiffTarget &target, const char *mode, const Samples &samples, const TiffTexts &texts)
 {
@@ -139,29 +156,28 @@ TiffWriter::TiffWriter(OutputFile &file, Variant variant) : m_file(file), m_vari
     silenceLibrary();
 }
 
+TiffWriter::Links TiffWriter::linksOf(Variant variant)
+{
+    return variant == Variant::Big ? Links{16, 8, 8, 8, 20} : Links{8, 4, 4, 2, 12};
+}
+
 bool TiffWriter::append(const Samples &samples, const TiffTexts &texts)
 {
-    const bool isBig = m_variant == Variant::Big;
+    const Links links = linksOf(m_variant);
     const std::uint64_t start = m_file.size();
-    const std::uint64_t headerSize = isBig ? 16 : 8;
-    TiffTarget target{m_file, headerSize, std::max(start, headerSize)};
-    if (!writeImage(target, isBig ? "w8" : "w", samples, texts)) {
+    TiffTarget target{m_file, links.headerSize, std::max(start, links.headerSize)};
+    if (!writeImage(target, m_variant == Variant::Big ? "w8" : "w", samples, texts)) {
         m_file.fail("libtiff does not accept the image");
         m_file.truncate(start);
         return false;
     }
-    if (!isBig)
-        return m_file.write(0, target.header.data(), headerSize);
-
-    std::uint64_t directory = 0;
-    std::uint64_t entries = 0;
-    constexpr std::size_t directoryOffset = 8; // In the header.
-    constexpr std::size_t entrySize = 20;
-    std::memcpy(&directory, target.header.data() + directoryOffset, sizeof directory);
-    if (!m_file.read(directory, &entries, sizeof entries))
+    const std::uint8_t *const link = target.header.data() + links.headerLink;
+    const std::uint64_t directory = numberAt(link, links.linkSize);
+    std::array<std::uint8_t, 8> count{};
+    if (!m_file.read(directory, count.data(), links.countSize))
         return false;
-    const bool isLinked = m_linkPosition == 0 ? m_file.write(0, target.header.data(), headerSize)
-                                              : m_file.write(m_linkPosition, &directory, sizeof directory);
-    m_linkPosition = directory + sizeof entries + entries * entrySize;
+    const bool isLinked = m_linkPosition == 0 ? m_file.write(0, target.header.data(), links.headerSize)
+                                              : m_file.write(m_linkPosition, link, links.linkSize);
+    m_linkPosition = directory + links.countSize + numberAt(count.data(), links.countSize) * links.entrySize;
     return isLinked;
 }

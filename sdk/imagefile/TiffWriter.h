@@ -23,8 +23,8 @@ class TiffWriter
 public:
     enum class Variant
     {
-        Classic, ///< At most 4 GiB; one image. Every program reads this variant.
-        Big ///< BigTIFF: without this limit, any number of images.
+        Classic, ///< At most 4 GiB. Every program reads this variant.
+        Big ///< BigTIFF: without this limit.
     };
 
     /// The file is empty and outlives the writer.
@@ -34,6 +34,17 @@ public:
     bool append(const Samples &samples, const TiffTexts &texts);
 
 private:
+    /// How a variant stores links: in its header and behind the entries of a directory.
+    struct Links
+    {
+        std::uint64_t headerSize;
+        std::size_t headerLink; ///< Position of the first link in the header.
+        std::size_t linkSize;
+        std::size_t countSize; ///< Bytes of the number of entries.
+        std::size_t entrySize;
+    };
+    static Links linksOf(Variant variant);
+
     OutputFile &m_file;
     const Variant m_variant;
     std::uint64_t m_linkPosition = 0; // Where the position of the next directory belongs.

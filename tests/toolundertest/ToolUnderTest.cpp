@@ -10,6 +10,23 @@
 #include <QSet>
 #include <QTimer>
 
+namespace {
+
+/// Returns the controls that can be seen and reached with the keyboard.
+QSet<QWidget *> visibleControls(const QMainWindow &window)
+{
+    QSet<QWidget *> controls;
+    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy()
+            && !qobject_cast<QAbstractScrollArea *>(widget))
+            controls.insert(widget);
+    }
+    return controls;
+}
+
+} // namespace
+
 void processEvents(int milliseconds)
 {
     // QCoreApplication::processEvents() with a time limit does not wait, but keeps a processor busy.
@@ -41,19 +58,14 @@ void signalCameraHost(const QString &signal)
 
 QStringList unnamedControls(QMainWindow &window, int &count)
 {
-    QSet<QWidget *> controls;
+    QSet<QWidget *> controls = visibleControls(window);
     const QList<QDockWidget *> docks = window.findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks) {
         dock->show();
         dock->raise();
         await([dock] { return !dock->visibleRegion().isEmpty(); });
         QCoreApplication::processEvents(); // The content gets its place.
-        const QList<QWidget *> widgets = window.findChildren<QWidget *>();
-        for (QWidget *widget : widgets) {
-            if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy()
-                && !qobject_cast<QAbstractScrollArea *>(widget))
-                controls.insert(widget);
-        }
+        controls += visibleControls(window);
     }
     count = controls.size();
     QStringList unnamed;

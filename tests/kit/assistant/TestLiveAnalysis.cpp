@@ -20,7 +20,8 @@ struct AnalysisTest
 {
     LiveAnalysis::Deliver analyse(const std::shared_ptr<const Image> &image)
     {
-        wasOnGuiThread |= QThread::currentThread() == QCoreApplication::instance()->thread();
+        if (QThread::currentThread() == QCoreApplication::instance()->thread())
+            wasOnGuiThread = true;
         if (beforeResult)
             beforeResult();
         return [this, id = int(image->GetInfo().frameId)] {
@@ -33,7 +34,8 @@ struct AnalysisTest
     std::atomic<bool> wasOnGuiThread = false;
     bool wasDeliveredElsewhere = false;
     QVector<int> delivered;
-    LiveAnalysis analysis{[this](const std::shared_ptr<const Image> &image) { return analyse(image); }, maxRate};
+    LiveAnalysis analysis{
+        [this](const std::shared_ptr<const Image> &image) { return analyse(image); }, maxRate};
 };
 
 } // namespace

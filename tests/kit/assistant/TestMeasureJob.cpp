@@ -37,7 +37,7 @@ struct JobTest
 {
     explicit JobTest(CvxAccess access = CvxAccessControl)
     {
-        device->add(NodeType::Integer, "Width", std::int64_t(4));
+        device->add("Gain", 1.0);
         connection.open(OpenableCamera::entry(camera), access);
         QVERIFY(
             QTest::qWaitFor([this] { return connection.state() == CameraConnection::State::Open; }, bound));
@@ -77,6 +77,9 @@ private slots:
     void workReceivesTheImagesOfTheStream();
     void progressIsReported();
     void nextJobCanBeStartedWhenOneIsDone();
+    void settingsArePutBackUnlessTheyAreKept_data();
+    void settingsArePutBackUnlessTheyAreKept();
+    void settingsThatWereNotPutBackAreReported();
     void failedWorkSaysWhy();
     void cancelledWorkIsNoSuccess();
     void lostCameraEndsTheWork();
@@ -106,7 +109,7 @@ void TestMeasureJob::workReceivesTheImagesOfTheStream()
     QVERIFY(test.waitForEnd());
     QCOMPARE(*test.problem, QString());
     QCOMPARE(ids, (std::vector<std::uint64_t>{1, 2, 3}));
-    QCOMPARE(id, std::string("CAM-1"));
+    QCOMPARE(id, std::string("test.cti/interface/CAM-1"));
     QVERIFY(!test.job.isRunning());
     QCOMPARE(test.stream.state(), LiveStream::State::Running); // The live picture goes on.
 }
@@ -128,7 +131,8 @@ void TestMeasureJob::progressIsReported()
     QCOMPARE(test.job.done(), std::size_t(3));
     QCOMPARE(test.job.total(), std::size_t(10));
     QVERIFY(goesOn);
-    test.start([](const MeasureContext &, const CameraRecord &) -> Sentence { qFatal("Two jobs at a time"); });
+    test.start(
+        [](const MeasureContext &, const CameraRecord &) -> Sentence { qFatal("Two jobs at a time"); });
     gate.open();
     QVERIFY(test.waitForEnd());
     QCOMPARE(test.job.title(), QString());
@@ -143,6 +147,43 @@ void TestMeasureJob::nextJobCanBeStartedWhenOneIsDone()
         test.job.start("Second"_s, Changes::Keep, succeed, &test.context, [&](const QString &) { ++count; });
     });
     QTRY_COMPARE_WITH_TIMEOUT(count, 1, bound);
+}
+
+void TestMeasureJob::settingsArePutBackUnlessTheyAreKept_data()
+{
+    QTest::addColumn<bool>("keeps");
+    QTest::addColumn<bool>("fails");
+    QTest::addColumn<double>("gain");
+    QTest::newRow("measured") << false << false << 1.0;
+    QTest::newRow("set") << true << false << 2.0;
+    QTest::newRow("not set completely") << true << true << 1.0;
+}
+
+void TestMeasureJob::settingsArePutBackUnlessTheyAreKept()
+{
+    QFETCH(bool, keeps);
+    QFETCH(bool, fails);
+    JobTest test;
+    const auto work = [fails](const MeasureContext &context, const CameraRecord &) {
+        (void)context.device.Write("Gain", 2.0);
+        return fails ? Sentence{"The camera refuses the value."} : Sentence{};
+    };
+    test.start(work, keeps ? Changes::Keep : Changes::PutBack);
+    QVERIFY(test.waitForEnd());
+    QCOMPARE(test.problem->isEmpty(), !fails);
+    const NodeValue gain = test.device->change([](ScriptedDevice &device) { return device.value("Gain"); });
+    QTEST(std::get<double>(gain), "gain");
+}
+
+void TestMeasureJob::settingsThatWereNotPutBackAreReported()
+{
+    JobTest test;
+    test.start([](const MeasureContext &context, const CameraRecord &) {
+        (void)context.device.EndTemporaryChanges(TemporaryChanges::Keep); // The next call fails.
+        return Sentence{"Too dark."};
+    });
+    QVERIFY(test.waitForEnd());
+    QVERIFY2(test.problem->startsWith("Too dark. Some settings"_s), qPrintable(*test.problem));
 }
 
 void TestMeasureJob::failedWorkSaysWhy()

@@ -153,6 +153,22 @@ CvxResult TestDevice::Execute(const std::string &name)
     return ScriptedDevice::Execute(name);
 }
 
+CvxResult TestDevice::BeginTemporaryChanges()
+{
+    if (CvxResult result = begin("BeginTemporaryChanges", {}); !result)
+        return result;
+    const std::lock_guard lock(m_mutex);
+    return ScriptedDevice::BeginTemporaryChanges();
+}
+
+CvxResult TestDevice::EndTemporaryChanges(TemporaryChanges how)
+{
+    if (CvxResult result = begin("EndTemporaryChanges", {}); !result)
+        return result;
+    const std::lock_guard lock(m_mutex);
+    return ScriptedDevice::EndTemporaryChanges(how);
+}
+
 CvxResult TestDevice::AddObserver(const std::shared_ptr<IDeviceObserver> &observer)
 {
     const std::lock_guard lock(m_mutex);

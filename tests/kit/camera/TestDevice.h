@@ -52,6 +52,8 @@ public:
     CvxCPP::CvxResult Read(const std::string &name, CvxCPP::NodeValue &value) override;
     CvxCPP::CvxResult Write(const std::string &name, const CvxCPP::NodeValue &value) override;
     CvxCPP::CvxResult Execute(const std::string &name) override;
+    CvxCPP::CvxResult BeginTemporaryChanges() override;
+    CvxCPP::CvxResult EndTemporaryChanges(CvxCPP::TemporaryChanges how) override;
     CvxCPP::CvxResult AddObserver(const std::shared_ptr<CvxCPP::IDeviceObserver> &observer) override;
     CvxCPP::CvxResult RemoveObserver(const std::shared_ptr<CvxCPP::IDeviceObserver> &observer) override;
     CvxCPP::DeviceState GetState(std::uint32_t &reopenCount) const override;

@@ -20,7 +20,8 @@ QString operator""_s(const char *text, std::size_t size)
 bool isLike(QRgb first, QRgb second)
 {
     constexpr int tolerance = 40;
-    return std::abs(qRed(first) - qRed(second)) < tolerance && std::abs(qGreen(first) - qGreen(second)) < tolerance
+    return std::abs(qRed(first) - qRed(second)) < tolerance
+        && std::abs(qGreen(first) - qGreen(second)) < tolerance
         && std::abs(qBlue(first) - qBlue(second)) < tolerance;
 }
 

@@ -93,7 +93,8 @@ void TestStepList::bigNumberIsReadAloudWithItsCaption()
     number.setValue(41.28, 1, "°C"_s);
     QCOMPARE(number.text(), "41.3 °C"_s);
     const auto labels = number.findChildren<QLabel *>();
-    const auto isDescribed = [](const QLabel *label) { return label->accessibleName() == "Temperature: 41.3 °C"_s; };
+    const auto isDescribed
+        = [](const QLabel *label) { return label->accessibleName() == "Temperature: 41.3 °C"_s; };
     QVERIFY(std::any_of(labels.begin(), labels.end(), isDescribed));
 }
 

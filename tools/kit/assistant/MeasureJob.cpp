@@ -46,9 +46,9 @@ void MeasureJob::start(
     task.device = m_connection.device();
     task.keepsChanges = changes == Changes::Keep;
     task.work = work;
-    task.ended = [this](const Sentence &sentence) {
+    task.ended = [this](const Sentence &sentence, const std::string &notPutBack) {
         QMetaObject::invokeMethod(
-            this, [this, sentence] { finish(sentence); }, Qt::QueuedConnection);
+            this, [this, sentence, notPutBack] { finish(sentence, notPutBack); }, Qt::QueuedConnection);
     };
     m_thread = std::make_unique<MeasureThread>(std::move(task));
     m_stream.addSink(&m_thread->frames());
@@ -109,13 +109,16 @@ void MeasureJob::abort(const QString &problem)
     m_thread->cancel();
 }
 
-void MeasureJob::finish(const Sentence &sentence)
+void MeasureJob::finish(const Sentence &sentence, const std::string &notPutBack)
 {
     m_progressTimer.stop();
     m_stream.removeSink(&m_thread->frames());
     m_thread.reset();
     const Done done = std::exchange(m_done, {});
+    QStringList problems{m_problem.isEmpty() ? translatedSentence(sentence) : m_problem};
+    if (!notPutBack.empty())
+        problems.append(tr("Some settings were not put back. %1").arg(QString::fromStdString(notPutBack)));
     emit changed();
     if (m_context)
-        done(m_problem.isEmpty() ? translatedSentence(sentence) : m_problem);
+        done(problems.join(QLatin1Char(' ')).trimmed());
 }

@@ -66,7 +66,7 @@ private:
     void watchConnection();
     void watchStream();
     void abort(const QString &problem);
-    void finish(const Sentence &sentence);
+    void finish(const Sentence &sentence, const std::string &notPutBack);
 
     CameraConnection &m_connection;
     LiveStream &m_stream;

@@ -27,16 +27,30 @@ void MeasureThread::cancel()
 
 void MeasureThread::run()
 {
+    CvxCPP::Device &device = *m_task.device;
+    const CvxCPP::CvxResult begun = device.BeginTemporaryChanges();
+    // Settings that an earlier measurement could not put back are still remembered.
+    if (!begun && begun.code != CvxCPP::CvxErrorAlreadyStarted)
+        return m_task.ended(untranslated(begun.text), {});
+    const Sentence sentence = measure();
+    const bool isKept = m_task.keepsChanges && sentence.isEmpty();
+    const CvxCPP::CvxResult ended = device.EndTemporaryChanges(
+        isKept ? CvxCPP::TemporaryChanges::Keep : CvxCPP::TemporaryChanges::PutBack);
+    // The settings of a lost camera are put back as soon as the camera is open again.
+    const bool isLost = ended.code == CvxCPP::CvxErrorDeviceLost || ended.code == CvxCPP::CvxErrorClosed;
+    m_task.ended(sentence, isLost ? std::string() : ended.text);
+}
+
+Sentence MeasureThread::measure()
+{
     const CameraRecord record = readCameraRecord(*m_task.camera, *m_task.device);
     const MeasureProgress progress = [this](std::size_t done, std::size_t total) {
         m_done = done;
         m_total = total;
         return !m_isCancelled;
     };
-    const MeasureContext context{*m_task.device, m_frames, progress};
-    // TODO: begin and end the temporary changes here.
-    Sentence sentence = m_isCancelled ? cancelledSentence() : m_task.work(context, record);
-    if (m_isCancelled)
-        sentence = cancelledSentence();
-    m_task.ended(sentence);
+    Sentence sentence;
+    if (!m_isCancelled)
+        sentence = m_task.work({*m_task.device, m_frames, progress}, record);
+    return m_isCancelled ? cancelledSentence() : sentence;
 }

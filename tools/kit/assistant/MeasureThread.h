@@ -7,6 +7,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <string>
 #include <thread>
 
 /// One measurement on a thread of its own. Every function may be called on any thread.
@@ -19,8 +20,8 @@ public:
         std::shared_ptr<CvxCPP::Device> device; ///< Opened for control.
         bool keepsChanges = false; ///< Of settings, if the work succeeds.
         std::function<Sentence(const MeasureContext &context, const CameraRecord &camera)> work;
-        /// Called last, on the thread, with what the work has returned.
-        std::function<void(const Sentence &sentence)> ended;
+        /// Called last, on the thread, with what the work has returned, and why settings were not put back.
+        std::function<void(const Sentence &sentence, const std::string &notPutBack)> ended;
     };
 
     /// Starts the work.
@@ -41,6 +42,7 @@ public:
 
 private:
     void run();
+    Sentence measure();
 
     const Task m_task;
     QueuedFrames m_frames;

@@ -88,6 +88,12 @@ DurationScaleEngine::DurationScaleEngine()
     setAttribute(Floating); // The axis begins and ends with the data.
 }
 
+void DurationScaleEngine::autoScale(int maxSteps, double &first, double &last, double &stepSize) const
+{
+    QwtLinearScaleEngine::autoScale(maxSteps, first, last, stepSize);
+    stepSize = durationStep(std::abs(last - first) / std::max(maxSteps, 1));
+}
+
 QwtScaleDiv DurationScaleEngine::divideScale(
     double first, double last, int maxMajorSteps, int maxMinorSteps, double stepSize) const
 {

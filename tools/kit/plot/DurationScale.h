@@ -25,6 +25,7 @@ class DurationScaleEngine : public QwtLinearScaleEngine
 public:
     DurationScaleEngine();
 
+    void autoScale(int maxSteps, double &first, double &last, double &stepSize) const override;
     QwtScaleDiv divideScale(
         double first, double last, int maxMajorSteps, int maxMinorSteps, double stepSize) const override;
 };

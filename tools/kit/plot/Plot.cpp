@@ -1,6 +1,7 @@
 #include "tools/kit/plot/Plot.h"
 
 #include "tools/kit/plot/DurationScale.h"
+#include "tools/kit/plot/GapCurve.h"
 
 #include <QFrame>
 #include <QPainter>
@@ -11,8 +12,8 @@
 #include <vector>
 
 #include <qwt_legend.h>
+#include <qwt_legend_label.h>
 #include <qwt_plot_canvas.h>
-#include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_layout.h>
 #include <qwt_plot_marker.h>
@@ -37,6 +38,17 @@ struct Look
 
 constexpr Look screenLook = {0xff131b26, 0xff94a3b8, 0xff25313f, 0xffef4444, 0xff64748b};
 constexpr Look paperLook = {0xffffffff, 0xff1a2332, 0xffd5dce5, 0xffdc2626, 0xff64748b};
+
+/// Returns a font for the numbers of an axis.
+QFont axisFontOf(QFont font)
+{
+    constexpr double scale = 0.85;
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * scale);
+    else
+        font.setPixelSize(int(font.pixelSize() * scale));
+    return font;
+}
 
 QwtText coloured(const QString &text, QRgb colour)
 {
@@ -69,6 +81,8 @@ public:
         Lines &lines, int number, QwtPlotMarker::LineStyle style, double position, const QString &label);
     void setAxisTitle(int axis, const QString &title);
     void showLegend();
+    QPalette palette() const;
+    void applyPalette();
     void copyTo(Plot &other) const;
 
     Plot &m_plot;
@@ -84,13 +98,31 @@ public:
 void Plot::Private::setLook(const Look &look)
 {
     m_look = look;
-    QPalette palette = m_plot.palette();
-    palette.setColor(QPalette::Window, QColor::fromRgb(look.background));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
-        palette.setColor(role, QColor::fromRgb(look.text));
-    m_plot.setPalette(palette);
+    m_plot.setPalette(palette());
+    applyPalette();
     m_plot.setCanvasBackground(QColor::fromRgb(look.background));
     m_grid.setPen(QColor::fromRgb(look.grid), 0, Qt::SolidLine);
+}
+
+QPalette Plot::Private::palette() const
+{
+    QPalette palette = m_plot.palette();
+    palette.setColor(QPalette::Window, QColor::fromRgb(m_look.background));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
+        palette.setColor(role, QColor::fromRgb(m_look.text));
+    return palette;
+}
+
+/// The parts do not inherit the colours of the diagram if the program has a style sheet.
+void Plot::Private::applyPalette()
+{
+    for (int axis = 0; axis < QwtPlot::axisCnt; ++axis)
+        m_plot.axisWidget(axis)->setPalette(palette());
+    if (!m_plot.legend())
+        return;
+    const auto labels = m_plot.legend()->findChildren<QwtLegendLabel *>();
+    for (QwtLegendLabel *const label : labels)
+        label->setPalette(palette());
 }
 
 void Plot::Private::setLine(
@@ -109,7 +141,7 @@ void Plot::Private::setLine(
     }
     line.marker->setValue(isLimit ? 0 : position, isLimit ? position : 0);
     line.marker->setLabel(coloured(label, colour));
-    line.marker->setLabelAlignment(Qt::AlignRight | Qt::AlignTop);
+    line.marker->setLabelAlignment(Qt::AlignRight | (isLimit ? Qt::AlignTop : Qt::AlignBottom));
     line.marker->setLinePen(QColor::fromRgb(colour), 1, Qt::DashLine);
 }
 
@@ -127,6 +159,7 @@ void Plot::Private::showLegend()
         m_plot.insertLegend(new QwtLegend, QwtPlot::TopLegend);
     else if (!isUseful)
         m_plot.insertLegend(nullptr);
+    applyPalette();
 }
 
 void Plot::Private::copyTo(Plot &other) const
@@ -153,8 +186,11 @@ Plot::Plot(QWidget *parent) : QwtPlot(parent), m_d(std::make_unique<Private>(*th
     setCanvas(plotCanvas);
     setAutoFillBackground(true);
     plotLayout()->setAlignCanvasToScales(true);
-    for (const int axis : {int(yLeft), int(xBottom)})
+    for (const int axis : {int(yLeft), int(xBottom)}) {
         axisScaleDraw(axis)->enableComponent(QwtAbstractScaleDraw::Backbone, false);
+        setAxisMaxMinor(axis, 0);
+        setAxisFont(axis, axisFontOf(font()));
+    }
     m_d->m_grid.attach(this);
     m_d->setLook(screenLook);
     setMinimumHeight(140);
@@ -187,7 +223,7 @@ void Plot::setVerticalAxis(const QString &title)
 int Plot::addCurve(const QString &title)
 {
     const auto number = int(m_d->m_curves.size());
-    auto curve = std::make_unique<QwtPlotCurve>(title);
+    auto curve = std::make_unique<GapCurve>(title);
     curve->setPen(QColor::fromRgb(curveColours[number % colourCount]), 1.6);
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     curve->setPaintAttribute(QwtPlotCurve::FilterPoints);

@@ -25,9 +25,10 @@ struct StateLook
 
 // In the order of StepCard::State.
 constexpr StateLook stateLooks[] = {
-    {"", "stepPending", "secondary", "", QT_TRANSLATE_NOOP("StepCard", "Step %1, not yet possible: %2")},
+    {"pending", "stepPending", "secondary", "",
+        QT_TRANSLATE_NOOP("StepCard", "Step %1, not yet possible: %2")},
     {"notice", "stepCurrent", "heading", "primary", QT_TRANSLATE_NOOP("StepCard", "Step %1, next: %2")},
-    {"", "stepDone", "heading", "", QT_TRANSLATE_NOOP("StepCard", "Step %1, done: %2")},
+    {"ok", "stepDone", "heading", "", QT_TRANSLATE_NOOP("StepCard", "Step %1, done: %2")},
 };
 
 QLabel *createText(const QString &text, const char *role)

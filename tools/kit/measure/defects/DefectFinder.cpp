@@ -92,9 +92,7 @@ class Examination
 {
 public:
     Examination(const PixelStatistics &dark, const PixelStatistics &bright)
-        : m_layout(dark.layout()),
-          m_sets{newSet(dark), newSet(bright)},
-          m_gain(systemGain(dark, bright))
+        : m_layout(dark.layout()), m_sets{newSet(dark), newSet(bright)}, m_gain(systemGain(dark, bright))
     { }
 
     void examineBand(std::uint32_t firstY, std::uint32_t endY)
@@ -149,15 +147,16 @@ private:
     static Set newSet(const PixelStatistics &statistics)
     {
         const StatisticsLayout &layout = statistics.layout();
-        return {statistics, NeighbourMedian(layout.width, layout.height, layout.colorStep), {}, {}, {}, 1, 0, {},
-            {}, {}};
+        return {statistics, NeighbourMedian(layout.width, layout.height, layout.colorStep), {}, {}, {}, 1, 0,
+            {}, {}, {}};
     }
 
     void computeDifferences(Set &set, std::uint32_t firstY, std::uint32_t endY) const
     {
         set.differences.resize(static_cast<std::size_t>(endY - firstY) * m_layout.width);
         for (std::uint32_t y = firstY; y < endY; ++y) {
-            float *const line = set.differences.data() + static_cast<std::size_t>(y - firstY) * m_layout.width;
+            float *const line
+                = set.differences.data() + static_cast<std::size_t>(y - firstY) * m_layout.width;
             set.neighbours.computeLine(set.statistics.means(0), y, line);
             const float *const means = set.statistics.means(y);
             for (std::uint32_t x = 0; x < m_layout.width; ++x)
@@ -178,8 +177,8 @@ private:
     void measurePart(Set &set, const Part &part, std::uint32_t bandY) const
     {
         const PixelStatistics &statistics = set.statistics;
-        set.spread = robustSpread(collect(set, part,
-            [&](std::uint32_t x, std::uint32_t y) { return difference(set, x, y - bandY); }));
+        set.spread = robustSpread(collect(
+            set, part, [&](std::uint32_t x, std::uint32_t y) { return difference(set, x, y - bandY); }));
         set.deviation = std::max(set.spread.deviation, std::sqrt(roundingVariance));
         set.variance = typicalVariance(statistics,
             collect(set, part, [&](std::uint32_t x, std::uint32_t y) { return statistics.squares(y)[x]; }));
@@ -220,8 +219,8 @@ private:
         const PixelStatistics &bright = m_sets[1].statistics;
         const double usualReaction = bright.means(y)[x] - differences[1] - m_sets[0].levels.back();
         candidate.reaction = static_cast<float>(1 + differences[1] / usualReaction);
-        candidate.isConstant = dark.squares(y)[x] == 0 && bright.squares(y)[x] == 0
-            && dark.means(y)[x] == bright.means(y)[x];
+        candidate.isConstant
+            = dark.squares(y)[x] == 0 && bright.squares(y)[x] == 0 && dark.means(y)[x] == bright.means(y)[x];
         candidate.x = m_layout.offsetX + x;
         candidate.y = m_layout.isLineScan() ? 0 : m_layout.offsetY + y;
         m_findings.candidates.push_back(candidate);

@@ -8,7 +8,7 @@
 ///
 /// Dark and bright: the mean of a pixel minus the median of its neighbourhood (NeighbourMedian), divided by
 /// the standard deviation that these differences have in a part of the picture with about 64 x 64 pixels of
-/// the colour, computed from the MAD (RobustSpread). The deviation contains what remains of the noise and the
+/// the colour (RobustSpread). The deviation contains what remains of the noise and the
 /// usual differences between good pixels (DSNU, PRNU), and at least the rounding error of the pixel values,
 /// sqrt(1/12): EMVA Standard 1288, release 4.0, section 2.4.
 ///

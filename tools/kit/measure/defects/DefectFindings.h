@@ -40,9 +40,9 @@ struct DefectFindings
 /// megapixel and test.
 constexpr double smallestThreshold = 4;
 
-/// If the deviations are normally distributed, each of the three tests takes 0.04 good pixels per megapixel for
-/// defects (4e-8). That leaves room for real sensors, whose spreads have longer tails.
-constexpr double usualThreshold = 5.5;
+/// If the deviations are normally distributed, each of the three tests takes 0.002 good pixels per megapixel
+/// for defects (2e-9). That leaves room for real sensors, whose spreads have longer tails.
+constexpr double usualThreshold = 6;
 
 /// Returns the deviation of the test that the candidate fails most clearly.
 double largestDeviation(const DefectCandidate &candidate);

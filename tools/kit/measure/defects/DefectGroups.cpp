@@ -29,7 +29,8 @@ void add(DefectGroup &group, const DefectPixelEntry &pixel)
 }
 
 /// Adds the columns or the lines, and marks their pixels as used.
-void findStripes(const DefectMap &map, Shape shape, std::vector<char> &isUsed, std::vector<DefectGroup> &groups)
+void findStripes(
+    const DefectMap &map, Shape shape, std::vector<char> &isUsed, std::vector<DefectGroup> &groups)
 {
     std::vector<Place> places;
     for (std::size_t i = 0; i < map.pixels.size(); ++i) {
@@ -62,7 +63,8 @@ void findStripes(const DefectMap &map, Shape shape, std::vector<char> &isUsed, s
 class Components
 {
 public:
-    Components(const DefectMap &map, const std::vector<char> &isUsed) : m_map(map), m_isUsed(isUsed), m_roots(map.pixels.size())
+    Components(const DefectMap &map, const std::vector<char> &isUsed)
+        : m_map(map), m_isUsed(isUsed), m_roots(map.pixels.size())
     {
         std::iota(m_roots.begin(), m_roots.end(), std::size_t{0});
         for (std::size_t i = 0; i < m_roots.size(); ++i) {

@@ -4,6 +4,7 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
+// In the order of DefectKind.
 constexpr const char *kindNames[] = {"hot", "dead", "stuck", "blinking", "deviating"};
 constexpr const char *shapeNames[] = {"cluster", "column", "line"};
 
@@ -15,7 +16,8 @@ Json optionalNumber(const std::optional<double> &number)
 Json imagesJson(const DefectImages &images, double level, double noise, double spread)
 {
     return {{"images", images.statistics.images()}, {"exposureTime", optionalNumber(images.exposureTime)},
-        {"gain", optionalNumber(images.gain)}, {"level", level}, {"temporalNoise", noise}, {"spread", spread}};
+        {"gain", optionalNumber(images.gain)}, {"level", level}, {"temporalNoise", noise},
+        {"spread", spread}};
 }
 
 Json groupsJson(const std::vector<DefectGroup> &groups)
@@ -30,12 +32,8 @@ Json groupsJson(const std::vector<DefectGroup> &groups)
 
 } // namespace
 
-const char *defectKindName(DefectKind kind)
-{
-    return kindNames[static_cast<std::size_t>(kind)];
-}
-
-Json toJson(const DefectImages &dark, const DefectImages &bright, const DefectFindings &findings, double threshold)
+Json toJson(
+    const DefectImages &dark, const DefectImages &bright, const DefectFindings &findings, double threshold)
 {
     const DefectMap map = defectMap(findings, threshold);
     const std::vector<DefectGroup> groups = defectGroups(map);

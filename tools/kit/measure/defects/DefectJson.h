@@ -5,9 +5,6 @@
 
 #include <nlohmann/json.hpp>
 
-/// Returns "hot", "dead", "stuck", "blinking" or "deviating".
-const char *defectKindName(DefectKind kind);
-
 /// Returns the numbers of a measurement: conditions, noise, counts and groups.
-nlohmann::ordered_json toJson(const DefectImages &dark, const DefectImages &bright,
-    const DefectFindings &findings, double threshold);
+nlohmann::ordered_json toJson(
+    const DefectImages &dark, const DefectImages &bright, const DefectFindings &findings, double threshold);

@@ -58,8 +58,8 @@ double clippedPixels(const PixelStatistics &statistics)
     std::size_t count = 0;
     for (std::uint32_t y = 0; y < layout.height; ++y) {
         const float *const means = statistics.means(y);
-        count += static_cast<std::size_t>(std::count_if(means, means + layout.width,
-            [&](float mean) { return mean >= clippedShare * layout.maxValue; }));
+        count += static_cast<std::size_t>(std::count_if(
+            means, means + layout.width, [&](float mean) { return mean >= clippedShare * layout.maxValue; }));
     }
     return static_cast<double>(count) / static_cast<double>(statistics.pixels());
 }
@@ -84,9 +84,10 @@ Sentence changeProblem(const Halves &halves)
 {
     const double drift = meanOf(halves.second) / meanOf(halves.first);
     if (std::abs(drift - 1) > maxDrift)
-        return {QT_TRANSLATE_NOOP("Measure",
-                    "The brightness changed by %1 % while the bright images were taken. Use a steady light, and "
-                    "take the images again."),
+        return {
+            QT_TRANSLATE_NOOP("Measure",
+                "The brightness changed by %1 % while the bright images were taken. Use a steady light, and "
+                "take the images again."),
             {SentenceNumber{percent(std::abs(drift - 1)), 1}}};
     std::vector<double> changes;
     for (std::size_t i = 0; i < halves.first.size(); ++i)
@@ -117,7 +118,8 @@ Sentence structureProblem(const PixelStatistics &bright, double darkLevel)
     if (percentile(steps, 0.99) <= maxStep)
         return {};
     return {QT_TRANSLATE_NOOP("Measure",
-        "The bright images show a scene. Point the camera at an evenly lit surface without objects, for example "
+        "The bright images show a scene. Point the camera at an evenly lit surface without objects, for "
+        "example "
         "white paper close to the lens and out of focus, and take the images again.")};
 }
 
@@ -130,17 +132,20 @@ Sentence darkProblem(const PixelStatistics &dark)
     const double level = percentile(levels, 0.5);
     if (level > maxDarkShare * maxValue)
         return {QT_TRANSLATE_NOOP("Measure",
-                    "The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is "
+                    "The dark images have %1 % of the highest value: light reaches the sensor, or the "
+                    "exposure is "
                     "too long. Cover the lens, then take the dark images again."),
             {SentenceNumber{percent(level / maxValue)}}};
     if (percentile(levels, 0.95) - percentile(levels, 0.05) > maxDarkDifference * maxValue)
         return {QT_TRANSLATE_NOOP("Measure",
-            "The dark images show something: light reaches the sensor. Cover the lens completely, then take the "
+            "The dark images show something: light reaches the sensor. Cover the lens completely, then take "
+            "the "
             "dark images again.")};
     const TypicalPixel pixel = typicalPixel(dark, 0, 0);
     if (pixel.mean <= 3 * std::sqrt(pixel.variance))
         return {QT_TRANSLATE_NOOP("Measure",
-            "Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black "
+            "Many pixels of the dark images have the value 0, so their noise is not visible. Increase the "
+            "black "
             "level (BlackLevel), then take the dark images again.")};
     return {};
 }
@@ -152,14 +157,16 @@ Sentence brightProblem(const PixelStatistics &dark, const PixelStatistics &brigh
     const double signal = meanOf(blocks(bright)) - darkLevel;
     if (signal < minSignalShare * range)
         return {QT_TRANSLATE_NOOP("Measure",
-                    "The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more "
+                    "The bright images are too dark: they use %1 % of the value range. Uncover the lens, use "
+                    "more "
                     "light or a longer exposure, and take the images again."),
             {SentenceNumber{percent(std::max(0.0, signal / range))}}};
     const double clipped = clippedPixels(bright);
     if (clipped > maxClippedPixels)
-        return {QT_TRANSLATE_NOOP("Measure",
-                    "%1 % of the pixels of the bright images have the highest value. Use less light or a shorter "
-                    "exposure, and take the images again."),
+        return {
+            QT_TRANSLATE_NOOP("Measure",
+                "%1 % of the pixels of the bright images have the highest value. Use less light or a shorter "
+                "exposure, and take the images again."),
             {SentenceNumber{percent(clipped)}}};
     const Sentence change = changeProblem(signalHalves(bright, darkLevel));
     return change.isEmpty() ? structureProblem(bright, darkLevel) : change;
@@ -173,7 +180,8 @@ Sentence findingsProblem(const DefectFindings &findings)
     if (share <= maxDeviating)
         return {};
     return {QT_TRANSLATE_NOOP("Measure",
-                "%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached "
+                "%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light "
+                "reached "
                 "the sensor during the dark images. Take the images again."),
         {SentenceNumber{percent(share), 1}}};
 }

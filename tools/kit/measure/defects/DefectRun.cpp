@@ -13,8 +13,8 @@ namespace {
 
 // Functions of the camera that would change or hide the values of the pixels, apart from its corrections of
 // defects. Booleans become false, enumerations "Off".
-constexpr const char *influences[] = {"ExposureAuto", "GainAuto", "BlackLevelAuto", "BalanceWhiteAuto", "LUTEnable",
-    "GammaEnable", "SharpnessEnable", "NoiseReduction", "NoiseReductionEnable"};
+constexpr const char *influences[] = {"ExposureAuto", "GainAuto", "BlackLevelAuto", "BalanceWhiteAuto",
+    "LUTEnable", "GammaEnable", "SharpnessEnable", "NoiseReduction", "NoiseReductionEnable"};
 
 // SFNC has no name for corrections of defects; these are usual.
 constexpr const char *corrections[] = {"DefectCorrectStaticEnable", "DefectCorrectDynamicEnable",
@@ -69,7 +69,8 @@ Sentence prepareCamera(Device &device, DefectImages &images)
 {
     for (const PlaceFeature &feature : placeFeatures) {
         NodeValue value;
-        if (device.Read(feature.name, value) && value.index() == feature.value.index() && value != feature.value)
+        if (device.Read(feature.name, value) && value.index() == feature.value.index()
+            && value != feature.value)
             return {QT_TRANSLATE_NOOP("Measure",
                         "Set %1 to %2: defect pixels are measured at full resolution without mirroring."),
                 {std::string(feature.name), std::string(feature.text)}};
@@ -116,7 +117,8 @@ Sentence formatProblem(const ImageInfo &info, bool isLine)
         && format->depth >= 8 && format->depth <= 16;
     if (!isUsable)
         return {QT_TRANSLATE_NOOP("Measure",
-            "Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to "
+            "Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: "
+            "Mono8 to "
             "Mono16, or Bayer (PixelFormat).")};
     if (info.width < minSize || (!isLine && info.height < minSize))
         return {QT_TRANSLATE_NOOP("Measure", "Choose a region of %1 x %1 pixels or more (Width, Height)."),
@@ -159,8 +161,8 @@ public:
             m_images.pixelFormat = info.pixelFormat;
         }
         if (info.pixelFormat != m_images.pixelFormat || !isSame(m_images.statistics.layout(), info))
-            return {QT_TRANSLATE_NOOP("Measure",
-                "The size or the pixel format of the images has changed. Take the images again.")};
+            return {QT_TRANSLATE_NOOP(
+                "Measure", "The size or the pixel format of the images has changed. Take the images again.")};
         m_images.statistics.add(rawImage(image), m_converter);
         return {};
     }
@@ -174,7 +176,8 @@ private:
 Sentence collect(const MeasureContext &context, std::size_t count, DefectImages &images)
 {
     if (count < minDefectImages)
-        return {QT_TRANSLATE_NOOP("Measure", "Take %1 images or more: with fewer images, the noise hides defects."),
+        return {QT_TRANSLATE_NOOP(
+                    "Measure", "Take %1 images or more: with fewer images, the noise hides defects."),
             {SentenceNumber{static_cast<double>(minDefectImages)}}};
     images = {};
     if (Sentence problem = prepareCamera(context.device, images); !problem.isEmpty())
@@ -184,8 +187,7 @@ Sentence collect(const MeasureContext &context, std::size_t count, DefectImages 
     Collector collector(images, isLineScan(context.device));
     const auto exposure = std::chrono::microseconds(std::llround(images.exposureTime.value_or(0)));
     const auto limit = usualImageLimit + std::chrono::ceil<std::chrono::milliseconds>(2 * exposure);
-    return takeImages(
-        context, count, limit, [&](const Image &image) { return collector.take(image); });
+    return takeImages(context, count, limit, [&](const Image &image) { return collector.take(image); });
 }
 
 Sentence differenceProblem(const DefectImages &dark, const DefectImages &bright)
@@ -195,11 +197,13 @@ Sentence differenceProblem(const DefectImages &dark, const DefectImages &bright)
     if (dark.pixelFormat != bright.pixelFormat || a.width != b.width || a.height != b.height
         || a.offsetX != b.offsetX || a.offsetY != b.offsetY)
         return {QT_TRANSLATE_NOOP("Measure",
-            "The region or the pixel format differs from that of the dark images. Set it as before, or take the "
+            "The region or the pixel format differs from that of the dark images. Set it as before, or take "
+            "the "
             "dark images again.")};
     if (dark.gain != bright.gain)
         return {QT_TRANSLATE_NOOP("Measure",
-                    "The gain differs from that of the dark images, %1. Set it as before, or take the dark images "
+                    "The gain differs from that of the dark images, %1. Set it as before, or take the dark "
+                    "images "
                     "again."),
             {SentenceNumber{dark.gain.value_or(0), 2}}};
     return {};

@@ -26,12 +26,14 @@ void NeighbourMedian::computeLine(const float *values, std::uint32_t y, float *m
 {
     for (std::uint32_t row = 0; row < m_rows; ++row) {
         const std::int64_t down = (static_cast<std::int64_t>(row) - m_rows / 2) * m_step;
-        const float *const source = values + static_cast<std::size_t>(reflected(y + down, m_height)) * m_width;
+        const float *const source
+            = values + static_cast<std::size_t>(reflected(y + down, m_height)) * m_width;
         float *const line = m_lines.data() + row * m_stride;
         std::copy_n(source, m_width, line + m_margin);
         for (std::uint32_t i = 1; i <= m_margin; ++i) {
             line[m_margin - i] = source[reflected(-static_cast<std::int64_t>(i), m_width)];
-            line[m_margin + m_width - 1 + i] = source[reflected(static_cast<std::int64_t>(m_width) - 1 + i, m_width)];
+            line[m_margin + m_width - 1 + i]
+                = source[reflected(static_cast<std::int64_t>(m_width) - 1 + i, m_width)];
         }
     }
     for (std::size_t x = 0; x < m_width; x += lanes) {
@@ -68,8 +70,7 @@ NeighbourMedian::Lanes NeighbourMedian::median(std::size_t x) const
 {
     const std::size_t columns = neighbours / m_rows;
     const auto load = [&](std::size_t index, Lanes &target) {
-        const float *const first
-            = m_lines.data() + index / columns * m_stride + x + index % columns * m_step;
+        const float *const first = m_lines.data() + index / columns * m_stride + x + index % columns * m_step;
         std::copy_n(first, lanes, target.begin());
     };
     constexpr std::size_t first = neighbours / 2 + 2;

@@ -75,9 +75,9 @@ void PixelStatistics::finishBlocks(const std::vector<double> &sums, std::uint32_
     std::vector<float> means;
     means.reserve(sums.size());
     for (std::uint32_t row = 0; row < m_blockRows; ++row) {
-        const std::uint32_t lines = m_layout.isLineScan()
-            ? pictureLines
-            : blockStart(row + 1, m_blockRows, m_layout.height) - blockStart(row, m_blockRows, m_layout.height);
+        const std::uint32_t lines = m_layout.isLineScan() ? pictureLines
+                                                          : blockStart(row + 1, m_blockRows, m_layout.height)
+                - blockStart(row, m_blockRows, m_layout.height);
         for (std::uint32_t column = 0; column < m_blockColumns; ++column) {
             const double columns = blockStart(column + 1, m_blockColumns, m_layout.width)
                 - blockStart(column, m_blockColumns, m_layout.width);

@@ -36,7 +36,10 @@ public:
     const StatisticsLayout &layout() const { return m_layout; }
     std::size_t pixels() const { return m_means.size(); }
     std::size_t images() const { return m_blockMeans.size(); }
-    std::size_t samples() const { return m_samples; } ///< Values of each pixel; more than images if line scan.
+    std::size_t samples() const
+    {
+        return m_samples;
+    } ///< Values of each pixel; more than images if line scan.
 
     /// Returns the means of a line.
     const float *means(std::uint32_t y) const { return m_means.data() + lineStart(y); }

@@ -6,9 +6,11 @@
 struct RobustSpread
 {
     double median = 0;
-    /// Standard deviation of the good numbers: 1.4826 times the median of the absolute deviations from the
-    /// median (MAD). P. J. Rousseeuw and C. Croux, "Alternatives to the Median Absolute Deviation", Journal
-    /// of the American Statistical Association 88 (1993).
+    /// Standard deviation of the good numbers. 1.4826 times the median of the absolute deviations from the
+    /// median (MAD) says which numbers are good: P. J. Rousseeuw and C. Croux, "Alternatives to the Median
+    /// Absolute Deviation", Journal of the American Statistical Association 88 (1993). The result is the
+    /// standard deviation of the numbers within three of these, corrected for the missing tails of a normal
+    /// distribution. It is more exact than the MAD, also if the numbers have few different values.
     double deviation = 0;
 };
 

@@ -2,26 +2,24 @@
 
 #include <algorithm>
 #include <cctype>
-#include <map>
 #include <string_view>
 
 using namespace CvxCPP;
 
 namespace {
 
+/// The standard features and the values that they get, in the order in which they are written.
 struct Preparation
 {
-    const char *feature;
-    NodeValue value;
+    std::string feature;
+    NodeValue value; ///< No value: false or "Off", whichever the feature has.
 };
 
-/// The standard features, in the order in which they are written.
 const std::vector<Preparation> &standardPreparations()
 {
-    static const std::vector<Preparation> preparations{{"TestPattern", std::string("Off")},
-        {"ExposureAuto", std::string("Off")}, {"GainAuto", std::string("Off")},
-        {"BlackLevelAuto", std::string("Off")}, {"BalanceWhiteAuto", std::string("Off")}, {"Gamma", 1.0},
-        {"LUTEnable", false}};
+    static const std::vector<Preparation> preparations{{"TestPattern", {}}, {"ExposureAuto", {}},
+        {"GainAuto", {}}, {"BlackLevelAuto", {}}, {"BalanceWhiteAuto", {}}, {"Gamma", 1.0},
+        {"LUTEnable", {}}};
     return preparations;
 }
 
@@ -35,16 +33,6 @@ bool isOwnCorrection(const std::string &name)
     return (has("flatfield") || has("shadingcorrection") || has("ffc")) && !has("selector");
 }
 
-/// Returns the value that switches a feature off; none for features of other kinds.
-NodeValue offValue(const NodeInfo &info)
-{
-    if (info.type == NodeType::Boolean)
-        return false;
-    const bool hasOff = std::any_of(info.entries.begin(), info.entries.end(),
-        [](const EnumerationEntry &entry) { return entry.name == "Off"; });
-    return hasOff ? NodeValue(std::string("Off")) : NodeValue();
-}
-
 std::vector<Preparation> preparationsFor(const std::vector<NodeInfo> &nodes)
 {
     std::vector<Preparation> preparations;
@@ -55,11 +43,20 @@ std::vector<Preparation> preparationsFor(const std::vector<NodeInfo> &nodes)
             preparations.push_back(standard);
     }
     for (const NodeInfo &node : nodes) {
-        const NodeValue off = offValue(node);
-        if (isOwnCorrection(node.name) && !std::holds_alternative<std::monostate>(off))
-            preparations.push_back({node.name.c_str(), off});
+        if (isOwnCorrection(node.name))
+            preparations.push_back({node.name, {}});
     }
     return preparations;
+}
+
+/// Returns the value that switches a feature off; no value for features of other kinds.
+NodeValue offValue(const NodeState &state)
+{
+    if (std::holds_alternative<bool>(state.value))
+        return false;
+    const std::vector<std::string> &entries = state.availableEntries;
+    const bool hasOff = std::find(entries.begin(), entries.end(), "Off") != entries.end();
+    return hasOff ? NodeValue(std::string("Off")) : NodeValue();
 }
 
 std::string textOf(const NodeValue &value)
@@ -67,6 +64,11 @@ std::string textOf(const NodeValue &value)
     if (const auto *const text = std::get_if<std::string>(&value))
         return *text;
     return std::holds_alternative<bool>(value) ? "false" : "1";
+}
+
+bool hasValue(const NodeValue &value)
+{
+    return !std::holds_alternative<std::monostate>(value);
 }
 
 } // namespace
@@ -80,13 +82,14 @@ Sentence prepareCamera(Device &device, std::vector<std::string> &changes)
         std::vector<NodeState> states;
         if (const CvxResult result = device.ReadStates({preparation.feature}, states); !result)
             return untranslated(result.text);
+        const NodeState &state = states.front();
+        const NodeValue wanted = hasValue(preparation.value) ? preparation.value : offValue(state);
         // A feature that has no value at present has no effect.
-        if (states.front().value == preparation.value
-            || std::holds_alternative<std::monostate>(states.front().value))
+        if (!hasValue(state.value) || !hasValue(wanted) || state.value == wanted)
             continue;
-        if (const CvxResult result = device.Write(preparation.feature, preparation.value); !result)
+        if (const CvxResult result = device.Write(preparation.feature, wanted); !result)
             return untranslated(result.text);
-        changes.push_back(preparation.feature + ("=" + textOf(preparation.value)));
+        changes.push_back(preparation.feature + "=" + textOf(wanted));
     }
     return {};
 }

@@ -25,7 +25,8 @@ Sentence addImage(FrameStack &stack, const Image &image)
 bool isSameField(const FrameStack &first, const FrameStack &second)
 {
     return first.pixelFormat() == second.pixelFormat() && first.mosaic().width == second.mosaic().width
-        && first.mosaic().height == second.mosaic().height;
+        && first.mosaic().height == second.mosaic().height && first.offsetX() == second.offsetX()
+        && first.offsetY() == second.offsetY();
 }
 
 std::vector<Sentence> sentencesOf(const ReferenceFindings &findings)
@@ -88,14 +89,8 @@ Sentence FlatFieldMeasurement::takeBright(const MeasureContext &context)
     if (const Sentence problem = prepareCamera(context.device, result.brightSettings.switchedOff);
         !problem.isEmpty())
         return problem;
-    // An automatic function may have changed these since the dark images.
-    for (const auto &[name, value] : m_analog->values) {
-        NodeValue present;
-        if (!context.device.Read(name, present) || present == value)
-            continue;
-        if (const CvxResult written = context.device.Write(name, value); !written)
-            return untranslated(written.text);
-    }
+    if (const Sentence problem = restoreAnalog(context.device); !problem.isEmpty())
+        return problem;
     if (m_options.setsExposure) {
         if (const Sentence problem = setBrightExposure(context, m_dark->brightestLevel(), m_isLineScan);
             !problem.isEmpty())
@@ -105,40 +100,56 @@ Sentence FlatFieldMeasurement::takeBright(const MeasureContext &context)
 
     FrameStack bright(m_isLineScan);
     FrameStack check(m_isLineScan);
-    const auto correctAndCheck = [&](const Image &image) -> Sentence {
+    const auto correctAndAdd = [&](const Image &image) -> Sentence {
         if (check.isEmpty()) {
-            const ReferenceFindings findings = checkBrightImages(bright, *m_dark);
-            if (const Sentence problem = fatalSentence(findings); !problem.isEmpty())
+            if (const Sentence problem = build(bright, result); !problem.isEmpty())
                 return problem;
-            result.warnings = m_darkWarnings;
-            for (const Sentence &sentence : sentencesOf(findings))
-                result.warnings.push_back(sentence);
-            result.built = buildFlatField(m_dark->mean(), bright.mean(), m_options.detail, m_options.level);
+            check.setCorrection(std::make_shared<Correction>(std::nullopt, result.built.field));
         }
         return addImage(check, image);
     };
-    const auto checkedField = [&](const Image &image) -> Sentence {
-        if (!bright.isEmpty() && !isSameField(bright, *m_dark))
-            return {QT_TRANSLATE_NOOP("Sentence",
-                "The region or the pixel format has changed since the dark images. Take the dark images "
-                "again.")};
-        return correctAndCheck(image);
-    };
-    if (const Sentence problem = takeStacks(context, bright, checkedField); !problem.isEmpty())
+    if (const Sentence problem = takeStacks(context, bright, correctAndAdd); !problem.isEmpty())
         return problem;
+    result.after = measureUniformity(correctedMean(m_darkCheck->mean(), result.built.field), check.mean());
+    result.checkImages = check.count();
+    m_result = std::move(result);
+    return {};
+}
 
-    const MeanImage brightMean = bright.mean();
-    result.before = measureUniformity(m_dark->mean(), brightMean);
-    result.after = measureUniformity(correctedMean(m_darkCheck->mean(), result.built.field),
-        correctedMean(check.mean(), result.built.field));
+Sentence FlatFieldMeasurement::build(const FrameStack &bright, FlatFieldResult &result) const
+{
+    if (!isSameField(bright, *m_dark))
+        return {QT_TRANSLATE_NOOP("Sentence",
+            "The region or the pixel format has changed since the dark images. Take the dark images again.")};
+    const ReferenceFindings findings = checkBrightImages(bright, *m_dark);
+    if (const Sentence problem = fatalSentence(findings); !problem.isEmpty())
+        return problem;
+    result.warnings = m_darkWarnings;
+    for (const Sentence &sentence : sentencesOf(findings))
+        result.warnings.push_back(sentence);
+    const MeanImage dark = m_dark->mean();
+    const MeanImage light = bright.mean();
+    result.built = buildFlatField(dark, light, m_options.detail, m_options.level);
+    result.before = measureUniformity(dark, light);
     result.detail = m_options.detail;
     result.level = m_options.level;
     result.pixelFormat = findPixelFormat(bright.pixelFormat())->name;
     result.darkImages = m_dark->count();
     result.brightImages = bright.count();
-    result.checkImages = check.count();
     result.brightShare = bright.brightestLevel() / bright.maxValue();
     result.darkSettings = m_darkSettings;
-    m_result = std::move(result);
+    return {};
+}
+
+/// An automatic function may have changed gain and black level since the dark images.
+Sentence FlatFieldMeasurement::restoreAnalog(Device &device) const
+{
+    for (const auto &[name, value] : m_analog->values) {
+        NodeValue present;
+        if (!device.Read(name, present) || present == value)
+            continue;
+        if (const CvxResult written = device.Write(name, value); !written)
+            return untranslated(written.text);
+    }
     return {};
 }

@@ -52,6 +52,8 @@ private:
 
     Sentence takeStacks(const MeasureContext &context, FrameStack &reference,
         const std::function<Sentence(const CvxCPP::Image &)> &check);
+    Sentence restoreAnalog(CvxCPP::Device &device) const;
+    Sentence build(const FrameStack &bright, FlatFieldResult &result) const;
 
     FlatFieldOptions m_options;
     bool m_isLineScan = false;

@@ -64,6 +64,7 @@ Sentence FrameStack::add(const RawImage &picture, std::uint32_t offsetX, std::ui
         return {QT_TRANSLATE_NOOP("Sentence",
             "The region or the pixel format has changed during the measurement. Measure again without "
             "changing them.")};
+    m_converter.setCorrection({m_correction, offsetX, offsetY});
     PartLevels levels{};
     std::vector<std::uint16_t> words(std::size_t(picture.width) * linesAtOnce);
     for (std::uint32_t y = 0; y < picture.height; y += linesAtOnce) {

@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <utility>
 #include <vector>
 
 /// Adds images up. The memory does not depend on their number: one sum for each pixel. The temporal variance
@@ -21,6 +23,9 @@ public:
 
     explicit FrameStack(bool isLineScan);
 
+    /// Corrects the pictures that follow before they are added.
+    void setCorrection(std::shared_ptr<const Correction> correction) { m_correction = std::move(correction); }
+
     /// Adds the picture. Fails with a sentence if its format has no single value per pixel, or if its size
     /// differs from the first one. Works for Mono and Bayer formats of 8 to 16 bits.
     Sentence add(const RawImage &picture, std::uint32_t offsetX, std::uint32_t offsetY);
@@ -29,6 +34,8 @@ public:
     bool isEmpty() const { return m_partLevels.empty(); }
     std::uint32_t pixelFormat() const { return m_pixelFormat; }
     const ChannelMosaic &mosaic() const { return m_mean.mosaic; }
+    std::uint32_t offsetX() const { return m_mean.offsetX; }
+    std::uint32_t offsetY() const { return m_mean.offsetY; }
     double maxValue() const { return m_mean.maxValue(); }
 
     MeanImage mean() const;
@@ -60,6 +67,7 @@ private:
 
     const bool m_isLineScan;
     ImageConverter m_converter;
+    std::shared_ptr<const Correction> m_correction; // Null: pictures are added as they are.
     MeanImage m_mean; // Without values.
     std::uint32_t m_pixelFormat = 0;
     std::uint32_t m_lines = 0; // Lines of a picture.

@@ -133,6 +133,21 @@ void checkLevel(const FrameStack &bright, const FrameStack &dark, ReferenceFindi
                 {percentOf(share)}}});
 }
 
+void checkChanges(const StackChanges &changes, ReferenceFindings &findings)
+{
+    if (changes.scene > sceneChangeLimit)
+        findings.push_back({true,
+            {QT_TRANSLATE_NOOP("Sentence",
+                 "Parts of the picture have changed by %1 % between the images: something moves, or the "
+                 "light flickers. Use an even surface that keeps still, and steady light."),
+                {percentOf(changes.scene, 1)}}});
+    else if (changes.flicker > flickerLimit)
+        findings.push_back({false,
+            {QT_TRANSLATE_NOOP(
+                 "Sentence", "The brightness has changed by %1 % between the images. Use steady light."),
+                {percentOf(changes.flicker, 1)}}});
+}
+
 } // namespace
 
 ReferenceFindings checkDarkImages(const FrameStack &dark)
@@ -178,18 +193,9 @@ ReferenceFindings checkBrightImages(const FrameStack &bright, const FrameStack &
                 {percentOf(bright.clippedShare(), 1)}}});
     else
         checkLevel(bright, dark, findings);
-    const StackChanges changes = changesOf(bright, dark.brightestLevel());
-    if (changes.scene > sceneChangeLimit)
-        findings.push_back({true,
-            {QT_TRANSLATE_NOOP("Sentence",
-                 "Parts of the picture have changed by %1 % between the images: something moves, or the "
-                 "light flickers. Use an even surface that keeps still, and steady light."),
-                {percentOf(changes.scene, 1)}}});
-    else if (changes.flicker > flickerLimit)
-        findings.push_back({false,
-            {QT_TRANSLATE_NOOP(
-                 "Sentence", "The brightness has changed by %1 % between the images. Use steady light."),
-                {percentOf(changes.flicker, 1)}}});
+    if (!fatalSentence(findings).isEmpty())
+        return findings; // What follows compares levels that are not the true ones.
+    checkChanges(changesOf(bright, dark.brightestLevel()), findings);
     if (fatalSentence(findings).isEmpty() && textureOf(bright, dark) > textureLimit)
         findings.push_back({false,
             {QT_TRANSLATE_NOOP("Sentence",

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr std::size_t fewestPoints = 15;
+constexpr double tolerance = 0.02; // Kelvin; no camera follows the curve exactly.
 constexpr double secondsPerMinute = 60;
 
 std::vector<FitPoint> fitPoints(const std::vector<HistoryPoint> &points)
@@ -34,20 +35,22 @@ double noiseOf(const std::vector<HistoryPoint> &points)
     return std::hypot(std::sqrt(variance), roundingStep(points) / std::sqrt(12.0));
 }
 
-/// Returns true if the curve describes all points, and also the newest ones for themselves.
-bool describes(const ExponentialFit &fit, const std::vector<FitPoint> &points, double noise)
+/// Returns true if the curve describes all points.
+bool describes(const ExponentialFit &fit, double noise)
 {
-    constexpr double tolerance = 0.02; // Kelvin; no camera follows the curve exactly.
     constexpr double factor = 1.5;
-    constexpr std::size_t newestCount = 8;
-    if (fit.residual > factor * noise + tolerance)
-        return false;
-    double sum = 0;
-    for (auto point = points.end() - newestCount; point != points.end(); ++point)
-        sum += point->y - fit.at(point->x);
+    return fit.residual <= factor * noise + tolerance;
+}
+
+/// Returns true if the newest points do not leave the curve, however short their time is.
+bool describesNewest(const ExponentialFit &fit, const std::vector<HistoryPoint> &newest)
+{
     constexpr double significant = 3;
-    const double mean = std::abs(sum) / newestCount;
-    return mean < significant * std::max(noise, fit.residual) / std::sqrt(double(newestCount)) + tolerance;
+    const double count = static_cast<double>(newest.size());
+    double sum = 0;
+    for (const HistoryPoint &point : newest)
+        sum += point.mean - fit.at(point.middle());
+    return std::abs(sum) / count < significant * noiseOf(newest) / std::sqrt(count) + tolerance;
 }
 
 bool isDetermined(const ExponentialFit &fit)
@@ -74,6 +77,7 @@ double Forecast::secondsToSteady(double seconds) const
 std::optional<Forecast> forecast(const BoundedHistory &history)
 {
     constexpr std::size_t mostPoints = 300;
+    constexpr std::ptrdiff_t newestPoints = 10;
     constexpr double shorter = 1.5;
     constexpr double shortestTimeConstant = 5; // Seconds.
     constexpr double mostTimeConstants = 20; // Times the duration of the readings.
@@ -81,6 +85,9 @@ std::optional<Forecast> forecast(const BoundedHistory &history)
         return std::nullopt;
     const double now = history.newest().last;
     const std::vector<HistoryPoint> all = history.points();
+    if (all.size() < fewestPoints)
+        return std::nullopt;
+    const std::vector<HistoryPoint> newest(all.end() - newestPoints, all.end());
     for (double span = now - all.front().first; span > 0; span /= shorter) {
         const auto begin = std::find_if(
             all.begin(), all.end(), [&](const HistoryPoint &point) { return point.last >= now - span; });
@@ -89,7 +96,7 @@ std::optional<Forecast> forecast(const BoundedHistory &history)
         const std::vector<HistoryPoint> few = thinned({begin, all.end()}, mostPoints);
         const std::vector<FitPoint> points = fitPoints(few);
         const auto fit = fitExponential(points, shortestTimeConstant, mostTimeConstants * span);
-        if (!fit || !describes(*fit, points, noiseOf(few)))
+        if (!fit || !describes(*fit, noiseOf(few)) || !describesNewest(*fit, newest))
             continue;
         if (!isDetermined(*fit))
             return std::nullopt;

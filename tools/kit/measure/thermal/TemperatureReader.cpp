@@ -27,37 +27,30 @@ const NodeInfo *findNode(Device &device, const std::vector<NodeInfo> &nodes, con
     return states.front().access == NodeAccess::NotImplemented ? nullptr : &*node;
 }
 
-void addPlaces(Device &device, const std::string &selector, bool canSelect, TemperatureSource &source)
+void addPlaces(Device &device, const std::string &selector, TemperatureSource &source)
 {
     std::vector<NodeState> states;
     if (!device.ReadStates({selector}, states) || states.empty())
         return;
     source.selector = selector;
     source.places = states.front().availableEntries;
-    const bool isFixed = !canSelect || states.front().lockReason != LockReason::None;
+    const bool isFixed = states.front().lockReason != LockReason::None;
     if (const auto *const present = std::get_if<std::string>(&states.front().value);
         present && (isFixed || source.places.empty()))
         source.places = {*present};
 }
 
-std::optional<double> readNumber(Device &device, const std::string &feature, CvxResult &problem)
+std::optional<double> number(const NodeValue &value)
 {
-    NodeValue value;
-    const CvxResult result = device.Read(feature, value);
-    if (!result) {
-        if (problem)
-            problem = result;
-        return std::nullopt;
-    }
-    if (const auto *const number = std::get_if<double>(&value))
-        return *number;
+    if (const auto *const real = std::get_if<double>(&value))
+        return *real;
     const auto *const integer = std::get_if<std::int64_t>(&value);
     return integer ? std::optional(static_cast<double>(*integer)) : std::nullopt;
 }
 
 } // namespace
 
-Sentence findTemperatures(Device &device, bool canSelect, TemperatureSource &source)
+Sentence findTemperatures(Device &device, TemperatureSource &source)
 {
     std::vector<NodeInfo> nodes;
     if (const CvxResult result = device.GetNodes(nodes); !result)
@@ -68,7 +61,7 @@ Sentence findTemperatures(Device &device, bool canSelect, TemperatureSource &sou
             continue;
         source = {name, {}, {}};
         if (!node->selectors.empty())
-            addPlaces(device, node->selectors.front(), canSelect, source);
+            addPlaces(device, node->selectors.front(), source);
         if (source.places.empty())
             source.places = {""};
         return {};
@@ -80,25 +73,27 @@ Sentence findTemperatures(Device &device, bool canSelect, TemperatureSource &sou
 TemperatureReading readTemperatures(Device &device, const TemperatureSource &source)
 {
     TemperatureReading reading;
-    std::string before;
-    if (!source.selector.empty())
-        reading.problem = device.ReadString(source.selector, before);
-    std::string present = before;
-    for (const std::string &place : source.places) {
-        if (reading.problem && present != place && !source.selector.empty()) {
-            if (const CvxResult result = device.WriteString(source.selector, place); result)
-                present = place;
-            else
-                reading.problem = result;
-        }
-        const bool isSelected = source.selector.empty() || present == place;
-        reading.celsius.push_back(
-            isSelected ? readNumber(device, source.feature, reading.problem) : std::nullopt);
-    }
-    if (present != before) {
-        const CvxResult result = device.WriteString(source.selector, before);
-        if (reading.problem)
+    const auto succeeds = [&reading](const CvxResult &result) {
+        if (!result && reading.problem)
             reading.problem = result;
+        return bool(result);
+    };
+    const bool hasSelector = !source.selector.empty();
+    std::string before;
+    reading.celsius.resize(source.places.size());
+    if (hasSelector && !succeeds(device.ReadString(source.selector, before)))
+        return reading;
+    std::string present = before;
+    for (std::size_t index = 0; index < source.places.size(); ++index) {
+        const std::string &place = source.places[index];
+        if (hasSelector && present != place && !succeeds(device.WriteString(source.selector, place)))
+            continue;
+        present = place;
+        NodeValue value;
+        if (succeeds(device.Read(source.feature, value)))
+            reading.celsius[index] = number(value);
     }
+    if (hasSelector && present != before)
+        succeeds(device.WriteString(source.selector, before));
     return reading;
 }

@@ -16,9 +16,9 @@ struct TemperatureSource
 };
 
 /// Finds where the camera reports its temperatures. Of "DeviceTemperature" and the names that older cameras
-/// use, takes the first one that the camera has; an integer only if its unit is degrees Celsius.
-/// @param canSelect False if the selector cannot be written: only the present place is read.
-Sentence findTemperatures(CvxCPP::Device &device, bool canSelect, TemperatureSource &source);
+/// use, takes the first one that the camera has; an integer only if its unit is degrees Celsius. If the
+/// selector cannot be written, for example because the device only watches, takes the present place.
+Sentence findTemperatures(CvxCPP::Device &device, TemperatureSource &source);
 
 /// One reading of all places. A place that cannot be read has no value.
 struct TemperatureReading

@@ -88,35 +88,34 @@ Json toJson(const DarkSeries &series)
     return json;
 }
 
-Json thermalDocument(const CameraRecord &camera, const std::string &start,
-    const std::vector<PlaceMonitor> &places, const DarkSeries &dark)
+Json thermalDocument(const CameraRecord &camera, const ThermalMonitor &monitor)
 {
     Json json;
     json["format"] = "corvix-x-temperatures";
     json["version"] = 1;
     json["created"] = utcNow();
     json["camera"] = cameraJson(camera);
-    json["start"] = start;
+    json["start"] = monitor.start();
     Json &result = json["result"];
     result["places"] = Json::array();
     Json &history = json["history"];
     history["columns"] = columns;
-    for (const PlaceMonitor &place : places) {
+    for (const PlaceMonitor &place : monitor.places()) {
         result["places"].push_back(toJson(place));
         history["places"].push_back(readingsJson(place.history()));
     }
-    result["dark"] = toJson(dark);
-    history["dark"] = readingsJson(dark.levels());
+    result["dark"] = toJson(monitor.dark());
+    history["dark"] = readingsJson(monitor.dark().levels());
     return json;
 }
 
-std::string thermalCsv(const std::vector<PlaceMonitor> &places, const DarkSeries &dark)
+std::string thermalCsv(const ThermalMonitor &monitor)
 {
     std::string text = "name";
     for (const char *column : columns)
         text += std::string(",") + column;
     text += '\n';
-    for (const PlaceMonitor &place : places)
+    for (const PlaceMonitor &place : monitor.places())
         text += csvRows(place.place().empty() ? "temperature" : place.place(), place.history());
-    return text + csvRows("dark level", dark.levels());
+    return text + csvRows("dark level", monitor.dark().levels());
 }

@@ -1,12 +1,10 @@
 #pragma once
 
 #include "sdk/imagefile/CameraRecord.h"
-#include "tools/kit/measure/thermal/DarkSeries.h"
-#include "tools/kit/measure/thermal/PlaceMonitor.h"
+#include "tools/kit/measure/thermal/ThermalMonitor.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
-#include <vector>
 
 /// Returns the name of the state as files contain it, for example "warming up".
 const char *stateName(ThermalState state);
@@ -21,9 +19,7 @@ nlohmann::ordered_json toJson(const PlaceMonitor &monitor);
 nlohmann::ordered_json toJson(const DarkSeries &series);
 
 /// Returns the document of a monitoring, including the merged readings.
-/// @param start UTC time of second 0.
-nlohmann::ordered_json thermalDocument(const CameraRecord &camera, const std::string &start,
-    const std::vector<PlaceMonitor> &places, const DarkSeries &dark);
+nlohmann::ordered_json thermalDocument(const CameraRecord &camera, const ThermalMonitor &monitor);
 
 /// Returns the merged readings of all places as a table: place, times, mean, minimum, maximum and number.
-std::string thermalCsv(const std::vector<PlaceMonitor> &places, const DarkSeries &dark);
+std::string thermalCsv(const ThermalMonitor &monitor);
