@@ -91,7 +91,9 @@ void TestTapBalance::initTestCase()
 {
     const QJsonArray cameras{
         tapCamera("3001"_s, 4, true), tapCamera("3002"_s, 4, false), tapCamera("3003"_s, 1, false)};
-    const QJsonObject interface{{"id"_s, "Sim"_s}, {"tlType"_s, "CL"_s}, {"devices"_s, cameras}};
+    const QJsonObject interface {
+        {"id"_s, "Sim"_s}, {"tlType"_s, "CL"_s}, { "devices"_s, cameras }
+    };
     QFile file(qEnvironmentVariable("CORVIX_TEST_SDK") + "/cti/CorvixCameraSimulator.json"_s);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QJsonDocument(QJsonObject{{"interfaces"_s, QJsonArray{interface}}}).toJson());
@@ -167,7 +169,8 @@ void TestTapBalance::cancelledBalancingLeavesTheCameraAsItWas()
     taps.write("Gain", 1.5);
     taps.write("GainSelector", std::string("All"));
     QString problem;
-    connect(&taps.window().session(), &TapSession::failed, this, [&](const QString &text) { problem = text; });
+    connect(
+        &taps.window().session(), &TapSession::failed, this, [&](const QString &text) { problem = text; });
     taps.window().session().balance(TapSetting::Gain);
     MeasureJob &job = taps.window().job();
     await([&] { return job.done() > 8; }); // The first values are written.
@@ -209,7 +212,9 @@ void TestTapBalance::cameraWithoutGeometryIsMeasuredByHand()
     QCOMPARE(taps.window().session().result().bright->taps.size(), std::size_t(2));
     QVERIFY(taps.window().session().result().bright->mismatch < 0.002);
     taps.window().session().balance(TapSetting::Gain);
-    await([&] { return !taps.window().job().isRunning() && shows(taps, "Tap2"_s); }); // The entry that is missing.
+    await([&] {
+        return !taps.window().job().isRunning() && shows(taps, "Tap2"_s);
+    }); // The entry that is missing.
 }
 
 void TestTapBalance::everyControlHasAnAccessibleName()

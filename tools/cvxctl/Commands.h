@@ -21,7 +21,10 @@ void addCompareCommand(CLI::App &program, ExitStatus &status);
 void addRecordCommand(CLI::App &program, ExitStatus &status);
 void addAddressCommand(CLI::App &program, ExitStatus &status);
 void addDoctorCommand(CLI::App &program, ExitStatus &status);
+void addFocusCommand(CLI::App &program, ExitStatus &status);
 void addThermalCommand(CLI::App &program, ExitStatus &status);
+void addDefectsCommand(CLI::App &program, ExitStatus &status);
+void addFlatFieldCommand(CLI::App &program, ExitStatus &status);
 void addLineScanCommand(CLI::App &program, ExitStatus &status);
 void addTapsCommand(CLI::App &program, ExitStatus &status);
 

@@ -28,6 +28,8 @@ signals:
 
 private:
     QSpinBox *addNumber(const QString &label, const QString &toolTip, int value, int maximum);
+    void ignoreWheel(QWidget *control);
+    bool eventFilter(QObject *object, QEvent *event) override;
     void followSource();
 
     QComboBox *m_source;

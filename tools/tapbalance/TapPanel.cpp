@@ -52,7 +52,8 @@ TapPanel::TapPanel(TapSession &session, QWidget *parent)
     layout->addWidget(m_table);
     m_table->setObjectName(QStringLiteral("tapTable"));
     m_table->setAccessibleName(tr("Mean and noise of each tap"));
-    m_table->setToolTip(tr("Shading changes the means, so the steps at the borders say how the taps differ."));
+    m_table->setToolTip(
+        tr("Shading changes the means, so the steps at the borders say how the taps differ."));
     addSteps();
     connect(m_layout, &LayoutBox::changed, this, [this] { m_session.setOptions(m_layout->options()); });
     connect(&m_session, &TapSession::changed, this, &TapPanel::showResult);

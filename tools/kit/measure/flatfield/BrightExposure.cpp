@@ -13,7 +13,7 @@ namespace {
 constexpr double highestPlace = 0.88; // Level of the brightest part of the picture, as a share of the range.
 constexpr double tolerance = 0.04;
 constexpr int maxSteps = 10;
-constexpr double clippedLimit = 0.002;
+constexpr double exposureClippedLimit = 0.002;
 
 /// Reads the feature of the exposure time. Returns false if the camera has none that can be written.
 bool readExposure(Device &device, NodeState &state)
@@ -55,7 +55,7 @@ double exposureFactor(const FrameStack &image, double darkLevel)
     const double smallest = range / 1000; // A dark image only tells that more light is needed.
     const double factor = std::min((bestLevel * range - darkLevel) / std::max(level - darkLevel, smallest),
         (highestPlace * range - darkLevel) / std::max(highest - darkLevel, smallest));
-    const bool isClipped = image.clippedShare() > clippedLimit;
+    const bool isClipped = image.clippedShare() > exposureClippedLimit;
     return std::clamp(factor, 0.1, isClipped ? 0.5 : 10.0);
 }
 
