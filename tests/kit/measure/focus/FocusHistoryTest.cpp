@@ -36,6 +36,7 @@ public:
     FocusMeasurement picture() const
     {
         FocusMeasurement picture;
+        picture.isExposed = true;
         picture.grid = {3, 3};
         picture.width = picture.height = 300;
         for (std::uint32_t i = 0; i < 9; ++i) {
@@ -114,7 +115,7 @@ TEST(FocusHistory, OtherGridAndUnusablePicturesDoNotMix)
     Turn turn;
     turn.to(0);
     FocusMeasurement dark = turn.picture();
-    dark.problem = {"The picture is too dark.", {}};
+    dark.isExposed = false;
     turn.history.add(100, dark);
     EXPECT_LT(turn.history.samples().back().position, 100);
     FocusMeasurement other = turn.picture();

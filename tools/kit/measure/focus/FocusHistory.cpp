@@ -20,7 +20,7 @@ bool isSameView(const FocusMeasurement &a, const FocusMeasurement &b)
 
 void FocusHistory::add(double seconds, const FocusMeasurement &measurement)
 {
-    if (!measurement.isUsable())
+    if (!measurement.isExposed || (m_samples.empty() && !measurement.isUsable()))
         return;
     if (!m_samples.empty() && !isSameView(m_samples.back().measurement, measurement))
         clear();

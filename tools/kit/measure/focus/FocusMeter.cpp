@@ -191,7 +191,7 @@ Sentence problemOf(const FocusMeasurement &picture)
     if (std::none_of(picture.regions.begin(), picture.regions.end(), isUsable))
         return {QT_TRANSLATE_NOOP("Sentence",
             "The picture has no edges. Point the camera at something with structure, for example a printed "
-            "page.")};
+            "page, or turn the lens if the picture is blurred.")};
     return {};
 }
 } // namespace
@@ -234,6 +234,7 @@ Sentence FocusMeter::measure(const RawImage &picture, const FocusOptions &option
     result.clippedShare = whole.clippedShare();
     if (const double squared = whole.squaredBrightness(scale.blackLevel); squared > 0)
         result.noise = std::sqrt(whole.noise() / squared);
+    result.isExposed = result.brightness >= minBrightness && result.clippedShare <= maxClippedPicture;
     result.problem = problemOf(result);
     return {};
 }
