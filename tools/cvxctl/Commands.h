@@ -26,6 +26,7 @@ void addThermalCommand(CLI::App &program, ExitStatus &status);
 void addDefectsCommand(CLI::App &program, ExitStatus &status);
 void addFlatFieldCommand(CLI::App &program, ExitStatus &status);
 void addLineScanCommand(CLI::App &program, ExitStatus &status);
+void addTapsCommand(CLI::App &program, ExitStatus &status);
 
 /// The text that explains the argument CAMERA of every sub-command.
 constexpr char cameraHelp[]

@@ -82,6 +82,8 @@ Sentence measureSweep(const MeasureContext &context, const FocusOptions &focus,
     if (Sentence problem = sweepFocus(context, sweep, found); !problem.isEmpty())
         return problem;
     result = focusResult(found);
+    if (!options.measure.keepsChanges)
+        result.position = found.startPosition; // The lens is put back.
     return {};
 }
 
@@ -145,7 +147,7 @@ void printAnalysis(const FocusResult &result)
         if (!curvature.isEmpty())
             std::printf("%s\n", toEnglish(curvature).c_str());
     } else {
-        std::printf("Too few regions became sharp to tell whether the focus is tilted.\n");
+        std::printf("%s\n", toEnglish(noTiltSentence()).c_str());
     }
     for (const GridCorner &corner : gridCorners(result.last.grid))
         if (corner.region < analysis.regions.size() && analysis.regions[corner.region].peak)
@@ -163,8 +165,10 @@ void printFocus(const FocusResult &result)
     std::printf("Sharpness: %s\n", focusNumber(result.last.sharpness, 4).c_str());
     if (result.peak > 0)
         std::printf("Share of the peak: %.0f %%\n", 100 * result.last.sharpness / result.peak);
-    if (result.analysis && result.analysis->best && result.axis)
-        std::printf("Best position: %s\n", focusNumber(*result.analysis->best, 1).c_str());
+    if (result.analysis && result.analysis->best && result.axis) {
+        const double best = *result.analysis->best;
+        std::printf("%s\n", toEnglish(bestPositionSentence(best, *result.position, *result.axis)).c_str());
+    }
     if (result.analysis && result.analysis->best)
         printAnalysis(result);
 }

@@ -29,6 +29,7 @@ int main(int argc, char *argv[])
     addDefectsCommand(program, status);
     addFlatFieldCommand(program, status);
     addLineScanCommand(program, status);
+    addTapsCommand(program, status);
 
     catchInterruption();
     try {
