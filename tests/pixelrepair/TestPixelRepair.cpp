@@ -61,6 +61,17 @@ public:
         return false;
     }
 
+    /// Returns the brightness of the brightest pixel of the screen below the marks.
+    int brightness()
+    {
+        const QImage pixels = canvas().picture().pixels;
+        int brightest = 0;
+        for (int y = 0; y < pixels.height(); ++y)
+            for (int x = 0; x < pixels.width(); ++x)
+                brightest = std::max(brightest, qGray(pixels.pixel(x, y)));
+        return brightest;
+    }
+
     int rows() { return find<QTableView>()->model()->rowCount(); }
 
     /// Returns how many pixels of the screen have a colour that only marks have.
@@ -126,6 +137,10 @@ void TestPixelRepair::defectsAreFoundShownAndSaved()
 
     tool.find<QTableView>()->selectRow(tool.rows() - 1);
     QVERIFY(tool.canvas().view().scale() >= 8);
+    tool.canvas().fit();
+    const int brightest = tool.brightness();
+    tool.window().findChild<QCheckBox *>("repaired"_s)->click();
+    await([&] { return tool.brightness() < brightest - 30; });
 
     const QTemporaryDir folder;
     const QString path = folder.filePath("map.json"_s);

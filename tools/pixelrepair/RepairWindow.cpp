@@ -1,5 +1,6 @@
 #include "tools/pixelrepair/RepairWindow.h"
 
+#include "sdk/image/Correction.h"
 #include "sdk/imagefile/DefectMapFile.h"
 #include "tools/kit/canvas/ImageCanvas.h"
 #include "tools/kit/measure/defects/DefectJson.h"
@@ -159,7 +160,29 @@ void RepairWindow::showResult()
     applyRepair();
 }
 
-void RepairWindow::applyRepair() { }
+void RepairWindow::applyRepair()
+{
+    ResultBox &box = m_panel->result();
+    DisplaySettings display;
+    QString problem;
+    if (m_result && box.isRepaired()) {
+        display.correction = std::make_shared<const Correction>(m_result->map, std::nullopt);
+        problem = repairProblem(*display.correction);
+    }
+    canvas().setDisplaySettings(display);
+    box.setRepairProblem(problem);
+}
+
+QString RepairWindow::repairProblem(const Correction &correction)
+{
+    const std::shared_ptr<const CvxCPP::Image> image = canvas().picture().image;
+    if (!image)
+        return {};
+    const CvxCPP::ImageInfo &info = image->GetInfo();
+    const std::string problem
+        = correction.problem(info.pixelFormat, info.offsetX, info.offsetY, info.width, info.height);
+    return QString::fromStdString(problem);
+}
 
 void RepairWindow::showPixel(const QPoint &sensorPixel)
 {

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class Correction;
 class QAction;
 class RepairPanel;
 
@@ -40,6 +41,7 @@ private:
     void showResult();
     void applyThreshold(double threshold);
     void applyRepair();
+    QString repairProblem(const Correction &correction);
     void showPixel(const QPoint &sensorPixel);
     void followCamera();
     void followJob();
