@@ -12,6 +12,7 @@ namespace {
 
 constexpr char mapFormat[] = "corvix-x-defect-map";
 constexpr char csvHeader[] = "x,y,kind,deviation";
+constexpr std::string_view csvBegin = "x,y"; // Other programs may leave the other columns out.
 constexpr std::size_t maxPixels = 500000;
 constexpr std::uint64_t maxFileSize = 64U << 20U;
 
@@ -104,7 +105,7 @@ std::string readJsonMap(const nlohmann::ordered_json &json, DefectMap &map)
 
 bool isDefectMapCsv(std::string_view text)
 {
-    return text.substr(0, sizeof csvHeader - 1) == csvHeader;
+    return text.substr(0, csvBegin.size()) == csvBegin;
 }
 
 /// Returns the fields of a line of a CSV file; those that it lacks are empty.

@@ -16,7 +16,7 @@
 ///
 /// The CSV file has the header "x,y,kind,deviation" and a line for each pixel. It does not contain the size
 /// of the sensor. In the map of a line scan sensor, y is empty, because the pixel is defective in all lines.
-/// Kind and deviation may be empty.
+/// Kind and deviation may be empty or missing.
 
 /// The text of a kind in both files, for example "hot".
 const char *defectKindText(DefectKind kind);

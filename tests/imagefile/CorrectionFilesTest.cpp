@@ -113,6 +113,7 @@ TEST_F(CorrectionFilesTest, handWrittenMapsAreSorted)
     const std::string json = file("a.json",
         R"({"format": "corvix-x-defect-map", "version": 1, "width": 9, "height": 9, "pixels": [[2, 5], [1, 5]]})");
     EXPECT_EQ(textOf(*readDefectMap(json).map), "9 x 9; 1,5,hot,0.000000; 2,5,hot,0.000000");
+    EXPECT_EQ(textOf(*readDefectMap(file("b.csv", "x,y\n3,4\n")).map), "0 x 0; 3,4,hot,0.000000");
 }
 
 TEST_F(CorrectionFilesTest, damagedDefectMapsGiveASentence)

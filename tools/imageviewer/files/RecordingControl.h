@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sdk/imagefile/CorrectionFiles.h"
 #include "tools/imageviewer/files/CameraRecordReader.h"
 #include "tools/imageviewer/files/NewFile.h"
 #include "tools/imageviewer/files/RecordingOptions.h"
