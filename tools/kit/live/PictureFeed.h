@@ -30,7 +30,7 @@ struct ShownPicture
     QImage pixels; ///< RGB32.
     QRect region; ///< Where the pixels come from.
     QSize pictureSize;
-    std::shared_ptr<const CvxCPP::Image> image; ///< The raw values.
+    std::shared_ptr<const CvxCPP::Image> image; ///< The raw values, without any correction.
 };
 
 Q_DECLARE_METATYPE(ShownPicture)

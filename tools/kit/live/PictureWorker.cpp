@@ -193,6 +193,7 @@ ShownPicture PictureWorker::render(const ImagePointer &image, const PictureReque
     const QRect &rect = request.region;
     const Region region{static_cast<std::uint32_t>(rect.x()), static_cast<std::uint32_t>(rect.y()),
         static_cast<std::uint32_t>(rect.width()), static_cast<std::uint32_t>(rect.height())};
+    m_renderer.setPlace(image->GetInfo().offsetX, image->GetInfo().offsetY);
     m_renderer.render(rawImage(*image), region, static_cast<std::uint32_t>(request.size.width()),
         static_cast<std::uint32_t>(request.size.height()), request.settings,
         reinterpret_cast<std::uint32_t *>(pixels.bits()),

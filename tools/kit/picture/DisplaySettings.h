@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 
 /// Maps the values of a picture to brightness: `black` and below become black, `white` and above white, both
 /// as shares of the format's range; between them, brightness = position^(1 / gamma).
@@ -32,4 +33,7 @@ struct DisplaySettings
     /// White balance: factors of red, green and blue. Grey formats have none.
     std::array<double, 3> gains = {1, 1, 1};
     bool hasClipMarks = false; ///< Overexposed pixels are red, underexposed ones blue.
+    /// Defect pixels, offset and gain are corrected in pictures that it fits; null: in none. Clip marks and
+    /// the values that are written into enlarged pixels stay those of the camera.
+    std::shared_ptr<const Correction> correction;
 };

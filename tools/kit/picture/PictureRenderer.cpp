@@ -40,6 +40,8 @@ public:
     RawImage withBrightness(const RawImage &picture, const PixelLayout &layout, const Region &region,
         const DisplaySettings &settings);
 
+    std::uint32_t offsetX = 0;
+    std::uint32_t offsetY = 0;
     ImageConverter converter;
     ColorLines<std::uint16_t> colors{bestKernels()};
     BrightnessTables tables;
@@ -69,6 +71,7 @@ RawImage PictureRenderer::Workspace::withBrightness(
     const std::size_t planeBytes = std::size_t(region.width) * region.height;
     bright.resize(std::max(bright.size(), planeBytes * channels));
     tables.set(std::min<unsigned>(layout.format.depth, 16), channels, settings);
+    colors.reader().setCorrection({settings.correction, offsetX, offsetY});
     colors.start(picture, layout, region, settings.demosaicing);
     for (std::uint32_t y = 0; y < region.height; ++y) {
         const std::array<const std::uint16_t *, 3> line = colors.line(y).channels;
@@ -89,15 +92,24 @@ PictureRenderer::PictureRenderer(PictureRenderer &&) noexcept = default;
 PictureRenderer &PictureRenderer::operator=(PictureRenderer &&) noexcept = default;
 PictureRenderer::~PictureRenderer() = default;
 
+void PictureRenderer::setPlace(std::uint32_t offsetX, std::uint32_t offsetY)
+{
+    m_workspace->offsetX = offsetX;
+    m_workspace->offsetY = offsetY;
+}
+
 void PictureRenderer::render(const RawImage &picture, const Region &region, std::uint32_t width,
     std::uint32_t height, const DisplaySettings &settings, std::uint32_t *output, std::size_t stride)
 {
     const PixelLayout &layout = findPixelLayout(picture.pixelFormat);
     const unsigned channels = layout.screenChannels();
     if (isNeutral(settings, channels)) {
+        m_workspace->converter.setCorrection(
+            {settings.correction, m_workspace->offsetX, m_workspace->offsetY});
         m_workspace->convert(
             picture, {region, width, height, settings.demosaicing}, channels, output, stride);
     } else {
+        m_workspace->converter.setCorrection({}); // It only converts what has been corrected.
         const RawImage bright = m_workspace->withBrightness(picture, layout, region, settings);
         m_workspace->convert(
             bright, {{0, 0, region.width, region.height}, width, height}, channels, output, stride);

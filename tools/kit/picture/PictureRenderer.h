@@ -9,8 +9,8 @@
 #include <memory>
 
 /// Turns a region of a picture into pixels for the screen. One object serves one thread; its memory is
-/// reused. Only the region is converted. Contrast and white balance are applied at the full depth, before the
-/// reduction to 8 bits.
+/// reused. Only the region is converted. Corrections, contrast and white balance are applied at the full
+/// depth, before the reduction to 8 bits.
 class PictureRenderer
 {
 public:
@@ -18,6 +18,9 @@ public:
     PictureRenderer(PictureRenderer &&) noexcept;
     PictureRenderer &operator=(PictureRenderer &&) noexcept;
     ~PictureRenderer();
+
+    /// Sets the place on the sensor of the pictures that follow, which matters for corrections.
+    void setPlace(std::uint32_t offsetX, std::uint32_t offsetY);
 
     /// Writes `width` x `height` pixels of the form 0xffRRGGBB. A pixel is marked as clipped if any pixel of
     /// the picture in its place is at the lowest or highest value of the format; see ClipMarks.
