@@ -46,7 +46,7 @@ corvix_deb_package(launcher corvix-x-launcher
     "GigE Vision and USB3 Vision cameras of any vendor. It sorts them into hardware"
     "groups and starts the tools of the Corvix X camera SDK that suit them.")
 set(CPACK_DEBIAN_LAUNCHER_PACKAGE_RECOMMENDS "xdg-utils, qttranslations5-l10n, qtwayland5")
-set(CPACK_DEBIAN_LAUNCHER_PACKAGE_SUGGESTS "corvix-x-simulator, corvix-x-demo, ffmpeg")
+set(CPACK_DEBIAN_LAUNCHER_PACKAGE_SUGGESTS "corvix-x-simulator, ffmpeg")
 
 corvix_deb_package(simulator corvix-x-simulator
     "simulated cameras for the Corvix X launcher"
@@ -61,11 +61,5 @@ corvix_deb_package(sdk-dev corvix-x-dev
     "example program that lists cameras.")
 set(CPACK_DEBIAN_SDK-DEV_PACKAGE_DEPENDS ${same_version})
 set(CPACK_DEBIAN_SDK-DEV_PACKAGE_SECTION libdevel)
-
-corvix_deb_package(demo corvix-x-demo
-    "stand-ins for the tools of the Corvix X launcher"
-    "A small program with the names of the tools that the launcher starts. It shows"
-    "that a tool was started on a system where the tools are not installed.")
-set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS ${same_version})
 
 include(CPack)

@@ -1,5 +1,5 @@
 // A tool that writes the time at which main() starts to a pipe, in nanoseconds of the monotonic clock. The
-// tool links the same libraries as the tool stand-ins, because loading them is part of every start.
+// tool links Qt's widgets as the real tools do, because loading them is part of every start.
 
 #include <cstdio>
 #include <cstdlib>

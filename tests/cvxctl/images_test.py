@@ -64,6 +64,25 @@ def tiff_directories(path):
     return directories
 
 
+def write_flat_field(path, black_level):
+    """Writes a flat field that makes every pixel `black_level`, with a description as other programs could write it."""
+    text = json.dumps({"format": "corvix-x-flat-field", "version": 1, "width": WIDTH, "height": HEIGHT, "depth": 8,
+                       "blackLevel": black_level, "offsetX": 0, "offsetY": 0}).encode() + b"\0"
+    size = 4 * WIDTH * HEIGHT
+    tags = [(256, 4, 1, WIDTH), (257, 4, 1, HEIGHT), (258, 3, 1, 32), (259, 3, 1, 1), (262, 3, 1, 1),
+            (270, 2, len(text), 8), None, (277, 3, 1, 1), (278, 4, 1, HEIGHT), (279, 4, 1, size), (339, 3, 1, 3)]
+    pixels = 8 + len(text) + len(text) % 2
+    directory = pixels + size
+    following = directory + 6 + 12 * len(tags)
+    with open(path, "wb") as file:
+        file.write(struct.pack("<2sHI", b"II", 42, directory) + text.ljust(pixels - 8, b"\0") + bytes(size))
+        for end in following, 0:  # Offset and gain, which are both 0 and share their pixels.
+            tags[6] = (273, 4, 1, pixels)
+            file.write(struct.pack("<H", len(tags)) + b"".join(struct.pack("<HHII", *tag) for tag in tags))
+            file.write(struct.pack("<I", end))
+        file.write(bytes(size))  # The file has the size of one with pixels for both.
+
+
 def tool(*command):
     return subprocess.run(command, stdout=subprocess.PIPE, check=True, text=True, timeout=LIMIT).stdout
 
@@ -123,6 +142,54 @@ class ImagesTest(CvxctlCase):
         self.assertIn("create the folder first", self.run_failing(1, "snapshot", "1001", self.path("no/a.png"))[1])
         for arguments in (("--format", "jpeg"), ("--set", "Width"), ("--count", "0")):
             self.run_failing(2, "snapshot", "1001", self.path("a.png"), *arguments)
+
+    def pixels(self, name):
+        output = subprocess.run(["convert", self.path(name), "-depth", "8", "gray:-"], stdout=subprocess.PIPE, check=True,
+                                timeout=LIMIT).stdout
+        return [output[start:start + WIDTH] for start in range(0, WIDTH * HEIGHT, WIDTH)]
+
+    def write(self, name, text):
+        with open(self.path(name), "w", encoding="utf-8") as file:
+            file.write(text)
+        return self.path(name)
+
+    def test_corrections(self):
+        columns = self.write("columns.csv", "x,y\n" + "".join(f"100,{y}\n" for y in range(HEIGHT)))
+        write_flat_field(self.path("flat.tif"), 77)
+        self.run_well("snapshot", "1001", self.path("a.tif"), "--correct", columns, "--set", "TestPattern=Off")
+        pixels = self.pixels("a.tif")
+        for y in range(1, HEIGHT - 1):
+            around = sorted(pixels[row][column] for row in (y - 1, y, y + 1) for column in (99, 101))
+            self.assertEqual(pixels[y][100], (around[2] + around[3] + 1) // 2)
+        self.run_well("snapshot", "1001", self.path("a.png"), "--correct", columns, "--correct", self.path("flat.tif"))
+        self.assertEqual(set(b"".join(self.pixels("a.png"))), {77})
+        self.assertEqual([entry["file"] for entry in self.load("a.png.json")["corrections"]],
+                         [columns, self.path("flat.tif")])
+        self.run_well("record", "1001", self.path("b.tif"), "--frames", "2", "--correct", self.path("flat.tif"))
+        self.assertEqual(set(b"".join(self.pixels("b.tif[1]"))), {77})
+        self.assertEqual(self.load("b.tif.json")["corrections"][0]["format"], "corvix-x-flat-field")
+
+    def test_corrections_that_cannot_be_used(self):
+        write_flat_field(self.path("flat.tif"), 77)
+        other = self.write("other.json", json.dumps({
+            "format": "corvix-x-defect-map", "version": 1, "width": WIDTH, "height": HEIGHT, "pixels": [],
+            "camera": {"serialNumber": "1002"}, "settings": {"ReverseX": False}}))
+        own = self.write("own.json", json.dumps({
+            "format": "corvix-x-defect-map", "version": 1, "width": WIDTH, "height": HEIGHT, "pixels": [],
+            "camera": {"serialNumber": "1001"}, "settings": {"ReverseX": False}}))
+        for command in "snapshot", "record":
+            for status, target, expected, arguments in (
+                    (2, "a.raw", "--correct cannot be used", ("--correct", self.path("flat.tif"))),
+                    (1, "a.tif", "No such file", ("--correct", self.path("missing"))),
+                    (1, "a.tif", "contains no defect map", ("--correct", self.write("text", "nothing"))),
+                    (1, "a.tif", "the camera 1002, but this camera is 1001", ("--correct", other)),
+                    (1, "a.tif", "ReverseX = true", ("--correct", own, "--set", "ReverseX=1"))):
+                self.assertIn(expected, self.run_failing(status, command, "1001", self.path(target), *arguments)[1])
+                self.assertFalse(os.path.exists(self.path(target)))
+            arguments = ("--correct", self.path("flat.tif"), "--set", "PixelFormat=RGB8")
+            messages = self.run_failing(1, command, "1002", self.path("a.tif"), *arguments)[1]
+            self.assertIn("RGB8 does not have; set PixelFormat", messages)
+            self.assertFalse(os.path.exists(self.path("a.tif")))
 
     def test_record_tiff(self):
         counters = self.run_json("record", "1001", self.path("a.tif"), "--frames", "20", "--set",

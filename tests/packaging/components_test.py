@@ -1,21 +1,31 @@
 """Each component installs its own files in the layout that the programs expect, and no file belongs to two components.
 
-usage: components_test.py BUILD STAGE   STAGE receives a complete installation, which other tests use.
+usage: components_test.py BUILD STAGE SOURCES   STAGE receives a complete installation, which other tests use.
 """
 
+import json
 import os
 import re
 import shutil
 import subprocess
 import sys
 
-BUILD, STAGE = sys.argv[1:]
+BUILD, STAGE, SOURCES = sys.argv[1:]
+
+
+def tools_of_this_platform():
+    """Returns the files that the tiles of the launcher start."""
+    with open(f"{SOURCES}/resources/config/launcher_config.json", encoding="utf-8") as file:
+        groups = json.load(file)["hardwareGroups"]
+    return {tool["executable"] for group in groups for tool in group["tools"]
+            if any(platform.startswith("linux_") for platform in tool.get("platforms", ["linux_x86_64"]))}
+
 
 # For each component, the patterns of the required files, followed by the patterns of the optional files.
 COMPONENTS = {
     "launcher": (
-        [r"bin/CorvixLauncher", r"bin/cvxctl", r"bin/CvxProducerHost", r"bin/CvxCameraHost", r"bin/ImageViewer",
-         r"bin/CameraSetup",
+        [r"bin/CorvixLauncher", r"bin/cvxctl", r"bin/CvxProducerHost", r"bin/CvxCameraHost",
+         *tools_of_this_platform(),
          r"bin/libCvxCPP\.so[.\d]*", r"bin/CvxC\.xml",
          r"doc/index\.html", r"doc/LICENSE", r"doc/THIRD-PARTY\.md", r"doc/CHANGELOG\.md",
          r"lib/udev/rules\.d/60-corvix-usb3-vision\.rules", r"share/applications/[^/]*\.desktop",
@@ -28,7 +38,6 @@ COMPONENTS = {
         [r"api/include/CvxCPP/CvxCPP\.h", r"api/examples/(list-cameras|save-image)/(main\.cpp|CMakeLists\.txt)",
          r"api/lib/cmake/CvxCPP/CvxCPPConfig\.cmake", r"api/lib/cmake/CvxCPP/CvxCPPTargets\.cmake"],
         [r"api/include/CvxCPP/[^/]*\.h", r"api/lib/cmake/CvxCPP/[^/]*\.cmake", r"bin/libCvxCPP\.so"]),
-    "demo": ([r"bin/CvxToolStandIn", r"bin/PixelRepair"], [r"bin/[A-Z]\w+"]),
 }
 
 

@@ -16,7 +16,9 @@ import unittest
 import xml.etree.ElementTree
 
 STAGE, SOURCES = pathlib.Path(sys.argv.pop(1)), pathlib.Path(sys.argv.pop(1))
-IDS = ("example.orvelle.CorvixLauncher", "example.orvelle.CameraSetup", "example.orvelle.ImageViewer")
+IDS = tuple(f"example.orvelle.{program}" for program in (
+    "CorvixLauncher", "CameraSetup", "FlatField", "FocusAssistant", "ImageViewer", "LineScanTuner", "PixelRepair",
+    "TapBalance", "ThermalMonitor"))
 LANGUAGES = {path.stem.partition("_")[2] for path in SOURCES.glob("translations/corvix_*.ts")}
 
 

@@ -10,9 +10,11 @@ import subprocess
 import sys
 
 STAGE, KIND = pathlib.Path(sys.argv[1]), sys.argv[2]
-PROGRAMS = {"CameraSetup", "CorvixLauncher", "cvxctl", "CvxCameraHost", "CvxProducerHost", "CvxToolStandIn", "ImageViewer"}
+TOOLS = {"CameraSetup", "FlatField", "FocusAssistant", "ImageViewer", "LineScanTuner", "PixelRepair", "TapBalance",
+         "ThermalMonitor"}
+PROGRAMS = {"CorvixLauncher", "cvxctl", "CvxCameraHost", "CvxProducerHost", *TOOLS}
 FORTIFIED = {"CvxProducerHost", "libCvxCPP.so", "CorvixCameraSimulator.cti"}  # These files use fortified functions.
-WITH_RUNPATH = {"CameraSetup", "CorvixLauncher", "ImageViewer", "cvxctl", "libCvxCPP.so"}  # These files load a library from their own directory.
+WITH_RUNPATH = {"CorvixLauncher", "cvxctl", "libCvxCPP.so", *TOOLS}  # These files load a library from their own directory.
 
 
 def readelf(option, path):

@@ -21,9 +21,12 @@ void addCompareCommand(CLI::App &program, ExitStatus &status);
 void addRecordCommand(CLI::App &program, ExitStatus &status);
 void addAddressCommand(CLI::App &program, ExitStatus &status);
 void addDoctorCommand(CLI::App &program, ExitStatus &status);
-void addFlatFieldCommand(CLI::App &program, ExitStatus &status);
+void addFocusCommand(CLI::App &program, ExitStatus &status);
 void addThermalCommand(CLI::App &program, ExitStatus &status);
+void addDefectsCommand(CLI::App &program, ExitStatus &status);
+void addFlatFieldCommand(CLI::App &program, ExitStatus &status);
 void addLineScanCommand(CLI::App &program, ExitStatus &status);
+void addTapsCommand(CLI::App &program, ExitStatus &status);
 
 /// The text that explains the argument CAMERA of every sub-command.
 constexpr char cameraHelp[]

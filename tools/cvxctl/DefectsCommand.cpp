@@ -32,26 +32,25 @@ struct DefectsResult
     ExitStatus preparation = exitSuccess; // Failure of the person or of a setting; the error was printed.
 };
 
-/// Writes settings, or asks the person if there are none.
-bool prepareImages(const MeasureContext &context, const std::vector<std::string> &assignments,
-    const char *request, ExitStatus &status)
+/// Writes settings, or asks the person if there are none. Prints an error on failure.
+bool prepareDefectImages(const MeasureContext &context, const std::vector<std::string> &assignments,
+    const char *request, const char *option, ExitStatus &status)
 {
-    status = assignments.empty() ? askPerson(request) : writeAssignments(context.device, assignments);
+    status = assignments.empty() ? askPerson(request, option) : writeAssignments(context.device, assignments);
     return status == exitSuccess;
 }
 
+/// Returns no problem if the preparation has failed, because its error was printed.
 Sentence measureDefects(const DefectsOptions &options, const MeasureContext &context, DefectsResult &result)
 {
-    if (!prepareImages(context, options.darkAssignments,
-            "Cover the lens, so that no light reaches the sensor (--dark-set avoids this question).",
-            result.preparation))
-        return cancelledSentence();
+    if (!prepareDefectImages(context, options.darkAssignments,
+            "Cover the lens, so that no light reaches the sensor.", "--dark-set", result.preparation))
+        return {};
     if (Sentence problem = takeDarkImages(context, options.images, result.dark); !problem.isEmpty())
         return problem;
-    if (!prepareImages(context, options.brightAssignments,
-            "Point the camera at an evenly lit surface (--bright-set avoids this question).",
-            result.preparation))
-        return cancelledSentence();
+    if (!prepareDefectImages(context, options.brightAssignments, "Point the camera at an evenly lit surface.",
+            "--bright-set", result.preparation))
+        return {};
     if (Sentence problem = takeBrightImages(context, options.images, result.dark, result.bright);
         !problem.isEmpty())
         return problem;

@@ -109,8 +109,12 @@ public:
     Sentence apply(Device &device)
     {
         const Sentence problem = applyPlan(device, m_result.plan);
-        m_result.isApplied = problem.isEmpty();
-        return problem;
+        if (!problem.isEmpty())
+            return problem;
+        std::vector<PlannedSetting> &planned = m_result.plan.settings;
+        m_result.written.insert(m_result.written.end(), planned.begin(), planned.end());
+        planned.clear();
+        return {};
     }
 
     Sentence measure(const MeasureContext &context, std::optional<Roundness> &measured)

@@ -4,6 +4,7 @@
 #include "tools/cvxctl/Assignment.h"
 #include "tools/cvxctl/CameraSession.h"
 #include "tools/cvxctl/Commands.h"
+#include "tools/cvxctl/CorrectOption.h"
 #include "tools/cvxctl/Interruption.h"
 #include "tools/cvxctl/RecordProgress.h"
 #include "tools/cvxctl/Terminal.h"
@@ -27,6 +28,7 @@ struct RecordOptions
     std::string camera;
     std::string file;
     std::vector<std::string> assignments;
+    std::vector<std::string> corrections; // Files.
     std::uint64_t frames = 0; // 0 is without end.
     double seconds = 0; // 0 is without end.
     unsigned buffers = 32;
@@ -60,9 +62,25 @@ std::optional<double> expectedImages(Device &device, const RecordOptions &option
     return images;
 }
 
+/// Returns the size and the place of the images that the camera is going to send.
+ImageInfo announcedImage(Device &device, std::uint32_t pixelFormat, std::int64_t width, std::int64_t height)
+{
+    std::int64_t offsetX = 0; // Stays 0 if the camera lacks the feature.
+    std::int64_t offsetY = 0;
+    static_cast<void>(device.ReadInteger("OffsetX", offsetX));
+    static_cast<void>(device.ReadInteger("OffsetY", offsetY));
+    ImageInfo region;
+    region.pixelFormat = pixelFormat;
+    region.width = static_cast<std::uint32_t>(width);
+    region.height = static_cast<std::uint32_t>(height);
+    region.offsetX = static_cast<std::uint32_t>(offsetX);
+    region.offsetY = static_cast<std::uint32_t>(offsetY);
+    return region;
+}
+
 /// Returns why the camera's images cannot be recorded in this file, as far as the camera says that before
 /// the stream starts.
-std::string findProblem(Device &device, const RecordOptions &options)
+std::string findProblem(Device &device, const RecordOptions &options, const CorrectionSource &correction)
 {
     std::string name;
     std::int64_t width = 0;
@@ -77,6 +95,10 @@ std::string findProblem(Device &device, const RecordOptions &options)
         options.file, format->code, static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));
     if (!size.problem.empty())
         return std::move(size.problem);
+    if (std::string problem
+        = correctionProblem(correction, announcedImage(device, format->code, width, height));
+        !problem.empty())
+        return problem;
     const std::optional<double> images = expectedImages(device, options);
     std::optional<std::uint64_t> usable = usableSpace(options.file);
     std::error_code error;
@@ -189,15 +211,24 @@ ExitStatus run(const RecordOptions &options)
 {
     for (const int signal : {SIGXFSZ, SIGPIPE}) // The recorder reports the write that has failed.
         std::signal(signal, SIG_IGN);
+    CorrectionSource correction;
+    const bool isTiff = imageFileFormat(options.file) == ImageFileFormat::Tiff;
+    if (const ExitStatus status = readCorrectionFiles(
+            options.corrections, isTiff ? ImageFileFormat::Tiff : ImageFileFormat::Raw, correction))
+        return status;
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
         return status;
     if (const ExitStatus status = writeAssignments(session.device(), options.assignments))
         return status;
-    std::string problem = findProblem(session.device(), options);
-    Recorder recorder;
+    const CameraRecord camera = readCameraRecord(*session.camera().camera, session.device());
+    std::string problem = findProblem(session.device(), options, correction);
     if (problem.empty())
-        problem = recorder.open(options.file, readCameraRecord(*session.camera().camera, session.device()));
+        problem = cameraProblem(correction, camera);
+    Recorder recorder;
+    recorder.setCorrection(std::move(correction));
+    if (problem.empty())
+        problem = recorder.open(options.file, camera);
     if (!problem.empty()) {
         printError(problem);
         return exitFailure;
@@ -243,6 +274,7 @@ void addRecordCommand(CLI::App &program, ExitStatus &status)
         ->check(CLI::Range(2, 256))
         ->capture_default_str();
     addSetOption(*command, options->assignments);
+    addCorrectOption(*command, options->corrections);
     command->add_flag("--json", options->isJson, "Print the counters as JSON");
     command->callback([options, &status] { status = run(*options); });
 }

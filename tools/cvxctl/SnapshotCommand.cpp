@@ -3,6 +3,7 @@
 #include "tools/cvxctl/Assignment.h"
 #include "tools/cvxctl/CameraSession.h"
 #include "tools/cvxctl/Commands.h"
+#include "tools/cvxctl/CorrectOption.h"
 #include "tools/cvxctl/Interruption.h"
 #include "tools/cvxctl/Terminal.h"
 
@@ -22,6 +23,7 @@ struct SnapshotOptions
     std::string file;
     std::string format; // Empty: the name of the file says it.
     std::vector<std::string> assignments;
+    std::vector<std::string> corrections; // Files.
     unsigned count = 1;
     double interval = 0; // Seconds.
     double timeout = 10; // Seconds.
@@ -62,13 +64,16 @@ ExitStatus takeImage(
     return exitInterrupted;
 }
 
-/// Saves `count` images. `files` gets the record of each saved one.
-ExitStatus saveImages(
-    Stream &stream, const SnapshotOptions &options, const CameraRecord &camera, nlohmann::ordered_json &files)
+ImageFileFormat snapshotFormat(const SnapshotOptions &options)
 {
-    const ImageFileFormat format
-        = options.format.empty() ? imageFileFormat(options.file) : snapshotFormats.at(options.format);
-    ImageFileWriter writer;
+    return options.format.empty() ? imageFileFormat(options.file) : snapshotFormats.at(options.format);
+}
+
+/// Saves `count` images. `files` gets the record of each saved one.
+ExitStatus saveImages(Stream &stream, const SnapshotOptions &options, const CameraRecord &camera,
+    ImageFileWriter &writer, nlohmann::ordered_json &files)
+{
+    const ImageFileFormat format = snapshotFormat(options);
     SnapshotClock::time_point due; // The first image is due at once.
     for (unsigned number = 1; number <= options.count; ++number) {
         std::shared_ptr<const Image> image;
@@ -91,19 +96,28 @@ ExitStatus saveImages(
 
 ExitStatus run(const SnapshotOptions &options)
 {
+    CorrectionSource correction;
+    if (const ExitStatus status = readCorrectionFiles(options.corrections, snapshotFormat(options), correction))
+        return status;
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))
         return status;
     if (const ExitStatus status = writeAssignments(session.device(), options.assignments))
         return status;
     const CameraRecord camera = readCameraRecord(*session.camera().camera, session.device());
+    if (const std::string problem = cameraProblem(correction, camera); !problem.empty()) {
+        printError(problem);
+        return exitFailure;
+    }
+    ImageFileWriter writer;
+    writer.setCorrection(std::move(correction));
     constexpr unsigned buffers = 3;
     std::shared_ptr<Stream> stream;
     if (const CvxResult result = session.device().StartStream(buffers, StreamPolicy::NewestImage, stream);
         !result)
         return reportFailure(result);
     auto files = nlohmann::ordered_json::array();
-    const ExitStatus status = saveImages(*stream, options, camera, files);
+    const ExitStatus status = saveImages(*stream, options, camera, writer, files);
     const CvxResult stopped = stream->Stop();
     if (options.isJson && !files.empty())
         printJson(options.count == 1 ? files.front() : files);
@@ -138,6 +152,7 @@ void addSnapshotCommand(CLI::App &program, ExitStatus &status)
         ->check(CLI::Range(0.0, 86400.0))
         ->capture_default_str();
     addSetOption(*command, options->assignments);
+    addCorrectOption(*command, options->corrections);
     command->add_option("--timeout", options->timeout, "Seconds to wait for a complete image")
         ->check(CLI::Range(0.0, 3600.0))
         ->capture_default_str();

@@ -24,9 +24,12 @@ int main(int argc, char *argv[])
     addRecordCommand(program, status);
     addAddressCommand(program, status);
     addDoctorCommand(program, status);
-    addFlatFieldCommand(program, status);
+    addFocusCommand(program, status);
     addThermalCommand(program, status);
+    addDefectsCommand(program, status);
+    addFlatFieldCommand(program, status);
     addLineScanCommand(program, status);
+    addTapsCommand(program, status);
 
     catchInterruption();
     try {

@@ -43,6 +43,7 @@ ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
       newWindow(createAction(this, tr("&New window"), QKeySequence::New, {}, false)),
       cameraSetup(createAction(
           this, tr("All &features (Camera Setup)"), Qt::Key_F12, ToolIcons::icon(Kind::Settings), false)),
+      corrections(createAction(this, tr("C&orrections…"), {}, {}, false)),
       m_overlays{grid, crosshair, clipMarks},
       m_tools(new QActionGroup(this))
 {
@@ -138,7 +139,7 @@ void ViewerActions::addToViewMenu(QMenu *menu) const
 
 void ViewerActions::addToCameraMenu(QMenu *menu) const
 {
-    menu->addActions({live, cameraSetup, newWindow});
+    menu->addActions({live, cameraSetup, corrections, newWindow});
 }
 
 void ViewerActions::addToToolBar(QToolBar *bar) const

@@ -29,6 +29,7 @@ public:
     QAction *const fullScreen; ///< Checkable.
     QAction *const newWindow;
     QAction *const cameraSetup;
+    QAction *const corrections;
 
     void addToFileMenu(QMenu *menu) const;
     void addToViewMenu(QMenu *menu) const;

@@ -48,6 +48,7 @@ ViewerWindow::ViewerWindow(const QString &camera, ToolSettings &settings)
       m_records(connection(), this),
       m_saver(m_records, this),
       m_recording(m_stream, m_records, this),
+      m_correction(m_records, settings, this),
       m_pauser(m_stream),
       m_canvas(new ImageCanvas(this)),
       m_actions(new ViewerActions(*m_canvas, this)),
@@ -67,6 +68,7 @@ ViewerWindow::ViewerWindow(const QString &camera, ToolSettings &settings)
     connectCanvas();
     connectPanels();
     connectActions();
+    connectCorrection();
     restoreChoices();
     onConnectionChanged();
 }
@@ -143,6 +145,9 @@ void ViewerWindow::createStatusBar()
     m_readout->setObjectName(QStringLiteral("readout"));
     m_readout->setAccessibleName(tr("Pixel under the pointer"));
     statusBar()->addWidget(m_readout, 1);
+    m_correctionState = new QLabel(this);
+    m_correctionState->setObjectName(QStringLiteral("correctionState"));
+    statusBar()->addPermanentWidget(m_correctionState);
     auto *numbers = new StatusNumbers(m_monitor, this);
     connect(numbers, &StatusNumbers::clicked, this, [this] { showDock(*m_details); });
     statusBar()->addPermanentWidget(numbers);

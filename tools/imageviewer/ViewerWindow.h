@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/imageviewer/files/CameraRecordReader.h"
+#include "tools/imageviewer/files/PictureCorrection.h"
 #include "tools/imageviewer/files/RecordingControl.h"
 #include "tools/imageviewer/files/SnapshotSaver.h"
 #include "tools/imageviewer/numbers/StreamMonitor.h"
@@ -14,6 +15,7 @@
 #include <QTimer>
 
 class CameraPanel;
+class CorrectionDialog;
 class DetailsPage;
 class FilesPanel;
 class MeasuringPanel;
@@ -52,6 +54,7 @@ private:
     void connectCanvas();
     void connectPanels();
     void connectActions();
+    void connectCorrection();
     void restoreChoices();
 
     void onConnectionChanged();
@@ -70,6 +73,9 @@ private:
     void updateReadout();
     void updateHint();
     void openCameraSetup();
+    void openCorrections();
+    void applyCorrection();
+    void updateDisplay();
 
     LiveStream m_stream;
     PictureFeed m_feed;
@@ -78,6 +84,7 @@ private:
     CameraRecordReader m_records;
     SnapshotSaver m_saver;
     RecordingControl m_recording;
+    PictureCorrection m_correction;
     LivePauser m_pauser;
     ImageCanvas *const m_canvas;
     ViewerActions *const m_actions;
@@ -88,7 +95,9 @@ private:
     QList<QDockWidget *> m_docks; // In the order of their menu.
     QDockWidget *m_files = nullptr;
     QDockWidget *m_details = nullptr;
+    CorrectionDialog *m_corrections = nullptr; // Created when it is opened first.
     QLabel *m_readout = nullptr;
+    QLabel *m_correctionState = nullptr;
     QPoint m_pointer{-1, -1}; // The pixel under the pointer.
     bool m_startsWhenOpen = false; // The camera was chosen, and its stream was not started yet.
     bool m_isDrawingCameraRegion = false; // The next drawn region goes to the camera.

@@ -48,8 +48,7 @@ void ViewerWindow::connectPanels()
 
     connect(m_measuringPanel, &MeasuringPanel::measureRequestChanged, this,
         [this](const MeasureRequest &request) { m_measurer.setRequest(request); });
-    connect(m_measuringPanel, &MeasuringPanel::displaySettingsChanged, m_canvas,
-        &ImageCanvas::setDisplaySettings);
+    connect(m_measuringPanel, &MeasuringPanel::displaySettingsChanged, this, &ViewerWindow::updateDisplay);
     connect(m_measuringPanel, &MeasuringPanel::displaySettingsChanged, m_actions->clipMarks,
         [this](const DisplaySettings &display) { m_actions->clipMarks->setChecked(display.hasClipMarks); });
     connect(m_measuringPanel, &MeasuringPanel::micrometresPerPixelChanged, m_canvas,
@@ -96,4 +95,5 @@ void ViewerWindow::connectActions()
     connect(m_actions->newWindow, &QAction::triggered, this,
         [this] { showProblem(ToolStarter::start(QStringLiteral("ImageViewer"), QString())); });
     connect(m_actions->cameraSetup, &QAction::triggered, this, &ViewerWindow::openCameraSetup);
+    connect(m_actions->corrections, &QAction::triggered, this, &ViewerWindow::openCorrections);
 }

@@ -6,6 +6,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QVariantMap>
+#include <QWidget>
 
 AlertNotifier::AlertNotifier(QWidget *window) : QObject(window), m_window(window) { }
 

@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QString>
 
+class QWidget;
+
 /// Tells a person who looks at something else that something has happened: by a notification of the desktop
 /// (the freedesktop interface "org.freedesktop.Notifications"), and by marking the window in the task bar. A
 /// desktop without notifications only marks the window.

@@ -59,8 +59,9 @@ AssistantWindow::Plan ThermalWindow::plan(const QString &camera)
         tr("The camera has no feature DeviceTemperature, so it does not report its temperature. The data "
            "sheet "
            "says whether a newer firmware does.")}};
-    plan.settings = {QStringLiteral("ExposureTime"), QStringLiteral("Gain"), QStringLiteral("BlackLevel"),
-        QStringLiteral("PixelFormat"), QStringLiteral("AcquisitionFrameRate"), QStringLiteral("SceneTarget")};
+    plan.settings = QStringList{QStringLiteral("ExposureTime"), QStringLiteral("Gain"),
+        QStringLiteral("BlackLevel"), QStringLiteral("PixelFormat"), QStringLiteral("AcquisitionFrameRate"),
+        QStringLiteral("SceneTarget")};
     return plan;
 }
 

@@ -214,7 +214,6 @@ void TestAssistantWindow::overlayIsPaintedOverThePicture()
 void TestAssistantWindow::everyControlHasAnAccessibleName()
 {
     ExampleUnderTest tool("2001"_s);
-    tool.find<CameraSettings>()->setOpen(true);
     await([&] { return shownSettings(tool).size() == 2; });
     int count = 0;
     QCOMPARE(unnamedControls(tool.window(), count), QStringList());

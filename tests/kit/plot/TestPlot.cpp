@@ -51,6 +51,7 @@ private slots:
     void stepOfADurationIsPleasant();
     void axisOfDurationsHasWholeSteps();
     void paperShowsCurvesAndLines();
+    void pointThatIsNoNumberMakesAGap();
     void legendNamesSeveralCurves();
     void removedCurvesAndLinesAreGone();
 };
@@ -136,6 +137,18 @@ void TestPlot::paperShowsCurvesAndLines()
     plot.setLimit(0, 4, "Limit"_s); // Replaces the line.
     plot.removeLines();
     QCOMPARE(plot.paper(paperSize), before);
+}
+
+void TestPlot::pointThatIsNoNumberMakesAGap()
+{
+    Plot plot;
+    plot.setHorizontalAxis(Plot::Axis::Numbers, {});
+    plot.setSamples(plot.addCurve({}), {{0, 1}, {3, 1}, {5, qQNaN()}, {7, 1}, {10, 1}});
+    const QImage paper = plot.paper(paperSize);
+    const QRect whole = placeOf(paper, firstCurve);
+    QVERIFY(whole.width() > paperSize.width() / 2);
+    const QRect middle(whole.left() + whole.width() * 4 / 10, 0, whole.width() * 2 / 10, paper.height());
+    QVERIFY(placeOf(paper.copy(middle), firstCurve).isEmpty());
 }
 
 void TestPlot::legendNamesSeveralCurves()

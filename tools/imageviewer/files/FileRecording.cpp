@@ -1,8 +1,11 @@
 #include "tools/imageviewer/files/FileRecording.h"
 
-FileRecording::FileRecording(const QString &path, CameraRecord camera, ImageKeeper keeper)
+FileRecording::FileRecording(
+    const QString &path, CameraRecord camera, const CorrectionSource &correction, ImageKeeper keeper)
     : m_path(path.toStdString()), m_camera(std::move(camera)), m_keeper(std::move(keeper))
-{ }
+{
+    m_recorder.setCorrection(correction);
+}
 
 QString FileRecording::open()
 {

@@ -4,11 +4,13 @@
 #include "tools/imageviewer/files/ImageKeeper.h"
 #include "tools/imageviewer/files/RecordingTarget.h"
 
-/// Records every image at its full depth to a BigTIFF or raw file.
+/// Records every image at its full depth to a BigTIFF file, with the correction if there is one, or to a raw
+/// file.
 class FileRecording final : public RecordingTarget
 {
 public:
-    FileRecording(const QString &path, CameraRecord camera, ImageKeeper keeper);
+    FileRecording(
+        const QString &path, CameraRecord camera, const CorrectionSource &correction, ImageKeeper keeper);
 
     QString open() override;
     void add(const std::shared_ptr<const CvxCPP::Image> &image) override;

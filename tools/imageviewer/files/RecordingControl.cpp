@@ -13,12 +13,12 @@ namespace {
 constexpr int updateInterval = 250; // Milliseconds.
 constexpr unsigned maxHeldImages = 3; // Buffers of the stream that a recording may occupy.
 
-std::shared_ptr<RecordingTarget> createTarget(
-    const QString &path, const RecordingOptions &options, const CameraRecord &record, double rate)
+std::shared_ptr<RecordingTarget> createTarget(const QString &path, const RecordingOptions &options,
+    const CameraRecord &record, const CorrectionSource &correction, double rate)
 {
     const ImageKeeper keeper(maxHeldImages, ImageKeeper::defaultCopyLimit());
     if (!isVideo(options.format))
-        return std::make_shared<FileRecording>(path, record, keeper);
+        return std::make_shared<FileRecording>(path, record, correction, keeper);
     return std::make_shared<VideoWriter>(VideoWriter::Options{path, options.format, rate, record}, keeper);
 }
 
@@ -94,20 +94,20 @@ void RecordingControl::prepare(const CameraRecord &record)
     const double measuredRate = m_stream.statistics().imagesPerSecond;
     const double recordedRate = measuredRate > 0 ? measuredRate : usualRate;
     const double rate = m_options.playbackRate > 0 ? m_options.playbackRate : recordedRate;
-    m_pool.start([this, options = m_options, record, rate] {
-        const Prepared prepared = open(options, record, rate);
+    m_pool.start([this, options = m_options, correction = m_correction, record, rate] {
+        const Prepared prepared = open(options, record, correction, rate);
         QMetaObject::invokeMethod(
             this, [this, prepared] { begin(prepared); }, Qt::QueuedConnection);
     });
 }
 
-RecordingControl::Prepared RecordingControl::open(
-    const RecordingOptions &options, const CameraRecord &record, double rate)
+RecordingControl::Prepared RecordingControl::open(const RecordingOptions &options, const CameraRecord &record,
+    const CorrectionSource &correction, double rate)
 {
     Prepared prepared;
     prepared.file = std::make_shared<NewFile>(options.folder, FileNamePattern(options.pattern),
         fileNameValues(record), recordingExtension(options.format));
-    prepared.target = createTarget(prepared.file->path(), options, record, rate);
+    prepared.target = createTarget(prepared.file->path(), options, record, correction, rate);
     prepared.problem = prepared.target->open();
     return prepared;
 }

@@ -43,6 +43,9 @@ public:
     /// Returns true if the recording waits for a camera that is gone.
     bool isCameraLost() const;
 
+    /// Corrects the TIFF recordings that begin from now on.
+    void setCorrection(const CorrectionSource &correction) { m_correction = correction; }
+
     /// Begins a recording. Has no effect unless the state is Idle.
     void start(const RecordingOptions &options);
 
@@ -66,7 +69,8 @@ private:
     };
 
     void prepare(const CameraRecord &record);
-    static Prepared open(const RecordingOptions &options, const CameraRecord &record, double rate);
+    static Prepared open(const RecordingOptions &options, const CameraRecord &record,
+        const CorrectionSource &correction, double rate);
     void begin(const Prepared &prepared);
     void finish();
     void report(const QString &problem);
@@ -85,6 +89,7 @@ private:
     CameraRecordReader &m_records;
     State m_state = State::Idle;
     RecordingOptions m_options;
+    CorrectionSource m_correction;
     RecordingResult m_result;
     QString m_endProblem; // Why the recording has to end, if the target does not know it.
     CvxCPP::StreamStatistics m_before; // When the recording began.

@@ -45,7 +45,7 @@ void SnapshotSaver::save(const std::shared_ptr<const CvxCPP::Image> &image, cons
         emit failed(tr("The snapshot was not saved: %1.").arg(problem));
         return;
     }
-    const Job job{m_keeper.keep(image), options};
+    const Job job{m_keeper.keep(image), options, m_correction};
     if (!job.image) {
         emit failed(tr("The snapshot was not saved, because earlier ones still wait for the disk."));
         return;
@@ -73,6 +73,8 @@ SnapshotSaver::Outcome SnapshotSaver::writeFile(const Job &job, const CameraReco
         m_lastNumber = 0;
     const NewFile file(options.folder, FileNamePattern(options.pattern), fileNameValues(record, *job.image),
         extension, m_lastNumber + 1);
+    m_writer.setCorrection(job.correction);
+    m_converter.setCorrection(placedCorrection(job.correction, job.image->GetInfo()));
     const std::string problem = m_writer.write(*job.image, file.path().toStdString(), options.format, record);
     if (!problem.empty())
         return {{}, {}, QString::fromStdString(problem)};

@@ -19,9 +19,9 @@ struct SnapshotOptions
     ImageFileFormat format = ImageFileFormat::Png16;
 };
 
-/// Saves single images with their sidecars. The file contains the raw values of the image, not what the
-/// screen shows. Existing files are never replaced. All functions are called on the GUI thread and return
-/// immediately.
+/// Saves single images with their sidecars. The file contains the values of the image, with the correction if
+/// there is one, not what the screen shows. Existing files are never replaced. All functions are called on
+/// the GUI thread and return immediately.
 class SnapshotSaver : public QObject
 {
     Q_OBJECT
@@ -33,6 +33,9 @@ public:
 
     /// Blocks until the images that are being written are on the disk.
     ~SnapshotSaver() override;
+
+    /// Corrects the PNG and TIFF files of the images that are saved from now on.
+    void setCorrection(const CorrectionSource &correction) { m_correction = correction; }
 
     void save(const std::shared_ptr<const CvxCPP::Image> &image, const SnapshotOptions &options);
 
@@ -51,6 +54,7 @@ private:
     {
         std::shared_ptr<const CvxCPP::Image> image;
         SnapshotOptions options;
+        CorrectionSource correction;
     };
 
     struct Outcome
@@ -66,6 +70,7 @@ private:
 
     CameraRecordReader &m_records;
     ImageKeeper m_keeper;
+    CorrectionSource m_correction;
     int m_pending = 0;
     // Only the pool's one thread uses these four members.
     QString m_lastPattern; // The pattern of the last file, with folder and extension.

@@ -128,7 +128,7 @@ void AssistantWindow::finish(const ShortcutPage::Rows &otherKeys)
     addCameraEntries(camera);
     ShortcutPage::Rows keys{{tr("Esc"), tr("Cancel the measurement")}};
     addHelpMenu(keys + otherKeys);
-    m_cameraSettings->setOpen(settings().value(settingsOpenKey, false));
+    m_cameraSettings->setOpen(settings().value(settingsOpenKey, true));
     restoreLayout();
     if (!m_splitter->restoreState(settings().value(splitterKey, QByteArray())))
         m_splitter->setSizes({width() - panelWidth, panelWidth});

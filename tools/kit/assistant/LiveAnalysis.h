@@ -9,6 +9,7 @@
 
 /// Analyses the newest image again and again on a thread of its own, at most `maxRate` times per second and
 /// for at most half of the time, and passes the results to the GUI thread. Images in between are left out.
+/// Remove it from its stream before it is destroyed.
 class LiveAnalysis : public QObject, public ImageSink
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "tools/kit/plot/Plot.h"
 
 #include "tools/kit/plot/DurationScale.h"
+#include "tools/kit/plot/GapCurve.h"
 
 #include <QFrame>
 #include <QPainter>
@@ -13,7 +14,6 @@
 #include <qwt_legend.h>
 #include <qwt_legend_label.h>
 #include <qwt_plot_canvas.h>
-#include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_layout.h>
 #include <qwt_plot_marker.h>
@@ -223,7 +223,7 @@ void Plot::setVerticalAxis(const QString &title)
 int Plot::addCurve(const QString &title)
 {
     const auto number = int(m_d->m_curves.size());
-    auto curve = std::make_unique<QwtPlotCurve>(title);
+    auto curve = std::make_unique<GapCurve>(title);
     curve->setPen(QColor::fromRgb(curveColours[number % colourCount]), 1.6);
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     curve->setPaintAttribute(QwtPlotCurve::FilterPoints);

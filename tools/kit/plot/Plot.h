@@ -31,6 +31,7 @@ public:
     /// other. Two curves and more have a legend.
     int addCurve(const QString &title);
     void setTitleOf(int curve, const QString &title);
+    /// Replaces the points of a curve. A point whose y is not a number makes a gap.
     void setSamples(int curve, const QVector<QPointF> &samples);
     void removeCurves();
 

@@ -68,6 +68,16 @@ TEST(LineScanInputs, lengthsOnTheObjectAreCalculated)
     EXPECT_TRUE(contains(problemOf(inputs), "magnification"));
 }
 
+TEST(LineScanInputs, areRememberedAsJson)
+{
+    LineScanInputs inputs = withEncoder(0.01);
+    inputs.usesLongestExposure = true;
+    EXPECT_EQ(toJson(lineScanInputs(toJson(inputs))), toJson(inputs));
+    const auto damaged = nlohmann::ordered_json::parse(R"({"trigger": 3, "speedMmPerS": "fast"})");
+    EXPECT_EQ(toJson(lineScanInputs(damaged)), toJson(LineScanInputs()));
+    EXPECT_EQ(toJson(lineScanInputs(nlohmann::ordered_json())), toJson(LineScanInputs()));
+}
+
 TEST(LineScanPlan, lowerRateIsWrittenBeforeTheExposure)
 {
     LineScanDevice device;

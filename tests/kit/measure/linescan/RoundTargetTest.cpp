@@ -119,6 +119,18 @@ TEST(RoundTarget, clippedTargetsAreNotMeasured)
         std::string::npos);
 }
 
+TEST(RoundTarget, unevenMovementIsNamed)
+{
+    RolledPicture picture = drawn(90, 90, 0, -1);
+    for (std::size_t y = 0; y < 360; ++y) { // The lines sway by 4 pixels.
+        const auto line = picture.bytes.begin() + static_cast<std::ptrdiff_t>(y * 400);
+        std::rotate(line, line + std::lround(4 + 4 * std::sin(static_cast<double>(y) / 6)), line + 400);
+    }
+    const TargetSearch search = RoundTargetFinder().find(picture.raw);
+    EXPECT_FALSE(search.target);
+    EXPECT_NE(toEnglish(search.problem).find("border of the round target is uneven"), std::string::npos);
+}
+
 TEST(RoundTarget, capOnTheLensIsNamed)
 {
     std::vector<std::uint8_t> bytes(200 * 200, 12);

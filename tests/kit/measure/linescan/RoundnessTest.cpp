@@ -100,7 +100,7 @@ TEST(LineScanResult, tableAndFileContainTargetsAndSettings)
     result.plan = PlanBuilder(result.inputs, cameraOf(device)).build();
     result.before = roundnessOf({targetOf(1.25)}, 1);
     EXPECT_EQ(resultCsv(result),
-        "setting,before,value\nAcquisitionLineRateEnable,false,true\n\n"
+        "state,setting,before,value\nplanned,AcquisitionLineRateEnable,false,true\n\n"
         "measured,centerX,centerY,width,height,heightToWidth,turnDegrees,residual\n"
         "before,200.0,300.0,200.0,250.0,1.25,0.0,0.0\n");
     const nlohmann::ordered_json json = resultJson(result, {});

@@ -50,13 +50,14 @@ public:
 
     Advice advice() const;
 
+    /// The sharpness was at its present peak, and lower on both sides of it.
+    bool hasPassedPeak() const;
+
     /// Returns the samples of the last turn of the lens through the best position: since the sharpness was
     /// lowest before the peak. The order in which the regions became sharp says how the focus is tilted.
     std::vector<FocusSample> lastTurn() const;
 
 private:
-    bool hasPassedPeak() const;
-
     std::deque<FocusSample> m_samples;
     double m_peak = 0;
     double m_peakTime = 0;

@@ -4,6 +4,8 @@
 #include "sdk/imagefile/Sidecar.h"
 #include "tools/kit/measure/focus/FocusText.h"
 
+#include <algorithm>
+
 namespace {
 using Json = nlohmann::ordered_json;
 
@@ -69,6 +71,22 @@ std::string numberText(double number)
     return Json(number).dump();
 }
 } // namespace
+
+FocusResult focusResult(const SweepResult &sweep)
+{
+    FocusResult result;
+    result.last = sweep.last;
+    result.axis = sweep.axis;
+    result.position = sweep.bestPosition;
+    result.samples = sweep.coarse;
+    result.samples.insert(result.samples.end(), sweep.fine.begin(), sweep.fine.end());
+    result.analysis = sweep.analysis;
+    for (const FocusSample &sample : result.samples)
+        result.peak = std::max(result.peak, sample.measurement.sharpness);
+    for (const FocusAnalysis::RegionPeak &region : sweep.analysis.regions)
+        result.regionShares.push_back(region.peak ? std::make_optional(region.shareAtBest) : std::nullopt);
+    return result;
+}
 
 Json toJson(const FocusResult &result)
 {

@@ -3,6 +3,7 @@
 #include "sdk/imagefile/CameraRecord.h"
 #include "tools/kit/measure/focus/FocusCamera.h"
 #include "tools/kit/measure/focus/FocusSeries.h"
+#include "tools/kit/measure/focus/FocusSweep.h"
 
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -20,6 +21,9 @@ struct FocusResult
     std::vector<FocusSample> samples; ///< In the order in which they were taken.
     std::optional<FocusAnalysis> analysis; ///< Of the samples.
 };
+
+/// Returns the result of a search with the camera's motor.
+FocusResult focusResult(const SweepResult &sweep);
 
 nlohmann::ordered_json toJson(const FocusResult &result);
 

@@ -77,6 +77,27 @@ Sentence adviceSentence(FocusHistory::Advice advice)
     return {};
 }
 
+Sentence bestPositionSentence(double best, double position, const FocusAxis &axis)
+{
+    const double distance = axis.nearest(best) - position;
+    const SentenceNumber there{best, axis.decimals() + 1};
+    const SentenceNumber way{std::abs(distance), axis.decimals()};
+    if (distance == 0)
+        return {QT_TRANSLATE_NOOP("Sentence", "The best position is %1. The lens is there."), {there}};
+    return {distance > 0
+            ? QT_TRANSLATE_NOOP("Sentence", "The best position is %1: move the lens up by %2.")
+            : QT_TRANSLATE_NOOP("Sentence", "The best position is %1: move the lens down by %2."),
+        {there, way}};
+}
+
+Sentence noTiltSentence()
+{
+    return {QT_TRANSLATE_NOOP("Sentence",
+        "Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the "
+        "camera "
+        "at something with edges all over the picture, and go through the sharpest position once more.")};
+}
+
 Sentence tiltSentence(const FocusSurface &surface, const SurfaceUnit &unit)
 {
     if (!surface.isTilted())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/kit/measure/focus/FocusCamera.h"
 #include "tools/kit/measure/focus/FocusHistory.h"
 #include "tools/kit/measure/focus/FocusSurface.h"
 #include "tools/kit/measure/run/Sentence.h"
@@ -8,6 +9,10 @@
 
 /// Returns what the person at the lens should do; empty for FocusHistory::Advice::None.
 Sentence adviceSentence(FocusHistory::Advice advice);
+
+/// Returns where the picture is sharp as a whole, and which way the lens has to go from where it is.
+/// @param position Where the lens is now.
+Sentence bestPositionSentence(double best, double position, const FocusAxis &axis);
 
 /// What the positions of a surface are.
 struct SurfaceUnit
@@ -18,6 +23,9 @@ struct SurfaceUnit
 
 /// Returns in which direction the focus is tilted, and by how much; or that it is not.
 Sentence tiltSentence(const FocusSurface &surface, const SurfaceUnit &unit);
+
+/// The sentence of an analysis without surface.
+Sentence noTiltSentence();
 
 /// Returns by how much the corners deviate from the centre; empty if the curvature is not significant.
 Sentence curvatureSentence(const FocusSurface &surface, const SurfaceUnit &unit);

@@ -66,6 +66,14 @@ Sentence limitSentence(const RateLimit &limit, const RateFacts &facts)
     }
 }
 
+nlohmann::ordered_json settingsJson(const std::vector<PlannedSetting> &settings)
+{
+    auto json = nlohmann::ordered_json::array();
+    for (const PlannedSetting &setting : settings)
+        json.push_back(settingJson(setting));
+    return json;
+}
+
 nlohmann::ordered_json toJson(const LineRatePlan &plan)
 {
     nlohmann::ordered_json json;
@@ -93,8 +101,6 @@ nlohmann::ordered_json toJson(const LineRatePlan &plan)
     json["warnings"] = nlohmann::ordered_json::array();
     for (const Sentence &warning : plan.warnings)
         json["warnings"].push_back(toEnglish(warning));
-    json["settings"] = nlohmann::ordered_json::array();
-    for (const PlannedSetting &setting : plan.settings)
-        json["settings"].push_back(settingJson(setting));
+    json["settings"] = settingsJson(plan.settings);
     return json;
 }

@@ -47,4 +47,5 @@ struct LineRatePlan
 /// Returns the sentence about a limit that is too low, with the reason and what to do.
 Sentence limitSentence(const RateLimit &limit, const RateFacts &facts);
 
+nlohmann::ordered_json settingsJson(const std::vector<PlannedSetting> &settings);
 nlohmann::ordered_json toJson(const LineRatePlan &plan);

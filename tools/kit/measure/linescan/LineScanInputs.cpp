@@ -1,18 +1,35 @@
 #include "tools/kit/measure/linescan/LineScanInputs.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
 constexpr double pi = 3.14159265358979323846;
 
+/// The numbers as the files name them.
+struct InputName
+{
+    const char *name;
+    double LineScanInputs::*number;
+};
+constexpr InputName inputNames[] = {
+    {"speedMmPerS", &LineScanInputs::speed},
+    {"pixelSizeUm", &LineScanInputs::pixelSize},
+    {"magnification", &LineScanInputs::magnification},
+    {"objectPixelUm", &LineScanInputs::objectPixel},
+    {"encoderStepMm", &LineScanInputs::encoderStep},
+    {"pulsesPerRevolution", &LineScanInputs::pulsesPerRevolution},
+    {"rollerDiameterMm", &LineScanInputs::rollerDiameter},
+};
+
 bool isNegative(const LineScanInputs &inputs)
 {
-    for (const double value : {inputs.speed, inputs.pixelSize, inputs.magnification, inputs.objectPixel,
-             inputs.encoderStep, inputs.pulsesPerRevolution, inputs.rollerDiameter})
-        if (!std::isfinite(value) || value < 0)
-            return true;
-    return false;
+    return std::any_of(std::begin(inputNames), std::end(inputNames), [&inputs](const InputName &input) {
+        const double number = inputs.*input.number;
+        return !std::isfinite(number) || number < 0;
+    });
 }
 
 } // namespace
@@ -55,17 +72,25 @@ nlohmann::ordered_json toJson(const LineScanInputs &inputs)
 {
     const bool isEncoder = inputs.trigger == LineScanInputs::Trigger::Encoder;
     nlohmann::ordered_json json{{"trigger", isEncoder ? "encoder" : "lineRate"}};
-    const auto add = [&json](const char *name, double value) {
-        if (value > 0)
-            json[name] = value;
-    };
-    add("speedMmPerS", inputs.speed);
-    add("pixelSizeUm", inputs.pixelSize);
-    add("magnification", inputs.magnification);
-    add("objectPixelUm", inputs.objectPixel);
-    add("encoderStepMm", inputs.encoderStep);
-    add("pulsesPerRevolution", inputs.pulsesPerRevolution);
-    add("rollerDiameterMm", inputs.rollerDiameter);
+    for (const InputName &input : inputNames)
+        if (inputs.*input.number > 0)
+            json[input.name] = inputs.*input.number;
     json["usesLongestExposure"] = inputs.usesLongestExposure;
     return json;
+}
+
+LineScanInputs lineScanInputs(const nlohmann::ordered_json &json)
+{
+    LineScanInputs inputs;
+    if (!json.is_object())
+        return inputs;
+    const auto trigger = json.find("trigger");
+    if (trigger != json.end() && *trigger == "encoder")
+        inputs.trigger = LineScanInputs::Trigger::Encoder;
+    for (const InputName &input : inputNames)
+        if (const auto number = json.find(input.name); number != json.end() && number->is_number())
+            inputs.*input.number = number->get<double>();
+    const auto longest = json.find("usesLongestExposure");
+    inputs.usesLongestExposure = longest != json.end() && *longest == true;
+    return inputs;
 }

@@ -42,3 +42,6 @@ std::optional<double> encoderStepOf(const LineScanInputs &inputs);
 Sentence problemOf(const LineScanInputs &inputs);
 
 nlohmann::ordered_json toJson(const LineScanInputs &inputs);
+
+/// Returns the inputs that toJson() has returned. What is missing or damaged stays 0.
+LineScanInputs lineScanInputs(const nlohmann::ordered_json &json);

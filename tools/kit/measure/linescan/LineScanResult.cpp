@@ -17,6 +17,17 @@ std::string numberCell(double number)
     return nlohmann::json(number).dump();
 }
 
+void addSettings(std::string &csv, const char *state, const std::vector<PlannedSetting> &settings)
+{
+    for (const PlannedSetting &setting : settings) {
+        csv += state;
+        for (const std::string &text : {settingLabel(setting.name, setting.selectors),
+                 plannedValueText(setting.before), plannedValueText(setting.value)})
+            csv += ',' + cell(text);
+        csv += '\n';
+    }
+}
+
 void addTargets(std::string &csv, const char *when, const std::optional<Roundness> &roundness)
 {
     if (!roundness)
@@ -51,8 +62,8 @@ nlohmann::ordered_json resultJson(const LineScanResult &result, const CameraReco
 {
     nlohmann::ordered_json json{{"format", "corvix-x-linescan"}, {"version", 1}, {"created", utcNow()},
         {"camera", cameraJson(camera)}};
-    json["result"]
-        = {{"inputs", toJson(result.inputs)}, {"plan", toJson(result.plan)}, {"isApplied", result.isApplied}};
+    json["result"] = {{"inputs", toJson(result.inputs)}, {"plan", toJson(result.plan)},
+        {"written", settingsJson(result.written)}};
     if (result.before)
         json["result"]["before"] = toJson(*result.before);
     if (result.after)
@@ -62,11 +73,9 @@ nlohmann::ordered_json resultJson(const LineScanResult &result, const CameraReco
 
 std::string resultCsv(const LineScanResult &result)
 {
-    std::string csv = "setting,before,value\n";
-    for (const PlannedSetting &setting : result.plan.settings) {
-        csv += cell(settingLabel(setting.name, setting.selectors)) + ','
-            + cell(plannedValueText(setting.before)) + ',' + cell(plannedValueText(setting.value)) + '\n';
-    }
+    std::string csv = "state,setting,before,value\n";
+    addSettings(csv, "written", result.written);
+    addSettings(csv, "planned", result.plan.settings);
     csv += "\nmeasured,centerX,centerY,width,height,heightToWidth,turnDegrees,residual\n";
     addTargets(csv, "before", result.before);
     addTargets(csv, "after", result.after);

@@ -9,7 +9,7 @@ struct LineScanResult
 {
     LineScanInputs inputs;
     LineRatePlan plan;
-    bool isApplied = false; ///< The settings of the plan were written.
+    std::vector<PlannedSetting> written; ///< What was changed in the camera, in this order.
     std::optional<Roundness> before; ///< The target before the correction.
     std::optional<Roundness> after; ///< The last measurement.
 };
@@ -19,8 +19,8 @@ nlohmann::ordered_json toJson(const Roundness &roundness);
 /// Returns the content of the result file.
 nlohmann::ordered_json resultJson(const LineScanResult &result, const CameraRecord &camera);
 
-/// Returns a table of the settings and of the measured targets, with commas and points, and with a header
-/// line for each of the two parts.
+/// Returns a table of the settings, planned and written, and of the measured targets, with commas and points,
+/// and with a header line for each of the two parts.
 std::string resultCsv(const LineScanResult &result);
 
 /// Returns the name of the table that belongs to a result file: with the ending ".csv".

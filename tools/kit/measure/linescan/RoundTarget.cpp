@@ -15,8 +15,9 @@ constexpr std::size_t maxParts = 200; // Of a picture full of texture, only the 
 // A part is round if its border follows the ellipse.
 constexpr double minUsedShare = 0.7;
 constexpr double minCoveredShare = 0.9;
-constexpr double maxResidualShare = 0.015; // Of the mean radius; a square has 0.08.
-constexpr double maxResidual = 0.75; // Pixels; a border is never more precise than the pixels allow.
+constexpr double maxResidualShare = 0.005; // Of the mean radius; a square has 0.08.
+constexpr double maxResidual = 0.5; // Pixels; a border is never more precise than the pixels allow.
+constexpr double unevenFactor = 6; // A border with a residual that is larger by less is uneven.
 
 /// The outermost pixels of a part in each line and in each column.
 struct PartOutline
@@ -83,11 +84,22 @@ std::vector<FitPoint> borderPoints(const GreyPicture &picture, const PicturePart
     return points;
 }
 
-bool isRound(const EllipseFit &fit)
+enum class Shape
 {
+    Other,
+    Uneven, ///< Nearly round, as a circle that did not move evenly.
+    Round
+};
+
+Shape shapeOf(const EllipseFit &fit)
+{
+    if (fit.usedShare < minUsedShare || fit.coveredShare < minCoveredShare)
+        return Shape::Other;
     const double radius = (fit.ellipse.halfWidth + fit.ellipse.halfHeight) / 2;
-    return fit.usedShare >= minUsedShare && fit.coveredShare >= minCoveredShare
-        && fit.residual <= std::max(maxResidual, maxResidualShare * radius);
+    const double limit = std::max(maxResidual, maxResidualShare * radius);
+    if (fit.residual <= limit)
+        return Shape::Round;
+    return fit.residual <= unevenFactor * limit ? Shape::Uneven : Shape::Other;
 }
 
 Ellipse scaled(Ellipse ellipse, int scale, std::uint32_t left)
@@ -123,7 +135,7 @@ double RoundTarget::turnDegrees() const
 TargetSearch RoundTargetFinder::find(const RawImage &picture, const TargetColumns &columns)
 {
     const Region region = searchedRegion(picture, columns);
-    const Sentence noTarget{
+    Sentence noTarget{
         QT_TRANSLATE_NOOP("Sentence",
             "There is no complete round target in the picture of %1 lines. Show the camera "
             "a dark or bright disc or ring, or make the picture higher (Height)."),
@@ -144,7 +156,12 @@ TargetSearch RoundTargetFinder::find(const RawImage &picture, const TargetColumn
         if (part.touchesBorderOf(grey))
             continue;
         const std::optional<EllipseFit> fit = fitEllipse(borderPoints(grey, part, threshold.value));
-        if (!fit || !isRound(*fit))
+        const Shape shape = fit ? shapeOf(*fit) : Shape::Other;
+        if (shape == Shape::Uneven)
+            noTarget = {QT_TRANSLATE_NOOP("Sentence",
+                "The border of the round target is uneven. Check whether the object moves evenly, whether "
+                "lines are lost, and whether the target is sharp and free of other shapes.")};
+        if (shape != Shape::Round)
             continue;
         const RoundTarget target{
             scaled(fit->ellipse, grey.scale, region.x), fit->residual * grey.scale, part.isBright};

@@ -1,0 +1,68 @@
+"""Searches the best focus of a camera with the Focus Assistant, and saves the result. Everything is done by mouse and
+keyboard, on the installed programs."""
+
+import json
+import os
+import sys
+import tempfile
+
+from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from simulator import SimulatorConfiguration
+from tool import Tool
+
+STAGE, PLUGINS = sys.argv[1:]
+
+
+def start(launcher, title, name):
+    """Starts a tool by its tile, for the selected camera."""
+    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
+    click(launcher.tiles()[title])
+    return Tool(launcher, name)
+
+
+def use_small_camera(configuration):
+    """Keeps one small area scan camera, which is quick."""
+    content = configuration.read()
+    for interface in content["interfaces"]:
+        interface["devices"] = []
+    content["interfaces"][0]["devices"] = [
+        {"id": "SIM-1", "vendor": "Orvelle", "model": "Area", "serial": "1", "sensorWidth": 480, "sensorHeight": 384}]
+    configuration.write(content)
+
+
+def check(path):
+    with open(path, encoding="utf-8") as file:
+        document = json.load(file)
+    assert document["format"] == "corvix-x-focus", document["format"]
+    assert document["camera"]["camera"]["vendor"] == "Orvelle", document["camera"]
+    result = document["result"]
+    assert result["lens"] == "LensFocusPosition", result["lens"]
+    assert 465 < result["analysis"]["best"] < 535, result["analysis"]  # Simulated lenses are sharp near 500.
+    assert len(result["regions"]) == 25, result["regions"]
+
+
+def main():
+    keep_to_this_machine(STAGE)
+    with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
+        use_small_camera(configuration)
+        with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
+            wait_for("the camera is listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
+            click(launcher.cell("Orvelle"))
+            wait_for("the Focus Assistant is enabled", lambda: "Focus Assistant" in launcher.enabled_tools())
+            with start(launcher, "Focus Assistant", "FocusAssistant") as assistant:
+                wait_for("the sharpness is measured", lambda: assistant.shows(lambda text: text.startswith("of the peak.")))
+                assistant.activate()
+                assistant.click("Search automatically")
+                wait_for("the lens is at the best position",
+                         lambda: assistant.shows(lambda text: "The lens is there." in text))
+                assistant.press("ctrl+s")
+                wait_for("the file dialog is open", lambda: assistant.shows(lambda text: text.replace("&", "") == "Save"))
+                assistant.press("ctrl+a")
+                assistant.type(f"{folder}/result.json")
+                assistant.press("Return")
+                wait_for("the report is written", lambda: os.path.exists(f"{folder}/result.html"))
+            check(f"{folder}/result.json")
+            assert os.path.getsize(f"{folder}/result.csv") > 1000
+
+
+main()
