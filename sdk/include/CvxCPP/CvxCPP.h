@@ -264,11 +264,10 @@ public:
 
     /// Stops the system, closes all devices, and releases all observers. Also succeeds if the system does not
     /// run. Returns CvxErrorFailed, without any effect, if an observer makes the call. Blocks until no
-    /// observer is being called any more, every device has been closed or, after 3 s (6 s with temporary changes), its process
-    /// killed, and
-    /// every producer has been closed or, after about 2 s, killed. A producer that is searching is killed
-    /// after 150 ms, because a search cannot be interrupted. Calls that are blocked in other threads return
-    /// CvxErrorNotStarted.
+    /// observer is being called any more, every device has been closed or, after 3 s (6 s with temporary
+    /// changes), its process killed, and every producer has been closed or, after about 2 s, killed. A
+    /// producer that is searching is killed after 150 ms, because a search cannot be interrupted. Calls that
+    /// are blocked in other threads return CvxErrorNotStarted.
     virtual CvxError Shutdown() = 0;
 
     /// Registers an observer, which the system keeps until Shutdown(). An observer that is registered twice
