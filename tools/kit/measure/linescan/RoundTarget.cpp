@@ -10,6 +10,7 @@ namespace {
 
 constexpr double degreesPerRadian = 180 / 3.14159265358979323846;
 constexpr float minContrast = 0.1F; // Difference of dark and bright, as a share of bright.
+constexpr float minRange = 0.03F; // The same as a share of the full scale; noise in the dark is smaller.
 constexpr std::size_t maxParts = 200; // Of a picture full of texture, only the largest parts are tried.
 
 // A part is round if its border follows the ellipse.
@@ -135,16 +136,16 @@ double RoundTarget::turnDegrees() const
 TargetSearch RoundTargetFinder::find(const RawImage &picture, const TargetColumns &columns)
 {
     const Region region = searchedRegion(picture, columns);
-    Sentence noTarget{
-        QT_TRANSLATE_NOOP("Sentence",
-            "There is no complete round target in the picture of %1 lines. Show the camera "
-            "a dark or bright disc or ring, or make the picture higher (Height)."),
+    Sentence noTarget{QT_TRANSLATE_NOOP("Sentence",
+                          "There is no complete round target in the picture of %1 lines. Show the camera "
+                          "a dark or bright disc or ring, or make the picture higher (Height)."),
         {SentenceNumber{static_cast<double>(picture.height)}}};
     if (region.width < minSize || region.height < minSize)
         return {std::nullopt, noTarget};
     const GreyPicture grey = greyPicture(m_converter, picture, region);
     const Threshold threshold = otsuThreshold(grey.values);
-    if (threshold.brightMean - threshold.darkMean < minContrast * threshold.brightMean)
+    const float difference = threshold.brightMean - threshold.darkMean;
+    if (difference < minContrast * threshold.brightMean || difference < minRange * grey.fullScale)
         return {std::nullopt,
             {QT_TRANSLATE_NOOP("Sentence",
                 "The picture has too little contrast. Take off the lens cap, add light, and show the camera "
