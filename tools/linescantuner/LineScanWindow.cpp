@@ -111,7 +111,8 @@ void LineScanWindow::createSteps()
         tr("Pixels are square if the camera takes one line while the object moves by one pixel."), QString());
     m_form = new InputsForm;
     m_describeStep->addWidget(m_form);
-    m_applyStep = m_steps->addStep(tr("Set the camera"), QString(), tr("Write the settings"));
+    m_applyStep = m_steps->addStep(tr("Set the camera"),
+        tr("This follows from the machine and from the limits of the camera."), tr("Write the settings"));
     m_plan = new PlanView;
     m_applyStep->addWidget(m_plan);
     m_undo = new QPushButton(ToolIcons::icon(ToolIcons::Kind::Undo), tr("Undo what was written"));
