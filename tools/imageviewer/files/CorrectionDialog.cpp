@@ -43,6 +43,8 @@ CorrectionDialog::CorrectionDialog(PictureCorrection &correction, QWidget *paren
     note->setWordWrap(true);
     layout->addWidget(note, 4, 0, 1, 3);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    // Return ends the input of a name and must not close the dialog.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     layout->addWidget(buttons, 5, 0, 1, 3);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_isOn, &QCheckBox::clicked, this, &CorrectionDialog::apply);
