@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int fileColumnWidth = 320; // Pixels.
@@ -104,4 +106,7 @@ void CorrectionDialog::showState()
     else
         showMessage(m_state, m_correction.active().correction ? tr("The pictures are corrected.") : QString(),
             "good");
+    // A dialog does not grow by itself when its texts need more lines.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
