@@ -36,6 +36,20 @@ QLabel *createText(const char *name, QWidget *parent)
     return label;
 }
 
+/// Returns how sharp the corners are at the best position, or when the whole picture was sharpest.
+QString cornersAtBest(const FocusResult &result)
+{
+    QStringList corners;
+    std::size_t index = 0;
+    for (const GridCorner &corner : gridCorners(result.last.grid)) {
+        const QString name = FocusTexts::corner(result.last.grid, index++);
+        if (corner.region < result.analysis->regions.size() && result.analysis->regions[corner.region].peak)
+            corners.append(FocusTexts::cornerShare(
+                name, FocusTexts::share(result.analysis->regions[corner.region].shareAtBest)));
+    }
+    return corners.isEmpty() ? QString() : FocusTexts::atBest(corners.join(QStringLiteral(", ")));
+}
+
 QStringList resultSentences(const FocusResult &result, const std::optional<double> &position)
 {
     const FocusAnalysis &analysis = *result.analysis;
@@ -50,6 +64,8 @@ QStringList resultSentences(const FocusResult &result, const std::optional<doubl
         lines.append(translatedSentence(tiltSentence(*analysis.surface, unit)));
     if (analysis.surface && analysis.surface->curvature != 0)
         lines.append(translatedSentence(curvatureSentence(*analysis.surface, unit)));
+    if (const QString corners = cornersAtBest(result); !corners.isEmpty())
+        lines.append(corners);
     return lines;
 }
 
@@ -70,6 +86,7 @@ FocusPanel::FocusPanel(FocusSession &session, ToolSettings &settings, QWidget *p
       m_problem(createMessage(this)),
       m_advice(createText("advice", this)),
       m_corners(createText("corners", this)),
+      m_movement(createText("movement", this)),
       m_plot(new Plot(this)),
       m_grid(new QSpinBox(this)),
       m_steps(new StepList(this)),
@@ -78,6 +95,8 @@ FocusPanel::FocusPanel(FocusSession &session, ToolSettings &settings, QWidget *p
     m_problem->setObjectName(QStringLiteral("problem"));
     m_save->setObjectName(QStringLiteral("save"));
     changeRole(m_corners, "secondary");
+    changeRole(m_movement, "secondary");
+    m_movement->setText(translatedSentence(movementSentence()));
     createPlot();
     createSteps();
     auto *const layout = new QVBoxLayout(this);
@@ -208,12 +227,13 @@ void FocusPanel::showCorners()
         std::size_t index = 0;
         for (const GridCorner &corner : gridCorners(grid)) {
             const auto share = history.regionShare(corner.region);
-            corners.append(tr("%1: %2").arg(FocusTexts::corner(grid, index++),
+            corners.append(FocusTexts::cornerShare(FocusTexts::corner(grid, index++),
                 share ? FocusTexts::share(*share) : QString(QChar(0x2013))));
         }
     }
     m_corners->setText(corners.join(QStringLiteral(" · ")));
     m_corners->setVisible(!corners.isEmpty());
+    m_movement->setVisible(history.isMoving() && !m_isSearching);
 }
 
 void FocusPanel::showTrend()

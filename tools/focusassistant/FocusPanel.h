@@ -69,6 +69,7 @@ private:
     QLabel *m_problem;
     QLabel *m_advice;
     QLabel *m_corners;
+    QLabel *m_movement;
     Plot *m_plot;
     QSpinBox *m_grid;
     StepList *m_steps;

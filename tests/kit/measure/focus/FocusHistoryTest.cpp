@@ -17,6 +17,8 @@ public:
     FocusHistory history;
     double position = -40;
     double seconds = 0;
+    double leftBrightness = 0.4; // Of one region.
+    double brightness = 0.4; // Of the others.
 
     void to(double end, double speed = 20)
     {
@@ -46,8 +48,10 @@ public:
             region.centerY = 50 + 100 * (i / 3);
             const double best = (region.centerX - 150) / 20; // -5, 0, 5
             region.sharpness = i == 8 ? 1e-6 : sharpnessAt(position - best);
+            region.brightness = i == 0 ? leftBrightness : brightness;
             picture.regions.push_back(region);
         }
+        picture.brightness = brightness;
         picture.sharpness = sharpnessAt(position);
         return picture;
     }
@@ -108,6 +112,22 @@ TEST(FocusHistory, OrderInTimeTellsTheTilt)
     EXPECT_EQ(toEnglish(tiltSentence(*analysis.surface, {true, 2})).substr(0, 52),
         "The left edge became sharp before the right edge, by");
     EXPECT_FALSE(analysis.regions[8].peak);
+}
+
+TEST(FocusHistory, MovementIsToldFromLight)
+{
+    Turn turn;
+    turn.rest(2);
+    EXPECT_FALSE(turn.history.isMoving());
+    turn.leftBrightness = turn.brightness = 0.6; // More light.
+    turn.rest(0.5);
+    EXPECT_FALSE(turn.history.isMoving());
+    turn.rest(2);
+    turn.leftBrightness = 0.5;
+    turn.rest(0.5);
+    EXPECT_TRUE(turn.history.isMoving());
+    turn.rest(2);
+    EXPECT_FALSE(turn.history.isMoving());
 }
 
 TEST(FocusHistory, OtherGridAndUnusablePicturesDoNotMix)

@@ -51,6 +51,10 @@ public:
 
     Advice advice() const;
 
+    /// What the camera looks at has moved during the last second: the regions have become brighter and
+    /// darker, but the picture has not. The regions' shares then also change with what they contain.
+    bool isMoving() const;
+
     /// The sharpness was at its present peak, and lower on both sides of it.
     bool hasPassedPeak() const;
 
