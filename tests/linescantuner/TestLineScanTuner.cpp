@@ -254,10 +254,9 @@ void TestLineScanTuner::resultIsSaved()
     QAction &save = tuner.action("Save the result…"_s);
     await([&] { return save.isEnabled(); });
     save.trigger();
-    await([&] { return tuner.find<QFileDialog>() != nullptr; });
+    await([&] { return tuner.find<QFileDialog>() && tuner.find<QFileDialog>()->isVisible(); });
     auto *const dialog = tuner.find<QFileDialog>();
-    dialog->setDirectory(folder.path());
-    dialog->selectFile("web.json"_s);
+    dialog->selectFile(folder.filePath("web.json"_s));
     QMetaObject::invokeMethod(dialog, "accept");
     await([&] { return QFile::exists(folder.filePath("web.html"_s)); });
     QFile file(folder.filePath("web.json"_s));

@@ -97,5 +97,6 @@ void TargetTracker::show(const TargetSearch &search)
 void TargetTracker::roll()
 {
     m_isStill = false;
+    m_overlay.target.reset(); // The next picture shows the target at another place.
     m_picture.feed().setFrozen(false);
 }

@@ -26,8 +26,6 @@ public:
     void setColumns(const TargetColumns &columns);
     const TargetColumns &columns() const { return m_overlay.columns; }
 
-    const std::optional<RoundTarget> &target() const { return m_overlay.target; }
-
     /// Forgets the target, for example because another camera is opened.
     void clear();
 

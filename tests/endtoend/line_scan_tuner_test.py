@@ -1,0 +1,87 @@
+"""Tunes a line scan camera with the Line Scan Tuner: writes a wrong line rate, measures a round target, corrects the rate,
+and saves the result. Everything is done by mouse and keyboard, on the installed programs."""
+
+import json
+import os
+import sys
+import tempfile
+
+from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from simulator import SimulatorConfiguration
+from tool import Tool
+
+STAGE, PLUGINS = sys.argv[1:]
+VENDOR = "Lintaro"
+
+
+def keep_line_scan_camera(configuration):
+    """Keeps only the line scan camera, with fewer pixels: its picture is complete soon on a slow machine, too."""
+    content = configuration.read()
+    for interface in content["interfaces"]:
+        interface["devices"] = [{**device, "sensorWidth": 640} for device in interface["devices"]
+                                if device["vendor"] == VENDOR]
+    configuration.write(content)
+
+
+def start(launcher, title, name):
+    """Starts a tool by its tile, for the selected camera."""
+    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
+    click(launcher.tiles()[title])
+    return Tool(launcher, name)
+
+
+def enter(tuner, key, number):
+    """Types a number into the field that Alt and the key reach."""
+    tuner.press(key, "ctrl+a")
+    tuner.type(number)
+    tuner.press("Tab")
+
+
+def check(path):
+    with open(path, encoding="utf-8") as file:
+        document = json.load(file)
+    assert document["format"] == "corvix-x-linescan", document["format"]
+    assert document["camera"]["vendor"] == VENDOR, document["camera"]
+    result = document["result"]
+    # One line of the simulated object is 10 µm, and it moves at 100 mm/s.
+    assert abs(result["before"]["heightToWidth"] - 1.08) < 0.01, result["before"]
+    assert abs(result["after"]["heightToWidth"] - 1) < 0.01, result["after"]
+    assert [setting["name"] for setting in result["written"]] == ["AcquisitionLineRate"] * 2, result["written"]
+    assert abs(result["written"][-1]["value"] - 10000) < 100, result["written"]
+
+
+def main():
+    keep_to_this_machine(STAGE)
+    with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
+        keep_line_scan_camera(configuration)
+        with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
+            wait_for("the camera is listed", lambda: any(row[0] == VENDOR for row in launcher.rows()))
+            click(launcher.cell(VENDOR))
+            wait_for("the Line Scan Tuner is enabled", lambda: "Line Scan Tuner" in launcher.enabled_tools())
+            with start(launcher, "Line Scan Tuner", "LineScanTuner") as tuner:
+                wait_for("a target is found in the live picture",
+                         lambda: tuner.shows(lambda text: text == "The target in the live picture is round."))
+                tuner.activate()
+                enter(tuner, "alt+s", "108")
+                enter(tuner, "alt+x", "10")
+                enter(tuner, "alt+g", "1")
+                wait_for("the plan is shown", lambda: tuner.shows(lambda text: text == "10.800 kHz"))
+                tuner.press("ctrl+Return")
+                wait_for("the settings are written",
+                         lambda: tuner.shows(lambda text: text == "The camera has accepted the settings."))
+                tuner.press("ctrl+Return")
+                wait_for("the circle is too tall",
+                         lambda: tuner.shows(lambda text: "too tall: lower the line rate from 10.800 kHz" in text))
+                tuner.press("ctrl+Return")
+                wait_for("the circle is round", lambda: tuner.shows(lambda text: "The circle is round" in text))
+                tuner.press("ctrl+s")
+                wait_for("the file dialog is open", lambda: tuner.shows(lambda text: text.replace("&", "") == "Save"))
+                tuner.press("ctrl+a")
+                tuner.type(f"{folder}/result.json")
+                tuner.press("Return")
+                wait_for("the report is written", lambda: os.path.exists(f"{folder}/result.html"))
+        check(f"{folder}/result.json")
+        assert os.path.getsize(f"{folder}/result.csv") > 100
+
+
+main()
