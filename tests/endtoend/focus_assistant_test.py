@@ -34,7 +34,7 @@ def check(path):
     with open(path, encoding="utf-8") as file:
         document = json.load(file)
     assert document["format"] == "corvix-x-focus", document["format"]
-    assert document["camera"]["camera"]["vendor"] == "Orvelle", document["camera"]
+    assert document["camera"]["vendor"] == "Orvelle", document["camera"]
     result = document["result"]
     assert result["lens"] == "LensFocusPosition", result["lens"]
     assert 465 < result["analysis"]["best"] < 535, result["analysis"]  # Simulated lenses are sharp near 500.

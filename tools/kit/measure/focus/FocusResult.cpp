@@ -114,8 +114,10 @@ Json toJson(const FocusResult &result)
 
 Json resultJson(const FocusResult &result, const CameraRecord &camera)
 {
-    return {{"format", "corvix-x-focus"}, {"version", 1}, {"created", utcNow()},
-        {"camera", cameraJson(camera)}, {"result", toJson(result)}};
+    Json json = {{"format", "corvix-x-focus"}, {"version", 1}, {"created", utcNow()}};
+    json.update(cameraJson(camera));
+    json["result"] = toJson(result);
+    return json;
 }
 
 std::string resultCsv(const FocusResult &result)
