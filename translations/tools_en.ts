@@ -50,6 +50,26 @@
     </message>
 </context>
 <context>
+    <name>DefectList</name>
+    <message numerus="yes">
+        <source>%n pixel(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DefectTexts</name>
+    <message numerus="yes">
+        <source>%n defect pixel(s) found.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Encoder</name>
     <message numerus="yes">
         <source>ffmpeg has not accepted an image for %n second(s)</source>
@@ -279,6 +299,16 @@
         <translation>
             <numerusform>%n byte</numerusform>
             <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RepairWindow</name>
+    <message numerus="yes">
+        <source>%n dark image(s) taken.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>

@@ -2,6 +2,48 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko">
 <context>
+    <name>AssistantWindow</name>
+    <message>
+        <source>The result was saved to &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press F5 to see the live picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Live picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation type="unfinished">카메라(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open in the &amp;Image Viewer</source>
+        <translation type="unfinished">이미지 뷰어에서 열기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel the measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BigNumber</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CameraChooser</name>
     <message>
         <source>&amp;Open</source>
@@ -263,6 +305,13 @@
     <message>
         <source>Trigger type</source>
         <translation>트리거 유형</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSettings</name>
+    <message>
+        <source>Camera settings</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -605,6 +654,170 @@
     </message>
 </context>
 <context>
+    <name>CorrectionDialog</name>
+    <message>
+        <source>&amp;Correct the pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corrections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Defect map:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a defect map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defect maps (*.json *.csv);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Flat field:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a flat field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flat fields (*.tif *.tiff);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The correction applies to the shown pictures, to PNG and TIFF files and to TIFF recordings. Raw files, videos and measured values stay those of the camera.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pictures are not corrected: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pictures are corrected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DarkBox</name>
+    <message>
+        <source>Cover the lens, and choose a long exposure and a pixel format with many bits in the camera settings. Then measure while the camera warms up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop measuring the &amp;dark level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure the &amp;dark level</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DefectList</name>
+    <message>
+        <source>Columns %1 to %2, lines %3 to %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation type="unfinished">열</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished">행</translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 σ</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DefectTexts</name>
+    <message>
+        <source>Hot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stuck</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blinking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too bright in the dark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hardly reacts to light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always has the same value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes between levels from image to image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reacts to light much more or less than its neighbours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cluster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation type="unfinished">열</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished">행</translation>
+    </message>
+    <message>
+        <source>No defect pixels were found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n defect pixel(s) found.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DetailsPage</name>
     <message>
         <source>Numbers of the stream</source>
@@ -807,6 +1020,29 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>Size of a pixel</source>
         <translation>픽셀당 크기</translation>
+    </message>
+</context>
+<context>
+    <name>DurationScale</name>
+    <message>
+        <source>%1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1480,6 +1716,214 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>FocusPanel</name>
+    <message>
+        <source>Share of the peak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sharpness during the last minute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Regions per direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget the peaks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begins again, for example because the camera looks at something else.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It looks at something with edges all over the picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find the best focus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search &amp;automatically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the tilt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The order in which the regions become sharp says how the focus is tilted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the &amp;tilt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves the lens through its range and leaves it at the best position. Cancelling puts it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was measured yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of the peak. Sharpness %1, peak %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the best position, or turn the lens slowly through the sharpest position.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn the lens slowly through the sharpest position, then back to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FocusReport</name>
+    <message>
+        <source>Focus Assistant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sharpness %1, which is %2 of the peak.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share of the peak of each region</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sharpness during the last minute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation type="unfinished">행</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation type="unfinished">열</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share of the peak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Best position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sharp at (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share at the best position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sharpness is the energy of the differences between neighbouring pixels, divided by the squared brightness, without the part of the noise. Exposure and gain do not change it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FocusTexts</name>
+    <message>
+        <source>Left end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>no edges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>too dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>overexposed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FocusWindow</name>
+    <message>
+        <source>&amp;Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Focus Assistant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching the best focus</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>HexView</name>
     <message>
         <source>Copy</source>
@@ -1644,6 +2088,33 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>HtmlReport</name>
+    <message>
+        <source>Vendor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation type="unfinished">모델</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation type="unfinished">시리얼 번호</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">이름</translation>
+    </message>
+    <message>
+        <source>Settings of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Created by Corvix X, version %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ImageCanvas</name>
     <message>
         <source>Picture</source>
@@ -1659,6 +2130,125 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>InputsForm</name>
+    <message>
+        <source>&amp;Lines come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the camera&apos;s line rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an encoder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed of the object. With an encoder: the highest speed, for which the limits are checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Encoder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>movement per pulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pulses and roller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Movement per pulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movement of the object for one pulse, that is one cycle of one signal of the encoder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulses per &amp;revolution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of pulses that the encoder sends while its roller turns once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roller &amp;diameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diameter of the roller or wheel that turns the encoder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of a &amp;pixel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from sensor and lens</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>known on the object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pi&amp;xel of the sensor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>µm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of a pixel of the sensor; the data sheet names it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ma&amp;gnification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the image on the sensor divided by the size of the object, for example 0.5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixel &amp;on the object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of the object that one pixel of the picture shows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the longest exposure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Otherwise, the exposure is only shortened if it does not fit into a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
@@ -1670,6 +2260,73 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>The work was cancelled before it began, or the camera was closed.</source>
         <translation>작업이 시작되기 전에 취소되었거나 카메라가 닫혔습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutBox</name>
+    <message>
+        <source>As the camera says</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taps:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side by side:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stripes of the picture, from left to right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One above the other:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stripes of the picture, from top to bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Neighbouring columns:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taps that read the columns of a stripe in turn; 1 if a stripe has one tap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of all taps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tap 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images of each measurement; more images make the numbers more certain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera does not say it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1712,6 +2369,272 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>Guru</source>
         <translation>구루</translation>
+    </message>
+</context>
+<context>
+    <name>LineScanReport</name>
+    <message>
+        <source>Speed of the object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movement per encoder pulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixel on the object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>µm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line rate for square pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines per pulse for square pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longest exposure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>µs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Highest speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remaining error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>Line Scan Tuner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Round target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height to width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn of the camera (°)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture at the time of the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line rate</source>
+        <translation type="unfinished">라인 속도</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">값</translation>
+    </message>
+    <message>
+        <source>Written settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LineScanWindow</name>
+    <message>
+        <source>Line Scan Tuner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no encoder. Choose a line scan camera, which takes single lines of a moving object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do the &amp;next step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do the next step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No round target was found yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the largest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the one that I click</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in the columns that I draw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which disc or ring is measured. The picture rolls, so only the columns count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for the target in the live picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture stands still for a moment where a target was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Describe the machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels are square if the camera takes one line while the object moves by one pixel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This follows from the machine and from the limits of the camera.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo what was written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure a round target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let a dark or bright disc or ring move under the camera. It must be complete in one picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation type="unfinished">측정</translation>
+    </message>
+    <message>
+        <source>Make it round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The target in the live picture is round.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The target in the live picture is too tall.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The target in the live picture is too flat.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line rate, or the ratio of the encoder, is multiplied with width / height of the target.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera is turned by %1° against the movement.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has accepted the settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measuring the target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the settings</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2954,37 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>LogBox</name>
+    <message>
+        <source>Appends each reading to a CSV file until you stop it. A file of the same camera is continued.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log the temperatures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV table (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop the &amp;log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a &amp;log…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The readings are not logged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LossAdvice</name>
     <message>
         <source>Packets are lost between camera and computer: check cable and switch, or reduce the frame rate or the region.</source>
@@ -2061,6 +3015,107 @@ This value belongs to one camera or one moment.</source>
         <translation>
             <numerusform>최근 몇 초 동안 이미지 %n장이 불완전하게 수신되었습니다.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Measure</name>
+    <message>
+        <source>The brightness changed by %1 % while the bright images were taken. Use a steady light, and take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something moved while the bright images were taken. Point the camera at an evenly lit surface without objects, keep it still, and take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bright images show a scene. Point the camera at an evenly lit surface without objects, for example white paper close to the lens and out of focus, and take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is too long. Cover the lens, then take the dark images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark images show something: light reaches the sensor. Cover the lens completely, then take the dark images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black level (BlackLevel), then take the dark images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more light or a longer exposure, and take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the pixels of the bright images have the highest value. Use less light or a shorter exposure, and take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached the sensor during the dark images. Take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set %1 to %2: defect pixels are measured at full resolution without mirroring.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to Mono16, or Bayer (PixelFormat).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a region of %1 x %1 pixels or more (Width, Height).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size or the pixel format of the images has changed. Take the images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take %1 images or more: with fewer images, the noise hides defects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The region or the pixel format differs from that of the dark images. Set it as before, or take the dark images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MeasureBar</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">취소</translation>
+    </message>
+    <message>
+        <source>End the measurement. The settings of the camera are put back. (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MeasureJob</name>
+    <message>
+        <source>The camera is not open for control, so nothing can be measured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera was lost during the measurement. Measure again when it is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera was closed during the measurement.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera sends no pictures. %1</source>
+        <translation type="unfinished">카메라가 이미지를 전송하지 않습니다. %1</translation>
+    </message>
+    <message>
+        <source>Some settings were not put back. %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2357,6 +3412,109 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>PlanView</name>
+    <message>
+        <source>%1 kHz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by the link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by the exposure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings that are written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixel on the object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 µm</source>
+        <translation type="unfinished">%1 µm</translation>
+    </message>
+    <message>
+        <source>Line rate</source>
+        <translation type="unfinished">라인 속도</translation>
+    </message>
+    <message>
+        <source>Highest line rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Highest speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longest exposure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 µs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dead time of a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines per pulse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiplier, divider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remaining error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>The camera is set up for this already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These features are written, in this order:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ProfileBox</name>
     <message>
         <source>Row</source>
@@ -2572,6 +3730,173 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>RepairPanel</name>
+    <message>
+        <source>Cover the lens</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No light may reach the sensor. A long exposure and a high gain show more hot pixels: use the longest exposure that you work with, and let the camera warm up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take &amp;dark images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point at an evenly lit surface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncover the lens and fill the picture with one bright surface without objects, for example white paper, out of focus. Half of the highest brightness is best; leave the gain as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take &amp;bright images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Image Viewer and cvxctl repair pictures with the map. A report and a table are saved beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation type="unfinished">저장(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Of each kind. More images find weaker defects and pixels that blink rarely.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Number of images</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RepairReport</name>
+    <message>
+        <source>Pixel Repair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished">결과</translation>
+    </message>
+    <message>
+        <source>Clusters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defect pixels that touch each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of columns with eight defect pixels or more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of lines with eight defect pixels or more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places of the defect pixels on the sensor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exposure in ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished">게인</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished">수준</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spread of the good pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Threshold: %1 standard deviations. Examined pixels: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RepairWindow</name>
+    <message>
+        <source>&amp;Save the map…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixel Repair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taking the dark images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dark image(s) taken.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Taking the bright images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was off during the measurement, so the map contains what the camera itself can repair.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RestoreBar</name>
     <message>
         <source>Shows which settings differ from those when the camera was opened.</source>
@@ -2604,6 +3929,76 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>Res&amp;tore</source>
         <translation>복원(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>ResultBox</name>
+    <message>
+        <source>Defect pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Mark the defect pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the &amp;repaired picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replaces each defect pixel by the median of its good neighbours of the same colour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clusters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defect pixels that touch each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of columns with eight defect pixels or more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of lines with eight defect pixels or more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultSaver</name>
+    <message>
+        <source>Save the result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files exist already: %1. Do you want to replace them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not saved. %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2663,6 +4058,429 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>&quot;%1&quot; is no value of %2.</source>
         <translation>‘%1’은(는) %2에 쓸 수 있는 값이 아닙니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Sentence</name>
+    <message>
+        <source>The exposure time of this camera cannot be set. Change the light until the picture has about 70 % of the range, and measure without setting the exposure time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The region or the pixel format has changed since the dark images. Take the dark images again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The colours of a line scan camera cannot be corrected. Choose a Mono format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The region or the pixel format has changed during the measurement. Measure again without changing them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 images are too few for a correction. Take at least %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bright images are too dark: %1 % of the range above the dark images. Is the lens still covered? Otherwise, use more light or a longer exposure time, for about 70 %.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bright images have %1 % of the range. Between 50 and 80 %, the gains are most exact.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of the picture have changed by %1 % between the images: something moves, or the light flickers. Use an even surface that keeps still, and steady light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The brightness has changed by %1 % between the images. Use steady light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark images have %1 % of the range, so there seems to be light. Cover the lens completely. If it is covered, reduce BlackLevel or Gain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark images are not equally dark everywhere. Make sure that no light reaches the lens, and take them again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the values in the dark are 0, so the offsets are cut off. Increase BlackLevel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The noise in the dark is smaller than one step of the pixel format, so the numbers of the dark images are not exact. A pixel format with more bits shows the differences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the values in the bright images are clipped. Reduce the exposure time or the light, to about 70 % of the range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bright images show structures that look like an object and not like shading; the correction would draw them into every picture. Use an even surface, out of focus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too dark. Remove the lens cap, open the aperture, add light or lengthen the exposure time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the pixels are overexposed. Close the aperture or shorten the exposure time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture has no edges. Point the camera at something with structure, for example a printed page, or turn the lens if the picture is blurred.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures of this pixel format cannot be measured. Choose a Mono, Bayer, RGB or YUV format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too small for so many regions. Choose a larger Width and Height, or fewer regions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture became sharp at no position of the lens. Point the camera at something with structure, check the distance, and search again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera cannot move its lens: it has no feature for the position of the focus, for example LensFocusPosition. Turn the lens by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The right edge is sharp at a higher position than the left edge, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The left edge became sharp before the right edge, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lower right corner is sharp at a higher position than the upper left corner, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The upper left corner became sharp before the lower right corner, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lower edge is sharp at a higher position than the upper edge, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The upper edge became sharp before the lower edge, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lower left corner is sharp at a higher position than the upper right corner, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The upper right corner became sharp before the lower left corner, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The left edge is sharp at a higher position than the right edge, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The right edge became sharp before the left edge, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The upper left corner is sharp at a higher position than the lower right corner, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lower right corner became sharp before the upper left corner, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The upper edge is sharp at a higher position than the lower edge, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lower edge became sharp before the upper edge, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The upper right corner is sharp at a higher position than the lower left corner, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lower left corner became sharp before the upper right corner, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn the lens slowly in one direction, until the picture has become blurred again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep turning in this direction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn back: the peak lies in the other direction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is as sharp as it becomes. Lock the lens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best position is %1. The lens is there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best position is %1: move the lens up by %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The best position is %1: move the lens down by %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the camera at something with edges all over the picture, and go through the sharpest position once more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The focus is not tilted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The centre became sharp before the corners, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The corners became sharp before the centre, by %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The corners are sharp at a higher position than the centre, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The corners are sharp at a lower position than the centre, by %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The link carries %1 MB/s: at most %2 kHz with this width and pixel format. Choose a smaller width, a pixel format with fewer bits, or a lower speed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The exposure allows at most %1 kHz, because a line cannot be shorter than its exposure. Shorten the exposure, and add light or gain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera takes at most %1 kHz with its present settings. Choose a lower speed or a smaller magnification.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This camera takes whole pictures. Choose a line scan camera, which takes single lines of a moving object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every number must be greater than 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the pixel size and the magnification, or the size of a pixel on the object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the speed of the object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the movement per encoder pulse, or the pulses per revolution and the diameter of the roller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no line rate of its own (AcquisitionLineRate). Use an encoder, or an external trigger.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera cannot start lines by an encoder (TriggerSelector has no LineStart). Use its line rate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The exposure of %1 µs is longer than a line. It has to be shortened to %2 µs, so the picture becomes darker: add light or gain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification, or use another encoder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification, or use another encoder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera offers no encoder as the source of its line trigger (TriggerSource). Use its line rate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera takes at most %1 kHz, but square pixels need %2 kHz. Nothing was changed. Choose a lower speed or a smaller magnification.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has refused %1, so nothing was changed. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has refused a setting, and then also to go back to %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The circle is round: height and width differ by %1 %.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The border of the round target is uneven. Check whether the object moves evenly, whether lines are lost, and whether the target is sharp and free of other shapes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no complete round target in the picture of %1 lines. Show the camera a dark or bright disc or ring, or make the picture higher (Height).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture has too little contrast. Take off the lens cap, add light, and show the camera a dark or bright disc or ring.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has sent no image for %1 s, because it waits for a trigger. Trigger it, or set TriggerMode to Off, and measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has sent no image for %1 s. Check whether the live picture moves, and the cable, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera was lost during the measurement. Check its cable and its power, wait until the picture is back, then measure again. (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The images have ended during the measurement. Start the live picture and measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The images arrive with missing data. Check the cable and the network card (&quot;cvxctl doctor&quot; helps), or lower the image rate, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The measurement was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pixel values are not proportional to the light. Set Gamma to 1, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no feature &quot;DeviceTapGeometry&quot;. Choose the layout of its taps by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tap geometry &quot;%1&quot; is unknown. Choose the layout of the taps by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sensor has one tap only, so there is nothing to balance. If that is wrong, choose the layout of the taps by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no feature &quot;%1&quot;, so its taps can be measured, but not set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the entries Tap1 to Tap%2, so the taps can be measured, but not set. Choose the layout of the camera&apos;s taps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scene moves: %1 % of the picture has changed during the measurement. Show an even surface that rests, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is overexposed: %1 % of a tap&apos;s pixels have the largest value. Shorten the exposure time or close the lens aperture, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too dark: it reaches %1 % of the range. Remove the lens cap, add light or lengthen the exposure time, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is not dark: its mean is %1 % of the range. Cover the lens, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark picture is cut off: %1 % of a tap&apos;s pixels are 0. Raise the black level, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The step between tap %1 and tap %2 cannot be told from the scene. Show an even surface, or take more images, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taps cannot be measured in this pixel format. Choose a Mono or Bayer format of 8 to 16 bits, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The taps read neighbouring pixels in turn, which have different colours, so taps and colours cannot be told apart. Choose a layout of stripes by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Binning adds up pixels of several taps. Switch it off, then measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size or the format of the images has changed during the measurement. Measure again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark level of this pixel format cannot be measured; choose a Mono, Bayer or RGB format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is not dark. Put the cap on the lens, or cover the lens completely.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the pixels are 0, which hides the dark level. Raise BlackLevel, so that the noise lies above 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The noise is smaller than one step of the pixel format, which hides small changes of the dark level. Choose a pixel format with more bits, or a higher gain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The features cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3029,6 +4847,21 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>StepCard</name>
+    <message>
+        <source>Step %1, not yet possible: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step %1, next: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step %1, done: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>StreamNumbers</name>
     <message>
         <source>Delivered</source>
@@ -3191,6 +5024,275 @@ This value belongs to one camera or one moment.</source>
     </message>
 </context>
 <context>
+    <name>TapBars</name>
+    <message>
+        <source>Deviation of each tap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grey: before; blue: now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tap %1: %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not measured yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TapPanel</name>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation type="unfinished">평균</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mismatch of the taps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skip this step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo the last balancing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean and noise of each tap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shading changes the means, so the steps at the borders say how the taps differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation type="unfinished">측정</translation>
+    </message>
+    <message>
+        <source>Show an even, bright surface that fills the picture, for example a white sheet out of focus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure the taps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Black levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cover the lens. Without this step, differences of the black levels count as those of the gains.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance the black levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncover the lens and show the even, bright surface again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance the gains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has the new values until it is switched off. Store them in a user set with Camera Setup to keep them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The taps differ by up to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TapReport</name>
+    <message>
+        <source>Tap Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout of the taps: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation of each tap; grey: before, blue: now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bright picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture with the borders of the taps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation type="unfinished">평균</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished">%1~%2 {1 ?}</translation>
+    </message>
+    <message>
+        <source>Taps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step at the border</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The deviations follow from the steps at the borders, which straight lines on both sides are extended to; shading has no influence. The noise is the temporal standard deviation of a pixel by the differences of successive images (EMVA 1288). The uncertainty of a step is twice its standard error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation type="unfinished">현재</translation>
+    </message>
+</context>
+<context>
+    <name>TapSession</name>
+    <message>
+        <source>Measuring the taps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balancing the gains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balancing the black levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Putting the earlier values back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TapTexts</name>
+    <message>
+        <source>values</source>
+        <comment>unit of pixel values</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mismatch fell from %1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mismatch fell from %1 to %2. The camera offers no finer values.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TapWindow</name>
+    <message>
+        <source>Tap Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no feature GainSelector, so the gains of its taps cannot be set one by one. Use a flat-field correction instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo the last balancing</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TargetOverlay</name>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation type="unfinished">%1 × %2 px</translation>
+    </message>
+</context>
+<context>
+    <name>TemperaturePlot</name>
+    <message>
+        <source>&amp;Show the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time since the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature in °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">경고</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Final value of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark level follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TextEditor</name>
     <message numerus="yes">
         <source>At most %n character(s)</source>
@@ -3201,6 +5303,279 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>ThermalPanel</name>
+    <message>
+        <source>&amp;Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notify me</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished">로그</translation>
+    </message>
+    <message>
+        <source>Dark level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation type="unfinished"> 초</translation>
+    </message>
+    <message>
+        <source>Read &amp;every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start a&amp;new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forgets the readings and begins again. A running log goes on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThermalReport</name>
+    <message>
+        <source>Thermal Monitor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Readings since %1 (UTC).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected final value in °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steady in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The final value belongs to an exponential curve through the readings; the uncertainty is twice the standard deviation. Steady means within 0.5 K of the final value, or a change of less than 0.1 K per minute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temperatures over time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark level over time</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThermalSession</name>
+    <message>
+        <source>The camera has not been read yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThermalTexts</name>
+    <message>
+        <source>°C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>10 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>24 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation type="unfinished">카메라</translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be read at present</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate and state are known in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warming up, %1 K/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cooling, %1 K/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steady, %1 K/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The temperature does not change any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The final value is not determined yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected final value: %1 °C ± %2 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, steady in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alarm: %1 has reached %2. Cool the camera or let it work less.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning: %1 is at %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is below the thresholds again: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark level: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark level: %1 (noise %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark level has followed the temperature since %1 after the start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark level has not changed by more than its noise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark signal doubles every %1 ± %2 K.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The doubling temperature is not determined yet; the temperature has to change more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThermalWindow</name>
+    <message>
+        <source>&amp;Save the result…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thermal Monitor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera has no feature DeviceTemperature, so it does not report its temperature. The data sheet says whether a newer firmware does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThresholdBox</name>
+    <message>
+        <source>&amp;Warning at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Alarm at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A warning or an alarm ends when the temperature is so far below its threshold again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>En&amp;ds below by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program notifies you, also while its window is behind others, when a place gets so warm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThresholdControl</name>
+    <message>
+        <source>How far a pixel deviates from its neighbours before it counts as a defect, in standard deviations of the good pixels. At 6 σ, less than one good pixel per megapixel is taken for a defect.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Threshold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> σ</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3758,6 +6133,10 @@ For industrial cameras of any vendor. MIT licence.</source>
         <source>Middle button, or Space and drag</source>
         <translation>가운데 버튼 또는 Space+드래그</translation>
     </message>
+    <message>
+        <source>C&amp;orrections…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ViewerWindow</name>
@@ -3832,6 +6211,14 @@ For industrial cameras of any vendor. MIT licence.</source>
     <message>
         <source>No picture has arrived yet. The program that controls the camera may not stream.</source>
         <translation>아직 수신된 이미지가 없습니다. 카메라를 제어하는 프로그램이 스트림을 시작하지 않았을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Not corrected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corrected</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -54,7 +54,7 @@ class ThermalTest(CvxctlCase):
 
     def test_interruption_is_the_end_unless_an_end_was_named(self):
         for arguments, status in (([], 0), (["--until-steady"], 130), (["--stream"], 0)):
-            log = self.path("log.csv")
+            log = self.path(f"log{len(arguments)}{status}.csv")
             process = self.start("thermal", "1001", "--log", log, *arguments)
             while not (os.path.exists(log) and os.path.getsize(log) > 80) and process.poll() is None:
                 time.sleep(0.02)  # The first reading is in the file at once.

@@ -6,7 +6,7 @@ import os
 import sys
 import tempfile
 
-from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from launcher import BOUND, Launcher, click, keep_to_this_machine, wait_for, xdotool
 from simulator import SimulatorConfiguration
 from tool import Tool
 
@@ -54,7 +54,7 @@ def main():
                 assistant.activate()
                 assistant.click("Search automatically")
                 wait_for("the lens is at the best position",
-                         lambda: assistant.shows(lambda text: "The lens is there." in text))
+                         lambda: assistant.shows(lambda text: "The lens is there." in text), 4 * BOUND)
                 assistant.press("ctrl+s")
                 wait_for("the file dialog is open", lambda: assistant.shows(lambda text: text.replace("&", "") == "Save"))
                 assistant.press("ctrl+a")

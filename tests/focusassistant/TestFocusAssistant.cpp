@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 using FocusUnderTest = ToolUnderTest<FocusWindow>;
@@ -29,6 +30,14 @@ template <typename Widget>
 Widget *control(FocusUnderTest &focus, const QString &name)
 {
     return focus.window().findChild<Widget *>(name);
+}
+
+/// Returns true if the panel shows this text.
+bool hasLabel(FocusUnderTest &focus, const QString &text)
+{
+    const auto labels = focus.find<FocusPanel>()->findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(),
+        [&](const QLabel *label) { return label->isVisible() && label->text() == text; });
 }
 
 void awaitMeasurements(FocusUnderTest &focus, std::size_t count)
@@ -98,7 +107,7 @@ void TestFocusAssistant::searchLeavesTheLensAtTheBestPosition()
     QVERIFY(analysis.best);
     QCOMPARE(lensPosition(focus), std::int64_t(std::lround(*analysis.best)));
     awaitMeasurements(focus, 3);
-    QVERIFY(control<QLabel>(focus, "result"_s)->text().contains("The lens is there."_s));
+    QVERIFY(focus.find<FocusPanel>()->sentences().first().contains("The lens is there."_s));
 
     const QJsonObject result = resultOf(focus, folder.filePath("focus.json"_s));
     QCOMPARE(result.value("analysis"_s).toObject().value("best"_s).toDouble(), *analysis.best);
@@ -118,7 +127,7 @@ void TestFocusAssistant::cancelledSearchPutsTheLensBack()
     QVERIFY(!control<QPushButton>(focus, "search"_s)->isEnabled());
     focus.window().job().cancel();
     await([&] { return !focus.window().job().isRunning(); });
-    QCOMPARE(control<QLabel>(focus, "failure"_s)->text(), "The measurement was cancelled."_s);
+    QVERIFY(hasLabel(focus, "The measurement was cancelled."_s));
     QCOMPARE(lensPosition(focus), 444);
     QVERIFY(!focus.window().result());
 }
@@ -126,11 +135,12 @@ void TestFocusAssistant::cancelledSearchPutsTheLensBack()
 void TestFocusAssistant::lensTurnedByHandIsFollowed()
 {
     FocusUnderTest focus("1001"_s, {{"grid"_s, 3}});
-    focus.write(lens, std::int64_t{300});
-    focus.window().findChild<QPushButton *>("forget"_s)->click();
+    awaitMeasurements(focus, 1);
+    moveLens(focus, 420);
+    control<QPushButton>(focus, "forget"_s)->click();
     awaitMeasurements(focus, 3);
     QVERIFY(!control<QPushButton>(focus, "tilt"_s)->isEnabled());
-    for (const std::int64_t position : {400, 440, 470, 490, 500, 510, 530, 560, 600, 700})
+    for (const std::int64_t position : {450, 465, 475, 485, 495, 505, 515, 530, 560})
         moveLens(focus, position);
     QVERIFY(focus.window().session().history().share() < 0.5);
     QCOMPARE(
@@ -139,7 +149,7 @@ void TestFocusAssistant::lensTurnedByHandIsFollowed()
     control<QPushButton>(focus, "tilt"_s)->click();
     QVERIFY(focus.window().result());
     QVERIFY(!focus.window().result()->axis); // Positions are times.
-    QVERIFY(!control<QLabel>(focus, "result"_s)->text().isEmpty());
+    QVERIFY(hasLabel(focus, focus.find<FocusPanel>()->sentences().join(QLatin1Char('\n'))));
 }
 
 void TestFocusAssistant::pictureThatSaysNothingIsExplained()

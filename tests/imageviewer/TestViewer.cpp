@@ -1,4 +1,5 @@
 #include "sdk/image/RawImage.h"
+#include "sdk/imagefile/FlatFieldFile.h"
 #include "tests/imageviewer/ControllingProgram.h"
 #include "tests/imageviewer/ViewerUnderTest.h"
 #include "tests/support/ScriptFile.h"
@@ -9,10 +10,14 @@
 #include "tools/kit/pages/NoCameraPage.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSet>
+#include <QUrl>
 #include <QtTest>
 
 #include <csignal>
@@ -42,6 +47,36 @@ QStringList filesIn(const QTemporaryDir &folder, const QString &pattern)
     return paths;
 }
 
+/// Writes a flat field that makes every pixel 77.
+void writeField(const QString &path, std::uint32_t width)
+{
+    constexpr std::uint32_t height = 240;
+    const std::vector<float> zeros(width * height);
+    const std::string problem
+        = writeFlatField(path.toStdString(), {0, 0, width, height, 8, 77, zeros, zeros}, {});
+    if (!problem.empty())
+        qFatal("%s", problem.c_str());
+}
+
+/// Enters the file into the dialog as a person does.
+void chooseField(ViewerUnderTest &viewer, const QString &path)
+{
+    viewer.action("Corrections…"_s).trigger();
+    auto *const line = viewer.window().findChild<QLineEdit *>("flatField"_s);
+    line->selectAll();
+    QTest::keyClicks(line, path);
+    QTest::keyClick(line, Qt::Key_Return);
+}
+
+bool isGrey(const QImage &picture, int value)
+{
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if ((picture.pixel(x, y) & 0xFFFFFF) != QRgb(value * 0x010101))
+                return false;
+    return !picture.isNull();
+}
+
 } // namespace
 
 /// Tests that the parts of the Image Viewer are connected, with the real SDK on simulated cameras.
@@ -62,6 +97,8 @@ private slots:
     void windowStaysUsableWhenTheHostHangs();
     void snapshotContainsTheRawValues();
     void recordingHasEveryFrameId();
+    void correctionAppliesToPictureAndFiles();
+    void correctionThatDoesNotFitIsExplained();
     void cameraInUseCanBeWatched();
     void everyControlHasAnAccessibleName();
 
@@ -226,6 +263,58 @@ void TestViewer::recordingHasEveryFrameId()
     const qulonglong first = lines.first().split(',').first().toULongLong();
     for (int index = 0; index < lines.size(); ++index)
         QCOMPARE(lines.at(index).split(',').first().toULongLong(), first + qulonglong(index));
+}
+
+void TestViewer::correctionAppliesToPictureAndFiles()
+{
+    const QTemporaryDir folder;
+    const QString field = folder.filePath("field.tif"_s);
+    writeField(field, 320);
+    const QVariantMap choices{
+        {"files/folder"_s, folder.path()}, {"files/pictureFormat"_s, int(ImageFileFormat::Png8)}};
+    QString camera;
+    {
+        ViewerUnderTest viewer("1001"_s, choices);
+        viewer.awaitPicture();
+        camera = viewer.window().connection().camera().id;
+        chooseField(viewer, field);
+        await([&] { return isGrey(viewer.canvas().picture().pixels, 77); });
+        QCOMPARE(viewer.window().findChild<QLabel *>("correctionState"_s)->text(), "Corrected"_s);
+        viewer.action("Save snapshot"_s).trigger();
+        await([&] { return !filesIn(folder, "*.png"_s).isEmpty(); });
+        const QString file = filesIn(folder, "*.png"_s).constFirst();
+        QVERIFY(isGrey(QImage(file), 77));
+        QVERIFY(ScriptFile::read(file + ".json"_s).contains("corvix-x-flat-field"));
+        viewer.window().findChild<QDialog *>("corrections"_s)->findChild<QCheckBox *>()->click();
+        await([&] { return !isGrey(viewer.canvas().picture().pixels, 77); });
+    }
+    QVariantMap remembered = choices;
+    remembered.insert(
+        "corrections/%1/flatField"_s.arg(QString::fromLatin1(QUrl::toPercentEncoding(camera))), field);
+    ViewerUnderTest again("1001"_s, remembered);
+    again.awaitPicture();
+    await([&] { return isGrey(again.canvas().picture().pixels, 77); });
+}
+
+void TestViewer::correctionThatDoesNotFitIsExplained()
+{
+    const QTemporaryDir folder;
+    ViewerUnderTest viewer("1001"_s);
+    viewer.awaitPicture();
+    const QString small = folder.filePath("small.tif"_s);
+    writeField(small, 64);
+    for (const QString &file : {folder.filePath("missing.tif"_s), small}) {
+        chooseField(viewer, file);
+        const auto *const state = viewer.window().findChild<QLabel *>("correctionState"_s);
+        const QString expected = file == small ? "flat field covers 64 x 240"_s : "No such file"_s;
+        await([&] { return state->toolTip().contains(expected); });
+        QCOMPARE(state->text(), "Not corrected"_s);
+        const auto labels = viewer.window().findChild<QDialog *>("corrections"_s)->findChildren<QLabel *>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(),
+            [&](const QLabel *label) { return label->isVisible() && label->text().contains(expected); }));
+    }
+    viewer.awaitNewPicture();
+    QVERIFY(!isGrey(viewer.canvas().picture().pixels, 77));
 }
 
 void TestViewer::cameraInUseCanBeWatched()

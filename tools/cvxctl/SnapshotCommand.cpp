@@ -97,7 +97,8 @@ ExitStatus saveImages(Stream &stream, const SnapshotOptions &options, const Came
 ExitStatus run(const SnapshotOptions &options)
 {
     CorrectionSource correction;
-    if (const ExitStatus status = readCorrectionFiles(options.corrections, snapshotFormat(options), correction))
+    if (const ExitStatus status
+        = readCorrectionFiles(options.corrections, snapshotFormat(options), correction))
         return status;
     CameraSession session;
     if (const ExitStatus status = session.open(options.camera, CvxAccessControl))

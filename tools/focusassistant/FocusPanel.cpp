@@ -5,9 +5,12 @@
 #include "tools/kit/measure/focus/FocusText.h"
 #include "tools/kit/plot/Plot.h"
 #include "tools/kit/start/ToolSettings.h"
+#include "tools/kit/widgets/BigNumber.h"
 #include "tools/kit/widgets/Heading.h"
 #include "tools/kit/widgets/Message.h"
 #include "tools/kit/widgets/Role.h"
+#include "tools/kit/widgets/StepCard.h"
+#include "tools/kit/widgets/StepList.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -33,6 +36,20 @@ QLabel *createText(const char *name, QWidget *parent)
     return label;
 }
 
+/// Returns how sharp the corners are at the best position, or when the whole picture was sharpest.
+QString cornersAtBest(const FocusResult &result)
+{
+    QStringList corners;
+    std::size_t index = 0;
+    for (const GridCorner &corner : gridCorners(result.last.grid)) {
+        const QString name = FocusTexts::corner(result.last.grid, index++);
+        if (corner.region < result.analysis->regions.size() && result.analysis->regions[corner.region].peak)
+            corners.append(FocusTexts::cornerShare(
+                name, FocusTexts::share(result.analysis->regions[corner.region].shareAtBest)));
+    }
+    return corners.isEmpty() ? QString() : FocusTexts::atBest(corners.join(QStringLiteral(", ")));
+}
+
 QStringList resultSentences(const FocusResult &result, const std::optional<double> &position)
 {
     const FocusAnalysis &analysis = *result.analysis;
@@ -47,6 +64,8 @@ QStringList resultSentences(const FocusResult &result, const std::optional<doubl
         lines.append(translatedSentence(tiltSentence(*analysis.surface, unit)));
     if (analysis.surface && analysis.surface->curvature != 0)
         lines.append(translatedSentence(curvatureSentence(*analysis.surface, unit)));
+    if (const QString corners = cornersAtBest(result); !corners.isEmpty())
+        lines.append(corners);
     return lines;
 }
 
@@ -63,58 +82,46 @@ FocusPanel::FocusPanel(FocusSession &session, ToolSettings &settings, QWidget *p
     : QWidget(parent),
       m_session(session),
       m_settings(settings),
-      m_share(createText("bigNumber", this)),
-      m_sharpness(createText("sharpness", this)),
+      m_share(new BigNumber(tr("Share of the peak"), this)),
       m_problem(createMessage(this)),
       m_advice(createText("advice", this)),
       m_corners(createText("corners", this)),
+      m_movement(createText("movement", this)),
       m_plot(new Plot(this)),
       m_grid(new QSpinBox(this)),
-      m_pointStep(createText("pointStep", this)),
-      m_turnStep(createText("turnStep", this)),
-      m_tiltStep(createText("tiltStep", this)),
-      m_failure(createMessage(this)),
-      m_search(new QPushButton(tr("Search &automatically"), this)),
-      m_tilt(new QPushButton(tr("Read the &tilt"), this)),
-      m_result(createText("result", this)),
+      m_steps(new StepList(this)),
       m_save(new QPushButton(tr("&Save the result…"), this))
 {
+    m_problem->setObjectName(QStringLiteral("problem"));
+    m_save->setObjectName(QStringLiteral("save"));
+    changeRole(m_corners, "secondary");
+    changeRole(m_movement, "secondary");
+    m_movement->setText(translatedSentence(movementSentence()));
+    createPlot();
+    createSteps();
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
     layout->addWidget(createHeading(tr("Sharpness")));
-    layout->addWidget(createNumbers());
-    layout->addWidget(m_plot);
-    layout->addWidget(createControls());
-    layout->addWidget(createHeading(tr("Steps")));
-    layout->addWidget(createSteps());
-    layout->addWidget(m_failure);
-    layout->addWidget(createResult());
+    for (QWidget *const widget :
+        {static_cast<QWidget *>(m_share), static_cast<QWidget *>(m_advice), static_cast<QWidget *>(m_corners),
+            static_cast<QWidget *>(m_problem), static_cast<QWidget *>(m_plot), createControls(),
+            static_cast<QWidget *>(m_steps), static_cast<QWidget *>(m_save)})
+        layout->addWidget(widget);
     m_session.setGridSize(m_grid->value());
     connect(&m_session, &FocusSession::changed, this, &FocusPanel::show);
-    m_failure->setObjectName(QStringLiteral("failure"));
-    showFailure({});
-    showResult(nullptr);
+    connect(m_save, &QPushButton::clicked, this, &FocusPanel::saveRequested);
+    show();
 }
 
-QWidget *FocusPanel::createNumbers()
+void FocusPanel::createPlot()
 {
-    auto *const numbers = new QWidget(this);
-    m_problem->setObjectName(QStringLiteral("problem"));
-    m_share->setAccessibleName(tr("Share of the peak"));
-    changeRole(m_sharpness, "secondary");
-    changeRole(m_corners, "secondary");
-    auto *const layout = new QVBoxLayout(numbers);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(4);
-    for (QWidget *const widget : {m_share, m_sharpness, m_advice, m_corners, m_problem})
-        layout->addWidget(widget);
     m_plot->setFixedHeight(plotHeight);
     m_plot->setHorizontalAxis(Plot::Axis::Duration, tr("Before now"));
     m_plot->setVerticalAxis(tr("Sharpness"));
+    m_plot->setAxisScale(QwtPlot::xBottom, -FocusHistory::trendSeconds, 0);
     m_plot->addCurve(tr("Sharpness"));
     m_plot->setAccessibleName(tr("Sharpness during the last minute"));
-    return numbers;
 }
 
 QWidget *FocusPanel::createControls()
@@ -142,46 +149,26 @@ QWidget *FocusPanel::createControls()
     return controls;
 }
 
-QWidget *FocusPanel::createSteps()
+void FocusPanel::createSteps()
 {
-    auto *const steps = new QWidget(this);
-    m_search->setObjectName(QStringLiteral("search"));
-    m_search->setToolTip(tr("Moves the lens through its range and leaves it at the best position. Cancelling "
-                            "puts it back."));
-    m_tilt->setObjectName(QStringLiteral("tilt"));
-    m_tilt->setToolTip(
-        tr("Finds out in which order the regions became sharp while the lens was turned once through "
-           "the sharpest position."));
-    m_pointStep->setText(tr("1. Point the camera at something with edges all over the picture."));
-    m_tiltStep->setText(tr("3. Read the tilt."));
-    auto *const layout = new QVBoxLayout(steps);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QWidget *const widget : {static_cast<QWidget *>(m_pointStep), static_cast<QWidget *>(m_turnStep),
-             static_cast<QWidget *>(m_search), static_cast<QWidget *>(m_tiltStep),
-             static_cast<QWidget *>(m_tilt)})
-        layout->addWidget(widget);
-    connect(m_search, &QPushButton::clicked, this, &FocusPanel::searchRequested);
-    connect(m_tilt, &QPushButton::clicked, this, &FocusPanel::tiltRequested);
-    return steps;
-}
-
-QWidget *FocusPanel::createResult()
-{
-    auto *const result = new QWidget(this);
-    m_save->setObjectName(QStringLiteral("save"));
-    auto *const layout = new QVBoxLayout(result);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_result);
-    layout->addWidget(m_save);
-    connect(m_save, &QPushButton::clicked, this, &FocusPanel::saveRequested);
-    return result;
+    m_steps->addStep(
+        tr("Point the camera"), tr("It looks at something with edges all over the picture."), {});
+    StepCard *const turn = m_steps->addStep(tr("Find the best focus"), {}, tr("Search &automatically"));
+    StepCard *const tilt = m_steps->addStep(tr("Read the tilt"),
+        tr("The order in which the regions become sharp says how the focus is tilted."),
+        tr("Read the &tilt"));
+    turn->button()->setObjectName(QStringLiteral("search"));
+    turn->button()->setToolTip(
+        tr("Moves the lens through its range and leaves it at the best position. Cancelling puts it back."));
+    tilt->button()->setObjectName(QStringLiteral("tilt"));
+    connect(turn, &StepCard::triggered, this, &FocusPanel::searchRequested);
+    connect(tilt, &StepCard::triggered, this, &FocusPanel::tiltRequested);
 }
 
 void FocusPanel::showResult(const FocusResult *result)
 {
     m_shown = result;
     m_hasResult = result && result->analysis;
-    m_result->setVisible(m_hasResult);
     show();
 }
 
@@ -192,7 +179,7 @@ QStringList FocusPanel::sentences() const
 
 void FocusPanel::showFailure(const QString &text)
 {
-    showMessage(m_failure, text, "warning");
+    m_steps->step(TurnStep)->setResult(text, "warning");
 }
 
 void FocusPanel::setSteps(bool canSearch, bool isSearching)
@@ -206,72 +193,94 @@ void FocusPanel::show()
 {
     showMessage(m_problem, translatedSentence(m_session.problem()), "warning");
     showNumbers();
+    showCorners();
     showTrend();
     showSteps();
-    m_result->setText(sentences().join(QLatin1Char('\n')));
 }
 
 void FocusPanel::showNumbers()
 {
     const FocusHistory &history = m_session.history();
-    const bool hasPeak = history.peak() > 0;
-    m_share->setText(hasPeak ? FocusTexts::share(history.share()) : QString(QChar(0x2013)));
-    changeRole(m_share, hasPeak ? shareRole(history.share()) : "secondary");
-    m_sharpness->setText(hasPeak ? tr("of the peak. Sharpness %1, peak %2.")
-                                       .arg(QLocale().toString(history.samples().back().measurement.sharpness,
-                                                'f', sharpnessDecimals),
-                                           QLocale().toString(history.peak(), 'f', sharpnessDecimals))
-                                 : tr("Nothing was measured yet."));
     const bool hasAdvice = m_session.problem().isEmpty() && !m_isSearching;
     m_advice->setText(hasAdvice ? translatedSentence(adviceSentence(history.advice())) : QString());
+    m_advice->setVisible(!m_advice->text().isEmpty());
     changeRole(m_advice, history.advice() == FocusHistory::Advice::Done ? "good" : "");
+    if (history.peak() <= 0) {
+        m_share->clear();
+        m_share->setCaption(tr("Nothing was measured yet."));
+        return;
+    }
+    m_share->setValue(100 * history.share(), 0, tr("%"));
+    m_share->setRole(shareRole(history.share()));
+    const double sharpness = history.samples().back().measurement.sharpness;
+    m_share->setCaption(tr("of the peak. Sharpness %1, peak %2.")
+                            .arg(QLocale().toString(sharpness, 'f', sharpnessDecimals),
+                                QLocale().toString(history.peak(), 'f', sharpnessDecimals)));
+}
 
+void FocusPanel::showCorners()
+{
+    const FocusHistory &history = m_session.history();
     QStringList corners;
-    if (hasPeak) {
+    if (history.peak() > 0) {
         const FocusGrid &grid = history.samples().back().measurement.grid;
         std::size_t index = 0;
         for (const GridCorner &corner : gridCorners(grid)) {
             const auto share = history.regionShare(corner.region);
-            corners.append(tr("%1: %2").arg(FocusTexts::corner(grid, index++),
+            corners.append(FocusTexts::cornerShare(FocusTexts::corner(grid, index++),
                 share ? FocusTexts::share(*share) : QString(QChar(0x2013))));
         }
     }
     m_corners->setText(corners.join(QStringLiteral(" · ")));
+    m_corners->setVisible(!corners.isEmpty());
+    m_movement->setVisible(history.isMoving() && !m_isSearching);
 }
 
 void FocusPanel::showTrend()
 {
+    constexpr double headroom = 1.1; // Above the peak.
     QVector<QPointF> samples;
     const FocusHistory &history = m_session.history();
     const double now = history.samples().empty() ? 0 : history.samples().back().position;
     for (const FocusSample &sample : history.samples())
         if (sample.position >= now - FocusHistory::trendSeconds)
             samples.append({sample.position - now, sample.measurement.sharpness});
-    m_plot->setSamples(0, samples);
-    if (history.peak() > 0)
+    if (history.peak() > 0) {
+        m_plot->setAxisScale(QwtPlot::yLeft, 0, headroom * history.peak());
         m_plot->setLimit(0, history.peak(), tr("Peak"));
-    else
+    } else {
         m_plot->removeLines();
+    }
+    m_plot->setSamples(0, samples);
+}
+
+FocusPanel::Step FocusPanel::currentStep() const
+{
+    const FocusHistory &history = m_session.history();
+    if (m_hasResult)
+        return AllDone;
+    if (!m_session.problem().isEmpty() || history.peak() <= 0)
+        return PointStep;
+    return history.hasPassedPeak() && !m_isSearching ? TiltStep : TurnStep;
 }
 
 void FocusPanel::showSteps()
 {
-    const FocusHistory &history = m_session.history();
-    const bool hasEdges = m_session.problem().isEmpty() && history.peak() > 0;
-    const bool hasTurned = history.hasPassedPeak();
+    const Step step = currentStep();
+    if (m_steps->current() != step)
+        m_steps->setCurrent(step);
     const bool hasMotor = m_session.hasMotor();
-    m_turnStep->setText(hasMotor
-            ? tr("2. Search the best position, or turn the lens slowly through the sharpest position.")
-            : tr("2. Turn the lens slowly through the sharpest position, then back to it."));
-    changeRole(m_pointStep, hasEdges ? "stepDone" : "stepCurrent");
-    changeRole(m_turnStep, hasTurned || m_hasResult ? "stepDone" : hasEdges ? "stepCurrent" : "stepPending");
-    changeRole(m_tiltStep, m_hasResult ? "stepDone" : hasTurned ? "stepCurrent" : "stepPending");
-    m_search->setVisible(hasMotor);
-    m_search->setEnabled(m_canSearch && hasEdges && !m_isSearching);
-    m_tilt->setEnabled(hasTurned && !m_isSearching);
-    const bool searchIsNext = hasMotor && !m_hasResult;
-    changeRole(m_search, searchIsNext ? "primary" : "");
-    changeRole(m_tilt, !searchIsNext && !m_hasResult ? "primary" : "");
+    const FocusHistory &history = m_session.history();
+    const bool isMeasured = m_session.problem().isEmpty() && history.peak() > 0;
+    StepCard *const turn = m_steps->step(TurnStep);
+    turn->setText(hasMotor
+            ? tr("Search the best position, or turn the lens slowly through the sharpest position.")
+            : tr("Turn the lens slowly through the sharpest position, then back to it."));
+    turn->button()->setVisible(hasMotor);
+    turn->setButtonAllowed(m_canSearch && isMeasured && !m_isSearching);
+    StepCard *const tilt = m_steps->step(TiltStep);
+    tilt->setButtonAllowed(history.hasPassedPeak() && !m_isSearching);
+    tilt->setResult(sentences().join(QLatin1Char('\n')), "good");
     m_save->setEnabled(history.peak() > 0 && !m_isSearching);
     changeRole(m_save, m_hasResult ? "primary" : "");
 }

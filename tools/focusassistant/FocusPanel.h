@@ -6,10 +6,12 @@
 #include <QStringList>
 #include <QWidget>
 
+class BigNumber;
 class Plot;
 class QLabel;
 class QPushButton;
 class QSpinBox;
+class StepList;
 class ToolSettings;
 
 /// The panel of the Focus Assistant: the sharpness with its peak and trend, the steps, and the result.
@@ -42,31 +44,35 @@ signals:
     void saveRequested();
 
 private:
-    QWidget *createNumbers();
+    /// The steps in their order.
+    enum Step
+    {
+        PointStep,
+        TurnStep,
+        TiltStep,
+        AllDone
+    };
+
+    void createPlot();
     QWidget *createControls();
-    QWidget *createSteps();
-    QWidget *createResult();
+    void createSteps();
     void show();
     void showNumbers();
+    void showCorners();
     void showTrend();
     void showSteps();
+    Step currentStep() const;
 
     FocusSession &m_session;
     ToolSettings &m_settings;
-    QLabel *m_share;
-    QLabel *m_sharpness;
+    BigNumber *m_share;
     QLabel *m_problem;
     QLabel *m_advice;
     QLabel *m_corners;
+    QLabel *m_movement;
     Plot *m_plot;
     QSpinBox *m_grid;
-    QLabel *m_pointStep;
-    QLabel *m_turnStep;
-    QLabel *m_tiltStep;
-    QLabel *m_failure;
-    QPushButton *m_search;
-    QPushButton *m_tilt;
-    QLabel *m_result;
+    StepList *m_steps;
     QPushButton *m_save;
     const FocusResult *m_shown = nullptr; // Null if there is none.
     bool m_canSearch = false;

@@ -68,7 +68,7 @@ void FocusSession::take(
     constexpr double nanosecondsPerSecond = 1e9;
     m_problem = problem.isEmpty() ? measurement.problem : problem;
     m_measurement = problem.isEmpty() ? std::make_optional(measurement) : std::nullopt;
-    if (m_problem.isEmpty() && measurement.grid == options().grid) {
+    if (problem.isEmpty() && measurement.grid == options().grid) {
         if (m_firstTime == 0 || receivedAt < m_firstTime)
             m_firstTime = receivedAt;
         m_history.add(double(receivedAt - m_firstTime) / nanosecondsPerSecond, measurement);

@@ -11,6 +11,16 @@ QString FocusTexts::corner(const FocusGrid &grid, std::size_t index)
     return names.value(int(index));
 }
 
+QString FocusTexts::cornerShare(const QString &corner, const QString &share)
+{
+    return tr("%1: %2").arg(corner, share);
+}
+
+QString FocusTexts::atBest(const QString &corners)
+{
+    return tr("Shares of their peaks at the best position: %1.").arg(corners);
+}
+
 QString FocusTexts::share(double share)
 {
     return tr("%1 %").arg(QLocale().toString(share * 100, 'f', 0));

@@ -43,7 +43,7 @@ ViewerActions::ViewerActions(ImageCanvas &canvas, QObject *parent)
       newWindow(createAction(this, tr("&New window"), QKeySequence::New, {}, false)),
       cameraSetup(createAction(
           this, tr("All &features (Camera Setup)"), Qt::Key_F12, ToolIcons::icon(Kind::Settings), false)),
-      corrections(createAction(this, tr("C&orrections…"), {}, {}, false)),
+      corrections(createAction(this, tr("&Corrections…"), {}, {}, false)),
       m_overlays{grid, crosshair, clipMarks},
       m_tools(new QActionGroup(this))
 {

@@ -5,7 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 
@@ -15,10 +15,10 @@ constexpr double largestNumber = 1e6;
 
 } // namespace
 
-InputsForm::InputsForm(QWidget *parent) : QWidget(parent), m_layout(new QFormLayout(this))
+InputsForm::InputsForm(QWidget *parent) : QWidget(parent), m_layout(new QGridLayout(this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_layout->setColumnStretch(1, 1);
     m_trigger = addChoice(tr("&Lines come from"), {tr("the camera's line rate"), tr("an encoder")});
     m_speed = addNumber(tr("&Speed"), tr("mm/s"), 3,
         tr("Speed of the object. With an encoder: the highest speed, for which the limits are checked."));
@@ -38,7 +38,7 @@ InputsForm::InputsForm(QWidget *parent) : QWidget(parent), m_layout(new QFormLay
         tr("Width of the object that one pixel of the picture shows."));
     m_longest = new QCheckBox(tr("Use the longest exposure"));
     m_longest->setToolTip(tr("Otherwise, the exposure is only shortened if it does not fit into a line."));
-    m_layout->addRow(m_longest);
+    m_layout->addWidget(m_longest, m_layout->rowCount(), 0, 1, 2);
     connect(m_longest, &QCheckBox::toggled, this, &InputsForm::changed);
     showNeeded();
 }
@@ -56,9 +56,20 @@ QDoubleSpinBox *InputsForm::addNumber(
         box->setSuffix(QLatin1Char(' ') + unit);
     box->setToolTip(toolTip);
     box->setAccessibleDescription(toolTip);
-    m_layout->addRow(label, box);
+    addRow(label, box);
     connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &InputsForm::changed);
     return box;
+}
+
+/// A grid leaves no gap for hidden rows.
+void InputsForm::addRow(const QString &label, QWidget *field)
+{
+    auto *const name = new QLabel(label);
+    name->setBuddy(field);
+    m_labels.insert(field, name);
+    const int row = m_layout->rowCount();
+    m_layout->addWidget(name, row, 0);
+    m_layout->addWidget(field, row, 1);
 }
 
 QComboBox *InputsForm::addChoice(const QString &label, const QStringList &entries)
@@ -66,7 +77,7 @@ QComboBox *InputsForm::addChoice(const QString &label, const QStringList &entrie
     auto *const box = new QComboBox;
     box->addItems(entries);
     makeNarrow(box);
-    m_layout->addRow(label, box);
+    addRow(label, box);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &InputsForm::showNeeded);
     connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &InputsForm::changed);
     return box;
@@ -89,8 +100,7 @@ void InputsForm::showNeeded()
 void InputsForm::setRowVisible(QWidget *field, bool isVisible)
 {
     field->setVisible(isVisible);
-    if (QWidget *const label = m_layout->labelForField(field))
-        label->setVisible(isVisible);
+    m_labels.value(field)->setVisible(isVisible);
 }
 
 LineScanInputs InputsForm::inputs() const

@@ -2,13 +2,14 @@
 
 #include "tools/kit/measure/linescan/LineScanInputs.h"
 
-#include <QVector>
+#include <QHash>
 #include <QWidget>
 
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
-class QFormLayout;
+class QGridLayout;
+class QLabel;
 
 /// Asks for what a person knows about the machine. Shows only the numbers that the chosen ways need.
 class InputsForm : public QWidget
@@ -31,10 +32,12 @@ private:
     QDoubleSpinBox *addNumber(
         const QString &label, const QString &unit, int decimals, const QString &toolTip);
     QComboBox *addChoice(const QString &label, const QStringList &entries);
+    void addRow(const QString &label, QWidget *field);
     void showNeeded();
     void setRowVisible(QWidget *field, bool isVisible);
 
-    QFormLayout *m_layout;
+    QGridLayout *m_layout;
+    QHash<QWidget *, QLabel *> m_labels; ///< By their fields.
     QComboBox *m_trigger;
     QDoubleSpinBox *m_speed;
     QComboBox *m_encoderWay; ///< Movement per pulse, or roller.

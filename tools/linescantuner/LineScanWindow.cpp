@@ -1,6 +1,5 @@
 #include "tools/linescantuner/LineScanWindow.h"
 
-#include "sdk/imagefile/Sidecar.h"
 #include "tools/kit/assistant/SentenceText.h"
 #include "tools/kit/canvas/ImageCanvas.h"
 #include "tools/kit/start/ToolIcons.h"
@@ -10,7 +9,6 @@
 #include "tools/kit/widgets/StepCard.h"
 #include "tools/kit/widgets/StepList.h"
 #include "tools/linescantuner/InputsForm.h"
-#include "tools/linescantuner/LineScanReport.h"
 #include "tools/linescantuner/PlanView.h"
 
 #include <QAction>
@@ -22,8 +20,6 @@
 #include <QVBoxLayout>
 
 #include <cmath>
-#include <memory>
-#include <utility>
 
 namespace {
 
@@ -36,9 +32,9 @@ AssistantWindow::Plan windowPlan(const QString &camera)
         LineScanWindow::tr(
             "This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no "
             "encoder. Choose a line scan camera, which takes single lines of a moving object.")}};
-    plan.settings = QStringList{QStringLiteral("ExposureTime"), QStringLiteral("Gain"), QStringLiteral("Width"),
-        QStringLiteral("Height"), QStringLiteral("PixelFormat"), QStringLiteral("EncoderSpeed"),
-        QStringLiteral("SceneTarget")};
+    plan.settings = QStringList{QStringLiteral("ExposureTime"), QStringLiteral("Gain"),
+        QStringLiteral("Width"), QStringLiteral("Height"), QStringLiteral("PixelFormat"),
+        QStringLiteral("EncoderSpeed"), QStringLiteral("SceneTarget")};
     return plan;
 }
 
@@ -54,11 +50,14 @@ LineScanWindow::LineScanWindow(const QString &camera, ToolSettings &settings)
 {
     m_tracker = new TargetTracker(picture(), this);
     setPanel(createPanel());
+    m_next = new QAction(tr("Do the &next step"), this);
+    m_next->setShortcut(Qt::CTRL + Qt::Key_Return);
+    resultMenu()->addAction(m_next);
     m_save = new QAction(ToolIcons::icon(ToolIcons::Kind::Save), tr("&Save the result…"), this);
     m_save->setShortcut(QKeySequence::Save);
     resultMenu()->addAction(m_save);
     connectParts();
-    finish({{tr("Ctrl+S"), tr("Save the result")}});
+    finish({{tr("Ctrl+Return"), tr("Do the next step")}, {tr("Ctrl+S"), tr("Save the result")}});
     followCamera();
     showSession();
 }
@@ -112,7 +111,8 @@ void LineScanWindow::createSteps()
         tr("Pixels are square if the camera takes one line while the object moves by one pixel."), QString());
     m_form = new InputsForm;
     m_describeStep->addWidget(m_form);
-    m_applyStep = m_steps->addStep(tr("Set the camera"), QString(), tr("Write the settings"));
+    m_applyStep = m_steps->addStep(tr("Set the camera"),
+        tr("This follows from the machine and from the limits of the camera."), tr("Write the settings"));
     m_plan = new PlanView;
     m_applyStep->addWidget(m_plan);
     m_undo = new QPushButton(ToolIcons::icon(ToolIcons::Kind::Undo), tr("Undo what was written"));
@@ -140,6 +140,7 @@ void LineScanWindow::connectParts()
     connect(m_undo, &QPushButton::clicked, &m_session, &TunerSession::undo);
     connect(m_measureStep, &StepCard::triggered, this, &LineScanWindow::measure);
     connect(m_correctStep, &StepCard::triggered, this, &LineScanWindow::correct);
+    connect(m_next, &QAction::triggered, this, &LineScanWindow::doNextStep);
     connect(m_save, &QAction::triggered, this, &LineScanWindow::save);
     connect(m_saveButton, &QPushButton::clicked, m_save, &QAction::trigger);
 }
@@ -154,6 +155,7 @@ void LineScanWindow::followCamera()
         m_tracker->setColumns({});
         m_number->clear();
         m_measuresAfterApply = false;
+        m_measureProblem.clear();
         restoreInputs();
     }
     if (canMeasure())
@@ -234,125 +236,16 @@ void LineScanWindow::showMeasurement()
     m_correctStep->setText(
         tr("The line rate, or the ratio of the encoder, is multiplied with width / height of the target."));
     if (!roundness) {
-        m_measureStep->setResult({});
+        m_measureStep->setResult(m_measureProblem, "error");
         m_correctStep->setResult({});
         return;
     }
     const bool isRound = std::abs(roundness->errorPercent()) < roundEnoughPercent;
-    QString text = translatedSentence(roundnessSentence(*roundness, m_session.camera()));
+    QString text = translatedSentence(m_session.measurementSentence());
     constexpr double smallTurn = 0.3; // Degrees.
     if (std::abs(roundness->turnDegrees) >= smallTurn)
         text += QLatin1Char(' ')
             + tr("The camera is turned by %1° against the movement.")
                   .arg(QLocale().toString(roundness->turnDegrees, 'f', 1));
     m_measureStep->setResult(text, isRound ? "good" : "warning");
-}
-
-int LineScanWindow::nextStep() const
-{
-    const LineScanResult &result = m_session.result();
-    if (!m_session.isRead() || !problemOf(result.inputs).isEmpty())
-        return 0;
-    if (!result.plan.isPossible() || !result.plan.settings.empty())
-        return 1;
-    const Roundness *const roundness = m_session.lastMeasurement();
-    if (!roundness)
-        return 2;
-    return std::abs(roundness->errorPercent()) < roundEnoughPercent ? 4 : 3;
-}
-
-void LineScanWindow::updateSteps()
-{
-    const bool isBusy = job().isRunning() || m_session.isBusy();
-    m_steps->setCurrent(nextStep());
-    m_steps->setBusy(isBusy || !canMeasure());
-    m_applyStep->setButtonAllowed(
-        m_session.result().plan.isPossible() && !m_session.result().plan.settings.empty());
-    m_correctStep->setButtonAllowed(m_session.lastMeasurement() != nullptr);
-    m_form->setEnabled(!isBusy);
-    m_undo->setEnabled(!isBusy && canMeasure());
-    const bool canSave
-        = !isBusy && canMeasure() && (m_session.isMeasured() || m_session.result().plan.objectPixel > 0);
-    m_save->setEnabled(canSave);
-    m_saveButton->setEnabled(canSave);
-}
-
-void LineScanWindow::apply()
-{
-    m_session.forgetMeasurements(); // They were made with other settings.
-    m_session.apply();
-}
-
-void LineScanWindow::onApplied(const QString &problem)
-{
-    const bool measures = std::exchange(m_measuresAfterApply, false);
-    m_applyStep->setResult(problem.isEmpty() ? tr("The camera has accepted the settings.") : problem,
-        problem.isEmpty() ? "good" : "error");
-    if (problem.isEmpty() && measures)
-        measure();
-}
-
-void LineScanWindow::measure()
-{
-    RoundnessOptions options;
-    options.columns = m_tracker->columns();
-    const auto roundness = std::make_shared<Roundness>();
-    const auto work = [options, roundness](const MeasureContext &context, const CameraRecord &) {
-        return measureRoundness(context, options, *roundness);
-    };
-    job().start(tr("Measuring the target"), MeasureJob::Changes::PutBack, work, this,
-        [this, roundness](const QString &problem) {
-            if (problem.isEmpty())
-                return m_session.addMeasurement(*roundness);
-            m_measureStep->setResult(problem, "error");
-            updateSteps();
-        });
-}
-
-void LineScanWindow::correct()
-{
-    const Roundness *const roundness = m_session.lastMeasurement();
-    if (!roundness)
-        return;
-    const auto inputs = correctedInputs(m_session.result().inputs, m_session.camera(), *roundness);
-    if (!inputs)
-        return;
-    m_form->setInputs(*inputs);
-    onInputsChanged();
-    if (m_session.result().plan.settings.empty())
-        return measure();
-    m_measuresAfterApply = true;
-    m_session.apply();
-}
-
-/// The settings of the camera are read now, because they are part of the result.
-void LineScanWindow::save()
-{
-    const auto record = std::make_shared<CameraRecord>();
-    const auto work = [record](const MeasureContext &, const CameraRecord &camera) {
-        *record = camera;
-        return Sentence();
-    };
-    job().start(tr("Reading the settings"), MeasureJob::Changes::PutBack, work, this,
-        [this, record](const QString &problem) {
-            if (problem.isEmpty())
-                saveWith(*record);
-            else
-                showProblem(problem);
-        });
-}
-
-void LineScanWindow::saveWith(const CameraRecord &record)
-{
-    const LineScanResult result = m_session.result();
-    const QImage image = canvas().grab().toImage();
-    saver().save(QStringLiteral("line-scan-") + QString::fromStdString(record.serialNumber),
-        {{QStringLiteral(".json"),
-             [result, record](
-                 const std::string &path) { return writeSidecar(path, resultJson(result, record)); }},
-            {QStringLiteral(".csv"),
-                [result](const std::string &path) { return writeLineScanCsv(path, result); }},
-            {QStringLiteral(".html"), [result, record, image](const std::string &path) {
-                 return lineScanReport(result, record, image).write(path);
-             }}});
 }

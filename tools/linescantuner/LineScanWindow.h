@@ -52,6 +52,8 @@ private:
     void showMeasurement();
     void updateSteps();
     int nextStep() const;
+    void showStep(int index);
+    void doNextStep();
 
     void apply();
     void onApplied(const QString &problem);
@@ -74,7 +76,9 @@ private:
     PlanView *m_plan = nullptr;
     QPushButton *m_undo = nullptr;
     QPushButton *m_saveButton = nullptr;
+    QAction *m_next = nullptr;
     QAction *m_save = nullptr;
     QString m_cameraId; ///< Whose inputs are shown.
+    QString m_measureProblem; ///< Why the last measurement has failed.
     bool m_measuresAfterApply = false; ///< A correction was written, and is to be checked.
 };

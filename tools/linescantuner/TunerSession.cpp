@@ -5,6 +5,7 @@
 #include "tools/kit/measure/linescan/PlanWriter.h"
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -20,6 +21,15 @@ const QStringList &planFeatures()
         QStringLiteral("BinningHorizontal"), QStringLiteral("DeviceLinkThroughputLimit"),
         QStringLiteral("DeviceLinkThroughputLimitMode")};
     return names;
+}
+
+/// Returns what the height of a round object in the picture depends on.
+std::pair<bool, double> lineSettings(const LineScanCamera &camera)
+{
+    if (camera.usesEncoder())
+        return {true, camera.presentRatio().linesPerPulse()};
+    const LineFeatureState *const rate = camera.find(LineFeature::LineRate);
+    return {false, rate ? rate->number() : 0};
 }
 
 } // namespace
@@ -134,8 +144,11 @@ void TunerSession::takeWritten(
     emit applied(translatedSentence(problem));
 }
 
-void TunerSession::addMeasurement(const Roundness &roundness)
+void TunerSession::addMeasurement(const Roundness &roundness, const LineScanCamera &camera)
 {
+    m_camera = m_measuredCamera = camera;
+    m_sentence = roundnessSentence(roundness, camera);
+    m_result.plan = PlanBuilder(m_result.inputs, m_camera).build();
     (m_result.before ? m_result.after : m_result.before) = roundness;
     emit changed();
 }
@@ -149,6 +162,8 @@ void TunerSession::forgetMeasurements()
 
 const Roundness *TunerSession::lastMeasurement() const
 {
+    if (lineSettings(m_camera) != lineSettings(m_measuredCamera))
+        return nullptr;
     if (m_result.after)
         return &*m_result.after;
     return m_result.before ? &*m_result.before : nullptr;

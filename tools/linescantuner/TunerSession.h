@@ -38,12 +38,16 @@ public:
 
     /// Stores a measurement. The first one since the camera was opened, or since forgetMeasurements(), is
     /// the one before the correction.
-    void addMeasurement(const Roundness &roundness);
+    /// @param camera The camera at the time of the measurement.
+    void addMeasurement(const Roundness &roundness, const LineScanCamera &camera);
     void forgetMeasurements();
     bool isMeasured() const { return m_result.before.has_value(); }
 
-    /// Returns the last measurement; null if there is none.
+    /// Returns the last measurement; null if there is none, or if the rate of the lines was changed since.
     const Roundness *lastMeasurement() const;
+
+    /// Returns what the last measurement means.
+    const Sentence &measurementSentence() const { return m_sentence; }
 
     /// Forgets everything, because another camera is opened.
     void reset();
@@ -70,6 +74,8 @@ private:
     QTimer m_readTimer; ///< Turns several changes into one read.
     LineScanCamera m_camera;
     LineScanResult m_result;
+    LineScanCamera m_measuredCamera; ///< At the last measurement.
+    Sentence m_sentence;
     std::vector<std::vector<PlannedSetting>> m_undo; ///< What was written, the last one at the end.
     bool m_isRead = false;
     bool m_isBusy = false;

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QVariant>
 
 DarkBox::DarkBox(ThermalSession &session, QWidget *parent)
     : QWidget(parent),

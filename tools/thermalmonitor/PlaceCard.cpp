@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace {
 

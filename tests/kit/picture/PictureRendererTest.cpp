@@ -172,3 +172,21 @@ TEST(PictureRendererDepthTest, missingPixelsAreZero)
 }
 
 } // namespace
+
+TEST(PictureRendererTest, correctionIsAppliedOnceAndAtThePlaceOfThePicture)
+{
+    TestPicture picture("Mono8", 8, 4);
+    picture.fill(8, 50);
+    const FlatField field{3, 2, 8, 4, 8, 0, std::vector<float>(32, 10), std::vector<float>(32, 1)};
+    DisplaySettings settings;
+    settings.correction = std::make_shared<Correction>(std::nullopt, field);
+    PictureRenderer renderer;
+    const auto shown = [&] { return render(renderer, picture.raw(), {1, 1, 4, 2}, {4, 2}, settings); };
+    EXPECT_EQ(shown(), Pixels(8, 0xff323232)); // The field does not cover the sensor's first pixels.
+    renderer.setPlace(3, 2);
+    EXPECT_EQ(shown(), Pixels(8, 0xff282828));
+    settings.curve.white = 0.5;
+    EXPECT_EQ(shown(), Pixels(8, 0xff505050));
+    settings.correction = nullptr;
+    EXPECT_EQ(shown(), Pixels(8, 0xff646464));
+}

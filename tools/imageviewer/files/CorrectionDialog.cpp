@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int fileColumnWidth = 320; // Pixels.
@@ -43,6 +45,8 @@ CorrectionDialog::CorrectionDialog(PictureCorrection &correction, QWidget *paren
     note->setWordWrap(true);
     layout->addWidget(note, 4, 0, 1, 3);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    // Return ends the input of a name and must not close the dialog.
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     layout->addWidget(buttons, 5, 0, 1, 3);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_isOn, &QCheckBox::clicked, this, &CorrectionDialog::apply);
@@ -102,4 +106,7 @@ void CorrectionDialog::showState()
     else
         showMessage(m_state, m_correction.active().correction ? tr("The pictures are corrected.") : QString(),
             "good");
+    // A dialog does not grow by itself when its texts need more lines.
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }

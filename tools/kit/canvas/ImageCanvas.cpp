@@ -181,6 +181,13 @@ void ImageCanvas::fit()
     finishViewChange();
 }
 
+void ImageCanvas::showPixel(const QPoint &pixel, double minScale)
+{
+    m_view.setScale(std::max(m_view.scale(), minScale), center());
+    m_view.centerOn(QPointF(pixel) + QPointF(0.5, 0.5));
+    finishViewChange();
+}
+
 void ImageCanvas::showActualSize()
 {
     m_view.setScale(1, center());

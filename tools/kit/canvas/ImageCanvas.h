@@ -87,6 +87,9 @@ public:
     void addOverlay(const CanvasOverlay *overlay);
     void removeOverlay(const CanvasOverlay *overlay);
 
+    /// Moves the pixel to the middle of the view, with at least this scale.
+    void showPixel(const QPoint &pixel, double minScale);
+
 public slots:
     void fit();
     void showActualSize();

@@ -35,5 +35,5 @@ struct DisplaySettings
     bool hasClipMarks = false; ///< Overexposed pixels are red, underexposed ones blue.
     /// Defect pixels, offset and gain are corrected in pictures that it fits; null: in none. Clip marks and
     /// the values that are written into enlarged pixels stay those of the camera.
-    std::shared_ptr<const Correction> correction;
+    std::shared_ptr<const Correction> correction = nullptr;
 };

@@ -17,6 +17,8 @@ public:
     FocusHistory history;
     double position = -40;
     double seconds = 0;
+    double leftBrightness = 0.4; // Of one region.
+    double brightness = 0.4; // Of the others.
 
     void to(double end, double speed = 20)
     {
@@ -36,6 +38,7 @@ public:
     FocusMeasurement picture() const
     {
         FocusMeasurement picture;
+        picture.isExposed = true;
         picture.grid = {3, 3};
         picture.width = picture.height = 300;
         for (std::uint32_t i = 0; i < 9; ++i) {
@@ -45,8 +48,10 @@ public:
             region.centerY = 50 + 100 * (i / 3);
             const double best = (region.centerX - 150) / 20; // -5, 0, 5
             region.sharpness = i == 8 ? 1e-6 : sharpnessAt(position - best);
+            region.brightness = i == 0 ? leftBrightness : brightness;
             picture.regions.push_back(region);
         }
+        picture.brightness = brightness;
         picture.sharpness = sharpnessAt(position);
         return picture;
     }
@@ -109,12 +114,28 @@ TEST(FocusHistory, OrderInTimeTellsTheTilt)
     EXPECT_FALSE(analysis.regions[8].peak);
 }
 
+TEST(FocusHistory, MovementIsToldFromLight)
+{
+    Turn turn;
+    turn.rest(2);
+    EXPECT_FALSE(turn.history.isMoving());
+    turn.leftBrightness = turn.brightness = 0.6; // More light.
+    turn.rest(0.5);
+    EXPECT_FALSE(turn.history.isMoving());
+    turn.rest(2);
+    turn.leftBrightness = 0.5;
+    turn.rest(0.5);
+    EXPECT_TRUE(turn.history.isMoving());
+    turn.rest(2);
+    EXPECT_FALSE(turn.history.isMoving());
+}
+
 TEST(FocusHistory, OtherGridAndUnusablePicturesDoNotMix)
 {
     Turn turn;
     turn.to(0);
     FocusMeasurement dark = turn.picture();
-    dark.problem = {"The picture is too dark.", {}};
+    dark.isExposed = false;
     turn.history.add(100, dark);
     EXPECT_LT(turn.history.samples().back().position, 100);
     FocusMeasurement other = turn.picture();

@@ -103,7 +103,10 @@ TEST(LineScanResult, tableAndFileContainTargetsAndSettings)
         "state,setting,before,value\nplanned,AcquisitionLineRateEnable,false,true\n\n"
         "measured,centerX,centerY,width,height,heightToWidth,turnDegrees,residual\n"
         "before,200.0,300.0,200.0,250.0,1.25,0.0,0.0\n");
-    const nlohmann::ordered_json json = resultJson(result, {});
+    CameraRecord camera;
+    camera.serialNumber = "L70881";
+    const nlohmann::ordered_json json = resultJson(result, camera);
+    EXPECT_EQ(json["camera"]["serialNumber"], "L70881");
     EXPECT_EQ(json["format"], "corvix-x-linescan");
     EXPECT_EQ(json["result"]["before"]["heightToWidth"], 1.25);
     EXPECT_EQ(json["result"]["inputs"]["speedMmPerS"], 140);

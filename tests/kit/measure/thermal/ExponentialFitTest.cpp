@@ -6,11 +6,11 @@
 
 namespace {
 
-std::vector<FitPoint> curve(double offset, double amplitude, double scale, double noise, unsigned seed)
+std::vector<CurvePoint> curve(double offset, double amplitude, double scale, double noise, unsigned seed)
 {
     std::mt19937 random(seed);
     std::normal_distribution<double> distribution;
-    std::vector<FitPoint> points;
+    std::vector<CurvePoint> points;
     for (int index = 0; index < 100; ++index) {
         const double x = 1000 + index;
         points.push_back({x, offset + amplitude * std::exp(-index / scale) + noise * distribution(random)});
@@ -52,7 +52,7 @@ TEST(ExponentialFitTest, refusesWhatIsNoCurve)
 {
     EXPECT_FALSE(fitExponential({{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}}, 1, 10));
     EXPECT_FALSE(fitExponential(curve(51, 0, 70, 0, 1), 2, 5000));
-    std::vector<FitPoint> line;
+    std::vector<CurvePoint> line;
     for (int index = 0; index < 100; ++index)
         line.push_back({double(index), 0.1 * index});
     const auto fit = fitExponential(line, 2, 2000);

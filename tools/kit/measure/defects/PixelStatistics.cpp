@@ -84,5 +84,7 @@ void PixelStatistics::finishBlocks(const std::vector<double> &sums, std::uint32_
             means.push_back(static_cast<float>(sums[means.size()] / (columns * lines)));
         }
     }
+    if (std::find(m_blockMeans.begin(), m_blockMeans.end(), means) == m_blockMeans.end())
+        ++m_differentImages;
     m_blockMeans.push_back(std::move(means));
 }

@@ -41,6 +41,9 @@ public:
         return m_samples;
     } ///< Values of each pixel; more than images if line scan.
 
+    /// Images without those that are equal to earlier ones: a sender that is too slow may repeat images.
+    std::size_t differentImages() const { return m_differentImages; }
+
     /// Returns the means of a line.
     const float *means(std::uint32_t y) const { return m_means.data() + lineStart(y); }
     /// Returns the sums of the squared deviations from the mean; 0 if all values of the pixel are equal.
@@ -64,6 +67,7 @@ private:
     std::vector<float> m_means;
     std::vector<float> m_squares;
     std::size_t m_samples = 0;
+    std::size_t m_differentImages = 0;
     std::uint32_t m_blockColumns = 0;
     std::uint32_t m_blockRows = 0;
     std::vector<std::vector<float>> m_blockMeans;

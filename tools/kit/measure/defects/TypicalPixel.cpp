@@ -31,5 +31,10 @@ double typicalVariance(const PixelStatistics &statistics, std::vector<float> &sq
 
 double chiSquaredParameter(const PixelStatistics &statistics)
 {
-    return 2.0 / (9 * static_cast<double>(statistics.samples() - 1));
+    constexpr double minDegrees = 7; // Images without any noise are equal.
+    constexpr double maxDegrees = 100;
+    const double samplesPerImage
+        = static_cast<double>(statistics.samples()) / static_cast<double>(statistics.images());
+    const double degrees = samplesPerImage * static_cast<double>(statistics.differentImages()) - 1;
+    return 2 / (9 * std::clamp(degrees, minDegrees, maxDegrees));
 }

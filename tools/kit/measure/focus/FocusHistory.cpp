@@ -12,6 +12,15 @@ constexpr double doneShare = 0.95;
 constexpr double passedShare = 0.85; // How far the sharpness has to fall before a peak counts as passed.
 constexpr double samePeak = 1.1; // A second turn through the same peak may find a higher value up to this.
 
+constexpr double movementWindow = 1; // Seconds.
+constexpr double movedRegion = 0.08; // Relative change of the brightness of a region; blur changes it less.
+constexpr double steadyPicture = 0.03;
+
+double relativeChange(double before, double after)
+{
+    return before > 0 ? std::abs(after / before - 1) : 0;
+}
+
 bool isSameView(const FocusMeasurement &a, const FocusMeasurement &b)
 {
     return a.grid == b.grid && a.width == b.width && a.height == b.height;
@@ -20,7 +29,7 @@ bool isSameView(const FocusMeasurement &a, const FocusMeasurement &b)
 
 void FocusHistory::add(double seconds, const FocusMeasurement &measurement)
 {
-    if (!measurement.isUsable())
+    if (!measurement.isExposed || (m_samples.empty() && !measurement.isUsable()))
         return;
     if (!m_samples.empty() && !isSameView(m_samples.back().measurement, measurement))
         clear();
@@ -104,6 +113,24 @@ FocusHistory::Advice FocusHistory::advice() const
     if (isFalling || (hasPassedPeak() && share() < passedShare))
         return Advice::TurnBack;
     return share() < doneShare ? Advice::KeepTurning : Advice::Turn;
+}
+
+bool FocusHistory::isMoving() const
+{
+    if (m_samples.empty())
+        return false;
+    const FocusMeasurement &now = m_samples.back().measurement;
+    const auto before = std::find_if(m_samples.rbegin(), m_samples.rend(), [this](const FocusSample &sample) {
+        return sample.position <= m_samples.back().position - movementWindow;
+    });
+    if (before == m_samples.rend()
+        || relativeChange(before->measurement.brightness, now.brightness) > steadyPicture)
+        return false;
+    for (std::size_t i = 0; i < now.regions.size(); ++i)
+        if (relativeChange(before->measurement.regions[i].brightness, now.regions[i].brightness)
+            > movedRegion)
+            return true;
+    return false;
 }
 
 std::vector<FocusSample> FocusHistory::lastTurn() const

@@ -24,7 +24,8 @@ public:
         Done ///< The sharpness was lower on both sides, and it is at its peak now.
     };
 
-    /// Adds a measurement; `seconds` never falls. A measurement that is not usable is left out. Another grid
+    /// Adds a measurement; `seconds` never falls. Pictures that are too dark or overexposed
+    /// are left out, and so are pictures without edges before the first one with edges. Another grid
     /// or size of the picture begins a new history.
     void add(double seconds, const FocusMeasurement &measurement);
 
@@ -49,6 +50,10 @@ public:
     double trend() const;
 
     Advice advice() const;
+
+    /// What the camera looks at has moved during the last second: the regions have become brighter and
+    /// darker, but the picture has not. The regions' shares then also change with what they contain.
+    bool isMoving() const;
 
     /// The sharpness was at its present peak, and lower on both sides of it.
     bool hasPassedPeak() const;

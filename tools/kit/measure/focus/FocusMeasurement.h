@@ -54,7 +54,9 @@ struct FocusMeasurement
     double brightness = 0; ///< As in RegionFocus.
     double clippedShare = 0;
     double noise = 0; ///< Standard deviation of the pixels' noise, relative to the brightness.
+    bool isExposed = false; ///< Neither too dark nor overexposed: the sharpness is right, even if it is low.
     Sentence problem; ///< Why the sharpness says nothing, and what to do; empty if it does.
 
+    /// The picture has edges, and its sharpness is right.
     bool isUsable() const { return problem.isEmpty() && !regions.empty(); }
 };

@@ -11,7 +11,7 @@ constexpr double minBrightness = 0.02; // Share of the range of the pixel values
 constexpr double maxClippedRegion = 0.2;
 constexpr double maxClippedPicture = 0.1;
 // A region has edges if the brightness of its blocks of 8 x 8 pixels or that of its pixels changes.
-constexpr double minCoarseEnergy = 1e-4; // Relative to the squared brightness.
+constexpr double minCoarseEnergy = 5e-5; // Relative to the squared brightness.
 constexpr double minEnergy = 2e-3;
 constexpr double darkestShare = 0.001; // Share of the blocks that may be darker than the black level.
 constexpr std::size_t minBlocksPerRegion = 2; // In each direction.
@@ -110,10 +110,12 @@ private:
             energy += std::max(0.0, block.across + block.down - 4 * noise * FocusBlock::pixels);
         }
         sums.addPlace(static_cast<double>(column) + 0.5, static_cast<double>(row) + 0.5, energy);
-        if (column > 0 && &sumsAt(column - 1, row) == &sums)
-            sums.addCoarseStep(brightness(column, row) - brightness(column - 1, row));
-        if (row > 0 && &sumsAt(column, row - 1) == &sums)
-            sums.addCoarseStep(brightness(column, row) - brightness(column, row - 1));
+        if (column > 1 && &sumsAt(column - 2, row) == &sums)
+            sums.addCoarseStep(
+                brightness(column - 2, row), brightness(column - 1, row), brightness(column, row));
+        if (row > 1 && &sumsAt(column, row - 2) == &sums)
+            sums.addCoarseStep(
+                brightness(column, row - 2), brightness(column, row - 1), brightness(column, row));
     }
 
     const FocusBlocks &m_blocks;
@@ -145,8 +147,9 @@ RegionFocus::State stateOf(const RegionSums &sums, const Scale &scale)
     if (sums.clippedShare() > maxClippedRegion)
         return RegionFocus::State::Clipped;
     const double brightness = sums.mean() - scale.blackLevel;
-    const bool hasEdges = sums.coarseEnergy() > minCoarseEnergy * brightness * brightness
-        || scale.sharpness(sums) > minEnergy + 0.2 * sums.noise() / sums.squaredBrightness(scale.blackLevel);
+    const bool hasEdges = sums.coarseEnergy() * sums.spread() > minCoarseEnergy * brightness * brightness
+        || scale.sharpness(sums) * sums.spread()
+            > minEnergy + 0.2 * sums.noise() / sums.squaredBrightness(scale.blackLevel);
     return hasEdges ? RegionFocus::State::Usable : RegionFocus::State::NoEdges;
 }
 
@@ -191,7 +194,7 @@ Sentence problemOf(const FocusMeasurement &picture)
     if (std::none_of(picture.regions.begin(), picture.regions.end(), isUsable))
         return {QT_TRANSLATE_NOOP("Sentence",
             "The picture has no edges. Point the camera at something with structure, for example a printed "
-            "page.")};
+            "page, or turn the lens if the picture is blurred.")};
     return {};
 }
 } // namespace
@@ -234,6 +237,7 @@ Sentence FocusMeter::measure(const RawImage &picture, const FocusOptions &option
     result.clippedShare = whole.clippedShare();
     if (const double squared = whole.squaredBrightness(scale.blackLevel); squared > 0)
         result.noise = std::sqrt(whole.noise() / squared);
+    result.isExposed = result.brightness >= minBrightness && result.clippedShare <= maxClippedPicture;
     result.problem = problemOf(result);
     return {};
 }

@@ -50,7 +50,7 @@ std::vector<FocusSample> usableSamples(const std::vector<FocusSample> &samples)
 {
     std::vector<FocusSample> usable;
     std::copy_if(samples.begin(), samples.end(), std::back_inserter(usable),
-        [](const FocusSample &sample) { return sample.measurement.isUsable(); });
+        [](const FocusSample &sample) { return sample.measurement.isExposed; });
     return usable;
 }
 } // namespace

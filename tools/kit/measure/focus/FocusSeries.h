@@ -34,5 +34,5 @@ struct FocusAnalysis
 };
 
 /// Finds the peaks of the whole picture and of each region, and fits the surface of the focus to them.
-/// Samples that are not usable are left out; all have the same grid.
+/// Samples that are too dark or overexposed are left out; all have the same grid.
 FocusAnalysis analyseFocus(const std::vector<FocusSample> &samples);

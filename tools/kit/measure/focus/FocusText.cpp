@@ -77,6 +77,14 @@ Sentence adviceSentence(FocusHistory::Advice advice)
     return {};
 }
 
+Sentence movementSentence()
+{
+    return {QT_TRANSLATE_NOOP("Sentence",
+        "The scene moves, so the regions' shares also change with what they show. Let it stand still to "
+        "compare "
+        "the regions.")};
+}
+
 Sentence bestPositionSentence(double best, double position, const FocusAxis &axis)
 {
     const double distance = axis.nearest(best) - position;

@@ -10,6 +10,9 @@
 /// Returns what the person at the lens should do; empty for FocusHistory::Advice::None.
 Sentence adviceSentence(FocusHistory::Advice advice);
 
+/// The sentence for FocusHistory::isMoving().
+Sentence movementSentence();
+
 /// Returns where the picture is sharp as a whole, and which way the lens has to go from where it is.
 /// @param position Where the lens is now.
 Sentence bestPositionSentence(double best, double position, const FocusAxis &axis);

@@ -23,8 +23,9 @@ void RegionSums::addBlock(std::size_t plane, const FocusBlock &block, double noi
     m_clipped += block.clipped;
 }
 
-void RegionSums::addCoarseStep(double difference)
+void RegionSums::addCoarseStep(double before, double center, double after)
 {
+    const double difference = before - 2 * center + after;
     m_coarse += difference * difference;
     ++m_coarseCount;
 }
@@ -32,6 +33,8 @@ void RegionSums::addCoarseStep(double difference)
 void RegionSums::addPlace(double column, double row, double energy)
 {
     m_weight += energy;
+    const auto weakest = std::min_element(m_strongest.begin(), m_strongest.end());
+    *weakest = std::max(*weakest, energy);
     m_weightedColumn += energy * column;
     m_weightedRow += energy * row;
 }
@@ -99,7 +102,7 @@ double RegionSums::noise() const
 double RegionSums::coarseEnergy() const
 {
     const double planes = static_cast<double>(std::max<std::size_t>(1, m_planeCount));
-    const double noise = 2 * this->noise() / (planes * planes * FocusBlock::pixels);
+    const double noise = 6 * this->noise() / (planes * planes * FocusBlock::pixels);
     return std::max(0.0, ratio(m_coarse, m_coarseCount) - noise);
 }
 
@@ -109,6 +112,12 @@ double RegionSums::clippedShare() const
     for (std::size_t i = 0; i < m_planeCount; ++i)
         pixels += m_planes.at(i).pixels;
     return ratio(m_clipped, pixels);
+}
+
+double RegionSums::spread() const
+{
+    const double strongest = m_strongest[0] + m_strongest[1] + m_strongest[2];
+    return m_weight > 0 ? 1 - strongest / m_weight : 0;
 }
 
 RegionSums::Place RegionSums::place(const Place &usual) const

@@ -15,8 +15,9 @@ public:
     /// Adds a block. @param noise Variance of the noise of its pixels.
     void addBlock(std::size_t plane, const FocusBlock &block, double noise);
 
-    /// Adds the difference between the brightness of two neighbouring blocks.
-    void addCoarseStep(double difference);
+    /// Adds how much the brightness of a block deviates from the line through its two neighbours: an even
+    /// shading has no effect.
+    void addCoarseStep(double before, double center, double after);
 
     /// Adds the place of a block, in blocks, with the energy of its edges.
     void addPlace(double column, double row, double energy);
@@ -36,10 +37,14 @@ public:
     /// Returns the mean variance of the noise of a pixel, summed over the colours.
     double noise() const;
 
-    /// Returns the mean of the squared differences between neighbouring blocks, without the noise's part.
+    /// Returns the mean of the squared coarse steps, without the noise's part.
     double coarseEnergy() const;
 
     double clippedShare() const;
+
+    /// Returns the share of the edges' energy that lies outside the strongest blocks: near 0 if a defect
+    /// pixel is all there is.
+    double spread() const;
 
     struct Place
     {
@@ -70,6 +75,7 @@ private:
     double m_coarse = 0;
     double m_coarseCount = 0;
     double m_weight = 0;
+    std::array<double, 3> m_strongest{}; // Energies of blocks; a pixel is a neighbour in up to three.
     double m_weightedColumn = 0;
     double m_weightedRow = 0;
 };

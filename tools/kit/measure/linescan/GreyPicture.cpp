@@ -35,6 +35,8 @@ GreyPicture greyPicture(ImageConverter &converter, const RawImage &picture, cons
 {
     GreyPicture grey;
     grey.scale = scaleFor(picture, region);
+    if (const PixelFormat *const format = findPixelFormat(picture.pixelFormat))
+        grey.fullScale = std::ldexp(1.0F, std::min<int>(format->depth, 16)) - 1;
     grey.width = static_cast<int>(region.width) / grey.scale;
     grey.height = static_cast<int>(region.height) / grey.scale;
     const unsigned channels = ImageConverter::wordChannels(picture.pixelFormat);

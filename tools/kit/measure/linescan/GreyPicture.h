@@ -14,6 +14,7 @@ struct GreyPicture
     int width = 0;
     int height = 0;
     int scale = 1; ///< Pixels of the camera's picture per pixel in each direction.
+    float fullScale = 255; ///< The largest value that the format can have.
     std::vector<float> values; ///< Means of the camera's values.
 
     float at(int x, int y) const

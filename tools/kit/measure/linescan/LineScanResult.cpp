@@ -60,8 +60,8 @@ nlohmann::ordered_json toJson(const Roundness &roundness)
 
 nlohmann::ordered_json resultJson(const LineScanResult &result, const CameraRecord &camera)
 {
-    nlohmann::ordered_json json{{"format", "corvix-x-linescan"}, {"version", 1}, {"created", utcNow()},
-        {"camera", cameraJson(camera)}};
+    nlohmann::ordered_json json{{"format", "corvix-x-linescan"}, {"version", 1}, {"created", utcNow()}};
+    json.update(cameraJson(camera));
     json["result"] = {{"inputs", toJson(result.inputs)}, {"plan", toJson(result.plan)},
         {"written", settingsJson(result.written)}};
     if (result.before)

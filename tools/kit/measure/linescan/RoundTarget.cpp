@@ -10,7 +10,12 @@ namespace {
 
 constexpr double degreesPerRadian = 180 / 3.14159265358979323846;
 constexpr float minContrast = 0.1F; // Difference of dark and bright, as a share of bright.
+constexpr float minRange = 0.03F; // The same as a share of the full scale; noise in the dark is smaller.
 constexpr std::size_t maxParts = 200; // Of a picture full of texture, only the largest parts are tried.
+
+// Where the picture is separated, from dark to bright: in the middle, and nearer to bright, because a thin
+// dark ring that is not sharp does not become quite dark.
+constexpr float thresholdShares[] = {0.5F, 0.72F};
 
 // A part is round if its border follows the ellipse.
 constexpr double minUsedShare = 0.7;
@@ -125,6 +130,39 @@ bool containsColumn(const RoundTarget &target, const std::optional<double> &colu
     return !column || std::abs(*column - target.ellipse.centerX) <= target.ellipse.halfWidth;
 }
 
+/// A target has to be larger by this factor to be another one.
+constexpr double otherSize = 1.05;
+
+bool isLarger(const RoundTarget &target, const std::optional<RoundTarget> &other)
+{
+    return !other || target.ellipse.halfWidth > otherSize * other->ellipse.halfWidth;
+}
+
+/// Returns the largest target at one level; the sentence is empty if there is not even an uneven one.
+TargetSearch findAt(const GreyPicture &grey, float level, std::uint32_t left, const TargetColumns &columns)
+{
+    TargetSearch search;
+    std::vector<PicturePart> parts = pictureParts(grey, level, RoundTargetFinder::minSize);
+    parts.resize(std::min(parts.size(), maxParts));
+    for (const PicturePart &part : parts) {
+        if (part.touchesBorderOf(grey))
+            continue;
+        const std::optional<EllipseFit> fit = fitEllipse(borderPoints(grey, part, level));
+        const Shape shape = fit ? shapeOf(*fit) : Shape::Other;
+        if (shape == Shape::Uneven)
+            search.problem = {QT_TRANSLATE_NOOP("Sentence",
+                "The border of the round target is uneven. Check whether the object moves evenly, whether "
+                "lines are lost, and whether the target is sharp and free of other shapes.")};
+        if (shape != Shape::Round)
+            continue;
+        const RoundTarget target{
+            scaled(fit->ellipse, grey.scale, left), fit->residual * grey.scale, part.isBright};
+        if (containsColumn(target, columns.inside))
+            return {target, {}};
+    }
+    return search;
+}
+
 } // namespace
 
 double RoundTarget::turnDegrees() const
@@ -135,7 +173,7 @@ double RoundTarget::turnDegrees() const
 TargetSearch RoundTargetFinder::find(const RawImage &picture, const TargetColumns &columns)
 {
     const Region region = searchedRegion(picture, columns);
-    Sentence noTarget{
+    const Sentence noTarget{
         QT_TRANSLATE_NOOP("Sentence",
             "There is no complete round target in the picture of %1 lines. Show the camera "
             "a dark or bright disc or ring, or make the picture higher (Height)."),
@@ -144,29 +182,20 @@ TargetSearch RoundTargetFinder::find(const RawImage &picture, const TargetColumn
         return {std::nullopt, noTarget};
     const GreyPicture grey = greyPicture(m_converter, picture, region);
     const Threshold threshold = otsuThreshold(grey.values);
-    if (threshold.brightMean - threshold.darkMean < minContrast * threshold.brightMean)
+    const float difference = threshold.brightMean - threshold.darkMean;
+    if (difference < minContrast * threshold.brightMean || difference < minRange * grey.fullScale)
         return {std::nullopt,
             {QT_TRANSLATE_NOOP("Sentence",
                 "The picture has too little contrast. Take off the lens cap, add light, and show the camera "
                 "a dark or bright disc or ring.")}};
-    std::vector<PicturePart> parts = pictureParts(grey, threshold.value, minSize);
-    if (parts.size() > maxParts)
-        parts.resize(maxParts);
-    for (const PicturePart &part : parts) {
-        if (part.touchesBorderOf(grey))
-            continue;
-        const std::optional<EllipseFit> fit = fitEllipse(borderPoints(grey, part, threshold.value));
-        const Shape shape = fit ? shapeOf(*fit) : Shape::Other;
-        if (shape == Shape::Uneven)
-            noTarget = {QT_TRANSLATE_NOOP("Sentence",
-                "The border of the round target is uneven. Check whether the object moves evenly, whether "
-                "lines are lost, and whether the target is sharp and free of other shapes.")};
-        if (shape != Shape::Round)
-            continue;
-        const RoundTarget target{
-            scaled(fit->ellipse, grey.scale, region.x), fit->residual * grey.scale, part.isBright};
-        if (containsColumn(target, columns.inside))
-            return {target, {}};
+    TargetSearch best{std::nullopt, noTarget};
+    for (const float share : thresholdShares) {
+        const float level = threshold.darkMean + share * (threshold.brightMean - threshold.darkMean);
+        TargetSearch search = findAt(grey, level, region.x, columns);
+        if (search.target && isLarger(*search.target, best.target))
+            best = search;
+        else if (!best.target && !search.problem.isEmpty())
+            best.problem = search.problem;
     }
-    return {std::nullopt, noTarget};
+    return best;
 }

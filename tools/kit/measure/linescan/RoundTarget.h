@@ -40,7 +40,7 @@ struct TargetSearch
     Sentence problem; ///< Why there is none.
 };
 
-/// Finds the largest dark or bright disc or ring: separates dark from bright by a threshold, takes connected
+/// Finds the largest dark or bright disc or ring: separates dark from bright by thresholds, takes connected
 /// parts that are not cut off by the picture, and fits an ellipse to the outer border of each, which is
 /// placed between the pixels where the brightness crosses the threshold. Used by one thread.
 class RoundTargetFinder

@@ -69,7 +69,7 @@ std::optional<DarkDoubling> DarkSeries::doubling() const
     constexpr double largestError = 0.25;
     const std::vector<HistoryPoint> levels = thinned(m_levels.points(), mostPoints);
     const std::vector<HistoryPoint> temperatures = thinned(m_temperatures.points(), mostPoints);
-    std::vector<FitPoint> points;
+    std::vector<CurvePoint> points;
     for (std::size_t index = 0; index < levels.size(); ++index)
         points.push_back(
             {-temperatures[index].mean, levels[index].mean, static_cast<double>(levels[index].count)});

@@ -19,29 +19,29 @@ struct LinearFit
 struct NormalisedPoints
 {
     double origin = 0;
-    std::vector<FitPoint> points;
+    std::vector<CurvePoint> points;
 };
 
-NormalisedPoints normalised(const std::vector<FitPoint> &points)
+NormalisedPoints normalised(const std::vector<CurvePoint> &points)
 {
     NormalisedPoints result{std::numeric_limits<double>::max(), points};
     double weight = 0;
-    for (const FitPoint &point : points) {
+    for (const CurvePoint &point : points) {
         result.origin = std::min(result.origin, point.x);
         weight += point.weight / static_cast<double>(points.size());
     }
-    for (FitPoint &point : result.points) {
+    for (CurvePoint &point : result.points) {
         point.x -= result.origin;
         point.weight /= weight;
     }
     return result;
 }
 
-LinearFit fitLinear(const std::vector<FitPoint> &points, double scale)
+LinearFit fitLinear(const std::vector<CurvePoint> &points, double scale)
 {
     double sumE = 0;
     double sumY = 0;
-    for (const FitPoint &point : points) {
+    for (const CurvePoint &point : points) {
         sumE += point.weight * std::exp(-point.x / scale);
         sumY += point.weight * point.y;
     }
@@ -51,7 +51,7 @@ LinearFit fitLinear(const std::vector<FitPoint> &points, double scale)
     double ee = 0;
     double ey = 0;
     double yy = 0;
-    for (const FitPoint &point : points) {
+    for (const CurvePoint &point : points) {
         const double e = std::exp(-point.x / scale) - meanE;
         const double y = point.y - meanY;
         ee += point.weight * e * e;
@@ -65,7 +65,7 @@ LinearFit fitLinear(const std::vector<FitPoint> &points, double scale)
 }
 
 /// Returns the logarithm of the best scale.
-double bestLogScale(const std::vector<FitPoint> &points, double minimum, double maximum)
+double bestLogScale(const std::vector<CurvePoint> &points, double minimum, double maximum)
 {
     constexpr int gridSteps = 24;
     constexpr int goldenSteps = 30;
@@ -120,12 +120,12 @@ double neighbourCorrelation(const std::vector<double> &residuals)
 }
 
 /// Fills in the uncertainties: the diagonal of the inverse normal matrix of offset, amplitude and log scale.
-void addErrors(const std::vector<FitPoint> &points, ExponentialFit &fit)
+void addErrors(const std::vector<CurvePoint> &points, ExponentialFit &fit)
 {
     std::array<double, 6> n{}; // The upper triangle of the normal matrix, line by line.
     std::vector<double> residuals;
     double squares = 0;
-    for (const FitPoint &point : points) {
+    for (const CurvePoint &point : points) {
         const double e = std::exp(-point.x / fit.scale);
         const double slope = fit.amplitude * e * point.x / fit.scale;
         const std::array<double, 6> products{1, e, slope, e * e, e * slope, slope * slope};
@@ -148,14 +148,14 @@ void addErrors(const std::vector<FitPoint> &points, ExponentialFit &fit)
         = determinant > 0 ? std::sqrt(inflated * (n[0] * n[3] - n[1] * n[1]) / determinant) : infinite;
 }
 
-bool isConstant(const std::vector<FitPoint> &points)
+bool isConstant(const std::vector<CurvePoint> &points)
 {
-    const FitPoint &first = points.front();
-    const auto isSame = [&first](double FitPoint::*member) {
-        return [&first, member](const FitPoint &point) { return point.*member == first.*member; };
+    const CurvePoint &first = points.front();
+    const auto isSame = [&first](double CurvePoint::*member) {
+        return [&first, member](const CurvePoint &point) { return point.*member == first.*member; };
     };
-    return std::all_of(points.begin(), points.end(), isSame(&FitPoint::x))
-        || std::all_of(points.begin(), points.end(), isSame(&FitPoint::y));
+    return std::all_of(points.begin(), points.end(), isSame(&CurvePoint::x))
+        || std::all_of(points.begin(), points.end(), isSame(&CurvePoint::y));
 }
 
 } // namespace
@@ -166,7 +166,7 @@ double ExponentialFit::at(double x) const
 }
 
 std::optional<ExponentialFit> fitExponential(
-    const std::vector<FitPoint> &points, double minScale, double maxScale)
+    const std::vector<CurvePoint> &points, double minScale, double maxScale)
 {
     constexpr std::size_t fewestPoints = 6;
     if (points.size() < fewestPoints || isConstant(points))

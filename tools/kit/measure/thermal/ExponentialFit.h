@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-struct FitPoint
+struct CurvePoint
 {
     double x = 0;
     double y = 0;
@@ -37,4 +37,4 @@ struct ExponentialFit
 ///
 /// Returns no value for fewer than six points, or if all x or all y are the same.
 std::optional<ExponentialFit> fitExponential(
-    const std::vector<FitPoint> &points, double minScale, double maxScale);
+    const std::vector<CurvePoint> &points, double minScale, double maxScale);

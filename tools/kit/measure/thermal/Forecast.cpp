@@ -12,9 +12,9 @@ constexpr std::size_t fewestPoints = 15;
 constexpr double tolerance = 0.02; // Kelvin; no camera follows the curve exactly.
 constexpr double secondsPerMinute = 60;
 
-std::vector<FitPoint> fitPoints(const std::vector<HistoryPoint> &points)
+std::vector<CurvePoint> fitPoints(const std::vector<HistoryPoint> &points)
 {
-    std::vector<FitPoint> result;
+    std::vector<CurvePoint> result;
     for (const HistoryPoint &point : points)
         result.push_back({point.middle(), point.mean, static_cast<double>(point.count)});
     return result;
@@ -94,7 +94,7 @@ std::optional<Forecast> forecast(const BoundedHistory &history)
         if (all.end() - begin < static_cast<std::ptrdiff_t>(fewestPoints))
             return std::nullopt;
         const std::vector<HistoryPoint> few = thinned({begin, all.end()}, mostPoints);
-        const std::vector<FitPoint> points = fitPoints(few);
+        const std::vector<CurvePoint> points = fitPoints(few);
         const auto fit = fitExponential(points, shortestTimeConstant, mostTimeConstants * span);
         if (!fit || !describes(*fit, noiseOf(few)) || !describesNewest(*fit, newest))
             continue;
