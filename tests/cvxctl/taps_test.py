@@ -39,7 +39,7 @@ class TapsTest(CvxctlCase):
 
     def test_what_is_wrong_is_named(self):
         _, messages = self.run_failing(1, "taps", "3001")
-        self.assertIn("The scene moves", messages)
+        self.assertIn("Show an even surface", messages)  # The chart moves, and has edges at the borders.
         _, messages = self.run_failing(1, "taps", "1001", *SURFACE)
         self.assertIn("DeviceTapGeometry", messages)
         _, messages = self.run_failing(1, "taps", "1001", *SURFACE, "--layout", "2X_1Y", "--balance")

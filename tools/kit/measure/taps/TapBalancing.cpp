@@ -176,7 +176,7 @@ SensorPlace readSensorPlace(Device &device)
 {
     const auto integer = [&device](const char *name, std::uint32_t otherwise) {
         std::int64_t value = 0;
-        const bool isKnown = device.ReadInteger(name, value) && value > 0 && value < 1'000'000;
+        const bool isKnown = device.ReadInteger(name, value) && value > 0 && value < 1000000;
         return isKnown ? static_cast<std::uint32_t>(value) : otherwise;
     };
     const auto boolean = [&device](const char *name) {
