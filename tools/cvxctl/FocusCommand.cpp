@@ -113,7 +113,7 @@ std::string focusNumber(double value, int decimals)
 std::string focusCell(const FocusResult &result, std::size_t index)
 {
     const RegionFocus &region = result.last.regions[index];
-    const bool hasPeaks = result.analysis && index < result.analysis->regions.size();
+    const bool hasPeaks = result.analysis && result.analysis->best && index < result.analysis->regions.size();
     if (hasPeaks && result.analysis->regions[index].peak)
         return focusNumber(result.analysis->regions[index].peak->position, result.axis ? 1 : 2);
     if (region.state == RegionFocus::State::TooDark)
@@ -169,7 +169,7 @@ void printFocus(const FocusResult &result)
         const double best = *result.analysis->best;
         std::printf("%s\n", toEnglish(bestPositionSentence(best, *result.position, *result.axis)).c_str());
     }
-    if (result.analysis && result.analysis->best)
+    if (result.analysis)
         printAnalysis(result);
 }
 
