@@ -51,6 +51,10 @@ ThermalSession::ThermalSession(FeatureClient &client, LiveStream &stream, QObjec
     connect(&m_timer, &QTimer::timeout, this, &ThermalSession::poll);
     connect(&m_connection, &CameraConnection::stateChanged, this, &ThermalSession::followConnection);
     connect(&m_client, &FeatureClient::stateChanged, this, &ThermalSession::followFeature);
+    connect(&m_client, &FeatureClient::nodesLoaded, this, [this] {
+        for (const QString &name : darkSettings())
+            followFeature(name);
+    });
     followConnection();
 }
 

@@ -95,6 +95,23 @@ TEST(ForecastAfterChange, startsAnew)
     EXPECT_GE(found->from, 3590);
 }
 
+TEST(ForecastAfterChange, doesNotBelieveABendInTheFirstReadings)
+{
+    // The readings begin while the camera still rests: until the rest is left out, there is no forecast.
+    for (const double timeConstant : {60.0, 180.0, 300.0}) {
+        TemperatureModel rest{32, 32, timeConstant, 0, 0, 1};
+        TemperatureModel work{32, 51, timeConstant, 0, 0, 1};
+        PlaceMonitor monitor("Sensor");
+        rest.feed(monitor, 0, 1, 0.2);
+        for (double second = 1; second < 60; second += 0.2) {
+            work.feed(monitor, second, second + 0.1, 0.2, 0.9);
+            const auto found = forecast(monitor.history());
+            EXPECT_NEAR(found ? found->end : 51, 51, 0.5) << timeConstant << " at " << second;
+        }
+        EXPECT_TRUE(forecast(monitor.history()));
+    }
+}
+
 TEST(ForecastToSteady, countsUntilTheLimit)
 {
     const Forecast fast{51, 0.1, 150, 1, -19, 0};

@@ -9,7 +9,6 @@
 namespace {
 
 constexpr std::size_t fewestPoints = 15;
-constexpr double tolerance = 0.02; // Kelvin; no camera follows the curve exactly.
 constexpr double secondsPerMinute = 60;
 
 std::vector<CurvePoint> fitPoints(const std::vector<HistoryPoint> &points)
@@ -35,15 +34,24 @@ double noiseOf(const std::vector<HistoryPoint> &points)
     return std::hypot(std::sqrt(variance), roundingStep(points) / std::sqrt(12.0));
 }
 
+/// Returns by how many kelvin readings may differ from the curve apart from noise, because no camera follows
+/// the curve exactly.
+double toleranceOf(const ExponentialFit &fit, const std::vector<HistoryPoint> &points)
+{
+    constexpr double largest = 0.02;
+    constexpr double share = 0.0005; // Of the change, so a bend in a few early readings is not accepted.
+    return std::min(largest, share * std::abs(fit.at(points.back().last) - fit.at(points.front().first)));
+}
+
 /// Returns true if the curve describes all points.
-bool describes(const ExponentialFit &fit, double noise)
+bool describes(const ExponentialFit &fit, double noise, double tolerance)
 {
     constexpr double factor = 1.5;
     return fit.residual <= factor * noise + tolerance;
 }
 
 /// Returns true if the newest points do not leave the curve, however short their time is.
-bool describesNewest(const ExponentialFit &fit, const std::vector<HistoryPoint> &newest)
+bool describesNewest(const ExponentialFit &fit, const std::vector<HistoryPoint> &newest, double tolerance)
 {
     constexpr double significant = 3;
     const double count = static_cast<double>(newest.size());
@@ -53,11 +61,13 @@ bool describesNewest(const ExponentialFit &fit, const std::vector<HistoryPoint> 
     return std::abs(sum) / count < significant * noiseOf(newest) / std::sqrt(count) + tolerance;
 }
 
-bool isDetermined(const ExponentialFit &fit)
+bool isDetermined(const ExponentialFit &fit, double span)
 {
+    constexpr double shortestSpan = 0.1; // Of the time constant.
     constexpr double largestScaleError = 0.4;
     constexpr double largestEndError = 0.5;
-    return fit.isScaleInside && fit.scaleError < largestScaleError && fit.offsetError < largestEndError;
+    return fit.isScaleInside && fit.scaleError < largestScaleError && fit.offsetError < largestEndError
+        && span > shortestSpan * fit.scale;
 }
 
 } // namespace
@@ -96,9 +106,12 @@ std::optional<Forecast> forecast(const BoundedHistory &history)
         const std::vector<HistoryPoint> few = thinned({begin, all.end()}, mostPoints);
         const std::vector<CurvePoint> points = fitPoints(few);
         const auto fit = fitExponential(points, shortestTimeConstant, mostTimeConstants * span);
-        if (!fit || !describes(*fit, noiseOf(few)) || !describesNewest(*fit, newest))
+        if (!fit)
             continue;
-        if (!isDetermined(*fit))
+        const double tolerance = toleranceOf(*fit, few);
+        if (!describes(*fit, noiseOf(few), tolerance) || !describesNewest(*fit, newest, tolerance))
+            continue;
+        if (!isDetermined(*fit, span))
             return std::nullopt;
         return Forecast{fit->offset, fit->offsetError, fit->scale, fit->scaleError * fit->scale,
             fit->amplitude, fit->origin};

@@ -28,6 +28,7 @@ constexpr double steadyPerMinute = 0.1;
 /// Fits the curve to the readings; see fitExponential(). Uses the longest time up to now in which all
 /// readings follow one curve, so a change of the camera's work starts a new forecast.
 ///
-/// Returns no value unless the data determine the final value: the time constant lies within the limits of
-/// the search, its uncertainty is below 40 %, and twice the uncertainty of the final value is below 1 K.
+/// Returns no value unless the data determine the final value: the readings last for at least a tenth of the
+/// time constant, which lies within the limits of the search, its uncertainty is below 40 %, and twice the
+/// uncertainty of the final value is below 1 K.
 std::optional<Forecast> forecast(const BoundedHistory &history);
