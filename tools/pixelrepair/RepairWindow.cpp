@@ -157,6 +157,7 @@ void RepairWindow::showResult()
     m_panel->result().show(*m_result);
     m_overlay->setMap(m_result->map);
     m_save->setEnabled(true);
+    followJob();
     applyRepair();
 }
 
