@@ -94,7 +94,7 @@ Json thermalDocument(const CameraRecord &camera, const ThermalMonitor &monitor)
     json["format"] = "corvix-x-temperatures";
     json["version"] = 1;
     json["created"] = utcNow();
-    json["camera"] = cameraJson(camera);
+    json.update(cameraJson(camera));
     json["start"] = monitor.start();
     Json &result = json["result"];
     result["places"] = Json::array();
