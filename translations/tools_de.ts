@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name></name>
+    <message>
+        <source>Flat Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Non-uniformity by EMVA 1288 release 4.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of the columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A picture as the camera sends it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same picture, corrected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The gains: the brighter, the higher</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AssistantWindow</name>
     <message>
         <source>The result was saved to &quot;%1&quot;.</source>
@@ -1730,6 +1757,240 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     </message>
 </context>
 <context>
+    <name>FlatFieldPanel</name>
+    <message>
+        <source>Shading before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shading after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the exposure time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the picture corrected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cover the lens completely. The images show the offset of each pixel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take dark images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bright images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncover the lens, and point the camera at an evenly lit surface, out of focus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take bright images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Image Viewer and cvxctl apply the file to every picture of this camera.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the correction…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark images, and bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the exposure time so that the bright images have about 70 % of the range, and puts it back afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct every pixel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the shading only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is corrected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shading only: the gain changes smoothly over the picture, which adds no noise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the mean brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raise to the brightest place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brightness after the correction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raised to the brightest place, no gain is below 1: what is clipped stays white.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Non-uniformity before and after the correction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DSNU: differences of the pixels in the dark. PRNU: differences of their sensitivity. By EMVA 1288 release 4.0, without the temporal noise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of the columns, before and after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation type="unfinished">Spalte</translation>
+    </message>
+    <message>
+        <source>% of the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dark images are taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved as &quot;%1&quot;.</source>
+        <translation type="unfinished">Gespeichert als „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldTexts</name>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>%1 DN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished">unbekannt</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… without shading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… in electrons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is even: its shading is only %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The correction reduces the shading from %1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; gains from %2 to %3; bright images at %4 of the range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The numbers after the correction are those of %n other image(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The gain of %n pixel(s) was limited.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldWindow</name>
+    <message>
+        <source>Flat Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera does not say its pixel format (PixelFormat), so its values cannot be corrected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save the correction…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taking the dark images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taking the bright images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>flat field</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FocusPanel</name>
     <message>
         <source>Share of the peak</source>
@@ -1806,10 +2067,6 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <message>
         <source>of the peak. Sharpness %1, peak %2.</source>
         <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Peak</source>
@@ -1919,6 +2176,14 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     </message>
     <message>
         <source>overexposed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>Shares of their peaks at the best position: %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2369,6 +2634,25 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <message>
         <source>%1 mm</source>
         <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
+    <name>LevelBar</name>
+    <message>
+        <source>Brightness of the live picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the range; 50 to 80 % is good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % of the values are clipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation type="unfinished">Es ist kein Bild vorhanden.</translation>
     </message>
 </context>
 <context>
@@ -4520,6 +4804,10 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The scene moves, so the regions&apos; shares also change with what they show. Let it stand still to compare the regions.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SettingTexts</name>
@@ -6185,7 +6473,7 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
         <translation>Mittlere Maustaste oder Leertaste und ziehen</translation>
     </message>
     <message>
-        <source>C&amp;orrections…</source>
+        <source>&amp;Corrections…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -124,6 +124,30 @@
     </message>
 </context>
 <context>
+    <name>FlatFieldTexts</name>
+    <message numerus="yes">
+        <source>The numbers after the correction are those of %n other image(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The gain of %n pixel(s) was limited.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>HexView</name>
     <message numerus="yes">
         <source>The last %n byte(s) of the clipboard did not fit.</source>
