@@ -150,7 +150,7 @@ void CameraHostServer::handle(const WriteValueRequest &request)
     NodeValueReply written;
     if (const auto failure = m_camera.write(request.name, request.value, written.remembered))
         return fail(*failure);
-    m_watch.setPutBack(m_camera.hasOriginals());
+    m_watch.setPutBack(m_camera.mayPutBack());
     reply(written);
     notifyChanged(request.name);
 }
@@ -159,14 +159,14 @@ void CameraHostServer::handle(const BeginTemporaryChangesRequest &request)
 {
     if (const auto failure = m_camera.beginTemporaryChanges(request))
         return fail(*failure);
-    m_watch.setPutBack(m_camera.hasOriginals());
+    m_watch.setPutBack(m_camera.mayPutBack());
     reply(TemporaryChangesBegunReply());
 }
 
 void CameraHostServer::handle(const EndTemporaryChangesRequest &request)
 {
     OriginalValues::PutBack ended = m_camera.endTemporaryChanges(request);
-    m_watch.setPutBack(m_camera.hasOriginals());
+    m_watch.setPutBack(m_camera.mayPutBack());
     reply(TemporaryChangesEndedReply{std::move(ended.refused), std::move(ended.reasons)});
     for (const std::string &name : ended.written)
         notifyChanged(name);

@@ -82,13 +82,11 @@ std::optional<OpenedCamera::Failure> OpenedCamera::write(
     const std::string &name, const CvxCPP::NodeValue &value, std::vector<SelectedValue> &remembered)
 {
     auto original = m_remembersWrites ? m_originals.findNew(*m_nodes, name) : std::nullopt;
-    if (auto failure = m_nodes->write(name, value))
-        return failure;
-    if (original) {
+    if (original) { // Before the write: one whose acknowledgement is lost may have changed the value.
         remembered.push_back(*original);
         m_originals.remember(std::move(*original));
     }
-    return std::nullopt;
+    return m_nodes->write(name, value);
 }
 
 std::optional<OpenedCamera::Failure> OpenedCamera::beginTemporaryChanges(

@@ -53,8 +53,8 @@ public:
     /// Ends temporary changes, and puts the values back if `request` says so.
     OriginalValues::PutBack endTemporaryChanges(const EndTemporaryChangesRequest &request);
 
-    /// Returns true if close() has to put values back.
-    bool hasOriginals() const { return !m_originals.isEmpty(); }
+    /// Returns true if close() may have to put values back: a write that is running counts too.
+    bool mayPutBack() const { return m_remembersWrites || !m_originals.isEmpty(); }
 
     /// Stops the stream and puts back what has to be, before close(). Gives up after `limit`; a call of the
     /// producer may then still hang, so only close() and abandon() may be called.

@@ -17,22 +17,22 @@ constexpr double tolerance = 0.03; // Relative deviation that is left alone.
 constexpr int samplesPerSide = 48;
 
 /// Returns a value of a line; 1 is the largest value of the format.
-double valueAt(const PixelFormat &format, const std::uint8_t *line, std::size_t index)
+double valueAt(const PackedFormat &format, const std::uint8_t *line, std::size_t index)
 {
     const auto wordAt = [line](std::size_t byte) { return line[byte] | line[byte + 1] << 8U; };
     const auto depth = static_cast<std::size_t>(format.depth);
     int value = 0;
     switch (format.layout) {
-    case PixelFormat::Layout::Bytes:
+    case PackedFormat::Layout::Bytes:
         value = line[index];
         break;
-    case PixelFormat::Layout::Words:
+    case PackedFormat::Layout::Words:
         value = wordAt(2 * index);
         break;
-    case PixelFormat::Layout::BitStream:
+    case PackedFormat::Layout::BitStream:
         value = wordAt(index * depth / 8) >> index * depth % 8 & format.maxValue();
         break;
-    case PixelFormat::Layout::Packed: // The upper 8 bits are enough.
+    case PackedFormat::Layout::Packed: // The upper 8 bits are enough.
         return line[index / 2 * 3 + index % 2 * 2] / 255.0;
     }
     return static_cast<double>(value) / format.maxValue();
@@ -128,10 +128,10 @@ void adjustWhite(RegisterBank &bank, const std::array<double, 3> &colors)
 
 Brightness measureBrightness(const RegisterBank &bank, const std::uint8_t *picture)
 {
-    const PixelFormat &format = pixelFormat(static_cast<std::uint32_t>(bank.integer(Id::PixelFormat)));
+    const PackedFormat &format = pixelFormat(static_cast<std::uint32_t>(bank.integer(Id::PixelFormat)));
     const auto width = static_cast<std::size_t>(bank.integer(Id::Width));
     const auto height = static_cast<std::size_t>(bank.integer(Id::Height));
-    const std::size_t values = format.colors == PixelFormat::Colors::Rgb ? 3 : 1;
+    const std::size_t values = format.colors == PackedFormat::Colors::Rgb ? 3 : 1;
     const std::size_t lineSize = format.lineSize(static_cast<int>(width));
     const std::size_t stepX = width / samplesPerSide | 1U; // Odd steps meet all colours of a mosaic.
     const std::size_t stepY = height / samplesPerSide | 1U;
@@ -144,7 +144,7 @@ Brightness measureBrightness(const RegisterBank &bank, const std::uint8_t *pictu
                 all.add(value);
                 colors[values == 3 ? i : x % 2 + y % 2].add(value);
             }
-    if (format.colors == PixelFormat::Colors::Mono)
+    if (format.colors == PackedFormat::Colors::Mono)
         return {all.value(), {}};
     return {all.value(), {colors[0].value(), colors[1].value(), colors[2].value()}};
 }

@@ -37,8 +37,8 @@ std::string enumEntry(const std::string &name, std::uint64_t value)
 std::string pixelFormatEntries(bool isColor)
 {
     std::string entries;
-    for (const PixelFormat &format : supportedPixelFormats())
-        if ((format.colors != PixelFormat::Colors::Mono) == isColor)
+    for (const PackedFormat &format : supportedPixelFormats())
+        if ((format.colors != PackedFormat::Colors::Mono) == isColor)
             entries += enumEntry(format.name, format.code);
     return entries;
 }

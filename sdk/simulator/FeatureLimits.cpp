@@ -196,8 +196,8 @@ RealLimits realLimits(const RegisterBank &bank, RegisterId id)
 bool isPixelFormatOffered(const RegisterBank &bank, std::int64_t code)
 {
     const bool isColor = bank.isOn(Id::IsColor);
-    const std::vector<PixelFormat> &formats = supportedPixelFormats();
-    return std::any_of(formats.begin(), formats.end(), [&](const PixelFormat &format) {
-        return format.code == code && (format.colors != PixelFormat::Colors::Mono) == isColor;
+    const std::vector<PackedFormat> &formats = supportedPixelFormats();
+    return std::any_of(formats.begin(), formats.end(), [&](const PackedFormat &format) {
+        return format.code == code && (format.colors != PackedFormat::Colors::Mono) == isColor;
     });
 }

@@ -116,7 +116,7 @@ void limitRates(RegisterBank &bank)
 
 void updatePayloadSize(RegisterBank &bank)
 {
-    const PixelFormat &format = pixelFormat(static_cast<std::uint32_t>(bank.integer(Id::PixelFormat)));
+    const PackedFormat &format = pixelFormat(static_cast<std::uint32_t>(bank.integer(Id::PixelFormat)));
     const std::size_t imageSize = format.lineSize(static_cast<int>(bank.integer(Id::Width)))
         * static_cast<std::size_t>(bank.integer(Id::Height));
     bank.setInteger(Id::PayloadSize, static_cast<std::int64_t>(imageSize + chunkOverhead(bank)));

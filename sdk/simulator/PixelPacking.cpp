@@ -4,8 +4,8 @@
 #include <cstring>
 
 namespace {
-using Layout = PixelFormat::Layout;
-using Colors = PixelFormat::Colors;
+using Layout = PackedFormat::Layout;
+using Colors = PackedFormat::Colors;
 
 void packBytes(const std::uint16_t *values, std::size_t count, std::uint8_t *line)
 {
@@ -52,9 +52,9 @@ void packPairs(const std::uint16_t *values, std::size_t count, std::uint8_t *lin
 }
 } // namespace
 
-const std::vector<PixelFormat> &supportedPixelFormats()
+const std::vector<PackedFormat> &supportedPixelFormats()
 {
-    static const std::vector<PixelFormat> formats{
+    static const std::vector<PackedFormat> formats{
         {0x01080001, "Mono8", 8, Layout::Bytes, Colors::Mono},
         {0x01100003, "Mono10", 10, Layout::Words, Colors::Mono},
         {0x010A0046, "Mono10p", 10, Layout::BitStream, Colors::Mono},
@@ -75,14 +75,14 @@ const std::vector<PixelFormat> &supportedPixelFormats()
     return formats;
 }
 
-const PixelFormat &pixelFormat(std::uint32_t code)
+const PackedFormat &pixelFormat(std::uint32_t code)
 {
     const auto &formats = supportedPixelFormats();
     return *std::find_if(
-        formats.begin(), formats.end(), [code](const PixelFormat &format) { return format.code == code; });
+        formats.begin(), formats.end(), [code](const PackedFormat &format) { return format.code == code; });
 }
 
-void packLine(const PixelFormat &format, const std::uint16_t *values, int width, std::uint8_t *line)
+void packLine(const PackedFormat &format, const std::uint16_t *values, int width, std::uint8_t *line)
 {
     const std::size_t count = static_cast<std::size_t>(width) * (format.colors == Colors::Rgb ? 3 : 1);
     switch (format.layout) {

@@ -5,7 +5,7 @@
 #include <vector>
 
 /// A pixel format that the simulator offers.
-struct PixelFormat
+struct PackedFormat
 {
     enum class Layout
     {
@@ -35,10 +35,10 @@ struct PixelFormat
 };
 
 /// Returns all formats. Monochrome sensors offer those with Colors::Mono, colour sensors the other ones.
-const std::vector<PixelFormat> &supportedPixelFormats();
+const std::vector<PackedFormat> &supportedPixelFormats();
 
 /// Returns the format with the PFNC code, which must be one of supportedPixelFormats().
-const PixelFormat &pixelFormat(std::uint32_t code);
+const PackedFormat &pixelFormat(std::uint32_t code);
 
 /// Packs the values of one line, `width` of them or three times as many for RGB, into lineSize() bytes.
-void packLine(const PixelFormat &format, const std::uint16_t *values, int width, std::uint8_t *line);
+void packLine(const PackedFormat &format, const std::uint16_t *values, int width, std::uint8_t *line);

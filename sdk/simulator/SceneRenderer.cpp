@@ -71,20 +71,20 @@ SceneRenderer::Shift SceneRenderer::sceneShift(std::uint64_t frameNumber) const
 
 void SceneRenderer::render(const RenderSettings &settings, std::uint8_t *buffer)
 {
-    const PixelFormat &format = pixelFormat(settings.pixelFormat);
+    const PackedFormat &format = pixelFormat(settings.pixelFormat);
     m_size = pictureSize(settings);
     m_quantized.resize(static_cast<std::size_t>(settings.width) * 3);
     if (!isLive(settings.testPattern))
         return renderPattern(settings, format, buffer);
     prepareGamma(settings.gamma, format);
-    if (format.colors == PixelFormat::Colors::Rgb)
+    if (format.colors == PackedFormat::Colors::Rgb)
         renderRgb(settings, format, buffer);
     else
         renderMosaic(settings, format, buffer);
 }
 
 void SceneRenderer::renderPattern(
-    const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
+    const RenderSettings &settings, const PackedFormat &format, std::uint8_t *buffer)
 {
     const std::size_t lineSize = format.lineSize(settings.width);
     for (int y = 0; y < settings.height; ++y, buffer += lineSize) {
@@ -132,7 +132,7 @@ SceneRenderer::SensorRange SceneRenderer::sensorRange(
 }
 
 void SceneRenderer::renderMosaic(
-    const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
+    const RenderSettings &settings, const PackedFormat &format, std::uint8_t *buffer)
 {
     prepare(settings, settings.offsetX, settings.width, settings.offsetY, settings.height);
     for (int y = 0; y < settings.height; ++y, buffer += format.lineSize(settings.width)) {
@@ -141,7 +141,8 @@ void SceneRenderer::renderMosaic(
     }
 }
 
-void SceneRenderer::renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer)
+void SceneRenderer::renderRgb(
+    const RenderSettings &settings, const PackedFormat &format, std::uint8_t *buffer)
 {
     const int left = std::max(0, settings.offsetX - mosaicBorder);
     const int right = std::min(m_size.width, settings.offsetX + settings.width + mosaicBorder);
@@ -178,15 +179,15 @@ const float *SceneRenderer::mosaicLine(const RenderSettings &settings, int y)
     return pixels;
 }
 
-void SceneRenderer::finishLine(const RenderSettings &settings, const PixelFormat &format, int y,
+void SceneRenderer::finishLine(const RenderSettings &settings, const PackedFormat &format, int y,
     const float *values, std::uint8_t *buffer)
 {
-    const int count = settings.width * (format.colors == PixelFormat::Colors::Rgb ? 3 : 1);
+    const int count = settings.width * (format.colors == PackedFormat::Colors::Rgb ? 3 : 1);
     const auto scale = static_cast<float>(std::ldexp(1, format.depth - 12));
     const Quantization quantization{
         scale, scale * static_cast<float>(settings.blackLevel), static_cast<float>(format.maxValue())};
     const bool isPlain = m_gammaTable.empty() && settings.testPattern == TestPattern::Off;
-    if (isPlain && format.layout == PixelFormat::Layout::Bytes) // The usual case is the fastest one.
+    if (isPlain && format.layout == PackedFormat::Layout::Bytes) // The usual case is the fastest one.
         return quantizeBytes(values, count, quantization, buffer);
     quantize(values, count, quantization, m_quantized.data());
     if (!m_gammaTable.empty())
@@ -250,7 +251,7 @@ int SceneRenderer::lineScanRow(const RenderSettings &settings, int line) const
     return std::min(static_cast<int>(row), SceneCanvas::lineScanPeriod(m_model) - 1);
 }
 
-void SceneRenderer::prepareGamma(double gamma, const PixelFormat &format)
+void SceneRenderer::prepareGamma(double gamma, const PackedFormat &format)
 {
     if (gamma == m_gamma && format.depth == m_gammaDepth)
         return;

@@ -56,10 +56,10 @@ private:
     };
 
     void prepare(const RenderSettings &settings, int x, int width, int y, int height);
-    void renderPattern(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
-    void renderMosaic(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
-    void renderRgb(const RenderSettings &settings, const PixelFormat &format, std::uint8_t *buffer);
-    void finishLine(const RenderSettings &settings, const PixelFormat &format, int y, const float *values,
+    void renderPattern(const RenderSettings &settings, const PackedFormat &format, std::uint8_t *buffer);
+    void renderMosaic(const RenderSettings &settings, const PackedFormat &format, std::uint8_t *buffer);
+    void renderRgb(const RenderSettings &settings, const PackedFormat &format, std::uint8_t *buffer);
+    void finishLine(const RenderSettings &settings, const PackedFormat &format, int y, const float *values,
         std::uint8_t *buffer);
     const float *mosaicLine(const RenderSettings &settings, int y);
     void readPictureLine(const RenderSettings &settings, int y, float *values);
@@ -68,7 +68,7 @@ private:
     void readSensorLine(const RenderSettings &settings, int line, float *values);
     SensorRange sensorRange(int first, int count, int size, int binning, bool isReversed) const;
     int lineScanRow(const RenderSettings &settings, int line) const;
-    void prepareGamma(double gamma, const PixelFormat &format);
+    void prepareGamma(double gamma, const PackedFormat &format);
 
     const SensorModel m_model;
     const int m_step; // Distance of pixels of one colour.

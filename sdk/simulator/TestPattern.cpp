@@ -27,14 +27,14 @@ int bayerChannel(int x, int y)
     return (x & 1) + (y & 1);
 }
 
-std::uint16_t colorBarValue(const PixelFormat &format, PictureSize size, int x, int y, int component)
+std::uint16_t colorBarValue(const PackedFormat &format, PictureSize size, int x, int y, int component)
 {
     switch (format.colors) {
-    case PixelFormat::Colors::Mono: // The eighth bar is black, the first one is white.
+    case PackedFormat::Colors::Mono: // The eighth bar is black, the first one is white.
         return static_cast<std::uint16_t>((7 - x * 8 / size.width) * format.maxValue() / 7);
-    case PixelFormat::Colors::Bayer:
+    case PackedFormat::Colors::Bayer:
         return static_cast<std::uint16_t>(barChannel(x, size.width, bayerChannel(x, y)) * format.maxValue());
-    case PixelFormat::Colors::Rgb:
+    case PackedFormat::Colors::Rgb:
         return static_cast<std::uint16_t>(barChannel(x, size.width, component) * format.maxValue());
     }
     return 0;
@@ -46,11 +46,11 @@ bool changesVertically(TestPattern pattern)
     return pattern == TestPattern::GreyVerticalRamp || pattern == TestPattern::GreyVerticalRampMoving;
 }
 
-void testPatternLine(
-    const RenderSettings &settings, const PixelFormat &format, PictureSize size, int y, std::uint16_t *values)
+void testPatternLine(const RenderSettings &settings, const PackedFormat &format, PictureSize size, int y,
+    std::uint16_t *values)
 {
     const int maxValue = format.maxValue();
-    const int components = format.colors == PixelFormat::Colors::Rgb ? 3 : 1;
+    const int components = format.colors == PackedFormat::Colors::Rgb ? 3 : 1;
     const auto step = static_cast<std::int64_t>(settings.frameNumber % 0x7FFFFFFF);
     for (int x = settings.offsetX; x < settings.offsetX + settings.width; ++x) {
         for (int component = 0; component < components; ++component, ++values) {
@@ -80,7 +80,7 @@ void testPatternLine(
     }
 }
 
-void addFrameCounter(const RenderSettings &settings, const PixelFormat &format, int y, std::uint16_t *values)
+void addFrameCounter(const RenderSettings &settings, const PackedFormat &format, int y, std::uint16_t *values)
 {
     constexpr int dot = 4; // Pixels.
     constexpr int border = dot;
@@ -88,7 +88,7 @@ void addFrameCounter(const RenderSettings &settings, const PixelFormat &format, 
     const int row = (y - border) / dot;
     if (y < border || row >= SceneFont::glyphHeight)
         return;
-    const int components = format.colors == PixelFormat::Colors::Rgb ? 3 : 1;
+    const int components = format.colors == PackedFormat::Colors::Rgb ? 3 : 1;
     const int width
         = std::min(static_cast<int>(digits.size()) * SceneFont::advance * dot, settings.width - border);
     for (int x = 0; x < width; ++x) {

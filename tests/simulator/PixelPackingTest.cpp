@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 namespace {
-using Layout = PixelFormat::Layout;
+using Layout = PackedFormat::Layout;
 
 /// Reads value `i` of a packed line, according to the tables of the pixel format naming convention.
-unsigned unpacked(const PixelFormat &format, const std::vector<std::uint8_t> &line, std::size_t i)
+unsigned unpacked(const PackedFormat &format, const std::vector<std::uint8_t> &line, std::size_t i)
 {
     const auto byte = [&](std::size_t index) { return static_cast<unsigned>(line.at(index)); };
     switch (format.layout) {
@@ -31,16 +31,16 @@ unsigned unpacked(const PixelFormat &format, const std::vector<std::uint8_t> &li
     return 0;
 }
 
-class PackedLine : public testing::TestWithParam<PixelFormat>
+class PackedLine : public testing::TestWithParam<PackedFormat>
 { };
 } // namespace
 
 TEST_P(PackedLine, UnpacksToTheSameValues)
 {
-    const PixelFormat &format = GetParam();
+    const PackedFormat &format = GetParam();
     for (const int width : {1, 2, 3, 4, 5, 6, 7, 64}) {
         const std::size_t count
-            = static_cast<std::size_t>(width) * (format.colors == PixelFormat::Colors::Rgb ? 3 : 1);
+            = static_cast<std::size_t>(width) * (format.colors == PackedFormat::Colors::Rgb ? 3 : 1);
         std::vector<std::uint16_t> values(count);
         for (std::size_t i = 0; i < count; ++i)
             values[i] = static_cast<std::uint16_t>(scrambled(i) & static_cast<unsigned>(format.maxValue()));

@@ -55,7 +55,7 @@ inline RenderedPicture render(SceneRenderer &renderer, const RenderSettings &set
 {
     const std::vector<std::uint8_t> bytes = renderBytes(renderer, settings);
     RenderedPicture picture{settings.width, settings.height, {}};
-    if (pixelFormat(settings.pixelFormat).layout == PixelFormat::Layout::Bytes) {
+    if (pixelFormat(settings.pixelFormat).layout == PackedFormat::Layout::Bytes) {
         picture.values.assign(bytes.begin(), bytes.end());
         return picture;
     }
