@@ -58,20 +58,20 @@ QImage gainPicture(const FlatField &field)
 HtmlReport flatFieldReport(const FlatFieldResult &result, const CameraRecord &camera,
     const FlatFieldPictures &pictures, const QStringList &warnings)
 {
-    using Texts = FlatFieldReportTexts;
-    HtmlReport report(Texts::tr("Flat Field"), camera);
+    HtmlReport report(FlatFieldReportTexts::tr("Flat Field"), camera);
     report.addText(flatFieldVerdict(result));
     for (const QString &warning : warnings)
         report.addText(warning);
-    report.addHeading(Texts::tr("Non-uniformity by EMVA 1288 release 4.0"));
+    report.addHeading(FlatFieldReportTexts::tr("Non-uniformity by EMVA 1288 release 4.0"));
     report.addTable(flatFieldHeader(), flatFieldRows(result));
     report.addText(flatFieldSummary(result));
     if (!pictures.profiles.isNull())
-        report.addPicture(pictures.profiles, Texts::tr("Mean of the columns"));
+        report.addPicture(pictures.profiles, FlatFieldReportTexts::tr("Mean of the columns"));
     if (!pictures.before.isNull())
-        report.addPicture(pictures.before, Texts::tr("A picture as the camera sends it"));
+        report.addPicture(pictures.before, FlatFieldReportTexts::tr("A picture as the camera sends it"));
     if (!pictures.after.isNull())
-        report.addPicture(pictures.after, Texts::tr("The same picture, corrected"));
-    report.addPicture(gainPicture(result.built.field), Texts::tr("The gains: the brighter, the higher"));
+        report.addPicture(pictures.after, FlatFieldReportTexts::tr("The same picture, corrected"));
+    report.addPicture(
+        gainPicture(result.built.field), FlatFieldReportTexts::tr("The gains: the brighter, the higher"));
     return report;
 }
