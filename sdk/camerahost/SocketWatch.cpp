@@ -18,13 +18,13 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// Times after the end of the connection.
-struct Limits
+struct EndLimits
 {
     std::chrono::milliseconds abandonAfter; // The main thread is probably in a call that hangs.
     std::chrono::milliseconds exitAfter;
 };
-constexpr Limits closeLimits{std::chrono::milliseconds(300), std::chrono::milliseconds(900)};
-constexpr Limits putBackLimits{std::chrono::milliseconds(1000), std::chrono::milliseconds(5000)};
+constexpr EndLimits closeLimits{std::chrono::milliseconds(300), std::chrono::milliseconds(900)};
+constexpr EndLimits putBackLimits{std::chrono::milliseconds(1000), std::chrono::milliseconds(5000)};
 
 constexpr int lookInterval = 1000; // Milliseconds, between two looks at the calls of the main thread.
 constexpr int maxLooks = 5; // A call that is seen running so often in a row hangs.
@@ -70,7 +70,7 @@ void SocketWatch::State::run()
 {
     waitForEnd(socket, calls);
     const auto end = Clock::now();
-    const Limits limits = isPutBackNeeded ? putBackLimits : closeLimits;
+    const EndLimits limits = isPutBackNeeded ? putBackLimits : closeLimits;
     shutdown(socket, SHUT_RDWR); // The main thread sees the end even if another process has the socket.
     std::unique_lock lock(mutex);
     if (!change.wait_until(lock, end + limits.abandonAfter, [this] { return isShuttingDown; }))
