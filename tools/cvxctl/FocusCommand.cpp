@@ -69,7 +69,7 @@ Sentence measureTurn(
     for (std::size_t i = 0; i < result.last.regions.size(); ++i)
         result.regionShares.push_back(history.regionShare(i));
     result.analysis = analyseFocus(history.lastTurn());
-    return result.last.problem;
+    return history.samples().empty() ? result.last.problem : Sentence{};
 }
 
 Sentence measureSweep(const MeasureContext &context, const FocusOptions &focus,
@@ -99,7 +99,8 @@ Sentence measureFocus(const FocusCommandOptions &options, const MeasureContext &
         if (readPosition(context.device, *axis, position))
             result.position = position;
     }
-    return result.last.problem;
+    // After a turn, the last picture may be blurred.
+    return options.seconds > 0 ? Sentence{} : result.last.problem;
 }
 
 std::string focusNumber(double value, int decimals)
