@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace {
 
@@ -55,13 +56,24 @@ Sentence measureTurn(
     const MeasureProgress progress = [&](std::size_t, std::size_t) {
         return context.progress(std::min(static_cast<std::size_t>(now()), steps - 1), steps);
     };
-    do {
-        Sentence problem = takeImages({context.device, context.frames, progress}, 1, usualImageLimit,
-            [&](const CvxCPP::Image &image) { return meter.measure(rawImage(image), focus, result.last); });
-        if (!problem.isEmpty())
+    const double interval = seconds / FocusHistory::maxSamples; // The history holds the whole turn.
+    double next = 0;
+    bool isOver = false;
+    const auto take = [&](const CvxCPP::Image &image) -> Sentence {
+        if (now() < next)
+            return {};
+        next = now() + interval;
+        if (Sentence problem = meter.measure(rawImage(image), focus, result.last); !problem.isEmpty())
             return problem;
         history.add(now(), result.last);
-    } while (now() < seconds);
+        isOver = now() >= seconds;
+        return isOver ? untranslated("The time is over.") : Sentence{}; // Ends the loop; is not shown.
+    };
+    const std::size_t count = seconds > 0 ? std::numeric_limits<std::size_t>::max() : 1;
+    const Sentence ended
+        = takeImages({context.device, context.frames, progress}, count, usualImageLimit, take);
+    if (!ended.isEmpty() && !isOver)
+        return ended;
     result.samples.assign(history.samples().begin(), history.samples().end());
     if (seconds <= 0)
         return {};
