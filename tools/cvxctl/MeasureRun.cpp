@@ -8,6 +8,7 @@
 #include "tools/kit/measure/run/StreamFrames.h"
 
 #include <cstdio>
+#include <optional>
 #include <unistd.h>
 
 using namespace CvxCPP;
@@ -58,18 +59,25 @@ public:
             const bool isReadable = bool(device.ReadText(name, before));
             if (const ExitStatus status = writeAssignment(device, assignment))
                 return status;
-            if (isReadable)
-                m_before.emplace_back(name, before);
+            std::string written;
+            if (isReadable && device.ReadText(name, written))
+                m_settings.push_back({name, before, written});
+            else if (isReadable)
+                m_settings.push_back({name, before, std::nullopt});
         }
         return exitSuccess;
     }
 
-    /// Prints an error for each value that the camera refuses.
+    /// Leaves the settings alone that the measurement has set since. Prints an error for each value that the
+    /// camera refuses.
     ExitStatus putBack(Device &device)
     {
         ExitStatus status = exitSuccess;
-        for (auto setting = m_before.rbegin(); setting != m_before.rend(); ++setting) {
-            const CvxResult result = device.WriteText(setting->first, setting->second);
+        for (auto setting = m_settings.rbegin(); setting != m_settings.rend(); ++setting) {
+            std::string now;
+            if (setting->written && device.ReadText(setting->name, now) && now != *setting->written)
+                continue;
+            const CvxResult result = device.WriteText(setting->name, setting->before);
             if (!result)
                 status = reportFailure(result);
         }
@@ -77,7 +85,13 @@ public:
     }
 
 private:
-    std::vector<std::pair<std::string, std::string>> m_before; // In the order of the writes.
+    struct Setting
+    {
+        std::string name;
+        std::string before;
+        std::optional<std::string> written; // As the camera shows it.
+    };
+    std::vector<Setting> m_settings; // In the order of the writes.
 };
 
 /// Runs the work with a stream. Prints an error on failure.
