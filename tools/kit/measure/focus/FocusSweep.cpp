@@ -34,13 +34,17 @@ public:
             return problem;
         if (Sentence problem = contrastProblem(); !problem.isEmpty())
             return problem;
-        if (Sentence problem = measureRange(fineRange(), m_options.fineSteps, m_result.fine);
-            !problem.isEmpty())
+        const Range fine = fineRange();
+        if (Sentence problem = approach(fine.from); !problem.isEmpty())
+            return problem;
+        if (Sentence problem = measureRange(fine, m_options.fineSteps, m_result.fine); !problem.isEmpty())
             return problem;
         m_result.analysis = analyseFocus(m_result.fine);
         if (!m_result.analysis.best)
             return noPeakSentence();
         m_result.bestPosition = axis.nearest(*m_result.analysis.best);
+        if (Sentence problem = approach(m_result.bestPosition); !problem.isEmpty())
+            return problem;
         return measureAt(m_result.bestPosition, m_result.last);
     }
 
@@ -64,11 +68,27 @@ private:
         return {};
     }
 
-    Sentence measureAt(double position, FocusMeasurement &measurement)
+    double coarseStep() const
+    {
+        return (m_result.axis.max - m_result.axis.min) / static_cast<double>(m_options.coarseSteps - 1);
+    }
+
+    /// Moves the lens below the position, so that it comes from there: the mechanics have play.
+    Sentence approach(double position)
+    {
+        return moveTo(m_result.axis.nearest(std::max(m_result.axis.min, position - coarseStep())));
+    }
+
+    Sentence moveTo(double position)
     {
         if (const CvxResult written = writePosition(m_context.device, m_result.axis, position); !written)
             return untranslated(written.text);
-        if (Sentence problem = waitForLens(); !problem.isEmpty())
+        return waitForLens();
+    }
+
+    Sentence measureAt(double position, FocusMeasurement &measurement)
+    {
+        if (Sentence problem = moveTo(position); !problem.isEmpty())
             return problem;
         const MeasureProgress progress
             = [this](std::size_t, std::size_t) { return m_context.progress(m_done, total()); };
@@ -129,10 +149,8 @@ private:
         }
         std::sort(peaks.begin(), peaks.end()); // Not empty, because the sharpest picture is usable.
         const auto outer = static_cast<std::size_t>(outerShare * static_cast<double>(peaks.size()));
-        const double step
-            = (m_result.axis.max - m_result.axis.min) / static_cast<double>(m_options.coarseSteps - 1);
-        return {std::max(m_result.axis.min, peaks[outer] - fineMargin * step),
-            std::min(m_result.axis.max, peaks[peaks.size() - 1 - outer] + fineMargin * step)};
+        return {std::max(m_result.axis.min, peaks[outer] - fineMargin * coarseStep()),
+            std::min(m_result.axis.max, peaks[peaks.size() - 1 - outer] + fineMargin * coarseStep())};
     }
 
     static Sentence noPeakSentence()
