@@ -135,19 +135,32 @@ private:
         return sharpest->measurement.sharpness > minContrast * lowest ? Sentence{} : noPeakSentence();
     }
 
+    /// Returns the coarse sample in which a region is sharpest; null if it is never exposed well.
+    const FocusSample *sharpestCoarse(std::size_t region) const
+    {
+        const FocusSample *sharpest = nullptr;
+        for (const FocusSample &sample : m_result.coarse) {
+            const RegionFocus &focus = sample.measurement.regions[region];
+            if (focus.state == RegionFocus::State::TooDark || focus.state == RegionFocus::State::Clipped)
+                continue;
+            if (!sharpest || focus.sharpness > sharpest->measurement.regions[region].sharpness)
+                sharpest = &sample;
+        }
+        return sharpest;
+    }
+
     /// Returns the range that contains the coarse peaks of nearly all regions.
     Range fineRange() const
     {
         std::vector<double> peaks;
         for (std::size_t region = 0; region < m_options.focus.grid.size(); ++region) {
-            const auto sharpest = std::max_element(m_result.coarse.begin(), m_result.coarse.end(),
-                [region](const FocusSample &a, const FocusSample &b) {
-                    return a.measurement.regions[region].sharpness < b.measurement.regions[region].sharpness;
-                });
-            if (sharpest->measurement.regions[region].isUsable())
+            const FocusSample *const sharpest = sharpestCoarse(region);
+            if (sharpest && sharpest->measurement.regions[region].isUsable())
                 peaks.push_back(sharpest->position);
         }
-        std::sort(peaks.begin(), peaks.end()); // Not empty, because the sharpest picture is usable.
+        if (peaks.empty())
+            return {m_result.axis.min, m_result.axis.max};
+        std::sort(peaks.begin(), peaks.end());
         const auto outer = static_cast<std::size_t>(outerShare * static_cast<double>(peaks.size()));
         return {std::max(m_result.axis.min, peaks[outer] - fineMargin * coarseStep()),
             std::min(m_result.axis.max, peaks[peaks.size() - 1 - outer] + fineMargin * coarseStep())};
