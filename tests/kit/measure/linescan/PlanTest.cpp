@@ -112,6 +112,19 @@ TEST(LineScanPlan, higherRateNeedsAShorterExposureFirst)
     EXPECT_TRUE(device.changedValues().empty());
 }
 
+TEST(LineScanPlan, exposureFitsItsIncrementAndIsNeverBelowItsMinimum)
+{
+    LineScanDevice device;
+    NodeState &exposure = device.feature("ExposureTime").state;
+    exposure.increment = std::int64_t(2); // 2, 4 ... µs; the rate leaves 23 µs, to which 24 µs are as near.
+    EXPECT_DOUBLE_EQ(*planFor(device, movingAt(560)).exposure, 22);
+    exposure.minimum = 30.0;
+    const LineRatePlan plan = planFor(device, movingAt(560));
+    EXPECT_DOUBLE_EQ(*plan.exposure, 30);
+    EXPECT_EQ(plan.limit.reason, RateReason::Camera);
+    EXPECT_FALSE(plan.isPossible());
+}
+
 TEST(LineScanPlan, rateIsRoundedToTheIncrement)
 {
     LineScanDevice device;

@@ -20,26 +20,32 @@ double roundedDown(double value)
     return std::floor(value * stepsPerUnit + calculationError) / stepsPerUnit;
 }
 
+/// Returns 0 if the feature allows every value.
+double incrementOf(const LineFeatureState &feature)
+{
+    const auto *const real = std::get_if<double>(&feature.state.increment);
+    const auto *const integer = std::get_if<std::int64_t>(&feature.state.increment);
+    return real ? *real : integer ? static_cast<double>(*integer) : 0;
+}
+
 /// Returns the nearest value that the feature allows.
 double allowedNumber(const LineFeatureState &feature, double value)
 {
     const double minimum = feature.minimum().value_or(value);
-    const auto *const real = std::get_if<double>(&feature.state.increment);
-    const auto *const integer = std::get_if<std::int64_t>(&feature.state.increment);
-    const double increment = real ? *real : integer ? static_cast<double>(*integer) : 0;
+    const double increment = incrementOf(feature);
     if (increment > 0)
         value = minimum + std::round((value - minimum) / increment) * increment;
     return std::max(value, minimum);
 }
 
-/// Returns the longest exposure that the feature allows and that is not longer than the limit.
+/// Returns the longest exposure that the feature allows and that is not longer than the limit, or the
+/// shortest one that it allows.
 double allowedExposure(const LineFeatureState &feature, double limit)
 {
     const double nearest = allowedNumber(feature, limit);
     if (nearest <= limit)
         return nearest;
-    const auto *const increment = std::get_if<double>(&feature.state.increment);
-    return increment ? nearest - *increment : nearest;
+    return std::max(nearest - incrementOf(feature), feature.minimum().value_or(0));
 }
 
 NodeValue asValueOf(const LineFeatureState &feature, double number)
