@@ -34,6 +34,7 @@ const LimitCase limitCases[] = {
         125'000},
     {"dead time", {80, 1.0, 10'000.0, {}, {}}, 15'000, 60, RateReason::Exposure, 12'500},
     {"the exposure cannot be shorter", {80, 60.0, 10'000.0, {}, {}}, 15'000, 60, RateReason::Camera, 12'500},
+    {"the speed of the link is not told", {0, {}, {}, 16'384.0, 0.0}, 1e9, 0, RateReason::None, 0},
     {"nothing is known", {}, 1e9, 0, RateReason::None, 0},
 };
 

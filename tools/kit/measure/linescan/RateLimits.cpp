@@ -38,7 +38,7 @@ double RateLimits::longestExposure(double rate) const
 
 std::optional<double> RateLimits::linkRate() const
 {
-    if (!m_facts.linkSpeed || !m_facts.bytesPerLine)
+    if (m_facts.linkSpeed.value_or(0) <= 0 || m_facts.bytesPerLine.value_or(0) <= 0)
         return std::nullopt;
     return *m_facts.linkSpeed / *m_facts.bytesPerLine;
 }

@@ -43,7 +43,7 @@ public:
     /// Returns the longest exposure at a line rate; 0 if there is no time for any.
     double longestExposure(double rate) const;
 
-    /// Returns the highest rate that the link carries.
+    /// Returns the highest rate that the link carries; nothing if the camera does not tell its speed.
     std::optional<double> linkRate() const;
 
     /// Returns the limit for the exposure that is the lowest one: if the reason is None, no limit is known.
