@@ -130,7 +130,8 @@ public:
         Roundness roundness;
         if (const CvxResult read = readLineScanCamera(context.device, m_camera); !read)
             return untranslated(read.text);
-        if (const Sentence problem = measureRoundness(context, options, roundness); !problem.isEmpty())
+        if (const Sentence problem = measureRoundness(context, m_camera, options, roundness);
+            !problem.isEmpty())
             return problem;
         measured = roundness;
         if (!m_options.isJson)

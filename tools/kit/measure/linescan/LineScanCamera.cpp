@@ -139,6 +139,7 @@ private:
         camera.binning
             = readNumber("BinningHorizontal").value_or(1) * readNumber("DecimationHorizontal").value_or(1);
         camera.sensorPixelSize = readNumber("SensorPixelWidth");
+        camera.linesPerPicture = readNumber("Height");
         RateFacts &facts = camera.facts;
         if (const LineFeatureState *const exposure = camera.find(LineFeature::ExposureTime)) {
             facts.exposure = exposure->number();
