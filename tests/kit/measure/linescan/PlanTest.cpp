@@ -133,7 +133,10 @@ TEST(LineScanPlan, rateIsRoundedToTheIncrement)
     EXPECT_DOUBLE_EQ(*plan.rate, 7);
     EXPECT_NEAR(plan.errorPercent, -2, 1e-6);
     ASSERT_EQ(plan.warnings.size(), 1U);
-    EXPECT_TRUE(contains(plan.warnings[0], "2.0 % too flat"));
+    EXPECT_TRUE(contains(plan.warnings[0], "2.0 % too flat. Change the magnification or the speed."));
+    const LineRatePlan encoder = planFor(device, withEncoder(1)); // 71.4 lines per pulse; 32 are possible.
+    ASSERT_EQ(encoder.warnings.size(), 1U);
+    EXPECT_TRUE(contains(encoder.warnings[0], "too flat. Change the magnification, or use another encoder."));
 }
 
 TEST(LineScanPlan, encoderIsSetUpBeforeTheTriggerIsSwitchedOn)

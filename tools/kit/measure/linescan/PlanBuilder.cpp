@@ -162,14 +162,28 @@ void PlanBuilder::checkLimits()
                                        "to %2 µs, so the picture becomes darker: add light or gain."),
             {SentenceNumber{m_camera.facts.exposure, 1}, SentenceNumber{*m_plan.exposure, 1}}});
     if (std::abs(m_plan.errorPercent) > largeErrorPercent)
-        m_plan.warnings.push_back({m_plan.errorPercent > 0
-                ? QT_TRANSLATE_NOOP("Sentence",
+        m_plan.warnings.push_back(errorSentence());
+}
+
+Sentence PlanBuilder::errorSentence() const
+{
+    const SentenceNumber percent{std::abs(m_plan.errorPercent), 1};
+    const bool isTooTall = m_plan.errorPercent > 0;
+    if (isEncoder())
+        return {isTooTall ? QT_TRANSLATE_NOOP("Sentence",
                     "The closest setting of the camera makes objects %1 % too tall. Change the "
                     "magnification, or use another encoder.")
-                : QT_TRANSLATE_NOOP("Sentence",
-                    "The closest setting of the camera makes objects %1 % too flat. Change the "
-                    "magnification, or use another encoder."),
-            {SentenceNumber{std::abs(m_plan.errorPercent), 1}}});
+                          : QT_TRANSLATE_NOOP("Sentence",
+                              "The closest setting of the camera makes objects %1 % too flat. Change the "
+                              "magnification, or use another encoder."),
+            {percent}};
+    return {isTooTall ? QT_TRANSLATE_NOOP("Sentence",
+                "The closest setting of the camera makes objects %1 % too tall. Change the magnification or "
+                "the speed.")
+                      : QT_TRANSLATE_NOOP("Sentence",
+                          "The closest setting of the camera makes objects %1 % too flat. Change the "
+                          "magnification or the speed."),
+        {percent}};
 }
 
 void PlanBuilder::planRate()
