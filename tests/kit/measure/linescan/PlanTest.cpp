@@ -167,6 +167,30 @@ TEST(LineScanPlan, encoderIsSetUpBeforeTheTriggerIsSwitchedOn)
         "TriggerMode [TriggerSelector=LineStart] = Off");
 }
 
+TEST(LineScanPlan, encoderKeepsWhatCannotBeWritten)
+{
+    LineScanDevice device;
+    const auto limits = [&device] {
+        LineScanCamera camera;
+        EXPECT_TRUE(readLineScanCamera(device, camera));
+        return camera.ratioLimits();
+    };
+    EXPECT_EQ(limits().countsPerPulse, (std::vector<int>{1, 4}));
+    device.feature("EncoderDivider").state.maximum = 1e30;
+    EXPECT_EQ(limits().encoderDivider.max, 2'147'483'647);
+    NodeState &mode = device.feature("EncoderMode").state;
+    mode.availableEntries = {"HighResolution"};
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{4});
+    mode.availableEntries = {"FourPhase"};
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{1});
+    mode.availableEntries = {"FourPhase", "HighResolution"};
+    mode.access = NodeAccess::ReadOnly;
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{1});
+    device.set("EncoderSelector", "Encoder0");
+    device.set("EncoderMode", "HighResolution");
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{4});
+}
+
 TEST(LineScanPlan, limitsAreNamedWithTheirReason)
 {
     LineScanDevice device;
