@@ -223,6 +223,25 @@ TEST(LineScanPlan, refusedSettingPutsEverythingBack)
     EXPECT_TRUE(device.changedValues().empty());
 }
 
+TEST(LineScanPlan, crashWhileWritingLeavesNothingBehind)
+{
+    LineScanDevice device;
+    const LineRatePlan plan = planFor(device, movingAt(560));
+    // The camera's process remembers the values while they are written.
+    CvxResult meanwhile;
+    device.feature("AcquisitionLineRate").onWrite
+        = [&](NodeValue &) { meanwhile = device.BeginTemporaryChanges(); };
+    EXPECT_TRUE(writeSettingsSafely(device, plan.settings).isEmpty());
+    EXPECT_EQ(meanwhile.code, CvxErrorAlreadyStarted);
+    EXPECT_EQ(device.EndTemporaryChanges(TemporaryChanges::PutBack).code, CvxErrorNotAvailable);
+    EXPECT_EQ(device.value("AcquisitionLineRate"), NodeValue(40'000.0));
+    EXPECT_TRUE(writeSettingsSafely(device, undoOf(plan.settings)).isEmpty());
+
+    EXPECT_TRUE(contains(writeSettingsSafely(device, planFor(device, movingAt(2000)).settings), "at most"));
+    EXPECT_TRUE(device.changedValues().empty());
+    EXPECT_EQ(device.EndTemporaryChanges(TemporaryChanges::PutBack).code, CvxErrorNotAvailable);
+}
+
 TEST(LineScanPlan, lockOfTheStreamIsNoticed)
 {
     LineScanDevice device;
