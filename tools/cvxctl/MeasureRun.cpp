@@ -47,6 +47,12 @@ private:
     std::size_t m_total = 0;
 };
 
+std::optional<std::string> readText(Device &device, const std::string &name)
+{
+    std::string text;
+    return device.ReadText(name, text) ? std::optional(text) : std::nullopt;
+}
+
 /// Writes the values of --set and knows what was there before.
 class MeasureSettings
 {
@@ -55,15 +61,11 @@ public:
     {
         for (const std::string &assignment : assignments) {
             const std::string name = assignedName(assignment);
-            std::string before;
-            const bool isReadable = bool(device.ReadText(name, before));
+            const std::optional<std::string> before = readText(device, name);
             if (const ExitStatus status = writeAssignment(device, assignment))
                 return status;
-            std::string written;
-            if (isReadable && device.ReadText(name, written))
-                m_settings.push_back({name, before, written});
-            else if (isReadable)
-                m_settings.push_back({name, before, std::nullopt});
+            if (before)
+                m_settings.push_back({name, *before, readText(device, name)});
         }
         return exitSuccess;
     }
@@ -74,8 +76,8 @@ public:
     {
         ExitStatus status = exitSuccess;
         for (auto setting = m_settings.rbegin(); setting != m_settings.rend(); ++setting) {
-            std::string now;
-            if (setting->written && device.ReadText(setting->name, now) && now != *setting->written)
+            const auto now = setting->written ? readText(device, setting->name) : std::nullopt;
+            if (now && now != setting->written)
                 continue;
             const CvxResult result = device.WriteText(setting->name, setting->before);
             if (!result)

@@ -51,7 +51,7 @@ Roundness roundnessOf(const std::vector<RoundTarget> &targets, std::size_t image
 std::chrono::milliseconds pictureLimit(const LineScanCamera &camera)
 {
     using Seconds = std::chrono::duration<double>;
-    constexpr std::chrono::milliseconds unknownLimit{60'000};
+    constexpr std::chrono::milliseconds unknownLimit = std::chrono::minutes(1);
     constexpr Seconds longest{3600};
     const LineFeatureState *const trigger = camera.find(LineFeature::TriggerMode);
     const LineFeatureState *const rate = camera.find(LineFeature::LineRate);
