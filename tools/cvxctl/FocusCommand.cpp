@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace {
 
@@ -55,13 +56,24 @@ Sentence measureTurn(
     const MeasureProgress progress = [&](std::size_t, std::size_t) {
         return context.progress(std::min(static_cast<std::size_t>(now()), steps - 1), steps);
     };
-    do {
-        Sentence problem = takeImages({context.device, context.frames, progress}, 1, usualImageLimit,
-            [&](const CvxCPP::Image &image) { return meter.measure(rawImage(image), focus, result.last); });
-        if (!problem.isEmpty())
+    const double interval = seconds / FocusHistory::maxSamples; // The history holds the whole turn.
+    double next = 0;
+    bool isOver = false;
+    const auto take = [&](const CvxCPP::Image &image) -> Sentence {
+        if (now() < next)
+            return {};
+        next = now() + interval;
+        if (Sentence problem = meter.measure(rawImage(image), focus, result.last); !problem.isEmpty())
             return problem;
         history.add(now(), result.last);
-    } while (now() < seconds);
+        isOver = now() >= seconds;
+        return isOver ? untranslated("The time is over.") : Sentence{}; // Ends the loop; is not shown.
+    };
+    const std::size_t count = seconds > 0 ? std::numeric_limits<std::size_t>::max() : 1;
+    const Sentence ended
+        = takeImages({context.device, context.frames, progress}, count, usualImageLimit, take);
+    if (!ended.isEmpty() && !isOver)
+        return ended;
     result.samples.assign(history.samples().begin(), history.samples().end());
     if (seconds <= 0)
         return {};
@@ -69,7 +81,7 @@ Sentence measureTurn(
     for (std::size_t i = 0; i < result.last.regions.size(); ++i)
         result.regionShares.push_back(history.regionShare(i));
     result.analysis = analyseFocus(history.lastTurn());
-    return result.last.problem;
+    return history.samples().empty() ? result.last.problem : Sentence{};
 }
 
 Sentence measureSweep(const MeasureContext &context, const FocusOptions &focus,
@@ -99,7 +111,8 @@ Sentence measureFocus(const FocusCommandOptions &options, const MeasureContext &
         if (readPosition(context.device, *axis, position))
             result.position = position;
     }
-    return result.last.problem;
+    // After a turn, the last picture may be blurred.
+    return options.seconds > 0 ? Sentence{} : result.last.problem;
 }
 
 std::string focusNumber(double value, int decimals)

@@ -7,11 +7,14 @@
 #include "tools/kit/measure/linescan/PlanBuilder.h"
 #include "tools/kit/measure/linescan/PlanWriter.h"
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace CvxCPP;
 
 namespace {
+
+constexpr std::size_t imagesPerTarget = 3; // That are taken before the search for targets is given up.
 
 struct LineScanOptions
 {
@@ -121,12 +124,14 @@ public:
     {
         RoundnessOptions options;
         options.targets = m_options.targets;
+        options.maxImages = std::max(options.maxImages, imagesPerTarget * options.targets);
         if (m_options.columns.size() == 2)
             options.columns = {m_options.columns[0], m_options.columns[1], {}};
         Roundness roundness;
         if (const CvxResult read = readLineScanCamera(context.device, m_camera); !read)
             return untranslated(read.text);
-        if (const Sentence problem = measureRoundness(context, options, roundness); !problem.isEmpty())
+        if (const Sentence problem = measureRoundness(context, m_camera, options, roundness);
+            !problem.isEmpty())
             return problem;
         measured = roundness;
         if (!m_options.isJson)

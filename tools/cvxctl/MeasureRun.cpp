@@ -8,6 +8,7 @@
 #include "tools/kit/measure/run/StreamFrames.h"
 
 #include <cstdio>
+#include <optional>
 #include <unistd.h>
 
 using namespace CvxCPP;
@@ -46,6 +47,12 @@ private:
     std::size_t m_total = 0;
 };
 
+std::optional<std::string> readText(Device &device, const std::string &name)
+{
+    std::string text;
+    return device.ReadText(name, text) ? std::optional(text) : std::nullopt;
+}
+
 /// Writes the values of --set and knows what was there before.
 class MeasureSettings
 {
@@ -54,22 +61,25 @@ public:
     {
         for (const std::string &assignment : assignments) {
             const std::string name = assignedName(assignment);
-            std::string before;
-            const bool isReadable = bool(device.ReadText(name, before));
+            const std::optional<std::string> before = readText(device, name);
             if (const ExitStatus status = writeAssignment(device, assignment))
                 return status;
-            if (isReadable)
-                m_before.emplace_back(name, before);
+            if (before)
+                m_settings.push_back({name, *before, readText(device, name)});
         }
         return exitSuccess;
     }
 
-    /// Prints an error for each value that the camera refuses.
+    /// Leaves the settings alone that the measurement has set since. Prints an error for each value that the
+    /// camera refuses.
     ExitStatus putBack(Device &device)
     {
         ExitStatus status = exitSuccess;
-        for (auto setting = m_before.rbegin(); setting != m_before.rend(); ++setting) {
-            const CvxResult result = device.WriteText(setting->first, setting->second);
+        for (auto setting = m_settings.rbegin(); setting != m_settings.rend(); ++setting) {
+            const auto now = setting->written ? readText(device, setting->name) : std::nullopt;
+            if (now && now != setting->written)
+                continue;
+            const CvxResult result = device.WriteText(setting->name, setting->before);
             if (!result)
                 status = reportFailure(result);
         }
@@ -77,7 +87,13 @@ public:
     }
 
 private:
-    std::vector<std::pair<std::string, std::string>> m_before; // In the order of the writes.
+    struct Setting
+    {
+        std::string name;
+        std::string before;
+        std::optional<std::string> written; // As the camera shows it.
+    };
+    std::vector<Setting> m_settings; // In the order of the writes.
 };
 
 /// Runs the work with a stream. Prints an error on failure.

@@ -91,7 +91,7 @@ void LineScanWindow::measure()
     const auto camera = std::make_shared<LineScanCamera>();
     const auto work = [=](const MeasureContext &context, const CameraRecord &) {
         const CvxCPP::CvxResult read = readLineScanCamera(context.device, *camera);
-        return read ? measureRoundness(context, options, *roundness) : untranslated(read.text);
+        return read ? measureRoundness(context, *camera, options, *roundness) : untranslated(read.text);
     };
     job().start(tr("Measuring the target"), MeasureJob::Changes::PutBack, work, this,
         [this, roundness, camera](const QString &problem) {

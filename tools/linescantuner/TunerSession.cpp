@@ -113,7 +113,7 @@ void TunerSession::write(const std::vector<PlannedSetting> &settings, bool isUnd
     m_isBusy = true;
     const auto problem = std::make_shared<Sentence>();
     const auto call = [problem, settings](CvxCPP::Device &device) {
-        *problem = writeSettings(device, settings);
+        *problem = writeSettingsSafely(device, settings);
         return CvxCPP::CvxResult();
     };
     const auto done = [this, problem, settings, isUndo](const CvxCPP::CvxResult &result) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace CvxCPP;
 
 namespace {
@@ -36,6 +38,7 @@ public:
     explicit SweptCamera(const SensorModel &model) : m_pictures(model), m_scene(model)
     {
         ScriptedDevice::Feature &lens = device.add("FocusPosition", std::int64_t{500});
+        lens.onWrite = [this](NodeValue &value) { positions.push_back(std::get<std::int64_t>(value)); };
         lens.state.minimum = std::int64_t{0};
         lens.state.maximum = std::int64_t{1000};
         lens.state.increment = std::int64_t{1};
@@ -66,6 +69,7 @@ public:
     }
 
     ScriptedDevice device;
+    std::vector<std::int64_t> positions; ///< To which the lens was moved.
     SceneTarget target = SceneTarget::Chart;
     std::size_t cancelAt = 1000;
     std::size_t lastDone = 0;
@@ -95,6 +99,11 @@ TEST(FocusSweep, LensEndsAtTheTruePosition)
         EXPECT_EQ(static_cast<double>(std::get<std::int64_t>(camera.device.value("FocusPosition"))),
             camera.result.bestPosition);
         EXPECT_EQ(camera.result.startPosition, 500);
+        // The movement before it came from below, as all measured positions did.
+        EXPECT_EQ(camera.positions.rbegin()[1], camera.positions.back() - 50);
+        const auto firstFine = std::is_sorted_until(camera.positions.begin(), camera.positions.end());
+        ASSERT_NE(firstFine, camera.positions.end());
+        EXPECT_LT(static_cast<double>(*firstFine), camera.result.fine.front().position);
         EXPECT_EQ(camera.lastDone, camera.lastTotal - 1);
     }
 }

@@ -13,6 +13,7 @@ public:
     {
         addEntries("DeviceScanType", {"Linescan", "Areascan"});
         add("Width", std::int64_t(4096));
+        add("Height", std::int64_t(1000));
         addEntries("PixelFormat", {"Mono8", "Mono12"});
         add("DeviceLinkSpeed", std::int64_t(1'000'000'000));
         add("ExposureTime", 50.0).state.minimum = 2.0;

@@ -112,6 +112,19 @@ TEST(LineScanPlan, higherRateNeedsAShorterExposureFirst)
     EXPECT_TRUE(device.changedValues().empty());
 }
 
+TEST(LineScanPlan, exposureFitsItsIncrementAndIsNeverBelowItsMinimum)
+{
+    LineScanDevice device;
+    NodeState &exposure = device.feature("ExposureTime").state;
+    exposure.increment = std::int64_t(2); // 2, 4 ... µs; the rate leaves 23 µs, to which 24 µs are as near.
+    EXPECT_DOUBLE_EQ(*planFor(device, movingAt(560)).exposure, 22);
+    exposure.minimum = 30.0;
+    const LineRatePlan plan = planFor(device, movingAt(560));
+    EXPECT_DOUBLE_EQ(*plan.exposure, 30);
+    EXPECT_EQ(plan.limit.reason, RateReason::Camera);
+    EXPECT_FALSE(plan.isPossible());
+}
+
 TEST(LineScanPlan, rateIsRoundedToTheIncrement)
 {
     LineScanDevice device;
@@ -120,7 +133,10 @@ TEST(LineScanPlan, rateIsRoundedToTheIncrement)
     EXPECT_DOUBLE_EQ(*plan.rate, 7);
     EXPECT_NEAR(plan.errorPercent, -2, 1e-6);
     ASSERT_EQ(plan.warnings.size(), 1U);
-    EXPECT_TRUE(contains(plan.warnings[0], "2.0 % too flat"));
+    EXPECT_TRUE(contains(plan.warnings[0], "2.0 % too flat. Change the magnification or the speed."));
+    const LineRatePlan encoder = planFor(device, withEncoder(1)); // 71.4 lines per pulse; 32 are possible.
+    ASSERT_EQ(encoder.warnings.size(), 1U);
+    EXPECT_TRUE(contains(encoder.warnings[0], "too flat. Change the magnification, or use another encoder."));
 }
 
 TEST(LineScanPlan, encoderIsSetUpBeforeTheTriggerIsSwitchedOn)
@@ -149,6 +165,30 @@ TEST(LineScanPlan, encoderIsSetUpBeforeTheTriggerIsSwitchedOn)
     // Back to the camera's own rate.
     EXPECT_EQ(texts(PlanBuilder(movingAt(140), camera).build()).front(),
         "TriggerMode [TriggerSelector=LineStart] = Off");
+}
+
+TEST(LineScanPlan, encoderKeepsWhatCannotBeWritten)
+{
+    LineScanDevice device;
+    const auto limits = [&device] {
+        LineScanCamera camera;
+        EXPECT_TRUE(readLineScanCamera(device, camera));
+        return camera.ratioLimits();
+    };
+    EXPECT_EQ(limits().countsPerPulse, (std::vector<int>{1, 4}));
+    device.feature("EncoderDivider").state.maximum = 1e30;
+    EXPECT_EQ(limits().encoderDivider.max, 2'147'483'647);
+    NodeState &mode = device.feature("EncoderMode").state;
+    mode.availableEntries = {"HighResolution"};
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{4});
+    mode.availableEntries = {"FourPhase"};
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{1});
+    mode.availableEntries = {"FourPhase", "HighResolution"};
+    mode.access = NodeAccess::ReadOnly;
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{1});
+    device.set("EncoderSelector", "Encoder0");
+    device.set("EncoderMode", "HighResolution");
+    EXPECT_EQ(limits().countsPerPulse, std::vector<int>{4});
 }
 
 TEST(LineScanPlan, limitsAreNamedWithTheirReason)
@@ -181,6 +221,25 @@ TEST(LineScanPlan, refusedSettingPutsEverythingBack)
     device.feature("TriggerMode").state.lockReason = LockReason::ReadOnlyNode;
     EXPECT_TRUE(contains(applyPlan(device, encoder), "refused TriggerMode [TriggerSelector=LineStart] = On"));
     EXPECT_TRUE(device.changedValues().empty());
+}
+
+TEST(LineScanPlan, crashWhileWritingLeavesNothingBehind)
+{
+    LineScanDevice device;
+    const LineRatePlan plan = planFor(device, movingAt(560));
+    // The camera's process remembers the values while they are written.
+    CvxResult meanwhile;
+    device.feature("AcquisitionLineRate").onWrite
+        = [&](NodeValue &) { meanwhile = device.BeginTemporaryChanges(); };
+    EXPECT_TRUE(writeSettingsSafely(device, plan.settings).isEmpty());
+    EXPECT_EQ(meanwhile.code, CvxErrorAlreadyStarted);
+    EXPECT_EQ(device.EndTemporaryChanges(TemporaryChanges::PutBack).code, CvxErrorNotAvailable);
+    EXPECT_EQ(device.value("AcquisitionLineRate"), NodeValue(40'000.0));
+    EXPECT_TRUE(writeSettingsSafely(device, undoOf(plan.settings)).isEmpty());
+
+    EXPECT_TRUE(contains(writeSettingsSafely(device, planFor(device, movingAt(2000)).settings), "at most"));
+    EXPECT_TRUE(device.changedValues().empty());
+    EXPECT_EQ(device.EndTemporaryChanges(TemporaryChanges::PutBack).code, CvxErrorNotAvailable);
 }
 
 TEST(LineScanPlan, lockOfTheStreamIsNoticed)

@@ -33,6 +33,8 @@ const LimitCase limitCases[] = {
     {"the camera knows the link", {2, 1.0, 125'000.0, 16'384.0, 2.1e9}, 150'000, 2, RateReason::Link,
         125'000},
     {"dead time", {80, 1.0, 10'000.0, {}, {}}, 15'000, 60, RateReason::Exposure, 12'500},
+    {"the exposure cannot be shorter", {80, 60.0, 10'000.0, {}, {}}, 15'000, 60, RateReason::Camera, 12'500},
+    {"the speed of the link is not told", {0, {}, {}, 16'384.0, 0.0}, 1e9, 0, RateReason::None, 0},
     {"nothing is known", {}, 1e9, 0, RateReason::None, 0},
 };
 

@@ -44,6 +44,18 @@ TEST(Roundness, isTheMeanOfTargetsOfOneSize)
     EXPECT_NEAR(roundness.rateFactor(), 1 / 1.08, 1e-9);
 }
 
+TEST(Roundness, slowLinesAreWaitedFor)
+{
+    LineScanDevice device;
+    EXPECT_EQ(pictureLimit(cameraOf(device)).count(), 10'200); // 1000 lines with 10 kHz take 100 ms.
+    device.set("AcquisitionLineRate", 20.0);
+    EXPECT_EQ(pictureLimit(cameraOf(device)).count(), 110'000);
+    device.set("TriggerSelector", "LineStart");
+    device.set("TriggerMode", "On");
+    EXPECT_EQ(pictureLimit(cameraOf(device)).count(), 60'000);
+    EXPECT_EQ(pictureLimit({}).count(), 60'000);
+}
+
 TEST(Roundness, tooTallMeansALowerRate)
 {
     LineScanDevice device;

@@ -34,13 +34,17 @@ public:
             return problem;
         if (Sentence problem = contrastProblem(); !problem.isEmpty())
             return problem;
-        if (Sentence problem = measureRange(fineRange(), m_options.fineSteps, m_result.fine);
-            !problem.isEmpty())
+        const Range fine = fineRange();
+        if (Sentence problem = approach(fine.from); !problem.isEmpty())
+            return problem;
+        if (Sentence problem = measureRange(fine, m_options.fineSteps, m_result.fine); !problem.isEmpty())
             return problem;
         m_result.analysis = analyseFocus(m_result.fine);
         if (!m_result.analysis.best)
             return noPeakSentence();
         m_result.bestPosition = axis.nearest(*m_result.analysis.best);
+        if (Sentence problem = approach(m_result.bestPosition); !problem.isEmpty())
+            return problem;
         return measureAt(m_result.bestPosition, m_result.last);
     }
 
@@ -64,11 +68,27 @@ private:
         return {};
     }
 
-    Sentence measureAt(double position, FocusMeasurement &measurement)
+    double coarseStep() const
+    {
+        return (m_result.axis.max - m_result.axis.min) / static_cast<double>(m_options.coarseSteps - 1);
+    }
+
+    /// Moves the lens below the position, so that it comes from there: the mechanics have play.
+    Sentence approach(double position)
+    {
+        return moveTo(m_result.axis.nearest(std::max(m_result.axis.min, position - coarseStep())));
+    }
+
+    Sentence moveTo(double position)
     {
         if (const CvxResult written = writePosition(m_context.device, m_result.axis, position); !written)
             return untranslated(written.text);
-        if (Sentence problem = waitForLens(); !problem.isEmpty())
+        return waitForLens();
+    }
+
+    Sentence measureAt(double position, FocusMeasurement &measurement)
+    {
+        if (Sentence problem = moveTo(position); !problem.isEmpty())
             return problem;
         const MeasureProgress progress
             = [this](std::size_t, std::size_t) { return m_context.progress(m_done, total()); };
@@ -115,24 +135,35 @@ private:
         return sharpest->measurement.sharpness > minContrast * lowest ? Sentence{} : noPeakSentence();
     }
 
+    /// Returns the coarse sample in which a region is sharpest; null if it is never exposed well.
+    const FocusSample *sharpestCoarse(std::size_t region) const
+    {
+        const FocusSample *sharpest = nullptr;
+        for (const FocusSample &sample : m_result.coarse) {
+            const RegionFocus &focus = sample.measurement.regions[region];
+            if (focus.state == RegionFocus::State::TooDark || focus.state == RegionFocus::State::Clipped)
+                continue;
+            if (!sharpest || focus.sharpness > sharpest->measurement.regions[region].sharpness)
+                sharpest = &sample;
+        }
+        return sharpest;
+    }
+
     /// Returns the range that contains the coarse peaks of nearly all regions.
     Range fineRange() const
     {
         std::vector<double> peaks;
         for (std::size_t region = 0; region < m_options.focus.grid.size(); ++region) {
-            const auto sharpest = std::max_element(m_result.coarse.begin(), m_result.coarse.end(),
-                [region](const FocusSample &a, const FocusSample &b) {
-                    return a.measurement.regions[region].sharpness < b.measurement.regions[region].sharpness;
-                });
-            if (sharpest->measurement.regions[region].isUsable())
+            const FocusSample *const sharpest = sharpestCoarse(region);
+            if (sharpest && sharpest->measurement.regions[region].isUsable())
                 peaks.push_back(sharpest->position);
         }
-        std::sort(peaks.begin(), peaks.end()); // Not empty, because the sharpest picture is usable.
+        if (peaks.empty())
+            return {m_result.axis.min, m_result.axis.max};
+        std::sort(peaks.begin(), peaks.end());
         const auto outer = static_cast<std::size_t>(outerShare * static_cast<double>(peaks.size()));
-        const double step
-            = (m_result.axis.max - m_result.axis.min) / static_cast<double>(m_options.coarseSteps - 1);
-        return {std::max(m_result.axis.min, peaks[outer] - fineMargin * step),
-            std::min(m_result.axis.max, peaks[peaks.size() - 1 - outer] + fineMargin * step)};
+        return {std::max(m_result.axis.min, peaks[outer] - fineMargin * coarseStep()),
+            std::min(m_result.axis.max, peaks[peaks.size() - 1 - outer] + fineMargin * coarseStep())};
     }
 
     static Sentence noPeakSentence()

@@ -5,6 +5,7 @@
 #include "sdk/image/PixelFormat.h"
 
 #include <algorithm>
+#include <limits>
 
 using namespace CvxCPP;
 
@@ -139,6 +140,7 @@ private:
         camera.binning
             = readNumber("BinningHorizontal").value_or(1) * readNumber("DecimationHorizontal").value_or(1);
         camera.sensorPixelSize = readNumber("SensorPixelWidth");
+        camera.linesPerPicture = readNumber("Height");
         RateFacts &facts = camera.facts;
         if (const LineFeatureState *const exposure = camera.find(LineFeature::ExposureTime)) {
             facts.exposure = exposure->number();
@@ -215,11 +217,14 @@ FactorRange factorRange(const LineFeatureState *feature)
     const auto present = static_cast<std::int64_t>(feature->number());
     if (feature->state.access != NodeAccess::ReadWrite)
         return {present, present, 1};
-    FactorRange range{1, present, 1};
+    constexpr std::int64_t largestFactor = std::numeric_limits<std::int32_t>::max();
+    FactorRange range{1, largestFactor, 1};
     if (const auto minimum = feature->minimum())
         range.min = std::max<std::int64_t>(1, static_cast<std::int64_t>(*minimum));
-    if (const auto maximum = feature->maximum())
-        range.max = std::max(range.min, static_cast<std::int64_t>(*maximum));
+    if (const auto maximum = feature->maximum()) {
+        const double limited = std::min(*maximum, static_cast<double>(largestFactor));
+        range.max = std::max(range.min, static_cast<std::int64_t>(limited));
+    }
     if (const auto increment = numberOf(feature->state.increment))
         range.increment = std::max<std::int64_t>(1, static_cast<std::int64_t>(*increment));
     return range;
@@ -230,7 +235,19 @@ std::int64_t factorOf(const LineFeatureState *feature)
     return feature ? std::max<std::int64_t>(1, static_cast<std::int64_t>(feature->number())) : 1;
 }
 
+constexpr char fourPhase[] = "FourPhase";
 constexpr char highResolution[] = "HighResolution";
+
+/// Returns what the mode of the encoder can be set to, as in RatioLimits.
+std::vector<int> countsPerPulse(const LineScanCamera &camera)
+{
+    const LineFeatureState *const mode = camera.find(LineFeature::EncoderMode);
+    if (mode && mode->state.access != NodeAccess::ReadWrite)
+        return {camera.presentRatio().countsPerPulse};
+    if (!mode || !mode->allows(highResolution))
+        return {1};
+    return mode->allows(fourPhase) ? std::vector<int>{1, 4} : std::vector<int>{4};
+}
 
 } // namespace
 
@@ -290,9 +307,7 @@ EncoderRatio LineScanCamera::presentRatio() const
 RatioLimits LineScanCamera::ratioLimits() const
 {
     RatioLimits limits;
-    const LineFeatureState *const mode = find(LineFeature::EncoderMode);
-    if (mode && mode->allows(highResolution))
-        limits.countsPerPulse = {1, 4};
+    limits.countsPerPulse = countsPerPulse(*this);
     limits.multiplier = factorRange(find(LineFeature::TriggerMultiplier));
     limits.encoderDivider = factorRange(find(LineFeature::EncoderDivider));
     limits.triggerDivider = factorRange(find(LineFeature::TriggerDivider));

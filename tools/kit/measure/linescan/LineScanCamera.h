@@ -48,6 +48,7 @@ struct LineScanCamera
     bool takesLines = false; ///< False for a camera that takes whole pictures.
     double binning = 1; ///< Pixels of the sensor per pixel of the picture, across the movement.
     std::optional<double> sensorPixelSize; ///< Micrometres, if the camera says it.
+    std::optional<double> linesPerPicture;
     RateFacts facts;
     std::map<LineFeature, LineFeatureState> features; ///< Those that the camera has at present.
 

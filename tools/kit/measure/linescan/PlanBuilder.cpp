@@ -20,26 +20,32 @@ double roundedDown(double value)
     return std::floor(value * stepsPerUnit + calculationError) / stepsPerUnit;
 }
 
+/// Returns 0 if the feature allows every value.
+double incrementOf(const LineFeatureState &feature)
+{
+    const auto *const real = std::get_if<double>(&feature.state.increment);
+    const auto *const integer = std::get_if<std::int64_t>(&feature.state.increment);
+    return real ? *real : integer ? static_cast<double>(*integer) : 0;
+}
+
 /// Returns the nearest value that the feature allows.
 double allowedNumber(const LineFeatureState &feature, double value)
 {
     const double minimum = feature.minimum().value_or(value);
-    const auto *const real = std::get_if<double>(&feature.state.increment);
-    const auto *const integer = std::get_if<std::int64_t>(&feature.state.increment);
-    const double increment = real ? *real : integer ? static_cast<double>(*integer) : 0;
+    const double increment = incrementOf(feature);
     if (increment > 0)
         value = minimum + std::round((value - minimum) / increment) * increment;
     return std::max(value, minimum);
 }
 
-/// Returns the longest exposure that the feature allows and that is not longer than the limit.
+/// Returns the longest exposure that the feature allows and that is not longer than the limit, or the
+/// shortest one that it allows.
 double allowedExposure(const LineFeatureState &feature, double limit)
 {
     const double nearest = allowedNumber(feature, limit);
     if (nearest <= limit)
         return nearest;
-    const auto *const increment = std::get_if<double>(&feature.state.increment);
-    return increment ? nearest - *increment : nearest;
+    return std::max(nearest - incrementOf(feature), feature.minimum().value_or(0));
 }
 
 NodeValue asValueOf(const LineFeatureState &feature, double number)
@@ -156,14 +162,28 @@ void PlanBuilder::checkLimits()
                                        "to %2 µs, so the picture becomes darker: add light or gain."),
             {SentenceNumber{m_camera.facts.exposure, 1}, SentenceNumber{*m_plan.exposure, 1}}});
     if (std::abs(m_plan.errorPercent) > largeErrorPercent)
-        m_plan.warnings.push_back({m_plan.errorPercent > 0
-                ? QT_TRANSLATE_NOOP("Sentence",
+        m_plan.warnings.push_back(errorSentence());
+}
+
+Sentence PlanBuilder::errorSentence() const
+{
+    const SentenceNumber percent{std::abs(m_plan.errorPercent), 1};
+    const bool isTooTall = m_plan.errorPercent > 0;
+    if (isEncoder())
+        return {isTooTall ? QT_TRANSLATE_NOOP("Sentence",
                     "The closest setting of the camera makes objects %1 % too tall. Change the "
                     "magnification, or use another encoder.")
-                : QT_TRANSLATE_NOOP("Sentence",
-                    "The closest setting of the camera makes objects %1 % too flat. Change the "
-                    "magnification, or use another encoder."),
-            {SentenceNumber{std::abs(m_plan.errorPercent), 1}}});
+                          : QT_TRANSLATE_NOOP("Sentence",
+                              "The closest setting of the camera makes objects %1 % too flat. Change the "
+                              "magnification, or use another encoder."),
+            {percent}};
+    return {isTooTall ? QT_TRANSLATE_NOOP("Sentence",
+                "The closest setting of the camera makes objects %1 % too tall. Change the magnification or "
+                "the speed.")
+                      : QT_TRANSLATE_NOOP("Sentence",
+                          "The closest setting of the camera makes objects %1 % too flat. Change the "
+                          "magnification or the speed."),
+        {percent}};
 }
 
 void PlanBuilder::planRate()

@@ -19,6 +19,7 @@ private:
     bool calculateRatio();
     void calculateExposure();
     void checkLimits();
+    Sentence errorSentence() const;
     void planRate();
     void planEncoder();
     void planTriggerFactors(const EncoderRatio &ratio);

@@ -83,6 +83,18 @@ Sentence writeSettings(Device &device, const std::vector<PlannedSetting> &settin
     return problem.isEmpty() && !restored ? untranslated(restored.text) : problem;
 }
 
+Sentence writeSettingsSafely(Device &device, const std::vector<PlannedSetting> &settings)
+{
+    const CvxResult begun = device.BeginTemporaryChanges();
+    // Settings that an earlier measurement could not put back are still remembered.
+    if (!begun && begun.code != CvxErrorAlreadyStarted)
+        return untranslated(begun.text);
+    const Sentence problem = writeSettings(device, settings);
+    const CvxResult ended
+        = device.EndTemporaryChanges(problem.isEmpty() ? TemporaryChanges::Keep : TemporaryChanges::PutBack);
+    return problem.isEmpty() && !ended ? untranslated(ended.text) : problem;
+}
+
 std::vector<PlannedSetting> undoOf(const std::vector<PlannedSetting> &settings)
 {
     std::vector<PlannedSetting> undo(settings.rbegin(), settings.rend());

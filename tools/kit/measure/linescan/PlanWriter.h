@@ -7,6 +7,10 @@
 /// The selectors are as before in any case.
 Sentence writeSettings(CvxCPP::Device &device, const std::vector<PlannedSetting> &settings);
 
+/// Does the same as temporary changes, which are kept if everything was written: the camera's process puts
+/// back what was written if the program crashes meanwhile.
+Sentence writeSettingsSafely(CvxCPP::Device &device, const std::vector<PlannedSetting> &settings);
+
 /// Returns the settings that undo the written ones.
 std::vector<PlannedSetting> undoOf(const std::vector<PlannedSetting> &settings);
 

@@ -38,7 +38,7 @@ double RateLimits::longestExposure(double rate) const
 
 std::optional<double> RateLimits::linkRate() const
 {
-    if (!m_facts.linkSpeed || !m_facts.bytesPerLine)
+    if (m_facts.linkSpeed.value_or(0) <= 0 || m_facts.bytesPerLine.value_or(0) <= 0)
         return std::nullopt;
     return *m_facts.linkSpeed / *m_facts.bytesPerLine;
 }
@@ -52,8 +52,11 @@ RateLimit RateLimits::lowest(double exposure) const
     };
     if (const std::optional<double> link = linkRate())
         offer(RateReason::Link, *link);
+    const bool isShortest
+        = m_facts.shortestExposure && exposure <= *m_facts.shortestExposure * (1 + roundingShare);
     if (exposure > 0)
-        offer(RateReason::Exposure, microsecondsPerSecond / (exposure + deadTime().value_or(0)));
+        offer(isShortest ? RateReason::Camera : RateReason::Exposure,
+            microsecondsPerSecond / (exposure + deadTime().value_or(0)));
     if (m_facts.maxRate && !isExposureLimiting())
         offer(isLinkInMaxRate() ? RateReason::Link : RateReason::Camera, *m_facts.maxRate);
     return lowest;

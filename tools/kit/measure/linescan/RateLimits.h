@@ -31,6 +31,7 @@ struct RateLimit
 /// expose, so the highest rate is 1 / (exposure + dead time). The camera reports the highest rate for its
 /// present exposure. If the exposure takes at least half of that line, the exposure is the limit, and the
 /// rest of the line is the dead time. Otherwise, the camera or its link is the limit, whatever the exposure.
+/// The camera is also the limit if its exposure cannot be shorter.
 class RateLimits
 {
 public:
@@ -42,7 +43,7 @@ public:
     /// Returns the longest exposure at a line rate; 0 if there is no time for any.
     double longestExposure(double rate) const;
 
-    /// Returns the highest rate that the link carries.
+    /// Returns the highest rate that the link carries; nothing if the camera does not tell its speed.
     std::optional<double> linkRate() const;
 
     /// Returns the limit for the exposure that is the lowest one: if the reason is None, no limit is known.

@@ -48,8 +48,23 @@ Roundness roundnessOf(const std::vector<RoundTarget> &targets, std::size_t image
     return roundness;
 }
 
-Sentence measureRoundness(
-    const MeasureContext &context, const RoundnessOptions &options, Roundness &roundness)
+std::chrono::milliseconds pictureLimit(const LineScanCamera &camera)
+{
+    using Seconds = std::chrono::duration<double>;
+    constexpr std::chrono::milliseconds unknownLimit = std::chrono::minutes(1);
+    constexpr Seconds longest{3600};
+    const LineFeatureState *const trigger = camera.find(LineFeature::TriggerMode);
+    const LineFeatureState *const rate = camera.find(LineFeature::LineRate);
+    const bool isTriggered = trigger && trigger->text() == "On";
+    if (isTriggered || !camera.linesPerPicture || !rate || rate->number() <= 0)
+        return unknownLimit;
+    const Seconds lines{2 * *camera.linesPerPicture / rate->number()};
+    return usualImageLimit
+        + std::chrono::duration_cast<std::chrono::milliseconds>(std::min<Seconds>(lines, longest));
+}
+
+Sentence measureRoundness(const MeasureContext &context, const LineScanCamera &camera,
+    const RoundnessOptions &options, Roundness &roundness)
 {
     RoundTargetFinder finder;
     std::vector<RoundTarget> targets;
@@ -67,8 +82,8 @@ Sentence measureRoundness(
             targets.push_back(*search.target);
         return targets.size() < options.targets ? Sentence() : enough;
     };
-    const Sentence ended
-        = takeImages({context.device, context.frames, progress}, options.maxImages, usualImageLimit, take);
+    const Sentence ended = takeImages(
+        {context.device, context.frames, progress}, options.maxImages, pictureLimit(camera), take);
     if (!ended.isEmpty() && targets.size() < options.targets)
         return ended;
     if (targets.empty())

@@ -5,6 +5,7 @@
 #include "tools/kit/measure/linescan/RoundTarget.h"
 #include "tools/kit/measure/run/MeasureContext.h"
 
+#include <chrono>
 #include <vector>
 
 /// The width to height of a round target in several pictures.
@@ -38,9 +39,14 @@ struct RoundnessOptions
     TargetColumns columns;
 };
 
+/// Returns how long to wait for a picture: its lines take the longer the lower their rate is. A minute if
+/// something else than the camera starts the lines.
+std::chrono::milliseconds pictureLimit(const LineScanCamera &camera);
+
 /// Measures the target in the pictures of a camera. Returns why that is not possible.
-Sentence measureRoundness(
-    const MeasureContext &context, const RoundnessOptions &options, Roundness &roundness);
+/// @param camera Its present settings.
+Sentence measureRoundness(const MeasureContext &context, const LineScanCamera &camera,
+    const RoundnessOptions &options, Roundness &roundness);
 
 /// Returns the result as a sentence with what to do, for example "The circle is 8.0 % too tall: lower the
 /// line rate from 10.800 kHz to 10.000 kHz."
