@@ -106,7 +106,7 @@ void ResultBox::show(const DefectResult &result)
         m_counts[int(counts.byKind.size()) + i]->setText(QLocale().toString(qulonglong(groups[i])));
     m_threshold->setThreshold(result.threshold);
     m_list->setDefects(result.map, result.groups);
-    setEnabled(true);
+    setVisible(true);
     m_countBox->setEnabled(true);
 }
 
@@ -119,7 +119,7 @@ void ResultBox::clear()
     m_list->setDefects({}, {});
     m_repaired->setChecked(false);
     setRepairProblem({});
-    setEnabled(false);
+    setVisible(false);
     m_countBox->setEnabled(false);
 }
 

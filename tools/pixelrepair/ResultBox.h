@@ -26,7 +26,7 @@ public:
     QWidget *counts() { return m_countBox; }
 
     void show(const DefectResult &result);
-    void clear();
+    void clear(); ///< Also hides the box.
 
     bool hasMarks() const;
     bool isRepaired() const;
