@@ -60,8 +60,7 @@ public:
     /// Returns the percentage in the first row of the table.
     double shading(int column)
     {
-        return QLocale().toDouble(
-            find<QTableWidget>()->item(0, column)->text().section(QLatin1Char(' '), 0, 0));
+        return QLocale().toDouble(find<QTableWidget>()->item(0, column)->text().section(QChar::Nbsp, 0, 0));
     }
 };
 

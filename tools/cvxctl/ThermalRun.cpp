@@ -119,6 +119,8 @@ void ThermalRun::read()
 {
     const TemperatureReading reading = readTemperatures(m_device, m_source);
     const double now = elapsed();
+    if (m_options.isDark)
+        measureDark(now);
     const auto changes = m_monitor->add(now, utcNow(), reading.celsius);
     if (reading.problem.text != m_readProblem) {
         m_readProblem = reading.problem.text;
@@ -131,24 +133,38 @@ void ThermalRun::read()
         m_logProblem = problem;
         report(problem.empty() ? "the log goes on" : problem);
     }
-    if (m_options.isDark && m_newest)
-        measureDark(now);
     m_progress.update(*m_monitor);
 }
 
 void ThermalRun::measureDark(double seconds)
 {
+    if (!m_newest) {
+        reportMissingImages(seconds);
+        return;
+    }
     DarkLevel level;
     Sentence problem = m_meter.measure(rawImage(*m_newest), level);
     m_newest.reset();
+    m_awaitsImage = false;
     if (problem.isEmpty()) {
-        m_monitor->addDark(seconds, level);
+        m_monitor->setDark(level);
         problem = DarkMeter::hint(level);
     }
     if (const std::string text = toEnglish(problem); text != m_darkProblem) {
         m_darkProblem = text;
         report(text);
     }
+}
+
+void ThermalRun::reportMissingImages(double seconds)
+{
+    constexpr double longestWait = 10;
+    if (!m_awaitsImage || seconds < longestWait)
+        return;
+    m_awaitsImage = false;
+    report("The camera has sent no image, so the dark level cannot be measured. Trigger it, or set "
+           "TriggerMode to "
+           "Off.");
 }
 
 void ThermalRun::report(const std::string &text)

@@ -65,6 +65,7 @@ private:
     bool waitUntil(double seconds);
     void read();
     void measureDark(double seconds);
+    void reportMissingImages(double seconds);
     void report(const std::string &text);
 
     CvxCPP::Device &m_device;
@@ -75,6 +76,7 @@ private:
     std::chrono::steady_clock::time_point m_begin;
     std::shared_ptr<const CvxCPP::Image> m_newest;
     DarkMeter m_meter;
+    bool m_awaitsImage = true; // No image has come, and that was not reported.
     // The last messages, which are not repeated.
     std::string m_readProblem;
     std::string m_logProblem;

@@ -15,7 +15,8 @@ constexpr double evenShading = 0.02; // Nobody sees this.
 
 QString percentText(double share, int decimals = 2)
 {
-    return FlatFieldTexts::tr("%1 %").arg(QLocale().toString(share * percent, 'f', decimals));
+    const QString number = QLocale().toString(share * percent, 'f', decimals);
+    return FlatFieldTexts::tr("%1 %").arg(number).replace(QLatin1Char(' '), QChar::Nbsp);
 }
 
 QString valueText(double value)

@@ -66,9 +66,9 @@ FlatFieldPanel::FlatFieldPanel(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(big);
     layout->addWidget(m_steps);
+    layout->addWidget(m_plot);
     layout->addWidget(m_numbers);
     layout->addWidget(m_summary);
-    layout->addWidget(m_plot);
     reset();
 }
 
@@ -130,6 +130,7 @@ void FlatFieldPanel::createNumbers()
     m_numbers->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_numbers->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_numbers->setSelectionMode(QAbstractItemView::NoSelection);
+    m_numbers->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_numbers->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_numbers->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_numbers->setToolTip(tr(
@@ -144,7 +145,7 @@ void FlatFieldPanel::createPlot()
     m_plot->setAccessibleName(tr("Mean of the columns, before and after"));
     m_plot->setHorizontalAxis(Plot::Axis::Numbers, tr("Column"));
     m_plot->setVerticalAxis(tr("% of the mean"));
-    m_plot->setMinimumHeight(plotHeight);
+    m_plot->setFixedHeight(plotHeight);
     m_plot->addCurve(tr("Before"));
     m_plot->addCurve(tr("After"));
 }
@@ -174,12 +175,15 @@ void FlatFieldPanel::setBusy(bool isBusy)
     m_setsExposure->setEnabled(!isBusy);
     m_detail->setEnabled(!isBusy);
     m_goal->setEnabled(!isBusy);
+    m_preview->setEnabled(!isBusy && m_hasResult);
 }
 
 void FlatFieldPanel::showDarkTaken(const QStringList &warnings)
 {
     clearResult();
     m_steps->setCurrent(BrightStep);
+    m_steps->step(BrightStep)->setResult({});
+    m_steps->step(SaveStep)->setResult({});
     m_steps->step(DarkStep)->setResult(
         resultText(tr("The dark images are taken."), warnings), warnings.isEmpty() ? "good" : "warning");
 }
@@ -214,6 +218,7 @@ void FlatFieldPanel::showResult(const FlatFieldResult &result, const QStringList
     for (QWidget *widget : {static_cast<QWidget *>(m_numbers), static_cast<QWidget *>(m_summary),
              static_cast<QWidget *>(m_plot)})
         widget->show();
+    m_hasResult = true;
     m_preview->setEnabled(true);
 }
 
@@ -244,6 +249,7 @@ void FlatFieldPanel::clearResult()
     m_numbers->hide();
     m_summary->hide();
     m_plot->hide();
+    m_hasResult = false;
     m_preview->setChecked(false);
     m_preview->setEnabled(false);
 }

@@ -30,7 +30,7 @@ public:
 
     void showLevel(const std::optional<LiveLevel> &level);
 
-    /// Disables the steps while something is measured.
+    /// Disables the steps and the preview while something is measured.
     void setBusy(bool isBusy);
 
     void showDarkTaken(const QStringList &warnings);
@@ -75,4 +75,5 @@ private:
     QTableWidget *m_numbers;
     QLabel *m_summary;
     Plot *m_plot;
+    bool m_hasResult = false;
 };

@@ -67,7 +67,6 @@ void FlatFieldWindow::createMenu()
     m_save = resultMenu()->addAction(
         ToolIcons::icon(ToolIcons::Kind::Save), tr("&Save the correction…"), this, &FlatFieldWindow::save);
     m_save->setShortcut(QKeySequence::Save);
-    m_save->setEnabled(false);
 }
 
 /// The thread of the analysis calls this function.
@@ -85,14 +84,15 @@ void FlatFieldWindow::followCamera()
         m_session = std::make_shared<Session>();
         m_panel->reset();
         m_levels->clear();
-        m_save->setEnabled(false);
     }
     followJob();
 }
 
+/// The thread of the measurement changes the result, so nothing else uses it meanwhile.
 void FlatFieldWindow::followJob()
 {
     m_panel->setBusy(job().isRunning() || !canMeasure());
+    m_save->setEnabled(!job().isRunning() && m_session->measurement.result());
 }
 
 void FlatFieldWindow::takeDark()
@@ -115,7 +115,6 @@ void FlatFieldWindow::showDark(const QString &problem)
     QStringList texts;
     for (const Sentence &warning : m_session->measurement.darkWarnings())
         texts.append(translatedSentence(warning));
-    m_save->setEnabled(false);
     m_panel->showDarkTaken(texts);
 }
 
@@ -137,8 +136,9 @@ void FlatFieldWindow::showBright(const QString &problem)
         m_panel->showBrightProblem(problem);
         return;
     }
-    m_panel->showResult(*m_session->measurement.result(), warnings());
-    m_save->setEnabled(true);
+    // The first step shows the warnings about the dark images.
+    m_panel->showResult(
+        *m_session->measurement.result(), warnings().mid(int(m_session->measurement.darkWarnings().size())));
 }
 
 QStringList FlatFieldWindow::warnings() const

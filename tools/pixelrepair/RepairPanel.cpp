@@ -40,6 +40,7 @@ RepairPanel::RepairPanel(ToolSettings &settings, QWidget *parent)
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
+    layout->addWidget(m_result->counts());
     layout->addWidget(m_steps);
     layout->addWidget(m_result);
     connect(dark, &StepCard::triggered, this, &RepairPanel::darkRequested);

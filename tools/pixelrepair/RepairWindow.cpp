@@ -57,9 +57,9 @@ AssistantWindow::Plan RepairWindow::plan(const QString &camera)
 {
     Plan plan;
     plan.setup = {tr("Pixel Repair"), camera, QStringLiteral("pixel-repair")};
-    plan.settings = QStringList{QStringLiteral("ExposureTime"), QStringLiteral("Gain"),
-        QStringLiteral("BlackLevel"), QStringLiteral("PixelFormat"), QStringLiteral("AcquisitionFrameRate"),
-        QStringLiteral("SceneTarget")};
+    plan.settings = QStringList{QStringLiteral("SceneTarget"), QStringLiteral("ExposureTime"),
+        QStringLiteral("Gain"), QStringLiteral("BlackLevel"), QStringLiteral("PixelFormat"),
+        QStringLiteral("AcquisitionFrameRate")};
     return plan;
 }
 

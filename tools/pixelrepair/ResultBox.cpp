@@ -21,7 +21,8 @@ constexpr int minTableHeight = 220;
 
 ResultBox::ResultBox(QWidget *parent)
     : QWidget(parent),
-      m_total(new BigNumber(tr("Defect pixels"), this)),
+      m_countBox(new QWidget(this)),
+      m_total(new BigNumber(tr("Defect pixels"), m_countBox)),
       m_threshold(new ThresholdControl(this)),
       m_marks(new QCheckBox(tr("&Mark the defect pixels"), this)),
       m_repaired(new QCheckBox(tr("Show the &repaired picture"), this)),
@@ -45,11 +46,10 @@ ResultBox::ResultBox(QWidget *parent)
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed); // Fast for many rows.
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_table->setMinimumHeight(minTableHeight);
+    createCounts();
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
-    layout->addWidget(m_total);
-    layout->addWidget(createCounts());
     layout->addWidget(m_threshold);
     layout->addWidget(m_marks);
     layout->addWidget(m_repaired);
@@ -63,19 +63,21 @@ ResultBox::ResultBox(QWidget *parent)
     clear();
 }
 
-QWidget *ResultBox::createCounts()
+void ResultBox::createCounts()
 {
-    auto *const counts = new QWidget(this);
-    auto *const layout = new QGridLayout(counts);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *const column = new QVBoxLayout(m_countBox);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto *const layout = new QGridLayout;
+    column->addWidget(m_total);
+    column->addLayout(layout);
     layout->setVerticalSpacing(2);
     const auto add = [&](const QString &text, const QString &toolTip, const QColor &color) {
         const int place = m_counts.size();
         // The square has the colour of the marks.
         const QString square = QStringLiteral("<span style=\"color:%1\">■</span> ").arg(color.name());
-        auto *const name = new QLabel(color.isValid() ? square + text : text, counts);
+        auto *const name = new QLabel(color.isValid() ? square + text : text, m_countBox);
         name->setToolTip(toolTip);
-        m_counts.append(new QLabel(counts));
+        m_counts.append(new QLabel(m_countBox));
         m_counts.last()->setAlignment(Qt::AlignRight);
         m_counts.last()->setAccessibleName(text);
         layout->addWidget(name, place % 4, place / 4 * 2);
@@ -87,7 +89,6 @@ QWidget *ResultBox::createCounts()
     add(tr("Columns"), tr("Parts of columns with eight defect pixels or more."), {});
     add(tr("Lines"), tr("Parts of lines with eight defect pixels or more."), {});
     layout->setHorizontalSpacing(16);
-    return counts;
 }
 
 void ResultBox::show(const DefectResult &result)
@@ -105,7 +106,8 @@ void ResultBox::show(const DefectResult &result)
         m_counts[int(counts.byKind.size()) + i]->setText(QLocale().toString(qulonglong(groups[i])));
     m_threshold->setThreshold(result.threshold);
     m_list->setDefects(result.map, result.groups);
-    setEnabled(true);
+    setVisible(true);
+    m_countBox->setEnabled(true);
 }
 
 void ResultBox::clear()
@@ -117,7 +119,8 @@ void ResultBox::clear()
     m_list->setDefects({}, {});
     m_repaired->setChecked(false);
     setRepairProblem({});
-    setEnabled(false);
+    setVisible(false);
+    m_countBox->setEnabled(false);
 }
 
 bool ResultBox::hasMarks() const

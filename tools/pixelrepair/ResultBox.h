@@ -13,7 +13,8 @@ class QLabel;
 class QTableView;
 class ThresholdControl;
 
-/// What was found: counts, threshold, list, and what is shown on the picture.
+/// What was found: threshold, list, what is shown on the picture, and the counts, which have a place of their
+/// own.
 class ResultBox : public QWidget
 {
     Q_OBJECT
@@ -21,8 +22,11 @@ class ResultBox : public QWidget
 public:
     explicit ResultBox(QWidget *parent = nullptr);
 
+    /// The counts. The caller adds them to a layout.
+    QWidget *counts() { return m_countBox; }
+
     void show(const DefectResult &result);
-    void clear();
+    void clear(); ///< Also hides the box.
 
     bool hasMarks() const;
     bool isRepaired() const;
@@ -37,9 +41,10 @@ signals:
     void selected(const QPoint &sensorPixel);
 
 private:
-    QWidget *createCounts();
+    void createCounts();
     void selectRow(int row);
 
+    QWidget *m_countBox;
     BigNumber *m_total;
     ThresholdControl *m_threshold;
     QVector<QLabel *> m_counts; // Kinds, then clusters, columns and lines.

@@ -183,10 +183,9 @@ void ThermalSession::addMissing()
 
 void ThermalSession::add(const std::vector<std::optional<double>> &celsius)
 {
-    const double seconds = now();
-    const auto changes = m_monitor->add(seconds, utcNow(), celsius);
     if (const std::optional<DarkLevel> level = std::exchange(m_darkLevel, std::nullopt))
-        m_monitor->addDark(seconds, *level);
+        m_monitor->setDark(*level);
+    const auto changes = m_monitor->add(now(), utcNow(), celsius);
     for (const ThermalMonitor::AlertChange &change : changes)
         emit alerted(change);
     emit changed();

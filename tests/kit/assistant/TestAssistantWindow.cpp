@@ -3,6 +3,7 @@
 #include "tools/kit/assistant/AssistantWindow.h"
 #include "tools/kit/assistant/CameraSettings.h"
 #include "tools/kit/assistant/MeasureBar.h"
+#include "tools/kit/assistant/WheelGuard.h"
 #include "tools/kit/canvas/CanvasOverlay.h"
 #include "tools/kit/canvas/ImageCanvas.h"
 #include "tools/kit/editors/FeatureEditor.h"
@@ -11,6 +12,9 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 #include <QtTest>
 
 #include <optional>
@@ -99,6 +103,7 @@ private slots:
     void measurementIsShownAndCancelledByEscape();
     void closedWindowLeavesTheCameraAsItWas();
     void overlayIsPaintedOverThePicture();
+    void wheelChangesOnlyTheValueWithTheFocus();
     void everyControlHasAnAccessibleName();
 
 private:
@@ -209,6 +214,28 @@ void TestAssistantWindow::overlayIsPaintedOverThePicture()
     QVERIFY(isMarked(canvas));
     canvas.removeOverlay(&overlay);
     QVERIFY(!isMarked(canvas));
+}
+
+void TestAssistantWindow::wheelChangesOnlyTheValueWithTheFocus()
+{
+    QWidget panel;
+    QVBoxLayout layout(&panel);
+    QSpinBox boxes[2];
+    for (QSpinBox &box : boxes)
+        layout.addWidget(&box);
+    const WheelGuard guard(&panel);
+    panel.show();
+    panel.activateWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(panel.isActiveWindow(), 10000);
+    boxes[1].setFocus();
+    for (QSpinBox &box : boxes) {
+        QWheelEvent event(QPointF(5, 5), box.mapToGlobal(QPoint(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&box, &event);
+        QCOMPARE(event.isAccepted(), box.hasFocus());
+    }
+    QCOMPARE(boxes[0].value(), 0);
+    QCOMPARE(boxes[1].value(), 1);
 }
 
 void TestAssistantWindow::everyControlHasAnAccessibleName()

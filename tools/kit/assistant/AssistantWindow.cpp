@@ -2,6 +2,7 @@
 
 #include "tools/kit/assistant/CameraSettings.h"
 #include "tools/kit/assistant/MeasureBar.h"
+#include "tools/kit/assistant/WheelGuard.h"
 #include "tools/kit/canvas/ImageCanvas.h"
 #include "tools/kit/canvas/LivePicture.h"
 #include "tools/kit/start/ToolIcons.h"
@@ -114,6 +115,7 @@ void AssistantWindow::createActions()
 void AssistantWindow::setPanel(QWidget *panel)
 {
     m_panel = panel;
+    new WheelGuard(panel);
     m_panelLayout->insertWidget(m_panelLayout->indexOf(m_cameraSettings), panel);
 }
 

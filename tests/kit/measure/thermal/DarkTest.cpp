@@ -109,6 +109,25 @@ TEST(DarkSeriesTest, staysSilentWithoutDarkCurrent)
     }
 }
 
+TEST(DarkSeriesTest, followsOnlyTheTemperature)
+{
+    // The level leaves the first ones at second 20: alone, against the temperature, and with it.
+    const struct
+    {
+        double celsius;
+        double level;
+        bool isFollowing;
+    } cases[] = {{40.4, 66, false}, {39, 66, false}, {41, 66, true}, {41, 62, false}, {39, 62, true}};
+    for (const auto &after : cases) {
+        DarkSeries series;
+        for (int second = 0; second < 30; ++second)
+            series.add(
+                second, second < 20 ? 40 : after.celsius, {second < 20 ? 64 : after.level, 2, 0.01, 0});
+        EXPECT_EQ(series.followedAt(), after.isFollowing ? std::optional(20.0) : std::nullopt)
+            << after.celsius << ' ' << after.level;
+    }
+}
+
 TEST(DarkSeriesTest, needsAChangeOfTheTemperature)
 {
     DarkSeries series;

@@ -112,6 +112,21 @@ TEST(ForecastAfterChange, doesNotBelieveABendInTheFirstReadings)
     }
 }
 
+TEST(ForecastAfterChange, doesNotBelieveACurveThroughTwoLoads)
+{
+    // Many readings are merged for the fit; merged readings must not pass for roughly rounded ones.
+    TemperatureModel work{32, 51, 500, 0, 0, 1};
+    PlaceMonitor monitor("Sensor");
+    work.feed(monitor, 0, 600, 1);
+    TemperatureModel less{work.truth(600), 48, 200, 0, 0, 1};
+    for (double second = 600; second < 1200; second += 10) {
+        less.feed(monitor, second, second + 10, 1, 600);
+        const auto found = forecast(monitor.history());
+        EXPECT_NEAR(found ? found->end : 48, 48, 0.5) << "at " << second + 10;
+    }
+    EXPECT_TRUE(forecast(monitor.history()));
+}
+
 TEST(ForecastToSteady, countsUntilTheLimit)
 {
     const Forecast fast{51, 0.1, 150, 1, -19, 0};

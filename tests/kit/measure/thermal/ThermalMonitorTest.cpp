@@ -20,10 +20,10 @@ TEST(ThermalMonitorTest, analysesAndDescribesAllPlaces)
     ThermalMonitor monitor({"Main, board", "Sensor"}, "2026-01-31T12:00:00Z");
     const TemperatureModel model;
     for (int second = 0; second < 100; ++second) {
+        if (second == 50)
+            monitor.setDark({4.5, 2, 0.01, 0});
         monitor.add(second, timeText(second),
             {second == 0 ? std::optional(40.0) : std::nullopt, model.truth(second)});
-        if (second == 50)
-            monitor.addDark(second, {4.5, 2, 0.01, 0});
     }
     EXPECT_EQ(monitor.sensorPlace(), 1U);
     EXPECT_FALSE(monitor.isSteady());
@@ -62,6 +62,40 @@ TEST(ThermalMonitorTest, logsReadingsAlertsAndGaps)
     EXPECT_EQ(text.str(),
         "time,Sensor [degC],dark level,event\nT0,45.000,,\nT1,51.000,,Sensor: warning\nT2,,,no reading\n"
         "T5,61.000,,Sensor: alarm\nT6,40.000,,Sensor: normal\n");
+}
+
+TEST(ThermalMonitorTest, logsWhenTheDarkLevelFollows)
+{
+    const std::string path = testing::TempDir() + "thermal-dark-" + std::to_string(getpid()) + ".csv";
+    ThermalMonitor monitor({"Sensor"}, "");
+    ASSERT_EQ(monitor.log().open(path, monitor.placeNames()), "");
+    for (int second = 0; second < 20; ++second) {
+        const double celsius = second < 10 ? 40 : 45;
+        monitor.setDark({second < 10 ? 64.0 : 66.0, 2, 0.01, 0});
+        monitor.add(second, timeText(second), {celsius});
+    }
+    monitor.setDark({66, 2, 0.01, 0});
+    monitor.add(20, timeText(20), {{}}); // A level without temperature is dropped.
+    monitor.add(21, timeText(21), {45});
+    std::stringstream text;
+    text << std::ifstream(path).rdbuf();
+    std::remove(path.c_str());
+    const std::string log = text.str();
+    EXPECT_NE(log.find("\nT9,40.000,64.0000,\nT10,45.000,66.0000,\n"), std::string::npos) << log;
+    EXPECT_NE(log.find("\nT12,45.000,66.0000,dark level follows\nT13,45.000,66.0000,\n"), std::string::npos);
+    EXPECT_NE(log.find("\nT20,,,no reading\nT21,45.000,,\n"), std::string::npos);
+    EXPECT_EQ(log.find("follows"), log.rfind("follows"));
+}
+
+TEST(ThermalMonitorTest, isSteadyIfAllPlacesWithReadingsAre)
+{
+    ThermalMonitor monitor({"Sensor", "Housing"}, "");
+    EXPECT_FALSE(monitor.isSteady());
+    for (int second = 0; second < 60; ++second)
+        monitor.add(second, timeText(second), {45 + 0.001 * (second % 3), std::nullopt});
+    EXPECT_TRUE(monitor.isSteady());
+    monitor.add(60, timeText(60), {45, 30}); // Now there is a place whose state is unknown.
+    EXPECT_FALSE(monitor.isSteady());
 }
 
 TEST(ThermalMonitorTest, followsACameraForADay)

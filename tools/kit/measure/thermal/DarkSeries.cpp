@@ -17,14 +17,15 @@ void DarkSeries::add(double seconds, double celsius, const DarkLevel &level)
     m_levels.add(seconds, level.mean);
     m_temperatures.add(seconds, celsius);
     if (m_noise)
-        checkFollowing(seconds, level.mean);
+        checkFollowing(seconds, celsius, level.mean);
     else
-        learn(level.mean, level.standardError);
+        learn(celsius, level);
 }
 
-void DarkSeries::learn(double level, double standardError)
+void DarkSeries::learn(double celsius, const DarkLevel &level)
 {
-    m_firstLevels.push_back(level);
+    m_firstLevels.push_back(level.mean);
+    m_firstCelsius += celsius / firstCount;
     if (m_firstLevels.size() < firstCount)
         return;
     constexpr double squaresOfWeights = 6; // Of the second difference: 1, -2, 1.
@@ -34,23 +35,24 @@ void DarkSeries::learn(double level, double standardError)
             = m_firstLevels[index] - 2 * m_firstLevels[index - 1] + m_firstLevels[index - 2];
         squares += difference * difference;
     }
-    m_noise = std::max(std::sqrt(squares / squaresOfWeights / (firstCount - 2)), standardError);
+    m_noise = std::max(std::sqrt(squares / squaresOfWeights / (firstCount - 2)), level.standardError);
     m_firstMean = std::accumulate(m_firstLevels.begin(), m_firstLevels.end(), 0.0) / firstCount;
 }
 
-void DarkSeries::checkFollowing(double seconds, double level)
+void DarkSeries::checkFollowing(double seconds, double celsius, double level)
 {
     constexpr int successive = 3;
     constexpr double significant = 3;
+    constexpr double leastChange = 0.5; // Kelvin.
     if (m_followedAt)
         return;
     const double limit = significant * *m_noise * std::sqrt(1 + 1.0 / firstCount);
     const double difference = level - m_firstMean;
-    if (std::abs(difference) <= limit) {
+    const int direction = difference > 0 ? 1 : -1;
+    if (std::abs(difference) <= limit || (celsius - m_firstCelsius) * direction < leastChange) {
         m_deviating = 0;
         return;
     }
-    const int direction = difference > 0 ? 1 : -1;
     if (m_deviating * direction <= 0) {
         m_deviating = 0;
         m_deviatingSince = seconds;

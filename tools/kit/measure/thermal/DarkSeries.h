@@ -35,7 +35,8 @@ public:
 
     /// Returns the time from which the dark level has followed the temperature: the first of three successive
     /// levels that differ from the mean of the first ten, all in one direction, by more than three times the
-    /// noise of that difference. No value if that has not happened.
+    /// noise of that difference, while the temperature differs from that of the first ten by at least 0.5 K
+    /// in the same direction. No value if that has not happened: a level that drifts alone follows nothing.
     std::optional<double> followedAt() const { return m_followedAt; }
 
     /// Fits mu.d(T) = offset + signal · 2^((T - Tmax) / Td), the dark current that doubles every Td (EMVA
@@ -46,13 +47,14 @@ public:
     std::optional<DarkDoubling> doubling() const;
 
 private:
-    void learn(double level, double standardError);
-    void checkFollowing(double seconds, double level);
+    void learn(double celsius, const DarkLevel &level);
+    void checkFollowing(double seconds, double celsius, double level);
 
     BoundedHistory m_levels;
     BoundedHistory m_temperatures; // At the same times, so its points are merged in the same way.
     std::vector<double> m_firstLevels;
     double m_firstMean = 0;
+    double m_firstCelsius = 0; // Mean of the temperatures of the first levels.
     std::optional<double> m_noise;
     int m_deviating = 0; // Number of successive deviating levels; negative for those that are lower.
     double m_deviatingSince = 0;

@@ -22,7 +22,8 @@ std::vector<CurvePoint> fitPoints(const std::vector<HistoryPoint> &points)
 /// Returns the noise of single points, from their second differences, which a slow curve hardly has; see
 /// Gasser, Sroka and Jennen-Steinmetz, "Residual variance and residual pattern in nonlinear regression",
 /// Biometrika 73, 1986. Rounding counts as noise.
-double noiseOf(const std::vector<HistoryPoint> &points)
+/// @param step See roundingStep().
+double noiseOf(const std::vector<HistoryPoint> &points, double step)
 {
     constexpr double squaresOfWeights = 6; // 1, -2, 1
     double squares = 0;
@@ -31,7 +32,7 @@ double noiseOf(const std::vector<HistoryPoint> &points)
         squares += difference * difference;
     }
     const double variance = squares / squaresOfWeights / static_cast<double>(points.size() - 2);
-    return std::hypot(std::sqrt(variance), roundingStep(points) / std::sqrt(12.0));
+    return std::hypot(std::sqrt(variance), step / std::sqrt(12.0));
 }
 
 /// Returns by how many kelvin readings may differ from the curve apart from noise, because no camera follows
@@ -51,14 +52,15 @@ bool describes(const ExponentialFit &fit, double noise, double tolerance)
 }
 
 /// Returns true if the newest points do not leave the curve, however short their time is.
-bool describesNewest(const ExponentialFit &fit, const std::vector<HistoryPoint> &newest, double tolerance)
+bool describesNewest(
+    const ExponentialFit &fit, const std::vector<HistoryPoint> &newest, double step, double tolerance)
 {
     constexpr double significant = 3;
     const double count = static_cast<double>(newest.size());
     double sum = 0;
     for (const HistoryPoint &point : newest)
         sum += point.mean - fit.at(point.middle());
-    return std::abs(sum) / count < significant * noiseOf(newest) / std::sqrt(count) + tolerance;
+    return std::abs(sum) / count < significant * noiseOf(newest, step) / std::sqrt(count) + tolerance;
 }
 
 bool isDetermined(const ExponentialFit &fit, double span)
@@ -103,13 +105,15 @@ std::optional<Forecast> forecast(const BoundedHistory &history)
             all.begin(), all.end(), [&](const HistoryPoint &point) { return point.last >= now - span; });
         if (all.end() - begin < static_cast<std::ptrdiff_t>(fewestPoints))
             return std::nullopt;
+        const double step = roundingStep({begin, all.end()});
         const std::vector<HistoryPoint> few = thinned({begin, all.end()}, mostPoints);
         const std::vector<CurvePoint> points = fitPoints(few);
         const auto fit = fitExponential(points, shortestTimeConstant, mostTimeConstants * span);
         if (!fit)
             continue;
         const double tolerance = toleranceOf(*fit, few);
-        if (!describes(*fit, noiseOf(few), tolerance) || !describesNewest(*fit, newest, tolerance))
+        if (!describes(*fit, noiseOf(few, step), tolerance)
+            || !describesNewest(*fit, newest, step, tolerance))
             continue;
         if (!isDetermined(*fit, span))
             return std::nullopt;

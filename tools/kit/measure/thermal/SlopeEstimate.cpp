@@ -46,10 +46,13 @@ double spread(const std::vector<HistoryPoint> &points, double slope)
 double roundingStep(const std::vector<HistoryPoint> &points)
 {
     constexpr double tolerance = 0.002; // Of a step; 32-bit floating-point numbers are not exact.
+    const auto isReading = [](const HistoryPoint &point) { return point.count == 1; };
+    if (std::none_of(points.begin(), points.end(), isReading))
+        return 0;
     for (const double step : {1.0, 0.5, 0.25, 0.125, 0.1, 0.0625, 0.05, 0.025, 0.02, 0.01}) {
-        const auto isMultiple = [step](const HistoryPoint &point) {
+        const auto isMultiple = [&](const HistoryPoint &point) {
             const double steps = point.mean / step;
-            return point.count > 1 || std::abs(steps - std::round(steps)) < tolerance;
+            return !isReading(point) || std::abs(steps - std::round(steps)) < tolerance;
         };
         if (std::all_of(points.begin(), points.end(), isMultiple))
             return step;

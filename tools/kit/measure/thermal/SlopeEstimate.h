@@ -14,6 +14,7 @@ struct SlopeEstimate
 };
 
 /// Returns the step to which the camera rounds its readings, for example 0.5; 0 if no rounding is visible.
+/// Merged points do not show it, so the points must not be thinned.
 double roundingStep(const std::vector<HistoryPoint> &points);
 
 /// Returns the seconds over which the slope is found: 60 s, or longer for a camera that rounds its readings,

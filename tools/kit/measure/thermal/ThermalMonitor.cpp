@@ -3,6 +3,17 @@
 #include "tools/kit/measure/thermal/ThermalResult.h"
 
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Appends an event to those of the same line of the log.
+void appendEvent(std::string &events, const std::string &event)
+{
+    events += (events.empty() ? "" : "; ") + event;
+}
+
+} // namespace
 
 ThermalMonitor::ThermalMonitor(const std::vector<std::string> &places, std::string start)
     : m_start(std::move(start)), m_places(places.begin(), places.end())
@@ -12,41 +23,41 @@ std::vector<ThermalMonitor::AlertChange> ThermalMonitor::add(
     double seconds, const std::string &time, const std::vector<std::optional<double>> &celsius)
 {
     std::vector<AlertChange> changes;
-    std::string event;
+    std::string events;
     for (std::size_t index = 0; index < m_places.size(); ++index) {
         PlaceMonitor &place = m_places[index];
         if (const auto level = place.add(seconds, celsius[index])) {
             changes.push_back({place.place(), *level, *celsius[index]});
-            event += (event.empty() ? "" : "; ") + (place.place().empty() ? "" : place.place() + ": ")
-                + alertName(*level);
+            appendEvent(events, (place.place().empty() ? "" : place.place() + ": ") + alertName(*level));
         }
         place.analyse();
     }
+    const std::optional<DarkLevel> dark = std::exchange(m_nextDark, std::nullopt);
+    const bool hasDark = dark && celsius[sensorPlace()];
+    if (hasDark && addDark(seconds, *celsius[sensorPlace()], *dark))
+        appendEvent(events, "dark level follows");
     const bool wasLost = m_isLost;
     m_isLost = std::none_of(
         celsius.begin(), celsius.end(), [](const std::optional<double> &value) { return value.has_value(); });
     if (m_isLost)
-        event = "no reading";
-    if (m_log.isOpen() && !(wasLost && m_isLost)) {
-        m_log.append(time, celsius, m_unloggedDark, event);
-        m_unloggedDark.reset();
-    }
+        events = "no reading";
+    if (m_log.isOpen() && !(wasLost && m_isLost))
+        m_log.append(time, celsius, hasDark ? std::optional(dark->mean) : std::nullopt, events);
     return changes;
 }
 
-void ThermalMonitor::addDark(double seconds, const DarkLevel &level)
+/// Returns true if the dark level has begun to follow the temperature.
+bool ThermalMonitor::addDark(double seconds, double celsius, const DarkLevel &level)
 {
-    const std::optional<double> celsius = m_places[sensorPlace()].report().celsius;
-    if (!celsius)
-        return;
-    m_dark.add(seconds, *celsius, level);
-    m_unloggedDark = level.mean;
+    const bool hasFollowed = m_dark.followedAt().has_value();
+    m_dark.add(seconds, celsius, level);
+    return !hasFollowed && m_dark.followedAt();
 }
 
 void ThermalMonitor::clearDark()
 {
     m_dark.clear();
-    m_unloggedDark.reset();
+    m_nextDark.reset();
 }
 
 void ThermalMonitor::setThresholds(const Thresholds &thresholds)
@@ -72,8 +83,12 @@ std::size_t ThermalMonitor::sensorPlace() const
 
 bool ThermalMonitor::isSteady() const
 {
-    return std::all_of(m_places.begin(), m_places.end(),
-        [](const PlaceMonitor &place) { return place.report().state == ThermalState::Steady; });
+    const auto hasReadings = [](const PlaceMonitor &place) { return !place.history().isEmpty(); };
+    const auto isSteadyOrUnread = [&](const PlaceMonitor &place) {
+        return place.report().state == ThermalState::Steady || !hasReadings(place);
+    };
+    return std::any_of(m_places.begin(), m_places.end(), hasReadings)
+        && std::all_of(m_places.begin(), m_places.end(), isSteadyOrUnread);
 }
 
 AlertLevel ThermalMonitor::alert() const

@@ -25,16 +25,17 @@ public:
         double celsius = 0;
     };
 
-    /// Adds a reading, analyses it and appends it to the log. A reading without any value is logged once, so
-    /// the log has a gap while the camera is lost.
+    /// Adds a reading, analyses it and appends it to the log, with what has happened: a changed threshold
+    /// level, or that the dark level follows the temperature from now on. A reading without any value is
+    /// logged once, so the log has a gap while the camera is lost.
     /// @param seconds Since the start; later than at all calls before.
     /// @param time The same moment in UTC.
     std::vector<AlertChange> add(
         double seconds, const std::string &time, const std::vector<std::optional<double>> &celsius);
 
-    /// Adds the level of a dark picture, with the present temperature of the sensor; has no effect while that
-    /// is unknown. The next line of the log contains the level.
-    void addDark(double seconds, const DarkLevel &level);
+    /// Sets the level of a dark picture, which belongs to the next reading; it is dropped if that has no
+    /// temperature of the sensor.
+    void setDark(const DarkLevel &level) { m_nextDark = level; }
     void clearDark();
 
     void setThresholds(const Thresholds &thresholds);
@@ -52,17 +53,20 @@ public:
 
     bool isLost() const { return m_isLost; } ///< The last reading has no value.
 
-    /// Returns true if the temperatures of all places are steady.
+    /// Returns true if the temperatures of all places that have readings are steady, and there is such a
+    /// place.
     bool isSteady() const;
 
     /// Returns the highest level of all places.
     AlertLevel alert() const;
 
 private:
+    bool addDark(double seconds, double celsius, const DarkLevel &level);
+
     std::string m_start;
     std::vector<PlaceMonitor> m_places;
     DarkSeries m_dark;
-    std::optional<double> m_unloggedDark;
+    std::optional<DarkLevel> m_nextDark;
     TemperatureLog m_log;
     bool m_isLost = false;
 };

@@ -2,7 +2,7 @@
 
 #include "sdk/imagefile/Sidecar.h"
 
-#include <cstdio>
+#include <utility>
 
 using Json = nlohmann::ordered_json;
 
@@ -96,9 +96,9 @@ Json thermalDocument(const CameraRecord &camera, const ThermalMonitor &monitor)
     json["created"] = utcNow();
     json.update(cameraJson(camera));
     json["start"] = monitor.start();
-    Json &result = json["result"];
+    Json result;
     result["places"] = Json::array();
-    Json &history = json["history"];
+    Json history;
     history["columns"] = columns;
     for (const PlaceMonitor &place : monitor.places()) {
         result["places"].push_back(toJson(place));
@@ -106,6 +106,8 @@ Json thermalDocument(const CameraRecord &camera, const ThermalMonitor &monitor)
     }
     result["dark"] = toJson(monitor.dark());
     history["dark"] = readingsJson(monitor.dark().levels());
+    json["result"] = std::move(result); // A new member moves the others in memory.
+    json["history"] = std::move(history);
     return json;
 }
 
