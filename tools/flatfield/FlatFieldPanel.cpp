@@ -47,7 +47,7 @@ FlatFieldPanel::FlatFieldPanel(QWidget *parent)
       m_steps(new StepList),
       m_level(new LevelBar),
       m_images(new QSpinBox),
-      m_setsExposure(new QCheckBox(tr("Set the exposure time"))),
+      m_setsExposure(new QCheckBox(tr("Set the exposure time automatically"))),
       m_detail(new QComboBox),
       m_goal(new QComboBox),
       m_preview(new QCheckBox(tr("Show the picture corrected"))),
@@ -101,7 +101,7 @@ void FlatFieldPanel::createChoices()
     m_images->setAccessibleName(tr("Number of images"));
     m_images->setPrefix(tr("Images: "));
     m_images->setToolTip(
-        tr("Dark images, and bright images. More images leave less noise in the correction. Half as many are "
+        tr("Number of dark images and of bright images. More images leave less noise in the correction. Half as many are "
            "taken in addition, to check the correction."));
     m_setsExposure->setChecked(true);
     m_setsExposure->setToolTip(
@@ -185,7 +185,7 @@ void FlatFieldPanel::showDarkTaken(const QStringList &warnings)
     m_steps->step(BrightStep)->setResult({});
     m_steps->step(SaveStep)->setResult({});
     m_steps->step(DarkStep)->setResult(
-        resultText(tr("The dark images are taken."), warnings), warnings.isEmpty() ? "good" : "warning");
+        resultText(tr("The dark images were taken."), warnings), warnings.isEmpty() ? "good" : "warning");
 }
 
 void FlatFieldPanel::showDarkProblem(const QString &problem)

@@ -176,7 +176,9 @@ void FlatFieldWindow::save()
         return writeSidecar(path, flatFieldDocument(*session->measurement.result(), session->camera));
     };
     const auto writeReport = [report](const std::string &path) { return report.write(path); };
-    saver().save(tr("flat field"),
+    const CameraRecord &camera = session->camera;
+    const std::string &name = camera.serialNumber.empty() ? camera.model : camera.serialNumber;
+    saver().save(QStringLiteral("flat-field-%1").arg(QString::fromStdString(name)),
         {{QStringLiteral(".tif"), writeTiff}, {QStringLiteral(".json"), writeJson},
             {QStringLiteral(".html"), writeReport}});
 }

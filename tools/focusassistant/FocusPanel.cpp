@@ -117,7 +117,7 @@ FocusPanel::FocusPanel(FocusSession &session, ToolSettings &settings, QWidget *p
 void FocusPanel::createPlot()
 {
     m_plot->setFixedHeight(plotHeight);
-    m_plot->setHorizontalAxis(Plot::Axis::Duration, tr("Before now"));
+    m_plot->setHorizontalAxis(Plot::Axis::Duration, tr("Time before now"));
     m_plot->setVerticalAxis(tr("Sharpness"));
     m_plot->setAxisScale(QwtPlot::xBottom, -FocusHistory::trendSeconds, 0);
     m_plot->addCurve(tr("Sharpness"));
@@ -130,7 +130,7 @@ QWidget *FocusPanel::createControls()
     m_grid->setObjectName(QStringLiteral("grid"));
     m_grid->setRange(FocusGrid::min, FocusGrid::max);
     m_grid->setValue(m_settings.value(gridKey, usualGrid));
-    auto *const label = new QLabel(tr("&Regions per direction"), controls);
+    auto *const label = new QLabel(tr("Re&gions per direction"), controls);
     label->setBuddy(m_grid);
     auto *const forget = new QPushButton(tr("&Forget the peaks"), controls);
     forget->setObjectName(QStringLiteral("forget"));

@@ -25,7 +25,7 @@ InputsForm::InputsForm(QWidget *parent) : QWidget(parent), m_layout(new QGridLay
     m_encoderWay = addChoice(tr("&Encoder"), {tr("movement per pulse"), tr("pulses and roller")});
     m_encoderStep = addNumber(tr("&Movement per pulse"), tr("mm"), 6,
         tr("Movement of the object for one pulse, that is one cycle of one signal of the encoder."));
-    m_pulses = addNumber(tr("Pulses per &revolution"), QString(), 0,
+    m_pulses = addNumber(tr("Pulses per re&volution"), QString(), 0,
         tr("Number of pulses that the encoder sends while its roller turns once."));
     m_diameter = addNumber(
         tr("Roller &diameter"), tr("mm"), 4, tr("Diameter of the roller or wheel that turns the encoder."));

@@ -129,7 +129,7 @@ void RepairWindow::finishBright(const std::shared_ptr<DefectResult> &result, con
     QString text = DefectTexts::summary(m_result->counts);
     for (const std::string &name : m_result->dark->cameraCorrections)
         text += QLatin1Char(' ')
-            + tr("%1 was off during the measurement, so the map contains what the camera itself can repair.")
+            + tr("%1 was off during the measurement, so the map also contains what the camera itself can repair.")
                   .arg(QString::fromStdString(name));
     step.setResult(text);
 }

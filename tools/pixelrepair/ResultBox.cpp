@@ -25,7 +25,7 @@ ResultBox::ResultBox(QWidget *parent)
       m_total(new BigNumber(tr("Defect pixels"), m_countBox)),
       m_threshold(new ThresholdControl(this)),
       m_marks(new QCheckBox(tr("&Mark the defect pixels"), this)),
-      m_repaired(new QCheckBox(tr("Show the &repaired picture"), this)),
+      m_repaired(new QCheckBox(tr("Show the re&paired picture"), this)),
       m_problem(createMessage(this)),
       m_list(new DefectList(this)),
       m_table(new QTableView(this))

@@ -98,7 +98,7 @@ void LayoutBox::setGeometry(const QString &geometry)
 {
     const bool isKnown = parseTapGeometry(geometry.toStdString()).has_value();
     m_source->setItemText(
-        FromCamera, isKnown ? tr("Camera: %1").arg(geometry) : tr("The camera does not say it"));
+        FromCamera, isKnown ? tr("Camera: %1").arg(geometry) : tr("Not reported by the camera"));
     static_cast<QStandardItemModel *>(m_source->model())->item(FromCamera)->setEnabled(isKnown);
     if (!isKnown)
         m_source->setCurrentIndex(ByHand);

@@ -76,7 +76,7 @@ void TapPanel::addSteps()
     black->addWidget(m_skip);
     m_steps->addStep(tr("Gains"), tr("Uncover the lens and show the even, bright surface again."),
         tr("Balance the gains"));
-    StepCard *const keep = m_steps->addStep(tr("Keep"),
+    StepCard *const keep = m_steps->addStep(tr("Keep the values"),
         tr("The camera has the new values until it is switched off. Store them in a user set with Camera "
            "Setup "
            "to keep them."),

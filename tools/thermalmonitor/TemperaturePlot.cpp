@@ -57,7 +57,7 @@ TemperaturePlot::TemperaturePlot(QWidget *parent)
     setObjectName(QStringLiteral("temperaturePlot"));
     m_range->setObjectName(QStringLiteral("range"));
     addRanges(*m_range);
-    auto *const label = new QLabel(tr("&Show the last"), this);
+    auto *const label = new QLabel(tr("Show the &last"), this);
     label->setBuddy(m_range);
     for (Plot *const plot : {m_temperatures, m_dark})
         plot->setHorizontalAxis(Plot::Axis::Duration, tr("Time since the start"));

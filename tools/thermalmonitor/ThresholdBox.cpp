@@ -33,7 +33,7 @@ ThresholdBox::ThresholdBox(ToolSettings &settings, QWidget *parent) : QWidget(pa
     m_hysteresis->setToolTip(
         tr("A warning or an alarm ends when the temperature is so far below its threshold again."));
     m_hysteresis->setValue(settings.value(hysteresisKey, 1.0));
-    auto *const label = new QLabel(tr("En&ds below by"), this);
+    auto *const label = new QLabel(tr("Ends &below by"), this);
     label->setBuddy(m_hysteresis);
     layout->addWidget(label, layout->rowCount(), 0);
     layout->addWidget(m_hysteresis, layout->rowCount() - 1, 1);
@@ -48,7 +48,7 @@ ThresholdBox::Row ThresholdBox::addRow(
     const Row row{new QCheckBox(text, this), new QDoubleSpinBox(this)};
     row.isOn->setObjectName(onKey(key));
     row.isOn->setToolTip(
-        tr("The program notifies you, also while its window is behind others, when a place gets so warm."));
+        tr("The program notifies you, also while its window is behind others, when a place gets this warm."));
     row.value->setObjectName(key);
     row.value->setAccessibleName(QString(text).remove(QLatin1Char('&')));
     row.value->setDecimals(1);

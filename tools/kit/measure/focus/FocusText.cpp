@@ -72,7 +72,7 @@ Sentence adviceSentence(FocusHistory::Advice advice)
     case FocusHistory::Advice::TurnBack:
         return {QT_TRANSLATE_NOOP("Sentence", "Turn back: the peak lies in the other direction.")};
     case FocusHistory::Advice::Done:
-        return {QT_TRANSLATE_NOOP("Sentence", "The picture is as sharp as it becomes. Lock the lens.")};
+        return {QT_TRANSLATE_NOOP("Sentence", "The picture is as sharp as it gets. Lock the lens.")};
     }
     return {};
 }

@@ -55,7 +55,7 @@ Sentence putBack(
         const CvxResult result = writeOne(device, selectors, before);
         if (!result && problem.isEmpty())
             problem = {QT_TRANSLATE_NOOP("Sentence",
-                           "The camera has refused a setting, and then also to go back to %1: %2"),
+                           "The camera has refused a setting, and then also refused to go back to %1: %2"),
                 {settingText(before), result.text}};
     }
     return problem;

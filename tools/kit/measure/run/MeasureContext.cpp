@@ -79,7 +79,7 @@ Sentence failureSentence(const CvxResult &result)
             {result.text}};
     if (result.code == CvxErrorClosed)
         return {QT_TRANSLATE_NOOP("Sentence",
-            "The images have ended during the measurement. Start the live picture and measure again.")};
+            "The stream has ended during the measurement. Start the live picture and measure again.")};
     return untranslated(result.text);
 }
 
