@@ -9,7 +9,7 @@ double TapTexts::shown(const TapMeasurement &measurement, double value)
 
 QString TapTexts::unit(const TapMeasurement &measurement)
 {
-    return measurement.isDark ? tr("values", "unit of pixel values") : QStringLiteral("%");
+    return measurement.isDark ? tr("DN", "unit of pixel values") : QStringLiteral("%");
 }
 
 QString TapTexts::deviation(const TapMeasurement &measurement, double value)
