@@ -241,6 +241,12 @@ void FlatFieldPanel::showSaved(const QString &fileName)
     m_steps->step(SaveStep)->setResult(tr("Saved as \"%1\".").arg(fileName));
 }
 
+void FlatFieldPanel::forgetResult()
+{
+    clearResult();
+    m_steps->setCurrent(DarkStep);
+}
+
 void FlatFieldPanel::clearResult()
 {
     m_before->clear();

@@ -40,6 +40,9 @@ public:
     void showDarkProblem(const QString &problem);
     void showBrightProblem(const QString &problem);
 
+    /// Removes the result; the next step is to take dark images.
+    void forgetResult();
+
     /// Shows that the result was saved.
     void showSaved(const QString &fileName);
 

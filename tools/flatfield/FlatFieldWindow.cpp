@@ -109,6 +109,8 @@ void FlatFieldWindow::takeDark()
 void FlatFieldWindow::showDark(const QString &problem)
 {
     if (!problem.isEmpty()) {
+        if (!m_session->measurement.result()) // The images were taken, but the job failed at its end.
+            m_panel->forgetResult();
         m_panel->showDarkProblem(problem);
         return;
     }
@@ -152,7 +154,7 @@ QStringList FlatFieldWindow::warnings() const
 void FlatFieldWindow::showCorrected(bool isCorrected)
 {
     DisplaySettings display;
-    if (isCorrected)
+    if (isCorrected && m_session->measurement.result())
         display.correction
             = std::make_shared<Correction>(std::nullopt, m_session->measurement.result()->built.field);
     canvas().setDisplaySettings(display);
@@ -160,6 +162,8 @@ void FlatFieldWindow::showCorrected(bool isCorrected)
 
 void FlatFieldWindow::save()
 {
+    if (job().isRunning() || !m_session->measurement.result())
+        return;
     const auto session = m_session;
     const FlatFieldResult &result = *session->measurement.result();
     FlatFieldPictures pictures;
