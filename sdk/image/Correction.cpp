@@ -70,9 +70,9 @@ std::string Correction::problem(std::uint32_t pixelFormat, std::uint32_t offsetX
         return problem;
     const Region place{offsetX, offsetY, width, height};
     if (m_defects && !fits(*m_defects, place))
-        return "the defect map is that of a sensor with " + sizeText(m_defects->width, m_defects->height)
-            + " pixels, but the picture has " + placeText(place)
-            + "; choose the map of this camera, and switch off binning";
+        return "the defect map covers " + sizeText(m_defects->width, m_defects->height)
+            + " pixels of the sensor, but the picture has " + placeText(place)
+            + "; choose the map of this camera and a region inside it, or measure the map again";
     if (m_flatField && !fits(*m_flatField, place))
         return "the flat field covers "
             + placeText({m_flatField->offsetX, m_flatField->offsetY, m_flatField->width, m_flatField->height})

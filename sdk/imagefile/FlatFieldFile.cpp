@@ -12,7 +12,7 @@
 namespace {
 
 constexpr char fieldFormat[] = "corvix-x-flat-field";
-constexpr std::uint64_t maxPixels = 1U << 27U;
+constexpr std::uint64_t maxPixels = 1U << 28U;
 constexpr std::uint64_t maxDescription = 16U << 20U; // Bytes.
 constexpr unsigned valuesPerPixel = 2;
 

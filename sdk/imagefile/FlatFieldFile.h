@@ -25,5 +25,5 @@ struct FlatFieldReading
     std::string problem; ///< Why there is no flat field, for people.
 };
 
-/// Reads the file. Compressed files and fields of more than 2^27 pixels are refused.
+/// Reads the file. Compressed files and fields of more than 2^28 pixels are refused.
 FlatFieldReading readFlatField(const std::string &path);

@@ -90,7 +90,9 @@ Sentence measureOrBalance(
     return problem;
 }
 
-Sentence workOnTaps(const MeasureContext &context, TapsOptions &options, TapResult &result)
+/// `preparation` becomes the reason if the dark picture cannot be prepared.
+Sentence workOnTaps(
+    const MeasureContext &context, TapsOptions &options, TapResult &result, ExitStatus &preparation)
 {
     const auto layout = findTapLayout(context.device, options.taps);
     if (const auto *const problem = std::get_if<Sentence>(&layout))
@@ -98,13 +100,13 @@ Sentence workOnTaps(const MeasureContext &context, TapsOptions &options, TapResu
     result.layout = std::get<TapLayout>(layout);
     if (options.hasDark) {
         DarkPicture dark(context.device, options.darkAssignments);
-        if (dark.begin() != exitSuccess)
+        if (preparation = dark.begin(); preparation != exitSuccess)
             return cancelledSentence();
         if (Sentence problem = measureOrBalance(context, options, TapSetting::BlackLevel, result);
             !problem.isEmpty())
             return problem;
         options.taps.darkLevel = result.darkLevel();
-        if (dark.end() != exitSuccess)
+        if (preparation = dark.end(); preparation != exitSuccess)
             return cancelledSentence();
     }
     return measureOrBalance(context, options, TapSetting::Gain, result);
@@ -140,7 +142,7 @@ void printTaps(const TapMeasurement &measurement, const std::optional<TapBalance
     if (balance)
         std::printf("before: %s%s; %s after %zu rounds\n",
             tapDecimals(factor * balance->before.mismatch, 3).c_str(), unit,
-            balance->isReached ? "balanced" : "the increments allow no better value", balance->rounds);
+            balance->isReached ? "balanced" : "the mismatch does not fall any further", balance->rounds);
 }
 
 ExitStatus runTaps(TapsOptions &options)
@@ -149,11 +151,14 @@ ExitStatus runTaps(TapsOptions &options)
     options.measure.keepsChanges = options.isBalancing;
     TapResult result;
     CameraRecord camera;
+    ExitStatus preparation = exitSuccess;
     const ExitStatus status
         = runMeasurement(options.measure, [&](const MeasureContext &context, const CameraRecord &record) {
               camera = record;
-              return workOnTaps(context, options, result);
+              return workOnTaps(context, options, result, preparation);
           });
+    if (preparation != exitSuccess)
+        return preparation;
     if (status != exitSuccess)
         return status;
     const nlohmann::ordered_json document = tapDocument(camera, result);

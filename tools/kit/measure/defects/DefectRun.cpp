@@ -5,6 +5,7 @@
 #include "tools/kit/measure/defects/DefectFinder.h"
 #include "tools/kit/measure/defects/DefectReferences.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace CvxCPP;
@@ -43,15 +44,17 @@ constexpr std::uint32_t minSize = 64; // Pixels; the spread of fewer pixels is u
 /// Switches a function of the camera off if the camera has it. `isChanged` is true if it was on.
 Sentence switchOff(Device &device, const char *name, bool &isChanged)
 {
-    NodeValue value;
-    if (!device.Read(name, value))
-        return {}; // The camera does not have the function, at least at present.
+    std::vector<NodeState> states;
+    if (!device.ReadStates({name}, states))
+        return {}; // The camera does not have the function.
+    const NodeValue &value = states.front().value;
+    const std::vector<std::string> &entries = states.front().availableEntries;
     NodeValue off;
     if (std::holds_alternative<bool>(value))
         off = false;
-    else if (std::holds_alternative<std::string>(value))
+    else if (std::find(entries.begin(), entries.end(), "Off") != entries.end())
         off = std::string("Off");
-    if (off.index() == 0 || off == value)
+    if (value.index() == 0 || off.index() == 0 || off == value)
         return {};
     isChanged = true;
     return untranslated(device.Write(name, off).text);

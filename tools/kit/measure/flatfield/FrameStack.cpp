@@ -73,8 +73,8 @@ Sentence FrameStack::add(const RawImage &picture, std::uint32_t offsetX, std::ui
         for (std::uint32_t line = 0; line < lines; ++line)
             addLine(words.data() + std::size_t(line) * picture.width, y + line, levels);
     }
-    for (float &level : levels)
-        level = static_cast<float>(level / valuesPerPart());
+    endImage();
+    divideByCounts(levels);
     m_partLevels.push_back(levels);
     return {};
 }
@@ -97,6 +97,7 @@ void FrameStack::addLine(const std::uint16_t *words, std::uint32_t y, PartLevels
         }
         Channel &channel = m_channels[m_mean.mosaic.channel(first, m_isLineScan ? 0 : y)];
         channel.sum += static_cast<double>(sum);
+        channel.imageSum += static_cast<double>(sum);
         channel.squares += static_cast<double>(squares);
         channel.count += m_mean.mosaic.columns(first);
         m_clipped += clipped;
@@ -118,9 +119,39 @@ void FrameStack::addLine(const std::uint16_t *words, std::uint32_t y, PartLevels
     }
 }
 
+/// Adds the means of an image to what variance() needs.
+void FrameStack::endImage()
+{
+    for (std::size_t i = 0; i < m_channels.size(); ++i) {
+        Channel &channel = m_channels[i];
+        const double mean = channel.imageSum / (pixelsOf(m_mean.mosaic, i) * (m_isLineScan ? m_lines : 1));
+        channel.squaredMeans += mean * mean;
+        channel.imageSum = 0;
+    }
+}
+
+/// Turns the sums of the parts into means. A picture of few lines has no lines in some rows of parts, which
+/// get the levels of the row before.
+void FrameStack::divideByCounts(PartLevels &levels) const
+{
+    const std::size_t width = m_mean.mosaic.width;
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        const std::size_t row = i / parts;
+        const std::size_t column = i % parts;
+        const std::size_t firstLine = (m_lines * row + parts - 1) / parts;
+        const std::size_t endLine = (m_lines * (row + 1) + parts - 1) / parts;
+        const std::size_t columns = width * (column + 1) / parts - width * column / parts;
+        if (endLine == firstLine)
+            levels[i] = levels[i - parts]; // The first row has a line.
+        else
+            levels[i] /= static_cast<float>(std::max<std::size_t>((endLine - firstLine) * columns, 1));
+    }
+}
+
 double FrameStack::valuesPerPart() const
 {
-    return std::max(1.0, static_cast<double>(m_mean.mosaic.width) * m_lines / (parts * parts));
+    const std::uint32_t rows = m_lines < parts ? m_lines : parts;
+    return std::max(1.0, static_cast<double>(m_mean.mosaic.width) * m_lines / (parts * rows));
 }
 
 double FrameStack::samplesPerPixel() const
@@ -143,7 +174,11 @@ double FrameStack::variance(std::size_t channel) const
         }
     }
     const double difference = m_channels[channel].squares - squaresOfSums / samples;
-    return std::max(0.0, difference / (samples - 1) / pixelsOf(mosaic, channel));
+    // What all pixels have in common from image to image is the light's.
+    const auto images = static_cast<double>(count());
+    const double mean = level(channel);
+    const double flicker = (m_channels[channel].squaredMeans - images * mean * mean) * samples / images;
+    return std::max(0.0, (difference / pixelsOf(mosaic, channel) - flicker) / (samples - 1));
 }
 
 MeanImage FrameStack::mean() const

@@ -49,12 +49,15 @@ public:
     const std::vector<PartLevels> &partLevels() const { return m_partLevels; }
     double valuesPerPart() const; ///< Values that the mean of a part has.
 
-    /// Temporal variance of a value, averaged over the channels.
+    /// Temporal variance of a value, averaged over the channels. The variance of the images' means, which is
+    /// that of the light, is subtracted, as EMVA 1288 does for two images.
     double temporalVariance() const;
 
 private:
     Sentence begin(const RawImage &picture, std::uint32_t offsetX, std::uint32_t offsetY);
     void addLine(const std::uint16_t *words, std::uint32_t y, PartLevels &levels);
+    void endImage();
+    void divideByCounts(PartLevels &levels) const;
     double samplesPerPixel() const;
     double variance(std::size_t channel) const;
 
@@ -63,6 +66,8 @@ private:
         double sum = 0;
         double squares = 0;
         double count = 0; ///< Values.
+        double imageSum = 0; ///< Of the present image.
+        double squaredMeans = 0; ///< Sum of the squares of the images' means.
     };
 
     const bool m_isLineScan;

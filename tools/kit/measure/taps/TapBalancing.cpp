@@ -258,6 +258,9 @@ Sentence balanceTaps(
 
 Sentence undoBalance(Device &device, const TapBalance &balance)
 {
+    AutomaticFunctions automatic(device);
+    if (Sentence problem = automatic.switchOff(); !problem.isEmpty())
+        return problem;
     std::string selected;
     const bool isSelectorKnown = bool(device.ReadString(balance.control.selector, selected));
     std::vector<TapValue> present;
@@ -266,7 +269,7 @@ Sentence undoBalance(Device &device, const TapBalance &balance)
     const Sentence problem = writeTapValues(device, balance.control, balance.valuesBefore, present);
     if (isSelectorKnown)
         static_cast<void>(bool(device.WriteString(balance.control.selector, selected)));
-    return problem;
+    return problem.isEmpty() ? automatic.restore() : problem;
 }
 
 nlohmann::ordered_json toJson(const TapBalance &balance)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 namespace {
 
@@ -186,8 +187,33 @@ Sentence checkDark(const TapPicture &picture)
     return checkMovement(picture);
 }
 
+namespace {
+
+/// Returns a tap that no border in the picture relates to the first tap.
+std::optional<std::size_t> tapWithoutBorder(const TapMeasurement &measurement)
+{
+    std::vector<bool> isKnown(measurement.taps.size(), false);
+    isKnown.front() = true;
+    for (std::size_t round = 0; round < isKnown.size(); ++round) {
+        for (const TapStep &step : measurement.steps) {
+            if (isKnown[step.first] || isKnown[step.second])
+                isKnown[step.first] = isKnown[step.second] = true;
+        }
+    }
+    const auto unknown = std::find(isKnown.begin(), isKnown.end(), false);
+    return unknown == isKnown.end() ? std::nullopt
+                                    : std::optional(static_cast<std::size_t>(unknown - isKnown.begin()));
+}
+
+} // namespace
+
 Sentence checkCertainty(const TapMeasurement &measurement)
 {
+    if (const std::optional<std::size_t> tap = tapWithoutBorder(measurement))
+        return {QT_TRANSLATE_NOOP("Sentence",
+                    "The picture shows no border between tap %1 and the other taps. Set the region to the "
+                    "whole sensor, or choose another layout, then measure again."),
+            {SentenceNumber{static_cast<double>(*tap) + 1, 0}}};
     constexpr double maxError = 0.002; // Relative.
     for (const TapStep &step : measurement.steps) {
         if (measurement.isDark || measurement.errorOf(step) <= maxError)
