@@ -2,6 +2,7 @@
 
 #include "tools/kit/plot/DurationScale.h"
 #include "tools/kit/plot/GapCurve.h"
+#include "tools/kit/plot/HorizontalMarker.h"
 
 #include <QFrame>
 #include <QPainter>
@@ -134,14 +135,18 @@ void Plot::Private::setLine(Lines &lines, int number, QwtPlotMarker::LineStyle s
     line.position = position;
     line.label = label;
     if (!line.marker) {
-        line.marker = std::make_unique<QwtPlotMarker>();
-        line.marker->setLineStyle(style);
+        if (isHorizontal) {
+            line.marker = std::make_unique<HorizontalMarker>();
+        } else {
+            line.marker = std::make_unique<QwtPlotMarker>();
+            line.marker->setLineStyle(QwtPlotMarker::VLine);
+            line.marker->setLabelAlignment(Qt::AlignRight | Qt::AlignBottom);
+        }
         line.marker->setItemAttribute(QwtPlotItem::Legend, false);
         line.marker->attach(&m_plot);
     }
     line.marker->setValue(isHorizontal ? 0 : position, isHorizontal ? position : 0);
     line.marker->setLabel(coloured(label, colour));
-    line.marker->setLabelAlignment(Qt::AlignRight | (isHorizontal ? Qt::AlignTop : Qt::AlignBottom));
     line.marker->setLinePen(QColor::fromRgb(colour), 1, Qt::DashLine);
 }
 
