@@ -16,7 +16,6 @@ namespace {
 /// Numbers of the horizontal lines.
 constexpr int warningLine = 0;
 constexpr int alarmLine = 1;
-constexpr int firstFinalLine = 2;
 constexpr int followedLine = 0;
 
 void addRanges(QComboBox &box)
@@ -122,7 +121,7 @@ void TemperaturePlot::draw()
     for (std::size_t index = 0; index < places.size(); ++index) {
         m_temperatures->setSamples(int(index), curveOf(places[index].history().since(from)));
         if (const auto &forecast = places[index].report().forecast)
-            m_temperatures->setLimit(firstFinalLine + int(index), forecast->end,
+            m_temperatures->setExpected(int(index), forecast->end,
                 tr("Final value of %1").arg(ThermalTexts::place(places[index].place())));
     }
     const DarkSeries &dark = m_monitor->dark();

@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -66,8 +67,10 @@ QString ThermalTexts::forecast(const PlaceReport &report)
         return tr("The temperature does not change any more.");
     if (!report.forecast)
         return tr("The final value is not determined yet.");
-    const QString end = tr("Expected final value: %1 °C ± %2 K")
-                            .arg(number(report.forecast->end, 1), number(2 * report.forecast->endError, 1));
+    constexpr double leastError = 0.1; // The last decimal that is shown.
+    const double error = std::max(leastError, 2 * report.forecast->endError);
+    const QString end
+        = tr("Expected final value: %1 °C ± %2 K").arg(number(report.forecast->end, 1), number(error, 1));
     if (!report.secondsToSteady || *report.secondsToSteady <= 0)
         return end;
     return tr("%1, steady in %2").arg(end, duration(*report.secondsToSteady));

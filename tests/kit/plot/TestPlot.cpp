@@ -53,6 +53,7 @@ private slots:
     void paperShowsCurvesAndLines();
     void pointThatIsNoNumberMakesAGap();
     void legendNamesSeveralCurves();
+    void expectedValueHasTheColourOfItsCurve();
     void removedCurvesAndLinesAreGone();
 };
 
@@ -158,6 +159,21 @@ void TestPlot::legendNamesSeveralCurves()
     QVERIFY(!plot.legend());
     plot.addCurve("Right"_s);
     QVERIFY(plot.legend());
+}
+
+void TestPlot::expectedValueHasTheColourOfItsCurve()
+{
+    Plot plot;
+    plot.setHorizontalAxis(Plot::Axis::Numbers, {});
+    plot.setSamples(plot.addCurve({}), {{0, 0}, {10, 10}});
+    plot.setSamples(plot.addCurve({}), {{4, 1}, {5, 1}});
+    const int before = placeOf(plot.paper(paperSize), secondCurve).width();
+    plot.setExpected(1, 40, "Final value"_s);
+    QVERIFY(plot.axisScaleDiv(QwtPlot::yLeft).contains(40)); // The axis includes the line.
+    QCOMPARE(plot.axisScaleDiv(QwtPlot::xBottom).upperBound(), 10.0);
+    QVERIFY(placeOf(plot.paper(paperSize), secondCurve).width() > 5 * before);
+    plot.removeLines();
+    QCOMPARE(placeOf(plot.paper(paperSize), secondCurve).width(), before);
 }
 
 void TestPlot::removedCurvesAndLinesAreGone()

@@ -2,6 +2,7 @@
 
 #include "tools/kit/plot/DurationScale.h"
 #include "tools/kit/plot/GapCurve.h"
+#include "tools/kit/plot/HorizontalMarker.h"
 
 #include <QFrame>
 #include <QPainter>
@@ -77,8 +78,8 @@ public:
     explicit Private(Plot &plot) : m_plot(plot) { }
 
     void setLook(const Look &look);
-    void setLine(
-        Lines &lines, int number, QwtPlotMarker::LineStyle style, double position, const QString &label);
+    void setLine(Lines &lines, int number, QwtPlotMarker::LineStyle style, double position,
+        const QString &label, QRgb colour);
     void setAxisTitle(int axis, const QString &title);
     void showLegend();
     QPalette palette() const;
@@ -90,6 +91,7 @@ public:
     QwtPlotGrid m_grid;
     std::vector<std::unique_ptr<QwtPlotCurve>> m_curves;
     Lines m_limits;
+    Lines m_expectations; // Numbered as the curves.
     Lines m_moments;
     Axis m_axis = Axis::Numbers;
     QString m_titles[QwtPlot::axisCnt];
@@ -125,23 +127,26 @@ void Plot::Private::applyPalette()
         label->setPalette(palette());
 }
 
-void Plot::Private::setLine(
-    Lines &lines, int number, QwtPlotMarker::LineStyle style, double position, const QString &label)
+void Plot::Private::setLine(Lines &lines, int number, QwtPlotMarker::LineStyle style, double position,
+    const QString &label, QRgb colour)
 {
-    const bool isLimit = style == QwtPlotMarker::HLine;
-    const QRgb colour = isLimit ? m_look.limit : m_look.moment;
+    const bool isHorizontal = style == QwtPlotMarker::HLine;
     Line &line = lines[number];
     line.position = position;
     line.label = label;
     if (!line.marker) {
-        line.marker = std::make_unique<QwtPlotMarker>();
-        line.marker->setLineStyle(style);
+        if (isHorizontal) {
+            line.marker = std::make_unique<HorizontalMarker>();
+        } else {
+            line.marker = std::make_unique<QwtPlotMarker>();
+            line.marker->setLineStyle(QwtPlotMarker::VLine);
+            line.marker->setLabelAlignment(Qt::AlignRight | Qt::AlignBottom);
+        }
         line.marker->setItemAttribute(QwtPlotItem::Legend, false);
         line.marker->attach(&m_plot);
     }
-    line.marker->setValue(isLimit ? 0 : position, isLimit ? position : 0);
+    line.marker->setValue(isHorizontal ? 0 : position, isHorizontal ? position : 0);
     line.marker->setLabel(coloured(label, colour));
-    line.marker->setLabelAlignment(Qt::AlignRight | (isLimit ? Qt::AlignTop : Qt::AlignBottom));
     line.marker->setLinePen(QColor::fromRgb(colour), 1, Qt::DashLine);
 }
 
@@ -173,6 +178,8 @@ void Plot::Private::copyTo(Plot &other) const
     }
     for (const auto &line : m_limits)
         other.setLimit(line.first, line.second.position, line.second.label);
+    for (const auto &line : m_expectations)
+        other.setExpected(line.first, line.second.position, line.second.label);
     for (const auto &line : m_moments)
         other.setMoment(line.first, line.second.position, line.second.label);
 }
@@ -254,19 +261,27 @@ void Plot::removeCurves()
 
 void Plot::setLimit(int line, double value, const QString &label)
 {
-    m_d->setLine(m_d->m_limits, line, QwtPlotMarker::HLine, value, label);
+    m_d->setLine(m_d->m_limits, line, QwtPlotMarker::HLine, value, label, m_d->m_look.limit);
+    replot();
+}
+
+void Plot::setExpected(int curve, double value, const QString &label)
+{
+    const QRgb colour = curveColours[curve % colourCount];
+    m_d->setLine(m_d->m_expectations, curve, QwtPlotMarker::HLine, value, label, colour);
     replot();
 }
 
 void Plot::setMoment(int line, double position, const QString &label)
 {
-    m_d->setLine(m_d->m_moments, line, QwtPlotMarker::VLine, position, label);
+    m_d->setLine(m_d->m_moments, line, QwtPlotMarker::VLine, position, label, m_d->m_look.moment);
     replot();
 }
 
 void Plot::removeLines()
 {
     m_d->m_limits.clear();
+    m_d->m_expectations.clear();
     m_d->m_moments.clear();
     replot();
 }

@@ -39,7 +39,9 @@ public:
     void setLimit(int line, double value, const QString &label);
     /// Replaces the vertical line of this number.
     void setMoment(int line, double position, const QString &label);
-    void removeLines(); ///< All limits and moments.
+    /// Replaces the horizontal line of the value that a curve approaches; it has the colour of the curve.
+    void setExpected(int curve, double value, const QString &label);
+    void removeLines(); ///< All limits, moments and expected values.
 
     /// Returns the diagram on white paper, for a report.
     QImage paper(const QSize &size) const;
