@@ -40,6 +40,8 @@ RepairWindow::RepairWindow(const QString &camera, ToolSettings &settings)
         &box, &ResultBox::marksToggled, this, [this](bool isVisible) { m_overlay->setVisible(isVisible); });
     connect(&box, &ResultBox::repairToggled, this, &RepairWindow::applyRepair);
     connect(&box, &ResultBox::selected, this, &RepairWindow::showPixel);
+    connect(&picture().feed(), &PictureFeed::pictureSizeChanged, this, &RepairWindow::applyRepair,
+        Qt::QueuedConnection); // When there is a picture of the new size.
     connect(&saver(), &ResultSaver::saved, this,
         [this] { m_panel->steps().setCurrent(m_panel->steps().count()); });
     connect(this, &AssistantWindow::cameraChanged, this, &RepairWindow::followCamera);
@@ -67,9 +69,6 @@ void RepairWindow::takeDarkImages()
 {
     const auto dark = std::make_shared<DefectImages>();
     const std::size_t images = m_panel->images();
-    m_dark.reset();
-    forgetResult();
-    m_panel->steps().reset();
     m_panel->step(RepairPanel::DarkStep).setResult({});
     job().start(
         tr("Taking the dark images"), MeasureJob::Changes::PutBack,
@@ -87,7 +86,9 @@ void RepairWindow::finishDark(const std::shared_ptr<DefectImages> &dark, const Q
         return;
     }
     m_dark = dark;
+    forgetResult(); // Not before: a cancelled measurement leaves the earlier result.
     m_panel->steps().setCurrent(RepairPanel::BrightStep);
+    m_panel->step(RepairPanel::BrightStep).setResult({});
     step.setResult(tr("%n dark image(s) taken.", nullptr, int(dark->statistics.images())));
 }
 
@@ -98,8 +99,6 @@ void RepairWindow::takeBrightImages()
     const auto result = std::make_shared<DefectResult>();
     result->dark = m_dark;
     const std::size_t images = m_panel->images();
-    forgetResult();
-    m_panel->steps().setCurrent(RepairPanel::BrightStep);
     m_panel->step(RepairPanel::BrightStep).setResult({});
     job().start(
         tr("Taking the bright images"), MeasureJob::Changes::PutBack,
@@ -122,6 +121,7 @@ void RepairWindow::finishBright(const std::shared_ptr<DefectResult> &result, con
         step.setResult(problem, "warning");
         return;
     }
+    forgetResult();
     m_result = std::move(*result);
     m_panel->steps().setCurrent(RepairPanel::SaveStep);
     m_result->setThreshold(usualThreshold);
@@ -129,7 +129,8 @@ void RepairWindow::finishBright(const std::shared_ptr<DefectResult> &result, con
     QString text = DefectTexts::summary(m_result->counts);
     for (const std::string &name : m_result->dark->cameraCorrections)
         text += QLatin1Char(' ')
-            + tr("%1 was off during the measurement, so the map also contains what the camera itself can repair.")
+            + tr("%1 was off during the measurement, so the map also contains what the camera itself can "
+                 "repair.")
                   .arg(QString::fromStdString(name));
     step.setResult(text);
 }
@@ -171,7 +172,7 @@ void RepairWindow::applyRepair()
         problem = repairProblem(*display.correction);
     }
     canvas().setDisplaySettings(display);
-    box.setRepairProblem(problem);
+    box.setRepairProblem(problem.isEmpty() ? problem : tr("The picture is not repaired: %1.").arg(problem));
 }
 
 QString RepairWindow::repairProblem(const Correction &correction)
@@ -211,6 +212,7 @@ void RepairWindow::followJob()
     m_panel->step(RepairPanel::DarkStep).setButtonAllowed(isReady);
     m_panel->step(RepairPanel::BrightStep).setButtonAllowed(isReady);
     m_panel->step(RepairPanel::SaveStep).setButtonAllowed(m_result && !job().isRunning());
+    m_save->setEnabled(m_result && !job().isRunning());
 }
 
 QVector<ResultSaver::File> RepairWindow::resultFiles() const
