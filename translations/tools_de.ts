@@ -2,72 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
-    <name></name>
-    <message>
-        <source>Flat Field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Non-uniformity by EMVA 1288 release 4.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean of the columns</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A picture as the camera sends it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The same picture, corrected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The gains: the brighter, the higher</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AssistantWindow</name>
     <message>
         <source>The result was saved to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis wurde in „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>Press F5 to see the live picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie F5, um das Livebild zu sehen.</translation>
     </message>
     <message>
         <source>&amp;Result</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ergebnis</translation>
     </message>
     <message>
         <source>&amp;Live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Livebild</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">&amp;Kamera</translation>
+        <translation>&amp;Kamera</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished">Im &amp;Image Viewer öffnen</translation>
+        <translation>Im &amp;Image Viewer öffnen</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Cancel the measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Messung abbrechen</translation>
     </message>
 </context>
 <context>
     <name>BigNumber</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -338,7 +311,7 @@
     <name>CameraSettings</name>
     <message>
         <source>Camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameraeinstellungen</translation>
     </message>
 </context>
 <context>
@@ -690,165 +663,165 @@
     <name>CorrectionDialog</name>
     <message>
         <source>&amp;Correct the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder &amp;korrigieren</translation>
     </message>
     <message>
         <source>Corrections</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrekturen</translation>
     </message>
     <message>
         <source>&amp;Defect map:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Defektkarte:</translation>
     </message>
     <message>
         <source>Choose a defect map</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektkarte auswählen</translation>
     </message>
     <message>
         <source>Defect maps (*.json *.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektkarten (*.json *.csv);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>&amp;Flat field:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Flat-Field:</translation>
     </message>
     <message>
         <source>Choose a flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>Flat-Field auswählen</translation>
     </message>
     <message>
         <source>Flat fields (*.tif *.tiff);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Flat-Fields (*.tif *.tiff);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The correction applies to the shown pictures, to PNG and TIFF files and to TIFF recordings. Raw files, videos and measured values stay those of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Korrektur gilt für die angezeigten Bilder, für PNG- und TIFF-Dateien und für TIFF-Aufzeichnungen. Rohdaten, Videos und Messwerte bleiben die der Kamera.</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen…</translation>
     </message>
     <message>
         <source>The pictures are not corrected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilder werden nicht korrigiert: %1.</translation>
     </message>
     <message>
         <source>The pictures are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilder werden korrigiert.</translation>
     </message>
 </context>
 <context>
     <name>DarkBox</name>
     <message>
         <source>Cover the lens, and choose a long exposure and a pixel format with many bits in the camera settings. Then measure while the camera warms up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Decken Sie das Objektiv ab, und wählen Sie in den Kameraeinstellungen eine lange Belichtungszeit und ein Pixelformat mit vielen Bits. Messen Sie dann, während sich die Kamera erwärmt.</translation>
     </message>
     <message>
         <source>Stop measuring the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dunkelwert nicht mehr messen</translation>
     </message>
     <message>
         <source>Measure the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dunkelwert messen</translation>
     </message>
 </context>
 <context>
     <name>DefectList</name>
     <message>
         <source>Columns %1 to %2, lines %3 to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten %1 bis %2, Zeilen %3 bis %4</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Spalte</translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">Zeile</translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung</translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Pixel</numerusform>
+            <numerusform>%n Pixel</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 σ</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 σ</translation>
     </message>
 </context>
 <context>
     <name>DefectTexts</name>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Heiß</translation>
     </message>
     <message>
         <source>Dead</source>
-        <translation type="unfinished"></translation>
+        <translation>Tot</translation>
     </message>
     <message>
         <source>Stuck</source>
-        <translation type="unfinished"></translation>
+        <translation>Hängend</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>Blinkend</translation>
     </message>
     <message>
         <source>Deviating</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichend</translation>
     </message>
     <message>
         <source>Too bright in the dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Dunkeln zu hell.</translation>
     </message>
     <message>
         <source>Hardly reacts to light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reagiert kaum auf Licht.</translation>
     </message>
     <message>
         <source>Always has the same value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hat immer denselben Wert.</translation>
     </message>
     <message>
         <source>Changes between levels from image to image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Springt von Bild zu Bild zwischen verschiedenen Werten.</translation>
     </message>
     <message>
         <source>Reacts to light much more or less than its neighbours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reagiert viel stärker oder schwächer auf Licht als seine Nachbarn.</translation>
     </message>
     <message>
         <source>Cluster</source>
-        <translation type="unfinished"></translation>
+        <translation>Cluster</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Spalte</translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">Zeile</translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>No defect pixels were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurden keine Defektpixel gefunden.</translation>
     </message>
     <message numerus="yes">
         <source>%n defect pixel(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Defektpixel gefunden.</numerusform>
+            <numerusform>%n Defektpixel gefunden.</numerusform>
         </translation>
     </message>
 </context>
@@ -1061,23 +1034,23 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>DurationScale</name>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d</translation>
     </message>
 </context>
 <context>
@@ -1760,206 +1733,233 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>FlatFieldPanel</name>
     <message>
         <source>Shading before</source>
-        <translation type="unfinished"></translation>
+        <translation>Shading vorher</translation>
     </message>
     <message>
         <source>Shading after</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>Shading nachher</translation>
     </message>
     <message>
         <source>Show the picture corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild korrigiert anzeigen</translation>
     </message>
     <message>
         <source>Dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelbilder</translation>
     </message>
     <message>
         <source>Cover the lens completely. The images show the offset of each pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Decken Sie das Objektiv vollständig ab. Die Bilder zeigen den Offset jedes Pixels.</translation>
     </message>
     <message>
         <source>Take dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelbilder aufnehmen</translation>
     </message>
     <message>
         <source>Bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellbilder</translation>
     </message>
     <message>
         <source>Uncover the lens, and point the camera at an evenly lit surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie die Abdeckung ab, und richten Sie die Kamera unscharf auf eine gleichmäßig beleuchtete Fläche.</translation>
     </message>
     <message>
         <source>Take bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellbilder aufnehmen</translation>
     </message>
     <message>
         <source>Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrektur</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl apply the file to every picture of this camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Viewer und cvxctl wenden die Datei auf jedes Bild dieser Kamera an.</translation>
     </message>
     <message>
         <source>Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrektur speichern…</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Bilder</translation>
     </message>
     <message>
         <source>Images: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dark images, and bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder: </translation>
     </message>
     <message>
         <source>Sets the exposure time so that the bright images have about 70 % of the range, and puts it back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt die Belichtungszeit so ein, dass die Hellbilder etwa 70 % des Wertebereichs erreichen, und stellt sie danach wieder zurück.</translation>
     </message>
     <message>
         <source>Correct every pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Pixel korrigieren</translation>
     </message>
     <message>
         <source>Correct the shading only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur das Shading korrigieren</translation>
     </message>
     <message>
         <source>What is corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Was korrigiert wird</translation>
     </message>
     <message>
         <source>The shading only: the gain changes smoothly over the picture, which adds no noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur das Shading: Die Verstärkung ändert sich glatt über das Bild, wodurch kein Rauschen hinzukommt.</translation>
     </message>
     <message>
         <source>Keep the mean brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Helligkeit erhalten</translation>
     </message>
     <message>
         <source>Raise to the brightest place</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf hellste Stelle anheben</translation>
     </message>
     <message>
         <source>Brightness after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit nach der Korrektur</translation>
     </message>
     <message>
         <source>Raised to the brightest place, no gain is below 1: what is clipped stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Anheben auf die hellste Stelle ist keine Verstärkung kleiner als 1: Was übersteuert ist, bleibt weiß.</translation>
     </message>
     <message>
         <source>Non-uniformity before and after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhomogenität vor und nach der Korrektur</translation>
     </message>
     <message>
         <source>DSNU: differences of the pixels in the dark. PRNU: differences of their sensitivity. By EMVA 1288 release 4.0, without the temporal noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>DSNU: Unterschiede der Pixel im Dunkeln. PRNU: Unterschiede ihrer Empfindlichkeit. Nach EMVA 1288 Release 4.0, ohne das zeitliche Rauschen.</translation>
     </message>
     <message>
         <source>Mean of the columns, before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwerte der Spalten, vorher und nachher</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Spalte</translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>% of the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>% des Mittelwerts</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The dark images are taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
-        <translation type="unfinished">Gespeichert als „%1“.</translation>
+        <translation>Gespeichert als „%1“.</translation>
+    </message>
+    <message>
+        <source>Set the exposure time automatically</source>
+        <translation>Belichtungszeit einstellen</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
+        <translation>Jeweils für Dunkelbilder und Hellbilder. Mit mehr Bildern bleibt in der Korrektur weniger Rauschen. Zusätzlich werden halb so viele aufgenommen, um die Korrektur zu prüfen.</translation>
+    </message>
+    <message>
+        <source>The dark images were taken.</source>
+        <translation>Die Dunkelbilder sind aufgenommen.</translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldReport</name>
+    <message>
+        <source>Flat Field</source>
+        <translation>Flat Field</translation>
+    </message>
+    <message>
+        <source>Non-uniformity by EMVA 1288 release 4.0</source>
+        <translation>Inhomogenität nach EMVA 1288 Release 4.0</translation>
+    </message>
+    <message>
+        <source>Mean of the columns</source>
+        <translation>Mittelwerte der Spalten</translation>
+    </message>
+    <message>
+        <source>A picture as the camera sends it</source>
+        <translation>Ein Bild, wie es die Kamera sendet</translation>
+    </message>
+    <message>
+        <source>The same picture, corrected</source>
+        <translation>Dasselbe Bild, korrigiert</translation>
+    </message>
+    <message>
+        <source>The gains: the brighter, the higher</source>
+        <translation>Verstärkungen: je heller, desto höher</translation>
     </message>
 </context>
 <context>
     <name>FlatFieldTexts</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 DN</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 DN</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished">unbekannt</translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
     <message>
         <source>Shading</source>
-        <translation type="unfinished"></translation>
+        <translation>Shading</translation>
     </message>
     <message>
         <source>… without shading</source>
-        <translation type="unfinished"></translation>
+        <translation>… ohne Shading</translation>
     </message>
     <message>
         <source>… in electrons</source>
-        <translation type="unfinished"></translation>
+        <translation>… in Elektronen</translation>
     </message>
     <message>
         <source>The picture is even: its shading is only %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist gleichmäßig: Sein Shading beträgt nur %1.</translation>
     </message>
     <message>
         <source>The correction reduces the shading from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Korrektur verringert das Shading von %1 auf %2.</translation>
     </message>
     <message>
         <source>%1; gains from %2 to %3; bright images at %4 of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; Verstärkungen von %2 bis %3; Hellbilder bei %4 des Wertebereichs.</translation>
     </message>
     <message numerus="yes">
         <source>The numbers after the correction are those of %n other image(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Werte nach der Korrektur stammen von %n anderen Bild.</numerusform>
+            <numerusform>Die Werte nach der Korrektur stammen von %n anderen Bildern.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Pixel weicht stark ab und hat die Verstärkung seiner Nachbarn erhalten; Pixel Repair ersetzt es.</numerusform>
+            <numerusform>%n Pixel weichen stark ab und haben die Verstärkung ihrer Nachbarn erhalten; Pixel Repair ersetzt sie.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The gain of %n pixel(s) was limited.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Verstärkung von %n Pixel wurde begrenzt.</numerusform>
+            <numerusform>Die Verstärkung von %n Pixeln wurde begrenzt.</numerusform>
         </translation>
     </message>
 </context>
@@ -1967,239 +1967,235 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>FlatFieldWindow</name>
     <message>
         <source>Flat Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Flat Field</translation>
     </message>
     <message>
         <source>The camera does not say its pixel format (PixelFormat), so its values cannot be corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera gibt ihr Pixelformat (PixelFormat) nicht an, deshalb können ihre Werte nicht korrigiert werden.</translation>
     </message>
     <message>
         <source>&amp;Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrektur &amp;speichern…</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelbilder werden aufgenommen</translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellbilder werden aufgenommen</translation>
     </message>
 </context>
 <context>
     <name>FocusPanel</name>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil am Maximum</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis &amp;speichern…</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Before now</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Regions per direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe in der letzten Minute</translation>
     </message>
     <message>
         <source>&amp;Forget the peaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma&amp;xima vergessen</translation>
     </message>
     <message>
         <source>Begins again, for example because the camera looks at something else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt von vorn, zum Beispiel weil die Kamera etwas anderes zeigt.</translation>
     </message>
     <message>
         <source>Point the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera ausrichten</translation>
     </message>
     <message>
         <source>It looks at something with edges all over the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie sieht etwas mit Kanten im ganzen Bild.</translation>
     </message>
     <message>
         <source>Find the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Besten Fokus finden</translation>
     </message>
     <message>
         <source>Search &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Automatisch suchen</translation>
     </message>
     <message>
         <source>Read the tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkippung ablesen</translation>
     </message>
     <message>
         <source>The order in which the regions become sharp says how the focus is tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Reihenfolge, in der die Bereiche scharf werden, zeigt, wie der Fokus verkippt ist.</translation>
     </message>
     <message>
         <source>Read the &amp;tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verkippung ablesen</translation>
     </message>
     <message>
         <source>Moves the lens through its range and leaves it at the best position. Cancelling puts it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fährt das Objektiv durch seinen Bereich und lässt es an der besten Position stehen. Abbrechen stellt es zurück.</translation>
     </message>
     <message>
         <source>Nothing was measured yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde noch nichts gemessen.</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>of the peak. Sharpness %1, peak %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>des Maximums. Schärfe %1, Maximum %2.</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Search the best position, or turn the lens slowly through the sharpest position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lassen Sie die beste Position suchen, oder drehen Sie das Objektiv langsam durch die schärfste Position.</translation>
     </message>
     <message>
         <source>Turn the lens slowly through the sharpest position, then back to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen Sie das Objektiv langsam durch die schärfste Position und dann zu ihr zurück.</translation>
+    </message>
+    <message>
+        <source>Time before now</source>
+        <translation>Zeit bis jetzt</translation>
+    </message>
+    <message>
+        <source>Re&amp;gions per direction</source>
+        <translation>Be&amp;reiche je Richtung</translation>
     </message>
 </context>
 <context>
     <name>FocusReport</name>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Focus Assistant</translation>
     </message>
     <message>
         <source>Sharpness %1, which is %2 of the peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe %1; das sind %2 des Maximums.</translation>
     </message>
     <message>
         <source>Share of the peak of each region</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil am Maximum je Bereich</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe in der letzten Minute</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereiche</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished">Zeile</translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Spalte</translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe</translation>
     </message>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil am Maximum</translation>
     </message>
     <message>
         <source>Best position</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Position</translation>
     </message>
     <message>
         <source>Sharp at (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Scharf bei (s)</translation>
     </message>
     <message>
         <source>Share at the best position</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil bei bester Position</translation>
     </message>
     <message>
         <source>The sharpness is the energy of the differences between neighbouring pixels, divided by the squared brightness, without the part of the noise. Exposure and gain do not change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schärfe ist die Energie der Differenzen benachbarter Pixel, geteilt durch das Quadrat der Helligkeit, ohne den Anteil des Rauschens. Belichtung und Verstärkung ändern sie nicht.</translation>
     </message>
 </context>
 <context>
     <name>FocusTexts</name>
     <message>
         <source>Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkes Ende</translation>
     </message>
     <message>
         <source>Right end</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtes Ende</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>no edges</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Kanten</translation>
     </message>
     <message>
         <source>too dark</source>
-        <translation type="unfinished"></translation>
+        <translation>zu dunkel</translation>
     </message>
     <message>
         <source>overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>überbelichtet</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Shares of their peaks at the best position: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteile am jeweiligen Maximum bei der besten Position: %1.</translation>
     </message>
 </context>
 <context>
     <name>FocusWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis &amp;speichern…</translation>
     </message>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Focus Assistant</translation>
     </message>
     <message>
         <source>Searching the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bester Fokus wird gesucht</translation>
     </message>
 </context>
 <context>
@@ -2371,27 +2367,27 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>HtmlReport</name>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>Hersteller</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modell</translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished">Seriennummer</translation>
+        <translation>Seriennummer</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Settings of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen der Kamera</translation>
     </message>
     <message>
         <source>Created by Corvix X, version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt mit Corvix X, Version %1.</translation>
     </message>
 </context>
 <context>
@@ -2413,119 +2409,119 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>InputsForm</name>
     <message>
         <source>&amp;Lines come from</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeilentakt</translation>
     </message>
     <message>
         <source>the camera&apos;s line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenrate der Kamera</translation>
     </message>
     <message>
         <source>an encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>Encoder</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geschwindigkeit</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Speed of the object. With an encoder: the highest speed, for which the limits are checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit des Objekts. Mit Encoder: die höchste Geschwindigkeit, für die die Grenzen geprüft werden.</translation>
     </message>
     <message>
         <source>&amp;Encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>En&amp;coder</translation>
     </message>
     <message>
         <source>movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg je Impuls</translation>
     </message>
     <message>
         <source>pulses and roller</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulse und Rolle</translation>
     </message>
     <message>
         <source>&amp;Movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weg je Impuls</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Movement of the object for one pulse, that is one cycle of one signal of the encoder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pulses per &amp;revolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg des Objekts bei einem Impuls, also einer Periode eines Encodersignals.</translation>
     </message>
     <message>
         <source>Number of pulses that the encoder sends while its roller turns once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Impulse, die der Encoder bei einer Umdrehung seiner Rolle sendet.</translation>
     </message>
     <message>
         <source>Roller &amp;diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Rollen&amp;durchmesser</translation>
     </message>
     <message>
         <source>Diameter of the roller or wheel that turns the encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser der Rolle oder des Rads, das den Encoder antreibt.</translation>
     </message>
     <message>
         <source>Size of a &amp;pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pixelgröße</translation>
     </message>
     <message>
         <source>from sensor and lens</source>
-        <translation type="unfinished"></translation>
+        <translation>aus Sensor und Objektiv</translation>
     </message>
     <message>
         <source>known on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>auf dem Objekt bekannt</translation>
     </message>
     <message>
         <source>Pi&amp;xel of the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensorpi&amp;xel</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Width of a pixel of the sensor; the data sheet names it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite eines Pixels auf dem Sensor; sie steht im Datenblatt.</translation>
     </message>
     <message>
         <source>Ma&amp;gnification</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbildungs&amp;maßstab</translation>
     </message>
     <message>
         <source>Size of the image on the sensor divided by the size of the object, for example 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Bilds auf dem Sensor geteilt durch die Größe des Objekts, zum Beispiel 0,5.</translation>
     </message>
     <message>
         <source>Pixel &amp;on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Objektpixelgröße</translation>
     </message>
     <message>
         <source>Width of the object that one pixel of the picture shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Objekts, die ein Pixel des Bilds zeigt.</translation>
     </message>
     <message>
         <source>Use the longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Längste Belichtung nutzen</translation>
     </message>
     <message>
         <source>Otherwise, the exposure is only shortened if it does not fit into a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst wird die Belichtung nur verkürzt, wenn sie nicht in eine Zeile passt.</translation>
     </message>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht angegeben</translation>
+    </message>
+    <message>
+        <source>Pulses per re&amp;volution</source>
+        <translation>Impulse je &amp;Umdrehung</translation>
     </message>
 </context>
 <context>
@@ -2546,67 +2542,67 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>LayoutBox</name>
     <message>
         <source>As the camera says</source>
-        <translation type="unfinished"></translation>
+        <translation>Laut Kamera</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Hand</translation>
     </message>
     <message>
         <source>Taps:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps:</translation>
     </message>
     <message>
         <source>Side by side:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebeneinander:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>Streifen des Bilds, von links nach rechts</translation>
     </message>
     <message>
         <source>One above the other:</source>
-        <translation type="unfinished"></translation>
+        <translation>Übereinander:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Streifen des Bilds, von oben nach unten</translation>
     </message>
     <message>
         <source>Neighbouring columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachbarte Spalten:</translation>
     </message>
     <message>
         <source>Taps that read the columns of a stripe in turn; 1 if a stripe has one tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps, die die Spalten eines Streifens abwechselnd auslesen; 1, wenn ein Streifen einen Tap hat</translation>
     </message>
     <message>
         <source>Mean of all taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwert aller Taps</translation>
     </message>
     <message>
         <source>Tap 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap 1</translation>
     </message>
     <message>
         <source>Compare with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen mit:</translation>
     </message>
     <message>
         <source>Images of each measurement; more images make the numbers more certain</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder je Messung; mit mehr Bildern werden die Werte sicherer</translation>
     </message>
     <message>
         <source>Images:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder:</translation>
     </message>
     <message>
         <source>Camera: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera: %1</translation>
     </message>
     <message>
-        <source>The camera does not say it</source>
-        <translation type="unfinished"></translation>
+        <source>Not reported by the camera</source>
+        <translation>Keine Angabe der Kamera</translation>
     </message>
 </context>
 <context>
@@ -2640,19 +2636,19 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>LevelBar</name>
     <message>
         <source>Brightness of the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit des Livebilds</translation>
     </message>
     <message>
         <source>%1 % of the range; 50 to 80 % is good</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % des Wertebereichs; gut sind 50 bis 80 %</translation>
     </message>
     <message>
         <source>%1 % of the values are clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Werte sind übersteuert</translation>
     </message>
     <message>
         <source>There is no picture.</source>
-        <translation type="unfinished">Es ist kein Bild vorhanden.</translation>
+        <translation>Es ist kein Bild vorhanden.</translation>
     </message>
 </context>
 <context>
@@ -2674,266 +2670,266 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>LineScanReport</name>
     <message>
         <source>Speed of the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit des Objekts</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Movement per encoder pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg je Encoderimpuls</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objektpixelgröße</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Line rate for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenrate für quadratische Pixel</translation>
     </message>
     <message>
         <source>Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>Hz</translation>
     </message>
     <message>
         <source>Lines per pulse for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen je Impuls für quadratische Pixel</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Längste Belichtung</translation>
     </message>
     <message>
         <source>µs</source>
-        <translation type="unfinished"></translation>
+        <translation>µs</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Geschwindigkeit</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbleibender Fehler</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>Line Scan Tuner</translation>
     </message>
     <message>
         <source>Round target</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde Marke</translation>
     </message>
     <message>
         <source>First measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Messung</translation>
     </message>
     <message>
         <source>Last measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Messung</translation>
     </message>
     <message>
         <source>Height to width</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe zu Breite</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung</translation>
     </message>
     <message>
         <source>Turn of the camera (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdrehung der Kamera (°)</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>The picture at the time of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild zum Zeitpunkt des Berichts</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">Zeilenrate</translation>
+        <translation>Zeilenrate</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wert</translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Written settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschriebene Einstellungen</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">Feature</translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
 </context>
 <context>
     <name>LineScanWindow</name>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>Line Scan Tuner</translation>
     </message>
     <message>
         <source>This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no encoder. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera nimmt ganze Bilder auf: Sie hat keine Zeilenrate (AcquisitionLineRate) und keinen Encoder. Wählen Sie eine Zeilenkamera, die einzelne Zeilen eines bewegten Objekts aufnimmt.</translation>
     </message>
     <message>
         <source>Do the &amp;next step</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächsten Schritt ausführen</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis &amp;speichern…</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+Eingabe</translation>
     </message>
     <message>
         <source>Do the next step</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächsten Schritt ausführen</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+S</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis speichern</translation>
     </message>
     <message>
         <source>No round target was found yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde noch keine runde Marke gefunden.</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis speichern…</translation>
     </message>
     <message>
         <source>the largest</source>
-        <translation type="unfinished"></translation>
+        <translation>die größte</translation>
     </message>
     <message>
         <source>the one that I click</source>
-        <translation type="unfinished"></translation>
+        <translation>die angeklickte</translation>
     </message>
     <message>
         <source>in the columns that I draw</source>
-        <translation type="unfinished"></translation>
+        <translation>in den gezeichneten Spalten</translation>
     </message>
     <message>
         <source>Which disc or ring is measured. The picture rolls, so only the columns count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Scheibe oder welcher Ring gemessen wird. Das Bild läuft durch, deshalb zählen nur die Spalten.</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;arke</translation>
     </message>
     <message>
         <source>Look for the target in the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke im Livebild suchen</translation>
     </message>
     <message>
         <source>The picture stands still for a moment where a target was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild bleibt kurz stehen, wenn eine Marke gefunden wurde.</translation>
     </message>
     <message>
         <source>Describe the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Maschine beschreiben</translation>
     </message>
     <message>
         <source>Pixels are square if the camera takes one line while the object moves by one pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel sind quadratisch, wenn die Kamera je eine Zeile aufnimmt, während sich das Objekt um ein Pixel bewegt.</translation>
     </message>
     <message>
         <source>Set the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera einstellen</translation>
     </message>
     <message>
         <source>This follows from the machine and from the limits of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ergibt sich aus der Maschine und aus den Grenzen der Kamera.</translation>
     </message>
     <message>
         <source>Write the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen schreiben</translation>
     </message>
     <message>
         <source>Undo what was written</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben rückgängig machen</translation>
     </message>
     <message>
         <source>Measure a round target</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde Marke messen</translation>
     </message>
     <message>
         <source>Let a dark or bright disc or ring move under the camera. It must be complete in one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lassen Sie eine dunkle oder helle Scheibe oder einen solchen Ring unter der Kamera durchlaufen. Die Marke muss vollständig in einem Bild liegen.</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">Messen</translation>
+        <translation>Messen</translation>
     </message>
     <message>
         <source>Make it round</source>
-        <translation type="unfinished"></translation>
+        <translation>Rund machen</translation>
     </message>
     <message>
         <source>Correct the rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rate korrigieren</translation>
     </message>
     <message>
         <source>The target in the live picture is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Marke im Livebild ist rund.</translation>
     </message>
     <message>
         <source>The target in the live picture is too tall.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Marke im Livebild ist zu hoch.</translation>
     </message>
     <message>
         <source>The target in the live picture is too flat.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Marke im Livebild ist zu flach.</translation>
     </message>
     <message>
         <source>The line rate, or the ratio of the encoder, is multiplied with width / height of the target.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeilenrate oder das Encoderverhältnis wird mit Breite / Höhe der Marke multipliziert.</translation>
     </message>
     <message>
         <source>The camera is turned by %1° against the movement.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist um %1° gegenüber der Bewegungsrichtung verdreht.</translation>
     </message>
     <message>
         <source>The camera has accepted the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat die Einstellungen übernommen.</translation>
     </message>
     <message>
         <source>Measuring the target</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke wird gemessen</translation>
     </message>
     <message>
         <source>Reading the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen werden gelesen</translation>
     </message>
 </context>
 <context>
@@ -3265,31 +3261,31 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>LogBox</name>
     <message>
         <source>Appends each reading to a CSV file until you stop it. A file of the same camera is continued.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hängt jeden Messwert an eine CSV-Datei an, bis Sie das Protokoll stoppen. Eine Datei derselben Kamera wird fortgesetzt.</translation>
     </message>
     <message>
         <source>Log the temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperaturen protokollieren</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV-Tabelle (*.csv)</translation>
     </message>
     <message>
         <source>Stop the &amp;log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Protokoll stoppen</translation>
     </message>
     <message>
         <source>Start a &amp;log…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Protokoll starten…</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll: %1</translation>
     </message>
     <message>
         <source>The readings are not logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Messwerte werden nicht protokolliert.</translation>
     </message>
 </context>
 <context>
@@ -3332,101 +3328,101 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>Measure</name>
     <message>
         <source>The brightness changed by %1 % while the bright images were taken. Use a steady light, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Helligkeit hat sich während der Aufnahme der Hellbilder um %1 % geändert. Verwenden Sie gleichmäßiges Licht, und nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>Something moved while the bright images were taken. Point the camera at an evenly lit surface without objects, keep it still, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Während der Aufnahme der Hellbilder hat sich etwas bewegt. Richten Sie die Kamera auf eine gleichmäßig beleuchtete Fläche ohne Objekte, halten Sie sie ruhig, und nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>The bright images show a scene. Point the camera at an evenly lit surface without objects, for example white paper close to the lens and out of focus, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hellbilder zeigen eine Szene. Richten Sie die Kamera auf eine gleichmäßig beleuchtete Fläche ohne Objekte, zum Beispiel auf weißes Papier dicht vor dem Objektiv und unscharf, und nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is too long. Cover the lens, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dunkelbilder haben %1 % des höchsten Werts: Licht erreicht den Sensor, oder die Belichtung ist zu lang. Decken Sie das Objektiv ab, und nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
     <message>
         <source>The dark images show something: light reaches the sensor. Cover the lens completely, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den Dunkelbildern ist etwas zu sehen: Licht erreicht den Sensor. Decken Sie das Objektiv vollständig ab, und nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
     <message>
         <source>Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black level (BlackLevel), then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Viele Pixel der Dunkelbilder haben den Wert 0, deshalb ist ihr Rauschen nicht sichtbar. Erhöhen Sie den Schwarzwert (BlackLevel), und nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
     <message>
         <source>The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more light or a longer exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hellbilder sind zu dunkel: Sie nutzen %1 % des Wertebereichs. Nehmen Sie die Abdeckung ab, verwenden Sie mehr Licht oder eine längere Belichtung, und nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>%1 % of the pixels of the bright images have the highest value. Use less light or a shorter exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Pixel der Hellbilder haben den höchsten Wert. Verwenden Sie weniger Licht oder eine kürzere Belichtung, und nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached the sensor during the dark images. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Pixel weichen von ihren Nachbarn ab; die Fläche hatte also eine Struktur, oder bei den Dunkelbildern erreichte Licht den Sensor. Nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>Set %1 to %2: defect pixels are measured at full resolution without mirroring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzen Sie %1 auf %2: Defektpixel werden bei voller Auflösung und ohne Spiegelung gemessen.</translation>
     </message>
     <message>
         <source>Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to Mono16, or Bayer (PixelFormat).</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie ein Pixelformat, das die Werte der Pixel unverändert enthält, mit 8 bis 16 Bit: Mono8 bis Mono16 oder Bayer (PixelFormat).</translation>
     </message>
     <message>
         <source>Choose a region of %1 x %1 pixels or more (Width, Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Bildausschnitt von mindestens %1 x %1 Pixeln (Width, Height).</translation>
     </message>
     <message>
         <source>The size or the pixel format of the images has changed. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Größe oder das Pixelformat der Bilder hat sich geändert. Nehmen Sie die Bilder erneut auf.</translation>
     </message>
     <message>
         <source>Take %1 images or more: with fewer images, the noise hides defects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie mindestens %1 Bilder auf: Bei weniger Bildern verdeckt das Rauschen Defekte.</translation>
     </message>
     <message>
         <source>The region or the pixel format differs from that of the dark images. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildausschnitt oder das Pixelformat weicht von dem der Dunkelbilder ab. Stellen Sie den vorherigen Zustand ein, oder nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
     <message>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verstärkung weicht von der der Dunkelbilder, %1, ab. Stellen Sie sie wie zuvor ein, oder nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
 </context>
 <context>
     <name>MeasureBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>End the measurement. The settings of the camera are put back. (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet die Messung. Die Einstellungen der Kamera werden wiederhergestellt. (Esc)</translation>
     </message>
 </context>
 <context>
     <name>MeasureJob</name>
     <message>
         <source>The camera is not open for control, so nothing can be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist nicht zum Steuern geöffnet, deshalb kann nichts gemessen werden.</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Measure again when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zur Kamera ging während der Messung verloren. Messen Sie erneut, sobald die Kamera wieder da ist.</translation>
     </message>
     <message>
         <source>The camera was closed during the measurement.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera wurde während der Messung geschlossen.</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">Die Kamera sendet keine Bilder. %1</translation>
+        <translation>Die Kamera sendet keine Bilder. %1</translation>
     </message>
     <message>
         <source>Some settings were not put back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Einstellungen wurden nicht wiederhergestellt. %1</translation>
     </message>
 </context>
 <context>
@@ -3727,103 +3723,103 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>PlanView</name>
     <message>
         <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kHz</translation>
     </message>
     <message>
         <source>by the link</source>
-        <translation type="unfinished"></translation>
+        <translation>durch den Link</translation>
     </message>
     <message>
         <source>by the exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>durch die Belichtung</translation>
     </message>
     <message>
         <source>by the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>durch die Kamera</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">Feature</translation>
+        <translation>Feature</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>Settings that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen, die geschrieben werden</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objektpixelgröße</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished">%1 µm</translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">Zeilenrate</translation>
+        <translation>Zeilenrate</translation>
     </message>
     <message>
         <source>Highest line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Zeilenrate</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Geschwindigkeit</translation>
     </message>
     <message>
         <source>%1 mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm/s</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Längste Belichtung</translation>
     </message>
     <message>
         <source>%1 µs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µs</translation>
     </message>
     <message>
         <source>Dead time of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Totzeit einer Zeile</translation>
     </message>
     <message>
         <source>Lines per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen je Impuls</translation>
     </message>
     <message>
         <source>Multiplier, divider</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplikator, Teiler</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbleibender Fehler</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The camera is set up for this already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist bereits so eingestellt.</translation>
     </message>
     <message>
         <source>These features are written, in this order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Features werden in dieser Reihenfolge geschrieben:</translation>
     </message>
 </context>
 <context>
@@ -4054,168 +4050,172 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>RepairPanel</name>
     <message>
         <source>Cover the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Objektiv abdecken</translation>
     </message>
     <message>
         <source>No light may reach the sensor. A long exposure and a high gain show more hot pixels: use the longest exposure that you work with, and let the camera warm up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Licht darf den Sensor erreichen. Eine lange Belichtung und eine hohe Verstärkung zeigen mehr heiße Pixel: Verwenden Sie die längste Belichtung, mit der Sie arbeiten, und lassen Sie die Kamera warm werden.</translation>
     </message>
     <message>
         <source>Take &amp;dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dunkelbilder aufnehmen</translation>
     </message>
     <message>
         <source>Point at an evenly lit surface</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf gleichmäßig beleuchtete Fläche richten</translation>
     </message>
     <message>
         <source>Uncover the lens and fill the picture with one bright surface without objects, for example white paper, out of focus. Half of the highest brightness is best; leave the gain as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie die Abdeckung ab, und füllen Sie das Bild unscharf mit einer hellen Fläche ohne Objekte, zum Beispiel weißem Papier. Am besten ist die Hälfte der höchsten Helligkeit; lassen Sie die Verstärkung unverändert.</translation>
     </message>
     <message>
         <source>Take &amp;bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell&amp;bilder aufnehmen</translation>
     </message>
     <message>
         <source>Save the map</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektkarte speichern</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl repair pictures with the map. A report and a table are saved beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Viewer und cvxctl korrigieren Bilder mit der Defektkarte. Ein Bericht und eine Tabelle werden daneben gespeichert.</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished">S&amp;peichern…</translation>
-    </message>
-    <message>
-        <source>Of each kind. More images find weaker defects and pixels that blink rarely.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern…</translation>
     </message>
     <message>
         <source>&amp;Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nzahl der Bilder</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images find weaker defects and pixels that blink rarely.</source>
+        <translation>Von jeder Art. Mehr Bilder finden schwächere Defekte und Pixel, die selten blinken.</translation>
     </message>
 </context>
 <context>
     <name>RepairReport</name>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel Repair</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished">Ergebnis</translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>Cluster</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektpixel, die einander berühren.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spaltenabschnitte mit mindestens acht Defektpixeln.</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenabschnitte mit mindestens acht Defektpixeln.</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl</translation>
     </message>
     <message>
         <source>Meaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedeutung</translation>
     </message>
     <message>
         <source>Places of the defect pixels on the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage der Defektpixel auf dem Sensor</translation>
     </message>
     <message>
         <source>Conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingungen</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Exposure in ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Belichtung in ms</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished">Verstärkung</translation>
+        <translation>Verstärkung</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished">Stufe</translation>
+        <translation>Pegel</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Rauschen</translation>
     </message>
     <message>
         <source>Spread of the good pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung der guten Pixel</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>Threshold: %1 standard deviations. Examined pixels: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwelle: %1 Standardabweichungen. Untersuchte Pixel: %2.</translation>
     </message>
 </context>
 <context>
     <name>RepairWindow</name>
     <message>
         <source>&amp;Save the map…</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektkarte &amp;speichern…</translation>
     </message>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel Repair</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelbilder werden aufgenommen</translation>
     </message>
     <message numerus="yes">
         <source>%n dark image(s) taken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Dunkelbild aufgenommen.</numerusform>
+            <numerusform>%n Dunkelbilder aufgenommen.</numerusform>
         </translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellbilder werden aufgenommen</translation>
     </message>
     <message>
-        <source>%1 was off during the measurement, so the map contains what the camera itself can repair.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 was off during the measurement, so the map also contains what the camera itself can repair.</source>
+        <translation>%1 war während der Messung ausgeschaltet; deshalb enthält die Defektkarte auch, was die Kamera selbst korrigieren kann.</translation>
+    </message>
+    <message>
+        <source>The picture is not repaired: %1.</source>
+        <translation>Das Bild wird nicht repariert: %1.</translation>
     </message>
 </context>
 <context>
@@ -4257,70 +4257,70 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>ResultBox</name>
     <message>
         <source>Defect pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektpixel</translation>
     </message>
     <message>
         <source>&amp;Mark the defect pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the &amp;repaired picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektpixel &amp;markieren</translation>
     </message>
     <message>
         <source>Replaces each defect pixel by the median of its good neighbours of the same colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt jedes Defektpixel durch den Median seiner guten Nachbarn derselben Farbe.</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>Cluster</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Defektpixel, die einander berühren.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spaltenabschnitte mit mindestens acht Defektpixeln.</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenabschnitte mit mindestens acht Defektpixeln.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Show the re&amp;paired picture</source>
+        <translation>Ko&amp;rrigiertes Bild zeigen</translation>
     </message>
 </context>
 <context>
     <name>ResultSaver</name>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis speichern</translation>
     </message>
     <message>
         <source>Results (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse (%1)</translation>
     </message>
     <message>
         <source>These files exist already: %1. Do you want to replace them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien existieren bereits: %1. Möchten Sie sie ersetzen?</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not saved. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht gespeichert. %2</translation>
     </message>
 </context>
 <context>
@@ -4386,427 +4386,439 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>Sentence</name>
     <message>
         <source>The exposure time of this camera cannot be set. Change the light until the picture has about 70 % of the range, and measure without setting the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Belichtungszeit dieser Kamera lässt sich nicht einstellen. Ändern Sie das Licht, bis das Bild etwa 70 % des Wertebereichs erreicht, und messen Sie, ohne die Belichtungszeit einzustellen.</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed since the dark images. Take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildausschnitt oder das Pixelformat hat sich seit den Dunkelbildern geändert. Nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
     <message>
         <source>The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Pixelformat %1 kann nicht korrigiert werden. Wählen Sie ein Mono- oder Bayer-Format mit 8 bis 16 Bit.</translation>
     </message>
     <message>
         <source>The colours of a line scan camera cannot be corrected. Choose a Mono format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farben einer Zeilenkamera können nicht korrigiert werden. Wählen Sie ein Mono-Format.</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed during the measurement. Measure again without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildausschnitt oder das Pixelformat hat sich während der Messung geändert. Messen Sie erneut, ohne beides zu ändern.</translation>
     </message>
     <message>
         <source>%1 images are too few for a correction. Take at least %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bilder sind zu wenige für eine Korrektur. Nehmen Sie mindestens %2 auf.</translation>
     </message>
     <message>
         <source>The bright images are too dark: %1 % of the range above the dark images. Is the lens still covered? Otherwise, use more light or a longer exposure time, for about 70 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hellbilder sind zu dunkel: %1 % des Wertebereichs über den Dunkelbildern. Ist das Objektiv noch abgedeckt? Verwenden Sie andernfalls mehr Licht oder eine längere Belichtungszeit, bis etwa 70 % erreicht sind.</translation>
     </message>
     <message>
         <source>The bright images have %1 % of the range. Between 50 and 80 %, the gains are most exact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hellbilder erreichen %1 % des Wertebereichs. Zwischen 50 und 80 % sind die Verstärkungen am genauesten.</translation>
     </message>
     <message>
         <source>Parts of the picture have changed by %1 % between the images: something moves, or the light flickers. Use an even surface that keeps still, and steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile des Bilds haben sich zwischen den Bildern um %1 % geändert: Etwas bewegt sich, oder das Licht flackert. Verwenden Sie eine gleichmäßige, unbewegte Fläche und konstantes Licht.</translation>
     </message>
     <message>
         <source>The brightness has changed by %1 % between the images. Use steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Helligkeit hat sich zwischen den Bildern um %1 % geändert. Verwenden Sie konstantes Licht.</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the range, so there seems to be light. Cover the lens completely. If it is covered, reduce BlackLevel or Gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dunkelbilder haben %1 % des Wertebereichs; offenbar fällt Licht ein. Decken Sie das Objektiv vollständig ab. Wenn es abgedeckt ist, verringern Sie BlackLevel oder Gain.</translation>
     </message>
     <message>
         <source>The dark images are not equally dark everywhere. Make sure that no light reaches the lens, and take them again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dunkelbilder sind nicht überall gleich dunkel. Stellen Sie sicher, dass kein Licht in das Objektiv fällt, und nehmen Sie sie erneut auf.</translation>
     </message>
     <message>
         <source>%1 % of the values in the dark are 0, so the offsets are cut off. Increase BlackLevel.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Werte im Dunkeln sind 0, die Offsets sind also abgeschnitten. Erhöhen Sie BlackLevel.</translation>
     </message>
     <message>
         <source>The noise in the dark is smaller than one step of the pixel format, so the numbers of the dark images are not exact. A pixel format with more bits shows the differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Rauschen im Dunkeln ist kleiner als eine Stufe des Pixelformats, deshalb sind die Werte der Dunkelbilder nicht genau. Ein Pixelformat mit mehr Bits zeigt die Unterschiede.</translation>
     </message>
     <message>
         <source>%1 % of the values in the bright images are clipped. Reduce the exposure time or the light, to about 70 % of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Werte in den Hellbildern sind übersteuert. Verringern Sie die Belichtungszeit oder das Licht, auf etwa 70 % des Wertebereichs.</translation>
     </message>
     <message>
         <source>The bright images show structures that look like an object and not like shading; the correction would draw them into every picture. Use an even surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hellbilder zeigen Strukturen, die nach einem Objekt aussehen und nicht nach Shading; die Korrektur würde sie in jedes Bild übertragen. Verwenden Sie eine gleichmäßige Fläche, unscharf abgebildet.</translation>
     </message>
     <message>
         <source>The picture is too dark. Remove the lens cap, open the aperture, add light or lengthen the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu dunkel. Nehmen Sie die Objektivkappe ab, öffnen Sie die Blende, sorgen Sie für mehr Licht, oder verlängern Sie die Belichtungszeit.</translation>
     </message>
     <message>
         <source>%1 % of the pixels are overexposed. Close the aperture or shorten the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Pixel sind überbelichtet. Schließen Sie die Blende, oder verkürzen Sie die Belichtungszeit.</translation>
     </message>
     <message>
         <source>The picture has no edges. Point the camera at something with structure, for example a printed page, or turn the lens if the picture is blurred.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hat keine Kanten. Richten Sie die Kamera auf etwas mit Struktur, zum Beispiel eine bedruckte Seite, oder drehen Sie am Objektiv, wenn das Bild unscharf ist.</translation>
     </message>
     <message>
         <source>Pictures of this pixel format cannot be measured. Choose a Mono, Bayer, RGB or YUV format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder in diesem Pixelformat können nicht gemessen werden. Wählen Sie ein Mono-, Bayer-, RGB- oder YUV-Format.</translation>
     </message>
     <message>
         <source>The picture is too small for so many regions. Choose a larger Width and Height, or fewer regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu klein für so viele Bereiche. Wählen Sie größere Werte für Width und Height oder weniger Bereiche.</translation>
     </message>
     <message>
         <source>The picture became sharp at no position of the lens. Point the camera at something with structure, check the distance, and search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild wurde an keiner Position des Objektivs scharf. Richten Sie die Kamera auf etwas mit Struktur, prüfen Sie den Abstand, und suchen Sie erneut.</translation>
     </message>
     <message>
         <source>The camera cannot move its lens: it has no feature for the position of the focus, for example LensFocusPosition. Turn the lens by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera kann ihr Objektiv nicht verstellen: Sie hat kein Feature für die Fokusposition, zum Beispiel LensFocusPosition. Drehen Sie das Objektiv von Hand.</translation>
     </message>
     <message>
         <source>The right edge is sharp at a higher position than the left edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der rechte Rand ist an einer um %1 höheren Position scharf als der linke.</translation>
     </message>
     <message>
         <source>The left edge became sharp before the right edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der linke Rand wurde %1 s vor dem rechten scharf.</translation>
     </message>
     <message>
         <source>The lower right corner is sharp at a higher position than the upper left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die untere rechte Ecke ist an einer um %1 höheren Position scharf als die obere linke.</translation>
     </message>
     <message>
         <source>The upper left corner became sharp before the lower right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die obere linke Ecke wurde %1 s vor der unteren rechten scharf.</translation>
     </message>
     <message>
         <source>The lower edge is sharp at a higher position than the upper edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der untere Rand ist an einer um %1 höheren Position scharf als der obere.</translation>
     </message>
     <message>
         <source>The upper edge became sharp before the lower edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der obere Rand wurde %1 s vor dem unteren scharf.</translation>
     </message>
     <message>
         <source>The lower left corner is sharp at a higher position than the upper right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die untere linke Ecke ist an einer um %1 höheren Position scharf als die obere rechte.</translation>
     </message>
     <message>
         <source>The upper right corner became sharp before the lower left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die obere rechte Ecke wurde %1 s vor der unteren linken scharf.</translation>
     </message>
     <message>
         <source>The left edge is sharp at a higher position than the right edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der linke Rand ist an einer um %1 höheren Position scharf als der rechte.</translation>
     </message>
     <message>
         <source>The right edge became sharp before the left edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der rechte Rand wurde %1 s vor dem linken scharf.</translation>
     </message>
     <message>
         <source>The upper left corner is sharp at a higher position than the lower right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die obere linke Ecke ist an einer um %1 höheren Position scharf als die untere rechte.</translation>
     </message>
     <message>
         <source>The lower right corner became sharp before the upper left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die untere rechte Ecke wurde %1 s vor der oberen linken scharf.</translation>
     </message>
     <message>
         <source>The upper edge is sharp at a higher position than the lower edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der obere Rand ist an einer um %1 höheren Position scharf als der untere.</translation>
     </message>
     <message>
         <source>The lower edge became sharp before the upper edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der untere Rand wurde %1 s vor dem oberen scharf.</translation>
     </message>
     <message>
         <source>The upper right corner is sharp at a higher position than the lower left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die obere rechte Ecke ist an einer um %1 höheren Position scharf als die untere linke.</translation>
     </message>
     <message>
         <source>The lower left corner became sharp before the upper right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die untere linke Ecke wurde %1 s vor der oberen rechten scharf.</translation>
     </message>
     <message>
         <source>Turn the lens slowly in one direction, until the picture has become blurred again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen Sie das Objektiv langsam in eine Richtung, bis das Bild wieder unscharf geworden ist.</translation>
     </message>
     <message>
         <source>Keep turning in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen Sie weiter in diese Richtung.</translation>
     </message>
     <message>
         <source>Turn back: the peak lies in the other direction.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is as sharp as it becomes. Lock the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen Sie zurück: Das Maximum liegt in der anderen Richtung.</translation>
     </message>
     <message>
         <source>The best position is %1. The lens is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beste Position ist %1. Dort steht das Objektiv.</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens up by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beste Position ist %1: Erhöhen Sie die Position um %2.</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens down by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die beste Position ist %1: Verringern Sie die Position um %2.</translation>
     </message>
     <message>
         <source>Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the camera at something with edges all over the picture, and go through the sharpest position once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurden zu wenige Bereiche scharf und wieder unscharf, um zu erkennen, ob der Fokus verkippt ist. Richten Sie die Kamera auf etwas mit Kanten im ganzen Bild, und drehen Sie noch einmal durch die schärfste Position.</translation>
     </message>
     <message>
         <source>The focus is not tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Fokus ist nicht verkippt.</translation>
     </message>
     <message>
         <source>The centre became sharp before the corners, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Mitte wurde %1 s vor den Ecken scharf.</translation>
     </message>
     <message>
         <source>The corners became sharp before the centre, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ecken wurden %1 s vor der Mitte scharf.</translation>
     </message>
     <message>
         <source>The corners are sharp at a higher position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ecken sind an einer um %1 höheren Position scharf als die Mitte.</translation>
     </message>
     <message>
         <source>The corners are sharp at a lower position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ecken sind an einer um %1 niedrigeren Position scharf als die Mitte.</translation>
     </message>
     <message>
         <source>The link carries %1 MB/s: at most %2 kHz with this width and pixel format. Choose a smaller width, a pixel format with fewer bits, or a lower speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Link überträgt %1 MB/s: bei dieser Breite und diesem Pixelformat höchstens %2 kHz. Wählen Sie eine kleinere Breite, ein Pixelformat mit weniger Bits oder eine niedrigere Geschwindigkeit.</translation>
     </message>
     <message>
         <source>The exposure allows at most %1 kHz, because a line cannot be shorter than its exposure. Shorten the exposure, and add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Belichtung lässt höchstens %1 kHz zu, weil eine Zeile nicht kürzer als ihre Belichtung sein kann. Verkürzen Sie die Belichtung, und erhöhen Sie Licht oder Verstärkung.</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz with its present settings. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera schafft mit ihren aktuellen Einstellungen höchstens %1 kHz. Wählen Sie eine niedrigere Geschwindigkeit oder einen kleineren Abbildungsmaßstab.</translation>
     </message>
     <message>
         <source>This camera takes whole pictures. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera nimmt ganze Bilder auf. Wählen Sie eine Zeilenkamera, die einzelne Zeilen eines bewegten Objekts aufnimmt.</translation>
     </message>
     <message>
         <source>Every number must be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zahlen müssen größer als 0 sein.</translation>
     </message>
     <message>
         <source>Enter the pixel size and the magnification, or the size of a pixel on the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie Pixelgröße und Abbildungsmaßstab oder die Objektpixelgröße ein.</translation>
     </message>
     <message>
         <source>Enter the speed of the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Geschwindigkeit des Objekts ein.</translation>
     </message>
     <message>
         <source>Enter the movement per encoder pulse, or the pulses per revolution and the diameter of the roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie den Weg je Encoderimpuls oder die Impulse je Umdrehung und den Durchmesser der Rolle ein.</translation>
     </message>
     <message>
         <source>The camera has no line rate of its own (AcquisitionLineRate). Use an encoder, or an external trigger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat keine eigene Zeilenrate (AcquisitionLineRate). Verwenden Sie einen Encoder oder einen externen Trigger.</translation>
     </message>
     <message>
         <source>The camera cannot start lines by an encoder (TriggerSelector has no LineStart). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera kann Zeilen nicht durch einen Encoder starten (TriggerSelector hat kein LineStart). Verwenden Sie ihre Zeilenrate.</translation>
     </message>
     <message>
         <source>The exposure of %1 µs is longer than a line. It has to be shortened to %2 µs, so the picture becomes darker: add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Belichtung von %1 µs ist länger als eine Zeile. Sie muss auf %2 µs verkürzt werden, dadurch wird das Bild dunkler: Erhöhen Sie Licht oder Verstärkung.</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der nächstliegenden Einstellung der Kamera werden Objekte %1 % zu hoch. Ändern Sie den Abbildungsmaßstab, oder verwenden Sie einen anderen Encoder.</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der nächstliegenden Einstellung der Kamera werden Objekte %1 % zu flach. Ändern Sie den Abbildungsmaßstab, oder verwenden Sie einen anderen Encoder.</translation>
     </message>
     <message>
         <source>The camera offers no encoder as the source of its line trigger (TriggerSource). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera bietet keinen Encoder als Quelle ihres Zeilentriggers an (TriggerSource). Verwenden Sie ihre Zeilenrate.</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz, but square pixels need %2 kHz. Nothing was changed. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera schafft höchstens %1 kHz, aber quadratische Pixel brauchen %2 kHz. Es wurde nichts geändert. Wählen Sie eine niedrigere Geschwindigkeit oder einen kleineren Abbildungsmaßstab.</translation>
     </message>
     <message>
         <source>The camera has refused %1, so nothing was changed. %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera has refused a setting, and then also to go back to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat %1 abgelehnt, deshalb wurde nichts geändert. %2</translation>
     </message>
     <message>
         <source>The circle is round: height and width differ by %1 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kreis ist rund: Höhe und Breite unterscheiden sich um %1 %.</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kreis ist %1 % zu hoch: Verringern Sie die Zeilen je Encoderimpuls von %2 auf %3.</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kreis ist %1 % zu flach: Erhöhen Sie die Zeilen je Encoderimpuls von %2 auf %3.</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kreis ist %1 % zu hoch: Verringern Sie die Zeilenrate von %2 kHz auf %3 kHz.</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kreis ist %1 % zu flach: Erhöhen Sie die Zeilenrate von %2 kHz auf %3 kHz.</translation>
     </message>
     <message>
         <source>The border of the round target is uneven. Check whether the object moves evenly, whether lines are lost, and whether the target is sharp and free of other shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rand der runden Marke ist ungleichmäßig. Prüfen Sie, ob sich das Objekt gleichmäßig bewegt, ob Zeilen verloren gehen und ob die Marke scharf und frei von anderen Formen ist.</translation>
     </message>
     <message>
         <source>There is no complete round target in the picture of %1 lines. Show the camera a dark or bright disc or ring, or make the picture higher (Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Bild mit %1 Zeilen ist keine vollständige runde Marke. Zeigen Sie der Kamera eine dunkle oder helle Scheibe oder einen solchen Ring, oder machen Sie das Bild höher (Height).</translation>
     </message>
     <message>
         <source>The picture has too little contrast. Take off the lens cap, add light, and show the camera a dark or bright disc or ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hat zu wenig Kontrast. Nehmen Sie die Objektivkappe ab, sorgen Sie für mehr Licht, und zeigen Sie der Kamera eine dunkle oder helle Scheibe oder einen solchen Ring.</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s, because it waits for a trigger. Trigger it, or set TriggerMode to Off, and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat seit %1 s kein Bild gesendet, weil sie auf einen Trigger wartet. Lösen Sie ihn aus, oder setzen Sie TriggerMode auf Off, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s. Check whether the live picture moves, and the cable, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat seit %1 s kein Bild gesendet. Prüfen Sie, ob sich das Livebild bewegt, und prüfen Sie das Kabel; messen Sie dann erneut.</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Check its cable and its power, wait until the picture is back, then measure again. (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The images have ended during the measurement. Start the live picture and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zur Kamera ging während der Messung verloren. Prüfen Sie Kabel und Stromversorgung, warten Sie, bis das Bild wieder da ist, und messen Sie erneut. (%1)</translation>
     </message>
     <message>
         <source>The images arrive with missing data. Check the cable and the network card (&quot;cvxctl doctor&quot; helps), or lower the image rate, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilder kommen mit fehlenden Daten an. Prüfen Sie Kabel und Netzwerkkarte („cvxctl doctor“ hilft dabei), oder verringern Sie die Bildrate, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The measurement was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Messung wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The pixel values are not proportional to the light. Set Gamma to 1, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pixelwerte sind nicht proportional zum Licht. Setzen Sie Gamma auf 1, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;DeviceTapGeometry&quot;. Choose the layout of its taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat kein Feature „DeviceTapGeometry“. Wählen Sie die Anordnung ihrer Taps von Hand.</translation>
     </message>
     <message>
         <source>The tap geometry &quot;%1&quot; is unknown. Choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tap-Geometrie „%1“ ist unbekannt. Wählen Sie die Anordnung der Taps von Hand.</translation>
     </message>
     <message>
         <source>The sensor has one tap only, so there is nothing to balance. If that is wrong, choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Sensor hat nur einen Tap, deshalb gibt es nichts abzugleichen. Wenn das nicht stimmt, wählen Sie die Anordnung der Taps von Hand.</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;%1&quot;, so its taps can be measured, but not set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat kein Feature „%1“, deshalb können ihre Taps gemessen, aber nicht eingestellt werden.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the entries Tap1 to Tap%2, so the taps can be measured, but not set. Choose the layout of the camera&apos;s taps.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat die Einträge Tap1 bis Tap%2 nicht, deshalb können die Taps gemessen, aber nicht eingestellt werden. Wählen Sie die Anordnung der Taps der Kamera.</translation>
     </message>
     <message>
         <source>The scene moves: %1 % of the picture has changed during the measurement. Show an even surface that rests, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene bewegt sich: %1 % des Bilds haben sich während der Messung geändert. Zeigen Sie eine gleichmäßige, unbewegte Fläche, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The picture is overexposed: %1 % of a tap&apos;s pixels have the largest value. Shorten the exposure time or close the lens aperture, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist überbelichtet: %1 % der Pixel eines Taps haben den größten Wert. Verkürzen Sie die Belichtungszeit, oder schließen Sie die Blende des Objektivs, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The picture is too dark: it reaches %1 % of the range. Remove the lens cap, add light or lengthen the exposure time, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu dunkel: Es erreicht %1 % des Wertebereichs. Nehmen Sie die Objektivkappe ab, sorgen Sie für mehr Licht, oder verlängern Sie die Belichtungszeit, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The picture is not dark: its mean is %1 % of the range. Cover the lens, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist nicht dunkel: Sein Mittelwert liegt bei %1 % des Wertebereichs. Decken Sie das Objektiv ab, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The dark picture is cut off: %1 % of a tap&apos;s pixels are 0. Raise the black level, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dunkelbild ist abgeschnitten: %1 % der Pixel eines Taps sind 0. Erhöhen Sie den Schwarzwert, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The step between tap %1 and tap %2 cannot be told from the scene. Show an even surface, or take more images, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Stufe zwischen Tap %1 und Tap %2 lässt sich nicht von der Szene unterscheiden. Zeigen Sie eine gleichmäßige Fläche, oder nehmen Sie mehr Bilder auf, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>Taps cannot be measured in this pixel format. Choose a Mono or Bayer format of 8 to 16 bits, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Pixelformat können Taps nicht gemessen werden. Wählen Sie ein Mono- oder Bayer-Format mit 8 bis 16 Bit, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The taps read neighbouring pixels in turn, which have different colours, so taps and colours cannot be told apart. Choose a layout of stripes by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taps lesen abwechselnd benachbarte Pixel aus, die verschiedene Farben haben; deshalb lassen sich Taps und Farben nicht unterscheiden. Wählen Sie von Hand eine Anordnung in Streifen.</translation>
     </message>
     <message>
         <source>Binning adds up pixels of several taps. Switch it off, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Binning summiert Pixel mehrerer Taps. Schalten Sie es aus, und messen Sie erneut.</translation>
     </message>
     <message>
         <source>The size or the format of the images has changed during the measurement. Measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Größe oder das Format der Bilder hat sich während der Messung geändert. Messen Sie erneut.</translation>
     </message>
     <message>
         <source>The dark level of this pixel format cannot be measured; choose a Mono, Bayer or RGB format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dunkelwert kann in diesem Pixelformat nicht gemessen werden; wählen Sie ein Mono-, Bayer- oder RGB-Format.</translation>
     </message>
     <message>
         <source>The picture is not dark. Put the cap on the lens, or cover the lens completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist nicht dunkel. Setzen Sie die Objektivkappe auf, oder decken Sie das Objektiv vollständig ab.</translation>
     </message>
     <message>
         <source>%1 % of the pixels are 0, which hides the dark level. Raise BlackLevel, so that the noise lies above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Pixel sind 0, was den Dunkelwert verdeckt. Erhöhen Sie BlackLevel, sodass das Rauschen über 0 liegt.</translation>
     </message>
     <message>
         <source>The noise is smaller than one step of the pixel format, which hides small changes of the dark level. Choose a pixel format with more bits, or a higher gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Rauschen ist kleiner als eine Stufe des Pixelformats, was kleine Änderungen des Dunkelwerts verdeckt. Wählen Sie ein Pixelformat mit mehr Bits oder eine höhere Verstärkung.</translation>
     </message>
     <message>
         <source>The features cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Features können nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat kein Feature DeviceTemperature, deshalb meldet sie ihre Temperatur nicht.</translation>
     </message>
     <message>
         <source>The scene moves, so the regions&apos; shares also change with what they show. Let it stand still to compare the regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene bewegt sich, deshalb ändern sich die Anteile der Bereiche auch mit ihrem Inhalt. Halten Sie sie ruhig, um die Bereiche zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>The picture is as sharp as it gets. Lock the lens.</source>
+        <translation>Schärfer wird das Bild nicht. Fixieren Sie das Objektiv.</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification or the speed.</source>
+        <translation>Mit der nächstliegenden Einstellung der Kamera werden Objekte %1 % zu hoch. Ändern Sie den Abbildungsmaßstab oder die Geschwindigkeit.</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification or the speed.</source>
+        <translation>Mit der nächstliegenden Einstellung der Kamera werden Objekte %1 % zu flach. Ändern Sie den Abbildungsmaßstab oder die Geschwindigkeit.</translation>
+    </message>
+    <message>
+        <source>The camera has refused a setting, and then also refused to go back to %1: %2</source>
+        <translation>Die Kamera hat eine Einstellung abgelehnt und danach auch die Rückkehr zu %1: %2</translation>
+    </message>
+    <message>
+        <source>The stream has ended during the measurement. Start the live picture and measure again.</source>
+        <translation>Während der Messung kamen keine Bilder mehr an. Starten Sie das Livebild, und messen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The picture shows no border between tap %1 and the other taps. Set the region to the whole sensor, or choose another layout, then measure again.</source>
+        <translation>Das Bild zeigt keine Grenze zwischen Tap %1 und den anderen Taps. Stellen Sie die Bildregion auf den ganzen Sensor, oder wählen Sie eine andere Anordnung, und messen Sie dann noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -5183,15 +5195,15 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>StepCard</name>
     <message>
         <source>Step %1, not yet possible: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt %1, noch nicht möglich: %2</translation>
     </message>
     <message>
         <source>Step %1, next: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt %1, als Nächstes: %2</translation>
     </message>
     <message>
         <source>Step %1, done: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt %1, erledigt: %2</translation>
     </message>
 </context>
 <context>
@@ -5360,269 +5372,269 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>TapBars</name>
     <message>
         <source>Deviation of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung jedes Taps</translation>
     </message>
     <message>
         <source>Grey: before; blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau: vorher; blau: jetzt</translation>
     </message>
     <message>
         <source>Tap %1: %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap %1: %2 %3</translation>
     </message>
     <message>
         <source>Not measured yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht gemessen</translation>
     </message>
 </context>
 <context>
     <name>TapPanel</name>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">Mittelwert</translation>
+        <translation>Mittelwert</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Rauschen</translation>
     </message>
     <message>
         <source>Mismatch of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschied der Taps</translation>
     </message>
     <message>
         <source>Skip this step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt überspringen</translation>
     </message>
     <message>
         <source>Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzten Abgleich zurücknehmen</translation>
     </message>
     <message>
         <source>Mean and noise of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwert und Rauschen jedes Taps</translation>
     </message>
     <message>
         <source>Shading changes the means, so the steps at the borders say how the taps differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Shading verändert die Mittelwerte, deshalb zeigen die Stufen an den Grenzen, wie sich die Taps unterscheiden.</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">Messen</translation>
+        <translation>Messen</translation>
     </message>
     <message>
         <source>Show an even, bright surface that fills the picture, for example a white sheet out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen Sie eine gleichmäßige, helle Fläche, die das Bild füllt, zum Beispiel ein unscharf abgebildetes weißes Blatt.</translation>
     </message>
     <message>
         <source>Measure the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps messen</translation>
     </message>
     <message>
         <source>Black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzwerte</translation>
     </message>
     <message>
         <source>Cover the lens. Without this step, differences of the black levels count as those of the gains.</source>
-        <translation type="unfinished"></translation>
+        <translation>Decken Sie das Objektiv ab. Ohne diesen Schritt werden Unterschiede der Schwarzwerte den Verstärkungen zugerechnet.</translation>
     </message>
     <message>
         <source>Balance the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzwerte abgleichen</translation>
     </message>
     <message>
         <source>Gains</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstärkungen</translation>
     </message>
     <message>
         <source>Uncover the lens and show the even, bright surface again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie die Abdeckung ab, und zeigen Sie wieder die gleichmäßige, helle Fläche.</translation>
     </message>
     <message>
         <source>Balance the gains</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstärkungen abgleichen</translation>
     </message>
     <message>
         <source>The camera has the new values until it is switched off. Store them in a user set with Camera Setup to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera behält die neuen Werte, bis sie ausgeschaltet wird. Um sie dauerhaft zu behalten, speichern Sie sie mit Camera Setup in einem User-Set.</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis speichern…</translation>
     </message>
     <message>
         <source>The taps differ by up to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taps unterscheiden sich um bis zu %1.</translation>
+    </message>
+    <message>
+        <source>Keep the values</source>
+        <translation>Behalten</translation>
     </message>
 </context>
 <context>
     <name>TapReport</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap Balance</translation>
     </message>
     <message>
         <source>Layout of the taps: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung der Taps: %1</translation>
     </message>
     <message>
         <source>Deviation of each tap; grey: before, blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung jedes Taps; grau: vorher, blau: jetzt</translation>
     </message>
     <message>
         <source>Bright picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellbild</translation>
     </message>
     <message>
         <source>Dark picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelbild</translation>
     </message>
     <message>
         <source>The picture with the borders of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild mit den Grenzen der Taps</translation>
     </message>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">Mittelwert</translation>
+        <translation>Mittelwert</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Rauschen</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished">%1 bis %2 {1 ?}</translation>
+        <translation>%1 zu %2</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps</translation>
     </message>
     <message>
         <source>Step at the border</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufe an der Grenze</translation>
     </message>
     <message>
         <source>The deviations follow from the steps at the borders, which straight lines on both sides are extended to; shading has no influence. The noise is the temporal standard deviation of a pixel by the differences of successive images (EMVA 1288). The uncertainty of a step is twice its standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abweichungen ergeben sich aus den Stufen an den Grenzen, bis zu denen Geraden auf beiden Seiten verlängert werden; Shading hat keinen Einfluss. Das Rauschen ist die zeitliche Standardabweichung eines Pixels aus den Differenzen aufeinanderfolgender Bilder (EMVA 1288). Die Unsicherheit einer Stufe ist ihr doppelter Standardfehler.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vorher</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished">jetzt</translation>
+        <translation>jetzt</translation>
     </message>
 </context>
 <context>
     <name>TapSession</name>
     <message>
         <source>Measuring the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Taps werden gemessen</translation>
     </message>
     <message>
         <source>Balancing the gains</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstärkungen werden abgeglichen</translation>
     </message>
     <message>
         <source>Balancing the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzwerte werden abgeglichen</translation>
     </message>
     <message>
         <source>Putting the earlier values back</source>
-        <translation type="unfinished"></translation>
+        <translation>Frühere Werte werden wiederhergestellt</translation>
     </message>
 </context>
 <context>
     <name>TapTexts</name>
     <message>
-        <source>values</source>
-        <comment>unit of pixel values</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The mismatch fell from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Unterschied sank von %1 auf %2.</translation>
     </message>
     <message>
         <source>The mismatch fell from %1 to %2. The camera offers no finer values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Unterschied sank von %1 auf %2. Feinere Werte bietet die Kamera nicht.</translation>
+    </message>
+    <message>
+        <source>DN</source>
+        <comment>unit of pixel values</comment>
+        <translation>Grauwerte</translation>
     </message>
 </context>
 <context>
     <name>TapWindow</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap Balance</translation>
     </message>
     <message>
         <source>The camera has no feature GainSelector, so the gains of its taps cannot be set one by one. Use a flat-field correction instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat kein Feature GainSelector, deshalb lassen sich die Verstärkungen ihrer Taps nicht einzeln einstellen. Verwenden Sie stattdessen eine Flat-Field-Korrektur.</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis &amp;speichern…</translation>
     </message>
     <message>
         <source>&amp;Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzten Abgleich &amp;zurücknehmen</translation>
     </message>
 </context>
 <context>
     <name>TargetOverlay</name>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished">%1 × %2 px</translation>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
     <name>TemperaturePlot</name>
     <message>
-        <source>&amp;Show the last</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Time since the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit seit dem Start</translation>
     </message>
     <message>
         <source>Temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur in °C</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelwert</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Warnung</translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>Alarm</translation>
     </message>
     <message>
         <source>Final value of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Endwert von %1</translation>
     </message>
     <message>
         <source>Dark level follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelwert folgt</translation>
+    </message>
+    <message>
+        <source>Show the &amp;last</source>
+        <translation>&amp;Zeitraum</translation>
     </message>
 </context>
 <context>
@@ -5643,273 +5655,273 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <name>ThermalPanel</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis &amp;speichern…</translation>
     </message>
     <message>
         <source>Notify me</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigung</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished">Log</translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelwert</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"> s</translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Read &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Messen alle</translation>
     </message>
     <message>
         <source>Start a&amp;new</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu beginnen</translation>
     </message>
     <message>
         <source>Forgets the readings and begins again. A running log goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwirft die Messwerte und beginnt von vorn. Ein laufendes Protokoll geht weiter.</translation>
     </message>
 </context>
 <context>
     <name>ThermalReport</name>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Thermal Monitor</translation>
     </message>
     <message>
         <source>Readings since %1 (UTC).</source>
-        <translation type="unfinished"></translation>
+        <translation>Messwerte seit %1 (UTC).</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Messstelle</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Expected final value in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwarteter Endwert in °C</translation>
     </message>
     <message>
         <source>Time constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitkonstante</translation>
     </message>
     <message>
         <source>Steady in</source>
-        <translation type="unfinished"></translation>
+        <translation>Stabil in</translation>
     </message>
     <message>
         <source>The final value belongs to an exponential curve through the readings; the uncertainty is twice the standard deviation. Steady means within 0.5 K of the final value, or a change of less than 0.1 K per minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Endwert gehört zu einer Exponentialkurve durch die Messwerte; die Unsicherheit ist die doppelte Standardabweichung. Stabil bedeutet: höchstens 0,5 K vom Endwert entfernt oder eine Änderung von weniger als 0,1 K pro Minute.</translation>
     </message>
     <message>
         <source>Temperatures over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperaturverlauf</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelwert</translation>
     </message>
     <message>
         <source>Dark level over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf des Dunkelwerts</translation>
     </message>
 </context>
 <context>
     <name>ThermalSession</name>
     <message>
         <source>The camera has not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera wurde noch nicht ausgelesen.</translation>
     </message>
 </context>
 <context>
     <name>ThermalTexts</name>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>10 min</source>
-        <translation type="unfinished"></translation>
+        <translation>10 min</translation>
     </message>
     <message>
         <source>1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>1 h</translation>
     </message>
     <message>
         <source>24 h</source>
-        <translation type="unfinished"></translation>
+        <translation>24 h</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished">Kamera</translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>Cannot be read at present</source>
-        <translation type="unfinished"></translation>
+        <translation>Derzeit nicht lesbar</translation>
     </message>
     <message>
         <source>Rate and state are known in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rate und Zustand sind in %1 bekannt.</translation>
     </message>
     <message>
         <source>Warming up, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwärmt sich, %1 K/min</translation>
     </message>
     <message>
         <source>Cooling, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Kühlt ab, %1 K/min</translation>
     </message>
     <message>
         <source>Steady, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Stabil, %1 K/min</translation>
     </message>
     <message>
         <source>The temperature does not change any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Temperatur ändert sich nicht mehr.</translation>
     </message>
     <message>
         <source>The final value is not determined yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Endwert ist noch nicht bestimmt.</translation>
     </message>
     <message>
         <source>Expected final value: %1 °C ± %2 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwarteter Endwert: %1 °C ± %2 K</translation>
     </message>
     <message>
         <source>%1, steady in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, stabil in %2</translation>
     </message>
     <message>
         <source>Alarm: %1 has reached %2. Cool the camera or let it work less.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alarm: %1 hat %2 erreicht. Kühlen Sie die Kamera, oder verringern Sie ihre Last.</translation>
     </message>
     <message>
         <source>Warning: %1 is at %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung: %1 bei %2.</translation>
     </message>
     <message>
         <source>%1 is below the thresholds again: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist wieder unter den Schwellen: %2.</translation>
     </message>
     <message>
         <source>Dark level: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelwert: %1</translation>
     </message>
     <message>
         <source>Dark level: %1 (noise %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelwert: %1 (Rauschen %2)</translation>
     </message>
     <message>
         <source>The dark level has followed the temperature since %1 after the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dunkelwert folgt der Temperatur seit %1 nach dem Start.</translation>
     </message>
     <message>
         <source>The dark level has not changed by more than its noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dunkelwert hat sich nicht stärker als sein Rauschen geändert.</translation>
     </message>
     <message>
         <source>The dark signal doubles every %1 ± %2 K.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dunkelsignal verdoppelt sich alle %1 ± %2 K.</translation>
     </message>
     <message>
         <source>The doubling temperature is not determined yet; the temperature has to change more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verdopplungstemperatur ist noch nicht bestimmt; die Temperatur muss sich stärker ändern.</translation>
     </message>
 </context>
 <context>
     <name>ThermalWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis &amp;speichern…</translation>
     </message>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Thermal Monitor</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature. The data sheet says whether a newer firmware does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera hat kein Feature DeviceTemperature, deshalb meldet sie ihre Temperatur nicht. Ob eine neuere Firmware das kann, steht im Datenblatt.</translation>
     </message>
 </context>
 <context>
     <name>ThresholdBox</name>
     <message>
         <source>&amp;Warning at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Warnung ab</translation>
     </message>
     <message>
         <source>&amp;Alarm at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alarm ab</translation>
     </message>
     <message>
         <source> K</source>
-        <translation type="unfinished"></translation>
+        <translation> K</translation>
     </message>
     <message>
         <source>A warning or an alarm ends when the temperature is so far below its threshold again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>En&amp;ds below by</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The program notifies you, also while its window is behind others, when a place gets so warm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Warnung oder ein Alarm endet, wenn die Temperatur um diesen Wert unter die Schwelle gefallen ist.</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>Ends &amp;below by</source>
+        <translation>Hys&amp;terese</translation>
+    </message>
+    <message>
+        <source>The program notifies you, also while its window is behind others, when a place gets this warm.</source>
+        <translation>Das Programm benachrichtigt Sie, auch wenn sein Fenster verdeckt ist, sobald eine Messstelle so warm wird.</translation>
     </message>
 </context>
 <context>
     <name>ThresholdControl</name>
     <message>
         <source>How far a pixel deviates from its neighbours before it counts as a defect, in standard deviations of the good pixels. At 6 σ, less than one good pixel per megapixel is taken for a defect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit ein Pixel von seinen Nachbarn abweichen muss, um als Defekt zu zählen, in Standardabweichungen der guten Pixel. Bei 6 σ wird weniger als ein gutes Pixel pro Megapixel für einen Defekt gehalten.</translation>
     </message>
     <message>
         <source>&amp;Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;welle</translation>
     </message>
     <message>
         <source>Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwelle</translation>
     </message>
     <message>
         <source> σ</source>
-        <translation type="unfinished"></translation>
+        <translation> σ</translation>
     </message>
 </context>
 <context>
@@ -6474,7 +6486,7 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     </message>
     <message>
         <source>&amp;Corrections…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Korrekturen…</translation>
     </message>
 </context>
 <context>
@@ -6553,11 +6565,11 @@ Für Industriekameras aller Hersteller. MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Not corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht korrigiert</translation>
     </message>
     <message>
         <source>Corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrigiert</translation>
     </message>
 </context>
 <context>

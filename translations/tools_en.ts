@@ -53,9 +53,9 @@
     <name>DefectList</name>
     <message numerus="yes">
         <source>%n pixel(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pixel</numerusform>
+            <numerusform>%n pixels</numerusform>
         </translation>
     </message>
 </context>
@@ -63,9 +63,9 @@
     <name>DefectTexts</name>
     <message numerus="yes">
         <source>%n defect pixel(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n defect pixel found.</numerusform>
+            <numerusform>%n defect pixels found.</numerusform>
         </translation>
     </message>
 </context>
@@ -127,23 +127,23 @@
     <name>FlatFieldTexts</name>
     <message numerus="yes">
         <source>The numbers after the correction are those of %n other image(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The numbers after the correction are those of %n other image.</numerusform>
+            <numerusform>The numbers after the correction are those of %n other images.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n pixel deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</numerusform>
+            <numerusform>%n pixels deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The gain of %n pixel(s) was limited.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The gain of %n pixel was limited.</numerusform>
+            <numerusform>The gain of %n pixels was limited.</numerusform>
         </translation>
     </message>
 </context>
@@ -330,9 +330,9 @@
     <name>RepairWindow</name>
     <message numerus="yes">
         <source>%n dark image(s) taken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n dark image taken.</numerusform>
+            <numerusform>%n dark images taken.</numerusform>
         </translation>
     </message>
 </context>

@@ -2,72 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
-    <name></name>
-    <message>
-        <source>Flat Field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Non-uniformity by EMVA 1288 release 4.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean of the columns</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A picture as the camera sends it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The same picture, corrected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The gains: the brighter, the higher</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AssistantWindow</name>
     <message>
         <source>The result was saved to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat enregistré dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Press F5 to see the live picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur F5 pour voir l’image en direct.</translation>
     </message>
     <message>
         <source>&amp;Result</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Résultat</translation>
     </message>
     <message>
         <source>&amp;Live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image en &amp;direct</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">&amp;Caméra</translation>
+        <translation>&amp;Caméra</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished">Ouvrir dans la &amp;visionneuse d’images</translation>
+        <translation>Ouvrir dans la &amp;visionneuse d’images</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap</translation>
     </message>
     <message>
         <source>Cancel the measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la mesure</translation>
     </message>
 </context>
 <context>
     <name>BigNumber</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1&#xa0;: %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -338,7 +311,7 @@
     <name>CameraSettings</name>
     <message>
         <source>Camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de la caméra</translation>
     </message>
 </context>
 <context>
@@ -690,165 +663,165 @@
     <name>CorrectionDialog</name>
     <message>
         <source>&amp;Correct the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Corriger les images</translation>
     </message>
     <message>
         <source>Corrections</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrections</translation>
     </message>
     <message>
         <source>&amp;Defect map:</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte des &amp;défauts&#xa0;:</translation>
     </message>
     <message>
         <source>Choose a defect map</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une carte des défauts</translation>
     </message>
     <message>
         <source>Defect maps (*.json *.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartes des défauts (*.json *.csv);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>&amp;Flat field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ &amp;plat&#xa0;:</translation>
     </message>
     <message>
         <source>Choose a flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un champ plat</translation>
     </message>
     <message>
         <source>Flat fields (*.tif *.tiff);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs plats (*.tif *.tiff);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The correction applies to the shown pictures, to PNG and TIFF files and to TIFF recordings. Raw files, videos and measured values stay those of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>La correction s’applique aux images affichées, aux fichiers PNG et TIFF et aux séquences TIFF. Les fichiers bruts, les vidéos et les valeurs mesurées restent ceux de la caméra.</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir…</translation>
     </message>
     <message>
         <source>The pictures are not corrected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images ne sont pas corrigées&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The pictures are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sont corrigées.</translation>
     </message>
 </context>
 <context>
     <name>DarkBox</name>
     <message>
         <source>Cover the lens, and choose a long exposure and a pixel format with many bits in the camera settings. Then measure while the camera warms up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obturez l’objectif et choisissez, dans les réglages de la caméra, une longue exposition et un format de pixel à grand nombre de bits. Mesurez ensuite pendant la montée en température.</translation>
     </message>
     <message>
         <source>Stop measuring the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la mesure d’&amp;obscurité</translation>
     </message>
     <message>
         <source>Measure the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesurer le niveau d’&amp;obscurité</translation>
     </message>
 </context>
 <context>
     <name>DefectList</name>
     <message>
         <source>Columns %1 to %2, lines %3 to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes %1 à %2, lignes %3 à %4</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Colonne</translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">Ligne</translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n&#xa0;pixel</numerusform>
+            <numerusform>%n&#xa0;pixels</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 σ</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;σ</translation>
     </message>
 </context>
 <context>
     <name>DefectTexts</name>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaud</translation>
     </message>
     <message>
         <source>Dead</source>
-        <translation type="unfinished"></translation>
+        <translation>Mort</translation>
     </message>
     <message>
         <source>Stuck</source>
-        <translation type="unfinished"></translation>
+        <translation>Figé</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>Clignotant</translation>
     </message>
     <message>
         <source>Deviating</source>
-        <translation type="unfinished"></translation>
+        <translation>Déviant</translation>
     </message>
     <message>
         <source>Too bright in the dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop clair dans l’obscurité.</translation>
     </message>
     <message>
         <source>Hardly reacts to light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réagit à peine à la lumière.</translation>
     </message>
     <message>
         <source>Always has the same value.</source>
-        <translation type="unfinished"></translation>
+        <translation>A toujours la même valeur.</translation>
     </message>
     <message>
         <source>Changes between levels from image to image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Change de niveau d’une image à l’autre.</translation>
     </message>
     <message>
         <source>Reacts to light much more or less than its neighbours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réagit à la lumière nettement plus ou moins que ses voisins.</translation>
     </message>
     <message>
         <source>Cluster</source>
-        <translation type="unfinished"></translation>
+        <translation>Amas</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Colonne</translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">Ligne</translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>No defect pixels were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun pixel défectueux trouvé.</translation>
     </message>
     <message numerus="yes">
         <source>%n defect pixel(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n&#xa0;pixel défectueux trouvé.</numerusform>
+            <numerusform>%n&#xa0;pixels défectueux trouvés.</numerusform>
         </translation>
     </message>
 </context>
@@ -1061,23 +1034,23 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>DurationScale</name>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;h %2&#xa0;min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;j</translation>
     </message>
 </context>
 <context>
@@ -1760,206 +1733,233 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>FlatFieldPanel</name>
     <message>
         <source>Shading before</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombrage avant</translation>
     </message>
     <message>
         <source>Shading after</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombrage après</translation>
     </message>
     <message>
         <source>Show the picture corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’image corrigée</translation>
     </message>
     <message>
         <source>Dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images sombres</translation>
     </message>
     <message>
         <source>Cover the lens completely. The images show the offset of each pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obturez complètement l’objectif. Les images révèlent l’offset de chaque pixel.</translation>
     </message>
     <message>
         <source>Take dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre les images sombres</translation>
     </message>
     <message>
         <source>Bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images claires</translation>
     </message>
     <message>
         <source>Uncover the lens, and point the camera at an evenly lit surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Découvrez l’objectif et visez une surface éclairée uniformément, hors mise au point.</translation>
     </message>
     <message>
         <source>Take bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre les images claires</translation>
     </message>
     <message>
         <source>Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Correction</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl apply the file to every picture of this camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>La visionneuse d’images et cvxctl appliquent le fichier à chaque image de cette caméra.</translation>
     </message>
     <message>
         <source>Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la correction…</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’images</translation>
     </message>
     <message>
         <source>Images: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dark images, and bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images&#xa0;: </translation>
     </message>
     <message>
         <source>Sets the exposure time so that the bright images have about 70 % of the range, and puts it back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Règle le temps d’exposition pour que les images claires atteignent environ 70&#xa0;% de la plage, puis le restaure.</translation>
     </message>
     <message>
         <source>Correct every pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger chaque pixel</translation>
     </message>
     <message>
         <source>Correct the shading only</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger l’ombrage seul</translation>
     </message>
     <message>
         <source>What is corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendue de la correction</translation>
     </message>
     <message>
         <source>The shading only: the gain changes smoothly over the picture, which adds no noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombrage seul&#xa0;: le gain varie progressivement dans l’image, ce qui n’ajoute aucun bruit.</translation>
     </message>
     <message>
         <source>Keep the mean brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver la luminosité moyenne</translation>
     </message>
     <message>
         <source>Raise to the brightest place</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner sur le point le plus clair</translation>
     </message>
     <message>
         <source>Brightness after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité après correction</translation>
     </message>
     <message>
         <source>Raised to the brightest place, no gain is below 1: what is clipped stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alignement sur le point le plus clair&#xa0;: aucun gain n’est inférieur à 1, les zones écrêtées restent blanches.</translation>
     </message>
     <message>
         <source>Non-uniformity before and after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Non-uniformité avant et après correction</translation>
     </message>
     <message>
         <source>DSNU: differences of the pixels in the dark. PRNU: differences of their sensitivity. By EMVA 1288 release 4.0, without the temporal noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>DSNU&#xa0;: différences entre pixels dans l’obscurité. PRNU&#xa0;: différences de sensibilité. Selon EMVA 1288, version 4.0, sans le bruit temporel.</translation>
     </message>
     <message>
         <source>Mean of the columns, before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne des colonnes, avant et après</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Colonne</translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>% of the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>% de la moyenne</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The dark images are taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Après</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
-        <translation type="unfinished">Image enregistrée sous «&#xa0;%1&#xa0;».</translation>
+        <translation>Enregistré sous «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Set the exposure time automatically</source>
+        <translation>Régler le temps d’exposition</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
+        <translation>Images sombres, et autant d’images claires. Plus elles sont nombreuses, moins la correction contient de bruit. Moitié moins d’images sont prises en plus, pour vérifier la correction.</translation>
+    </message>
+    <message>
+        <source>The dark images were taken.</source>
+        <translation>Les images sombres sont prises.</translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldReport</name>
+    <message>
+        <source>Flat Field</source>
+        <translation>Correction de champ plat</translation>
+    </message>
+    <message>
+        <source>Non-uniformity by EMVA 1288 release 4.0</source>
+        <translation>Non-uniformité selon EMVA 1288, version 4.0</translation>
+    </message>
+    <message>
+        <source>Mean of the columns</source>
+        <translation>Moyenne des colonnes</translation>
+    </message>
+    <message>
+        <source>A picture as the camera sends it</source>
+        <translation>Image telle que la caméra l’envoie</translation>
+    </message>
+    <message>
+        <source>The same picture, corrected</source>
+        <translation>La même image, corrigée</translation>
+    </message>
+    <message>
+        <source>The gains: the brighter, the higher</source>
+        <translation>Gains&#xa0;: plus c’est clair, plus le gain est élevé</translation>
     </message>
 </context>
 <context>
     <name>FlatFieldTexts</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1&#xa0;%</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 DN</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;DN</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished">inconnu</translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Après</translation>
     </message>
     <message>
         <source>Shading</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombrage</translation>
     </message>
     <message>
         <source>… without shading</source>
-        <translation type="unfinished"></translation>
+        <translation>… sans l’ombrage</translation>
     </message>
     <message>
         <source>… in electrons</source>
-        <translation type="unfinished"></translation>
+        <translation>… en électrons</translation>
     </message>
     <message>
         <source>The picture is even: its shading is only %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est uniforme&#xa0;: son ombrage n’est que de %1.</translation>
     </message>
     <message>
         <source>The correction reduces the shading from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La correction réduit l’ombrage de %1 à %2.</translation>
     </message>
     <message>
         <source>%1; gains from %2 to %3; bright images at %4 of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;; gains de %2 à %3&#xa0;; images claires à %4 de la plage.</translation>
     </message>
     <message numerus="yes">
         <source>The numbers after the correction are those of %n other image(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Les valeurs après correction sont celles de %n&#xa0;autre image.</numerusform>
+            <numerusform>Les valeurs après correction sont celles de %n&#xa0;autres images.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n&#xa0;pixel s’écarte fortement et a reçu le gain de ses voisins&#xa0;; la Réparation de pixels le remplace.</numerusform>
+            <numerusform>%n&#xa0;pixels s’écartent fortement et ont reçu le gain de leurs voisins&#xa0;; la Réparation de pixels les remplace.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The gain of %n pixel(s) was limited.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le gain de %n&#xa0;pixel a été limité.</numerusform>
+            <numerusform>Le gain de %n&#xa0;pixels a été limité.</numerusform>
         </translation>
     </message>
 </context>
@@ -1967,239 +1967,235 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>FlatFieldWindow</name>
     <message>
         <source>Flat Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Correction de champ plat</translation>
     </message>
     <message>
         <source>The camera does not say its pixel format (PixelFormat), so its values cannot be corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’indique pas son format de pixel (PixelFormat)&#xa0;: ses valeurs ne peuvent pas être corrigées.</translation>
     </message>
     <message>
         <source>&amp;Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la correction…</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise des images sombres</translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise des images claires</translation>
     </message>
 </context>
 <context>
     <name>FocusPanel</name>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Part du pic</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Before now</source>
-        <translation type="unfinished"></translation>
+        <translation>Netteté</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Regions per direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Netteté au cours de la dernière minute</translation>
     </message>
     <message>
         <source>&amp;Forget the peaks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oublier les pics</translation>
     </message>
     <message>
         <source>Begins again, for example because the camera looks at something else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommence, par exemple parce que la caméra vise autre chose.</translation>
     </message>
     <message>
         <source>Point the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Orienter la caméra</translation>
     </message>
     <message>
         <source>It looks at something with edges all over the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra doit viser un objet présentant des contours dans toute l’image.</translation>
     </message>
     <message>
         <source>Find the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver la meilleure mise au point</translation>
     </message>
     <message>
         <source>Search &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche &amp;automatique</translation>
     </message>
     <message>
         <source>Read the tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire l’inclinaison</translation>
     </message>
     <message>
         <source>The order in which the regions become sharp says how the focus is tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ordre dans lequel les régions deviennent nettes indique l’inclinaison du plan de netteté.</translation>
     </message>
     <message>
         <source>Read the &amp;tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lire l’inclinaison</translation>
     </message>
     <message>
         <source>Moves the lens through its range and leaves it at the best position. Cancelling puts it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourt la plage de l’objectif et le laisse à la meilleure position. En cas d’annulation, sa position est restaurée.</translation>
     </message>
     <message>
         <source>Nothing was measured yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune mesure pour l’instant.</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>of the peak. Sharpness %1, peak %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>du pic. Netteté %1, pic %2.</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Pic</translation>
     </message>
     <message>
         <source>Search the best position, or turn the lens slowly through the sharpest position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancez la recherche ou tournez lentement la bague en passant par la position la plus nette.</translation>
     </message>
     <message>
         <source>Turn the lens slowly through the sharpest position, then back to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tournez lentement la bague au-delà de la position la plus nette, puis revenez-y.</translation>
+    </message>
+    <message>
+        <source>Time before now</source>
+        <translation>Avant maintenant</translation>
+    </message>
+    <message>
+        <source>Re&amp;gions per direction</source>
+        <translation>Ré&amp;gions par direction</translation>
     </message>
 </context>
 <context>
     <name>FocusReport</name>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistant de mise au point</translation>
     </message>
     <message>
         <source>Sharpness %1, which is %2 of the peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>Netteté %1, soit %2 du pic.</translation>
     </message>
     <message>
         <source>Share of the peak of each region</source>
-        <translation type="unfinished"></translation>
+        <translation>Part du pic de chaque région</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>Netteté au cours de la dernière minute</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Régions</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished">Ligne</translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">Colonne</translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>Netteté</translation>
     </message>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Part du pic</translation>
     </message>
     <message>
         <source>Best position</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleure position</translation>
     </message>
     <message>
         <source>Sharp at (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nette à (s)</translation>
     </message>
     <message>
         <source>Share at the best position</source>
-        <translation type="unfinished"></translation>
+        <translation>Part à la meilleure position</translation>
     </message>
     <message>
         <source>The sharpness is the energy of the differences between neighbouring pixels, divided by the squared brightness, without the part of the noise. Exposure and gain do not change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La netteté est l’énergie des différences entre pixels voisins, divisée par le carré de la luminosité, sans la contribution du bruit. L’exposition et le gain ne la modifient pas.</translation>
     </message>
 </context>
 <context>
     <name>FocusTexts</name>
     <message>
         <source>Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>Extrémité gauche</translation>
     </message>
     <message>
         <source>Right end</source>
-        <translation type="unfinished"></translation>
+        <translation>Extrémité droite</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à gauche</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à droite</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à gauche</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à droite</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1&#xa0;%</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>no edges</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun contour</translation>
     </message>
     <message>
         <source>too dark</source>
-        <translation type="unfinished"></translation>
+        <translation>trop sombre</translation>
     </message>
     <message>
         <source>overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>surexposé</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1&#xa0;: %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Shares of their peaks at the best position: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parts du pic à la meilleure position&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>FocusWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistant de mise au point</translation>
     </message>
     <message>
         <source>Searching the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de la meilleure mise au point</translation>
     </message>
 </context>
 <context>
@@ -2371,27 +2367,27 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>HtmlReport</name>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>Fabricant</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modèle</translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished">N°&#xa0;de série</translation>
+        <translation>N°&#xa0;de série</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nom</translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Settings of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de la caméra</translation>
     </message>
     <message>
         <source>Created by Corvix X, version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport créé par Corvix X, version %1.</translation>
     </message>
 </context>
 <context>
@@ -2413,119 +2409,119 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>InputsForm</name>
     <message>
         <source>&amp;Lines come from</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Source des lignes</translation>
     </message>
     <message>
         <source>the camera&apos;s line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>fréquence de la caméra</translation>
     </message>
     <message>
         <source>an encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>codeur</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vitesse</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Speed of the object. With an encoder: the highest speed, for which the limits are checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de l’objet. Avec un codeur&#xa0;: vitesse maximale, pour laquelle les limites sont vérifiées.</translation>
     </message>
     <message>
         <source>&amp;Encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cod&amp;eur</translation>
     </message>
     <message>
         <source>movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>avance par impulsion</translation>
     </message>
     <message>
         <source>pulses and roller</source>
-        <translation type="unfinished"></translation>
+        <translation>impulsions et rouleau</translation>
     </message>
     <message>
         <source>&amp;Movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Avance par i&amp;mpulsion</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Movement of the object for one pulse, that is one cycle of one signal of the encoder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pulses per &amp;revolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Avance de l’objet pour une impulsion, c’est-à-dire une période d’un signal du codeur.</translation>
     </message>
     <message>
         <source>Number of pulses that the encoder sends while its roller turns once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’impulsions émises par le codeur pour un tour du rouleau.</translation>
     </message>
     <message>
         <source>Roller &amp;diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diamètre du rouleau</translation>
     </message>
     <message>
         <source>Diameter of the roller or wheel that turns the encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre du rouleau ou de la roue qui entraîne le codeur.</translation>
     </message>
     <message>
         <source>Size of a &amp;pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille d’un &amp;pixel</translation>
     </message>
     <message>
         <source>from sensor and lens</source>
-        <translation type="unfinished"></translation>
+        <translation>selon capteur et objectif</translation>
     </message>
     <message>
         <source>known on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>connue sur l’objet</translation>
     </message>
     <message>
         <source>Pi&amp;xel of the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi&amp;xel du capteur</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Width of a pixel of the sensor; the data sheet names it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur d’un pixel du capteur&#xa0;; elle figure dans la fiche technique.</translation>
     </message>
     <message>
         <source>Ma&amp;gnification</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grandissement</translation>
     </message>
     <message>
         <source>Size of the image on the sensor divided by the size of the object, for example 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille de l’image sur le capteur divisée par la taille de l’objet, par exemple 0,5.</translation>
     </message>
     <message>
         <source>Pixel &amp;on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel sur l’&amp;objet</translation>
     </message>
     <message>
         <source>Width of the object that one pixel of the picture shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de l’objet couverte par un pixel de l’image.</translation>
     </message>
     <message>
         <source>Use the longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser l’exposition maximale</translation>
     </message>
     <message>
         <source>Otherwise, the exposure is only shortened if it does not fit into a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon, l’exposition n’est raccourcie que si elle dépasse la durée d’une ligne.</translation>
     </message>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>non renseigné</translation>
+    </message>
+    <message>
+        <source>Pulses per re&amp;volution</source>
+        <translation>Impulsions par &amp;tour</translation>
     </message>
 </context>
 <context>
@@ -2546,67 +2542,67 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>LayoutBox</name>
     <message>
         <source>As the camera says</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon la caméra</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel</translation>
     </message>
     <message>
         <source>Taps:</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux (taps)&#xa0;:</translation>
     </message>
     <message>
         <source>Side by side:</source>
-        <translation type="unfinished"></translation>
+        <translation>Côte à côte&#xa0;:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandes de l’image, de gauche à droite</translation>
     </message>
     <message>
         <source>One above the other:</source>
-        <translation type="unfinished"></translation>
+        <translation>Superposés&#xa0;:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandes de l’image, de haut en bas</translation>
     </message>
     <message>
         <source>Neighbouring columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes voisines&#xa0;:</translation>
     </message>
     <message>
         <source>Taps that read the columns of a stripe in turn; 1 if a stripe has one tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux qui lisent à tour de rôle les colonnes d’une bande&#xa0;; 1 si une bande n’a qu’un canal</translation>
     </message>
     <message>
         <source>Mean of all taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne de tous les canaux</translation>
     </message>
     <message>
         <source>Tap 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal 1</translation>
     </message>
     <message>
         <source>Compare with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer à&#xa0;:</translation>
     </message>
     <message>
         <source>Images of each measurement; more images make the numbers more certain</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’images par mesure&#xa0;; plus il est grand, plus les valeurs sont sûres</translation>
     </message>
     <message>
         <source>Images:</source>
-        <translation type="unfinished"></translation>
+        <translation>Images&#xa0;:</translation>
     </message>
     <message>
         <source>Camera: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Caméra&#xa0;: %1</translation>
     </message>
     <message>
-        <source>The camera does not say it</source>
-        <translation type="unfinished"></translation>
+        <source>Not reported by the camera</source>
+        <translation>Non indiqué par la caméra</translation>
     </message>
 </context>
 <context>
@@ -2640,19 +2636,19 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>LevelBar</name>
     <message>
         <source>Brightness of the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité de l’image en direct</translation>
     </message>
     <message>
         <source>%1 % of the range; 50 to 80 % is good</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% de la plage&#xa0;; 50 à 80&#xa0;% convient</translation>
     </message>
     <message>
         <source>%1 % of the values are clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des valeurs sont écrêtées</translation>
     </message>
     <message>
         <source>There is no picture.</source>
-        <translation type="unfinished">Aucune image.</translation>
+        <translation>Aucune image.</translation>
     </message>
 </context>
 <context>
@@ -2674,266 +2670,266 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>LineScanReport</name>
     <message>
         <source>Speed of the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de l’objet</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Movement per encoder pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Avance par impulsion du codeur</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel sur l’objet</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Line rate for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence de lignes pour des pixels carrés</translation>
     </message>
     <message>
         <source>Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>Hz</translation>
     </message>
     <message>
         <source>Lines per pulse for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes par impulsion pour des pixels carrés</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Exposition maximale</translation>
     </message>
     <message>
         <source>µs</source>
-        <translation type="unfinished"></translation>
+        <translation>µs</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse maximale</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur résiduelle</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1&#xa0;%</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage de caméra linéaire</translation>
     </message>
     <message>
         <source>Round target</source>
-        <translation type="unfinished"></translation>
+        <translation>Cible ronde</translation>
     </message>
     <message>
         <source>First measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Première mesure</translation>
     </message>
     <message>
         <source>Last measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière mesure</translation>
     </message>
     <message>
         <source>Height to width</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport hauteur/largeur</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>Turn of the camera (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation de la caméra (°)</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>The picture at the time of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Image au moment du rapport</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">Fréquence de lignes</translation>
+        <translation>Fréquence de lignes</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Grandeur</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valeur</translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Written settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages écrits</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">Paramètre</translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
 </context>
 <context>
     <name>LineScanWindow</name>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage de caméra linéaire</translation>
     </message>
     <message>
         <source>This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no encoder. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra prend des images entières&#xa0;: elle n’a ni fréquence de lignes (AcquisitionLineRate) ni codeur. Choisissez une caméra linéaire, qui acquiert ligne par ligne un objet en mouvement.</translation>
     </message>
     <message>
         <source>Do the &amp;next step</source>
-        <translation type="unfinished"></translation>
+        <translation>Étape &amp;suivante</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Entrée</translation>
     </message>
     <message>
         <source>Do the next step</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter l’étape suivante</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le résultat</translation>
     </message>
     <message>
         <source>No round target was found yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune cible ronde trouvée pour l’instant.</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>the largest</source>
-        <translation type="unfinished"></translation>
+        <translation>la plus grande</translation>
     </message>
     <message>
         <source>the one that I click</source>
-        <translation type="unfinished"></translation>
+        <translation>celle sur laquelle je clique</translation>
     </message>
     <message>
         <source>in the columns that I draw</source>
-        <translation type="unfinished"></translation>
+        <translation>dans les colonnes tracées</translation>
     </message>
     <message>
         <source>Which disc or ring is measured. The picture rolls, so only the columns count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque ou anneau à mesurer. L’image défile&#xa0;: seules les colonnes comptent.</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Ci&amp;ble</translation>
     </message>
     <message>
         <source>Look for the target in the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher la cible dans l’image en direct</translation>
     </message>
     <message>
         <source>The picture stands still for a moment where a target was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image se fige un instant lorsqu’une cible est trouvée.</translation>
     </message>
     <message>
         <source>Describe the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Décrire la machine</translation>
     </message>
     <message>
         <source>Pixels are square if the camera takes one line while the object moves by one pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pixels sont carrés si la caméra acquiert une ligne pendant que l’objet avance d’un pixel.</translation>
     </message>
     <message>
         <source>Set the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Régler la caméra</translation>
     </message>
     <message>
         <source>This follows from the machine and from the limits of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Résulte de la machine et des limites de la caméra.</translation>
     </message>
     <message>
         <source>Write the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire les réglages</translation>
     </message>
     <message>
         <source>Undo what was written</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler l’écriture</translation>
     </message>
     <message>
         <source>Measure a round target</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesurer une cible ronde</translation>
     </message>
     <message>
         <source>Let a dark or bright disc or ring move under the camera. It must be complete in one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites passer sous la caméra un disque ou un anneau sombre ou clair. Il doit être entier dans une image.</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">Mesure</translation>
+        <translation>Mesurer</translation>
     </message>
     <message>
         <source>Make it round</source>
-        <translation type="unfinished"></translation>
+        <translation>La rendre ronde</translation>
     </message>
     <message>
         <source>Correct the rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger la fréquence</translation>
     </message>
     <message>
         <source>The target in the live picture is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cible de l’image en direct est ronde.</translation>
     </message>
     <message>
         <source>The target in the live picture is too tall.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cible de l’image en direct est trop haute.</translation>
     </message>
     <message>
         <source>The target in the live picture is too flat.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cible de l’image en direct est trop aplatie.</translation>
     </message>
     <message>
         <source>The line rate, or the ratio of the encoder, is multiplied with width / height of the target.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fréquence de lignes, ou le rapport du codeur, est multipliée par largeur / hauteur de la cible.</translation>
     </message>
     <message>
         <source>The camera is turned by %1° against the movement.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra est tournée de %1° par rapport au mouvement.</translation>
     </message>
     <message>
         <source>The camera has accepted the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra a accepté les réglages.</translation>
     </message>
     <message>
         <source>Measuring the target</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure de la cible</translation>
     </message>
     <message>
         <source>Reading the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des réglages</translation>
     </message>
 </context>
 <context>
@@ -3265,31 +3261,31 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>LogBox</name>
     <message>
         <source>Appends each reading to a CSV file until you stop it. A file of the same camera is continued.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute chaque relevé à un fichier CSV jusqu’à l’arrêt. Un fichier de la même caméra est complété.</translation>
     </message>
     <message>
         <source>Log the temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaliser les températures</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Table CSV (*.csv)</translation>
     </message>
     <message>
         <source>Stop the &amp;log</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter le &amp;journal</translation>
     </message>
     <message>
         <source>Start a &amp;log…</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer un &amp;journal…</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal&#xa0;: %1</translation>
     </message>
     <message>
         <source>The readings are not logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les relevés ne sont pas journalisés.</translation>
     </message>
 </context>
 <context>
@@ -3332,101 +3328,101 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>Measure</name>
     <message>
         <source>The brightness changed by %1 % while the bright images were taken. Use a steady light, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité a varié de %1&#xa0;% pendant la prise des images claires. Utilisez un éclairage stable et reprenez les images.</translation>
     </message>
     <message>
         <source>Something moved while the bright images were taken. Point the camera at an evenly lit surface without objects, keep it still, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelque chose a bougé pendant la prise des images claires. Visez une surface sans objet, éclairée uniformément, gardez la caméra immobile et reprenez les images.</translation>
     </message>
     <message>
         <source>The bright images show a scene. Point the camera at an evenly lit surface without objects, for example white paper close to the lens and out of focus, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images claires montrent une scène. Visez une surface sans objet, éclairée uniformément, par exemple du papier blanc près de l’objectif et hors mise au point, puis reprenez les images.</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is too long. Cover the lens, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sombres atteignent %1&#xa0;% de la valeur maximale&#xa0;: de la lumière parvient au capteur ou l’exposition est trop longue. Obturez l’objectif, puis reprenez les images sombres.</translation>
     </message>
     <message>
         <source>The dark images show something: light reaches the sensor. Cover the lens completely, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sombres montrent quelque chose&#xa0;: de la lumière parvient au capteur. Obturez complètement l’objectif, puis reprenez les images sombres.</translation>
     </message>
     <message>
         <source>Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black level (BlackLevel), then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>De nombreux pixels des images sombres valent 0&#xa0;: leur bruit n’est pas visible. Augmentez le niveau de noir (BlackLevel), puis reprenez les images sombres.</translation>
     </message>
     <message>
         <source>The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more light or a longer exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images claires sont trop sombres&#xa0;: elles occupent %1&#xa0;% de la plage de valeurs. Découvrez l’objectif, augmentez la lumière ou l’exposition, puis reprenez les images.</translation>
     </message>
     <message>
         <source>%1 % of the pixels of the bright images have the highest value. Use less light or a shorter exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des pixels des images claires ont la valeur maximale. Réduisez la lumière ou l’exposition, puis reprenez les images.</translation>
     </message>
     <message>
         <source>%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached the sensor during the dark images. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des pixels s’écartent de leurs voisins&#xa0;: la surface était structurée, ou de la lumière est parvenue au capteur pendant les images sombres. Reprenez les images.</translation>
     </message>
     <message>
         <source>Set %1 to %2: defect pixels are measured at full resolution without mirroring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglez %1 sur %2&#xa0;: les pixels défectueux se mesurent en pleine résolution, sans miroir.</translation>
     </message>
     <message>
         <source>Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to Mono16, or Bayer (PixelFormat).</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un format de pixel contenant les valeurs brutes des pixels, sur 8 à 16&#xa0;bits&#xa0;: Mono8 à Mono16, ou Bayer (PixelFormat).</translation>
     </message>
     <message>
         <source>Choose a region of %1 x %1 pixels or more (Width, Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une région d’au moins %1 x %1 pixels (Width, Height).</translation>
     </message>
     <message>
         <source>The size or the pixel format of the images has changed. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille ou le format de pixel des images a changé. Reprenez les images.</translation>
     </message>
     <message>
         <source>Take %1 images or more: with fewer images, the noise hides defects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prenez au moins %1 images&#xa0;: avec moins d’images, le bruit masque des défauts.</translation>
     </message>
     <message>
         <source>The region or the pixel format differs from that of the dark images. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La région ou le format de pixel diffère des images sombres. Rétablissez le réglage ou reprenez les images sombres.</translation>
     </message>
     <message>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le gain diffère de celui des images sombres (%1). Rétablissez-le ou reprenez les images sombres.</translation>
     </message>
 </context>
 <context>
     <name>MeasureBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>End the measurement. The settings of the camera are put back. (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Met fin à la mesure. Les réglages de la caméra sont restaurés. (Échap)</translation>
     </message>
 </context>
 <context>
     <name>MeasureJob</name>
     <message>
         <source>The camera is not open for control, so nothing can be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’est pas ouverte en mode contrôle&#xa0;: aucune mesure n’est possible.</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Measure again when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à la caméra perdue pendant la mesure. Recommencez la mesure à son retour.</translation>
     </message>
     <message>
         <source>The camera was closed during the measurement.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra a été fermée pendant la mesure.</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">La caméra n’envoie pas d’images. %1</translation>
+        <translation>La caméra n’envoie pas d’images. %1</translation>
     </message>
     <message>
         <source>Some settings were not put back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains réglages n’ont pas été restaurés. %1</translation>
     </message>
 </context>
 <context>
@@ -3727,103 +3723,103 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>PlanView</name>
     <message>
         <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;kHz</translation>
     </message>
     <message>
         <source>by the link</source>
-        <translation type="unfinished"></translation>
+        <translation>limite du lien</translation>
     </message>
     <message>
         <source>by the exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>limite de l’exposition</translation>
     </message>
     <message>
         <source>by the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>limite de la caméra</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">Paramètre</translation>
+        <translation>Paramètre</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>Settings that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages à écrire</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel sur l’objet</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished">%1 µm</translation>
+        <translation>%1&#xa0;µm</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">Fréquence de lignes</translation>
+        <translation>Fréquence de lignes</translation>
     </message>
     <message>
         <source>Highest line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence maximale</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse maximale</translation>
     </message>
     <message>
         <source>%1 mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;mm/s</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Exposition maximale</translation>
     </message>
     <message>
         <source>%1 µs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;µs</translation>
     </message>
     <message>
         <source>Dead time of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps mort par ligne</translation>
     </message>
     <message>
         <source>Lines per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes par impulsion</translation>
     </message>
     <message>
         <source>Multiplier, divider</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplicateur, diviseur</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur résiduelle</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1&#xa0;%</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>The camera is set up for this already.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra est déjà réglée ainsi.</translation>
     </message>
     <message>
         <source>These features are written, in this order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres à écrire, dans cet ordre&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4054,168 +4050,172 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>RepairPanel</name>
     <message>
         <source>Cover the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Obturer l’objectif</translation>
     </message>
     <message>
         <source>No light may reach the sensor. A long exposure and a high gain show more hot pixels: use the longest exposure that you work with, and let the camera warm up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune lumière ne doit parvenir au capteur. Une longue exposition et un gain élevé révèlent plus de pixels chauds&#xa0;: utilisez votre plus longue exposition de travail et laissez chauffer la caméra.</translation>
     </message>
     <message>
         <source>Take &amp;dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre les images &amp;sombres</translation>
     </message>
     <message>
         <source>Point at an evenly lit surface</source>
-        <translation type="unfinished"></translation>
+        <translation>Viser une surface uniforme</translation>
     </message>
     <message>
         <source>Uncover the lens and fill the picture with one bright surface without objects, for example white paper, out of focus. Half of the highest brightness is best; leave the gain as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Découvrez l’objectif et remplissez l’image d’une surface claire sans objet, par exemple du papier blanc, hors mise au point. L’idéal est la moitié de la luminosité maximale&#xa0;; ne modifiez pas le gain.</translation>
     </message>
     <message>
         <source>Take &amp;bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre les images c&amp;laires</translation>
     </message>
     <message>
         <source>Save the map</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la carte</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl repair pictures with the map. A report and a table are saved beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La visionneuse d’images et cvxctl corrigent les images avec la carte. Un rapport et une table sont enregistrés à côté.</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished">Enregi&amp;strer…</translation>
-    </message>
-    <message>
-        <source>Of each kind. More images find weaker defects and pixels that blink rarely.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer…</translation>
     </message>
     <message>
         <source>&amp;Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre d’images</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images find weaker defects and pixels that blink rarely.</source>
+        <translation>De chaque type. Plus d’images révèlent des défauts plus faibles et des pixels qui clignotent rarement.</translation>
     </message>
 </context>
 <context>
     <name>RepairReport</name>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Réparation de pixels</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished">Résultat</translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>Amas</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixels défectueux contigus.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Portions de colonnes d’au moins huit pixels défectueux.</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Portions de lignes d’au moins huit pixels défectueux.</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Meaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Signification</translation>
     </message>
     <message>
         <source>Places of the defect pixels on the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement des pixels défectueux sur le capteur</translation>
     </message>
     <message>
         <source>Conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>Conditions</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>Exposure in ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Exposition en ms</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished">Gain</translation>
+        <translation>Gain</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished">Niveau</translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruit</translation>
     </message>
     <message>
         <source>Spread of the good pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion des bons pixels</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombres</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Claires</translation>
     </message>
     <message>
         <source>Threshold: %1 standard deviations. Examined pixels: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuil&#xa0;: %1 écarts types. Pixels examinés&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>RepairWindow</name>
     <message>
         <source>&amp;Save the map…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la carte…</translation>
     </message>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Réparation de pixels</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise des images sombres</translation>
     </message>
     <message numerus="yes">
         <source>%n dark image(s) taken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n&#xa0;image sombre prise.</numerusform>
+            <numerusform>%n&#xa0;images sombres prises.</numerusform>
         </translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise des images claires</translation>
     </message>
     <message>
-        <source>%1 was off during the measurement, so the map contains what the camera itself can repair.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 was off during the measurement, so the map also contains what the camera itself can repair.</source>
+        <translation>%1 était désactivé pendant la mesure&#xa0;: la carte contient aussi ce que la caméra peut corriger elle-même.</translation>
+    </message>
+    <message>
+        <source>The picture is not repaired: %1.</source>
+        <translation>L’image n’est pas réparée : %1.</translation>
     </message>
 </context>
 <context>
@@ -4257,70 +4257,70 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>ResultBox</name>
     <message>
         <source>Defect pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixels défectueux</translation>
     </message>
     <message>
         <source>&amp;Mark the defect pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the &amp;repaired picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marquer les pixels défectueux</translation>
     </message>
     <message>
         <source>Replaces each defect pixel by the median of its good neighbours of the same colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplace chaque pixel défectueux par la médiane de ses bons voisins de même couleur.</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>Amas</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixels défectueux contigus.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Portions de colonnes d’au moins huit pixels défectueux.</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Portions de lignes d’au moins huit pixels défectueux.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Show the re&amp;paired picture</source>
+        <translation>&amp;Afficher l’image corrigée</translation>
     </message>
 </context>
 <context>
     <name>ResultSaver</name>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le résultat</translation>
     </message>
     <message>
         <source>Results (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats (%1)</translation>
     </message>
     <message>
         <source>These files exist already: %1. Do you want to replace them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers existent déjà&#xa0;: %1. Voulez-vous les remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not saved. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été enregistré. %2</translation>
     </message>
 </context>
 <context>
@@ -4386,427 +4386,439 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>Sentence</name>
     <message>
         <source>The exposure time of this camera cannot be set. Change the light until the picture has about 70 % of the range, and measure without setting the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps d’exposition de cette caméra n’est pas réglable. Ajustez la lumière jusqu’à environ 70&#xa0;% de la plage et mesurez sans régler le temps d’exposition.</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed since the dark images. Take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La région ou le format de pixel a changé depuis les images sombres. Reprenez les images sombres.</translation>
     </message>
     <message>
         <source>The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le format de pixel %1 ne peut pas être corrigé. Choisissez un format Mono ou Bayer de 8 à 16&#xa0;bits.</translation>
     </message>
     <message>
         <source>The colours of a line scan camera cannot be corrected. Choose a Mono format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les couleurs d’une caméra linéaire ne peuvent pas être corrigées. Choisissez un format Mono.</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed during the measurement. Measure again without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>La région ou le format de pixel a changé pendant la mesure. Recommencez la mesure sans les modifier.</translation>
     </message>
     <message>
         <source>%1 images are too few for a correction. Take at least %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 images ne suffisent pas pour une correction. Prenez-en au moins %2.</translation>
     </message>
     <message>
         <source>The bright images are too dark: %1 % of the range above the dark images. Is the lens still covered? Otherwise, use more light or a longer exposure time, for about 70 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images claires sont trop sombres&#xa0;: %1&#xa0;% de la plage au-dessus des images sombres. L’objectif est-il encore obturé&#xa0;? Sinon, augmentez la lumière ou le temps d’exposition pour atteindre environ 70&#xa0;%.</translation>
     </message>
     <message>
         <source>The bright images have %1 % of the range. Between 50 and 80 %, the gains are most exact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images claires atteignent %1&#xa0;% de la plage. Les gains sont les plus précis entre 50 et 80&#xa0;%.</translation>
     </message>
     <message>
         <source>Parts of the picture have changed by %1 % between the images: something moves, or the light flickers. Use an even surface that keeps still, and steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des parties de l’image ont varié de %1&#xa0;% d’une image à l’autre&#xa0;: quelque chose bouge ou la lumière scintille. Utilisez une surface uniforme et immobile, et un éclairage stable.</translation>
     </message>
     <message>
         <source>The brightness has changed by %1 % between the images. Use steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité a varié de %1&#xa0;% d’une image à l’autre. Utilisez un éclairage stable.</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the range, so there seems to be light. Cover the lens completely. If it is covered, reduce BlackLevel or Gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sombres atteignent %1&#xa0;% de la plage&#xa0;: il semble y avoir de la lumière. Obturez complètement l’objectif. S’il l’est déjà, réduisez BlackLevel ou Gain.</translation>
     </message>
     <message>
         <source>The dark images are not equally dark everywhere. Make sure that no light reaches the lens, and take them again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sombres ne sont pas uniformément sombres. Vérifiez qu’aucune lumière n’atteint l’objectif et reprenez-les.</translation>
     </message>
     <message>
         <source>%1 % of the values in the dark are 0, so the offsets are cut off. Increase BlackLevel.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des valeurs dans l’obscurité sont nulles&#xa0;: les offsets sont tronqués. Augmentez BlackLevel.</translation>
     </message>
     <message>
         <source>The noise in the dark is smaller than one step of the pixel format, so the numbers of the dark images are not exact. A pixel format with more bits shows the differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bruit dans l’obscurité est inférieur à un pas du format de pixel&#xa0;: les valeurs des images sombres sont imprécises. Un format de pixel à plus de bits révèle les différences.</translation>
     </message>
     <message>
         <source>%1 % of the values in the bright images are clipped. Reduce the exposure time or the light, to about 70 % of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des valeurs des images claires sont écrêtées. Réduisez le temps d’exposition ou la lumière, jusqu’à environ 70&#xa0;% de la plage.</translation>
     </message>
     <message>
         <source>The bright images show structures that look like an object and not like shading; the correction would draw them into every picture. Use an even surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images claires montrent des structures qui évoquent un objet et non un ombrage&#xa0;; la correction les reporterait dans chaque image. Utilisez une surface uniforme, hors mise au point.</translation>
     </message>
     <message>
         <source>The picture is too dark. Remove the lens cap, open the aperture, add light or lengthen the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est trop sombre. Retirez le bouchon d’objectif, ouvrez le diaphragme, ajoutez de la lumière ou allongez le temps d’exposition.</translation>
     </message>
     <message>
         <source>%1 % of the pixels are overexposed. Close the aperture or shorten the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des pixels sont surexposés. Fermez le diaphragme ou réduisez le temps d’exposition.</translation>
     </message>
     <message>
         <source>The picture has no edges. Point the camera at something with structure, for example a printed page, or turn the lens if the picture is blurred.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image ne contient aucun contour. Visez un objet structuré, par exemple une page imprimée, ou tournez la bague si l’image est floue.</translation>
     </message>
     <message>
         <source>Pictures of this pixel format cannot be measured. Choose a Mono, Bayer, RGB or YUV format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images de ce format de pixel ne sont pas mesurables. Choisissez un format Mono, Bayer, RGB ou YUV.</translation>
     </message>
     <message>
         <source>The picture is too small for so many regions. Choose a larger Width and Height, or fewer regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est trop petite pour autant de régions. Augmentez Width et Height, ou réduisez le nombre de régions.</translation>
     </message>
     <message>
         <source>The picture became sharp at no position of the lens. Point the camera at something with structure, check the distance, and search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’est devenue nette à aucune position de l’objectif. Visez un objet structuré, vérifiez la distance et relancez la recherche.</translation>
     </message>
     <message>
         <source>The camera cannot move its lens: it has no feature for the position of the focus, for example LensFocusPosition. Turn the lens by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra ne peut pas piloter son objectif&#xa0;: elle n’a aucun paramètre de position de mise au point, par exemple LensFocusPosition. Tournez la bague à la main.</translation>
     </message>
     <message>
         <source>The right edge is sharp at a higher position than the left edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord droit est net à une position plus élevée que le bord gauche, de %1.</translation>
     </message>
     <message>
         <source>The left edge became sharp before the right edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord gauche est devenu net %1&#xa0;s avant le bord droit.</translation>
     </message>
     <message>
         <source>The lower right corner is sharp at a higher position than the upper left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin inférieur droit est net à une position plus élevée que le coin supérieur gauche, de %1.</translation>
     </message>
     <message>
         <source>The upper left corner became sharp before the lower right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin supérieur gauche est devenu net %1&#xa0;s avant le coin inférieur droit.</translation>
     </message>
     <message>
         <source>The lower edge is sharp at a higher position than the upper edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord inférieur est net à une position plus élevée que le bord supérieur, de %1.</translation>
     </message>
     <message>
         <source>The upper edge became sharp before the lower edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord supérieur est devenu net %1&#xa0;s avant le bord inférieur.</translation>
     </message>
     <message>
         <source>The lower left corner is sharp at a higher position than the upper right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin inférieur gauche est net à une position plus élevée que le coin supérieur droit, de %1.</translation>
     </message>
     <message>
         <source>The upper right corner became sharp before the lower left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin supérieur droit est devenu net %1&#xa0;s avant le coin inférieur gauche.</translation>
     </message>
     <message>
         <source>The left edge is sharp at a higher position than the right edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord gauche est net à une position plus élevée que le bord droit, de %1.</translation>
     </message>
     <message>
         <source>The right edge became sharp before the left edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord droit est devenu net %1&#xa0;s avant le bord gauche.</translation>
     </message>
     <message>
         <source>The upper left corner is sharp at a higher position than the lower right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin supérieur gauche est net à une position plus élevée que le coin inférieur droit, de %1.</translation>
     </message>
     <message>
         <source>The lower right corner became sharp before the upper left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin inférieur droit est devenu net %1&#xa0;s avant le coin supérieur gauche.</translation>
     </message>
     <message>
         <source>The upper edge is sharp at a higher position than the lower edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord supérieur est net à une position plus élevée que le bord inférieur, de %1.</translation>
     </message>
     <message>
         <source>The lower edge became sharp before the upper edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord inférieur est devenu net %1&#xa0;s avant le bord supérieur.</translation>
     </message>
     <message>
         <source>The upper right corner is sharp at a higher position than the lower left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin supérieur droit est net à une position plus élevée que le coin inférieur gauche, de %1.</translation>
     </message>
     <message>
         <source>The lower left corner became sharp before the upper right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coin inférieur gauche est devenu net %1&#xa0;s avant le coin supérieur droit.</translation>
     </message>
     <message>
         <source>Turn the lens slowly in one direction, until the picture has become blurred again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tournez lentement la bague dans un sens, jusqu’à ce que l’image redevienne floue.</translation>
     </message>
     <message>
         <source>Keep turning in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuez de tourner dans ce sens.</translation>
     </message>
     <message>
         <source>Turn back: the peak lies in the other direction.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is as sharp as it becomes. Lock the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenez en arrière&#xa0;: le pic est dans l’autre sens.</translation>
     </message>
     <message>
         <source>The best position is %1. The lens is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>La meilleure position est %1. L’objectif s’y trouve.</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens up by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La meilleure position est %1&#xa0;: augmentez la position de l’objectif de %2.</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens down by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La meilleure position est %1&#xa0;: diminuez la position de l’objectif de %2.</translation>
     </message>
     <message>
         <source>Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the camera at something with edges all over the picture, and go through the sharpest position once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop peu de régions sont devenues nettes puis floues pour savoir si le plan de netteté est incliné. Visez un objet présentant des contours dans toute l’image et repassez par la position la plus nette.</translation>
     </message>
     <message>
         <source>The focus is not tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plan de netteté n’est pas incliné.</translation>
     </message>
     <message>
         <source>The centre became sharp before the corners, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le centre est devenu net %1&#xa0;s avant les coins.</translation>
     </message>
     <message>
         <source>The corners became sharp before the centre, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les coins sont devenus nets %1&#xa0;s avant le centre.</translation>
     </message>
     <message>
         <source>The corners are sharp at a higher position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les coins sont nets à une position plus élevée que le centre, de %1.</translation>
     </message>
     <message>
         <source>The corners are sharp at a lower position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les coins sont nets à une position plus basse que le centre, de %1.</translation>
     </message>
     <message>
         <source>The link carries %1 MB/s: at most %2 kHz with this width and pixel format. Choose a smaller width, a pixel format with fewer bits, or a lower speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien transmet %1&#xa0;Mo/s&#xa0;: au plus %2&#xa0;kHz avec cette largeur et ce format de pixel. Choisissez une largeur plus petite, un format de pixel à moins de bits ou une vitesse plus faible.</translation>
     </message>
     <message>
         <source>The exposure allows at most %1 kHz, because a line cannot be shorter than its exposure. Shorten the exposure, and add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’exposition autorise au plus %1&#xa0;kHz, car une ligne ne peut pas être plus courte que son exposition. Réduisez l’exposition et ajoutez de la lumière ou du gain.</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz with its present settings. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec ses réglages actuels, la caméra atteint au plus %1&#xa0;kHz. Choisissez une vitesse ou un grandissement plus faible.</translation>
     </message>
     <message>
         <source>This camera takes whole pictures. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette caméra prend des images entières. Choisissez une caméra linéaire, qui acquiert ligne par ligne un objet en mouvement.</translation>
     </message>
     <message>
         <source>Every number must be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque valeur doit être supérieure à 0.</translation>
     </message>
     <message>
         <source>Enter the pixel size and the magnification, or the size of a pixel on the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez la taille de pixel et le grandissement, ou la taille d’un pixel sur l’objet.</translation>
     </message>
     <message>
         <source>Enter the speed of the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez la vitesse de l’objet.</translation>
     </message>
     <message>
         <source>Enter the movement per encoder pulse, or the pulses per revolution and the diameter of the roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez l’avance par impulsion du codeur, ou les impulsions par tour et le diamètre du rouleau.</translation>
     </message>
     <message>
         <source>The camera has no line rate of its own (AcquisitionLineRate). Use an encoder, or an external trigger.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de fréquence de lignes propre (AcquisitionLineRate). Utilisez un codeur ou un déclenchement externe.</translation>
     </message>
     <message>
         <source>The camera cannot start lines by an encoder (TriggerSelector has no LineStart). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra ne peut pas déclencher ses lignes par un codeur (TriggerSelector sans LineStart). Utilisez sa fréquence de lignes.</translation>
     </message>
     <message>
         <source>The exposure of %1 µs is longer than a line. It has to be shortened to %2 µs, so the picture becomes darker: add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’exposition de %1&#xa0;µs est plus longue qu’une ligne. Elle doit être réduite à %2&#xa0;µs, ce qui assombrit l’image&#xa0;: ajoutez de la lumière ou du gain.</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec le réglage le plus proche de la caméra, les objets sont %1&#xa0;% trop hauts. Modifiez le grandissement ou utilisez un autre codeur.</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec le réglage le plus proche de la caméra, les objets sont %1&#xa0;% trop aplatis. Modifiez le grandissement ou utilisez un autre codeur.</translation>
     </message>
     <message>
         <source>The camera offers no encoder as the source of its line trigger (TriggerSource). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra ne propose aucun codeur comme source du déclenchement de ligne (TriggerSource). Utilisez sa fréquence de lignes.</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz, but square pixels need %2 kHz. Nothing was changed. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra atteint au plus %1&#xa0;kHz, mais des pixels carrés exigent %2&#xa0;kHz. Rien n’a été modifié. Choisissez une vitesse ou un grandissement plus faible.</translation>
     </message>
     <message>
         <source>The camera has refused %1, so nothing was changed. %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera has refused a setting, and then also to go back to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra a refusé %1&#xa0;: rien n’a été modifié. %2</translation>
     </message>
     <message>
         <source>The circle is round: height and width differ by %1 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle est rond&#xa0;: hauteur et largeur diffèrent de %1&#xa0;%.</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle est %1&#xa0;% trop haut&#xa0;: réduisez les lignes par impulsion du codeur de %2 à %3.</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle est %1&#xa0;% trop aplati&#xa0;: augmentez les lignes par impulsion du codeur de %2 à %3.</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle est %1&#xa0;% trop haut&#xa0;: réduisez la fréquence de lignes de %2&#xa0;kHz à %3&#xa0;kHz.</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le cercle est %1&#xa0;% trop aplati&#xa0;: augmentez la fréquence de lignes de %2&#xa0;kHz à %3&#xa0;kHz.</translation>
     </message>
     <message>
         <source>The border of the round target is uneven. Check whether the object moves evenly, whether lines are lost, and whether the target is sharp and free of other shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bord de la cible ronde est irrégulier. Vérifiez que l’objet avance régulièrement, qu’aucune ligne n’est perdue et que la cible est nette et sans autre forme.</translation>
     </message>
     <message>
         <source>There is no complete round target in the picture of %1 lines. Show the camera a dark or bright disc or ring, or make the picture higher (Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image de %1 lignes ne contient aucune cible ronde entière. Présentez à la caméra un disque ou un anneau sombre ou clair, ou augmentez la hauteur de l’image (Height).</translation>
     </message>
     <message>
         <source>The picture has too little contrast. Take off the lens cap, add light, and show the camera a dark or bright disc or ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image manque de contraste. Retirez le bouchon d’objectif, ajoutez de la lumière et présentez à la caméra un disque ou un anneau sombre ou clair.</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s, because it waits for a trigger. Trigger it, or set TriggerMode to Off, and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a envoyé aucune image depuis %1&#xa0;s, car elle attend un déclenchement. Déclenchez-la ou réglez TriggerMode sur Off, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s. Check whether the live picture moves, and the cable, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a envoyé aucune image depuis %1&#xa0;s. Vérifiez que l’image en direct évolue, ainsi que le câble, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Check its cable and its power, wait until the picture is back, then measure again. (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The images have ended during the measurement. Start the live picture and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à la caméra perdue pendant la mesure. Vérifiez son câble et son alimentation, attendez le retour de l’image, puis recommencez la mesure. (%1)</translation>
     </message>
     <message>
         <source>The images arrive with missing data. Check the cable and the network card (&quot;cvxctl doctor&quot; helps), or lower the image rate, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images arrivent avec des données manquantes. Vérifiez le câble et la carte réseau (à l’aide de «&#xa0;cvxctl doctor&#xa0;») ou réduisez la fréquence d’images, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The measurement was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mesure a été annulée.</translation>
     </message>
     <message>
         <source>The pixel values are not proportional to the light. Set Gamma to 1, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs de pixel ne sont pas proportionnelles à la lumière. Réglez Gamma sur 1, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;DeviceTapGeometry&quot;. Choose the layout of its taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de paramètre «&#xa0;DeviceTapGeometry&#xa0;». Choisissez manuellement la disposition de ses canaux.</translation>
     </message>
     <message>
         <source>The tap geometry &quot;%1&quot; is unknown. Choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>La géométrie des canaux «&#xa0;%1&#xa0;» est inconnue. Choisissez manuellement la disposition des canaux.</translation>
     </message>
     <message>
         <source>The sensor has one tap only, so there is nothing to balance. If that is wrong, choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le capteur n’a qu’un canal&#xa0;: il n’y a rien à équilibrer. Si c’est inexact, choisissez manuellement la disposition des canaux.</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;%1&quot;, so its taps can be measured, but not set.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de paramètre «&#xa0;%1&#xa0;»&#xa0;: ses canaux sont mesurables, mais pas réglables.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the entries Tap1 to Tap%2, so the taps can be measured, but not set. Choose the layout of the camera&apos;s taps.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas les entrées Tap1 à Tap%2&#xa0;: les canaux sont mesurables, mais pas réglables. Choisissez la disposition des canaux de la caméra.</translation>
     </message>
     <message>
         <source>The scene moves: %1 % of the picture has changed during the measurement. Show an even surface that rests, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scène bouge&#xa0;: %1&#xa0;% de l’image a changé pendant la mesure. Présentez une surface uniforme et immobile, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The picture is overexposed: %1 % of a tap&apos;s pixels have the largest value. Shorten the exposure time or close the lens aperture, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est surexposée&#xa0;: %1&#xa0;% des pixels d’un canal ont la valeur maximale. Réduisez le temps d’exposition ou fermez le diaphragme, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The picture is too dark: it reaches %1 % of the range. Remove the lens cap, add light or lengthen the exposure time, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est trop sombre&#xa0;: elle atteint %1&#xa0;% de la plage. Retirez le bouchon d’objectif, ajoutez de la lumière ou allongez le temps d’exposition, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The picture is not dark: its mean is %1 % of the range. Cover the lens, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’est pas sombre&#xa0;: sa moyenne est de %1&#xa0;% de la plage. Obturez l’objectif, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The dark picture is cut off: %1 % of a tap&apos;s pixels are 0. Raise the black level, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image sombre est tronquée&#xa0;: %1&#xa0;% des pixels d’un canal sont nuls. Augmentez le niveau de noir, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The step between tap %1 and tap %2 cannot be told from the scene. Show an even surface, or take more images, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le saut entre les canaux %1 et %2 ne se distingue pas de la scène. Présentez une surface uniforme ou prenez plus d’images, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>Taps cannot be measured in this pixel format. Choose a Mono or Bayer format of 8 to 16 bits, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les canaux ne sont pas mesurables dans ce format de pixel. Choisissez un format Mono ou Bayer de 8 à 16&#xa0;bits, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The taps read neighbouring pixels in turn, which have different colours, so taps and colours cannot be told apart. Choose a layout of stripes by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les canaux lisent à tour de rôle des pixels voisins de couleurs différentes&#xa0;: canaux et couleurs ne peuvent pas être distingués. Choisissez manuellement une disposition en bandes.</translation>
     </message>
     <message>
         <source>Binning adds up pixels of several taps. Switch it off, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le binning additionne des pixels de plusieurs canaux. Désactivez-le, puis recommencez la mesure.</translation>
     </message>
     <message>
         <source>The size or the format of the images has changed during the measurement. Measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille ou le format des images a changé pendant la mesure. Recommencez la mesure.</translation>
     </message>
     <message>
         <source>The dark level of this pixel format cannot be measured; choose a Mono, Bayer or RGB format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le niveau d’obscurité n’est pas mesurable dans ce format de pixel&#xa0;; choisissez un format Mono, Bayer ou RGB.</translation>
     </message>
     <message>
         <source>The picture is not dark. Put the cap on the lens, or cover the lens completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’est pas sombre. Mettez le bouchon d’objectif ou obturez complètement l’objectif.</translation>
     </message>
     <message>
         <source>%1 % of the pixels are 0, which hides the dark level. Raise BlackLevel, so that the noise lies above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% des pixels sont nuls, ce qui masque le niveau d’obscurité. Augmentez BlackLevel pour que le bruit reste au-dessus de 0.</translation>
     </message>
     <message>
         <source>The noise is smaller than one step of the pixel format, which hides small changes of the dark level. Choose a pixel format with more bits, or a higher gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bruit est inférieur à un pas du format de pixel, ce qui masque les faibles variations du niveau d’obscurité. Choisissez un format de pixel à plus de bits ou un gain plus élevé.</translation>
     </message>
     <message>
         <source>The features cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres ne peuvent pas être lus&#xa0;: %1</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de paramètre DeviceTemperature&#xa0;: elle n’indique pas sa température.</translation>
     </message>
     <message>
         <source>The scene moves, so the regions&apos; shares also change with what they show. Let it stand still to compare the regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scène bouge&#xa0;: les parts des régions varient aussi avec leur contenu. Immobilisez-la pour comparer les régions.</translation>
+    </message>
+    <message>
+        <source>The picture is as sharp as it gets. Lock the lens.</source>
+        <translation>La netteté est maximale. Bloquez l’objectif.</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification or the speed.</source>
+        <translation>Avec le réglage le plus proche de la caméra, les objets sont %1 % trop hauts. Modifiez le grandissement ou la vitesse.</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification or the speed.</source>
+        <translation>Avec le réglage le plus proche de la caméra, les objets sont %1 % trop aplatis. Modifiez le grandissement ou la vitesse.</translation>
+    </message>
+    <message>
+        <source>The camera has refused a setting, and then also refused to go back to %1: %2</source>
+        <translation>La caméra a refusé un réglage, puis aussi le retour à %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The stream has ended during the measurement. Start the live picture and measure again.</source>
+        <translation>Les images se sont interrompues pendant la mesure. Démarrez l’image en direct et recommencez la mesure.</translation>
+    </message>
+    <message>
+        <source>The picture shows no border between tap %1 and the other taps. Set the region to the whole sensor, or choose another layout, then measure again.</source>
+        <translation>L’image ne montre aucune limite entre le canal %1 et les autres canaux. Réglez la région sur tout le capteur ou choisissez une autre disposition, puis mesurez de nouveau.</translation>
     </message>
 </context>
 <context>
@@ -5183,15 +5195,15 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>StepCard</name>
     <message>
         <source>Step %1, not yet possible: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Étape %1, pas encore possible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Step %1, next: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Étape %1, à faire&#xa0;: %2</translation>
     </message>
     <message>
         <source>Step %1, done: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Étape %1, terminée&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -5360,269 +5372,269 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>TapBars</name>
     <message>
         <source>Deviation of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart de chaque canal</translation>
     </message>
     <message>
         <source>Grey: before; blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris&#xa0;: avant&#xa0;; bleu&#xa0;: maintenant</translation>
     </message>
     <message>
         <source>Tap %1: %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal %1&#xa0;: %2 %3</translation>
     </message>
     <message>
         <source>Not measured yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore mesuré</translation>
     </message>
 </context>
 <context>
     <name>TapPanel</name>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">Moyenne</translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruit</translation>
     </message>
     <message>
         <source>Mismatch of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart entre canaux</translation>
     </message>
     <message>
         <source>Skip this step</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer cette étape</translation>
     </message>
     <message>
         <source>Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le dernier équilibrage</translation>
     </message>
     <message>
         <source>Mean and noise of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne et bruit de chaque canal</translation>
     </message>
     <message>
         <source>Shading changes the means, so the steps at the borders say how the taps differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ombrage modifie les moyennes&#xa0;: ce sont les sauts aux frontières qui indiquent l’écart entre canaux.</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">Mesure</translation>
+        <translation>Mesurer</translation>
     </message>
     <message>
         <source>Show an even, bright surface that fills the picture, for example a white sheet out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentez une surface claire et uniforme qui remplit l’image, par exemple une feuille blanche hors mise au point.</translation>
     </message>
     <message>
         <source>Measure the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesurer les canaux</translation>
     </message>
     <message>
         <source>Black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveaux de noir</translation>
     </message>
     <message>
         <source>Cover the lens. Without this step, differences of the black levels count as those of the gains.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obturez l’objectif. Sans cette étape, les écarts de niveau de noir sont attribués aux gains.</translation>
     </message>
     <message>
         <source>Balance the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Équilibrer les niveaux de noir</translation>
     </message>
     <message>
         <source>Gains</source>
-        <translation type="unfinished"></translation>
+        <translation>Gains</translation>
     </message>
     <message>
         <source>Uncover the lens and show the even, bright surface again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Découvrez l’objectif et présentez de nouveau la surface claire et uniforme.</translation>
     </message>
     <message>
         <source>Balance the gains</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Équilibrer les gains</translation>
     </message>
     <message>
         <source>The camera has the new values until it is switched off. Store them in a user set with Camera Setup to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra garde les nouvelles valeurs jusqu’à son extinction. Pour les conserver, mémorisez-les dans un jeu de paramètres avec Configuration de caméra.</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>The taps differ by up to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les canaux diffèrent de %1 au maximum.</translation>
+    </message>
+    <message>
+        <source>Keep the values</source>
+        <translation>Conserver</translation>
     </message>
 </context>
 <context>
     <name>TapReport</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Équilibrage des canaux</translation>
     </message>
     <message>
         <source>Layout of the taps: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition des canaux&#xa0;: %1</translation>
     </message>
     <message>
         <source>Deviation of each tap; grey: before, blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart de chaque canal&#xa0;; gris&#xa0;: avant, bleu&#xa0;: maintenant</translation>
     </message>
     <message>
         <source>Bright picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image claire</translation>
     </message>
     <message>
         <source>Dark picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image sombre</translation>
     </message>
     <message>
         <source>The picture with the borders of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Image avec les frontières des canaux</translation>
     </message>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">Moyenne</translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruit</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished">%1 à %2 {1 ?}</translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux</translation>
     </message>
     <message>
         <source>Step at the border</source>
-        <translation type="unfinished"></translation>
+        <translation>Saut à la frontière</translation>
     </message>
     <message>
         <source>The deviations follow from the steps at the borders, which straight lines on both sides are extended to; shading has no influence. The noise is the temporal standard deviation of a pixel by the differences of successive images (EMVA 1288). The uncertainty of a step is twice its standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les écarts se déduisent des sauts aux frontières, jusqu’auxquelles des droites sont prolongées de part et d’autre&#xa0;; l’ombrage est sans influence. Le bruit est l’écart type temporel d’un pixel, calculé sur les différences d’images successives (EMVA 1288). L’incertitude d’un saut est le double de son erreur type.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 avant</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished">maintenant</translation>
+        <translation>maintenant</translation>
     </message>
 </context>
 <context>
     <name>TapSession</name>
     <message>
         <source>Measuring the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure des canaux</translation>
     </message>
     <message>
         <source>Balancing the gains</source>
-        <translation type="unfinished"></translation>
+        <translation>Équilibrage des gains</translation>
     </message>
     <message>
         <source>Balancing the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Équilibrage des niveaux de noir</translation>
     </message>
     <message>
         <source>Putting the earlier values back</source>
-        <translation type="unfinished"></translation>
+        <translation>Restauration des valeurs antérieures</translation>
     </message>
 </context>
 <context>
     <name>TapTexts</name>
     <message>
-        <source>values</source>
-        <comment>unit of pixel values</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The mismatch fell from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart entre canaux est passé de %1 à %2.</translation>
     </message>
     <message>
         <source>The mismatch fell from %1 to %2. The camera offers no finer values.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart entre canaux est passé de %1 à %2. La caméra n’offre pas de réglage plus fin.</translation>
+    </message>
+    <message>
+        <source>DN</source>
+        <comment>unit of pixel values</comment>
+        <translation>niveaux</translation>
     </message>
 </context>
 <context>
     <name>TapWindow</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Équilibrage des canaux</translation>
     </message>
     <message>
         <source>The camera has no feature GainSelector, so the gains of its taps cannot be set one by one. Use a flat-field correction instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de paramètre GainSelector&#xa0;: les gains de ses canaux ne sont pas réglables séparément. Utilisez plutôt une correction de champ plat.</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>&amp;Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler le dernier équilibrage</translation>
     </message>
 </context>
 <context>
     <name>TargetOverlay</name>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished">%1 × %2 px</translation>
+        <translation>%1 × %2&#xa0;px</translation>
     </message>
 </context>
 <context>
     <name>TemperaturePlot</name>
     <message>
-        <source>&amp;Show the last</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Time since the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps depuis le début</translation>
     </message>
     <message>
         <source>Temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Température en °C</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’obscurité</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Avertissement</translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>Alarme</translation>
     </message>
     <message>
         <source>Final value of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur finale de %1</translation>
     </message>
     <message>
         <source>Dark level follows</source>
-        <translation type="unfinished"></translation>
+        <translation>L’obscurité suit</translation>
+    </message>
+    <message>
+        <source>Show the &amp;last</source>
+        <translation>&amp;Durée affichée</translation>
     </message>
 </context>
 <context>
@@ -5643,273 +5655,273 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <name>ThermalPanel</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>Notify me</source>
-        <translation type="unfinished"></translation>
+        <translation>M’avertir</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished">Log</translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’obscurité</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"> s</translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Read &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;lever toutes les</translation>
     </message>
     <message>
         <source>Start a&amp;new</source>
-        <translation type="unfinished"></translation>
+        <translation>Reco&amp;mmencer</translation>
     </message>
     <message>
         <source>Forgets the readings and begins again. A running log goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Efface les relevés et recommence. Un journal en cours continue.</translation>
     </message>
 </context>
 <context>
     <name>ThermalReport</name>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Moniteur thermique</translation>
     </message>
     <message>
         <source>Readings since %1 (UTC).</source>
-        <translation type="unfinished"></translation>
+        <translation>Relevés depuis %1 (UTC).</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Température</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Expected final value in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur finale prévue en °C</translation>
     </message>
     <message>
         <source>Time constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de temps</translation>
     </message>
     <message>
         <source>Steady in</source>
-        <translation type="unfinished"></translation>
+        <translation>Stable dans</translation>
     </message>
     <message>
         <source>The final value belongs to an exponential curve through the readings; the uncertainty is twice the standard deviation. Steady means within 0.5 K of the final value, or a change of less than 0.1 K per minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur finale est celle d’une exponentielle ajustée aux relevés&#xa0;; l’incertitude est le double de l’écart type. Stable signifie à moins de 0,5&#xa0;K de la valeur finale, ou une variation inférieure à 0,1&#xa0;K par minute.</translation>
     </message>
     <message>
         <source>Temperatures over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Températures au cours du temps</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’obscurité</translation>
     </message>
     <message>
         <source>Dark level over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’obscurité au cours du temps</translation>
     </message>
 </context>
 <context>
     <name>ThermalSession</name>
     <message>
         <source>The camera has not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas encore été lue.</translation>
     </message>
 </context>
 <context>
     <name>ThermalTexts</name>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>10 min</source>
-        <translation type="unfinished"></translation>
+        <translation>10&#xa0;min</translation>
     </message>
     <message>
         <source>1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>1 h</translation>
     </message>
     <message>
         <source>24 h</source>
-        <translation type="unfinished"></translation>
+        <translation>24 h</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished">Caméra</translation>
+        <translation>Caméra</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;°C</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>Cannot be read at present</source>
-        <translation type="unfinished"></translation>
+        <translation>Illisible actuellement</translation>
     </message>
     <message>
         <source>Rate and state are known in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Évolution et état connus dans %1.</translation>
     </message>
     <message>
         <source>Warming up, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Échauffement, %1&#xa0;K/min</translation>
     </message>
     <message>
         <source>Cooling, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Refroidissement, %1&#xa0;K/min</translation>
     </message>
     <message>
         <source>Steady, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Stable, %1&#xa0;K/min</translation>
     </message>
     <message>
         <source>The temperature does not change any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La température ne varie plus.</translation>
     </message>
     <message>
         <source>The final value is not determined yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur finale n’est pas encore déterminée.</translation>
     </message>
     <message>
         <source>Expected final value: %1 °C ± %2 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur finale prévue&#xa0;: %1&#xa0;°C ± %2&#xa0;K</translation>
     </message>
     <message>
         <source>%1, steady in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, stable dans %2</translation>
     </message>
     <message>
         <source>Alarm: %1 has reached %2. Cool the camera or let it work less.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alarme&#xa0;: «&#xa0;%1&#xa0;» a atteint %2. Refroidissez la caméra ou réduisez sa charge.</translation>
     </message>
     <message>
         <source>Warning: %1 is at %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement&#xa0;: «&#xa0;%1&#xa0;» est à %2.</translation>
     </message>
     <message>
         <source>%1 is below the thresholds again: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est de nouveau sous les seuils&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Dark level: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’obscurité&#xa0;: %1</translation>
     </message>
     <message>
         <source>Dark level: %1 (noise %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d’obscurité&#xa0;: %1 (bruit %2)</translation>
     </message>
     <message>
         <source>The dark level has followed the temperature since %1 after the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le niveau d’obscurité suit la température depuis %1 après le début.</translation>
     </message>
     <message>
         <source>The dark level has not changed by more than its noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le niveau d’obscurité n’a pas varié au-delà de son bruit.</translation>
     </message>
     <message>
         <source>The dark signal doubles every %1 ± %2 K.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le signal d’obscurité double tous les %1 ± %2&#xa0;K.</translation>
     </message>
     <message>
         <source>The doubling temperature is not determined yet; the temperature has to change more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écart de température de doublement n’est pas encore déterminé&#xa0;; la température doit varier davantage.</translation>
     </message>
 </context>
 <context>
     <name>ThermalWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le résultat…</translation>
     </message>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Moniteur thermique</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature. The data sheet says whether a newer firmware does.</source>
-        <translation type="unfinished"></translation>
+        <translation>La caméra n’a pas de paramètre DeviceTemperature&#xa0;: elle n’indique pas sa température. La fiche technique précise si un firmware plus récent le permet.</translation>
     </message>
 </context>
 <context>
     <name>ThresholdBox</name>
     <message>
         <source>&amp;Warning at</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;vertissement à</translation>
     </message>
     <message>
         <source>&amp;Alarm at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alarme à</translation>
     </message>
     <message>
         <source> K</source>
-        <translation type="unfinished"></translation>
+        <translation> K</translation>
     </message>
     <message>
         <source>A warning or an alarm ends when the temperature is so far below its threshold again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>En&amp;ds below by</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The program notifies you, also while its window is behind others, when a place gets so warm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un avertissement ou une alarme prend fin lorsque la température est redescendue d’autant sous son seuil.</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>Ends &amp;below by</source>
+        <translation>&amp;Hystérésis</translation>
+    </message>
+    <message>
+        <source>The program notifies you, also while its window is behind others, when a place gets this warm.</source>
+        <translation>Le programme vous avertit, même si sa fenêtre est masquée, lorsqu’un emplacement atteint cette température.</translation>
     </message>
 </context>
 <context>
     <name>ThresholdControl</name>
     <message>
         <source>How far a pixel deviates from its neighbours before it counts as a defect, in standard deviations of the good pixels. At 6 σ, less than one good pixel per megapixel is taken for a defect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart d’un pixel à ses voisins à partir duquel il est considéré comme défectueux, en écarts types des bons pixels. À 6&#xa0;σ, moins d’un bon pixel par mégapixel est pris pour un défaut.</translation>
     </message>
     <message>
         <source>&amp;Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;uil</translation>
     </message>
     <message>
         <source>Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuil</translation>
     </message>
     <message>
         <source> σ</source>
-        <translation type="unfinished"></translation>
+        <translation> σ</translation>
     </message>
 </context>
 <context>
@@ -6474,7 +6486,7 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>&amp;Corrections…</source>
-        <translation type="unfinished"></translation>
+        <translation>Correct&amp;ions…</translation>
     </message>
 </context>
 <context>
@@ -6553,11 +6565,11 @@ Pour caméras industrielles de tous fabricants. Licence MIT.</translation>
     </message>
     <message>
         <source>Not corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Non corrigé</translation>
     </message>
     <message>
         <source>Corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrigé</translation>
     </message>
 </context>
 <context>

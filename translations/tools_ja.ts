@@ -2,72 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
-    <name></name>
-    <message>
-        <source>Flat Field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Non-uniformity by EMVA 1288 release 4.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean of the columns</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A picture as the camera sends it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The same picture, corrected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The gains: the brighter, the higher</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AssistantWindow</name>
     <message>
         <source>The result was saved to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を「%1」に保存しました。</translation>
     </message>
     <message>
         <source>Press F5 to see the live picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>F5 キーでライブ画像を表示します。</translation>
     </message>
     <message>
         <source>&amp;Result</source>
-        <translation type="unfinished"></translation>
+        <translation>結果(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">カメラ(&amp;C)</translation>
+        <translation>カメラ(&amp;C)</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished">Image Viewer で開く(&amp;I)</translation>
+        <translation>Image Viewer で開く(&amp;I)</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Cancel the measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>計測をキャンセル</translation>
     </message>
 </context>
 <context>
     <name>BigNumber</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -338,7 +311,7 @@
     <name>CameraSettings</name>
     <message>
         <source>Camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの設定</translation>
     </message>
 </context>
 <context>
@@ -684,163 +657,163 @@
     <name>CorrectionDialog</name>
     <message>
         <source>&amp;Correct the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を補正(&amp;C)</translation>
     </message>
     <message>
         <source>Corrections</source>
-        <translation type="unfinished"></translation>
+        <translation>補正</translation>
     </message>
     <message>
         <source>&amp;Defect map:</source>
-        <translation type="unfinished"></translation>
+        <translation>欠陥マップ(&amp;D):</translation>
     </message>
     <message>
         <source>Choose a defect map</source>
-        <translation type="unfinished"></translation>
+        <translation>欠陥マップの選択</translation>
     </message>
     <message>
         <source>Defect maps (*.json *.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>欠陥マップ (*.json *.csv);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>&amp;Flat field:</source>
-        <translation type="unfinished"></translation>
+        <translation>フラットフィールド(&amp;F):</translation>
     </message>
     <message>
         <source>Choose a flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>フラットフィールドの選択</translation>
     </message>
     <message>
         <source>Flat fields (*.tif *.tiff);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>フラットフィールド (*.tif *.tiff);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>The correction applies to the shown pictures, to PNG and TIFF files and to TIFF recordings. Raw files, videos and measured values stay those of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>補正は、表示画像、PNG および TIFF ファイル、TIFF 録画に適用されます。RAW ファイル、動画、計測値には、カメラの元の値が使われます。</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>選択…</translation>
     </message>
     <message>
         <source>The pictures are not corrected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を補正できません: %1。</translation>
     </message>
     <message>
         <source>The pictures are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を補正しています。</translation>
     </message>
 </context>
 <context>
     <name>DarkBox</name>
     <message>
         <source>Cover the lens, and choose a long exposure and a pixel format with many bits in the camera settings. Then measure while the camera warms up.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズを遮光し、カメラの設定で長い露光時間とビット数の多いピクセルフォーマットを選択してください。その後、カメラのウォームアップ中に計測します。</translation>
     </message>
     <message>
         <source>Stop measuring the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベルの計測を停止(&amp;D)</translation>
     </message>
     <message>
         <source>Measure the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベルを計測(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>DefectList</name>
     <message>
         <source>Columns %1 to %2, lines %3 to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>列 %1~%2、行 %3~%4</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">行</translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差</translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ピクセル</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 σ</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 σ</translation>
     </message>
 </context>
 <context>
     <name>DefectTexts</name>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>ホット</translation>
     </message>
     <message>
         <source>Dead</source>
-        <translation type="unfinished"></translation>
+        <translation>デッド</translation>
     </message>
     <message>
         <source>Stuck</source>
-        <translation type="unfinished"></translation>
+        <translation>固定値</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>点滅</translation>
     </message>
     <message>
         <source>Deviating</source>
-        <translation type="unfinished"></translation>
+        <translation>感度異常</translation>
     </message>
     <message>
         <source>Too bright in the dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時に明るすぎます。</translation>
     </message>
     <message>
         <source>Hardly reacts to light.</source>
-        <translation type="unfinished"></translation>
+        <translation>光にほとんど反応しません。</translation>
     </message>
     <message>
         <source>Always has the same value.</source>
-        <translation type="unfinished"></translation>
+        <translation>値が常に一定です。</translation>
     </message>
     <message>
         <source>Changes between levels from image to image.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像ごとに値の水準が変動します。</translation>
     </message>
     <message>
         <source>Reacts to light much more or less than its neighbours.</source>
-        <translation type="unfinished"></translation>
+        <translation>光に対する感度が周辺ピクセルと大きく異なります。</translation>
     </message>
     <message>
         <source>Cluster</source>
-        <translation type="unfinished"></translation>
+        <translation>クラスター</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列欠陥</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">行</translation>
+        <translation>行欠陥</translation>
     </message>
     <message>
         <source>No defect pixels were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>欠陥ピクセルは見つかりませんでした。</translation>
     </message>
     <message numerus="yes">
         <source>%n defect pixel(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>欠陥ピクセルが %n 個見つかりました。</numerusform>
         </translation>
     </message>
 </context>
@@ -1053,23 +1026,23 @@ This value belongs to one camera or one moment.</source>
     <name>DurationScale</name>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 分</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 時間</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 時間 %2 分</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 日</translation>
     </message>
 </context>
 <context>
@@ -1746,203 +1719,230 @@ This value belongs to one camera or one moment.</source>
     <name>FlatFieldPanel</name>
     <message>
         <source>Shading before</source>
-        <translation type="unfinished"></translation>
+        <translation>補正前のシェーディング</translation>
     </message>
     <message>
         <source>Shading after</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>補正後のシェーディング</translation>
     </message>
     <message>
         <source>Show the picture corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>補正後の画像を表示</translation>
     </message>
     <message>
         <source>Dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像</translation>
     </message>
     <message>
         <source>Cover the lens completely. The images show the offset of each pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズを完全に遮光してください。暗時画像から各ピクセルのオフセットを求めます。</translation>
     </message>
     <message>
         <source>Take dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像を撮影</translation>
     </message>
     <message>
         <source>Bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像</translation>
     </message>
     <message>
         <source>Uncover the lens, and point the camera at an evenly lit surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズのカバーを外し、均一に照明された面にピントを外してカメラを向けてください。</translation>
     </message>
     <message>
         <source>Take bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像を撮影</translation>
     </message>
     <message>
         <source>Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>補正データ</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl apply the file to every picture of this camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Viewer と cvxctl は、このファイルをこのカメラのすべての画像に適用できます。</translation>
     </message>
     <message>
         <source>Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>補正データを保存…</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の枚数</translation>
     </message>
     <message>
         <source>Images: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dark images, and bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
-        <translation type="unfinished"></translation>
+        <translation>枚数: </translation>
     </message>
     <message>
         <source>Sets the exposure time so that the bright images have about 70 % of the range, and puts it back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像がレンジの約 70 % になるように露光時間を設定し、撮影後に元に戻します。</translation>
     </message>
     <message>
         <source>Correct every pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルごとに補正</translation>
     </message>
     <message>
         <source>Correct the shading only</source>
-        <translation type="unfinished"></translation>
+        <translation>シェーディングのみ補正</translation>
     </message>
     <message>
         <source>What is corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>補正の対象</translation>
     </message>
     <message>
         <source>The shading only: the gain changes smoothly over the picture, which adds no noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>シェーディングのみの場合、ゲインは画面内で滑らかに変化し、ノイズを増やしません。</translation>
     </message>
     <message>
         <source>Keep the mean brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>平均の明るさを維持</translation>
     </message>
     <message>
         <source>Raise to the brightest place</source>
-        <translation type="unfinished"></translation>
+        <translation>最も明るい位置に合わせる</translation>
     </message>
     <message>
         <source>Brightness after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>補正後の明るさ</translation>
     </message>
     <message>
         <source>Raised to the brightest place, no gain is below 1: what is clipped stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>最も明るい位置に合わせると、ゲインは 1 未満になりません。白飛び部分は白のまま保たれます。</translation>
     </message>
     <message>
         <source>Non-uniformity before and after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>補正前後の不均一性</translation>
     </message>
     <message>
         <source>DSNU: differences of the pixels in the dark. PRNU: differences of their sensitivity. By EMVA 1288 release 4.0, without the temporal noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>DSNU: 暗時のピクセル間のばらつき。PRNU: ピクセル間の感度のばらつき。EMVA 1288 Release 4.0 準拠、時間ノイズを除く。</translation>
     </message>
     <message>
         <source>Mean of the columns, before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>補正前後の列平均</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>% of the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>平均比 (%)</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>補正前</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The dark images are taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>補正後</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
-        <translation type="unfinished">「%1」に保存しました。</translation>
+        <translation>「%1」に保存しました。</translation>
+    </message>
+    <message>
+        <source>Set the exposure time automatically</source>
+        <translation>露光時間を自動設定</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
+        <translation>暗時画像と明時画像それぞれの枚数。枚数が多いほど補正データのノイズが減ります。補正の確認用に、さらに半数の画像を撮影します。</translation>
+    </message>
+    <message>
+        <source>The dark images were taken.</source>
+        <translation>暗時画像を撮影しました。</translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldReport</name>
+    <message>
+        <source>Flat Field</source>
+        <translation>Flat Field</translation>
+    </message>
+    <message>
+        <source>Non-uniformity by EMVA 1288 release 4.0</source>
+        <translation>不均一性 (EMVA 1288 Release 4.0 準拠)</translation>
+    </message>
+    <message>
+        <source>Mean of the columns</source>
+        <translation>列平均</translation>
+    </message>
+    <message>
+        <source>A picture as the camera sends it</source>
+        <translation>カメラから届いた画像</translation>
+    </message>
+    <message>
+        <source>The same picture, corrected</source>
+        <translation>同じ画像 (補正後)</translation>
+    </message>
+    <message>
+        <source>The gains: the brighter, the higher</source>
+        <translation>ゲイン分布 (明るいほど高ゲイン)</translation>
     </message>
 </context>
 <context>
     <name>FlatFieldTexts</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 DN</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 DN</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished">不明</translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>補正前</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>補正後</translation>
     </message>
     <message>
         <source>Shading</source>
-        <translation type="unfinished"></translation>
+        <translation>シェーディング</translation>
     </message>
     <message>
         <source>… without shading</source>
-        <translation type="unfinished"></translation>
+        <translation>… シェーディングを除く</translation>
     </message>
     <message>
         <source>… in electrons</source>
-        <translation type="unfinished"></translation>
+        <translation>… 電子数換算</translation>
     </message>
     <message>
         <source>The picture is even: its shading is only %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像は均一です。シェーディングは %1 だけです。</translation>
     </message>
     <message>
         <source>The correction reduces the shading from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>補正により、シェーディングが %1 から %2 に減少します。</translation>
     </message>
     <message>
         <source>%1; gains from %2 to %3; bright images at %4 of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、ゲイン %2~%3、明時画像はレンジの %4。</translation>
     </message>
     <message numerus="yes">
         <source>The numbers after the correction are those of %n other image(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>補正後の数値は、別に撮影した画像 %n 枚によるものです。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>偏差の大きいピクセル %n 個には周辺ピクセルのゲインを適用しました。これらは Pixel Repair で補間できます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The gain of %n pixel(s) was limited.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 個のピクセルのゲインを制限しました。</numerusform>
         </translation>
     </message>
 </context>
@@ -1950,239 +1950,235 @@ This value belongs to one camera or one moment.</source>
     <name>FlatFieldWindow</name>
     <message>
         <source>Flat Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Flat Field</translation>
     </message>
     <message>
         <source>The camera does not say its pixel format (PixelFormat), so its values cannot be corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラからピクセルフォーマット (PixelFormat) を取得できないため、画像の値を補正できません。</translation>
     </message>
     <message>
         <source>&amp;Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>補正データを保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像を撮影中</translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像を撮影中</translation>
     </message>
 </context>
 <context>
     <name>FocusPanel</name>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>ピーク比</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Before now</source>
-        <translation type="unfinished"></translation>
+        <translation>鮮鋭度</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Regions per direction</source>
-        <translation type="unfinished"></translation>
+        <translation>直近 1 分間の鮮鋭度</translation>
     </message>
     <message>
         <source>&amp;Forget the peaks</source>
-        <translation type="unfinished"></translation>
+        <translation>ピークをリセット(&amp;F)</translation>
     </message>
     <message>
         <source>Begins again, for example because the camera looks at something else.</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体を変えた場合などに、計測を最初からやり直します。</translation>
     </message>
     <message>
         <source>Point the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを向ける</translation>
     </message>
     <message>
         <source>It looks at something with edges all over the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面全体にエッジのある被写体にカメラを向けてください。</translation>
     </message>
     <message>
         <source>Find the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>最適なピントを探す</translation>
     </message>
     <message>
         <source>Search &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>自動で探索(&amp;A)</translation>
     </message>
     <message>
         <source>Read the tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>傾きを判定</translation>
     </message>
     <message>
         <source>The order in which the regions become sharp says how the focus is tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>各領域が合焦する順序から、ピント面の傾きを判定します。</translation>
     </message>
     <message>
         <source>Read the &amp;tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>傾きを判定(&amp;T)</translation>
     </message>
     <message>
         <source>Moves the lens through its range and leaves it at the best position. Cancelling puts it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズを全範囲で動かし、最適な位置で停止します。キャンセルすると元の位置に戻ります。</translation>
     </message>
     <message>
         <source>Nothing was measured yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ計測していません。</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>of the peak. Sharpness %1, peak %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピーク比 (鮮鋭度 %1、ピーク %2)</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>ピーク</translation>
     </message>
     <message>
         <source>Search the best position, or turn the lens slowly through the sharpest position.</source>
-        <translation type="unfinished"></translation>
+        <translation>最適な位置を自動で探索するか、レンズをゆっくり回して最も鮮鋭な位置を通過させてください。</translation>
     </message>
     <message>
         <source>Turn the lens slowly through the sharpest position, then back to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズをゆっくり回して最も鮮鋭な位置を通過させ、その後その位置に戻してください。</translation>
+    </message>
+    <message>
+        <source>Time before now</source>
+        <translation>現在までの時間</translation>
+    </message>
+    <message>
+        <source>Re&amp;gions per direction</source>
+        <translation>縦横の分割数(&amp;G)</translation>
     </message>
 </context>
 <context>
     <name>FocusReport</name>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Focus Assistant</translation>
     </message>
     <message>
         <source>Sharpness %1, which is %2 of the peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>鮮鋭度 %1、ピーク比 %2。</translation>
     </message>
     <message>
         <source>Share of the peak of each region</source>
-        <translation type="unfinished"></translation>
+        <translation>各領域のピーク比</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>直近 1 分間の鮮鋭度</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>領域</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished">行</translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>鮮鋭度</translation>
     </message>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>ピーク比</translation>
     </message>
     <message>
         <source>Best position</source>
-        <translation type="unfinished"></translation>
+        <translation>最適位置</translation>
     </message>
     <message>
         <source>Sharp at (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>合焦時刻 (s)</translation>
     </message>
     <message>
         <source>Share at the best position</source>
-        <translation type="unfinished"></translation>
+        <translation>最適位置でのピーク比</translation>
     </message>
     <message>
         <source>The sharpness is the energy of the differences between neighbouring pixels, divided by the squared brightness, without the part of the noise. Exposure and gain do not change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>鮮鋭度は、隣接ピクセル間の差分のエネルギーからノイズ成分を除き、明るさの 2 乗で正規化した値です。露光とゲインの影響を受けません。</translation>
     </message>
 </context>
 <context>
     <name>FocusTexts</name>
     <message>
         <source>Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>左端</translation>
     </message>
     <message>
         <source>Right end</source>
-        <translation type="unfinished"></translation>
+        <translation>右端</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>左上</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>右上</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>左下</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>右下</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>no edges</source>
-        <translation type="unfinished"></translation>
+        <translation>エッジなし</translation>
     </message>
     <message>
         <source>too dark</source>
-        <translation type="unfinished"></translation>
+        <translation>暗すぎ</translation>
     </message>
     <message>
         <source>overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>露出オーバー</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Shares of their peaks at the best position: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>最適位置でのピーク比: %1。</translation>
     </message>
 </context>
 <context>
     <name>FocusWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Focus Assistant</translation>
     </message>
     <message>
         <source>Searching the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>最適なピントを探索中</translation>
     </message>
 </context>
 <context>
@@ -2353,27 +2349,27 @@ This value belongs to one camera or one moment.</source>
     <name>HtmlReport</name>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>ベンダー</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">モデル</translation>
+        <translation>モデル</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished">シリアル番号</translation>
+        <translation>シリアル番号</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">名前</translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Settings of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの設定</translation>
     </message>
     <message>
         <source>Created by Corvix X, version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvix X バージョン %1 で作成。</translation>
     </message>
 </context>
 <context>
@@ -2395,119 +2391,119 @@ This value belongs to one camera or one moment.</source>
     <name>InputsForm</name>
     <message>
         <source>&amp;Lines come from</source>
-        <translation type="unfinished"></translation>
+        <translation>ライン同期(&amp;L)</translation>
     </message>
     <message>
         <source>the camera&apos;s line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラのラインレート</translation>
     </message>
     <message>
         <source>an encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコーダー</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>速度(&amp;S)</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Speed of the object. With an encoder: the highest speed, for which the limits are checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>対象物の速度。エンコーダー使用時は、制限の確認に使う最高速度。</translation>
     </message>
     <message>
         <source>&amp;Encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコーダー(&amp;E)</translation>
     </message>
     <message>
         <source>movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>1 パルスの移動量</translation>
     </message>
     <message>
         <source>pulses and roller</source>
-        <translation type="unfinished"></translation>
+        <translation>パルス数とローラー径</translation>
     </message>
     <message>
         <source>&amp;Movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>1 パルスの移動量(&amp;M)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Movement of the object for one pulse, that is one cycle of one signal of the encoder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pulses per &amp;revolution</source>
-        <translation type="unfinished"></translation>
+        <translation>1 パルス (エンコーダーの 1 信号の 1 周期) あたりの対象物の移動量。</translation>
     </message>
     <message>
         <source>Number of pulses that the encoder sends while its roller turns once.</source>
-        <translation type="unfinished"></translation>
+        <translation>ローラーが 1 回転する間にエンコーダーが出力するパルス数。</translation>
     </message>
     <message>
         <source>Roller &amp;diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>ローラー径(&amp;D)</translation>
     </message>
     <message>
         <source>Diameter of the roller or wheel that turns the encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコーダーを回すローラーまたはホイールの直径。</translation>
     </message>
     <message>
         <source>Size of a &amp;pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル実寸(&amp;P)</translation>
     </message>
     <message>
         <source>from sensor and lens</source>
-        <translation type="unfinished"></translation>
+        <translation>センサーとレンズから算出</translation>
     </message>
     <message>
         <source>known on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>対象物上の寸法を入力</translation>
     </message>
     <message>
         <source>Pi&amp;xel of the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>センサーのピクセル(&amp;X)</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Width of a pixel of the sensor; the data sheet names it.</source>
-        <translation type="unfinished"></translation>
+        <translation>センサーのピクセルの幅。データシートに記載されています。</translation>
     </message>
     <message>
         <source>Ma&amp;gnification</source>
-        <translation type="unfinished"></translation>
+        <translation>光学倍率(&amp;G)</translation>
     </message>
     <message>
         <source>Size of the image on the sensor divided by the size of the object, for example 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>センサー上の像の大きさを対象物の大きさで割った値 (例: 0.5)。</translation>
     </message>
     <message>
         <source>Pixel &amp;on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>対象物上の寸法(&amp;O)</translation>
     </message>
     <message>
         <source>Width of the object that one pixel of the picture shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の 1 ピクセルに対応する対象物の幅。</translation>
     </message>
     <message>
         <source>Use the longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>最長の露光時間を使用</translation>
     </message>
     <message>
         <source>Otherwise, the exposure is only shortened if it does not fit into a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>オフの場合、露光時間は 1 ラインに収まらないときだけ短縮されます。</translation>
     </message>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>未入力</translation>
+    </message>
+    <message>
+        <source>Pulses per re&amp;volution</source>
+        <translation>1 回転のパルス数(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -2528,67 +2524,67 @@ This value belongs to one camera or one moment.</source>
     <name>LayoutBox</name>
     <message>
         <source>As the camera says</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラから取得</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>手動</translation>
     </message>
     <message>
         <source>Taps:</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ構成:</translation>
     </message>
     <message>
         <source>Side by side:</source>
-        <translation type="unfinished"></translation>
+        <translation>横方向の分割:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の帯の数 (左から右)</translation>
     </message>
     <message>
         <source>One above the other:</source>
-        <translation type="unfinished"></translation>
+        <translation>縦方向の分割:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の帯の数 (上から下)</translation>
     </message>
     <message>
         <source>Neighbouring columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>隣接列のタップ数:</translation>
     </message>
     <message>
         <source>Taps that read the columns of a stripe in turn; 1 if a stripe has one tap</source>
-        <translation type="unfinished"></translation>
+        <translation>1 つの帯の列を交互に読み出すタップの数。帯ごとに 1 タップの場合は 1</translation>
     </message>
     <message>
         <source>Mean of all taps</source>
-        <translation type="unfinished"></translation>
+        <translation>全タップの平均</translation>
     </message>
     <message>
         <source>Tap 1</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ 1</translation>
     </message>
     <message>
         <source>Compare with:</source>
-        <translation type="unfinished"></translation>
+        <translation>比較基準:</translation>
     </message>
     <message>
         <source>Images of each measurement; more images make the numbers more certain</source>
-        <translation type="unfinished"></translation>
+        <translation>1 回の計測に使う画像の枚数。多いほど数値の確度が上がります</translation>
     </message>
     <message>
         <source>Images:</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の枚数:</translation>
     </message>
     <message>
         <source>Camera: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ: %1</translation>
     </message>
     <message>
-        <source>The camera does not say it</source>
-        <translation type="unfinished"></translation>
+        <source>Not reported by the camera</source>
+        <translation>カメラから取得不可</translation>
     </message>
 </context>
 <context>
@@ -2622,19 +2618,19 @@ This value belongs to one camera or one moment.</source>
     <name>LevelBar</name>
     <message>
         <source>Brightness of the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像の明るさ</translation>
     </message>
     <message>
         <source>%1 % of the range; 50 to 80 % is good</source>
-        <translation type="unfinished"></translation>
+        <translation>レンジの %1 % (適正: 50~80 %)</translation>
     </message>
     <message>
         <source>%1 % of the values are clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>値の %1 % が飽和しています</translation>
     </message>
     <message>
         <source>There is no picture.</source>
-        <translation type="unfinished">画像がありません。</translation>
+        <translation>画像がありません。</translation>
     </message>
 </context>
 <context>
@@ -2656,266 +2652,266 @@ This value belongs to one camera or one moment.</source>
     <name>LineScanReport</name>
     <message>
         <source>Speed of the object</source>
-        <translation type="unfinished"></translation>
+        <translation>対象物の速度</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Movement per encoder pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコーダー 1 パルスの移動量</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル実寸</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Line rate for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>正方ピクセルになるラインレート</translation>
     </message>
     <message>
         <source>Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>Hz</translation>
     </message>
     <message>
         <source>Lines per pulse for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>正方ピクセルになる 1 パルスあたりのライン数</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>最長露光時間</translation>
     </message>
     <message>
         <source>µs</source>
-        <translation type="unfinished"></translation>
+        <translation>µs</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>最高速度</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>残存誤差</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>Line Scan Tuner</translation>
     </message>
     <message>
         <source>Round target</source>
-        <translation type="unfinished"></translation>
+        <translation>円形ターゲット</translation>
     </message>
     <message>
         <source>First measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>最初の計測</translation>
     </message>
     <message>
         <source>Last measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>最後の計測</translation>
     </message>
     <message>
         <source>Height to width</source>
-        <translation type="unfinished"></translation>
+        <translation>高さ / 幅</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差</translation>
     </message>
     <message>
         <source>Turn of the camera (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの回転角 (°)</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>画像数</translation>
     </message>
     <message>
         <source>The picture at the time of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>レポート作成時の画像</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">ラインレート</translation>
+        <translation>ラインレート</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>項目</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">値</translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>Written settings</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込んだ設定</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">フィーチャー</translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>変更前</translation>
     </message>
 </context>
 <context>
     <name>LineScanWindow</name>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>Line Scan Tuner</translation>
     </message>
     <message>
         <source>This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no encoder. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラはエリアスキャンカメラで、ラインレート (AcquisitionLineRate) もエンコーダー機能もありません。移動する対象物を 1 ラインずつ撮像するラインスキャンカメラを選択してください。</translation>
     </message>
     <message>
         <source>Do the &amp;next step</source>
-        <translation type="unfinished"></translation>
+        <translation>次の手順を実行(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Enter</translation>
     </message>
     <message>
         <source>Do the next step</source>
-        <translation type="unfinished"></translation>
+        <translation>次の手順を実行</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存</translation>
     </message>
     <message>
         <source>No round target was found yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>円形ターゲットはまだ見つかっていません。</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存…</translation>
     </message>
     <message>
         <source>the largest</source>
-        <translation type="unfinished"></translation>
+        <translation>最大のもの</translation>
     </message>
     <message>
         <source>the one that I click</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックしたもの</translation>
     </message>
     <message>
         <source>in the columns that I draw</source>
-        <translation type="unfinished"></translation>
+        <translation>指定した列の範囲</translation>
     </message>
     <message>
         <source>Which disc or ring is measured. The picture rolls, so only the columns count.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測する円板またはリング。画像は流れるため、列の範囲だけが有効です。</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>ターゲット(&amp;T)</translation>
     </message>
     <message>
         <source>Look for the target in the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像でターゲットを検出</translation>
     </message>
     <message>
         <source>The picture stands still for a moment where a target was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>ターゲットが見つかると、画像が一瞬静止します。</translation>
     </message>
     <message>
         <source>Describe the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>装置の条件を入力</translation>
     </message>
     <message>
         <source>Pixels are square if the camera takes one line while the object moves by one pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>対象物が 1 ピクセル分移動する間にカメラが 1 ライン撮像すると、ピクセルは正方形になります。</translation>
     </message>
     <message>
         <source>Set the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを設定</translation>
     </message>
     <message>
         <source>This follows from the machine and from the limits of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定値は、装置の条件とカメラの制限から求められます。</translation>
     </message>
     <message>
         <source>Write the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を書き込み</translation>
     </message>
     <message>
         <source>Undo what was written</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込みを元に戻す</translation>
     </message>
     <message>
         <source>Measure a round target</source>
-        <translation type="unfinished"></translation>
+        <translation>円形ターゲットを計測</translation>
     </message>
     <message>
         <source>Let a dark or bright disc or ring move under the camera. It must be complete in one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗いまたは明るい円板かリングを、カメラの下で移動させてください。1 枚の画像に全体が収まる必要があります。</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">計測</translation>
+        <translation>計測</translation>
     </message>
     <message>
         <source>Make it round</source>
-        <translation type="unfinished"></translation>
+        <translation>真円に補正</translation>
     </message>
     <message>
         <source>Correct the rate</source>
-        <translation type="unfinished"></translation>
+        <translation>レートを補正</translation>
     </message>
     <message>
         <source>The target in the live picture is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像のターゲットは真円です。</translation>
     </message>
     <message>
         <source>The target in the live picture is too tall.</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像のターゲットは縦長です。</translation>
     </message>
     <message>
         <source>The target in the live picture is too flat.</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブ画像のターゲットは横長です。</translation>
     </message>
     <message>
         <source>The line rate, or the ratio of the encoder, is multiplied with width / height of the target.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラインレートまたはエンコーダーの逓倍・分周比に、ターゲットの幅 / 高さを乗算します。</translation>
     </message>
     <message>
         <source>The camera is turned by %1° against the movement.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラは移動方向に対して %1° 回転しています。</translation>
     </message>
     <message>
         <source>The camera has accepted the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラに設定を書き込みました。</translation>
     </message>
     <message>
         <source>Measuring the target</source>
-        <translation type="unfinished"></translation>
+        <translation>ターゲットを計測中</translation>
     </message>
     <message>
         <source>Reading the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を読み取り中</translation>
     </message>
 </context>
 <context>
@@ -3238,31 +3234,31 @@ This value belongs to one camera or one moment.</source>
     <name>LogBox</name>
     <message>
         <source>Appends each reading to a CSV file until you stop it. A file of the same camera is continued.</source>
-        <translation type="unfinished"></translation>
+        <translation>停止するまで、測定値を CSV ファイルに追記します。同じカメラのファイルには続けて記録します。</translation>
     </message>
     <message>
         <source>Log the temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>温度のログ記録</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV テーブル (*.csv)</translation>
     </message>
     <message>
         <source>Stop the &amp;log</source>
-        <translation type="unfinished"></translation>
+        <translation>ログを停止(&amp;L)</translation>
     </message>
     <message>
         <source>Start a &amp;log…</source>
-        <translation type="unfinished"></translation>
+        <translation>ログを開始(&amp;L)…</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ログ: %1</translation>
     </message>
     <message>
         <source>The readings are not logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>測定値は記録されていません。</translation>
     </message>
 </context>
 <context>
@@ -3302,101 +3298,101 @@ This value belongs to one camera or one moment.</source>
     <name>Measure</name>
     <message>
         <source>The brightness changed by %1 % while the bright images were taken. Use a steady light, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像の撮影中に明るさが %1 % 変化しました。安定した照明を使用し、画像を撮り直してください。</translation>
     </message>
     <message>
         <source>Something moved while the bright images were taken. Point the camera at an evenly lit surface without objects, keep it still, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像の撮影中に動きがありました。物体のない均一に照明された面にカメラを向け、静止させて画像を撮り直してください。</translation>
     </message>
     <message>
         <source>The bright images show a scene. Point the camera at an evenly lit surface without objects, for example white paper close to the lens and out of focus, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像に被写体が写っています。物体のない均一に照明された面 (レンズの近くに置いてピントを外した白紙など) にカメラを向け、画像を撮り直してください。</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is too long. Cover the lens, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像が最大値の %1 % に達しています。センサーに光が入っているか、露光時間が長すぎます。レンズを遮光し、暗時画像を撮り直してください。</translation>
     </message>
     <message>
         <source>The dark images show something: light reaches the sensor. Cover the lens completely, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像に何かが写っています。センサーに光が入っています。レンズを完全に遮光し、暗時画像を撮り直してください。</translation>
     </message>
     <message>
         <source>Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black level (BlackLevel), then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像の多くのピクセルが 0 のため、ノイズを計測できません。黒レベル (BlackLevel) を上げ、暗時画像を撮り直してください。</translation>
     </message>
     <message>
         <source>The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more light or a longer exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像が暗すぎます (レンジの %1 %)。レンズのカバーを外し、照明を明るくするか露光時間を長くして、画像を撮り直してください。</translation>
     </message>
     <message>
         <source>%1 % of the pixels of the bright images have the highest value. Use less light or a shorter exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像のピクセルの %1 % が最大値に達しています。照明を暗くするか露光時間を短くして、画像を撮り直してください。</translation>
     </message>
     <message>
         <source>%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached the sensor during the dark images. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの %1 % が周辺ピクセルから外れています。面に模様があったか、暗時画像の撮影中にセンサーに光が入りました。画像を撮り直してください。</translation>
     </message>
     <message>
         <source>Set %1 to %2: defect pixels are measured at full resolution without mirroring.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を %2 に設定してください。欠陥ピクセルは、反転なしの最大解像度で計測します。</translation>
     </message>
     <message>
         <source>Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to Mono16, or Bayer (PixelFormat).</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの値をそのまま含む 8~16 ビットのピクセルフォーマット (PixelFormat) を選択してください: Mono8~Mono16 または Bayer。</translation>
     </message>
     <message>
         <source>Choose a region of %1 x %1 pixels or more (Width, Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %1 ピクセル以上の ROI を選択してください (Width、Height)。</translation>
     </message>
     <message>
         <source>The size or the pixel format of the images has changed. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像のサイズまたはピクセルフォーマットが変わりました。画像を撮り直してください。</translation>
     </message>
     <message>
         <source>Take %1 images or more: with fewer images, the noise hides defects.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 枚以上の画像を撮影してください。枚数が少ないと、欠陥がノイズに埋もれます。</translation>
     </message>
     <message>
         <source>The region or the pixel format differs from that of the dark images. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ROI またはピクセルフォーマットが暗時画像の撮影時と異なります。元に戻すか、暗時画像を撮り直してください。</translation>
     </message>
     <message>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲインが暗時画像の撮影時 (%1) と異なります。元に戻すか、暗時画像を撮り直してください。</translation>
     </message>
 </context>
 <context>
     <name>MeasureBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">キャンセル</translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>End the measurement. The settings of the camera are put back. (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>計測を中止します。カメラの設定は元に戻されます。(Esc)</translation>
     </message>
 </context>
 <context>
     <name>MeasureJob</name>
     <message>
         <source>The camera is not open for control, so nothing can be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの制御を取得していないため、計測できません。</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Measure again when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測中にカメラとの接続が切れました。カメラが復帰したら計測し直してください。</translation>
     </message>
     <message>
         <source>The camera was closed during the measurement.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測中にカメラが閉じられました。</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">カメラから画像が送信されていません。%1</translation>
+        <translation>カメラから画像が送信されていません。%1</translation>
     </message>
     <message>
         <source>Some settings were not put back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>一部の設定を復元できませんでした。%1</translation>
     </message>
 </context>
 <context>
@@ -3696,103 +3692,103 @@ This value belongs to one camera or one moment.</source>
     <name>PlanView</name>
     <message>
         <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kHz</translation>
     </message>
     <message>
         <source>by the link</source>
-        <translation type="unfinished"></translation>
+        <translation>接続による制限</translation>
     </message>
     <message>
         <source>by the exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>露光による制限</translation>
     </message>
     <message>
         <source>by the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラによる制限</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">フィーチャー</translation>
+        <translation>フィーチャー</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい値</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>変更前</translation>
     </message>
     <message>
         <source>Settings that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込む設定</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル実寸</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished">%1 µm</translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">ラインレート</translation>
+        <translation>ラインレート</translation>
     </message>
     <message>
         <source>Highest line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>最高ラインレート</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>最高速度</translation>
     </message>
     <message>
         <source>%1 mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm/s</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>最長露光時間</translation>
     </message>
     <message>
         <source>%1 µs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µs</translation>
     </message>
     <message>
         <source>Dead time of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>ラインのデッドタイム</translation>
     </message>
     <message>
         <source>Lines per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>1 パルスのライン数</translation>
     </message>
     <message>
         <source>Multiplier, divider</source>
-        <translation type="unfinished"></translation>
+        <translation>逓倍、分周</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>残存誤差</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The camera is set up for this already.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラは既にこの設定になっています。</translation>
     </message>
     <message>
         <source>These features are written, in this order:</source>
-        <translation type="unfinished"></translation>
+        <translation>次のフィーチャーを、この順序で書き込みます:</translation>
     </message>
 </context>
 <context>
@@ -4014,167 +4010,171 @@ This value belongs to one camera or one moment.</source>
     <name>RepairPanel</name>
     <message>
         <source>Cover the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズを遮光</translation>
     </message>
     <message>
         <source>No light may reach the sensor. A long exposure and a high gain show more hot pixels: use the longest exposure that you work with, and let the camera warm up.</source>
-        <translation type="unfinished"></translation>
+        <translation>センサーに光が入らないようにしてください。露光時間が長くゲインが高いほど、ホットピクセルが多く検出されます。実際に使用する最長の露光時間に設定し、カメラをウォームアップしてください。</translation>
     </message>
     <message>
         <source>Take &amp;dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像を撮影(&amp;D)</translation>
     </message>
     <message>
         <source>Point at an evenly lit surface</source>
-        <translation type="unfinished"></translation>
+        <translation>均一に照明された面に向ける</translation>
     </message>
     <message>
         <source>Uncover the lens and fill the picture with one bright surface without objects, for example white paper, out of focus. Half of the highest brightness is best; leave the gain as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズのカバーを外し、物体のない明るい面 (白紙など) をピントを外して画面全体に写してください。明るさは最大値の半分が最適です。ゲインは変更しないでください。</translation>
     </message>
     <message>
         <source>Take &amp;bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像を撮影(&amp;B)</translation>
     </message>
     <message>
         <source>Save the map</source>
-        <translation type="unfinished"></translation>
+        <translation>マップを保存</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl repair pictures with the map. A report and a table are saved beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image Viewer と cvxctl は、このマップを使って画像を補間します。レポートと一覧表も一緒に保存されます。</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished">保存(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>Of each kind. More images find weaker defects and pixels that blink rarely.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の枚数(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images find weaker defects and pixels that blink rarely.</source>
+        <translation>暗時画像と明時画像それぞれの枚数。多いほど、軽微な欠陥やまれに点滅するピクセルを検出できます。</translation>
     </message>
 </context>
 <context>
     <name>RepairReport</name>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel Repair</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished">結果</translation>
+        <translation>結果</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>クラスター</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>隣接する欠陥ピクセルの集まり。</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列欠陥</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>列のうち、欠陥ピクセルが 8 個以上ある部分。</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>行欠陥</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>行のうち、欠陥ピクセルが 8 個以上ある部分。</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>数</translation>
     </message>
     <message>
         <source>Meaning</source>
-        <translation type="unfinished"></translation>
+        <translation>説明</translation>
     </message>
     <message>
         <source>Places of the defect pixels on the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>センサー上の欠陥ピクセルの位置</translation>
     </message>
     <message>
         <source>Conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>計測条件</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>画像</translation>
     </message>
     <message>
         <source>Exposure in ms</source>
-        <translation type="unfinished"></translation>
+        <translation>露光時間 (ms)</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished">ゲイン</translation>
+        <translation>ゲイン</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished">表示レベル</translation>
+        <translation>レベル</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>ノイズ</translation>
     </message>
     <message>
         <source>Spread of the good pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>正常ピクセルのばらつき</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>明時</translation>
     </message>
     <message>
         <source>Threshold: %1 standard deviations. Examined pixels: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>しきい値: 標準偏差の %1 倍。検査ピクセル数: %2。</translation>
     </message>
 </context>
 <context>
     <name>RepairWindow</name>
     <message>
         <source>&amp;Save the map…</source>
-        <translation type="unfinished"></translation>
+        <translation>マップを保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel Repair</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像を撮影中</translation>
     </message>
     <message numerus="yes">
         <source>%n dark image(s) taken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>暗時画像を %n 枚撮影しました。</numerusform>
         </translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像を撮影中</translation>
     </message>
     <message>
-        <source>%1 was off during the measurement, so the map contains what the camera itself can repair.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 was off during the measurement, so the map also contains what the camera itself can repair.</source>
+        <translation>計測中は %1 をオフにしたため、マップにはカメラ自身が補正できるピクセルも含まれます。</translation>
+    </message>
+    <message>
+        <source>The picture is not repaired: %1.</source>
+        <translation>画像を補正できません: %1。</translation>
     </message>
 </context>
 <context>
@@ -4216,70 +4216,70 @@ This value belongs to one camera or one moment.</source>
     <name>ResultBox</name>
     <message>
         <source>Defect pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>欠陥ピクセル</translation>
     </message>
     <message>
         <source>&amp;Mark the defect pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the &amp;repaired picture</source>
-        <translation type="unfinished"></translation>
+        <translation>欠陥ピクセルを表示(&amp;M)</translation>
     </message>
     <message>
         <source>Replaces each defect pixel by the median of its good neighbours of the same colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>各欠陥ピクセルを、周辺の正常な同色ピクセルの中央値に置き換えます。</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>クラスター</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>隣接する欠陥ピクセルの集まり。</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列欠陥</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>列のうち、欠陥ピクセルが 8 個以上ある部分。</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>行欠陥</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>行のうち、欠陥ピクセルが 8 個以上ある部分。</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Show the re&amp;paired picture</source>
+        <translation>補間後の画像を表示(&amp;P)</translation>
     </message>
 </context>
 <context>
     <name>ResultSaver</name>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>結果の保存</translation>
     </message>
     <message>
         <source>Results (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>結果 (%1)</translation>
     </message>
     <message>
         <source>These files exist already: %1. Do you want to replace them?</source>
-        <translation type="unfinished"></translation>
+        <translation>次のファイルは既に存在します: %1。置き換えますか?</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>置き換え</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not saved. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を保存できませんでした。%2</translation>
     </message>
 </context>
 <context>
@@ -4345,427 +4345,439 @@ This value belongs to one camera or one moment.</source>
     <name>Sentence</name>
     <message>
         <source>The exposure time of this camera cannot be set. Change the light until the picture has about 70 % of the range, and measure without setting the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラの露光時間は設定できません。画像がレンジの約 70 % になるように照明を調整し、露光時間の自動設定をオフにして計測してください。</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed since the dark images. Take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像の撮影後に ROI またはピクセルフォーマットが変わりました。暗時画像を撮り直してください。</translation>
     </message>
     <message>
         <source>The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルフォーマット %1 は補正できません。8~16 ビットの Mono または Bayer フォーマットを選択してください。</translation>
     </message>
     <message>
         <source>The colours of a line scan camera cannot be corrected. Choose a Mono format.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラインスキャンカメラのカラー画像は補正できません。Mono フォーマットを選択してください。</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed during the measurement. Measure again without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測中に ROI またはピクセルフォーマットが変わりました。変更せずに計測し直してください。</translation>
     </message>
     <message>
         <source>%1 images are too few for a correction. Take at least %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 %1 枚では補正に不十分です。%2 枚以上撮影してください。</translation>
     </message>
     <message>
         <source>The bright images are too dark: %1 % of the range above the dark images. Is the lens still covered? Otherwise, use more light or a longer exposure time, for about 70 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像が暗すぎます (暗時画像との差がレンジの %1 %)。レンズが遮光されたままになっていないか確認してください。遮光されていない場合は、照明を明るくするか露光時間を長くして、約 70 % にしてください。</translation>
     </message>
     <message>
         <source>The bright images have %1 % of the range. Between 50 and 80 %, the gains are most exact.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像はレンジの %1 % です。50~80 % のときにゲインの精度が最も高くなります。</translation>
     </message>
     <message>
         <source>Parts of the picture have changed by %1 % between the images: something moves, or the light flickers. Use an even surface that keeps still, and steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像間で画面の一部が %1 % 変化しました。動くものがあるか、照明がちらついています。静止した均一な面と安定した照明を使用してください。</translation>
     </message>
     <message>
         <source>The brightness has changed by %1 % between the images. Use steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像間で明るさが %1 % 変化しました。安定した照明を使用してください。</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the range, so there seems to be light. Cover the lens completely. If it is covered, reduce BlackLevel or Gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像がレンジの %1 % あるため、光が入っていると思われます。レンズを完全に遮光してください。遮光している場合は、BlackLevel または Gain を下げてください。</translation>
     </message>
     <message>
         <source>The dark images are not equally dark everywhere. Make sure that no light reaches the lens, and take them again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像の暗さが均一ではありません。レンズに光が入らないようにして撮り直してください。</translation>
     </message>
     <message>
         <source>%1 % of the values in the dark are 0, so the offsets are cut off. Increase BlackLevel.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時の値の %1 % が 0 のため、オフセットが切り捨てられています。BlackLevel を上げてください。</translation>
     </message>
     <message>
         <source>The noise in the dark is smaller than one step of the pixel format, so the numbers of the dark images are not exact. A pixel format with more bits shows the differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時のノイズがピクセルフォーマットの 1 階調より小さいため、暗時画像の数値は正確ではありません。ビット数の多いピクセルフォーマットを使用すると差が見えるようになります。</translation>
     </message>
     <message>
         <source>%1 % of the values in the bright images are clipped. Reduce the exposure time or the light, to about 70 % of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像の値の %1 % が飽和しています。露光時間を短くするか照明を暗くして、レンジの約 70 % にしてください。</translation>
     </message>
     <message>
         <source>The bright images show structures that look like an object and not like shading; the correction would draw them into every picture. Use an even surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像に、シェーディングではなく物体と思われる模様があります。このまま補正すると、すべての画像にその模様が現れます。均一な面を使用し、ピントを外してください。</translation>
     </message>
     <message>
         <source>The picture is too dark. Remove the lens cap, open the aperture, add light or lengthen the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が暗すぎます。レンズキャップを外す、絞りを開く、照明を明るくする、露光時間を長くする、のいずれかを行ってください。</translation>
     </message>
     <message>
         <source>%1 % of the pixels are overexposed. Close the aperture or shorten the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの %1 % が露出オーバーです。絞りを絞るか、露光時間を短くしてください。</translation>
     </message>
     <message>
         <source>The picture has no edges. Point the camera at something with structure, for example a printed page, or turn the lens if the picture is blurred.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像にエッジがありません。印刷物など模様のあるものにカメラを向けてください。画像がぼけている場合は、レンズを回してください。</translation>
     </message>
     <message>
         <source>Pictures of this pixel format cannot be measured. Choose a Mono, Bayer, RGB or YUV format.</source>
-        <translation type="unfinished"></translation>
+        <translation>このピクセルフォーマットの画像は計測できません。Mono、Bayer、RGB、YUV のいずれかのフォーマットを選択してください。</translation>
     </message>
     <message>
         <source>The picture is too small for so many regions. Choose a larger Width and Height, or fewer regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>領域の数に対して画像が小さすぎます。Width と Height を大きくするか、領域の数を減らしてください。</translation>
     </message>
     <message>
         <source>The picture became sharp at no position of the lens. Point the camera at something with structure, check the distance, and search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズのどの位置でも合焦しませんでした。模様のあるものにカメラを向け、距離を確認して、もう一度探索してください。</translation>
     </message>
     <message>
         <source>The camera cannot move its lens: it has no feature for the position of the focus, for example LensFocusPosition. Turn the lens by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラには LensFocusPosition などのフォーカス位置のフィーチャーがないため、レンズを駆動できません。レンズを手で回してください。</translation>
     </message>
     <message>
         <source>The right edge is sharp at a higher position than the left edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>右端は左端より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The left edge became sharp before the right edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>左端は右端より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The lower right corner is sharp at a higher position than the upper left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>右下は左上より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The upper left corner became sharp before the lower right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>左上は右下より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The lower edge is sharp at a higher position than the upper edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>下端は上端より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The upper edge became sharp before the lower edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>上端は下端より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The lower left corner is sharp at a higher position than the upper right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>左下は右上より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The upper right corner became sharp before the lower left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>右上は左下より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The left edge is sharp at a higher position than the right edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>左端は右端より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The right edge became sharp before the left edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>右端は左端より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The upper left corner is sharp at a higher position than the lower right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>左上は右下より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The lower right corner became sharp before the upper left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>右下は左上より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The upper edge is sharp at a higher position than the lower edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>上端は下端より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The lower edge became sharp before the upper edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>下端は上端より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The upper right corner is sharp at a higher position than the lower left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>右上は左下より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The lower left corner became sharp before the upper right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>左下は右上より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>Turn the lens slowly in one direction, until the picture has become blurred again.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が再びぼけるまで、レンズを一方向にゆっくり回してください。</translation>
     </message>
     <message>
         <source>Keep turning in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>そのまま同じ方向に回してください。</translation>
     </message>
     <message>
         <source>Turn back: the peak lies in the other direction.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is as sharp as it becomes. Lock the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>逆方向に回してください。ピークは反対側にあります。</translation>
     </message>
     <message>
         <source>The best position is %1. The lens is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>最適位置は %1 です。レンズはその位置にあります。</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens up by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>最適位置は %1 です。レンズの位置を %2 増やしてください。</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens down by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>最適位置は %1 です。レンズの位置を %2 減らしてください。</translation>
     </message>
     <message>
         <source>Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the camera at something with edges all over the picture, and go through the sharpest position once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>合焦位置を通過した領域が少なすぎるため、ピント面の傾きを判定できません。画面全体にエッジのあるものにカメラを向け、最も鮮鋭な位置をもう一度通過させてください。</translation>
     </message>
     <message>
         <source>The focus is not tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピント面に傾きはありません。</translation>
     </message>
     <message>
         <source>The centre became sharp before the corners, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>中央は四隅より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The corners became sharp before the centre, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>四隅は中央より %1 秒早く合焦しました。</translation>
     </message>
     <message>
         <source>The corners are sharp at a higher position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>四隅は中央より %1 大きい位置で合焦します。</translation>
     </message>
     <message>
         <source>The corners are sharp at a lower position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>四隅は中央より %1 小さい位置で合焦します。</translation>
     </message>
     <message>
         <source>The link carries %1 MB/s: at most %2 kHz with this width and pixel format. Choose a smaller width, a pixel format with fewer bits, or a lower speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>接続の帯域は %1 MB/s です。現在の幅とピクセルフォーマットでは最大 %2 kHz です。幅を小さくするか、ビット数の少ないピクセルフォーマットを選択するか、速度を下げてください。</translation>
     </message>
     <message>
         <source>The exposure allows at most %1 kHz, because a line cannot be shorter than its exposure. Shorten the exposure, and add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ラインは露光時間より短くできないため、現在の露光時間では最大 %1 kHz です。露光時間を短くし、照明を明るくするかゲインを上げてください。</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz with its present settings. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの現在の設定では最大 %1 kHz です。速度を下げるか、光学倍率を小さくしてください。</translation>
     </message>
     <message>
         <source>This camera takes whole pictures. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラはエリアスキャンカメラです。移動する対象物を 1 ラインずつ撮像するラインスキャンカメラを選択してください。</translation>
     </message>
     <message>
         <source>Every number must be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての数値を 0 より大きくしてください。</translation>
     </message>
     <message>
         <source>Enter the pixel size and the magnification, or the size of a pixel on the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルサイズと光学倍率、または対象物上の 1 ピクセルの寸法を入力してください。</translation>
     </message>
     <message>
         <source>Enter the speed of the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>対象物の速度を入力してください。</translation>
     </message>
     <message>
         <source>Enter the movement per encoder pulse, or the pulses per revolution and the diameter of the roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>エンコーダー 1 パルスの移動量、または 1 回転のパルス数とローラー径を入力してください。</translation>
     </message>
     <message>
         <source>The camera has no line rate of its own (AcquisitionLineRate). Use an encoder, or an external trigger.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラには独自のラインレート (AcquisitionLineRate) がありません。エンコーダーまたは外部トリガーを使用してください。</translation>
     </message>
     <message>
         <source>The camera cannot start lines by an encoder (TriggerSelector has no LineStart). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラはエンコーダーでラインを開始できません (TriggerSelector に LineStart がありません)。カメラのラインレートを使用してください。</translation>
     </message>
     <message>
         <source>The exposure of %1 µs is longer than a line. It has to be shortened to %2 µs, so the picture becomes darker: add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>露光時間 %1 µs は 1 ラインより長いため、%2 µs に短縮する必要があります。画像が暗くなるので、照明を明るくするかゲインを上げてください。</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラに設定できる最も近い値では、対象物が %1 % 縦長になります。光学倍率を変更するか、別のエンコーダーを使用してください。</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラに設定できる最も近い値では、対象物が %1 % 横長になります。光学倍率を変更するか、別のエンコーダーを使用してください。</translation>
     </message>
     <message>
         <source>The camera offers no encoder as the source of its line trigger (TriggerSource). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラではライントリガーのソース (TriggerSource) にエンコーダーを選択できません。カメラのラインレートを使用してください。</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz, but square pixels need %2 kHz. Nothing was changed. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラは最大 %1 kHz ですが、正方ピクセルには %2 kHz が必要です。何も変更していません。速度を下げるか、光学倍率を小さくしてください。</translation>
     </message>
     <message>
         <source>The camera has refused %1, so nothing was changed. %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera has refused a setting, and then also to go back to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが %1 を受け付けなかったため、何も変更していません。%2</translation>
     </message>
     <message>
         <source>The circle is round: height and width differ by %1 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>円は真円です。高さと幅の差は %1 % です。</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>円が %1 % 縦長です。エンコーダー 1 パルスあたりのライン数を %2 から %3 に下げてください。</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>円が %1 % 横長です。エンコーダー 1 パルスあたりのライン数を %2 から %3 に上げてください。</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>円が %1 % 縦長です。ラインレートを %2 kHz から %3 kHz に下げてください。</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>円が %1 % 横長です。ラインレートを %2 kHz から %3 kHz に上げてください。</translation>
     </message>
     <message>
         <source>The border of the round target is uneven. Check whether the object moves evenly, whether lines are lost, and whether the target is sharp and free of other shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>円形ターゲットの輪郭が不規則です。対象物が一定速度で動いているか、ラインが欠落していないか、ターゲットにピントが合い、ほかの図形が重なっていないかを確認してください。</translation>
     </message>
     <message>
         <source>There is no complete round target in the picture of %1 lines. Show the camera a dark or bright disc or ring, or make the picture higher (Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ラインの画像に、全体が収まった円形ターゲットがありません。暗いまたは明るい円板かリングを写すか、画像の高さ (Height) を大きくしてください。</translation>
     </message>
     <message>
         <source>The picture has too little contrast. Take off the lens cap, add light, and show the camera a dark or bright disc or ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像のコントラストが低すぎます。レンズキャップを外し、照明を明るくして、暗いまたは明るい円板かリングを写してください。</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s, because it waits for a trigger. Trigger it, or set TriggerMode to Off, and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラはトリガー待ちのため、%1 秒間画像を送信していません。トリガーを送るか、TriggerMode を Off にして計測し直してください。</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s. Check whether the live picture moves, and the cable, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラから %1 秒間画像が届いていません。ライブ画像が動いているか、またケーブルを確認して、計測し直してください。</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Check its cable and its power, wait until the picture is back, then measure again. (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The images have ended during the measurement. Start the live picture and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測中にカメラとの接続が切れました。ケーブルと電源を確認し、画像が復帰したら計測し直してください。(%1)</translation>
     </message>
     <message>
         <source>The images arrive with missing data. Check the cable and the network card (&quot;cvxctl doctor&quot; helps), or lower the image rate, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>受信した画像のデータが不足しています。ケーブルとネットワークカードを確認するか (「cvxctl doctor」で診断できます)、フレームレートを下げて計測し直してください。</translation>
     </message>
     <message>
         <source>The measurement was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測はキャンセルされました。</translation>
     </message>
     <message>
         <source>The pixel values are not proportional to the light. Set Gamma to 1, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの値が光量に比例していません。Gamma を 1 に設定して計測し直してください。</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;DeviceTapGeometry&quot;. Choose the layout of its taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはフィーチャー「DeviceTapGeometry」がありません。タップ構成を手動で選択してください。</translation>
     </message>
     <message>
         <source>The tap geometry &quot;%1&quot; is unknown. Choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>タップジオメトリー「%1」は未知です。タップ構成を手動で選択してください。</translation>
     </message>
     <message>
         <source>The sensor has one tap only, so there is nothing to balance. If that is wrong, choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>センサーのタップは 1 つだけのため、調整は不要です。これが誤りの場合は、タップ構成を手動で選択してください。</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;%1&quot;, so its taps can be measured, but not set.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはフィーチャー「%1」がないため、タップの計測はできますが設定はできません。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the entries Tap1 to Tap%2, so the taps can be measured, but not set. Choose the layout of the camera&apos;s taps.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」に Tap1~Tap%2 の項目がないため、タップの計測はできますが設定はできません。カメラのタップ構成を選択してください。</translation>
     </message>
     <message>
         <source>The scene moves: %1 % of the picture has changed during the measurement. Show an even surface that rests, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体が動いています。計測中に画像の %1 % が変化しました。静止した均一な面を写して計測し直してください。</translation>
     </message>
     <message>
         <source>The picture is overexposed: %1 % of a tap&apos;s pixels have the largest value. Shorten the exposure time or close the lens aperture, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が露出オーバーです。あるタップのピクセルの %1 % が最大値に達しています。露光時間を短くするか絞りを絞って、計測し直してください。</translation>
     </message>
     <message>
         <source>The picture is too dark: it reaches %1 % of the range. Remove the lens cap, add light or lengthen the exposure time, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が暗すぎます (レンジの %1 %)。レンズキャップを外す、照明を明るくする、露光時間を長くする、のいずれかを行い、計測し直してください。</translation>
     </message>
     <message>
         <source>The picture is not dark: its mean is %1 % of the range. Cover the lens, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が十分に暗くありません (平均がレンジの %1 %)。レンズを遮光して計測し直してください。</translation>
     </message>
     <message>
         <source>The dark picture is cut off: %1 % of a tap&apos;s pixels are 0. Raise the black level, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像が黒つぶれしています。あるタップのピクセルの %1 % が 0 です。黒レベルを上げて計測し直してください。</translation>
     </message>
     <message>
         <source>The step between tap %1 and tap %2 cannot be told from the scene. Show an even surface, or take more images, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ %1 とタップ %2 の間の段差を被写体の模様と区別できません。均一な面を写すか画像の枚数を増やして、計測し直してください。</translation>
     </message>
     <message>
         <source>Taps cannot be measured in this pixel format. Choose a Mono or Bayer format of 8 to 16 bits, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>このピクセルフォーマットではタップを計測できません。8~16 ビットの Mono または Bayer フォーマットを選択して計測し直してください。</translation>
     </message>
     <message>
         <source>The taps read neighbouring pixels in turn, which have different colours, so taps and colours cannot be told apart. Choose a layout of stripes by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>各タップが色の異なる隣接ピクセルを交互に読み出すため、タップの差と色の差を区別できません。帯状のタップ構成を手動で選択してください。</translation>
     </message>
     <message>
         <source>Binning adds up pixels of several taps. Switch it off, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビニングにより複数タップのピクセルが加算されています。ビニングをオフにして計測し直してください。</translation>
     </message>
     <message>
         <source>The size or the format of the images has changed during the measurement. Measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>計測中に画像のサイズまたはフォーマットが変わりました。計測し直してください。</translation>
     </message>
     <message>
         <source>The dark level of this pixel format cannot be measured; choose a Mono, Bayer or RGB format.</source>
-        <translation type="unfinished"></translation>
+        <translation>このピクセルフォーマットの暗時レベルは計測できません。Mono、Bayer、RGB のいずれかのフォーマットを選択してください。</translation>
     </message>
     <message>
         <source>The picture is not dark. Put the cap on the lens, or cover the lens completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像が十分に暗くありません。レンズにキャップを付けるか、レンズを完全に遮光してください。</translation>
     </message>
     <message>
         <source>%1 % of the pixels are 0, which hides the dark level. Raise BlackLevel, so that the noise lies above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの %1 % が 0 のため、暗時レベルを計測できません。BlackLevel を上げ、ノイズが 0 より上に収まるようにしてください。</translation>
     </message>
     <message>
         <source>The noise is smaller than one step of the pixel format, which hides small changes of the dark level. Choose a pixel format with more bits, or a higher gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>ノイズがピクセルフォーマットの 1 階調より小さいため、暗時レベルのわずかな変化を検出できません。ビット数の多いピクセルフォーマットを選択するか、ゲインを上げてください。</translation>
     </message>
     <message>
         <source>The features cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>フィーチャーを読み取れません: %1</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはフィーチャー DeviceTemperature がないため、温度を取得できません。</translation>
     </message>
     <message>
         <source>The scene moves, so the regions&apos; shares also change with what they show. Let it stand still to compare the regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体が動いているため、各領域のピーク比は被写体によっても変化します。領域を比較するには、被写体を静止させてください。</translation>
+    </message>
+    <message>
+        <source>The picture is as sharp as it gets. Lock the lens.</source>
+        <translation>ピントは最良の状態です。レンズを固定してください。</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification or the speed.</source>
+        <translation>カメラに設定できる最も近い値では、対象物が %1 % 縦長になります。光学倍率または速度を変更してください。</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification or the speed.</source>
+        <translation>カメラに設定できる最も近い値では、対象物が %1 % 横長になります。光学倍率または速度を変更してください。</translation>
+    </message>
+    <message>
+        <source>The camera has refused a setting, and then also refused to go back to %1: %2</source>
+        <translation>カメラが設定を受け付けず、さらに %1 への復元も受け付けませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The stream has ended during the measurement. Start the live picture and measure again.</source>
+        <translation>計測中に画像の受信が終了しました。ライブ表示を開始して計測し直してください。</translation>
+    </message>
+    <message>
+        <source>The picture shows no border between tap %1 and the other taps. Set the region to the whole sensor, or choose another layout, then measure again.</source>
+        <translation>タップ %1 とほかのタップとの境界が画像にありません。領域をセンサー全体に設定するか、別のタップ構成を選択してから、もう一度計測してください。</translation>
     </message>
 </context>
 <context>
@@ -5135,15 +5147,15 @@ This value belongs to one camera or one moment.</source>
     <name>StepCard</name>
     <message>
         <source>Step %1, not yet possible: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>手順 %1、まだ実行できません: %2</translation>
     </message>
     <message>
         <source>Step %1, next: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>手順 %1、次の手順: %2</translation>
     </message>
     <message>
         <source>Step %1, done: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>手順 %1、完了: %2</translation>
     </message>
 </context>
 <context>
@@ -5312,269 +5324,269 @@ This value belongs to one camera or one moment.</source>
     <name>TapBars</name>
     <message>
         <source>Deviation of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>各タップの偏差</translation>
     </message>
     <message>
         <source>Grey: before; blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>グレー: 変更前、青: 現在</translation>
     </message>
     <message>
         <source>Tap %1: %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ %1: %2 %3</translation>
     </message>
     <message>
         <source>Not measured yet</source>
-        <translation type="unfinished"></translation>
+        <translation>未計測</translation>
     </message>
 </context>
 <context>
     <name>TapPanel</name>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">平均</translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>ノイズ</translation>
     </message>
     <message>
         <source>Mismatch of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ間の差</translation>
     </message>
     <message>
         <source>Skip this step</source>
-        <translation type="unfinished"></translation>
+        <translation>この手順をスキップ</translation>
     </message>
     <message>
         <source>Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>前回の調整を元に戻す</translation>
     </message>
     <message>
         <source>Mean and noise of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>各タップの平均とノイズ</translation>
     </message>
     <message>
         <source>Shading changes the means, so the steps at the borders say how the taps differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>平均はシェーディングの影響を受けるため、タップ間の差は境界の段差で判定します。</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">計測</translation>
+        <translation>計測</translation>
     </message>
     <message>
         <source>Show an even, bright surface that fills the picture, for example a white sheet out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>均一で明るい面 (ピントを外した白紙など) を画面全体に写してください。</translation>
     </message>
     <message>
         <source>Measure the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>タップを計測</translation>
     </message>
     <message>
         <source>Black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>黒レベル</translation>
     </message>
     <message>
         <source>Cover the lens. Without this step, differences of the black levels count as those of the gains.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズを遮光してください。この手順を省くと、黒レベルの差がゲインの差として扱われます。</translation>
     </message>
     <message>
         <source>Balance the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>黒レベルを調整</translation>
     </message>
     <message>
         <source>Gains</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲイン</translation>
     </message>
     <message>
         <source>Uncover the lens and show the even, bright surface again.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズのカバーを外し、均一で明るい面をもう一度写してください。</translation>
     </message>
     <message>
         <source>Balance the gains</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲインを調整</translation>
     </message>
     <message>
         <source>The camera has the new values until it is switched off. Store them in a user set with Camera Setup to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい値は、カメラの電源を切ると失われます。保持するには、Camera Setup でユーザーセットに保存してください。</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存…</translation>
     </message>
     <message>
         <source>The taps differ by up to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ間の差は最大 %1 です。</translation>
+    </message>
+    <message>
+        <source>Keep the values</source>
+        <translation>設定の保持</translation>
     </message>
 </context>
 <context>
     <name>TapReport</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap Balance</translation>
     </message>
     <message>
         <source>Layout of the taps: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ構成: %1</translation>
     </message>
     <message>
         <source>Deviation of each tap; grey: before, blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>各タップの偏差 (グレー: 変更前、青: 現在)</translation>
     </message>
     <message>
         <source>Bright picture</source>
-        <translation type="unfinished"></translation>
+        <translation>明時画像</translation>
     </message>
     <message>
         <source>Dark picture</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時画像</translation>
     </message>
     <message>
         <source>The picture with the borders of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>タップの境界を示した画像</translation>
     </message>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">平均</translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>ノイズ</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished">%1 ~ %2 {1 ?}</translation>
+        <translation>%1 → %2</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ</translation>
     </message>
     <message>
         <source>Step at the border</source>
-        <translation type="unfinished"></translation>
+        <translation>境界の段差</translation>
     </message>
     <message>
         <source>The deviations follow from the steps at the borders, which straight lines on both sides are extended to; shading has no influence. The noise is the temporal standard deviation of a pixel by the differences of successive images (EMVA 1288). The uncertainty of a step is twice its standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差は境界の段差から求めます。段差は、境界の両側に当てはめた直線を境界まで延長して求めるため、シェーディングの影響を受けません。ノイズは、連続する画像の差分から求めたピクセルの時間標準偏差です (EMVA 1288)。段差の不確かさは標準誤差の 2 倍です。</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (変更前)</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished">現在</translation>
+        <translation>現在</translation>
     </message>
 </context>
 <context>
     <name>TapSession</name>
     <message>
         <source>Measuring the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>タップを計測中</translation>
     </message>
     <message>
         <source>Balancing the gains</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲインを調整中</translation>
     </message>
     <message>
         <source>Balancing the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>黒レベルを調整中</translation>
     </message>
     <message>
         <source>Putting the earlier values back</source>
-        <translation type="unfinished"></translation>
+        <translation>以前の値を復元中</translation>
     </message>
 </context>
 <context>
     <name>TapTexts</name>
     <message>
-        <source>values</source>
-        <comment>unit of pixel values</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The mismatch fell from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ間の差が %1 から %2 に減少しました。</translation>
     </message>
     <message>
         <source>The mismatch fell from %1 to %2. The camera offers no finer values.</source>
-        <translation type="unfinished"></translation>
+        <translation>タップ間の差が %1 から %2 に減少しました。カメラではこれ以上細かく設定できません。</translation>
+    </message>
+    <message>
+        <source>DN</source>
+        <comment>unit of pixel values</comment>
+        <translation>階調</translation>
     </message>
 </context>
 <context>
     <name>TapWindow</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tap Balance</translation>
     </message>
     <message>
         <source>The camera has no feature GainSelector, so the gains of its taps cannot be set one by one. Use a flat-field correction instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはフィーチャー GainSelector がないため、タップごとにゲインを設定できません。代わりにフラットフィールド補正を使用してください。</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>前回の調整を元に戻す(&amp;U)</translation>
     </message>
 </context>
 <context>
     <name>TargetOverlay</name>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished">%1 × %2 px</translation>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
     <name>TemperaturePlot</name>
     <message>
-        <source>&amp;Show the last</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Time since the start</source>
-        <translation type="unfinished"></translation>
+        <translation>開始からの時間</translation>
     </message>
     <message>
         <source>Temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>温度 (°C)</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベル</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">警告</translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>アラーム</translation>
     </message>
     <message>
         <source>Final value of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の最終値</translation>
     </message>
     <message>
         <source>Dark level follows</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベルの追従開始</translation>
+    </message>
+    <message>
+        <source>Show the &amp;last</source>
+        <translation>表示期間(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -5594,273 +5606,273 @@ This value belongs to one camera or one moment.</source>
     <name>ThermalPanel</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Notify me</source>
-        <translation type="unfinished"></translation>
+        <translation>通知</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished">対数</translation>
+        <translation>ログ</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベル</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"> s</translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Read &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り間隔(&amp;E)</translation>
     </message>
     <message>
         <source>Start a&amp;new</source>
-        <translation type="unfinished"></translation>
+        <translation>最初から(&amp;N)</translation>
     </message>
     <message>
         <source>Forgets the readings and begins again. A running log goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>測定値を消去して最初から始めます。実行中のログは継続します。</translation>
     </message>
 </context>
 <context>
     <name>ThermalReport</name>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Thermal Monitor</translation>
     </message>
     <message>
         <source>Readings since %1 (UTC).</source>
-        <translation type="unfinished"></translation>
+        <translation>測定開始: %1 (UTC)。</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>測定箇所</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Expected final value in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>予測最終値 (°C)</translation>
     </message>
     <message>
         <source>Time constant</source>
-        <translation type="unfinished"></translation>
+        <translation>時定数</translation>
     </message>
     <message>
         <source>Steady in</source>
-        <translation type="unfinished"></translation>
+        <translation>安定まで</translation>
     </message>
     <message>
         <source>The final value belongs to an exponential curve through the readings; the uncertainty is twice the standard deviation. Steady means within 0.5 K of the final value, or a change of less than 0.1 K per minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>最終値は、測定値に当てはめた指数曲線から求めます。不確かさは標準偏差の 2 倍です。最終値との差が 0.5 K 以内、または変化が毎分 0.1 K 未満の状態を「安定」とします。</translation>
     </message>
     <message>
         <source>Temperatures over time</source>
-        <translation type="unfinished"></translation>
+        <translation>温度の推移</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベル</translation>
     </message>
     <message>
         <source>Dark level over time</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベルの推移</translation>
     </message>
 </context>
 <context>
     <name>ThermalSession</name>
     <message>
         <source>The camera has not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラからまだ読み取られていません。</translation>
     </message>
 </context>
 <context>
     <name>ThermalTexts</name>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>10 min</source>
-        <translation type="unfinished"></translation>
+        <translation>10 分</translation>
     </message>
     <message>
         <source>1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>1 時間</translation>
     </message>
     <message>
         <source>24 h</source>
-        <translation type="unfinished"></translation>
+        <translation>24 時間</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished">カメラ</translation>
+        <translation>カメラ</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 分</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 時間</translation>
     </message>
     <message>
         <source>Cannot be read at present</source>
-        <translation type="unfinished"></translation>
+        <translation>現在は読み取り不可</translation>
     </message>
     <message>
         <source>Rate and state are known in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>変化率と状態は %1後に判明します。</translation>
     </message>
     <message>
         <source>Warming up, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>昇温中、%1 K/min</translation>
     </message>
     <message>
         <source>Cooling, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>降温中、%1 K/min</translation>
     </message>
     <message>
         <source>Steady, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>安定、%1 K/min</translation>
     </message>
     <message>
         <source>The temperature does not change any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>温度の変化は収まりました。</translation>
     </message>
     <message>
         <source>The final value is not determined yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>最終値はまだ求められていません。</translation>
     </message>
     <message>
         <source>Expected final value: %1 °C ± %2 K</source>
-        <translation type="unfinished"></translation>
+        <translation>予測最終値: %1 °C ± %2 K</translation>
     </message>
     <message>
         <source>%1, steady in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、安定まで %2</translation>
     </message>
     <message>
         <source>Alarm: %1 has reached %2. Cool the camera or let it work less.</source>
-        <translation type="unfinished"></translation>
+        <translation>アラーム: %1 が %2 に達しました。カメラを冷却するか、負荷を下げてください。</translation>
     </message>
     <message>
         <source>Warning: %1 is at %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>警告: %1 が %2 です。</translation>
     </message>
     <message>
         <source>%1 is below the thresholds again: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 がしきい値未満に戻りました: %2。</translation>
     </message>
     <message>
         <source>Dark level: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベル: %1</translation>
     </message>
     <message>
         <source>Dark level: %1 (noise %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベル: %1 (ノイズ %2)</translation>
     </message>
     <message>
         <source>The dark level has followed the temperature since %1 after the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベルは、開始 %1後から温度に追従しています。</translation>
     </message>
     <message>
         <source>The dark level has not changed by more than its noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗時レベルにノイズを超える変化はありません。</translation>
     </message>
     <message>
         <source>The dark signal doubles every %1 ± %2 K.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗信号は %1 ± %2 K ごとに 2 倍になります。</translation>
     </message>
     <message>
         <source>The doubling temperature is not determined yet; the temperature has to change more.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗信号が 2 倍になる温度差はまだ求められていません。温度のさらなる変化が必要です。</translation>
     </message>
 </context>
 <context>
     <name>ThermalWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Thermal Monitor</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature. The data sheet says whether a newer firmware does.</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラにはフィーチャー DeviceTemperature がないため、温度を取得できません。新しいファームウェアで対応しているかどうかは、データシートで確認してください。</translation>
     </message>
 </context>
 <context>
     <name>ThresholdBox</name>
     <message>
         <source>&amp;Warning at</source>
-        <translation type="unfinished"></translation>
+        <translation>警告温度(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Alarm at</source>
-        <translation type="unfinished"></translation>
+        <translation>アラーム温度(&amp;A)</translation>
     </message>
     <message>
         <source> K</source>
-        <translation type="unfinished"></translation>
+        <translation> K</translation>
     </message>
     <message>
         <source>A warning or an alarm ends when the temperature is so far below its threshold again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>En&amp;ds below by</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The program notifies you, also while its window is behind others, when a place gets so warm.</source>
-        <translation type="unfinished"></translation>
+        <translation>警告またはアラームは、温度がしきい値をこの値だけ下回ると解除されます。</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>Ends &amp;below by</source>
+        <translation>ヒステリシス(&amp;B)</translation>
+    </message>
+    <message>
+        <source>The program notifies you, also while its window is behind others, when a place gets this warm.</source>
+        <translation>測定箇所がこの温度に達すると、ウィンドウが背面にあっても通知します。</translation>
     </message>
 </context>
 <context>
     <name>ThresholdControl</name>
     <message>
         <source>How far a pixel deviates from its neighbours before it counts as a defect, in standard deviations of the good pixels. At 6 σ, less than one good pixel per megapixel is taken for a defect.</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルが周辺ピクセルからどれだけ外れると欠陥とみなすかを、正常ピクセルの標準偏差を単位として指定します。6 σ では、正常ピクセルが欠陥と判定されるのは 1 メガピクセルあたり 1 個未満です。</translation>
     </message>
     <message>
         <source>&amp;Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>しきい値(&amp;T)</translation>
     </message>
     <message>
         <source>Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>しきい値</translation>
     </message>
     <message>
         <source> σ</source>
-        <translation type="unfinished"></translation>
+        <translation> σ</translation>
     </message>
 </context>
 <context>
@@ -6420,7 +6432,7 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>&amp;Corrections…</source>
-        <translation type="unfinished"></translation>
+        <translation>補正(&amp;C)…</translation>
     </message>
 </context>
 <context>
@@ -6499,11 +6511,11 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Not corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>補正なし</translation>
     </message>
     <message>
         <source>Corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>補正済み</translation>
     </message>
 </context>
 <context>

@@ -2,72 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko">
 <context>
-    <name></name>
-    <message>
-        <source>Flat Field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Non-uniformity by EMVA 1288 release 4.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean of the columns</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A picture as the camera sends it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The same picture, corrected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The gains: the brighter, the higher</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AssistantWindow</name>
     <message>
         <source>The result was saved to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>결과를 ‘%1’에 저장했습니다.</translation>
     </message>
     <message>
         <source>Press F5 to see the live picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지를 보려면 F5 키를 누르십시오.</translation>
     </message>
     <message>
         <source>&amp;Result</source>
-        <translation type="unfinished"></translation>
+        <translation>결과(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">카메라(&amp;C)</translation>
+        <translation>카메라(&amp;C)</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished">이미지 뷰어에서 열기(&amp;I)</translation>
+        <translation>이미지 뷰어에서 열기(&amp;I)</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Cancel the measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 취소</translation>
     </message>
 </context>
 <context>
     <name>BigNumber</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -338,7 +311,7 @@
     <name>CameraSettings</name>
     <message>
         <source>Camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 설정</translation>
     </message>
 </context>
 <context>
@@ -684,163 +657,163 @@
     <name>CorrectionDialog</name>
     <message>
         <source>&amp;Correct the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 보정(&amp;C)</translation>
     </message>
     <message>
         <source>Corrections</source>
-        <translation type="unfinished"></translation>
+        <translation>보정</translation>
     </message>
     <message>
         <source>&amp;Defect map:</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀 맵(&amp;D):</translation>
     </message>
     <message>
         <source>Choose a defect map</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀 맵 선택</translation>
     </message>
     <message>
         <source>Defect maps (*.json *.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀 맵 (*.json *.csv);;모든 파일 (*)</translation>
     </message>
     <message>
         <source>&amp;Flat field:</source>
-        <translation type="unfinished"></translation>
+        <translation>플랫 필드(&amp;F):</translation>
     </message>
     <message>
         <source>Choose a flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>플랫 필드 선택</translation>
     </message>
     <message>
         <source>Flat fields (*.tif *.tiff);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>플랫 필드 (*.tif *.tiff);;모든 파일 (*)</translation>
     </message>
     <message>
         <source>The correction applies to the shown pictures, to PNG and TIFF files and to TIFF recordings. Raw files, videos and measured values stay those of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>보정은 표시되는 이미지, PNG 및 TIFF 파일, TIFF 녹화에 적용됩니다. 원시 파일, 동영상, 측정값에는 카메라가 보낸 값이 그대로 유지됩니다.</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>선택…</translation>
     </message>
     <message>
         <source>The pictures are not corrected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 보정되지 않습니다: %1.</translation>
     </message>
     <message>
         <source>The pictures are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 보정됩니다.</translation>
     </message>
 </context>
 <context>
     <name>DarkBox</name>
     <message>
         <source>Cover the lens, and choose a long exposure and a pixel format with many bits in the camera settings. Then measure while the camera warms up.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈를 가리고 카메라 설정에서 긴 노출과 비트 수가 많은 픽셀 포맷을 선택하십시오. 그런 다음 카메라가 예열되는 동안 측정하십시오.</translation>
     </message>
     <message>
         <source>Stop measuring the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨 측정 중지(&amp;D)</translation>
     </message>
     <message>
         <source>Measure the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨 측정(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>DefectList</name>
     <message>
         <source>Columns %1 to %2, lines %3 to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>열 %1~%2, 행 %3~%4</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>종류</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">열</translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">행</translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>편차</translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>픽셀 %n개</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 σ</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 σ</translation>
     </message>
 </context>
 <context>
     <name>DefectTexts</name>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>핫 픽셀</translation>
     </message>
     <message>
         <source>Dead</source>
-        <translation type="unfinished"></translation>
+        <translation>데드 픽셀</translation>
     </message>
     <message>
         <source>Stuck</source>
-        <translation type="unfinished"></translation>
+        <translation>고착 픽셀</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>점멸 픽셀</translation>
     </message>
     <message>
         <source>Deviating</source>
-        <translation type="unfinished"></translation>
+        <translation>감도 이상</translation>
     </message>
     <message>
         <source>Too bright in the dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>어두운 상태에서 너무 밝습니다.</translation>
     </message>
     <message>
         <source>Hardly reacts to light.</source>
-        <translation type="unfinished"></translation>
+        <translation>빛에 거의 반응하지 않습니다.</translation>
     </message>
     <message>
         <source>Always has the same value.</source>
-        <translation type="unfinished"></translation>
+        <translation>항상 같은 값입니다.</translation>
     </message>
     <message>
         <source>Changes between levels from image to image.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지마다 레벨이 바뀝니다.</translation>
     </message>
     <message>
         <source>Reacts to light much more or less than its neighbours.</source>
-        <translation type="unfinished"></translation>
+        <translation>빛에 대한 반응이 주변 픽셀보다 훨씬 크거나 작습니다.</translation>
     </message>
     <message>
         <source>Cluster</source>
-        <translation type="unfinished"></translation>
+        <translation>클러스터</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">열</translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">행</translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>No defect pixels were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀이 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n defect pixel(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>불량 픽셀 %n개를 찾았습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -1053,23 +1026,23 @@ This value belongs to one camera or one moment.</source>
     <name>DurationScale</name>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1분</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1시간</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1시간 %2분</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1초</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1일</translation>
     </message>
 </context>
 <context>
@@ -1746,203 +1719,230 @@ This value belongs to one camera or one moment.</source>
     <name>FlatFieldPanel</name>
     <message>
         <source>Shading before</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 전 셰이딩</translation>
     </message>
     <message>
         <source>Shading after</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 후 셰이딩</translation>
     </message>
     <message>
         <source>Show the picture corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>보정된 이미지 표시</translation>
     </message>
     <message>
         <source>Dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지</translation>
     </message>
     <message>
         <source>Cover the lens completely. The images show the offset of each pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈를 완전히 가리십시오. 이 이미지에서 픽셀별 오프셋을 구합니다.</translation>
     </message>
     <message>
         <source>Take dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지 촬영</translation>
     </message>
     <message>
         <source>Bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지</translation>
     </message>
     <message>
         <source>Uncover the lens, and point the camera at an evenly lit surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈 덮개를 벗기고 카메라가 균일하게 조명된 표면을 향하게 한 다음 초점을 흐리게 하십시오.</translation>
     </message>
     <message>
         <source>Take bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지 촬영</translation>
     </message>
     <message>
         <source>Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>보정</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl apply the file to every picture of this camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 뷰어와 cvxctl에서 이 카메라의 모든 이미지에 이 파일을 적용할 수 있습니다.</translation>
     </message>
     <message>
         <source>Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 데이터 저장…</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 수</translation>
     </message>
     <message>
         <source>Images: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dark images, and bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 수: </translation>
     </message>
     <message>
         <source>Sets the exposure time so that the bright images have about 70 % of the range, and puts it back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지의 밝기가 값 범위의 약 70 %가 되도록 노출 시간을 설정하고, 이후 원래 값으로 되돌립니다.</translation>
     </message>
     <message>
         <source>Correct every pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 픽셀 보정</translation>
     </message>
     <message>
         <source>Correct the shading only</source>
-        <translation type="unfinished"></translation>
+        <translation>셰이딩만 보정</translation>
     </message>
     <message>
         <source>What is corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 대상</translation>
     </message>
     <message>
         <source>The shading only: the gain changes smoothly over the picture, which adds no noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>셰이딩만 보정: 게인이 이미지 전체에서 완만하게 변하므로 노이즈가 늘지 않습니다.</translation>
     </message>
     <message>
         <source>Keep the mean brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>평균 밝기 유지</translation>
     </message>
     <message>
         <source>Raise to the brightest place</source>
-        <translation type="unfinished"></translation>
+        <translation>가장 밝은 곳에 맞춤</translation>
     </message>
     <message>
         <source>Brightness after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 후 밝기</translation>
     </message>
     <message>
         <source>Raised to the brightest place, no gain is below 1: what is clipped stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>가장 밝은 곳에 맞추면 모든 게인이 1 이상이므로 클리핑된 부분은 흰색으로 유지됩니다.</translation>
     </message>
     <message>
         <source>Non-uniformity before and after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 전후의 불균일성</translation>
     </message>
     <message>
         <source>DSNU: differences of the pixels in the dark. PRNU: differences of their sensitivity. By EMVA 1288 release 4.0, without the temporal noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>DSNU: 어두운 상태에서의 픽셀 간 차이. PRNU: 픽셀 간 감도 차이. EMVA 1288 릴리스 4.0에 따르며 시간적 노이즈는 제외합니다.</translation>
     </message>
     <message>
         <source>Mean of the columns, before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 전후의 열 평균</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">열</translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>% of the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>평균 대비 %</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 전</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The dark images are taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 후</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
-        <translation type="unfinished">‘%1’(으)로 저장했습니다.</translation>
+        <translation>‘%1’(으)로 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Set the exposure time automatically</source>
+        <translation>노출 시간 자동 설정</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
+        <translation>다크 이미지와 밝은 이미지 각각의 수입니다. 많을수록 보정에 남는 노이즈가 줄어듭니다. 보정을 검증하기 위해 그 절반만큼을 추가로 촬영합니다.</translation>
+    </message>
+    <message>
+        <source>The dark images were taken.</source>
+        <translation>다크 이미지를 촬영했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldReport</name>
+    <message>
+        <source>Flat Field</source>
+        <translation>플랫 필드 보정</translation>
+    </message>
+    <message>
+        <source>Non-uniformity by EMVA 1288 release 4.0</source>
+        <translation>EMVA 1288 릴리스 4.0에 따른 불균일성</translation>
+    </message>
+    <message>
+        <source>Mean of the columns</source>
+        <translation>열 평균</translation>
+    </message>
+    <message>
+        <source>A picture as the camera sends it</source>
+        <translation>카메라가 전송한 이미지</translation>
+    </message>
+    <message>
+        <source>The same picture, corrected</source>
+        <translation>같은 이미지(보정 후)</translation>
+    </message>
+    <message>
+        <source>The gains: the brighter, the higher</source>
+        <translation>게인: 밝을수록 높음</translation>
     </message>
 </context>
 <context>
     <name>FlatFieldTexts</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 DN</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 DN</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished">알 수 없음</translation>
+        <translation>알 수 없음</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 전</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 후</translation>
     </message>
     <message>
         <source>Shading</source>
-        <translation type="unfinished"></translation>
+        <translation>셰이딩</translation>
     </message>
     <message>
         <source>… without shading</source>
-        <translation type="unfinished"></translation>
+        <translation>… 셰이딩 제외</translation>
     </message>
     <message>
         <source>… in electrons</source>
-        <translation type="unfinished"></translation>
+        <translation>… 전자 수 환산</translation>
     </message>
     <message>
         <source>The picture is even: its shading is only %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 균일합니다. 셰이딩은 %1에 불과합니다.</translation>
     </message>
     <message>
         <source>The correction reduces the shading from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 결과 셰이딩이 %1에서 %2(으)로 줄어듭니다.</translation>
     </message>
     <message>
         <source>%1; gains from %2 to %3; bright images at %4 of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; 게인 %2~%3; 밝은 이미지의 밝기: 범위의 %4.</translation>
     </message>
     <message numerus="yes">
         <source>The numbers after the correction are those of %n other image(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>보정 후 수치는 별도의 이미지 %n장으로 구한 것입니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>편차가 큰 픽셀 %n개에는 주변 픽셀의 게인을 적용했습니다. 이 픽셀은 픽셀 보정(Pixel Repair)에서 대체할 수 있습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The gain of %n pixel(s) was limited.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>픽셀 %n개의 게인을 제한했습니다.</numerusform>
         </translation>
     </message>
 </context>
@@ -1950,239 +1950,235 @@ This value belongs to one camera or one moment.</source>
     <name>FlatFieldWindow</name>
     <message>
         <source>Flat Field</source>
-        <translation type="unfinished"></translation>
+        <translation>플랫 필드 보정</translation>
     </message>
     <message>
         <source>The camera does not say its pixel format (PixelFormat), so its values cannot be corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 픽셀 포맷(PixelFormat)을 알려 주지 않아 값을 보정할 수 없습니다.</translation>
     </message>
     <message>
         <source>&amp;Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 데이터 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지 촬영 중</translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지 촬영 중</translation>
     </message>
 </context>
 <context>
     <name>FocusPanel</name>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>피크 대비 비율</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Before now</source>
-        <translation type="unfinished"></translation>
+        <translation>선명도</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Regions per direction</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 1분간의 선명도</translation>
     </message>
     <message>
         <source>&amp;Forget the peaks</source>
-        <translation type="unfinished"></translation>
+        <translation>피크 초기화(&amp;F)</translation>
     </message>
     <message>
         <source>Begins again, for example because the camera looks at something else.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 다른 대상을 볼 때 등에 측정을 새로 시작합니다.</translation>
     </message>
     <message>
         <source>Point the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 방향 맞추기</translation>
     </message>
     <message>
         <source>It looks at something with edges all over the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 전체에 에지가 있는 대상을 비추십시오.</translation>
     </message>
     <message>
         <source>Find the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 초점 찾기</translation>
     </message>
     <message>
         <source>Search &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>자동 검색(&amp;A)</translation>
     </message>
     <message>
         <source>Read the tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>기울기 판정</translation>
     </message>
     <message>
         <source>The order in which the regions become sharp says how the focus is tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>영역들이 선명해지는 순서로 초점면의 기울기를 판정합니다.</translation>
     </message>
     <message>
         <source>Read the &amp;tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>기울기 판정(&amp;T)</translation>
     </message>
     <message>
         <source>Moves the lens through its range and leaves it at the best position. Cancelling puts it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈를 전체 범위에서 움직인 뒤 최적 위치에 둡니다. 취소하면 원래 위치로 되돌립니다.</translation>
     </message>
     <message>
         <source>Nothing was measured yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 측정하지 않았습니다.</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>of the peak. Sharpness %1, peak %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>피크 대비 비율. 선명도 %1, 피크 %2.</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>피크</translation>
     </message>
     <message>
         <source>Search the best position, or turn the lens slowly through the sharpest position.</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치를 자동 검색하거나, 가장 선명한 위치를 지나도록 렌즈를 천천히 돌리십시오.</translation>
     </message>
     <message>
         <source>Turn the lens slowly through the sharpest position, then back to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>가장 선명한 위치를 지나도록 렌즈를 천천히 돌린 다음 그 위치로 되돌리십시오.</translation>
+    </message>
+    <message>
+        <source>Time before now</source>
+        <translation>현재 기준 시간</translation>
+    </message>
+    <message>
+        <source>Re&amp;gions per direction</source>
+        <translation>방향별 영역 수(&amp;G)</translation>
     </message>
 </context>
 <context>
     <name>FocusReport</name>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>초점 도우미</translation>
     </message>
     <message>
         <source>Sharpness %1, which is %2 of the peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>선명도 %1(피크의 %2).</translation>
     </message>
     <message>
         <source>Share of the peak of each region</source>
-        <translation type="unfinished"></translation>
+        <translation>영역별 피크 대비 비율</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 1분간의 선명도</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>영역</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished">행</translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">열</translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>선명도</translation>
     </message>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>피크 대비 비율</translation>
     </message>
     <message>
         <source>Best position</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치</translation>
     </message>
     <message>
         <source>Sharp at (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>선명해진 시점(초)</translation>
     </message>
     <message>
         <source>Share at the best position</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치에서의 비율</translation>
     </message>
     <message>
         <source>The sharpness is the energy of the differences between neighbouring pixels, divided by the squared brightness, without the part of the noise. Exposure and gain do not change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>선명도는 이웃 픽셀 간 차이의 에너지에서 노이즈 성분을 빼고 밝기의 제곱으로 나눈 값입니다. 노출과 게인의 영향을 받지 않습니다.</translation>
     </message>
 </context>
 <context>
     <name>FocusTexts</name>
     <message>
         <source>Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 끝</translation>
     </message>
     <message>
         <source>Right end</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 끝</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 위</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 위</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 아래</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 아래</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>no edges</source>
-        <translation type="unfinished"></translation>
+        <translation>에지 없음</translation>
     </message>
     <message>
         <source>too dark</source>
-        <translation type="unfinished"></translation>
+        <translation>너무 어두움</translation>
     </message>
     <message>
         <source>overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>노출 과다</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Shares of their peaks at the best position: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치에서의 피크 대비 비율: %1.</translation>
     </message>
 </context>
 <context>
     <name>FocusWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>초점 도우미</translation>
     </message>
     <message>
         <source>Searching the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 초점 검색 중</translation>
     </message>
 </context>
 <context>
@@ -2353,27 +2349,27 @@ This value belongs to one camera or one moment.</source>
     <name>HtmlReport</name>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>제조사</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">모델</translation>
+        <translation>모델</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished">시리얼 번호</translation>
+        <translation>시리얼 번호</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">이름</translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>Settings of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 설정</translation>
     </message>
     <message>
         <source>Created by Corvix X, version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corvix X 버전 %1에서 작성했습니다.</translation>
     </message>
 </context>
 <context>
@@ -2395,119 +2391,119 @@ This value belongs to one camera or one moment.</source>
     <name>InputsForm</name>
     <message>
         <source>&amp;Lines come from</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 소스(&amp;L)</translation>
     </message>
     <message>
         <source>the camera&apos;s line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 라인 속도</translation>
     </message>
     <message>
         <source>an encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>엔코더</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>속도(&amp;S)</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Speed of the object. With an encoder: the highest speed, for which the limits are checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물의 속도입니다. 엔코더를 사용하는 경우 한계를 검사할 최고 속도를 입력하십시오.</translation>
     </message>
     <message>
         <source>&amp;Encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>엔코더(&amp;E)</translation>
     </message>
     <message>
         <source>movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>펄스당 이동량</translation>
     </message>
     <message>
         <source>pulses and roller</source>
-        <translation type="unfinished"></translation>
+        <translation>펄스 수와 롤러</translation>
     </message>
     <message>
         <source>&amp;Movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>펄스당 이동량(&amp;M)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Movement of the object for one pulse, that is one cycle of one signal of the encoder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pulses per &amp;revolution</source>
-        <translation type="unfinished"></translation>
+        <translation>펄스 하나, 즉 엔코더 신호 한 상의 한 주기 동안 대상물이 이동하는 거리입니다.</translation>
     </message>
     <message>
         <source>Number of pulses that the encoder sends while its roller turns once.</source>
-        <translation type="unfinished"></translation>
+        <translation>롤러가 한 바퀴 도는 동안 엔코더가 출력하는 펄스 수입니다.</translation>
     </message>
     <message>
         <source>Roller &amp;diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>롤러 지름(&amp;D)</translation>
     </message>
     <message>
         <source>Diameter of the roller or wheel that turns the encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>엔코더를 돌리는 롤러 또는 휠의 지름입니다.</translation>
     </message>
     <message>
         <source>Size of a &amp;pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 크기(&amp;P)</translation>
     </message>
     <message>
         <source>from sensor and lens</source>
-        <translation type="unfinished"></translation>
+        <translation>센서와 렌즈로 계산</translation>
     </message>
     <message>
         <source>known on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물 기준으로 입력</translation>
     </message>
     <message>
         <source>Pi&amp;xel of the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>센서 픽셀(&amp;X)</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Width of a pixel of the sensor; the data sheet names it.</source>
-        <translation type="unfinished"></translation>
+        <translation>센서의 픽셀 너비입니다. 데이터시트에 나와 있습니다.</translation>
     </message>
     <message>
         <source>Ma&amp;gnification</source>
-        <translation type="unfinished"></translation>
+        <translation>배율(&amp;G)</translation>
     </message>
     <message>
         <source>Size of the image on the sensor divided by the size of the object, for example 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>센서에 맺힌 상의 크기를 대상물의 크기로 나눈 값입니다(예: 0.5).</translation>
     </message>
     <message>
         <source>Pixel &amp;on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물 픽셀(&amp;O)</translation>
     </message>
     <message>
         <source>Width of the object that one pixel of the picture shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 픽셀 하나에 해당하는 대상물의 너비입니다.</translation>
     </message>
     <message>
         <source>Use the longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 노출 사용</translation>
     </message>
     <message>
         <source>Otherwise, the exposure is only shortened if it does not fit into a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>선택하지 않으면 노출이 한 라인에 들어가지 않을 때만 노출을 줄입니다.</translation>
     </message>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>입력 안 함</translation>
+    </message>
+    <message>
+        <source>Pulses per re&amp;volution</source>
+        <translation>회전당 펄스 수(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -2528,67 +2524,67 @@ This value belongs to one camera or one moment.</source>
     <name>LayoutBox</name>
     <message>
         <source>As the camera says</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 정보 사용</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>수동</translation>
     </message>
     <message>
         <source>Taps:</source>
-        <translation type="unfinished"></translation>
+        <translation>탭:</translation>
     </message>
     <message>
         <source>Side by side:</source>
-        <translation type="unfinished"></translation>
+        <translation>가로 배열:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 띠 영역(왼쪽에서 오른쪽)</translation>
     </message>
     <message>
         <source>One above the other:</source>
-        <translation type="unfinished"></translation>
+        <translation>세로 배열:</translation>
     </message>
     <message>
         <source>Stripes of the picture, from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 띠 영역(위에서 아래)</translation>
     </message>
     <message>
         <source>Neighbouring columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>이웃 열:</translation>
     </message>
     <message>
         <source>Taps that read the columns of a stripe in turn; 1 if a stripe has one tap</source>
-        <translation type="unfinished"></translation>
+        <translation>한 띠 영역의 열을 번갈아 읽는 탭 수. 띠 영역에 탭이 하나이면 1</translation>
     </message>
     <message>
         <source>Mean of all taps</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 탭의 평균</translation>
     </message>
     <message>
         <source>Tap 1</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 1</translation>
     </message>
     <message>
         <source>Compare with:</source>
-        <translation type="unfinished"></translation>
+        <translation>비교 기준:</translation>
     </message>
     <message>
         <source>Images of each measurement; more images make the numbers more certain</source>
-        <translation type="unfinished"></translation>
+        <translation>측정당 이미지 수. 많을수록 수치가 정확해집니다</translation>
     </message>
     <message>
         <source>Images:</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 수:</translation>
     </message>
     <message>
         <source>Camera: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라: %1</translation>
     </message>
     <message>
-        <source>The camera does not say it</source>
-        <translation type="unfinished"></translation>
+        <source>Not reported by the camera</source>
+        <translation>카메라가 알려 주지 않음</translation>
     </message>
 </context>
 <context>
@@ -2622,19 +2618,19 @@ This value belongs to one camera or one moment.</source>
     <name>LevelBar</name>
     <message>
         <source>Brightness of the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지의 밝기</translation>
     </message>
     <message>
         <source>%1 % of the range; 50 to 80 % is good</source>
-        <translation type="unfinished"></translation>
+        <translation>범위의 %1 %, 적정 범위 50~80 %</translation>
     </message>
     <message>
         <source>%1 % of the values are clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>값의 %1 %가 클리핑됨</translation>
     </message>
     <message>
         <source>There is no picture.</source>
-        <translation type="unfinished">이미지가 없습니다.</translation>
+        <translation>이미지가 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -2656,266 +2652,266 @@ This value belongs to one camera or one moment.</source>
     <name>LineScanReport</name>
     <message>
         <source>Speed of the object</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물의 속도</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Movement per encoder pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>엔코더 펄스당 이동량</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물 픽셀</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Line rate for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>정사각 픽셀의 라인 속도</translation>
     </message>
     <message>
         <source>Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>Hz</translation>
     </message>
     <message>
         <source>Lines per pulse for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>정사각 픽셀의 펄스당 라인 수</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 노출</translation>
     </message>
     <message>
         <source>µs</source>
-        <translation type="unfinished"></translation>
+        <translation>µs</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>최고 속도</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>잔여 오차</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 스캔 조정</translation>
     </message>
     <message>
         <source>Round target</source>
-        <translation type="unfinished"></translation>
+        <translation>원형 타깃</translation>
     </message>
     <message>
         <source>First measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>첫 측정</translation>
     </message>
     <message>
         <source>Last measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 측정</translation>
     </message>
     <message>
         <source>Height to width</source>
-        <translation type="unfinished"></translation>
+        <translation>높이/너비 비율</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>편차</translation>
     </message>
     <message>
         <source>Turn of the camera (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 회전(°)</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 수</translation>
     </message>
     <message>
         <source>The picture at the time of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>보고서 작성 시점의 이미지</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">라인 속도</translation>
+        <translation>라인 속도</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>항목</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">값</translation>
+        <translation>값</translation>
     </message>
     <message>
         <source>Written settings</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 쓴 설정</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>이전</translation>
     </message>
 </context>
 <context>
     <name>LineScanWindow</name>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 스캔 조정</translation>
     </message>
     <message>
         <source>This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no encoder. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라는 에어리어 카메라로, 라인 속도(AcquisitionLineRate)와 엔코더 기능이 없습니다. 움직이는 대상물을 한 라인씩 촬영하는 라인 스캔 카메라를 선택하십시오.</translation>
     </message>
     <message>
         <source>Do the &amp;next step</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 단계 실행(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Enter</translation>
     </message>
     <message>
         <source>Do the next step</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 단계 실행</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장</translation>
     </message>
     <message>
         <source>No round target was found yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 원형 타깃을 찾지 못했습니다.</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장…</translation>
     </message>
     <message>
         <source>the largest</source>
-        <translation type="unfinished"></translation>
+        <translation>가장 큰 것</translation>
     </message>
     <message>
         <source>the one that I click</source>
-        <translation type="unfinished"></translation>
+        <translation>클릭한 것</translation>
     </message>
     <message>
         <source>in the columns that I draw</source>
-        <translation type="unfinished"></translation>
+        <translation>그린 열 범위 안</translation>
     </message>
     <message>
         <source>Which disc or ring is measured. The picture rolls, so only the columns count.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정할 원판 또는 링을 지정합니다. 이미지가 계속 흐르므로 열 위치만 고려합니다.</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>타깃(&amp;T)</translation>
     </message>
     <message>
         <source>Look for the target in the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지에서 타깃 찾기</translation>
     </message>
     <message>
         <source>The picture stands still for a moment where a target was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>타깃을 찾으면 이미지가 잠시 멈춥니다.</translation>
     </message>
     <message>
         <source>Describe the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>장비 정보 입력</translation>
     </message>
     <message>
         <source>Pixels are square if the camera takes one line while the object moves by one pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물이 픽셀 하나만큼 이동하는 동안 카메라가 한 라인을 촬영하면 픽셀이 정사각형이 됩니다.</translation>
     </message>
     <message>
         <source>Set the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 설정</translation>
     </message>
     <message>
         <source>This follows from the machine and from the limits of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>장비 정보와 카메라의 한계로 계산한 값입니다.</translation>
     </message>
     <message>
         <source>Write the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 쓰기</translation>
     </message>
     <message>
         <source>Undo what was written</source>
-        <translation type="unfinished"></translation>
+        <translation>쓴 설정 되돌리기</translation>
     </message>
     <message>
         <source>Measure a round target</source>
-        <translation type="unfinished"></translation>
+        <translation>원형 타깃 측정</translation>
     </message>
     <message>
         <source>Let a dark or bright disc or ring move under the camera. It must be complete in one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>어둡거나 밝은 원판 또는 링이 카메라 아래를 지나가게 하십시오. 한 이미지에 전체가 들어와야 합니다.</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">측정</translation>
+        <translation>측정</translation>
     </message>
     <message>
         <source>Make it round</source>
-        <translation type="unfinished"></translation>
+        <translation>원형으로 맞추기</translation>
     </message>
     <message>
         <source>Correct the rate</source>
-        <translation type="unfinished"></translation>
+        <translation>속도 보정</translation>
     </message>
     <message>
         <source>The target in the live picture is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지의 타깃이 원형입니다.</translation>
     </message>
     <message>
         <source>The target in the live picture is too tall.</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지의 타깃이 세로로 깁니다.</translation>
     </message>
     <message>
         <source>The target in the live picture is too flat.</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브 이미지의 타깃이 세로로 짧습니다.</translation>
     </message>
     <message>
         <source>The line rate, or the ratio of the encoder, is multiplied with width / height of the target.</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 속도 또는 엔코더 비율에 타깃의 너비/높이를 곱합니다.</translation>
     </message>
     <message>
         <source>The camera is turned by %1° against the movement.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 이동 방향에 대해 %1° 돌아가 있습니다.</translation>
     </message>
     <message>
         <source>The camera has accepted the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 설정이 적용되었습니다.</translation>
     </message>
     <message>
         <source>Measuring the target</source>
-        <translation type="unfinished"></translation>
+        <translation>타깃 측정 중</translation>
     </message>
     <message>
         <source>Reading the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정을 읽는 중</translation>
     </message>
 </context>
 <context>
@@ -3238,31 +3234,31 @@ This value belongs to one camera or one moment.</source>
     <name>LogBox</name>
     <message>
         <source>Appends each reading to a CSV file until you stop it. A file of the same camera is continued.</source>
-        <translation type="unfinished"></translation>
+        <translation>중지할 때까지 측정값을 CSV 파일에 추가합니다. 같은 카메라의 파일이면 이어서 기록합니다.</translation>
     </message>
     <message>
         <source>Log the temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>온도 기록</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV 표 (*.csv)</translation>
     </message>
     <message>
         <source>Stop the &amp;log</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 중지(&amp;L)</translation>
     </message>
     <message>
         <source>Start a &amp;log…</source>
-        <translation type="unfinished"></translation>
+        <translation>기록 시작(&amp;L)…</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기록: %1</translation>
     </message>
     <message>
         <source>The readings are not logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정값을 기록하고 있지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -3302,101 +3298,101 @@ This value belongs to one camera or one moment.</source>
     <name>Measure</name>
     <message>
         <source>The brightness changed by %1 % while the bright images were taken. Use a steady light, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지를 촬영하는 동안 밝기가 %1 % 변했습니다. 안정된 조명을 사용하여 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>Something moved while the bright images were taken. Point the camera at an evenly lit surface without objects, keep it still, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지를 촬영하는 동안 움직임이 있었습니다. 카메라가 물체 없이 균일하게 조명된 표면을 향하게 고정한 다음 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>The bright images show a scene. Point the camera at an evenly lit surface without objects, for example white paper close to the lens and out of focus, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지에 장면이 찍혔습니다. 카메라가 물체 없이 균일하게 조명된 표면(예: 렌즈 가까이에 두어 초점이 흐려진 흰 종이)을 향하게 한 다음 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is too long. Cover the lens, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지의 밝기가 최댓값의 %1 %입니다. 센서에 빛이 들어오거나 노출이 너무 깁니다. 렌즈를 가리고 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>The dark images show something: light reaches the sensor. Cover the lens completely, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지에 상이 보입니다. 센서에 빛이 들어오고 있습니다. 렌즈를 완전히 가리고 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black level (BlackLevel), then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지에 값이 0인 픽셀이 많아 노이즈를 확인할 수 없습니다. 블랙 레벨(BlackLevel)을 높이고 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more light or a longer exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지가 너무 어둡습니다(값 범위의 %1 %). 렌즈 덮개를 벗기고 조명을 밝게 하거나 노출을 늘린 다음 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>%1 % of the pixels of the bright images have the highest value. Use less light or a shorter exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지의 픽셀 중 %1 %가 최댓값입니다. 조명을 어둡게 하거나 노출을 줄인 다음 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached the sensor during the dark images. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀의 %1 %가 주변 픽셀과 다릅니다. 표면에 무늬가 있었거나 다크 이미지를 촬영할 때 센서에 빛이 들어왔습니다. 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>Set %1 to %2: defect pixels are measured at full resolution without mirroring.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2(으)로 설정하십시오. 불량 픽셀은 최대 해상도에서 반전 없이 측정해야 합니다.</translation>
     </message>
     <message>
         <source>Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to Mono16, or Bayer (PixelFormat).</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 값을 그대로 담는 8~16비트 픽셀 포맷을 선택하십시오: Mono8~Mono16 또는 Bayer(PixelFormat).</translation>
     </message>
     <message>
         <source>Choose a region of %1 x %1 pixels or more (Width, Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %1 픽셀 이상의 영역을 선택하십시오(Width, Height).</translation>
     </message>
     <message>
         <source>The size or the pixel format of the images has changed. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 크기 또는 픽셀 포맷이 바뀌었습니다. 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>Take %1 images or more: with fewer images, the noise hides defects.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지를 %1장 이상 촬영하십시오. 이미지가 적으면 노이즈에 불량 픽셀이 가려집니다.</translation>
     </message>
     <message>
         <source>The region or the pixel format differs from that of the dark images. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>영역 또는 픽셀 포맷이 다크 이미지와 다릅니다. 이전과 같게 설정하거나 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>게인이 다크 이미지의 게인(%1)과 다릅니다. 이전과 같게 설정하거나 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
 </context>
 <context>
     <name>MeasureBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">취소</translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>End the measurement. The settings of the camera are put back. (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>측정을 종료합니다. 카메라 설정을 원래대로 되돌립니다. (Esc)</translation>
     </message>
 </context>
 <context>
     <name>MeasureJob</name>
     <message>
         <source>The camera is not open for control, so nothing can be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 제어 모드로 열려 있지 않아 측정할 수 없습니다.</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Measure again when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 중에 카메라 연결이 끊겼습니다. 다시 연결되면 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The camera was closed during the measurement.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 중에 카메라가 닫혔습니다.</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">카메라가 이미지를 전송하지 않습니다. %1</translation>
+        <translation>카메라가 이미지를 전송하지 않습니다. %1</translation>
     </message>
     <message>
         <source>Some settings were not put back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>일부 설정을 되돌리지 못했습니다. %1</translation>
     </message>
 </context>
 <context>
@@ -3696,103 +3692,103 @@ This value belongs to one camera or one moment.</source>
     <name>PlanView</name>
     <message>
         <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kHz</translation>
     </message>
     <message>
         <source>by the link</source>
-        <translation type="unfinished"></translation>
+        <translation>링크 속도에 의한 제한</translation>
     </message>
     <message>
         <source>by the exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>노출에 의한 제한</translation>
     </message>
     <message>
         <source>by the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 의한 제한</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>기능</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>새 값</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>이전</translation>
     </message>
     <message>
         <source>Settings that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 쓸 설정</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물 픽셀</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished">%1 µm</translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">라인 속도</translation>
+        <translation>라인 속도</translation>
     </message>
     <message>
         <source>Highest line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 라인 속도</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>최고 속도</translation>
     </message>
     <message>
         <source>%1 mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm/s</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 노출</translation>
     </message>
     <message>
         <source>%1 µs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µs</translation>
     </message>
     <message>
         <source>Dead time of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 데드 타임</translation>
     </message>
     <message>
         <source>Lines per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>펄스당 라인 수</translation>
     </message>
     <message>
         <source>Multiplier, divider</source>
-        <translation type="unfinished"></translation>
+        <translation>체배, 분주</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>잔여 오차</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The camera is set up for this already.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 이미 이렇게 설정되어 있습니다.</translation>
     </message>
     <message>
         <source>These features are written, in this order:</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 기능을 이 순서대로 씁니다:</translation>
     </message>
 </context>
 <context>
@@ -4014,167 +4010,171 @@ This value belongs to one camera or one moment.</source>
     <name>RepairPanel</name>
     <message>
         <source>Cover the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈 가리기</translation>
     </message>
     <message>
         <source>No light may reach the sensor. A long exposure and a high gain show more hot pixels: use the longest exposure that you work with, and let the camera warm up.</source>
-        <translation type="unfinished"></translation>
+        <translation>센서에 빛이 들어오지 않아야 합니다. 노출이 길고 게인이 높을수록 핫 픽셀이 많이 나타납니다. 실제로 사용하는 가장 긴 노출을 설정하고 카메라를 예열하십시오.</translation>
     </message>
     <message>
         <source>Take &amp;dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지 촬영(&amp;D)</translation>
     </message>
     <message>
         <source>Point at an evenly lit surface</source>
-        <translation type="unfinished"></translation>
+        <translation>균일하게 조명된 표면 비추기</translation>
     </message>
     <message>
         <source>Uncover the lens and fill the picture with one bright surface without objects, for example white paper, out of focus. Half of the highest brightness is best; leave the gain as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈 덮개를 벗기고 물체가 없는 밝은 표면(예: 초점이 흐려진 흰 종이)으로 이미지를 채우십시오. 최대 밝기의 절반이 가장 좋습니다. 게인은 바꾸지 마십시오.</translation>
     </message>
     <message>
         <source>Take &amp;bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지 촬영(&amp;B)</translation>
     </message>
     <message>
         <source>Save the map</source>
-        <translation type="unfinished"></translation>
+        <translation>맵 저장</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl repair pictures with the map. A report and a table are saved beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 뷰어와 cvxctl에서 이 맵으로 이미지를 보정할 수 있습니다. 보고서와 표도 함께 저장됩니다.</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished">저장(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>Of each kind. More images find weaker defects and pixels that blink rarely.</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 수(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images find weaker defects and pixels that blink rarely.</source>
+        <translation>다크 이미지와 밝은 이미지 각각의 수입니다. 많을수록 약한 결함과 드물게 점멸하는 픽셀까지 찾을 수 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>RepairReport</name>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 보정</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished">결과</translation>
+        <translation>결과</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>클러스터</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>서로 맞닿은 불량 픽셀입니다.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀이 8개 이상인 열 구간입니다.</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀이 8개 이상인 행 구간입니다.</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>종류</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>개수</translation>
     </message>
     <message>
         <source>Meaning</source>
-        <translation type="unfinished"></translation>
+        <translation>의미</translation>
     </message>
     <message>
         <source>Places of the defect pixels on the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>센서에서 불량 픽셀의 위치</translation>
     </message>
     <message>
         <source>Conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 조건</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지</translation>
     </message>
     <message>
         <source>Exposure in ms</source>
-        <translation type="unfinished"></translation>
+        <translation>노출(ms)</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished">게인</translation>
+        <translation>게인</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished">수준</translation>
+        <translation>레벨</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>노이즈</translation>
     </message>
     <message>
         <source>Spread of the good pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>정상 픽셀의 산포</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>다크</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>밝음</translation>
     </message>
     <message>
         <source>Threshold: %1 standard deviations. Examined pixels: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>임곗값: 표준 편차의 %1배. 검사한 픽셀 수: %2.</translation>
     </message>
 </context>
 <context>
     <name>RepairWindow</name>
     <message>
         <source>&amp;Save the map…</source>
-        <translation type="unfinished"></translation>
+        <translation>맵 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 보정</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지 촬영 중</translation>
     </message>
     <message numerus="yes">
         <source>%n dark image(s) taken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>다크 이미지 %n장을 촬영했습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지 촬영 중</translation>
     </message>
     <message>
-        <source>%1 was off during the measurement, so the map contains what the camera itself can repair.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 was off during the measurement, so the map also contains what the camera itself can repair.</source>
+        <translation>측정 중에 %1 기능을 껐으므로 카메라가 자체 보정할 수 있는 픽셀도 맵에 포함됩니다.</translation>
+    </message>
+    <message>
+        <source>The picture is not repaired: %1.</source>
+        <translation>이미지가 보정되지 않습니다: %1.</translation>
     </message>
 </context>
 <context>
@@ -4216,70 +4216,70 @@ This value belongs to one camera or one moment.</source>
     <name>ResultBox</name>
     <message>
         <source>Defect pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀</translation>
     </message>
     <message>
         <source>&amp;Mark the defect pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the &amp;repaired picture</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀 표시(&amp;M)</translation>
     </message>
     <message>
         <source>Replaces each defect pixel by the median of its good neighbours of the same colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>각 불량 픽셀을 같은 색의 정상 이웃 픽셀의 중앙값으로 대체합니다.</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>클러스터</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>서로 맞닿은 불량 픽셀입니다.</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>열</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀이 8개 이상인 열 구간입니다.</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>행</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>불량 픽셀이 8개 이상인 행 구간입니다.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Show the re&amp;paired picture</source>
+        <translation>보정된 이미지 표시(&amp;P)</translation>
     </message>
 </context>
 <context>
     <name>ResultSaver</name>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장</translation>
     </message>
     <message>
         <source>Results (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 (%1)</translation>
     </message>
     <message>
         <source>These files exist already: %1. Do you want to replace them?</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 파일이 이미 있습니다: %1. 덮어쓰시겠습니까?</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>덮어쓰기</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not saved. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’을(를) 저장하지 못했습니다. %2</translation>
     </message>
 </context>
 <context>
@@ -4345,427 +4345,439 @@ This value belongs to one camera or one moment.</source>
     <name>Sentence</name>
     <message>
         <source>The exposure time of this camera cannot be set. Change the light until the picture has about 70 % of the range, and measure without setting the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라는 노출 시간을 설정할 수 없습니다. 이미지의 밝기가 범위의 약 70 %가 되도록 조명을 조절하고 노출 시간 자동 설정 없이 측정하십시오.</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed since the dark images. Take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지를 촬영한 뒤에 영역 또는 픽셀 포맷이 바뀌었습니다. 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 포맷 %1은(는) 보정할 수 없습니다. 8~16비트의 Mono 또는 Bayer 포맷을 선택하십시오.</translation>
     </message>
     <message>
         <source>The colours of a line scan camera cannot be corrected. Choose a Mono format.</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 스캔 카메라의 컬러 이미지는 보정할 수 없습니다. Mono 포맷을 선택하십시오.</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed during the measurement. Measure again without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 중에 영역 또는 픽셀 포맷이 바뀌었습니다. 변경하지 말고 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>%1 images are too few for a correction. Take at least %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 %1장으로는 보정할 수 없습니다. %2장 이상 촬영하십시오.</translation>
     </message>
     <message>
         <source>The bright images are too dark: %1 % of the range above the dark images. Is the lens still covered? Otherwise, use more light or a longer exposure time, for about 70 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지가 너무 어둡습니다. 다크 이미지보다 범위의 %1 %만큼만 밝습니다. 렌즈가 아직 가려져 있지 않은지 확인하십시오. 가려져 있지 않으면 조명을 밝게 하거나 노출 시간을 늘려 약 70 %로 맞추십시오.</translation>
     </message>
     <message>
         <source>The bright images have %1 % of the range. Between 50 and 80 %, the gains are most exact.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지의 밝기는 범위의 %1 %입니다. 50~80 %일 때 게인이 가장 정확합니다.</translation>
     </message>
     <message>
         <source>Parts of the picture have changed by %1 % between the images: something moves, or the light flickers. Use an even surface that keeps still, and steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 사이에 일부 영역의 밝기가 %1 % 변했습니다. 움직임이 있거나 조명이 깜박입니다. 움직이지 않는 균일한 표면과 안정된 조명을 사용하십시오.</translation>
     </message>
     <message>
         <source>The brightness has changed by %1 % between the images. Use steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지 사이에 밝기가 %1 % 변했습니다. 안정된 조명을 사용하십시오.</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the range, so there seems to be light. Cover the lens completely. If it is covered, reduce BlackLevel or Gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지의 밝기가 범위의 %1 %이므로 빛이 들어오는 것으로 보입니다. 렌즈를 완전히 가리십시오. 이미 가렸다면 BlackLevel 또는 Gain을 줄이십시오.</translation>
     </message>
     <message>
         <source>The dark images are not equally dark everywhere. Make sure that no light reaches the lens, and take them again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지의 밝기가 고르지 않습니다. 렌즈에 빛이 들어오지 않게 하고 다시 촬영하십시오.</translation>
     </message>
     <message>
         <source>%1 % of the values in the dark are 0, so the offsets are cut off. Increase BlackLevel.</source>
-        <translation type="unfinished"></translation>
+        <translation>어두운 상태에서 값의 %1 %가 0이므로 오프셋이 잘립니다. BlackLevel을 높이십시오.</translation>
     </message>
     <message>
         <source>The noise in the dark is smaller than one step of the pixel format, so the numbers of the dark images are not exact. A pixel format with more bits shows the differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 노이즈가 픽셀 포맷의 한 단계보다 작아 다크 이미지의 수치가 정확하지 않습니다. 비트 수가 더 많은 픽셀 포맷을 사용하면 차이를 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>%1 % of the values in the bright images are clipped. Reduce the exposure time or the light, to about 70 % of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지의 값 중 %1 %가 클리핑되었습니다. 노출 시간 또는 조명을 줄여 범위의 약 70 %로 맞추십시오.</translation>
     </message>
     <message>
         <source>The bright images show structures that look like an object and not like shading; the correction would draw them into every picture. Use an even surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지에 셰이딩이 아니라 물체처럼 보이는 구조가 있습니다. 이대로 보정하면 모든 이미지에 그 구조가 나타납니다. 초점이 흐려진 균일한 표면을 사용하십시오.</translation>
     </message>
     <message>
         <source>The picture is too dark. Remove the lens cap, open the aperture, add light or lengthen the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 너무 어둡습니다. 렌즈 캡을 벗기거나, 조리개를 열거나, 조명을 더하거나, 노출 시간을 늘리십시오.</translation>
     </message>
     <message>
         <source>%1 % of the pixels are overexposed. Close the aperture or shorten the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀의 %1 %가 노출 과다입니다. 조리개를 조이거나 노출 시간을 줄이십시오.</translation>
     </message>
     <message>
         <source>The picture has no edges. Point the camera at something with structure, for example a printed page, or turn the lens if the picture is blurred.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지에 에지가 없습니다. 인쇄물처럼 무늬가 있는 대상을 비추거나, 이미지가 흐리면 렌즈를 돌리십시오.</translation>
     </message>
     <message>
         <source>Pictures of this pixel format cannot be measured. Choose a Mono, Bayer, RGB or YUV format.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 픽셀 포맷의 이미지는 측정할 수 없습니다. Mono, Bayer, RGB 또는 YUV 포맷을 선택하십시오.</translation>
     </message>
     <message>
         <source>The picture is too small for so many regions. Choose a larger Width and Height, or fewer regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>영역 수에 비해 이미지가 너무 작습니다. Width와 Height를 늘리거나 영역 수를 줄이십시오.</translation>
     </message>
     <message>
         <source>The picture became sharp at no position of the lens. Point the camera at something with structure, check the distance, and search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈의 어느 위치에서도 이미지가 선명해지지 않았습니다. 무늬가 있는 대상을 비추고 거리를 확인한 다음 다시 검색하십시오.</translation>
     </message>
     <message>
         <source>The camera cannot move its lens: it has no feature for the position of the focus, for example LensFocusPosition. Turn the lens by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>초점 위치 기능(예: LensFocusPosition)이 없어 카메라가 렌즈를 움직일 수 없습니다. 렌즈를 손으로 돌리십시오.</translation>
     </message>
     <message>
         <source>The right edge is sharp at a higher position than the left edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 가장자리의 초점 위치가 왼쪽 가장자리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The left edge became sharp before the right edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 가장자리가 오른쪽 가장자리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The lower right corner is sharp at a higher position than the upper left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 아래 모서리의 초점 위치가 왼쪽 위 모서리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The upper left corner became sharp before the lower right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 위 모서리가 오른쪽 아래 모서리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The lower edge is sharp at a higher position than the upper edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>아래쪽 가장자리의 초점 위치가 위쪽 가장자리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The upper edge became sharp before the lower edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>위쪽 가장자리가 아래쪽 가장자리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The lower left corner is sharp at a higher position than the upper right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 아래 모서리의 초점 위치가 오른쪽 위 모서리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The upper right corner became sharp before the lower left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 위 모서리가 왼쪽 아래 모서리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The left edge is sharp at a higher position than the right edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 가장자리의 초점 위치가 오른쪽 가장자리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The right edge became sharp before the left edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 가장자리가 왼쪽 가장자리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The upper left corner is sharp at a higher position than the lower right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 위 모서리의 초점 위치가 오른쪽 아래 모서리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The lower right corner became sharp before the upper left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 아래 모서리가 왼쪽 위 모서리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The upper edge is sharp at a higher position than the lower edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>위쪽 가장자리의 초점 위치가 아래쪽 가장자리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The lower edge became sharp before the upper edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>아래쪽 가장자리가 위쪽 가장자리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The upper right corner is sharp at a higher position than the lower left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>오른쪽 위 모서리의 초점 위치가 왼쪽 아래 모서리보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The lower left corner became sharp before the upper right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>왼쪽 아래 모서리가 오른쪽 위 모서리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>Turn the lens slowly in one direction, until the picture has become blurred again.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 다시 흐려질 때까지 렌즈를 한 방향으로 천천히 돌리십시오.</translation>
     </message>
     <message>
         <source>Keep turning in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 방향으로 계속 돌리십시오.</translation>
     </message>
     <message>
         <source>Turn back: the peak lies in the other direction.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is as sharp as it becomes. Lock the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>반대로 돌리십시오. 피크는 반대 방향에 있습니다.</translation>
     </message>
     <message>
         <source>The best position is %1. The lens is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치는 %1입니다. 렌즈가 이 위치에 있습니다.</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens up by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치는 %1입니다. 렌즈 위치를 %2만큼 높이십시오.</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens down by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>최적 위치는 %1입니다. 렌즈 위치를 %2만큼 낮추십시오.</translation>
     </message>
     <message>
         <source>Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the camera at something with edges all over the picture, and go through the sharpest position once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>선명해졌다가 다시 흐려진 영역이 부족하여 초점면의 기울기를 판정할 수 없습니다. 이미지 전체에 에지가 있는 대상을 비추고 가장 선명한 위치를 한 번 더 지나가십시오.</translation>
     </message>
     <message>
         <source>The focus is not tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>초점면이 기울어져 있지 않습니다.</translation>
     </message>
     <message>
         <source>The centre became sharp before the corners, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>중심이 모서리보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The corners became sharp before the centre, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>모서리가 중심보다 %1초 먼저 선명해졌습니다.</translation>
     </message>
     <message>
         <source>The corners are sharp at a higher position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>모서리의 초점 위치가 중심보다 %1만큼 높습니다.</translation>
     </message>
     <message>
         <source>The corners are sharp at a lower position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>모서리의 초점 위치가 중심보다 %1만큼 낮습니다.</translation>
     </message>
     <message>
         <source>The link carries %1 MB/s: at most %2 kHz with this width and pixel format. Choose a smaller width, a pixel format with fewer bits, or a lower speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>링크의 전송 속도는 %1 MB/s이며, 현재 너비와 픽셀 포맷에서는 최대 %2 kHz입니다. 너비를 줄이거나, 비트 수가 적은 픽셀 포맷을 선택하거나, 속도를 낮추십시오.</translation>
     </message>
     <message>
         <source>The exposure allows at most %1 kHz, because a line cannot be shorter than its exposure. Shorten the exposure, and add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>라인 주기는 노출보다 짧을 수 없으므로 현재 노출에서는 최대 %1 kHz입니다. 노출을 줄이고 조명을 더하거나 게인을 높이십시오.</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz with its present settings. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 현재 설정에서는 최대 %1 kHz까지 가능합니다. 속도를 낮추거나 배율을 줄이십시오.</translation>
     </message>
     <message>
         <source>This camera takes whole pictures. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 카메라는 에어리어 카메라입니다. 움직이는 대상물을 한 라인씩 촬영하는 라인 스캔 카메라를 선택하십시오.</translation>
     </message>
     <message>
         <source>Every number must be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 수는 0보다 커야 합니다.</translation>
     </message>
     <message>
         <source>Enter the pixel size and the magnification, or the size of a pixel on the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>센서의 픽셀 크기와 배율을 입력하거나, 대상물에서의 픽셀 크기를 입력하십시오.</translation>
     </message>
     <message>
         <source>Enter the speed of the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>대상물의 속도를 입력하십시오.</translation>
     </message>
     <message>
         <source>Enter the movement per encoder pulse, or the pulses per revolution and the diameter of the roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>엔코더 펄스당 이동량을 입력하거나, 회전당 펄스 수와 롤러 지름을 입력하십시오.</translation>
     </message>
     <message>
         <source>The camera has no line rate of its own (AcquisitionLineRate). Use an encoder, or an external trigger.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 자체 라인 속도 기능(AcquisitionLineRate)이 없습니다. 엔코더 또는 외부 트리거를 사용하십시오.</translation>
     </message>
     <message>
         <source>The camera cannot start lines by an encoder (TriggerSelector has no LineStart). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 엔코더로 라인을 시작할 수 없습니다(TriggerSelector에 LineStart 없음). 카메라의 라인 속도를 사용하십시오.</translation>
     </message>
     <message>
         <source>The exposure of %1 µs is longer than a line. It has to be shortened to %2 µs, so the picture becomes darker: add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>노출 %1 µs가 라인 주기보다 깁니다. %2 µs로 줄여야 하므로 이미지가 어두워집니다. 조명을 더하거나 게인을 높이십시오.</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에서 가장 가까운 설정값을 사용하면 대상물이 세로로 %1 % 길게 나타납니다. 배율을 바꾸거나 다른 엔코더를 사용하십시오.</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에서 가장 가까운 설정값을 사용하면 대상물이 세로로 %1 % 짧게 나타납니다. 배율을 바꾸거나 다른 엔코더를 사용하십시오.</translation>
     </message>
     <message>
         <source>The camera offers no encoder as the source of its line trigger (TriggerSource). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라의 라인 트리거 소스(TriggerSource)에 엔코더가 없습니다. 카메라의 라인 속도를 사용하십시오.</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz, but square pixels need %2 kHz. Nothing was changed. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라는 최대 %1 kHz까지 가능하지만 정사각 픽셀에는 %2 kHz가 필요합니다. 변경된 설정은 없습니다. 속도를 낮추거나 배율을 줄이십시오.</translation>
     </message>
     <message>
         <source>The camera has refused %1, so nothing was changed. %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera has refused a setting, and then also to go back to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 %1 설정을 거부하여 아무것도 변경하지 않았습니다. %2</translation>
     </message>
     <message>
         <source>The circle is round: height and width differ by %1 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>원형입니다. 높이와 너비의 차이는 %1 %입니다.</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>원이 세로로 %1 % 깁니다. 엔코더 펄스당 라인 수를 %2에서 %3(으)로 줄이십시오.</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>원이 세로로 %1 % 짧습니다. 엔코더 펄스당 라인 수를 %2에서 %3(으)로 늘리십시오.</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>원이 세로로 %1 % 깁니다. 라인 속도를 %2 kHz에서 %3 kHz로 낮추십시오.</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>원이 세로로 %1 % 짧습니다. 라인 속도를 %2 kHz에서 %3 kHz로 높이십시오.</translation>
     </message>
     <message>
         <source>The border of the round target is uneven. Check whether the object moves evenly, whether lines are lost, and whether the target is sharp and free of other shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>원형 타깃의 윤곽이 고르지 않습니다. 대상물이 일정하게 움직이는지, 손실된 라인이 없는지, 타깃이 선명하고 다른 형상과 겹치지 않는지 확인하십시오.</translation>
     </message>
     <message>
         <source>There is no complete round target in the picture of %1 lines. Show the camera a dark or bright disc or ring, or make the picture higher (Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1라인 이미지에 원형 타깃 전체가 들어 있지 않습니다. 어둡거나 밝은 원판 또는 링을 비추거나 이미지를 더 높게(Height) 설정하십시오.</translation>
     </message>
     <message>
         <source>The picture has too little contrast. Take off the lens cap, add light, and show the camera a dark or bright disc or ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지의 대비가 너무 낮습니다. 렌즈 캡을 벗기고 조명을 더한 다음 어둡거나 밝은 원판 또는 링을 비추십시오.</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s, because it waits for a trigger. Trigger it, or set TriggerMode to Off, and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 트리거를 기다리느라 %1초 동안 이미지를 보내지 않았습니다. 트리거를 보내거나 TriggerMode를 Off로 설정한 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s. Check whether the live picture moves, and the cable, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라가 %1초 동안 이미지를 보내지 않았습니다. 라이브 이미지가 갱신되는지와 케이블을 확인한 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Check its cable and its power, wait until the picture is back, then measure again. (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The images have ended during the measurement. Start the live picture and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 중에 카메라 연결이 끊겼습니다. 케이블과 전원을 확인하고 이미지가 다시 표시되면 다시 측정하십시오. (%1)</translation>
     </message>
     <message>
         <source>The images arrive with missing data. Check the cable and the network card (&quot;cvxctl doctor&quot; helps), or lower the image rate, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>수신되는 이미지에 누락된 데이터가 있습니다. 케이블과 네트워크 카드를 점검하거나(‘cvxctl doctor’ 사용) 프레임 속도를 낮춘 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The measurement was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정을 취소했습니다.</translation>
     </message>
     <message>
         <source>The pixel values are not proportional to the light. Set Gamma to 1, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 값이 빛의 양에 비례하지 않습니다. Gamma를 1로 설정한 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;DeviceTapGeometry&quot;. Choose the layout of its taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 ‘DeviceTapGeometry’ 기능이 없습니다. 탭 배열을 수동으로 선택하십시오.</translation>
     </message>
     <message>
         <source>The tap geometry &quot;%1&quot; is unknown. Choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 탭 구조(‘%1’)입니다. 탭 배열을 수동으로 선택하십시오.</translation>
     </message>
     <message>
         <source>The sensor has one tap only, so there is nothing to balance. If that is wrong, choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>센서의 탭이 하나뿐이므로 밸런스를 조정할 필요가 없습니다. 사실과 다르면 탭 배열을 수동으로 선택하십시오.</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;%1&quot;, so its taps can be measured, but not set.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 ‘%1’ 기능이 없어 탭을 측정할 수는 있지만 설정할 수는 없습니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the entries Tap1 to Tap%2, so the taps can be measured, but not set. Choose the layout of the camera&apos;s taps.</source>
-        <translation type="unfinished"></translation>
+        <translation>‘%1’에 Tap1~Tap%2 항목이 없어 탭을 측정할 수는 있지만 설정할 수는 없습니다. 카메라의 탭 배열을 선택하십시오.</translation>
     </message>
     <message>
         <source>The scene moves: %1 % of the picture has changed during the measurement. Show an even surface that rests, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>장면이 움직입니다. 측정 중에 이미지의 %1 %가 변했습니다. 움직이지 않는 균일한 표면을 비춘 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The picture is overexposed: %1 % of a tap&apos;s pixels have the largest value. Shorten the exposure time or close the lens aperture, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>노출 과다입니다. 한 탭의 픽셀 중 %1 %가 최댓값입니다. 노출을 줄이거나 렌즈 조리개를 조인 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The picture is too dark: it reaches %1 % of the range. Remove the lens cap, add light or lengthen the exposure time, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 너무 어둡습니다(범위의 %1 %까지만 도달). 렌즈 캡을 벗기거나, 조명을 더하거나, 노출 시간을 늘린 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The picture is not dark: its mean is %1 % of the range. Cover the lens, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 어둡지 않습니다(평균이 범위의 %1 %). 렌즈를 가린 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The dark picture is cut off: %1 % of a tap&apos;s pixels are 0. Raise the black level, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지의 값이 잘렸습니다. 한 탭의 픽셀 중 %1 %가 0입니다. 블랙 레벨을 높인 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The step between tap %1 and tap %2 cannot be told from the scene. Show an even surface, or take more images, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 %1과(와) 탭 %2 사이의 단차를 장면과 구별할 수 없습니다. 균일한 표면을 비추거나 이미지 수를 늘린 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>Taps cannot be measured in this pixel format. Choose a Mono or Bayer format of 8 to 16 bits, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 픽셀 포맷에서는 탭을 측정할 수 없습니다. 8~16비트의 Mono 또는 Bayer 포맷을 선택한 다음 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The taps read neighbouring pixels in turn, which have different colours, so taps and colours cannot be told apart. Choose a layout of stripes by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>탭들이 색이 서로 다른 이웃 픽셀을 번갈아 읽으므로 탭 차이와 색 차이를 구별할 수 없습니다. 띠 영역 배열을 수동으로 선택하십시오.</translation>
     </message>
     <message>
         <source>Binning adds up pixels of several taps. Switch it off, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>비닝은 여러 탭의 픽셀을 합산합니다. 비닝을 끄고 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The size or the format of the images has changed during the measurement. Measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 중에 이미지의 크기 또는 형식이 바뀌었습니다. 다시 측정하십시오.</translation>
     </message>
     <message>
         <source>The dark level of this pixel format cannot be measured; choose a Mono, Bayer or RGB format.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 픽셀 포맷의 다크 레벨은 측정할 수 없습니다. Mono, Bayer 또는 RGB 포맷을 선택하십시오.</translation>
     </message>
     <message>
         <source>The picture is not dark. Put the cap on the lens, or cover the lens completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지가 어둡지 않습니다. 렌즈 캡을 씌우거나 렌즈를 완전히 가리십시오.</translation>
     </message>
     <message>
         <source>%1 % of the pixels are 0, which hides the dark level. Raise BlackLevel, so that the noise lies above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀의 %1 %가 0이어서 다크 레벨을 알 수 없습니다. 노이즈가 0보다 커지도록 BlackLevel을 높이십시오.</translation>
     </message>
     <message>
         <source>The noise is smaller than one step of the pixel format, which hides small changes of the dark level. Choose a pixel format with more bits, or a higher gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>노이즈가 픽셀 포맷의 한 단계보다 작아 다크 레벨의 작은 변화를 알 수 없습니다. 비트 수가 더 많은 픽셀 포맷을 선택하거나 게인을 높이십시오.</translation>
     </message>
     <message>
         <source>The features cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기능을 읽을 수 없습니다: %1</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 DeviceTemperature 기능이 없어 온도를 알 수 없습니다.</translation>
     </message>
     <message>
         <source>The scene moves, so the regions&apos; shares also change with what they show. Let it stand still to compare the regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>장면이 움직여 영역별 비율이 비추는 내용에 따라서도 변합니다. 영역을 비교하려면 장면을 고정하십시오.</translation>
+    </message>
+    <message>
+        <source>The picture is as sharp as it gets. Lock the lens.</source>
+        <translation>이미지가 가장 선명한 상태입니다. 렌즈를 고정하십시오.</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification or the speed.</source>
+        <translation>카메라에서 가장 가까운 설정값을 사용하면 대상물이 세로로 %1 % 길게 나타납니다. 배율이나 속도를 바꾸십시오.</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification or the speed.</source>
+        <translation>카메라에서 가장 가까운 설정값을 사용하면 대상물이 세로로 %1 % 짧게 나타납니다. 배율이나 속도를 바꾸십시오.</translation>
+    </message>
+    <message>
+        <source>The camera has refused a setting, and then also refused to go back to %1: %2</source>
+        <translation>카메라가 설정을 거부했으며, %1 복원도 거부했습니다: %2</translation>
+    </message>
+    <message>
+        <source>The stream has ended during the measurement. Start the live picture and measure again.</source>
+        <translation>측정 중에 이미지 전송이 중단되었습니다. 라이브 이미지를 시작하고 다시 측정하십시오.</translation>
+    </message>
+    <message>
+        <source>The picture shows no border between tap %1 and the other taps. Set the region to the whole sensor, or choose another layout, then measure again.</source>
+        <translation>이미지에 탭 %1과(와) 다른 탭 사이의 경계가 없습니다. 영역을 센서 전체로 설정하거나 다른 배열을 선택한 다음 다시 측정하십시오.</translation>
     </message>
 </context>
 <context>
@@ -5135,15 +5147,15 @@ This value belongs to one camera or one moment.</source>
     <name>StepCard</name>
     <message>
         <source>Step %1, not yet possible: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>단계 %1, 아직 실행할 수 없음: %2</translation>
     </message>
     <message>
         <source>Step %1, next: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>단계 %1, 다음: %2</translation>
     </message>
     <message>
         <source>Step %1, done: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>단계 %1, 완료: %2</translation>
     </message>
 </context>
 <context>
@@ -5312,269 +5324,269 @@ This value belongs to one camera or one moment.</source>
     <name>TapBars</name>
     <message>
         <source>Deviation of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>탭별 편차</translation>
     </message>
     <message>
         <source>Grey: before; blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>회색: 이전, 파란색: 현재</translation>
     </message>
     <message>
         <source>Tap %1: %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 %1: %2 %3</translation>
     </message>
     <message>
         <source>Not measured yet</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 측정하지 않음</translation>
     </message>
 </context>
 <context>
     <name>TapPanel</name>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>탭</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">평균</translation>
+        <translation>평균</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>노이즈</translation>
     </message>
     <message>
         <source>Mismatch of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 간 차이</translation>
     </message>
     <message>
         <source>Skip this step</source>
-        <translation type="unfinished"></translation>
+        <translation>이 단계 건너뛰기</translation>
     </message>
     <message>
         <source>Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 밸런스 되돌리기</translation>
     </message>
     <message>
         <source>Mean and noise of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>탭별 평균 및 노이즈</translation>
     </message>
     <message>
         <source>Shading changes the means, so the steps at the borders say how the taps differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>평균은 셰이딩의 영향을 받으므로 경계의 단차로 탭 간 차이를 판단합니다.</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">측정</translation>
+        <translation>측정</translation>
     </message>
     <message>
         <source>Show an even, bright surface that fills the picture, for example a white sheet out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>이미지를 가득 채우는 균일하고 밝은 표면(예: 초점이 흐려진 흰 종이)을 비추십시오.</translation>
     </message>
     <message>
         <source>Measure the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 측정</translation>
     </message>
     <message>
         <source>Black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙 레벨</translation>
     </message>
     <message>
         <source>Cover the lens. Without this step, differences of the black levels count as those of the gains.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈를 가리십시오. 이 단계를 건너뛰면 블랙 레벨의 차이가 게인의 차이로 간주됩니다.</translation>
     </message>
     <message>
         <source>Balance the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙 레벨 맞추기</translation>
     </message>
     <message>
         <source>Gains</source>
-        <translation type="unfinished"></translation>
+        <translation>게인</translation>
     </message>
     <message>
         <source>Uncover the lens and show the even, bright surface again.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌즈 덮개를 벗기고 균일하고 밝은 표면을 다시 비추십시오.</translation>
     </message>
     <message>
         <source>Balance the gains</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>게인 맞추기</translation>
     </message>
     <message>
         <source>The camera has the new values until it is switched off. Store them in a user set with Camera Setup to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>새 값은 카메라 전원을 끌 때까지 유지됩니다. 계속 사용하려면 카메라 설정(Camera Setup)에서 사용자 세트에 저장하십시오.</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장…</translation>
     </message>
     <message>
         <source>The taps differ by up to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 간 차이는 최대 %1입니다.</translation>
+    </message>
+    <message>
+        <source>Keep the values</source>
+        <translation>값 유지</translation>
     </message>
 </context>
 <context>
     <name>TapReport</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 밸런스</translation>
     </message>
     <message>
         <source>Layout of the taps: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 배열: %1</translation>
     </message>
     <message>
         <source>Deviation of each tap; grey: before, blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>탭별 편차(회색: 이전, 파란색: 현재)</translation>
     </message>
     <message>
         <source>Bright picture</source>
-        <translation type="unfinished"></translation>
+        <translation>밝은 이미지</translation>
     </message>
     <message>
         <source>Dark picture</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 이미지</translation>
     </message>
     <message>
         <source>The picture with the borders of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 경계를 표시한 이미지</translation>
     </message>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>탭</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">평균</translation>
+        <translation>평균</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>노이즈</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>편차</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished">%1~%2 {1 ?}</translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>탭</translation>
     </message>
     <message>
         <source>Step at the border</source>
-        <translation type="unfinished"></translation>
+        <translation>경계의 단차</translation>
     </message>
     <message>
         <source>The deviations follow from the steps at the borders, which straight lines on both sides are extended to; shading has no influence. The noise is the temporal standard deviation of a pixel by the differences of successive images (EMVA 1288). The uncertainty of a step is twice its standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>편차는 경계 양쪽의 직선을 경계까지 연장하여 얻은 단차로 구하므로 셰이딩의 영향을 받지 않습니다. 노이즈는 연속한 이미지의 차이로 구한 픽셀의 시간적 표준 편차입니다(EMVA 1288). 단차의 불확도는 표준 오차의 두 배입니다.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 %1</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished">현재</translation>
+        <translation>현재</translation>
     </message>
 </context>
 <context>
     <name>TapSession</name>
     <message>
         <source>Measuring the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 측정 중</translation>
     </message>
     <message>
         <source>Balancing the gains</source>
-        <translation type="unfinished"></translation>
+        <translation>게인 맞추는 중</translation>
     </message>
     <message>
         <source>Balancing the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>블랙 레벨 맞추는 중</translation>
     </message>
     <message>
         <source>Putting the earlier values back</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 값으로 되돌리는 중</translation>
     </message>
 </context>
 <context>
     <name>TapTexts</name>
     <message>
-        <source>values</source>
-        <comment>unit of pixel values</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The mismatch fell from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 간 차이가 %1에서 %2(으)로 줄었습니다.</translation>
     </message>
     <message>
         <source>The mismatch fell from %1 to %2. The camera offers no finer values.</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 간 차이가 %1에서 %2(으)로 줄었습니다. 카메라에서 더 세밀하게 조정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>DN</source>
+        <comment>unit of pixel values</comment>
+        <translation>DN</translation>
     </message>
 </context>
 <context>
     <name>TapWindow</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>탭 밸런스</translation>
     </message>
     <message>
         <source>The camera has no feature GainSelector, so the gains of its taps cannot be set one by one. Use a flat-field correction instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 GainSelector 기능이 없어 탭별 게인을 설정할 수 없습니다. 대신 플랫 필드 보정을 사용하십시오.</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 밸런스 되돌리기(&amp;U)</translation>
     </message>
 </context>
 <context>
     <name>TargetOverlay</name>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished">%1 × %2 px</translation>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
     <name>TemperaturePlot</name>
     <message>
-        <source>&amp;Show the last</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Time since the start</source>
-        <translation type="unfinished"></translation>
+        <translation>시작 후 경과 시간</translation>
     </message>
     <message>
         <source>Temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>온도(°C)</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">경고</translation>
+        <translation>경고</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>경보</translation>
     </message>
     <message>
         <source>Final value of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 최종값</translation>
     </message>
     <message>
         <source>Dark level follows</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨 변화 시작</translation>
+    </message>
+    <message>
+        <source>Show the &amp;last</source>
+        <translation>표시 구간(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -5594,273 +5606,273 @@ This value belongs to one camera or one moment.</source>
     <name>ThermalPanel</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Notify me</source>
-        <translation type="unfinished"></translation>
+        <translation>알림</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished">로그</translation>
+        <translation>기록</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"> 초</translation>
+        <translation> 초</translation>
     </message>
     <message>
         <source>Read &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 주기(&amp;E)</translation>
     </message>
     <message>
         <source>Start a&amp;new</source>
-        <translation type="unfinished"></translation>
+        <translation>새로 시작(&amp;N)</translation>
     </message>
     <message>
         <source>Forgets the readings and begins again. A running log goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>측정값을 지우고 새로 시작합니다. 진행 중인 기록은 계속됩니다.</translation>
     </message>
 </context>
 <context>
     <name>ThermalReport</name>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>온도 모니터</translation>
     </message>
     <message>
         <source>Readings since %1 (UTC).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(UTC)부터의 측정값.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>위치</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>온도</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Expected final value in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>예상 최종값(°C)</translation>
     </message>
     <message>
         <source>Time constant</source>
-        <translation type="unfinished"></translation>
+        <translation>시정수</translation>
     </message>
     <message>
         <source>Steady in</source>
-        <translation type="unfinished"></translation>
+        <translation>안정까지</translation>
     </message>
     <message>
         <source>The final value belongs to an exponential curve through the readings; the uncertainty is twice the standard deviation. Steady means within 0.5 K of the final value, or a change of less than 0.1 K per minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>최종값은 측정값에 맞춘 지수 곡선에서 구하며, 불확도는 표준 편차의 두 배입니다. 안정이란 최종값과의 차이가 0.5 K 이내이거나 변화가 분당 0.1 K 미만인 상태입니다.</translation>
     </message>
     <message>
         <source>Temperatures over time</source>
-        <translation type="unfinished"></translation>
+        <translation>시간에 따른 온도</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨</translation>
     </message>
     <message>
         <source>Dark level over time</source>
-        <translation type="unfinished"></translation>
+        <translation>시간에 따른 다크 레벨</translation>
     </message>
 </context>
 <context>
     <name>ThermalSession</name>
     <message>
         <source>The camera has not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 카메라에서 값을 읽지 않았습니다.</translation>
     </message>
 </context>
 <context>
     <name>ThermalTexts</name>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>10 min</source>
-        <translation type="unfinished"></translation>
+        <translation>10분</translation>
     </message>
     <message>
         <source>1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>1시간</translation>
     </message>
     <message>
         <source>24 h</source>
-        <translation type="unfinished"></translation>
+        <translation>24시간</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>전체</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished">카메라</translation>
+        <translation>카메라</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1초</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1분</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1시간</translation>
     </message>
     <message>
         <source>Cannot be read at present</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 읽을 수 없음</translation>
     </message>
     <message>
         <source>Rate and state are known in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>변화율과 상태는 %1 후에 알 수 있습니다.</translation>
     </message>
     <message>
         <source>Warming up, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>상승 중, %1 K/min</translation>
     </message>
     <message>
         <source>Cooling, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>하강 중, %1 K/min</translation>
     </message>
     <message>
         <source>Steady, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>안정, %1 K/min</translation>
     </message>
     <message>
         <source>The temperature does not change any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>온도가 더 이상 변하지 않습니다.</translation>
     </message>
     <message>
         <source>The final value is not determined yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>최종값이 아직 결정되지 않았습니다.</translation>
     </message>
     <message>
         <source>Expected final value: %1 °C ± %2 K</source>
-        <translation type="unfinished"></translation>
+        <translation>예상 최종값: %1 °C ± %2 K</translation>
     </message>
     <message>
         <source>%1, steady in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 후 안정</translation>
     </message>
     <message>
         <source>Alarm: %1 has reached %2. Cool the camera or let it work less.</source>
-        <translation type="unfinished"></translation>
+        <translation>경보: %1 온도가 %2에 도달했습니다. 카메라를 냉각하거나 부하를 줄이십시오.</translation>
     </message>
     <message>
         <source>Warning: %1 is at %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>경고: %1 온도가 %2입니다.</translation>
     </message>
     <message>
         <source>%1 is below the thresholds again: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 온도가 다시 임곗값 아래로 내려갔습니다: %2.</translation>
     </message>
     <message>
         <source>Dark level: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨: %1</translation>
     </message>
     <message>
         <source>Dark level: %1 (noise %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨: %1(노이즈 %2)</translation>
     </message>
     <message>
         <source>The dark level has followed the temperature since %1 after the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>시작 %1 후부터 다크 레벨이 온도를 따라 변하고 있습니다.</translation>
     </message>
     <message>
         <source>The dark level has not changed by more than its noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 레벨이 노이즈 이상으로 변하지 않았습니다.</translation>
     </message>
     <message>
         <source>The dark signal doubles every %1 ± %2 K.</source>
-        <translation type="unfinished"></translation>
+        <translation>다크 신호는 %1 ± %2 K마다 두 배가 됩니다.</translation>
     </message>
     <message>
         <source>The doubling temperature is not determined yet; the temperature has to change more.</source>
-        <translation type="unfinished"></translation>
+        <translation>배가 온도가 아직 결정되지 않았습니다. 온도가 더 변해야 합니다.</translation>
     </message>
 </context>
 <context>
     <name>ThermalWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>결과 저장(&amp;S)…</translation>
     </message>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>온도 모니터</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature. The data sheet says whether a newer firmware does.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라에 DeviceTemperature 기능이 없어 온도를 알 수 없습니다. 최신 펌웨어에서 지원하는지 데이터시트를 확인하십시오.</translation>
     </message>
 </context>
 <context>
     <name>ThresholdBox</name>
     <message>
         <source>&amp;Warning at</source>
-        <translation type="unfinished"></translation>
+        <translation>경고 온도(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Alarm at</source>
-        <translation type="unfinished"></translation>
+        <translation>경보 온도(&amp;A)</translation>
     </message>
     <message>
         <source> K</source>
-        <translation type="unfinished"></translation>
+        <translation> K</translation>
     </message>
     <message>
         <source>A warning or an alarm ends when the temperature is so far below its threshold again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>En&amp;ds below by</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The program notifies you, also while its window is behind others, when a place gets so warm.</source>
-        <translation type="unfinished"></translation>
+        <translation>온도가 임곗값보다 이만큼 낮아지면 경고 또는 경보가 해제됩니다.</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>Ends &amp;below by</source>
+        <translation>해제 온도차(&amp;B)</translation>
+    </message>
+    <message>
+        <source>The program notifies you, also while its window is behind others, when a place gets this warm.</source>
+        <translation>해당 위치의 온도가 이 값에 도달하면 창이 다른 창에 가려져 있어도 알림을 표시합니다.</translation>
     </message>
 </context>
 <context>
     <name>ThresholdControl</name>
     <message>
         <source>How far a pixel deviates from its neighbours before it counts as a defect, in standard deviations of the good pixels. At 6 σ, less than one good pixel per megapixel is taken for a defect.</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀을 불량으로 판정할 주변 픽셀과의 편차입니다. 단위는 정상 픽셀의 표준 편차입니다. 6 σ에서는 정상 픽셀이 불량으로 판정되는 경우가 메가픽셀당 1개 미만입니다.</translation>
     </message>
     <message>
         <source>&amp;Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>임곗값(&amp;T)</translation>
     </message>
     <message>
         <source>Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>임곗값</translation>
     </message>
     <message>
         <source> σ</source>
-        <translation type="unfinished"></translation>
+        <translation> σ</translation>
     </message>
 </context>
 <context>
@@ -6420,7 +6432,7 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>&amp;Corrections…</source>
-        <translation type="unfinished"></translation>
+        <translation>보정(&amp;C)…</translation>
     </message>
 </context>
 <context>
@@ -6499,11 +6511,11 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Not corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>보정 안 됨</translation>
     </message>
     <message>
         <source>Corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>보정됨</translation>
     </message>
 </context>
 <context>

@@ -2,72 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
-    <name></name>
-    <message>
-        <source>Flat Field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Non-uniformity by EMVA 1288 release 4.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mean of the columns</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A picture as the camera sends it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The same picture, corrected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The gains: the brighter, the higher</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>AssistantWindow</name>
     <message>
         <source>The result was saved to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>结果已保存到“%1”。</translation>
     </message>
     <message>
         <source>Press F5 to see the live picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>按 F5 显示实时图像。</translation>
     </message>
     <message>
         <source>&amp;Result</source>
-        <translation type="unfinished"></translation>
+        <translation>结果(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Camera</source>
-        <translation type="unfinished">相机(&amp;C)</translation>
+        <translation>相机(&amp;C)</translation>
     </message>
     <message>
         <source>Open in the &amp;Image Viewer</source>
-        <translation type="unfinished">在图像查看器中打开(&amp;I)</translation>
+        <translation>在图像查看器中打开(&amp;I)</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Cancel the measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>取消测量</translation>
     </message>
 </context>
 <context>
     <name>BigNumber</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -338,7 +311,7 @@
     <name>CameraSettings</name>
     <message>
         <source>Camera settings</source>
-        <translation type="unfinished"></translation>
+        <translation>相机设置</translation>
     </message>
 </context>
 <context>
@@ -684,163 +657,163 @@
     <name>CorrectionDialog</name>
     <message>
         <source>&amp;Correct the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>校正图像(&amp;C)</translation>
     </message>
     <message>
         <source>Corrections</source>
-        <translation type="unfinished"></translation>
+        <translation>图像校正</translation>
     </message>
     <message>
         <source>&amp;Defect map:</source>
-        <translation type="unfinished"></translation>
+        <translation>坏点表(&amp;D)：</translation>
     </message>
     <message>
         <source>Choose a defect map</source>
-        <translation type="unfinished"></translation>
+        <translation>选择坏点表</translation>
     </message>
     <message>
         <source>Defect maps (*.json *.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>坏点表 (*.json *.csv);;所有文件 (*)</translation>
     </message>
     <message>
         <source>&amp;Flat field:</source>
-        <translation type="unfinished"></translation>
+        <translation>平场文件(&amp;F)：</translation>
     </message>
     <message>
         <source>Choose a flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>选择平场文件</translation>
     </message>
     <message>
         <source>Flat fields (*.tif *.tiff);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>平场文件 (*.tif *.tiff);;所有文件 (*)</translation>
     </message>
     <message>
         <source>The correction applies to the shown pictures, to PNG and TIFF files and to TIFF recordings. Raw files, videos and measured values stay those of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>校正应用于显示的图像、PNG 和 TIFF 文件以及 TIFF 录制。原始字节文件、视频和测量值仍为相机的原始值。</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>选择…</translation>
     </message>
     <message>
         <source>The pictures are not corrected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像未校正：%1。</translation>
     </message>
     <message>
         <source>The pictures are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像已校正。</translation>
     </message>
 </context>
 <context>
     <name>DarkBox</name>
     <message>
         <source>Cover the lens, and choose a long exposure and a pixel format with many bits in the camera settings. Then measure while the camera warms up.</source>
-        <translation type="unfinished"></translation>
+        <translation>请盖住镜头，并在相机设置中选择较长的曝光时间和高位深的像素格式，然后在相机升温期间进行测量。</translation>
     </message>
     <message>
         <source>Stop measuring the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>停止测量暗电平(&amp;D)</translation>
     </message>
     <message>
         <source>Measure the &amp;dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>测量暗电平(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>DefectList</name>
     <message>
         <source>Columns %1 to %2, lines %3 to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>列 %1 至 %2，行 %3 至 %4</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">行</translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差</translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个像素</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 σ</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 σ</translation>
     </message>
 </context>
 <context>
     <name>DefectTexts</name>
     <message>
         <source>Hot</source>
-        <translation type="unfinished"></translation>
+        <translation>热像素</translation>
     </message>
     <message>
         <source>Dead</source>
-        <translation type="unfinished"></translation>
+        <translation>死像素</translation>
     </message>
     <message>
         <source>Stuck</source>
-        <translation type="unfinished"></translation>
+        <translation>恒值像素</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>闪烁像素</translation>
     </message>
     <message>
         <source>Deviating</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差像素</translation>
     </message>
     <message>
         <source>Too bright in the dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>在暗场中过亮。</translation>
     </message>
     <message>
         <source>Hardly reacts to light.</source>
-        <translation type="unfinished"></translation>
+        <translation>对光几乎无响应。</translation>
     </message>
     <message>
         <source>Always has the same value.</source>
-        <translation type="unfinished"></translation>
+        <translation>值始终不变。</translation>
     </message>
     <message>
         <source>Changes between levels from image to image.</source>
-        <translation type="unfinished"></translation>
+        <translation>在不同图像间跳变。</translation>
     </message>
     <message>
         <source>Reacts to light much more or less than its neighbours.</source>
-        <translation type="unfinished"></translation>
+        <translation>对光的响应明显高于或低于相邻像素。</translation>
     </message>
     <message>
         <source>Cluster</source>
-        <translation type="unfinished"></translation>
+        <translation>团簇</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">行</translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>No defect pixels were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>未发现坏点。</translation>
     </message>
     <message numerus="yes">
         <source>%n defect pixel(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>发现 %n 个坏点。</numerusform>
         </translation>
     </message>
 </context>
@@ -1053,23 +1026,23 @@ This value belongs to one camera or one moment.</source>
     <name>DurationScale</name>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d</translation>
     </message>
 </context>
 <context>
@@ -1746,203 +1719,230 @@ This value belongs to one camera or one moment.</source>
     <name>FlatFieldPanel</name>
     <message>
         <source>Shading before</source>
-        <translation type="unfinished"></translation>
+        <translation>校正前阴影</translation>
     </message>
     <message>
         <source>Shading after</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the exposure time</source>
-        <translation type="unfinished"></translation>
+        <translation>校正后阴影</translation>
     </message>
     <message>
         <source>Show the picture corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>显示校正后的图像</translation>
     </message>
     <message>
         <source>Dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像</translation>
     </message>
     <message>
         <source>Cover the lens completely. The images show the offset of each pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>请完全盖住镜头。暗场图像反映每个像素的偏置。</translation>
     </message>
     <message>
         <source>Take dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>采集暗场图像</translation>
     </message>
     <message>
         <source>Bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像</translation>
     </message>
     <message>
         <source>Uncover the lens, and point the camera at an evenly lit surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>请取下遮盖，将相机对准照明均匀的表面，并使其离焦。</translation>
     </message>
     <message>
         <source>Take bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>采集亮场图像</translation>
     </message>
     <message>
         <source>Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>校正</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl apply the file to every picture of this camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像查看器和 cvxctl 可将该文件应用于此相机的所有图像。</translation>
     </message>
     <message>
         <source>Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存校正文件…</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像数量</translation>
     </message>
     <message>
         <source>Images: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dark images, and bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像数： </translation>
     </message>
     <message>
         <source>Sets the exposure time so that the bright images have about 70 % of the range, and puts it back afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>设置曝光时间，使亮场图像达到量程的约 70%，完成后恢复原值。</translation>
     </message>
     <message>
         <source>Correct every pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>逐像素校正</translation>
     </message>
     <message>
         <source>Correct the shading only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅校正阴影</translation>
     </message>
     <message>
         <source>What is corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>校正内容</translation>
     </message>
     <message>
         <source>The shading only: the gain changes smoothly over the picture, which adds no noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅校正阴影：增益在图像上平滑变化，不会增加噪声。</translation>
     </message>
     <message>
         <source>Keep the mean brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>保持平均亮度</translation>
     </message>
     <message>
         <source>Raise to the brightest place</source>
-        <translation type="unfinished"></translation>
+        <translation>提升到最亮处</translation>
     </message>
     <message>
         <source>Brightness after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>校正后的亮度</translation>
     </message>
     <message>
         <source>Raised to the brightest place, no gain is below 1: what is clipped stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>提升到最亮处时，所有增益均不小于 1：饱和的像素保持为白色。</translation>
     </message>
     <message>
         <source>Non-uniformity before and after the correction</source>
-        <translation type="unfinished"></translation>
+        <translation>校正前后的非均匀性</translation>
     </message>
     <message>
         <source>DSNU: differences of the pixels in the dark. PRNU: differences of their sensitivity. By EMVA 1288 release 4.0, without the temporal noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>DSNU：暗场下像素间的差异。PRNU：像素间灵敏度的差异。按 EMVA 1288 Release 4.0 计算，不含时域噪声。</translation>
     </message>
     <message>
         <source>Mean of the columns, before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>校正前后的列均值</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>% of the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>相对均值 (%)</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>校正前</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The dark images are taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>校正后</translation>
     </message>
     <message>
         <source>Saved as &quot;%1&quot;.</source>
-        <translation type="unfinished">已保存为“%1”。</translation>
+        <translation>已保存为“%1”。</translation>
+    </message>
+    <message>
+        <source>Set the exposure time automatically</source>
+        <translation>自动设置曝光时间</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images leave less noise in the correction. Half as many are taken in addition, to check the correction.</source>
+        <translation>暗场和亮场图像各自的数量。图像越多，校正引入的噪声越小。另外还会采集一半数量的图像，用于检验校正效果。</translation>
+    </message>
+    <message>
+        <source>The dark images were taken.</source>
+        <translation>暗场图像已采集。</translation>
+    </message>
+</context>
+<context>
+    <name>FlatFieldReport</name>
+    <message>
+        <source>Flat Field</source>
+        <translation>平场校正</translation>
+    </message>
+    <message>
+        <source>Non-uniformity by EMVA 1288 release 4.0</source>
+        <translation>非均匀性（EMVA 1288 Release 4.0）</translation>
+    </message>
+    <message>
+        <source>Mean of the columns</source>
+        <translation>列均值</translation>
+    </message>
+    <message>
+        <source>A picture as the camera sends it</source>
+        <translation>相机输出的原始图像</translation>
+    </message>
+    <message>
+        <source>The same picture, corrected</source>
+        <translation>校正后的同一图像</translation>
+    </message>
+    <message>
+        <source>The gains: the brighter, the higher</source>
+        <translation>增益图：越亮增益越高</translation>
     </message>
 </context>
 <context>
     <name>FlatFieldTexts</name>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>%1 DN</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 DN</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished">未知</translation>
+        <translation>未知</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>校正前</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>校正后</translation>
     </message>
     <message>
         <source>Shading</source>
-        <translation type="unfinished"></translation>
+        <translation>阴影</translation>
     </message>
     <message>
         <source>… without shading</source>
-        <translation type="unfinished"></translation>
+        <translation>…不含阴影</translation>
     </message>
     <message>
         <source>… in electrons</source>
-        <translation type="unfinished"></translation>
+        <translation>…以电子数计</translation>
     </message>
     <message>
         <source>The picture is even: its shading is only %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像均匀：阴影仅为 %1。</translation>
     </message>
     <message>
         <source>The correction reduces the shading from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>校正将阴影从 %1 降至 %2。</translation>
     </message>
     <message>
         <source>%1; gains from %2 to %3; bright images at %4 of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1；增益 %2 至 %3；亮场图像为量程的 %4。</translation>
     </message>
     <message numerus="yes">
         <source>The numbers after the correction are those of %n other image(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>校正后的数值由另外 %n 帧图像测得。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) deviate strongly and got the gain of their neighbours; Pixel Repair replaces them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个像素偏差较大，已采用相邻像素的增益；可用“像素修复”替换这些像素。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The gain of %n pixel(s) was limited.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个像素的增益已被限制。</numerusform>
         </translation>
     </message>
 </context>
@@ -1950,239 +1950,235 @@ This value belongs to one camera or one moment.</source>
     <name>FlatFieldWindow</name>
     <message>
         <source>Flat Field</source>
-        <translation type="unfinished"></translation>
+        <translation>平场校正</translation>
     </message>
     <message>
         <source>The camera does not say its pixel format (PixelFormat), so its values cannot be corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机未提供像素格式 (PixelFormat)，因此无法校正像素值。</translation>
     </message>
     <message>
         <source>&amp;Save the correction…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存校正文件(&amp;S)…</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>正在采集暗场图像</translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>flat field</source>
-        <translation type="unfinished"></translation>
+        <translation>正在采集亮场图像</translation>
     </message>
 </context>
 <context>
     <name>FocusPanel</name>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>相对峰值</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果(&amp;S)…</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Before now</source>
-        <translation type="unfinished"></translation>
+        <translation>清晰度</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Regions per direction</source>
-        <translation type="unfinished"></translation>
+        <translation>最近一分钟的清晰度</translation>
     </message>
     <message>
         <source>&amp;Forget the peaks</source>
-        <translation type="unfinished"></translation>
+        <translation>清除峰值(&amp;F)</translation>
     </message>
     <message>
         <source>Begins again, for example because the camera looks at something else.</source>
-        <translation type="unfinished"></translation>
+        <translation>重新开始测量，例如相机改拍其他对象时。</translation>
     </message>
     <message>
         <source>Point the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>对准相机</translation>
     </message>
     <message>
         <source>It looks at something with edges all over the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将相机对准整幅画面都有边缘的物体。</translation>
     </message>
     <message>
         <source>Find the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>寻找最佳对焦</translation>
     </message>
     <message>
         <source>Search &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>自动搜索(&amp;A)</translation>
     </message>
     <message>
         <source>Read the tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>读取倾斜</translation>
     </message>
     <message>
         <source>The order in which the regions become sharp says how the focus is tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>各区域变清晰的先后顺序反映焦平面的倾斜方向。</translation>
     </message>
     <message>
         <source>Read the &amp;tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>读取倾斜(&amp;T)</translation>
     </message>
     <message>
         <source>Moves the lens through its range and leaves it at the best position. Cancelling puts it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>在整个行程内移动镜头，并停在最佳位置。取消时恢复原位置。</translation>
     </message>
     <message>
         <source>Nothing was measured yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未测量。</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>of the peak. Sharpness %1, peak %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>相对峰值。清晰度 %1，峰值 %2。</translation>
     </message>
     <message>
         <source>Peak</source>
-        <translation type="unfinished"></translation>
+        <translation>峰值</translation>
     </message>
     <message>
         <source>Search the best position, or turn the lens slowly through the sharpest position.</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索最佳位置，或缓慢转动镜头经过最清晰的位置。</translation>
     </message>
     <message>
         <source>Turn the lens slowly through the sharpest position, then back to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>缓慢转动镜头经过最清晰的位置，然后转回该位置。</translation>
+    </message>
+    <message>
+        <source>Time before now</source>
+        <translation>距现在的时间</translation>
+    </message>
+    <message>
+        <source>Re&amp;gions per direction</source>
+        <translation>每方向区域数(&amp;G)</translation>
     </message>
 </context>
 <context>
     <name>FocusReport</name>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>对焦助手</translation>
     </message>
     <message>
         <source>Sharpness %1, which is %2 of the peak.</source>
-        <translation type="unfinished"></translation>
+        <translation>清晰度 %1，为峰值的 %2。</translation>
     </message>
     <message>
         <source>Share of the peak of each region</source>
-        <translation type="unfinished"></translation>
+        <translation>各区域的相对峰值</translation>
     </message>
     <message>
         <source>Sharpness during the last minute</source>
-        <translation type="unfinished"></translation>
+        <translation>最近一分钟的清晰度</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>区域</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished">行</translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished">列</translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>清晰度</translation>
     </message>
     <message>
         <source>Share of the peak</source>
-        <translation type="unfinished"></translation>
+        <translation>相对峰值</translation>
     </message>
     <message>
         <source>Best position</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳位置</translation>
     </message>
     <message>
         <source>Sharp at (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>清晰时刻 (s)</translation>
     </message>
     <message>
         <source>Share at the best position</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳位置处的相对峰值</translation>
     </message>
     <message>
         <source>The sharpness is the energy of the differences between neighbouring pixels, divided by the squared brightness, without the part of the noise. Exposure and gain do not change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>清晰度为相邻像素差值的能量除以亮度的平方，并扣除噪声部分。曝光和增益不影响清晰度。</translation>
     </message>
 </context>
 <context>
     <name>FocusTexts</name>
     <message>
         <source>Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>左端</translation>
     </message>
     <message>
         <source>Right end</source>
-        <translation type="unfinished"></translation>
+        <translation>右端</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>左上</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>右上</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>左下</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>右下</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>no edges</source>
-        <translation type="unfinished"></translation>
+        <translation>无边缘</translation>
     </message>
     <message>
         <source>too dark</source>
-        <translation type="unfinished"></translation>
+        <translation>过暗</translation>
     </message>
     <message>
         <source>overexposed</source>
-        <translation type="unfinished"></translation>
+        <translation>过曝</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1：%2</translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Shares of their peaks at the best position: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳位置处各角的相对峰值：%1。</translation>
     </message>
 </context>
 <context>
     <name>FocusWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果(&amp;S)…</translation>
     </message>
     <message>
         <source>Focus Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>对焦助手</translation>
     </message>
     <message>
         <source>Searching the best focus</source>
-        <translation type="unfinished"></translation>
+        <translation>正在搜索最佳对焦</translation>
     </message>
 </context>
 <context>
@@ -2353,27 +2349,27 @@ This value belongs to one camera or one moment.</source>
     <name>HtmlReport</name>
     <message>
         <source>Vendor</source>
-        <translation type="unfinished"></translation>
+        <translation>厂商</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">型号</translation>
+        <translation>型号</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished">序列号</translation>
+        <translation>序列号</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">名称</translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Settings of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机设置</translation>
     </message>
     <message>
         <source>Created by Corvix X, version %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>由 Corvix X %1 版创建。</translation>
     </message>
 </context>
 <context>
@@ -2395,119 +2391,119 @@ This value belongs to one camera or one moment.</source>
     <name>InputsForm</name>
     <message>
         <source>&amp;Lines come from</source>
-        <translation type="unfinished"></translation>
+        <translation>行触发来源(&amp;L)</translation>
     </message>
     <message>
         <source>the camera&apos;s line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>相机内部行频</translation>
     </message>
     <message>
         <source>an encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>编码器</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>速度(&amp;S)</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Speed of the object. With an encoder: the highest speed, for which the limits are checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>物体的运动速度。使用编码器时：最高速度，将据此检查各项限制。</translation>
     </message>
     <message>
         <source>&amp;Encoder</source>
-        <translation type="unfinished"></translation>
+        <translation>编码器参数(&amp;E)</translation>
     </message>
     <message>
         <source>movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>每脉冲位移</translation>
     </message>
     <message>
         <source>pulses and roller</source>
-        <translation type="unfinished"></translation>
+        <translation>脉冲数和滚轮</translation>
     </message>
     <message>
         <source>&amp;Movement per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>每脉冲位移(&amp;M)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Movement of the object for one pulse, that is one cycle of one signal of the encoder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pulses per &amp;revolution</source>
-        <translation type="unfinished"></translation>
+        <translation>一个脉冲（即编码器一路信号的一个周期）对应的物体位移。</translation>
     </message>
     <message>
         <source>Number of pulses that the encoder sends while its roller turns once.</source>
-        <translation type="unfinished"></translation>
+        <translation>滚轮转一圈时编码器发出的脉冲数。</translation>
     </message>
     <message>
         <source>Roller &amp;diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>滚轮直径(&amp;D)</translation>
     </message>
     <message>
         <source>Diameter of the roller or wheel that turns the encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>带动编码器的滚轮或轮子的直径。</translation>
     </message>
     <message>
         <source>Size of a &amp;pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>像素尺寸(&amp;P)</translation>
     </message>
     <message>
         <source>from sensor and lens</source>
-        <translation type="unfinished"></translation>
+        <translation>由传感器和镜头计算</translation>
     </message>
     <message>
         <source>known on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>已知物方像素尺寸</translation>
     </message>
     <message>
         <source>Pi&amp;xel of the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器像素(&amp;X)</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Width of a pixel of the sensor; the data sheet names it.</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器像素的宽度，见数据手册。</translation>
     </message>
     <message>
         <source>Ma&amp;gnification</source>
-        <translation type="unfinished"></translation>
+        <translation>放大倍率(&amp;G)</translation>
     </message>
     <message>
         <source>Size of the image on the sensor divided by the size of the object, for example 0.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器上像的尺寸除以物体的尺寸，例如 0.5。</translation>
     </message>
     <message>
         <source>Pixel &amp;on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>物方像素(&amp;O)</translation>
     </message>
     <message>
         <source>Width of the object that one pixel of the picture shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像中一个像素对应的物体宽度。</translation>
     </message>
     <message>
         <source>Use the longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>使用最长曝光</translation>
     </message>
     <message>
         <source>Otherwise, the exposure is only shortened if it does not fit into a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>否则，仅在曝光时间超出一行的周期时才缩短曝光。</translation>
     </message>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>未输入</translation>
+    </message>
+    <message>
+        <source>Pulses per re&amp;volution</source>
+        <translation>每转脉冲数(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -2528,67 +2524,67 @@ This value belongs to one camera or one moment.</source>
     <name>LayoutBox</name>
     <message>
         <source>As the camera says</source>
-        <translation type="unfinished"></translation>
+        <translation>按相机报告</translation>
     </message>
     <message>
         <source>By hand</source>
-        <translation type="unfinished"></translation>
+        <translation>手动</translation>
     </message>
     <message>
         <source>Taps:</source>
-        <translation type="unfinished"></translation>
+        <translation>通道：</translation>
     </message>
     <message>
         <source>Side by side:</source>
-        <translation type="unfinished"></translation>
+        <translation>左右并列：</translation>
     </message>
     <message>
         <source>Stripes of the picture, from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>图像从左到右的分区数</translation>
     </message>
     <message>
         <source>One above the other:</source>
-        <translation type="unfinished"></translation>
+        <translation>上下排列：</translation>
     </message>
     <message>
         <source>Stripes of the picture, from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>图像从上到下的分区数</translation>
     </message>
     <message>
         <source>Neighbouring columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>相邻列：</translation>
     </message>
     <message>
         <source>Taps that read the columns of a stripe in turn; 1 if a stripe has one tap</source>
-        <translation type="unfinished"></translation>
+        <translation>轮流读出一个分区各列的通道数；每个分区只有一个通道时为 1</translation>
     </message>
     <message>
         <source>Mean of all taps</source>
-        <translation type="unfinished"></translation>
+        <translation>所有通道的均值</translation>
     </message>
     <message>
         <source>Tap 1</source>
-        <translation type="unfinished"></translation>
+        <translation>通道 1</translation>
     </message>
     <message>
         <source>Compare with:</source>
-        <translation type="unfinished"></translation>
+        <translation>比较基准：</translation>
     </message>
     <message>
         <source>Images of each measurement; more images make the numbers more certain</source>
-        <translation type="unfinished"></translation>
+        <translation>每次测量的图像数；图像越多，数值越可靠</translation>
     </message>
     <message>
         <source>Images:</source>
-        <translation type="unfinished"></translation>
+        <translation>图像数：</translation>
     </message>
     <message>
         <source>Camera: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>相机：%1</translation>
     </message>
     <message>
-        <source>The camera does not say it</source>
-        <translation type="unfinished"></translation>
+        <source>Not reported by the camera</source>
+        <translation>相机未报告</translation>
     </message>
 </context>
 <context>
@@ -2622,19 +2618,19 @@ This value belongs to one camera or one moment.</source>
     <name>LevelBar</name>
     <message>
         <source>Brightness of the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像的亮度</translation>
     </message>
     <message>
         <source>%1 % of the range; 50 to 80 % is good</source>
-        <translation type="unfinished"></translation>
+        <translation>量程的 %1%；以 50% 至 80% 为宜</translation>
     </message>
     <message>
         <source>%1 % of the values are clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% 的像素值饱和</translation>
     </message>
     <message>
         <source>There is no picture.</source>
-        <translation type="unfinished">没有图像。</translation>
+        <translation>没有图像。</translation>
     </message>
 </context>
 <context>
@@ -2656,266 +2652,266 @@ This value belongs to one camera or one moment.</source>
     <name>LineScanReport</name>
     <message>
         <source>Speed of the object</source>
-        <translation type="unfinished"></translation>
+        <translation>物体速度</translation>
     </message>
     <message>
         <source>mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>mm/s</translation>
     </message>
     <message>
         <source>Movement per encoder pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>每编码器脉冲位移</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>物方像素</translation>
     </message>
     <message>
         <source>µm</source>
-        <translation type="unfinished"></translation>
+        <translation>µm</translation>
     </message>
     <message>
         <source>Line rate for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>方形像素所需行频</translation>
     </message>
     <message>
         <source>Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>Hz</translation>
     </message>
     <message>
         <source>Lines per pulse for square pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>方形像素所需每脉冲行数</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>最长曝光</translation>
     </message>
     <message>
         <source>µs</source>
-        <translation type="unfinished"></translation>
+        <translation>µs</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>最高速度</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余误差</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>线扫描调校</translation>
     </message>
     <message>
         <source>Round target</source>
-        <translation type="unfinished"></translation>
+        <translation>圆形目标</translation>
     </message>
     <message>
         <source>First measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>首次测量</translation>
     </message>
     <message>
         <source>Last measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>末次测量</translation>
     </message>
     <message>
         <source>Height to width</source>
-        <translation type="unfinished"></translation>
+        <translation>高宽比</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差</translation>
     </message>
     <message>
         <source>Turn of the camera (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>相机旋转角度 (°)</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像数</translation>
     </message>
     <message>
         <source>The picture at the time of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>生成报告时的图像</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">行频</translation>
+        <translation>行频</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>量</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">值</translation>
+        <translation>值</translation>
     </message>
     <message>
         <source>Written settings</source>
-        <translation type="unfinished"></translation>
+        <translation>已写入的设置</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">特性</translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>写入前</translation>
     </message>
 </context>
 <context>
     <name>LineScanWindow</name>
     <message>
         <source>Line Scan Tuner</source>
-        <translation type="unfinished"></translation>
+        <translation>线扫描调校</translation>
     </message>
     <message>
         <source>This camera takes whole pictures: it has no line rate (AcquisitionLineRate) and no encoder. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机为面阵相机：没有行频 (AcquisitionLineRate)，也没有编码器。请选择逐行拍摄运动物体的线扫描相机。</translation>
     </message>
     <message>
         <source>Do the &amp;next step</source>
-        <translation type="unfinished"></translation>
+        <translation>执行下一步(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果(&amp;S)…</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+回车键</translation>
     </message>
     <message>
         <source>Do the next step</source>
-        <translation type="unfinished"></translation>
+        <translation>执行下一步</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果</translation>
     </message>
     <message>
         <source>No round target was found yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未找到圆形目标。</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果…</translation>
     </message>
     <message>
         <source>the largest</source>
-        <translation type="unfinished"></translation>
+        <translation>最大的目标</translation>
     </message>
     <message>
         <source>the one that I click</source>
-        <translation type="unfinished"></translation>
+        <translation>我点击的目标</translation>
     </message>
     <message>
         <source>in the columns that I draw</source>
-        <translation type="unfinished"></translation>
+        <translation>我所绘制列内的目标</translation>
     </message>
     <message>
         <source>Which disc or ring is measured. The picture rolls, so only the columns count.</source>
-        <translation type="unfinished"></translation>
+        <translation>指定要测量的圆盘或圆环。图像不断滚动，因此只考虑列的位置。</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>目标(&amp;T)</translation>
     </message>
     <message>
         <source>Look for the target in the live picture</source>
-        <translation type="unfinished"></translation>
+        <translation>在实时图像中查找目标</translation>
     </message>
     <message>
         <source>The picture stands still for a moment where a target was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>找到目标时，图像会短暂停住。</translation>
     </message>
     <message>
         <source>Describe the machine</source>
-        <translation type="unfinished"></translation>
+        <translation>描述机器</translation>
     </message>
     <message>
         <source>Pixels are square if the camera takes one line while the object moves by one pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>物体每移动一个像素的距离，相机采集一行，像素即为方形。</translation>
     </message>
     <message>
         <source>Set the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>设置相机</translation>
     </message>
     <message>
         <source>This follows from the machine and from the limits of the camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>由机器参数和相机的限制得出。</translation>
     </message>
     <message>
         <source>Write the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>写入设置</translation>
     </message>
     <message>
         <source>Undo what was written</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销写入</translation>
     </message>
     <message>
         <source>Measure a round target</source>
-        <translation type="unfinished"></translation>
+        <translation>测量圆形目标</translation>
     </message>
     <message>
         <source>Let a dark or bright disc or ring move under the camera. It must be complete in one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>让深色或浅色的圆盘或圆环从相机下方经过。目标必须完整出现在一幅图像中。</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">测量</translation>
+        <translation>测量</translation>
     </message>
     <message>
         <source>Make it round</source>
-        <translation type="unfinished"></translation>
+        <translation>校正圆度</translation>
     </message>
     <message>
         <source>Correct the rate</source>
-        <translation type="unfinished"></translation>
+        <translation>校正行频</translation>
     </message>
     <message>
         <source>The target in the live picture is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像中的目标是圆形。</translation>
     </message>
     <message>
         <source>The target in the live picture is too tall.</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像中的目标偏高。</translation>
     </message>
     <message>
         <source>The target in the live picture is too flat.</source>
-        <translation type="unfinished"></translation>
+        <translation>实时图像中的目标偏扁。</translation>
     </message>
     <message>
         <source>The line rate, or the ratio of the encoder, is multiplied with width / height of the target.</source>
-        <translation type="unfinished"></translation>
+        <translation>行频或编码器比率将乘以目标的宽高比。</translation>
     </message>
     <message>
         <source>The camera is turned by %1° against the movement.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机相对于运动方向旋转了 %1°。</translation>
     </message>
     <message>
         <source>The camera has accepted the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机已接受这些设置。</translation>
     </message>
     <message>
         <source>Measuring the target</source>
-        <translation type="unfinished"></translation>
+        <translation>正在测量目标</translation>
     </message>
     <message>
         <source>Reading the settings</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取设置</translation>
     </message>
 </context>
 <context>
@@ -3238,31 +3234,31 @@ This value belongs to one camera or one moment.</source>
     <name>LogBox</name>
     <message>
         <source>Appends each reading to a CSV file until you stop it. A file of the same camera is continued.</source>
-        <translation type="unfinished"></translation>
+        <translation>将每个读数追加到 CSV 文件，直到停止为止。如已有同一相机的文件，则继续写入。</translation>
     </message>
     <message>
         <source>Log the temperatures</source>
-        <translation type="unfinished"></translation>
+        <translation>记录温度</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV 表格 (*.csv)</translation>
     </message>
     <message>
         <source>Stop the &amp;log</source>
-        <translation type="unfinished"></translation>
+        <translation>停止记录(&amp;L)</translation>
     </message>
     <message>
         <source>Start a &amp;log…</source>
-        <translation type="unfinished"></translation>
+        <translation>开始记录(&amp;L)…</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>记录文件：%1</translation>
     </message>
     <message>
         <source>The readings are not logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>未记录读数。</translation>
     </message>
 </context>
 <context>
@@ -3302,101 +3298,101 @@ This value belongs to one camera or one moment.</source>
     <name>Measure</name>
     <message>
         <source>The brightness changed by %1 % while the bright images were taken. Use a steady light, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>采集亮场图像期间亮度变化了 %1%。请使用稳定的光源，并重新采集图像。</translation>
     </message>
     <message>
         <source>Something moved while the bright images were taken. Point the camera at an evenly lit surface without objects, keep it still, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>采集亮场图像期间有物体移动。请将相机对准照明均匀、没有物体的表面，保持静止，并重新采集图像。</translation>
     </message>
     <message>
         <source>The bright images show a scene. Point the camera at an evenly lit surface without objects, for example white paper close to the lens and out of focus, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像中有景物。请将相机对准照明均匀、没有物体的表面（例如贴近镜头且离焦的白纸），并重新采集图像。</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the highest value: light reaches the sensor, or the exposure is too long. Cover the lens, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像达到最大值的 %1%：有光到达传感器，或曝光时间过长。请盖住镜头，然后重新采集暗场图像。</translation>
     </message>
     <message>
         <source>The dark images show something: light reaches the sensor. Cover the lens completely, then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像中有景物：有光到达传感器。请完全盖住镜头，然后重新采集暗场图像。</translation>
     </message>
     <message>
         <source>Many pixels of the dark images have the value 0, so their noise is not visible. Increase the black level (BlackLevel), then take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像中许多像素的值为 0，无法观察其噪声。请提高黑电平 (BlackLevel)，然后重新采集暗场图像。</translation>
     </message>
     <message>
         <source>The bright images are too dark: they use %1 % of the value range. Uncover the lens, use more light or a longer exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像过暗：仅使用了值域的 %1%。请取下遮盖，增强光照或延长曝光时间，并重新采集图像。</translation>
     </message>
     <message>
         <source>%1 % of the pixels of the bright images have the highest value. Use less light or a shorter exposure, and take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像中 %1% 的像素为最大值。请减弱光照或缩短曝光时间，并重新采集图像。</translation>
     </message>
     <message>
         <source>%1 % of the pixels deviate from their neighbours, so the surface had a structure, or light reached the sensor during the dark images. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% 的像素与相邻像素有偏差，说明表面有纹理，或采集暗场图像时有光到达传感器。请重新采集图像。</translation>
     </message>
     <message>
         <source>Set %1 to %2: defect pixels are measured at full resolution without mirroring.</source>
-        <translation type="unfinished"></translation>
+        <translation>请将 %1 设为 %2：须在全分辨率且无镜像的条件下测量坏点。</translation>
     </message>
     <message>
         <source>Choose a pixel format that contains the values of the pixels as they are, with 8 to 16 bits: Mono8 to Mono16, or Bayer (PixelFormat).</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择保留像素原始值的 8 至 16 位像素格式 (PixelFormat)：Mono8 至 Mono16，或 Bayer。</translation>
     </message>
     <message>
         <source>Choose a region of %1 x %1 pixels or more (Width, Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择不小于 %1 x %1 像素的区域 (Width, Height)。</translation>
     </message>
     <message>
         <source>The size or the pixel format of the images has changed. Take the images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像的尺寸或像素格式已改变。请重新采集图像。</translation>
     </message>
     <message>
         <source>Take %1 images or more: with fewer images, the noise hides defects.</source>
-        <translation type="unfinished"></translation>
+        <translation>请采集至少 %1 帧图像：图像过少时，噪声会掩盖坏点。</translation>
     </message>
     <message>
         <source>The region or the pixel format differs from that of the dark images. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ROI 或像素格式与暗场图像不同。请恢复原设置，或重新采集暗场图像。</translation>
     </message>
     <message>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>增益与暗场图像的增益 %1 不同。请恢复原设置，或重新采集暗场图像。</translation>
     </message>
 </context>
 <context>
     <name>MeasureBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">取消</translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>End the measurement. The settings of the camera are put back. (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>结束测量，并恢复相机设置。(Esc)</translation>
     </message>
 </context>
 <context>
     <name>MeasureJob</name>
     <message>
         <source>The camera is not open for control, so nothing can be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>未以控制方式打开相机，因此无法测量。</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Measure again when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>测量期间相机连接已断开。请在相机恢复后重新测量。</translation>
     </message>
     <message>
         <source>The camera was closed during the measurement.</source>
-        <translation type="unfinished"></translation>
+        <translation>测量期间相机已关闭。</translation>
     </message>
     <message>
         <source>The camera sends no pictures. %1</source>
-        <translation type="unfinished">相机未发送图像。%1</translation>
+        <translation>相机未发送图像。%1</translation>
     </message>
     <message>
         <source>Some settings were not put back. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>部分设置未能恢复。%1</translation>
     </message>
 </context>
 <context>
@@ -3696,103 +3692,103 @@ This value belongs to one camera or one moment.</source>
     <name>PlanView</name>
     <message>
         <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kHz</translation>
     </message>
     <message>
         <source>by the link</source>
-        <translation type="unfinished"></translation>
+        <translation>受链路限制</translation>
     </message>
     <message>
         <source>by the exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>受曝光限制</translation>
     </message>
     <message>
         <source>by the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>受相机限制</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished">特性</translation>
+        <translation>特性</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>新值</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>原值</translation>
     </message>
     <message>
         <source>Settings that are written</source>
-        <translation type="unfinished"></translation>
+        <translation>要写入的设置</translation>
     </message>
     <message>
         <source>Pixel on the object</source>
-        <translation type="unfinished"></translation>
+        <translation>物方像素</translation>
     </message>
     <message>
         <source>%1 µm</source>
-        <translation type="unfinished">%1 µm</translation>
+        <translation>%1 µm</translation>
     </message>
     <message>
         <source>Line rate</source>
-        <translation type="unfinished">行频</translation>
+        <translation>行频</translation>
     </message>
     <message>
         <source>Highest line rate</source>
-        <translation type="unfinished"></translation>
+        <translation>最高行频</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>最高速度</translation>
     </message>
     <message>
         <source>%1 mm/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm/s</translation>
     </message>
     <message>
         <source>Longest exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>最长曝光</translation>
     </message>
     <message>
         <source>%1 µs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 µs</translation>
     </message>
     <message>
         <source>Dead time of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>行死区时间</translation>
     </message>
     <message>
         <source>Lines per pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>每脉冲行数</translation>
     </message>
     <message>
         <source>Multiplier, divider</source>
-        <translation type="unfinished"></translation>
+        <translation>倍频、分频</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Remaining error</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余误差</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished">%1%</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>The camera is set up for this already.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机已按此设置。</translation>
     </message>
     <message>
         <source>These features are written, in this order:</source>
-        <translation type="unfinished"></translation>
+        <translation>将按以下顺序写入这些特性：</translation>
     </message>
 </context>
 <context>
@@ -4014,167 +4010,171 @@ This value belongs to one camera or one moment.</source>
     <name>RepairPanel</name>
     <message>
         <source>Cover the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>盖住镜头</translation>
     </message>
     <message>
         <source>No light may reach the sensor. A long exposure and a high gain show more hot pixels: use the longest exposure that you work with, and let the camera warm up.</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器上不得有光。曝光时间越长、增益越高，能发现的热像素越多：请使用实际应用中最长的曝光时间，并让相机充分升温。</translation>
     </message>
     <message>
         <source>Take &amp;dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>采集暗场图像(&amp;D)</translation>
     </message>
     <message>
         <source>Point at an evenly lit surface</source>
-        <translation type="unfinished"></translation>
+        <translation>对准照明均匀的表面</translation>
     </message>
     <message>
         <source>Uncover the lens and fill the picture with one bright surface without objects, for example white paper, out of focus. Half of the highest brightness is best; leave the gain as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>请取下遮盖，使画面充满没有物体的明亮表面，例如离焦的白纸。亮度以最大值的一半为宜；增益保持不变。</translation>
     </message>
     <message>
         <source>Take &amp;bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>采集亮场图像(&amp;B)</translation>
     </message>
     <message>
         <source>Save the map</source>
-        <translation type="unfinished"></translation>
+        <translation>保存坏点表</translation>
     </message>
     <message>
         <source>The Image Viewer and cvxctl repair pictures with the map. A report and a table are saved beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像查看器和 cvxctl 用坏点表修复图像。同时会在旁边保存报告和表格。</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished">保存(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>Of each kind. More images find weaker defects and pixels that blink rarely.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像数量(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Number of dark images and of bright images. More images find weaker defects and pixels that blink rarely.</source>
+        <translation>暗场和亮场图像各自的数量。图像越多，越能发现较弱的坏点和偶尔闪烁的像素。</translation>
     </message>
 </context>
 <context>
     <name>RepairReport</name>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>像素修复</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished">结果</translation>
+        <translation>结果</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>团簇</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>彼此相邻的坏点。</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>含八个或更多坏点的列段。</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>含八个或更多坏点的行段。</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>数量</translation>
     </message>
     <message>
         <source>Meaning</source>
-        <translation type="unfinished"></translation>
+        <translation>含义</translation>
     </message>
     <message>
         <source>Places of the defect pixels on the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>坏点在传感器上的位置</translation>
     </message>
     <message>
         <source>Conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>测量条件</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像</translation>
     </message>
     <message>
         <source>Exposure in ms</source>
-        <translation type="unfinished"></translation>
+        <translation>曝光时间 (ms)</translation>
     </message>
     <message>
         <source>Gain</source>
-        <translation type="unfinished">增益</translation>
+        <translation>增益</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished">级别</translation>
+        <translation>电平</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>噪声</translation>
     </message>
     <message>
         <source>Spread of the good pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>正常像素的离散度</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场</translation>
     </message>
     <message>
         <source>Threshold: %1 standard deviations. Examined pixels: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>阈值：%1 倍标准差。检查的像素数：%2。</translation>
     </message>
 </context>
 <context>
     <name>RepairWindow</name>
     <message>
         <source>&amp;Save the map…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存坏点表(&amp;S)…</translation>
     </message>
     <message>
         <source>Pixel Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>像素修复</translation>
     </message>
     <message>
         <source>Taking the dark images</source>
-        <translation type="unfinished"></translation>
+        <translation>正在采集暗场图像</translation>
     </message>
     <message numerus="yes">
         <source>%n dark image(s) taken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已采集 %n 帧暗场图像。</numerusform>
         </translation>
     </message>
     <message>
         <source>Taking the bright images</source>
-        <translation type="unfinished"></translation>
+        <translation>正在采集亮场图像</translation>
     </message>
     <message>
-        <source>%1 was off during the measurement, so the map contains what the camera itself can repair.</source>
-        <translation type="unfinished"></translation>
+        <source>%1 was off during the measurement, so the map also contains what the camera itself can repair.</source>
+        <translation>测量期间 %1 已关闭，因此坏点表中包含相机自身可修复的坏点。</translation>
+    </message>
+    <message>
+        <source>The picture is not repaired: %1.</source>
+        <translation>图像未修复：%1。</translation>
     </message>
 </context>
 <context>
@@ -4216,70 +4216,70 @@ This value belongs to one camera or one moment.</source>
     <name>ResultBox</name>
     <message>
         <source>Defect pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>坏点</translation>
     </message>
     <message>
         <source>&amp;Mark the defect pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the &amp;repaired picture</source>
-        <translation type="unfinished"></translation>
+        <translation>标记坏点(&amp;M)</translation>
     </message>
     <message>
         <source>Replaces each defect pixel by the median of its good neighbours of the same colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>用同色正常相邻像素的中值替换每个坏点。</translation>
     </message>
     <message>
         <source>Clusters</source>
-        <translation type="unfinished"></translation>
+        <translation>团簇</translation>
     </message>
     <message>
         <source>Defect pixels that touch each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>彼此相邻的坏点。</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Parts of columns with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>含八个或更多坏点的列段。</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>行</translation>
     </message>
     <message>
         <source>Parts of lines with eight defect pixels or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>含八个或更多坏点的行段。</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Show the re&amp;paired picture</source>
+        <translation>显示修复后的图像(&amp;P)</translation>
     </message>
 </context>
 <context>
     <name>ResultSaver</name>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果</translation>
     </message>
     <message>
         <source>Results (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>结果 (%1)</translation>
     </message>
     <message>
         <source>These files exist already: %1. Do you want to replace them?</source>
-        <translation type="unfinished"></translation>
+        <translation>以下文件已存在：%1。是否替换？</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>替换</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not saved. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”未保存。%2</translation>
     </message>
 </context>
 <context>
@@ -4345,427 +4345,439 @@ This value belongs to one camera or one moment.</source>
     <name>Sentence</name>
     <message>
         <source>The exposure time of this camera cannot be set. Change the light until the picture has about 70 % of the range, and measure without setting the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机的曝光时间无法设置。请调整光照，使图像达到量程的约 70%，并在不设置曝光时间的情况下测量。</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed since the dark images. Take the dark images again.</source>
-        <translation type="unfinished"></translation>
+        <translation>采集暗场图像后 ROI 或像素格式已改变。请重新采集暗场图像。</translation>
     </message>
     <message>
         <source>The pixel format %1 cannot be corrected. Choose a Mono or Bayer format of 8 to 16 bits.</source>
-        <translation type="unfinished"></translation>
+        <translation>像素格式 %1 无法校正。请选择 8 至 16 位的 Mono 或 Bayer 格式。</translation>
     </message>
     <message>
         <source>The colours of a line scan camera cannot be corrected. Choose a Mono format.</source>
-        <translation type="unfinished"></translation>
+        <translation>线扫描相机的颜色无法校正。请选择 Mono 格式。</translation>
     </message>
     <message>
         <source>The region or the pixel format has changed during the measurement. Measure again without changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>测量期间 ROI 或像素格式已改变。请重新测量，期间不要更改。</translation>
     </message>
     <message>
         <source>%1 images are too few for a correction. Take at least %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 帧图像不足以进行校正。请至少采集 %2 帧。</translation>
     </message>
     <message>
         <source>The bright images are too dark: %1 % of the range above the dark images. Is the lens still covered? Otherwise, use more light or a longer exposure time, for about 70 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像过暗：仅比暗场图像高出量程的 %1%。镜头是否仍被盖住？如果没有，请增强光照或延长曝光时间，以达到约 70%。</translation>
     </message>
     <message>
         <source>The bright images have %1 % of the range. Between 50 and 80 %, the gains are most exact.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像为量程的 %1%。在 50% 至 80% 之间时增益最准确。</translation>
     </message>
     <message>
         <source>Parts of the picture have changed by %1 % between the images: something moves, or the light flickers. Use an even surface that keeps still, and steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>各图像之间画面局部变化了 %1%：有物体移动或光源闪烁。请使用静止的均匀表面和稳定的光源。</translation>
     </message>
     <message>
         <source>The brightness has changed by %1 % between the images. Use steady light.</source>
-        <translation type="unfinished"></translation>
+        <translation>各图像之间亮度变化了 %1%。请使用稳定的光源。</translation>
     </message>
     <message>
         <source>The dark images have %1 % of the range, so there seems to be light. Cover the lens completely. If it is covered, reduce BlackLevel or Gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像为量程的 %1%，似乎有光进入。请完全盖住镜头。如果已盖住，请减小 BlackLevel 或 Gain。</translation>
     </message>
     <message>
         <source>The dark images are not equally dark everywhere. Make sure that no light reaches the lens, and take them again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像各处的暗度不一致。请确保没有光进入镜头，然后重新采集。</translation>
     </message>
     <message>
         <source>%1 % of the values in the dark are 0, so the offsets are cut off. Increase BlackLevel.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场中 %1% 的像素值为 0，偏置被截断。请增大 BlackLevel。</translation>
     </message>
     <message>
         <source>The noise in the dark is smaller than one step of the pixel format, so the numbers of the dark images are not exact. A pixel format with more bits shows the differences.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场噪声小于像素格式的一个灰阶，因此暗场数值不精确。位数更多的像素格式可以显示这些差异。</translation>
     </message>
     <message>
         <source>%1 % of the values in the bright images are clipped. Reduce the exposure time or the light, to about 70 % of the range.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像中 %1% 的像素值饱和。请缩短曝光时间或减弱光照，以达到量程的约 70%。</translation>
     </message>
     <message>
         <source>The bright images show structures that look like an object and not like shading; the correction would draw them into every picture. Use an even surface, out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像中的结构像是物体而不是阴影；校正会将其叠加到每幅图像中。请使用均匀的表面，并使其离焦。</translation>
     </message>
     <message>
         <source>The picture is too dark. Remove the lens cap, open the aperture, add light or lengthen the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像过暗。请取下镜头盖、增大光圈、增强光照或延长曝光时间。</translation>
     </message>
     <message>
         <source>%1 % of the pixels are overexposed. Close the aperture or shorten the exposure time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% 的像素过曝。请减小光圈或缩短曝光时间。</translation>
     </message>
     <message>
         <source>The picture has no edges. Point the camera at something with structure, for example a printed page, or turn the lens if the picture is blurred.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像中没有边缘。请将相机对准有纹理的物体，例如印刷页；如果图像模糊，请转动镜头。</translation>
     </message>
     <message>
         <source>Pictures of this pixel format cannot be measured. Choose a Mono, Bayer, RGB or YUV format.</source>
-        <translation type="unfinished"></translation>
+        <translation>此像素格式的图像无法测量。请选择 Mono、Bayer、RGB 或 YUV 格式。</translation>
     </message>
     <message>
         <source>The picture is too small for so many regions. Choose a larger Width and Height, or fewer regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像过小，无法划分这么多区域。请增大 Width 和 Height，或减少区域数。</translation>
     </message>
     <message>
         <source>The picture became sharp at no position of the lens. Point the camera at something with structure, check the distance, and search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>在镜头的任何位置图像都不清晰。请将相机对准有纹理的物体，检查距离，然后重新搜索。</translation>
     </message>
     <message>
         <source>The camera cannot move its lens: it has no feature for the position of the focus, for example LensFocusPosition. Turn the lens by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机无法移动镜头：没有对焦位置特性，例如 LensFocusPosition。请手动转动镜头。</translation>
     </message>
     <message>
         <source>The right edge is sharp at a higher position than the left edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>右边缘的清晰位置比左边缘高 %1。</translation>
     </message>
     <message>
         <source>The left edge became sharp before the right edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>左边缘比右边缘早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The lower right corner is sharp at a higher position than the upper left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>右下角的清晰位置比左上角高 %1。</translation>
     </message>
     <message>
         <source>The upper left corner became sharp before the lower right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>左上角比右下角早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The lower edge is sharp at a higher position than the upper edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>下边缘的清晰位置比上边缘高 %1。</translation>
     </message>
     <message>
         <source>The upper edge became sharp before the lower edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>上边缘比下边缘早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The lower left corner is sharp at a higher position than the upper right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>左下角的清晰位置比右上角高 %1。</translation>
     </message>
     <message>
         <source>The upper right corner became sharp before the lower left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>右上角比左下角早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The left edge is sharp at a higher position than the right edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>左边缘的清晰位置比右边缘高 %1。</translation>
     </message>
     <message>
         <source>The right edge became sharp before the left edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>右边缘比左边缘早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The upper left corner is sharp at a higher position than the lower right corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>左上角的清晰位置比右下角高 %1。</translation>
     </message>
     <message>
         <source>The lower right corner became sharp before the upper left corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>右下角比左上角早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The upper edge is sharp at a higher position than the lower edge, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>上边缘的清晰位置比下边缘高 %1。</translation>
     </message>
     <message>
         <source>The lower edge became sharp before the upper edge, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>下边缘比上边缘早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The upper right corner is sharp at a higher position than the lower left corner, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>右上角的清晰位置比左下角高 %1。</translation>
     </message>
     <message>
         <source>The lower left corner became sharp before the upper right corner, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>左下角比右上角早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>Turn the lens slowly in one direction, until the picture has become blurred again.</source>
-        <translation type="unfinished"></translation>
+        <translation>请沿一个方向缓慢转动镜头，直到图像重新变模糊。</translation>
     </message>
     <message>
         <source>Keep turning in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>继续沿此方向转动。</translation>
     </message>
     <message>
         <source>Turn back: the peak lies in the other direction.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The picture is as sharp as it becomes. Lock the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>请往回转：峰值在另一方向。</translation>
     </message>
     <message>
         <source>The best position is %1. The lens is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳位置为 %1。镜头已在该位置。</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens up by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳位置为 %1：请将镜头位置调高 %2。</translation>
     </message>
     <message>
         <source>The best position is %1: move the lens down by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳位置为 %1：请将镜头位置调低 %2。</translation>
     </message>
     <message>
         <source>Too few regions became sharp and blurred again to tell whether the focus is tilted. Point the camera at something with edges all over the picture, and go through the sharpest position once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>变清晰后又变模糊的区域过少，无法判断焦平面是否倾斜。请将相机对准整幅画面都有边缘的物体，再次经过最清晰的位置。</translation>
     </message>
     <message>
         <source>The focus is not tilted.</source>
-        <translation type="unfinished"></translation>
+        <translation>焦平面没有倾斜。</translation>
     </message>
     <message>
         <source>The centre became sharp before the corners, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>中心比四角早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The corners became sharp before the centre, by %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>四角比中心早 %1 s 变清晰。</translation>
     </message>
     <message>
         <source>The corners are sharp at a higher position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>四角的清晰位置比中心高 %1。</translation>
     </message>
     <message>
         <source>The corners are sharp at a lower position than the centre, by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>四角的清晰位置比中心低 %1。</translation>
     </message>
     <message>
         <source>The link carries %1 MB/s: at most %2 kHz with this width and pixel format. Choose a smaller width, a pixel format with fewer bits, or a lower speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>链路传输速率为 %1 MB/s：在此宽度和像素格式下最高 %2 kHz。请减小宽度，选择位数更少的像素格式，或降低速度。</translation>
     </message>
     <message>
         <source>The exposure allows at most %1 kHz, because a line cannot be shorter than its exposure. Shorten the exposure, and add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>此曝光时间最高允许 %1 kHz，因为一行的周期不能短于曝光时间。请缩短曝光时间，并增强光照或提高增益。</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz with its present settings. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机在当前设置下最高 %1 kHz。请降低速度或减小放大倍率。</translation>
     </message>
     <message>
         <source>This camera takes whole pictures. Choose a line scan camera, which takes single lines of a moving object.</source>
-        <translation type="unfinished"></translation>
+        <translation>此相机为面阵相机。请选择逐行拍摄运动物体的线扫描相机。</translation>
     </message>
     <message>
         <source>Every number must be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有数值必须大于 0。</translation>
     </message>
     <message>
         <source>Enter the pixel size and the magnification, or the size of a pixel on the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入像素尺寸和放大倍率，或输入物方像素尺寸。</translation>
     </message>
     <message>
         <source>Enter the speed of the object.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入物体速度。</translation>
     </message>
     <message>
         <source>Enter the movement per encoder pulse, or the pulses per revolution and the diameter of the roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入每编码器脉冲位移，或输入每转脉冲数和滚轮直径。</translation>
     </message>
     <message>
         <source>The camera has no line rate of its own (AcquisitionLineRate). Use an encoder, or an external trigger.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有内部行频 (AcquisitionLineRate)。请使用编码器或外部触发。</translation>
     </message>
     <message>
         <source>The camera cannot start lines by an encoder (TriggerSelector has no LineStart). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机无法由编码器触发行采集（TriggerSelector 没有 LineStart）。请使用相机的行频。</translation>
     </message>
     <message>
         <source>The exposure of %1 µs is longer than a line. It has to be shortened to %2 µs, so the picture becomes darker: add light or gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>曝光时间 %1 µs 长于一行的周期，须缩短到 %2 µs，图像会变暗：请增强光照或提高增益。</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机最接近的设置会使物体偏高 %1%。请更改放大倍率，或使用其他编码器。</translation>
     </message>
     <message>
         <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification, or use another encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机最接近的设置会使物体偏扁 %1%。请更改放大倍率，或使用其他编码器。</translation>
     </message>
     <message>
         <source>The camera offers no encoder as the source of its line trigger (TriggerSource). Use its line rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机不支持以编码器作为行触发源 (TriggerSource)。请使用相机的行频。</translation>
     </message>
     <message>
         <source>The camera takes at most %1 kHz, but square pixels need %2 kHz. Nothing was changed. Choose a lower speed or a smaller magnification.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机最高 %1 kHz，而方形像素需要 %2 kHz。未作任何更改。请降低速度或减小放大倍率。</translation>
     </message>
     <message>
         <source>The camera has refused %1, so nothing was changed. %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The camera has refused a setting, and then also to go back to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>相机拒绝了 %1，因此未作任何更改。%2</translation>
     </message>
     <message>
         <source>The circle is round: height and width differ by %1 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>目标为圆形：高度与宽度相差 %1%。</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>目标偏高 %1%：请将每编码器脉冲行数从 %2 减小到 %3。</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the lines per encoder pulse from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>目标偏扁 %1%：请将每编码器脉冲行数从 %2 增大到 %3。</translation>
     </message>
     <message>
         <source>The circle is %1 % too tall: lower the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>目标偏高 %1%：请将行频从 %2 kHz 降低到 %3 kHz。</translation>
     </message>
     <message>
         <source>The circle is %1 % too flat: raise the line rate from %2 kHz to %3 kHz.</source>
-        <translation type="unfinished"></translation>
+        <translation>目标偏扁 %1%：请将行频从 %2 kHz 提高到 %3 kHz。</translation>
     </message>
     <message>
         <source>The border of the round target is uneven. Check whether the object moves evenly, whether lines are lost, and whether the target is sharp and free of other shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>圆形目标的边缘不规则。请检查物体运动是否均匀、是否丢行，以及目标是否清晰且没有其他形状干扰。</translation>
     </message>
     <message>
         <source>There is no complete round target in the picture of %1 lines. Show the camera a dark or bright disc or ring, or make the picture higher (Height).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 行的图像中没有完整的圆形目标。请让相机拍摄深色或浅色的圆盘或圆环，或增大图像高度 (Height)。</translation>
     </message>
     <message>
         <source>The picture has too little contrast. Take off the lens cap, add light, and show the camera a dark or bright disc or ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像对比度过低。请取下镜头盖，增强光照，并让相机拍摄深色或浅色的圆盘或圆环。</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s, because it waits for a trigger. Trigger it, or set TriggerMode to Off, and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机正在等待触发，已 %1 s 未发送图像。请触发相机，或将 TriggerMode 设为 Off，然后重新测量。</translation>
     </message>
     <message>
         <source>The camera has sent no image for %1 s. Check whether the live picture moves, and the cable, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机已 %1 s 未发送图像。请检查实时图像是否更新以及线缆，然后重新测量。</translation>
     </message>
     <message>
         <source>The camera was lost during the measurement. Check its cable and its power, wait until the picture is back, then measure again. (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The images have ended during the measurement. Start the live picture and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>测量期间相机连接已断开。请检查线缆和电源，等待图像恢复，然后重新测量。(%1)</translation>
     </message>
     <message>
         <source>The images arrive with missing data. Check the cable and the network card (&quot;cvxctl doctor&quot; helps), or lower the image rate, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>到达的图像数据缺失。请检查线缆和网卡（可使用“cvxctl doctor”），或降低帧率，然后重新测量。</translation>
     </message>
     <message>
         <source>The measurement was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>测量已取消。</translation>
     </message>
     <message>
         <source>The pixel values are not proportional to the light. Set Gamma to 1, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>像素值与光强不成正比。请将 Gamma 设为 1，然后重新测量。</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;DeviceTapGeometry&quot;. Choose the layout of its taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有特性“DeviceTapGeometry”。请手动选择通道布局。</translation>
     </message>
     <message>
         <source>The tap geometry &quot;%1&quot; is unknown. Choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>通道几何结构“%1”未知。请手动选择通道布局。</translation>
     </message>
     <message>
         <source>The sensor has one tap only, so there is nothing to balance. If that is wrong, choose the layout of the taps by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器只有一个通道，无需平衡。如有误，请手动选择通道布局。</translation>
     </message>
     <message>
         <source>The camera has no feature &quot;%1&quot;, so its taps can be measured, but not set.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有特性“%1”，因此只能测量通道，无法设置。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the entries Tap1 to Tap%2, so the taps can be measured, but not set. Choose the layout of the camera&apos;s taps.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”没有选项 Tap1 至 Tap%2，因此只能测量通道，无法设置。请选择相机的通道布局。</translation>
     </message>
     <message>
         <source>The scene moves: %1 % of the picture has changed during the measurement. Show an even surface that rests, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面在变动：测量期间 %1% 的画面发生了变化。请拍摄静止的均匀表面，然后重新测量。</translation>
     </message>
     <message>
         <source>The picture is overexposed: %1 % of a tap&apos;s pixels have the largest value. Shorten the exposure time or close the lens aperture, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像过曝：某通道 %1% 的像素为最大值。请缩短曝光时间或减小镜头光圈，然后重新测量。</translation>
     </message>
     <message>
         <source>The picture is too dark: it reaches %1 % of the range. Remove the lens cap, add light or lengthen the exposure time, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像过暗：仅达到量程的 %1%。请取下镜头盖，增强光照或延长曝光时间，然后重新测量。</translation>
     </message>
     <message>
         <source>The picture is not dark: its mean is %1 % of the range. Cover the lens, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像不是暗场：均值为量程的 %1%。请盖住镜头，然后重新测量。</translation>
     </message>
     <message>
         <source>The dark picture is cut off: %1 % of a tap&apos;s pixels are 0. Raise the black level, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像被截断：某通道 %1% 的像素为 0。请提高黑电平，然后重新测量。</translation>
     </message>
     <message>
         <source>The step between tap %1 and tap %2 cannot be told from the scene. Show an even surface, or take more images, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法从画面中区分通道 %1 与通道 %2 之间的台阶。请拍摄均匀表面，或采集更多图像，然后重新测量。</translation>
     </message>
     <message>
         <source>Taps cannot be measured in this pixel format. Choose a Mono or Bayer format of 8 to 16 bits, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法在此像素格式下测量通道。请选择 8 至 16 位的 Mono 或 Bayer 格式，然后重新测量。</translation>
     </message>
     <message>
         <source>The taps read neighbouring pixels in turn, which have different colours, so taps and colours cannot be told apart. Choose a layout of stripes by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>各通道轮流读出颜色不同的相邻像素，因此无法区分通道与颜色。请手动选择分区布局。</translation>
     </message>
     <message>
         <source>Binning adds up pixels of several taps. Switch it off, then measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>像素合并会将多个通道的像素相加。请关闭像素合并，然后重新测量。</translation>
     </message>
     <message>
         <source>The size or the format of the images has changed during the measurement. Measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>测量期间图像的尺寸或格式已改变。请重新测量。</translation>
     </message>
     <message>
         <source>The dark level of this pixel format cannot be measured; choose a Mono, Bayer or RGB format.</source>
-        <translation type="unfinished"></translation>
+        <translation>此像素格式的暗电平无法测量；请选择 Mono、Bayer 或 RGB 格式。</translation>
     </message>
     <message>
         <source>The picture is not dark. Put the cap on the lens, or cover the lens completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>图像不是暗场。请盖上镜头盖，或完全盖住镜头。</translation>
     </message>
     <message>
         <source>%1 % of the pixels are 0, which hides the dark level. Raise BlackLevel, so that the noise lies above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% 的像素为 0，掩盖了暗电平。请提高 BlackLevel，使噪声高于 0。</translation>
     </message>
     <message>
         <source>The noise is smaller than one step of the pixel format, which hides small changes of the dark level. Choose a pixel format with more bits, or a higher gain.</source>
-        <translation type="unfinished"></translation>
+        <translation>噪声小于像素格式的一个灰阶，掩盖了暗电平的微小变化。请选择位数更多的像素格式或更高的增益。</translation>
     </message>
     <message>
         <source>The features cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取特性：%1</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有特性 DeviceTemperature，因此不报告温度。</translation>
     </message>
     <message>
         <source>The scene moves, so the regions&apos; shares also change with what they show. Let it stand still to compare the regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面在变动，各区域的相对值会随画面内容改变。请使画面静止，再比较各区域。</translation>
+    </message>
+    <message>
+        <source>The picture is as sharp as it gets. Lock the lens.</source>
+        <translation>图像已达到最清晰。请锁紧镜头。</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too tall. Change the magnification or the speed.</source>
+        <translation>相机最接近的设置会使物体偏高 %1%。请更改放大倍率或速度。</translation>
+    </message>
+    <message>
+        <source>The closest setting of the camera makes objects %1 % too flat. Change the magnification or the speed.</source>
+        <translation>相机最接近的设置会使物体偏扁 %1%。请更改放大倍率或速度。</translation>
+    </message>
+    <message>
+        <source>The camera has refused a setting, and then also refused to go back to %1: %2</source>
+        <translation>相机拒绝了一项设置，随后又拒绝恢复 %1：%2</translation>
+    </message>
+    <message>
+        <source>The stream has ended during the measurement. Start the live picture and measure again.</source>
+        <translation>测量期间图像已中断。请启动实时图像并重新测量。</translation>
+    </message>
+    <message>
+        <source>The picture shows no border between tap %1 and the other taps. Set the region to the whole sensor, or choose another layout, then measure again.</source>
+        <translation>图像中没有通道 %1 与其他通道的边界。请将区域设为整个传感器，或选择其他布局，然后重新测量。</translation>
     </message>
 </context>
 <context>
@@ -5135,15 +5147,15 @@ This value belongs to one camera or one moment.</source>
     <name>StepCard</name>
     <message>
         <source>Step %1, not yet possible: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>步骤 %1，尚不可用：%2</translation>
     </message>
     <message>
         <source>Step %1, next: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>步骤 %1，下一步：%2</translation>
     </message>
     <message>
         <source>Step %1, done: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>步骤 %1，已完成：%2</translation>
     </message>
 </context>
 <context>
@@ -5312,269 +5324,269 @@ This value belongs to one camera or one moment.</source>
     <name>TapBars</name>
     <message>
         <source>Deviation of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>各通道的偏差</translation>
     </message>
     <message>
         <source>Grey: before; blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>灰色：之前；蓝色：当前</translation>
     </message>
     <message>
         <source>Tap %1: %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>通道 %1：%2 %3</translation>
     </message>
     <message>
         <source>Not measured yet</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未测量</translation>
     </message>
 </context>
 <context>
     <name>TapPanel</name>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>通道</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">均值</translation>
+        <translation>均值</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>噪声</translation>
     </message>
     <message>
         <source>Mismatch of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>通道失配</translation>
     </message>
     <message>
         <source>Skip this step</source>
-        <translation type="unfinished"></translation>
+        <translation>跳过此步骤</translation>
     </message>
     <message>
         <source>Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销上次平衡</translation>
     </message>
     <message>
         <source>Mean and noise of each tap</source>
-        <translation type="unfinished"></translation>
+        <translation>各通道的均值和噪声</translation>
     </message>
     <message>
         <source>Shading changes the means, so the steps at the borders say how the taps differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>阴影会改变均值，因此通道间的差异以边界处的台阶为准。</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished">测量</translation>
+        <translation>测量</translation>
     </message>
     <message>
         <source>Show an even, bright surface that fills the picture, for example a white sheet out of focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>请拍摄充满画面的均匀明亮表面，例如离焦的白纸。</translation>
     </message>
     <message>
         <source>Measure the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>测量通道</translation>
     </message>
     <message>
         <source>Black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>黑电平</translation>
     </message>
     <message>
         <source>Cover the lens. Without this step, differences of the black levels count as those of the gains.</source>
-        <translation type="unfinished"></translation>
+        <translation>请盖住镜头。跳过此步骤时，黑电平差异会计入增益差异。</translation>
     </message>
     <message>
         <source>Balance the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>平衡黑电平</translation>
     </message>
     <message>
         <source>Gains</source>
-        <translation type="unfinished"></translation>
+        <translation>增益</translation>
     </message>
     <message>
         <source>Uncover the lens and show the even, bright surface again.</source>
-        <translation type="unfinished"></translation>
+        <translation>请取下遮盖，再次拍摄均匀明亮的表面。</translation>
     </message>
     <message>
         <source>Balance the gains</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>平衡增益</translation>
     </message>
     <message>
         <source>The camera has the new values until it is switched off. Store them in a user set with Camera Setup to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>新值在相机断电前有效。如需保留，请用“相机配置”将其存入用户集。</translation>
     </message>
     <message>
         <source>Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果…</translation>
     </message>
     <message>
         <source>The taps differ by up to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>通道间最大相差 %1。</translation>
+    </message>
+    <message>
+        <source>Keep the values</source>
+        <translation>保存</translation>
     </message>
 </context>
 <context>
     <name>TapReport</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>通道平衡</translation>
     </message>
     <message>
         <source>Layout of the taps: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>通道布局：%1</translation>
     </message>
     <message>
         <source>Deviation of each tap; grey: before, blue: now</source>
-        <translation type="unfinished"></translation>
+        <translation>各通道的偏差；灰色：之前，蓝色：当前</translation>
     </message>
     <message>
         <source>Bright picture</source>
-        <translation type="unfinished"></translation>
+        <translation>亮场图像</translation>
     </message>
     <message>
         <source>Dark picture</source>
-        <translation type="unfinished"></translation>
+        <translation>暗场图像</translation>
     </message>
     <message>
         <source>The picture with the borders of the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>标出通道边界的图像</translation>
     </message>
     <message>
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>通道</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished">均值</translation>
+        <translation>均值</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>噪声</translation>
     </message>
     <message>
         <source>Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished">%1 至 %2 {1 ?}</translation>
+        <translation>%1 至 %2</translation>
     </message>
     <message>
         <source>Taps</source>
-        <translation type="unfinished"></translation>
+        <translation>通道</translation>
     </message>
     <message>
         <source>Step at the border</source>
-        <translation type="unfinished"></translation>
+        <translation>边界处的台阶</translation>
     </message>
     <message>
         <source>The deviations follow from the steps at the borders, which straight lines on both sides are extended to; shading has no influence. The noise is the temporal standard deviation of a pixel by the differences of successive images (EMVA 1288). The uncertainty of a step is twice its standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差由边界处的台阶求得，台阶则由两侧的直线延伸到边界得出；阴影没有影响。噪声为像素的时域标准差，由连续图像的差值计算 (EMVA 1288)。台阶的不确定度为其标准误差的两倍。</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（之前）</translation>
     </message>
     <message>
         <source>now</source>
-        <translation type="unfinished">现在</translation>
+        <translation>当前</translation>
     </message>
 </context>
 <context>
     <name>TapSession</name>
     <message>
         <source>Measuring the taps</source>
-        <translation type="unfinished"></translation>
+        <translation>正在测量通道</translation>
     </message>
     <message>
         <source>Balancing the gains</source>
-        <translation type="unfinished"></translation>
+        <translation>正在平衡增益</translation>
     </message>
     <message>
         <source>Balancing the black levels</source>
-        <translation type="unfinished"></translation>
+        <translation>正在平衡黑电平</translation>
     </message>
     <message>
         <source>Putting the earlier values back</source>
-        <translation type="unfinished"></translation>
+        <translation>正在恢复之前的值</translation>
     </message>
 </context>
 <context>
     <name>TapTexts</name>
     <message>
-        <source>values</source>
-        <comment>unit of pixel values</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The mismatch fell from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>失配从 %1 降至 %2。</translation>
     </message>
     <message>
         <source>The mismatch fell from %1 to %2. The camera offers no finer values.</source>
-        <translation type="unfinished"></translation>
+        <translation>失配从 %1 降至 %2。相机不支持更精细的值。</translation>
+    </message>
+    <message>
+        <source>DN</source>
+        <comment>unit of pixel values</comment>
+        <translation>DN</translation>
     </message>
 </context>
 <context>
     <name>TapWindow</name>
     <message>
         <source>Tap Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>通道平衡</translation>
     </message>
     <message>
         <source>The camera has no feature GainSelector, so the gains of its taps cannot be set one by one. Use a flat-field correction instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有特性 GainSelector，因此无法单独设置各通道的增益。请改用平场校正。</translation>
     </message>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果(&amp;S)…</translation>
     </message>
     <message>
         <source>&amp;Undo the last balancing</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销上次平衡(&amp;U)</translation>
     </message>
 </context>
 <context>
     <name>TargetOverlay</name>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished">%1 × %2 px</translation>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
     <name>TemperaturePlot</name>
     <message>
-        <source>&amp;Show the last</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Time since the start</source>
-        <translation type="unfinished"></translation>
+        <translation>开始后的时间</translation>
     </message>
     <message>
         <source>Temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>温度 (°C)</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">警告</translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>报警</translation>
     </message>
     <message>
         <source>Final value of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的最终值</translation>
     </message>
     <message>
         <source>Dark level follows</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平开始跟随</translation>
+    </message>
+    <message>
+        <source>Show the &amp;last</source>
+        <translation>显示范围(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -5594,273 +5606,273 @@ This value belongs to one camera or one moment.</source>
     <name>ThermalPanel</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果(&amp;S)…</translation>
     </message>
     <message>
         <source>Notify me</source>
-        <translation type="unfinished"></translation>
+        <translation>通知</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished">对数</translation>
+        <translation>记录</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"> s</translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Read &amp;every</source>
-        <translation type="unfinished"></translation>
+        <translation>读取间隔(&amp;E)</translation>
     </message>
     <message>
         <source>Start a&amp;new</source>
-        <translation type="unfinished"></translation>
+        <translation>重新开始(&amp;N)</translation>
     </message>
     <message>
         <source>Forgets the readings and begins again. A running log goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>清除读数并重新开始。正在进行的记录不受影响。</translation>
     </message>
 </context>
 <context>
     <name>ThermalReport</name>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>温度监视器</translation>
     </message>
     <message>
         <source>Readings since %1 (UTC).</source>
-        <translation type="unfinished"></translation>
+        <translation>自 %1 (UTC) 起的读数。</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>Expected final value in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>预计最终值 (°C)</translation>
     </message>
     <message>
         <source>Time constant</source>
-        <translation type="unfinished"></translation>
+        <translation>时间常数</translation>
     </message>
     <message>
         <source>Steady in</source>
-        <translation type="unfinished"></translation>
+        <translation>达到稳定还需</translation>
     </message>
     <message>
         <source>The final value belongs to an exponential curve through the readings; the uncertainty is twice the standard deviation. Steady means within 0.5 K of the final value, or a change of less than 0.1 K per minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>最终值由读数拟合的指数曲线得出；不确定度为标准差的两倍。稳定是指与最终值相差不超过 0.5 K，或每分钟变化小于 0.1 K。</translation>
     </message>
     <message>
         <source>Temperatures over time</source>
-        <translation type="unfinished"></translation>
+        <translation>温度随时间的变化</translation>
     </message>
     <message>
         <source>Dark level</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平</translation>
     </message>
     <message>
         <source>Dark level over time</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平随时间的变化</translation>
     </message>
 </context>
 <context>
     <name>ThermalSession</name>
     <message>
         <source>The camera has not been read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未读取相机。</translation>
     </message>
 </context>
 <context>
     <name>ThermalTexts</name>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>10 min</source>
-        <translation type="unfinished"></translation>
+        <translation>10 min</translation>
     </message>
     <message>
         <source>1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>1 h</translation>
     </message>
     <message>
         <source>24 h</source>
-        <translation type="unfinished"></translation>
+        <translation>24 h</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished">相机</translation>
+        <translation>相机</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>Cannot be read at present</source>
-        <translation type="unfinished"></translation>
+        <translation>当前无法读取</translation>
     </message>
     <message>
         <source>Rate and state are known in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 后可得出变化率和状态。</translation>
     </message>
     <message>
         <source>Warming up, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>升温中，%1 K/min</translation>
     </message>
     <message>
         <source>Cooling, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>降温中，%1 K/min</translation>
     </message>
     <message>
         <source>Steady, %1 K/min</source>
-        <translation type="unfinished"></translation>
+        <translation>稳定，%1 K/min</translation>
     </message>
     <message>
         <source>The temperature does not change any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>温度不再变化。</translation>
     </message>
     <message>
         <source>The final value is not determined yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>最终值尚未确定。</translation>
     </message>
     <message>
         <source>Expected final value: %1 °C ± %2 K</source>
-        <translation type="unfinished"></translation>
+        <translation>预计最终值：%1 °C ± %2 K</translation>
     </message>
     <message>
         <source>%1, steady in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，%2 后稳定</translation>
     </message>
     <message>
         <source>Alarm: %1 has reached %2. Cool the camera or let it work less.</source>
-        <translation type="unfinished"></translation>
+        <translation>报警：%1 已达到 %2。请冷却相机或降低其负荷。</translation>
     </message>
     <message>
         <source>Warning: %1 is at %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>警告：%1 为 %2。</translation>
     </message>
     <message>
         <source>%1 is below the thresholds again: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已回到阈值以下：%2。</translation>
     </message>
     <message>
         <source>Dark level: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平：%1</translation>
     </message>
     <message>
         <source>Dark level: %1 (noise %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平：%1（噪声 %2）</translation>
     </message>
     <message>
         <source>The dark level has followed the temperature since %1 after the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>自开始后 %1 起，暗电平跟随温度变化。</translation>
     </message>
     <message>
         <source>The dark level has not changed by more than its noise.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗电平的变化未超出其噪声。</translation>
     </message>
     <message>
         <source>The dark signal doubles every %1 ± %2 K.</source>
-        <translation type="unfinished"></translation>
+        <translation>暗信号每 %1 ± %2 K 翻倍。</translation>
     </message>
     <message>
         <source>The doubling temperature is not determined yet; the temperature has to change more.</source>
-        <translation type="unfinished"></translation>
+        <translation>倍增温度尚未确定；温度须有更大变化。</translation>
     </message>
 </context>
 <context>
     <name>ThermalWindow</name>
     <message>
         <source>&amp;Save the result…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存结果(&amp;S)…</translation>
     </message>
     <message>
         <source>Thermal Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>温度监视器</translation>
     </message>
     <message>
         <source>The camera has no feature DeviceTemperature, so it does not report its temperature. The data sheet says whether a newer firmware does.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机没有特性 DeviceTemperature，因此不报告温度。更新的固件是否支持，请查阅数据手册。</translation>
     </message>
 </context>
 <context>
     <name>ThresholdBox</name>
     <message>
         <source>&amp;Warning at</source>
-        <translation type="unfinished"></translation>
+        <translation>警告温度(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Alarm at</source>
-        <translation type="unfinished"></translation>
+        <translation>报警温度(&amp;A)</translation>
     </message>
     <message>
         <source> K</source>
-        <translation type="unfinished"></translation>
+        <translation> K</translation>
     </message>
     <message>
         <source>A warning or an alarm ends when the temperature is so far below its threshold again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>En&amp;ds below by</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The program notifies you, also while its window is behind others, when a place gets so warm.</source>
-        <translation type="unfinished"></translation>
+        <translation>温度回落到阈值以下该幅度时，警告或报警解除。</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>Ends &amp;below by</source>
+        <translation>解除回差(&amp;B)</translation>
+    </message>
+    <message>
+        <source>The program notifies you, also while its window is behind others, when a place gets this warm.</source>
+        <translation>任一位置达到该温度时发出通知，即使程序窗口被其他窗口遮挡。</translation>
     </message>
 </context>
 <context>
     <name>ThresholdControl</name>
     <message>
         <source>How far a pixel deviates from its neighbours before it counts as a defect, in standard deviations of the good pixels. At 6 σ, less than one good pixel per megapixel is taken for a defect.</source>
-        <translation type="unfinished"></translation>
+        <translation>像素与相邻像素的偏差超过该值时视为坏点，以正常像素的标准差为单位。取 6 σ 时，每百万像素中被误判为坏点的正常像素少于一个。</translation>
     </message>
     <message>
         <source>&amp;Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>阈值(&amp;T)</translation>
     </message>
     <message>
         <source>Threshold</source>
-        <translation type="unfinished"></translation>
+        <translation>阈值</translation>
     </message>
     <message>
         <source> σ</source>
-        <translation type="unfinished"></translation>
+        <translation> σ</translation>
     </message>
 </context>
 <context>
@@ -6420,7 +6432,7 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>&amp;Corrections…</source>
-        <translation type="unfinished"></translation>
+        <translation>图像校正(&amp;C)…</translation>
     </message>
 </context>
 <context>
@@ -6499,11 +6511,11 @@ For industrial cameras of any vendor. MIT licence.</source>
     </message>
     <message>
         <source>Not corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>未校正</translation>
     </message>
     <message>
         <source>Corrected</source>
-        <translation type="unfinished"></translation>
+        <translation>已校正</translation>
     </message>
 </context>
 <context>
