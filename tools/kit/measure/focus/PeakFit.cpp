@@ -7,14 +7,14 @@
 #include <cstddef>
 
 namespace {
-using Points = std::vector<FocusPoint>;
+using PeakPoints = std::vector<FocusPoint>;
 
 constexpr double halfLevel = 0.5;
 constexpr double bracketLevel = 0.9; // The rise that may remain at both ends of the points.
 constexpr int fitRounds = 20;
 constexpr double minGaps = 1.6; // Half of the fitted range, in distances between neighbouring points.
 
-double levelOf(const Points &points, std::size_t top, double share)
+double levelOf(const PeakPoints &points, std::size_t top, double share)
 {
     const auto lowest = std::min_element(points.begin(), points.end(),
         [](const FocusPoint &a, const FocusPoint &b) { return a.sharpness < b.sharpness; });
@@ -23,7 +23,7 @@ double levelOf(const Points &points, std::size_t top, double share)
 
 /// Returns the distance from the highest point to where the sharpness falls to the level; nothing if it does
 /// not. @param direction 1 to the right, -1 to the left.
-std::optional<double> distanceToLevel(const Points &points, std::size_t top, int direction, double level)
+std::optional<double> distanceToLevel(const PeakPoints &points, std::size_t top, int direction, double level)
 {
     const auto count = static_cast<std::ptrdiff_t>(points.size());
     for (auto i = static_cast<std::ptrdiff_t>(top) + direction; i >= 0 && i < count; i += direction) {
@@ -38,7 +38,7 @@ std::optional<double> distanceToLevel(const Points &points, std::size_t top, int
 }
 
 /// Returns the largest distance between neighbouring positions next to the highest point.
-double gapAt(const Points &points, std::size_t top)
+double gapAt(const PeakPoints &points, std::size_t top)
 {
     double left = 0;
     for (std::size_t i = top; i > 0 && left == 0; --i)
@@ -51,7 +51,7 @@ double gapAt(const Points &points, std::size_t top)
 
 /// One round: fits the parabola around `center`. Returns the coefficients of 1, t and t², in units of
 /// `width`.
-std::optional<std::vector<double>> parabolaAround(const Points &points, double center, double width)
+std::optional<std::vector<double>> parabolaAround(const PeakPoints &points, double center, double width)
 {
     LeastSquares fit(3);
     for (const FocusPoint &point : points) {
@@ -65,7 +65,7 @@ std::optional<std::vector<double>> parabolaAround(const Points &points, double c
 }
 
 /// Moves the peak to the top of the parabola until it stays there. Returns false if there is no parabola.
-bool refine(const Points &points, double width, FocusPeak &peak)
+bool refine(const PeakPoints &points, double width, FocusPeak &peak)
 {
     for (int round = 0; round < fitRounds; ++round) {
         const auto parabola = parabolaAround(points, peak.position, width);
