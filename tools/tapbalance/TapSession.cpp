@@ -54,7 +54,7 @@ void TapSession::measure()
     };
     const auto done = [this, measured](const QString &problem) {
         if (problem.isEmpty()) {
-            m_result.layout = measured->layout;
+            takeLayout(measured->layout);
             m_result.bright = measured->measurement;
         }
         finish(problem, measured->camera);
@@ -76,7 +76,7 @@ void TapSession::balance(TapSetting setting)
           };
     const auto done = [this, measured](const QString &problem) {
         if (problem.isEmpty()) {
-            m_result.layout = measured->layout;
+            takeLayout(measured->layout);
             m_result.add(measured->balance);
             m_balances.push_back(measured->balance);
         }
@@ -106,6 +106,14 @@ void TapSession::undo()
         finish(problem, measured->camera);
     };
     m_job.start(tr("Putting the earlier values back"), MeasureJob::Changes::Keep, work, this, done);
+}
+
+/// Forgets the result of another layout, because its taps cannot be compared with those of this one.
+void TapSession::takeLayout(const TapLayout &layout)
+{
+    if (!(m_result.layout == layout))
+        m_result = {};
+    m_result.layout = layout;
 }
 
 void TapSession::finish(const QString &problem, const CameraRecord &camera)

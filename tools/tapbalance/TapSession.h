@@ -44,6 +44,7 @@ signals:
     void failed(const QString &problem);
 
 private:
+    void takeLayout(const TapLayout &layout);
     void finish(const QString &problem, const CameraRecord &camera);
 
     MeasureJob &m_job;
