@@ -151,6 +151,7 @@ void LineScanWindow::followCamera()
     if (id != m_cameraId) {
         m_cameraId = id;
         m_session.reset();
+        m_steps->reset();
         m_tracker->clear();
         m_tracker->setColumns({});
         m_number->clear();

@@ -45,8 +45,7 @@ void LineScanWindow::updateSteps()
     m_correctStep->setButtonAllowed(m_session.lastMeasurement() != nullptr);
     m_form->setEnabled(!isBusy);
     m_undo->setEnabled(!isBusy && canMeasure());
-    const bool canSave
-        = !isBusy && canMeasure() && (m_session.isMeasured() || m_session.result().plan.objectPixel > 0);
+    const bool canSave = !isBusy && (m_session.isMeasured() || m_session.result().plan.objectPixel > 0);
     m_save->setEnabled(canSave);
     m_saveButton->setEnabled(canSave);
 }
@@ -118,21 +117,17 @@ void LineScanWindow::correct()
     m_session.apply();
 }
 
-/// The settings of the camera are read now, because they are part of the result.
+/// The camera is read once more for its settings; one that is lost is described by what is known.
 void LineScanWindow::save()
 {
     const auto record = std::make_shared<CameraRecord>();
-    const auto work = [record](const MeasureContext &, const CameraRecord &camera) {
-        *record = camera;
-        return Sentence();
-    };
-    job().start(tr("Reading the settings"), MeasureJob::Changes::PutBack, work, this,
-        [this, record](const QString &problem) {
-            if (problem.isEmpty())
-                saveWith(*record);
-            else
-                showProblem(problem);
-        });
+    const auto camera = connection().camera().camera;
+    connection().run(
+        [record, camera](CvxCPP::Device &device) {
+            *record = readCameraRecord(*camera, device);
+            return CvxCPP::CvxResult{};
+        },
+        this, [this, record](const CvxCPP::CvxResult &) { saveWith(*record); });
 }
 
 void LineScanWindow::saveWith(const CameraRecord &record)

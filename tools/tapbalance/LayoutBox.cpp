@@ -99,9 +99,11 @@ void LayoutBox::setGeometry(const QString &geometry)
     const bool isKnown = parseTapGeometry(geometry.toStdString()).has_value();
     m_source->setItemText(
         FromCamera, isKnown ? tr("Camera: %1").arg(geometry) : tr("Not reported by the camera"));
-    static_cast<QStandardItemModel *>(m_source->model())->item(FromCamera)->setEnabled(isKnown);
-    if (!isKnown)
-        m_source->setCurrentIndex(ByHand);
+    QStandardItem *const fromCamera = static_cast<QStandardItemModel *>(m_source->model())->item(FromCamera);
+    const bool wasKnown = fromCamera->isEnabled();
+    fromCamera->setEnabled(isKnown);
+    if (isKnown != wasKnown)
+        m_source->setCurrentIndex(isKnown ? FromCamera : ByHand);
 }
 
 void LayoutBox::followSource()

@@ -30,8 +30,10 @@ void TapSession::setOptions(const TapOptions &options)
 {
     const bool isOtherLayout = !(options.layout == m_options.layout);
     m_options = options;
-    if (isOtherLayout)
-        clear();
+    if (!isOtherLayout)
+        return;
+    m_result = {};
+    emit changed();
 }
 
 void TapSession::clear()
@@ -54,7 +56,7 @@ void TapSession::measure()
     };
     const auto done = [this, measured](const QString &problem) {
         if (problem.isEmpty()) {
-            m_result.layout = measured->layout;
+            takeLayout(measured->layout);
             m_result.bright = measured->measurement;
         }
         finish(problem, measured->camera);
@@ -76,9 +78,9 @@ void TapSession::balance(TapSetting setting)
           };
     const auto done = [this, measured](const QString &problem) {
         if (problem.isEmpty()) {
-            m_result.layout = measured->layout;
+            takeLayout(measured->layout);
             m_result.add(measured->balance);
-            m_balances.push_back(measured->balance);
+            m_balances.push_back({measured->layout, measured->balance});
         }
         finish(problem, measured->camera);
     };
@@ -90,22 +92,38 @@ void TapSession::undo()
 {
     if (m_balances.empty())
         return;
-    const TapBalance last = m_balances.back();
+    const Done last = m_balances.back();
     const auto measured = std::make_shared<Measured>();
     const auto work = [last, measured](const MeasureContext &context, const CameraRecord &camera) {
         measured->camera = camera;
-        return undoBalance(context.device, last);
+        return undoBalance(context.device, last.balance);
     };
     const auto done = [this, last, measured](const QString &problem) {
         if (problem.isEmpty()) {
-            const bool isGain = last.control.setting == TapSetting::Gain;
             m_balances.pop_back();
-            (isGain ? m_result.bright : m_result.dark) = last.before;
-            (isGain ? m_result.gain : m_result.blackLevel).reset();
+            restoreResult(last);
         }
         finish(problem, measured->camera);
     };
     m_job.start(tr("Putting the earlier values back"), MeasureJob::Changes::Keep, work, this, done);
+}
+
+/// Forgets the result of another layout, because its taps cannot be compared with those of this one.
+void TapSession::takeLayout(const TapLayout &layout)
+{
+    if (!(m_result.layout == layout))
+        m_result = {};
+    m_result.layout = layout;
+}
+
+/// Shows the measurement from before the balancing, unless the result is that of another layout.
+void TapSession::restoreResult(const Done &undone)
+{
+    if (!hasResult() || !(m_result.layout == undone.layout))
+        return;
+    const bool isGain = undone.balance.control.setting == TapSetting::Gain;
+    (isGain ? m_result.bright : m_result.dark) = undone.balance.before;
+    (isGain ? m_result.gain : m_result.blackLevel).reset();
 }
 
 void TapSession::finish(const QString &problem, const CameraRecord &camera)

@@ -17,7 +17,8 @@ class TapSession : public QObject
 public:
     explicit TapSession(MeasureJob &job, QObject *parent = nullptr);
 
-    /// Layout, reference and number of images. A change of the layout forgets the result.
+    /// Layout, reference and number of images. A change of the layout forgets the result, but not what can be
+    /// undone.
     const TapOptions &options() const { return m_options; }
     void setOptions(const TapOptions &options);
 
@@ -44,11 +45,20 @@ signals:
     void failed(const QString &problem);
 
 private:
+    /// Balancing that can be undone.
+    struct Done
+    {
+        TapLayout layout;
+        TapBalance balance;
+    };
+
+    void takeLayout(const TapLayout &layout);
+    void restoreResult(const Done &undone);
     void finish(const QString &problem, const CameraRecord &camera);
 
     MeasureJob &m_job;
     TapOptions m_options;
     TapResult m_result;
     CameraRecord m_camera;
-    std::vector<TapBalance> m_balances; // What can be undone; the last one first.
+    std::vector<Done> m_balances; // What can be undone; the last one at the end.
 };

@@ -61,8 +61,10 @@ TemperaturePlot::TemperaturePlot(QWidget *parent)
     for (Plot *const plot : {m_temperatures, m_dark})
         plot->setHorizontalAxis(Plot::Axis::Duration, tr("Time since the start"));
     m_temperatures->setVerticalAxis(tr("Temperature in °C"));
+    m_temperatures->setAccessibleName(tr("Temperatures since the start"));
     m_temperatures->setMinimumHeight(220);
     m_dark->setVerticalAxis(tr("Dark level"));
+    m_dark->setAccessibleName(tr("Dark level since the start"));
     m_dark->addCurve(tr("Dark level"));
     m_dark->hide();
     auto *const head = new QHBoxLayout;

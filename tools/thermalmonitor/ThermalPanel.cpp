@@ -88,7 +88,10 @@ QWidget *ThermalPanel::createControls()
         m_settings.setValue(intervalKey, seconds);
         m_session.setInterval(seconds);
     });
-    connect(restart, &QPushButton::clicked, &m_session, &ThermalSession::restart);
+    connect(restart, &QPushButton::clicked, this, [this] {
+        showAlert({}, "good");
+        m_session.restart();
+    });
     return controls;
 }
 
@@ -103,10 +106,12 @@ void ThermalPanel::show()
     showMessage(m_problem, m_session.problem(), "warning");
     m_save->setEnabled(monitor != nullptr);
     showCards();
-    if (monitor)
+    if (monitor) {
         m_plot->show(*monitor, m_thresholds->thresholds());
-    else
-        m_plot->clear();
+        return;
+    }
+    m_plot->clear();
+    showAlert({}, "good"); // It was that of another camera.
 }
 
 void ThermalPanel::showCards()

@@ -1,6 +1,7 @@
 #include "tools/thermalmonitor/ThermalSession.h"
 
 #include "sdk/imagefile/Sidecar.h"
+#include "tools/kit/assistant/MeasureJob.h"
 #include "tools/kit/assistant/SentenceText.h"
 
 #include <utility>
@@ -229,6 +230,7 @@ void ThermalSession::setMeasuringDark(bool isMeasuring)
     m_darkLevel.reset();
     if (isMeasuring) {
         m_stream.addSink(&m_darkAnalysis);
+        m_stream.start(MeasureJob::streamBuffers);
     } else {
         m_stream.removeSink(&m_darkAnalysis);
         m_darkAnalysis.clear();

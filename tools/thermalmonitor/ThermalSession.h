@@ -51,7 +51,8 @@ public:
     QString logPath() const; ///< Empty without a log.
     QString logProblem() const; ///< Why the last line could not be written; empty if it was.
 
-    /// Measures the dark level of the live pictures from now on, or no longer; the levels are kept.
+    /// Measures the dark level of the live pictures from now on, or no longer; the levels are kept. Starts
+    /// the stream if it does not run.
     void setMeasuringDark(bool isMeasuring);
     bool isMeasuringDark() const { return m_isMeasuringDark; }
     void clearDark();

@@ -80,7 +80,7 @@ void CorrectionDialog::chooseFile(QLineEdit &file, const QString &title, const Q
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     connect(dialog, &QFileDialog::fileSelected, &file, &QLineEdit::setText);
-    connect(dialog, &QFileDialog::fileSelected, this, &CorrectionDialog::apply);
+    connect(dialog, &QFileDialog::fileSelected, this, &CorrectionDialog::applyChosenFile);
     dialog->open();
 }
 
@@ -92,6 +92,13 @@ void CorrectionDialog::apply()
         && choice.isOn == present.isOn;
     if (!isPresent) // Leaving a field is no change.
         m_correction.setChoice(choice);
+}
+
+/// A file of the same name may be a new one.
+void CorrectionDialog::applyChosenFile()
+{
+    apply();
+    m_correction.read();
 }
 
 void CorrectionDialog::showState()

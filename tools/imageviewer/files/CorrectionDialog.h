@@ -22,6 +22,7 @@ private:
         QGridLayout &layout, const QString &label, const QString &title, const QString &filter);
     void chooseFile(QLineEdit &file, const QString &title, const QString &filter);
     void apply();
+    void applyChosenFile();
     void showState();
 
     PictureCorrection &m_correction;

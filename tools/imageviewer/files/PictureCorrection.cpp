@@ -37,7 +37,9 @@ void PictureCorrection::followCamera()
 
 void PictureCorrection::setChoice(const Choice &choice)
 {
-    const bool hasNewFiles = choice.defectMap != m_choice.defectMap || choice.flatField != m_choice.flatField;
+    const bool isSwitchedOn = choice.isOn && !m_choice.isOn;
+    const bool hasNewFiles
+        = isSwitchedOn || choice.defectMap != m_choice.defectMap || choice.flatField != m_choice.flatField;
     m_choice = choice;
     m_settings.setValue(settingsKey("defectMap"), choice.defectMap);
     m_settings.setValue(settingsKey("flatField"), choice.flatField);

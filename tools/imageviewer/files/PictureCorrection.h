@@ -31,6 +31,9 @@ public:
     const Choice &choice() const { return m_choice; }
     void setChoice(const Choice &choice);
 
+    /// Reads the files again, because they may have been replaced.
+    void read();
+
     /// Returns the correction; one without effect if none is chosen, if it is off, or if there is a problem.
     CorrectionSource active() const;
 
@@ -49,7 +52,6 @@ signals:
 
 private:
     void followCamera();
-    void read();
     void take(int reading, const CorrectionSource &source);
     QString settingsKey(const char *name) const;
 
