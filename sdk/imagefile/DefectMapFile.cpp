@@ -13,7 +13,7 @@ namespace {
 constexpr char mapFormat[] = "corvix-x-defect-map";
 constexpr char csvHeader[] = "x,y,kind,deviation";
 constexpr std::string_view csvBegin = "x,y"; // Other programs may leave the other columns out.
-constexpr std::size_t maxPixels = 500000;
+constexpr std::size_t maxDefects = 500000;
 constexpr std::uint64_t maxFileSize = 64U << 20U;
 
 /// The texts of the kinds, in the order of DefectKind.
@@ -28,7 +28,7 @@ std::string writeText(const std::string &path, const std::string &text)
 }
 
 /// Returns the shortest text of the number that reads back as the same; 0 if it is not finite.
-std::string numberText(double number)
+std::string deviationText(double number)
 {
     std::array<char, 32> text{};
     const auto end
@@ -39,7 +39,7 @@ std::string numberText(double number)
 std::string pixelJson(const DefectPixelEntry &pixel)
 {
     return "[" + std::to_string(pixel.x) + ", " + std::to_string(pixel.y) + ", \""
-        + defectKindText(pixel.kind) + "\", " + numberText(pixel.deviation) + "]";
+        + defectKindText(pixel.kind) + "\", " + deviationText(pixel.deviation) + "]";
 }
 
 bool isBefore(const DefectPixelEntry &pixel, const DefectPixelEntry &other)
@@ -88,7 +88,7 @@ std::string readJsonMap(const nlohmann::ordered_json &json, DefectMap &map)
     const auto pixels = json.find("pixels");
     if (width.value_or(0) == 0 || height.value_or(0) == 0 || pixels == json.end() || !pixels->is_array())
         return "width, height or the list of pixels is missing";
-    if (pixels->size() > maxPixels)
+    if (pixels->size() > maxDefects)
         return "it contains more than 500000 pixels";
     map.width = *width;
     map.height = *height;
@@ -172,7 +172,7 @@ std::string readCsvMap(std::string_view text, DefectMap &map)
             return "y is missing in some lines, but not in all";
         isLineScan = fields[1].empty();
         map.pixels.push_back(*pixel);
-        if (map.pixels.size() > maxPixels)
+        if (map.pixels.size() > maxDefects)
             return "it contains more than 500000 pixels";
     }
     map.height = isLineScan.value_or(false) ? 1 : 0;
@@ -215,7 +215,7 @@ std::string writeDefectMapCsv(const std::string &path, const DefectMap &map)
     std::string text = std::string(csvHeader) + "\n";
     for (const DefectPixelEntry &pixel : map.pixels)
         text += std::to_string(pixel.x) + "," + (map.isLineScan() ? "" : std::to_string(pixel.y)) + ","
-            + defectKindText(pixel.kind) + "," + numberText(pixel.deviation) + "\n";
+            + defectKindText(pixel.kind) + "," + deviationText(pixel.deviation) + "\n";
     return writeText(path, text);
 }
 

@@ -7,16 +7,16 @@
 
 namespace {
 
-constexpr double goodShare = 0.9;
-constexpr double poorShare = 0.7;
+constexpr double greenShare = 0.9;
+constexpr double orangeShare = 0.7;
 constexpr int tintAlpha = 36;
 constexpr qreal gap = 2; // Between a region and its frame.
 
 QColor shareColor(double share)
 {
-    if (share >= goodShare)
+    if (share >= greenShare)
         return {0x22, 0xc5, 0x5e};
-    return share >= poorShare ? QColor(0xf5, 0x9e, 0x0b) : QColor(0xef, 0x44, 0x44);
+    return share >= orangeShare ? QColor(0xf5, 0x9e, 0x0b) : QColor(0xef, 0x44, 0x44);
 }
 
 } // namespace

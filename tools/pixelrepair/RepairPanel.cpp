@@ -54,7 +54,8 @@ void RepairPanel::addImagesControl(ToolSettings &settings)
     m_images->setObjectName(QStringLiteral("images"));
     m_images->setRange(int(minDefectImages), maxImages);
     m_images->setValue(settings.value(imagesKey, usualImages));
-    m_images->setToolTip(tr("Number of dark images and of bright images. More images find weaker defects and pixels that blink rarely."));
+    m_images->setToolTip(tr("Number of dark images and of bright images. More images find weaker defects and "
+                            "pixels that blink rarely."));
     auto *const control = new QWidget(this);
     auto *const label = new QLabel(tr("&Number of images"), control);
     label->setBuddy(m_images);

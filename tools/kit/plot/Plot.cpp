@@ -21,14 +21,8 @@
 #include <qwt_plot_renderer.h>
 #include <qwt_scale_widget.h>
 
-namespace {
-
-constexpr QRgb curveColours[]
-    = {0xff2196f3, 0xfff59e0b, 0xff22c55e, 0xffe879f9, 0xff06b6d4, 0xfff43f5e, 0xffa3e635, 0xff8b5cf6};
-constexpr int colourCount = int(std::size(curveColours));
-
 /// What differs between the screen and paper.
-struct Look
+struct PlotLook
 {
     QRgb background;
     QRgb text;
@@ -37,8 +31,14 @@ struct Look
     QRgb moment;
 };
 
-constexpr Look screenLook = {0xff131b26, 0xff94a3b8, 0xff25313f, 0xffef4444, 0xff64748b};
-constexpr Look paperLook = {0xffffffff, 0xff1a2332, 0xffd5dce5, 0xffdc2626, 0xff64748b};
+namespace {
+
+constexpr QRgb curveColours[]
+    = {0xff2196f3, 0xfff59e0b, 0xff22c55e, 0xffe879f9, 0xff06b6d4, 0xfff43f5e, 0xffa3e635, 0xff8b5cf6};
+constexpr int colourCount = int(std::size(curveColours));
+
+constexpr PlotLook screenLook = {0xff131b26, 0xff94a3b8, 0xff25313f, 0xffef4444, 0xff64748b};
+constexpr PlotLook paperLook = {0xffffffff, 0xff1a2332, 0xffd5dce5, 0xffdc2626, 0xff64748b};
 
 /// Returns a font for the numbers of an axis.
 QFont axisFontOf(QFont font)
@@ -77,7 +77,7 @@ public:
 
     explicit Private(Plot &plot) : m_plot(plot) { }
 
-    void setLook(const Look &look);
+    void setLook(const PlotLook &look);
     void setLine(Lines &lines, int number, QwtPlotMarker::LineStyle style, double position,
         const QString &label, QRgb colour);
     void setAxisTitle(int axis, const QString &title);
@@ -87,7 +87,7 @@ public:
     void copyTo(Plot &other) const;
 
     Plot &m_plot;
-    Look m_look = screenLook;
+    PlotLook m_look = screenLook;
     QwtPlotGrid m_grid;
     std::vector<std::unique_ptr<QwtPlotCurve>> m_curves;
     Lines m_limits;
@@ -97,7 +97,7 @@ public:
     QString m_titles[QwtPlot::axisCnt];
 };
 
-void Plot::Private::setLook(const Look &look)
+void Plot::Private::setLook(const PlotLook &look)
 {
     m_look = look;
     m_plot.setPalette(palette());

@@ -7,7 +7,7 @@ namespace {
 
 constexpr double shortestWindow = 60;
 constexpr double longestWindow = 600;
-constexpr double secondsPerMinute = 60;
+constexpr double minute = 60;
 constexpr double normalScale = 1.4826; // Standard deviation of a normal distribution per median deviation.
 
 double median(std::vector<double> &values)
@@ -66,7 +66,7 @@ double slopeWindow(const BoundedHistory &history)
     if (history.isEmpty())
         return shortestWindow;
     const double step = roundingStep(history.since(history.newest().last - longestWindow));
-    return std::clamp(step / hiddenPerMinute * secondsPerMinute, shortestWindow, longestWindow);
+    return std::clamp(step / hiddenPerMinute * minute, shortestWindow, longestWindow);
 }
 
 std::vector<HistoryPoint> sinceLastGap(std::vector<HistoryPoint> points)
@@ -93,6 +93,5 @@ std::optional<SlopeEstimate> estimateSlope(const BoundedHistory &history)
     const double slope = medianSlope(few);
     const double noise = spread(few, slope) * std::sqrt(12.0 / static_cast<double>(few.size()));
     const double rounding = roundingStep(points) / std::sqrt(12.0);
-    return SlopeEstimate{
-        slope * secondsPerMinute, std::hypot(noise, rounding) / span * secondsPerMinute, span};
+    return SlopeEstimate{slope * minute, std::hypot(noise, rounding) / span * minute, span};
 }
