@@ -2927,10 +2927,6 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
         <source>Measuring the target</source>
         <translation>Marke wird gemessen</translation>
     </message>
-    <message>
-        <source>Reading the settings</source>
-        <translation>Einstellungen werden gelesen</translation>
-    </message>
 </context>
 <context>
     <name>LivePicture</name>
@@ -5635,6 +5631,14 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
     <message>
         <source>Show the &amp;last</source>
         <translation>&amp;Zeitraum</translation>
+    </message>
+    <message>
+        <source>Temperatures since the start</source>
+        <translation>Temperaturen seit dem Start</translation>
+    </message>
+    <message>
+        <source>Dark level since the start</source>
+        <translation>Dunkelwert seit dem Start</translation>
     </message>
 </context>
 <context>

@@ -2927,10 +2927,6 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
         <source>Measuring the target</source>
         <translation>Mesure de la cible</translation>
     </message>
-    <message>
-        <source>Reading the settings</source>
-        <translation>Lecture des réglages</translation>
-    </message>
 </context>
 <context>
     <name>LivePicture</name>
@@ -5635,6 +5631,14 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
     <message>
         <source>Show the &amp;last</source>
         <translation>&amp;Durée affichée</translation>
+    </message>
+    <message>
+        <source>Temperatures since the start</source>
+        <translation>Températures depuis le début</translation>
+    </message>
+    <message>
+        <source>Dark level since the start</source>
+        <translation>Niveau d’obscurité depuis le début</translation>
     </message>
 </context>
 <context>

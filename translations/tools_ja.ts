@@ -2909,10 +2909,6 @@ This value belongs to one camera or one moment.</source>
         <source>Measuring the target</source>
         <translation>ターゲットを計測中</translation>
     </message>
-    <message>
-        <source>Reading the settings</source>
-        <translation>設定を読み取り中</translation>
-    </message>
 </context>
 <context>
     <name>LivePicture</name>
@@ -5587,6 +5583,14 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>Show the &amp;last</source>
         <translation>表示期間(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Temperatures since the start</source>
+        <translation>開始からの温度</translation>
+    </message>
+    <message>
+        <source>Dark level since the start</source>
+        <translation>開始からの暗時レベル</translation>
     </message>
 </context>
 <context>

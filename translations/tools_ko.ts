@@ -2909,10 +2909,6 @@ This value belongs to one camera or one moment.</source>
         <source>Measuring the target</source>
         <translation>타깃 측정 중</translation>
     </message>
-    <message>
-        <source>Reading the settings</source>
-        <translation>설정을 읽는 중</translation>
-    </message>
 </context>
 <context>
     <name>LivePicture</name>
@@ -5587,6 +5583,14 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>Show the &amp;last</source>
         <translation>표시 구간(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Temperatures since the start</source>
+        <translation>시작 후 온도</translation>
+    </message>
+    <message>
+        <source>Dark level since the start</source>
+        <translation>시작 후 다크 레벨</translation>
     </message>
 </context>
 <context>

@@ -2909,10 +2909,6 @@ This value belongs to one camera or one moment.</source>
         <source>Measuring the target</source>
         <translation>正在测量目标</translation>
     </message>
-    <message>
-        <source>Reading the settings</source>
-        <translation>正在读取设置</translation>
-    </message>
 </context>
 <context>
     <name>LivePicture</name>
@@ -5587,6 +5583,14 @@ This value belongs to one camera or one moment.</source>
     <message>
         <source>Show the &amp;last</source>
         <translation>显示范围(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Temperatures since the start</source>
+        <translation>自开始以来的温度</translation>
+    </message>
+    <message>
+        <source>Dark level since the start</source>
+        <translation>自开始以来的暗电平</translation>
     </message>
 </context>
 <context>
