@@ -2,7 +2,7 @@
 #
 # In a unity build, the compiler receives all sources of a target as one file and parses each header once. Names in
 # anonymous namespaces have to be unique within such a target. The presets other than "dev" and "fuzz" build the tests
-# as unity builds. The presets with sanitizers also build the product as unity builds.
+# as unity builds. "release" and the presets with sanitizers also build the product as unity builds.
 
 option(CORVIX_QUICK_TESTS "Build the tests as unity builds with a precompiled header" OFF)
 find_program(CORVIX_FAST_LINKER ld.lld)
