@@ -6,28 +6,27 @@
 
 #include <algorithm>
 
-using namespace CvxCPP;
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::uint32_t size = 64;
+constexpr std::uint32_t imageSide = 64;
 constexpr std::size_t wantedImages = 16;
 
 class EvenImage : public LiveImage
 {
 public:
     EvenImage(std::uint64_t frameId, std::uint8_t value)
-        : LiveImage(frameId, size, size, value), m_even(LiveImage::GetInfo())
+        : LiveImage(frameId, imageSide, imageSide, value), m_even(LiveImage::GetInfo())
     {
         const auto now = std::chrono::steady_clock::now().time_since_epoch() + frameId * 40ms;
         m_even.receivedAt = static_cast<std::uint64_t>(std::chrono::nanoseconds(now).count());
         m_even.isComplete = true;
     }
-    const ImageInfo &GetInfo() const override { return m_even; }
+    const CvxCPP::ImageInfo &GetInfo() const override { return m_even; }
 
 private:
-    ImageInfo m_even;
+    CvxCPP::ImageInfo m_even;
 };
 
 /// Delivers images 40 ms apart without waiting. Only some are different: they come in turn, but a new one
@@ -40,7 +39,7 @@ public:
 
     std::size_t delivered() const { return m_count; }
 
-    CvxResult next(std::chrono::milliseconds, std::shared_ptr<const Image> &image) override
+    CvxCPP::CvxResult next(std::chrono::milliseconds, std::shared_ptr<const CvxCPP::Image> &image) override
     {
         const std::size_t known = std::min(m_different, 1 + m_count / m_spacing);
         const bool isNew = m_count % m_spacing == 0 && m_count / m_spacing < m_different;
