@@ -94,10 +94,11 @@ const DefectFindings &findingsOf(const Camera &camera)
 
 /// Returns the true deviation of a hot pixel in the dark, in standard deviations of the good pixels' means.
 /// These contain the differences of the dark signal, the noise that remains and the rounding.
-double trueDeviation(const DefectPixel &defect, const SensorModel &model, const Camera &camera)
+double trueDeviation(
+    const DefectPixel &defect, const SensorModel &model, const Camera &camera, unsigned different = images)
 {
     const double seconds = darkExposure * 1e-6 * SensorFlaws::darkFactor(temperature);
-    const double samples = images * (camera.isLineScan ? 64.0 : 1.0);
+    const double samples = different * (camera.isLineScan ? 64.0 : 1.0);
     const double noise = model.readNoise * model.readNoise + model.darkCurrent * seconds;
     const double electronsPerStep = model.fullWell / 4095 * std::ldexp(1, 12 - camera.depth);
     const double rounding = electronsPerStep * electronsPerStep / 12;
@@ -114,6 +115,35 @@ Places placesOf(const DefectMap &map)
         places[{static_cast<int>(pixel.x), static_cast<int>(pixel.y)}] = pixel;
     return places;
 }
+
+/// Images of which some come again and again.
+class RepeatedPictures
+{
+public:
+    RepeatedPictures(SensorPictures &pictures, SceneTarget target, double exposure, const Camera &camera)
+        : m_settings(pictures.settings(target, exposure, camera.pixelFormat)),
+          m_layout(pictures.statistics(m_settings, 0).layout())
+    {
+        m_settings.temperature = temperature;
+        for (m_settings.frameNumber = 1; m_settings.frameNumber <= minDefectImages; ++m_settings.frameNumber)
+            m_pictures.push_back(pictures.render(m_settings));
+    }
+
+    PixelStatistics statistics(unsigned different) const
+    {
+        PixelStatistics statistics(m_layout);
+        ImageConverter converter;
+        for (unsigned i = 0; i < images; ++i)
+            statistics.add(
+                rawImage(m_settings, m_pictures[i < different ? i : i * i % different]), converter);
+        return statistics;
+    }
+
+private:
+    RenderSettings m_settings;
+    const StatisticsLayout m_layout;
+    std::vector<std::vector<std::uint8_t>> m_pictures;
+};
 
 /// Checks that a true defect was found with its kind.
 void expectFound(const DefectPixel &defect, const Places &found)
@@ -162,6 +192,36 @@ TEST(DefectFinder, ReportsNothingOfASensorWithoutDefects)
         SCOPED_TRACE(camera.name);
         SensorPictures pictures(withoutDefects(sensorOf(camera)));
         EXPECT_EQ(defectMap(find(pictures, camera), usualThreshold).pixels.size(), 0U);
+    }
+}
+
+TEST(DefectFinder, TakesNoGoodPixelForADefectIfImagesAreRepeated)
+{
+    const Camera &camera = cameras[4];
+    const SensorModel model = sensorOf(camera);
+    const SensorFlaws flaws(model);
+    SensorPictures pictures(model);
+    RepeatedPictures dark(pictures, SceneTarget::LensCap, darkExposure, camera);
+    RepeatedPictures bright(pictures, SceneTarget::FlatField, brightExposure, camera);
+    for (const unsigned different : {1U, 2U, 3U, 5U, 8U}) {
+        SCOPED_TRACE(different);
+        const auto findings = findDefects(dark.statistics(different), bright.statistics(different),
+            [](std::size_t, std::size_t) { return true; });
+        Places found = placesOf(defectMap(findings.value(), usualThreshold));
+        std::size_t blinking = 0;
+        for (const auto &[place, pixel] : found)
+            blinking += pixel.kind == DefectKind::Blinking ? 1 : 0;
+        EXPECT_EQ(blinking > 0, different >= minDefectImages);
+        for (const DefectPixel &defect : flaws.defects()) {
+            const bool isClear = defect.kind == DefectPixel::Kind::Hot
+                ? trueDeviation(defect, model, camera, different) > 8
+                : defect.kind != DefectPixel::Kind::Blinking;
+            if (isClear && different > 1) // In a single image, a hot pixel may look like a stuck one.
+                expectFound(defect, found);
+            const std::size_t known = found.erase({defect.x, defect.y});
+            EXPECT_TRUE(!isClear || known == 1) << defect.x << ", " << defect.y;
+        }
+        EXPECT_EQ(found.size(), 0U);
     }
 }
 

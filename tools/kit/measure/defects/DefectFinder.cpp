@@ -7,12 +7,14 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <tuple>
 
 namespace {
 
 constexpr std::uint32_t partPixels = 64; // Of one colour, in both directions.
 constexpr std::uint32_t linePartPixels = 1024; // Of one colour, if the sensor has one line.
+constexpr std::uint32_t linesPerQuestion = 8; // Whether the examination goes on.
 
 // Rounding to whole numbers has the variance 1/12. A value between two numbers alternates between them with
 // a variance of at most 1/4.
@@ -34,6 +36,8 @@ double lightVariance(const PixelStatistics &dark, const PixelStatistics &bright)
     std::vector<float> levels;
     for (const std::vector<float> &blocks : bright.blockMeans())
         levels.push_back(static_cast<float>(mean(blocks)));
+    if (levels.size() < 2)
+        return 0;
     const double level = mean(levels);
     double squares = 0;
     for (const float value : levels)
@@ -95,15 +99,19 @@ public:
         : m_layout(dark.layout()), m_sets{newSet(dark), newSet(bright)}, m_gain(systemGain(dark, bright))
     { }
 
-    void examineBand(std::uint32_t firstY, std::uint32_t endY)
+    /// Returns false if the examination was cancelled.
+    bool examineBand(std::uint32_t firstY, std::uint32_t endY, const std::function<bool()> &goesOn)
     {
         for (Set &set : m_sets)
-            computeDifferences(set, firstY, endY);
+            if (!computeDifferences(set, firstY, endY, goesOn))
+                return false;
         const std::uint32_t step = m_layout.colorStep;
         const std::uint32_t size = (m_layout.isLineScan() ? linePartPixels : partPixels) * step;
         const std::uint32_t count = partCount(m_layout.width, size);
         const std::size_t known = m_findings.candidates.size();
         for (std::uint32_t i = 0; i < count; ++i) {
+            if (!goesOn())
+                return false;
             const Part part{partStart(i, count, m_layout.width, step),
                 partStart(i + 1, count, m_layout.width, step), firstY, endY};
             for (std::uint32_t row = 0; row < std::min(step, endY - firstY); ++row)
@@ -114,6 +122,7 @@ public:
             m_findings.candidates.end(), [](const DefectCandidate &a, const DefectCandidate &b) {
                 return std::tie(a.y, a.x) < std::tie(b.y, b.x);
             });
+        return true;
     }
 
     DefectFindings findings()
@@ -151,10 +160,13 @@ private:
             {}, {}, {}};
     }
 
-    void computeDifferences(Set &set, std::uint32_t firstY, std::uint32_t endY) const
+    bool computeDifferences(
+        Set &set, std::uint32_t firstY, std::uint32_t endY, const std::function<bool()> &goesOn) const
     {
         set.differences.resize(static_cast<std::size_t>(endY - firstY) * m_layout.width);
         for (std::uint32_t y = firstY; y < endY; ++y) {
+            if ((y - firstY) % linesPerQuestion == 0 && !goesOn())
+                return false;
             float *const line
                 = set.differences.data() + static_cast<std::size_t>(y - firstY) * m_layout.width;
             set.neighbours.computeLine(set.statistics.means(0), y, line);
@@ -162,6 +174,7 @@ private:
             for (std::uint32_t x = 0; x < m_layout.width; ++x)
                 line[x] = means[x] - line[x];
         }
+        return true;
     }
 
     template <typename Value>
@@ -228,6 +241,8 @@ private:
 
     float blinking(const Set &set, std::uint32_t x, std::uint32_t y, double difference) const
     {
+        if (!set.statistics.showsNoise())
+            return 0;
         const double additional = std::max(0.0, difference);
         const double expected = std::max(alternationVariance,
             set.variance + m_gain * additional + std::pow(temperatureShare * additional, 2));
@@ -251,10 +266,12 @@ std::optional<DefectFindings> findDefects(
     Examination examination(dark, bright);
     const std::uint32_t bands = Examination::partCount(layout.height, partPixels * layout.colorStep);
     for (std::uint32_t band = 0; band < bands; ++band) {
-        if (!progress(band, bands))
+        const bool isComplete
+            = examination.examineBand(Examination::partStart(band, bands, layout.height, layout.colorStep),
+                Examination::partStart(band + 1, bands, layout.height, layout.colorStep),
+                [&] { return progress(band, bands); });
+        if (!isComplete)
             return {};
-        examination.examineBand(Examination::partStart(band, bands, layout.height, layout.colorStep),
-            Examination::partStart(band + 1, bands, layout.height, layout.colorStep));
     }
     return examination.findings();
 }

@@ -18,10 +18,13 @@
 /// pixels follow. This quotient has a chi-squared distribution, and is transformed to standard deviations of
 /// a normal distribution: E. B. Wilson and M. M. Hilferty, "The Distribution of Chi-Square", PNAS 17 (1931).
 ///
-/// Both sets have the same layout, and minDefectImages or more images.
-/// @param progress Called with parts of the picture; if it returns false, the function returns no value.
+/// Blinking is not judged if a pixel has fewer than PixelStatistics::minNoiseSamples values.
+///
+/// Both sets have the same layout, and one image or more.
+/// @param progress Called with parts of the picture, several times for each; if it returns false, the
+/// function returns no value.
 std::optional<DefectFindings> findDefects(
     const PixelStatistics &dark, const PixelStatistics &bright, const MeasureProgress &progress);
 
 /// With less images, the variance of a single pixel says little.
-constexpr std::size_t minDefectImages = 8;
+constexpr std::size_t minDefectImages = PixelStatistics::minNoiseSamples;

@@ -168,8 +168,11 @@ Sentence brightProblem(const PixelStatistics &dark, const PixelStatistics &brigh
                 "%1 % of the pixels of the bright images have the highest value. Use less light or a shorter "
                 "exposure, and take the images again."),
             {SentenceNumber{percent(clipped)}}};
-    const Sentence change = changeProblem(signalHalves(bright, darkLevel));
-    return change.isEmpty() ? structureProblem(bright, darkLevel) : change;
+    if (bright.images() > 1) {
+        if (Sentence change = changeProblem(signalHalves(bright, darkLevel)); !change.isEmpty())
+            return change;
+    }
+    return structureProblem(bright, darkLevel);
 }
 
 Sentence findingsProblem(const DefectFindings &findings)

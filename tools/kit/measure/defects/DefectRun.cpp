@@ -176,6 +176,34 @@ private:
     ImageConverter m_converter;
 };
 
+/// Takes further images if some were equal to earlier ones. If all are equal, the camera has no noise.
+Sentence takeDifferentImages(
+    const MeasureContext &context, std::size_t count, std::chrono::milliseconds limit, DefectImages &images)
+{
+    constexpr std::size_t maxRepetition = 3; // Times `count`.
+    const PixelStatistics &statistics = images.statistics;
+    Collector collector(images, isLineScan(context.device));
+    const MeasureProgress progress
+        = [&](std::size_t, std::size_t) { return context.progress(statistics.images(), count); };
+    const MeasureContext part{context.device, context.frames, progress};
+    std::size_t taken = 0;
+    while (statistics.images() < count && taken < maxRepetition * count) {
+        const std::size_t wanted = std::min(count - statistics.images(), maxRepetition * count - taken);
+        Sentence problem
+            = takeImages(part, wanted, limit, [&](const Image &image) { return collector.take(image); });
+        if (!problem.isEmpty())
+            return problem;
+        taken += wanted;
+        if (statistics.images() == 1)
+            return {};
+    }
+    if (statistics.showsNoise())
+        return {};
+    return {QT_TRANSLATE_NOOP("Measure",
+        "The camera has sent the same pictures again and again. Lower AcquisitionFrameRate, then measure "
+        "again.")};
+}
+
 Sentence collect(const MeasureContext &context, std::size_t count, DefectImages &images)
 {
     if (count < minDefectImages)
@@ -187,10 +215,9 @@ Sentence collect(const MeasureContext &context, std::size_t count, DefectImages 
         return problem;
     images.exposureTime = readNumber(context.device, {"ExposureTime", "ExposureTimeAbs", "ExposureTimeRaw"});
     images.gain = readNumber(context.device, {"Gain", "GainAbs", "GainRaw"});
-    Collector collector(images, isLineScan(context.device));
     const auto exposure = std::chrono::microseconds(std::llround(images.exposureTime.value_or(0)));
     const auto limit = usualImageLimit + std::chrono::ceil<std::chrono::milliseconds>(2 * exposure);
-    return takeImages(context, count, limit, [&](const Image &image) { return collector.take(image); });
+    return takeDifferentImages(context, count, limit, images);
 }
 
 Sentence differenceProblem(const DefectImages &dark, const DefectImages &bright)

@@ -3,6 +3,7 @@
 #include "sdk/image/ImageConverter.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 constexpr std::uint32_t bandLines = 16; // Lines that are unpacked at once; they fit into the cache.
@@ -10,6 +11,12 @@ constexpr std::uint32_t bandLines = 16; // Lines that are unpacked at once; they
 std::uint32_t blockStart(std::uint32_t block, std::uint32_t blocks, std::uint32_t size)
 {
     return static_cast<std::uint32_t>(static_cast<std::uint64_t>(block) * size / blocks);
+}
+
+std::size_t hashOf(const RawImage &picture)
+{
+    const std::string_view bytes(reinterpret_cast<const char *>(picture.data), picture.size);
+    return std::hash<std::string_view>{}(bytes);
 }
 } // namespace
 
@@ -24,6 +31,10 @@ PixelStatistics::PixelStatistics(const StatisticsLayout &layout)
 
 void PixelStatistics::add(const RawImage &picture, ImageConverter &converter)
 {
+    const std::size_t hash = hashOf(picture);
+    if (std::find(m_hashes.begin(), m_hashes.end(), hash) != m_hashes.end())
+        return;
+    m_hashes.push_back(hash);
     const bool isLineScan = m_layout.isLineScan();
     std::vector<double> sums(static_cast<std::size_t>(m_blockColumns) * m_blockRows);
     if (!isLineScan)
@@ -84,7 +95,5 @@ void PixelStatistics::finishBlocks(const std::vector<double> &sums, std::uint32_
             means.push_back(static_cast<float>(sums[means.size()] / (columns * lines)));
         }
     }
-    if (std::find(m_blockMeans.begin(), m_blockMeans.end(), means) == m_blockMeans.end())
-        ++m_differentImages;
     m_blockMeans.push_back(std::move(means));
 }

@@ -30,19 +30,22 @@ public:
     PixelStatistics() = default;
     explicit PixelStatistics(const StatisticsLayout &layout);
 
-    /// Adds a picture of the layout's width; its format has one integer of at most 16 bits per pixel.
+    /// Adds a picture of the layout's width, unless it equals an earlier one: a sender that is too slow may
+    /// repeat pictures, which say nothing new about the noise. The format has one integer of at most 16 bits
+    /// per pixel.
     void add(const RawImage &picture, ImageConverter &converter);
 
     const StatisticsLayout &layout() const { return m_layout; }
     std::size_t pixels() const { return m_means.size(); }
-    std::size_t images() const { return m_blockMeans.size(); }
+    std::size_t images() const { return m_blockMeans.size(); } ///< Without repeated ones.
     std::size_t samples() const
     {
         return m_samples;
     } ///< Values of each pixel; more than images if line scan.
 
-    /// Images without those that are equal to earlier ones: a sender that is too slow may repeat images.
-    std::size_t differentImages() const { return m_differentImages; }
+    /// Returns whether a pixel has enough values to compare its variance with that of others.
+    bool showsNoise() const { return m_samples >= minNoiseSamples; }
+    static constexpr std::size_t minNoiseSamples = 8;
 
     /// Returns the means of a line.
     const float *means(std::uint32_t y) const { return m_means.data() + lineStart(y); }
@@ -67,7 +70,7 @@ private:
     std::vector<float> m_means;
     std::vector<float> m_squares;
     std::size_t m_samples = 0;
-    std::size_t m_differentImages = 0;
+    std::vector<std::size_t> m_hashes; // Of the pictures that were added.
     std::uint32_t m_blockColumns = 0;
     std::uint32_t m_blockRows = 0;
     std::vector<std::vector<float>> m_blockMeans;

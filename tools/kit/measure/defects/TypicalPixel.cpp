@@ -31,10 +31,8 @@ double typicalVariance(const PixelStatistics &statistics, std::vector<float> &sq
 
 double chiSquaredParameter(const PixelStatistics &statistics)
 {
-    constexpr double minDegrees = 7; // Images without any noise are equal.
+    constexpr double minDegrees = 1; // A single picture has no variance.
     constexpr double maxDegrees = 100;
-    const double samplesPerImage
-        = static_cast<double>(statistics.samples()) / static_cast<double>(statistics.images());
-    const double degrees = samplesPerImage * static_cast<double>(statistics.differentImages()) - 1;
+    const double degrees = static_cast<double>(statistics.samples()) - 1;
     return 2 / (9 * std::clamp(degrees, minDegrees, maxDegrees));
 }

@@ -21,5 +21,5 @@ double typicalVariance(const PixelStatistics &statistics, std::vector<float> &sq
 
 /// Returns the parameter of the transformation of Wilson and Hilferty, 2 / (9 n) for n degrees of freedom:
 /// the cube root of a variance divided by its expectation has the mean 1 - parameter and this variance. n is
-/// the number of different samples less one, but at most 100, because the expectation itself is not exact.
+/// the number of samples less one, but at most 100, because the expectation itself is not exact.
 double chiSquaredParameter(const PixelStatistics &statistics);
