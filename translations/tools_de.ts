@@ -3386,6 +3386,10 @@ Dieser Wert ist kamera- oder zeitabhängig.</translation>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
         <translation>Die Verstärkung weicht von der der Dunkelbilder, %1, ab. Stellen Sie sie wie zuvor ein, oder nehmen Sie die Dunkelbilder erneut auf.</translation>
     </message>
+    <message>
+        <source>The camera has sent the same pictures again and again. Lower AcquisitionFrameRate, then measure again.</source>
+        <translation>Die Kamera hat immer wieder dieselben Bilder gesendet. Verringern Sie AcquisitionFrameRate, und messen Sie dann noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>MeasureBar</name>

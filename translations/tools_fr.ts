@@ -3386,6 +3386,10 @@ Cette valeur est propre à une caméra ou à un instant.</translation>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
         <translation>Le gain diffère de celui des images sombres (%1). Rétablissez-le ou reprenez les images sombres.</translation>
     </message>
+    <message>
+        <source>The camera has sent the same pictures again and again. Lower AcquisitionFrameRate, then measure again.</source>
+        <translation>La caméra a envoyé plusieurs fois les mêmes images. Réduisez AcquisitionFrameRate, puis mesurez de nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>MeasureBar</name>

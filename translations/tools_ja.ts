@@ -3356,6 +3356,10 @@ This value belongs to one camera or one moment.</source>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
         <translation>ゲインが暗時画像の撮影時 (%1) と異なります。元に戻すか、暗時画像を撮り直してください。</translation>
     </message>
+    <message>
+        <source>The camera has sent the same pictures again and again. Lower AcquisitionFrameRate, then measure again.</source>
+        <translation>カメラから同じ画像が繰り返し送信されました。AcquisitionFrameRate を下げてから、もう一度計測してください。</translation>
+    </message>
 </context>
 <context>
     <name>MeasureBar</name>

@@ -3356,6 +3356,10 @@ This value belongs to one camera or one moment.</source>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
         <translation>게인이 다크 이미지의 게인(%1)과 다릅니다. 이전과 같게 설정하거나 다크 이미지를 다시 촬영하십시오.</translation>
     </message>
+    <message>
+        <source>The camera has sent the same pictures again and again. Lower AcquisitionFrameRate, then measure again.</source>
+        <translation>카메라가 같은 이미지를 반복해서 보냈습니다. AcquisitionFrameRate를 낮춘 다음 다시 측정하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>MeasureBar</name>

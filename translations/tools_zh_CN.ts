@@ -3356,6 +3356,10 @@ This value belongs to one camera or one moment.</source>
         <source>The gain differs from that of the dark images, %1. Set it as before, or take the dark images again.</source>
         <translation>增益与暗场图像的增益 %1 不同。请恢复原设置，或重新采集暗场图像。</translation>
     </message>
+    <message>
+        <source>The camera has sent the same pictures again and again. Lower AcquisitionFrameRate, then measure again.</source>
+        <translation>相机重复发送了相同的图像。请降低 AcquisitionFrameRate，然后重新测量。</translation>
+    </message>
 </context>
 <context>
     <name>MeasureBar</name>
