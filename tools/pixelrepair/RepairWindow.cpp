@@ -3,6 +3,7 @@
 #include "sdk/image/Correction.h"
 #include "sdk/imagefile/DefectMapFile.h"
 #include "tools/kit/canvas/ImageCanvas.h"
+#include "tools/kit/canvas/LivePicture.h"
 #include "tools/kit/measure/defects/DefectJson.h"
 #include "tools/kit/start/ToolIcons.h"
 #include "tools/kit/widgets/StepCard.h"
