@@ -20,7 +20,7 @@ constexpr double darkExposure = 200000;
 constexpr double brightExposure = 5000;
 constexpr double temperature = 33; // Twice the dark current of 25 °C.
 
-struct Camera
+struct CameraCase
 {
     const char *name;
     std::uint32_t pixelFormat;
@@ -29,7 +29,7 @@ struct Camera
     int depth;
     int taps;
 };
-const Camera cameras[] = {
+const CameraCase cameras[] = {
     {"mono, 12 bits", mono12Code, false, false, 12, 1},
     {"mono, 12 bits packed, two taps", mono12pCode, false, false, 12, 2},
     {"mono, 8 bits", mono8Code, false, false, 8, 1},
@@ -38,7 +38,7 @@ const Camera cameras[] = {
     {"line scan, 12 bits", mono12Code, false, true, 12, 1},
 };
 
-SensorModel sensorOf(const Camera &camera)
+SensorModel sensorOf(const CameraCase &camera)
 {
     SensorModel model;
     model.width = camera.isLineScan ? 8192 : areaWidth;
@@ -66,7 +66,8 @@ SensorModel withoutDefects(SensorModel model)
     return model;
 }
 
-PixelStatistics measured(SensorPictures &pictures, SceneTarget target, double exposure, const Camera &camera)
+PixelStatistics measured(
+    SensorPictures &pictures, SceneTarget target, double exposure, const CameraCase &camera)
 {
     RenderSettings settings = pictures.settings(target, exposure, camera.pixelFormat);
     settings.temperature = temperature;
@@ -74,7 +75,7 @@ PixelStatistics measured(SensorPictures &pictures, SceneTarget target, double ex
     return pictures.statistics(settings, images);
 }
 
-DefectFindings find(SensorPictures &pictures, const Camera &camera)
+DefectFindings find(SensorPictures &pictures, const CameraCase &camera)
 {
     const PixelStatistics dark = measured(pictures, SceneTarget::LensCap, darkExposure, camera);
     const PixelStatistics bright = measured(pictures, SceneTarget::FlatField, brightExposure, camera);
@@ -82,9 +83,9 @@ DefectFindings find(SensorPictures &pictures, const Camera &camera)
 }
 
 /// Returns what is found with the defects of a camera. The first call for each camera takes its time.
-const DefectFindings &findingsOf(const Camera &camera)
+const DefectFindings &findingsOf(const CameraCase &camera)
 {
-    static std::map<const Camera *, DefectFindings> known;
+    static std::map<const CameraCase *, DefectFindings> known;
     const auto place = known.find(&camera);
     if (place != known.end())
         return place->second;
@@ -94,8 +95,8 @@ const DefectFindings &findingsOf(const Camera &camera)
 
 /// Returns the true deviation of a hot pixel in the dark, in standard deviations of the good pixels' means.
 /// These contain the differences of the dark signal, the noise that remains and the rounding.
-double trueDeviation(
-    const DefectPixel &defect, const SensorModel &model, const Camera &camera, unsigned different = images)
+double trueDeviation(const DefectPixel &defect, const SensorModel &model, const CameraCase &camera,
+    unsigned different = images)
 {
     const double seconds = darkExposure * 1e-6 * SensorFlaws::darkFactor(temperature);
     const double samples = different * (camera.isLineScan ? 64.0 : 1.0);
@@ -120,7 +121,7 @@ Places placesOf(const DefectMap &map)
 class RepeatedPictures
 {
 public:
-    RepeatedPictures(SensorPictures &pictures, SceneTarget target, double exposure, const Camera &camera)
+    RepeatedPictures(SensorPictures &pictures, SceneTarget target, double exposure, const CameraCase &camera)
         : m_settings(pictures.settings(target, exposure, camera.pixelFormat)),
           m_layout(pictures.statistics(m_settings, 0).layout())
     {
@@ -165,7 +166,7 @@ TEST(DefectFinder, FindsAllDefectsAndHardlyAnyGoodPixel)
     double megapixels = 0;
     int falseDefects = 0;
     int clearDefects = 0;
-    for (const Camera &camera : cameras) {
+    for (const CameraCase &camera : cameras) {
         SCOPED_TRACE(camera.name);
         const SensorModel model = sensorOf(camera);
         const SensorFlaws flaws(model);
@@ -188,7 +189,7 @@ TEST(DefectFinder, FindsAllDefectsAndHardlyAnyGoodPixel)
 
 TEST(DefectFinder, ReportsNothingOfASensorWithoutDefects)
 {
-    for (const Camera &camera : cameras) {
+    for (const CameraCase &camera : cameras) {
         SCOPED_TRACE(camera.name);
         SensorPictures pictures(withoutDefects(sensorOf(camera)));
         EXPECT_EQ(defectMap(find(pictures, camera), usualThreshold).pixels.size(), 0U);
@@ -197,7 +198,7 @@ TEST(DefectFinder, ReportsNothingOfASensorWithoutDefects)
 
 TEST(DefectFinder, TakesNoGoodPixelForADefectIfImagesAreRepeated)
 {
-    const Camera &camera = cameras[4];
+    const CameraCase &camera = cameras[4];
     const SensorModel model = sensorOf(camera);
     const SensorFlaws flaws(model);
     SensorPictures pictures(model);
@@ -227,7 +228,7 @@ TEST(DefectFinder, TakesNoGoodPixelForADefectIfImagesAreRepeated)
 
 TEST(DefectFinder, FindsPixelsThatReactWrongly)
 {
-    const Camera &camera = cameras[0];
+    const CameraCase &camera = cameras[0];
     SensorPictures pictures(withoutDefects(sensorOf(camera)));
     StatisticsLayout layout = measured(pictures, SceneTarget::LensCap, darkExposure, camera).layout();
     layout.offsetX = 100;
@@ -290,7 +291,7 @@ TEST(DefectFinder, HigherThresholdsKeepTheClearerDefects)
 
 TEST(DefectFinder, RepairedPicturesDifferFromTrueOnesByTheNoise)
 {
-    for (const Camera &camera : cameras) {
+    for (const CameraCase &camera : cameras) {
         SCOPED_TRACE(camera.name);
         SensorPictures pictures(sensorOf(camera));
         SensorPictures perfect(withoutDefects(sensorOf(camera)));
