@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::uint32_t mono8 = 0x01080001;
-constexpr std::uint32_t mono16 = 0x01100007;
+constexpr std::uint32_t eightBits = 0x01080001;
+constexpr std::uint32_t sixteenBits = 0x01100007;
 
 /// A drawn disc or ring with soft borders.
 RolledPicture drawn(double halfWidth, double halfHeight, double shear, double hole)
@@ -30,7 +30,7 @@ RolledPicture drawn(double halfWidth, double halfHeight, double shear, double ho
             picture.bytes[static_cast<std::size_t>(y * width + x)]
                 = static_cast<std::uint8_t>(200 - 170 * share);
         }
-    picture.raw = {picture.bytes.data(), picture.bytes.size(), width, height, 0, mono8, false};
+    picture.raw = {picture.bytes.data(), picture.bytes.size(), width, height, 0, eightBits, false};
     return picture;
 }
 
@@ -85,7 +85,7 @@ TEST(RoundTarget, wideSensorIsMeasuredOnAReducedPicture)
 
 TEST(RoundTarget, wordsAreMeasuredAsBytesAre)
 {
-    const RolledPicture picture = rolled(640, 480, 1, 0, mono16);
+    const RolledPicture picture = rolled(640, 480, 1, 0, sixteenBits);
     const TargetSearch search = RoundTargetFinder().find(picture.raw);
     ASSERT_TRUE(search.target);
     EXPECT_NEAR(search.target->heightToWidth(), 1, 0.005);
@@ -136,7 +136,7 @@ TEST(RoundTarget, capOnTheLensIsNamed)
     std::vector<std::uint8_t> bytes(200 * 200);
     for (std::size_t i = 0; i < bytes.size(); ++i) // Noise in the dark.
         bytes[i] = static_cast<std::uint8_t>(3 + i * 7919 % 4);
-    const RawImage dark{bytes.data(), bytes.size(), 200, 200, 0, mono8, false};
+    const RawImage dark{bytes.data(), bytes.size(), 200, 200, 0, eightBits, false};
     EXPECT_NE(
         toEnglish(RoundTargetFinder().find(dark).problem).find("too little contrast"), std::string::npos);
 }
