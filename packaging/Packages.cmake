@@ -46,6 +46,9 @@ corvix_deb_package(launcher corvix-x-launcher
     "GigE Vision and USB3 Vision cameras of any vendor. It sorts them into hardware"
     "groups and starts the tools of the Corvix X camera SDK that suit them.")
 set(CPACK_DEBIAN_LAUNCHER_PACKAGE_RECOMMENDS "xdg-utils, qttranslations5-l10n, qtwayland5")
+# The stand-ins of earlier versions had the names of the tools.
+set(CPACK_DEBIAN_LAUNCHER_PACKAGE_CONFLICTS "corvix-x-demo")
+set(CPACK_DEBIAN_LAUNCHER_PACKAGE_REPLACES "corvix-x-demo")
 set(CPACK_DEBIAN_LAUNCHER_PACKAGE_SUGGESTS "corvix-x-simulator, ffmpeg")
 
 corvix_deb_package(simulator corvix-x-simulator

@@ -46,7 +46,7 @@ class TapsTest(CvxctlCase):
         self.assertIn("Tap2", messages)
         _, messages = self.run_failing(2, "taps", "3001", "--layout", "many")
         self.assertIn("4X_1Y", messages)
-        _, messages = self.run_failing(1, "taps", "3001", *SURFACE, "--dark")
+        _, messages = self.run_failing(2, "taps", "3001", *SURFACE, "--dark")
         self.assertIn("--dark-set", messages)
 
 

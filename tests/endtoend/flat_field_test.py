@@ -12,7 +12,7 @@ from simulator import SimulatorConfiguration
 from tool import Tool
 
 STAGE, PLUGINS = sys.argv[1:]
-CAMERA = "24030117"
+CAMERA = "K2300415"
 WIDTH, HEIGHT = 640, 512
 
 
@@ -67,14 +67,13 @@ def main():
     with SimulatorConfiguration(STAGE) as simulator, tempfile.TemporaryDirectory() as folder:
         content = simulator.read()
         for interface in content["interfaces"]:
-            for device in interface["devices"]:
-                if device["serial"] == CAMERA:
-                    device.update(sensorWidth=WIDTH, sensorHeight=HEIGHT, color=False)
+            interface["devices"] = [{**device, "sensorWidth": WIDTH, "sensorHeight": HEIGHT}
+                                    for device in interface["devices"] if device["serial"] == CAMERA]
         simulator.write(content)
         # The panel is shown without scrolling.
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-            wait_for("the cameras are listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
-            click(launcher.cell("Orvelle"))
+            wait_for("the cameras are listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
+            click(launcher.cell("KORDANE"))
             wait_for("Flat Field is enabled", lambda: "Flat Field" in launcher.enabled_tools())
             with start(launcher, "Flat Field", "FlatField") as tool:
                 xdotool("windowsize", "--sync", tool.window, 1270, 1000)

@@ -26,7 +26,7 @@ def use_small_camera(configuration):
     for interface in content["interfaces"]:
         interface["devices"] = []
     content["interfaces"][0]["devices"] = [
-        {"id": "SIM-1", "vendor": "Orvelle", "model": "Area", "serial": "1", "sensorWidth": 480, "sensorHeight": 384}]
+        {"id": "SIM-1", "vendor": "KORDANE", "model": "HXT-15110M-CXP", "serial": "1", "sensorWidth": 480, "sensorHeight": 384}]
     configuration.write(content)
 
 
@@ -34,7 +34,7 @@ def check(path):
     with open(path, encoding="utf-8") as file:
         document = json.load(file)
     assert document["format"] == "corvix-x-focus", document["format"]
-    assert document["camera"]["vendor"] == "Orvelle", document["camera"]
+    assert document["camera"]["vendor"] == "KORDANE", document["camera"]
     result = document["result"]
     assert result["lens"] == "LensFocusPosition", result["lens"]
     assert 465 < result["analysis"]["best"] < 535, result["analysis"]  # Simulated lenses are sharp near 500.
@@ -46,8 +46,8 @@ def main():
     with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
         use_small_camera(configuration)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-            wait_for("the camera is listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
-            click(launcher.cell("Orvelle"))
+            wait_for("the camera is listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
+            click(launcher.cell("KORDANE"))
             wait_for("the Focus Assistant is enabled", lambda: "Focus Assistant" in launcher.enabled_tools())
             with start(launcher, "Focus Assistant", "FocusAssistant") as assistant:
                 wait_for("the sharpness is measured", lambda: assistant.shows(lambda text: text.startswith("of the peak.")))

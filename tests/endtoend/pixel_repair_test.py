@@ -12,7 +12,7 @@ from simulator import SimulatorConfiguration
 from tool import Tool
 
 STAGE, PLUGINS = sys.argv[1:]
-CAMERA = "24030117"
+CAMERA = "K2300415"
 WIDTH, HEIGHT = 640, 512
 
 
@@ -62,13 +62,12 @@ def main():
     with SimulatorConfiguration(STAGE) as simulator, tempfile.TemporaryDirectory() as folder:
         content = simulator.read()
         for interface in content["interfaces"]:
-            for device in interface["devices"]:
-                if device["serial"] == CAMERA:
-                    device.update(sensorWidth=WIDTH, sensorHeight=HEIGHT, color=False)
+            interface["devices"] = [{**device, "sensorWidth": WIDTH, "sensorHeight": HEIGHT}
+                                    for device in interface["devices"] if device["serial"] == CAMERA]
         simulator.write(content)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-            wait_for("the cameras are listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
-            click(launcher.cell("Orvelle"))
+            wait_for("the cameras are listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
+            click(launcher.cell("KORDANE"))
             wait_for("Pixel Repair is enabled", lambda: "Pixel Repair" in launcher.enabled_tools())
             with start(launcher, "Pixel Repair", "PixelRepair") as tool:
                 # The whole panel is visible.

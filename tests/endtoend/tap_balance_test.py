@@ -24,8 +24,9 @@ def use_camera_with_taps(configuration):
     """Keeps the camera with four taps, with a small sensor, which is quick."""
     content = configuration.read()
     for interface in content["interfaces"]:
-        interface["devices"] = [{**device, "sensorWidth": 640, "sensorHeight": 320} for device in interface["devices"]
-                                if device.get("taps") == 4]
+        interface["devices"] = [
+            {**device, "model": "HX-2960M-4Tap", "sensorWidth": 640, "sensorHeight": 320}
+            for device in interface["devices"] if device.get("taps") == 4]
     configuration.write(content)
 
 

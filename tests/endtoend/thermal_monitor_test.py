@@ -24,19 +24,35 @@ def check(path):
     with open(path, encoding="utf-8") as file:
         document = json.load(file)
     assert document["format"] == "corvix-x-temperatures", document["format"]
-    assert document["camera"]["vendor"] == "Orvelle", document["camera"]
+    assert document["camera"]["vendor"] == "KORDANE", document["camera"]
     places = {place["place"]: place for place in document["result"]["places"]}
     assert sorted(places) == ["Mainboard", "Sensor"], places
     # The sensor of a simulated camera that works approaches 51 degrees.
     assert abs(places["Sensor"]["finalCelsius"] - 51) < 0.5, places
 
 
+def use_one_camera(configuration):
+    """Keeps one camera, with a small sensor, which is quick."""
+    content = configuration.read()
+    for interface in content["interfaces"]:
+        interface["devices"] = [{**device, "sensorWidth": 640, "sensorHeight": 480} for device in interface["devices"]
+                                if device["serial"] == "K2300415"]
+    configuration.write(content)
+
+
 def main():
     keep_to_this_machine(STAGE)
-    with SimulatorConfiguration(STAGE), Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher, \
-            tempfile.TemporaryDirectory() as folder:
-        wait_for("the cameras are listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
-        click(launcher.cell("Orvelle"))
+    with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
+        use_one_camera(configuration)
+        follow_temperatures(folder)
+        check(f"{folder}/result.json")
+        assert os.path.getsize(f"{folder}/result.csv") > 100
+
+
+def follow_temperatures(folder):
+    with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
+        wait_for("the cameras are listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
+        click(launcher.cell("KORDANE"))
         wait_for("the Thermal Monitor is enabled", lambda: "Thermal Monitor" in launcher.enabled_tools())
         with start(launcher, "Thermal Monitor", "ThermalMonitor") as monitor:
             wait_for("the final value of the sensor is known",
@@ -48,8 +64,6 @@ def main():
             monitor.type(f"{folder}/result.json")
             monitor.press("Return")
             wait_for("the report is written", lambda: os.path.exists(f"{folder}/result.html"))
-        check(f"{folder}/result.json")
-        assert os.path.getsize(f"{folder}/result.csv") > 100
 
 
 main()

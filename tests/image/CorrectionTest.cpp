@@ -326,12 +326,12 @@ TEST(CorrectionTest, saysWhyAPictureCannotBeCorrected)
         {both, mono8Code, {20, 8, 60, 32}, ""},
         {both, mono8Code, {15, 8, 64, 32}, "flat field covers 64 x 32 pixels at 16, 8"},
         {both, mono8Code, {16, 9, 64, 32}, "flat field covers"},
-        {both, mono8Code, {600, 8, 64, 32}, "sensor with 640 x 480 pixels"},
+        {both, mono8Code, {600, 8, 64, 32}, "covers 640 x 480 pixels"},
         {both, rgb8Code, {16, 8, 64, 32}, "RGB8 does not have"},
         {both, 0x01080002, {16, 8, 64, 32}, "Mono8s does not have"},
         {both, 0x12345678, {16, 8, 64, 32}, "this pixel format does not have"},
         {lines, mono8Code, {0, 0, 64, 5000}, ""},
-        {lines, mono8Code, {1, 0, 64, 1}, "sensor with 64 x 1"},
+        {lines, mono8Code, {1, 0, 64, 1}, "covers 64 x 1"},
         {sizeless, mono8Code, {9, 9, 9000, 9000}, ""},
     };
     for (const Row &row : rows) {

@@ -317,7 +317,7 @@ TEST_F(CorrectionFilesTest, imageFilesAreCorrectedAndNameTheFiles)
     MemoryImage moved = image;
     moved.m_info.offsetX = 1;
     const std::string problem = writer.write(moved, path("b.png"), ImageFileFormat::Png16, {});
-    EXPECT_NE(problem.find("sensor with 4 x 2 pixels"), std::string::npos) << problem;
+    EXPECT_NE(problem.find("covers 4 x 2 pixels"), std::string::npos) << problem;
     EXPECT_FALSE(std::filesystem::exists(path("b.png")));
     writer.setCorrection({});
     EXPECT_EQ(writer.write(moved, path("b.png"), ImageFileFormat::Png16, {}), "");

@@ -121,7 +121,7 @@ TEST_F(TakeImages, missingImagesAreExplained)
     frames.end = {CvxErrorDeviceLost, "Unplugged."};
     EXPECT_NE(toEnglish(take(1)).find("Unplugged."), std::string::npos);
     frames.end = {CvxErrorClosed, "Closed."};
-    EXPECT_NE(toEnglish(take(1)).find("have ended"), std::string::npos);
+    EXPECT_NE(toEnglish(take(1)).find("has ended"), std::string::npos);
     EXPECT_TRUE(taken.empty());
 }
 
