@@ -47,10 +47,9 @@ def shading(*options):
 
 def measure(tool, folder):
     tool.activate()
-    tool.click("Camera settings")
     set_target(tool, "LensCap")
     tool.click("Take dark images")
-    wait_for("the dark images are taken", lambda: tool.shows(lambda text: text.startswith("The dark images are taken.")))
+    wait_for("the dark images are taken", lambda: tool.shows(lambda text: text.startswith("The dark images were taken.")))
     set_target(tool, "FlatField")
     tool.click("Take bright images")
     wait_for("the shading is known", lambda: tool.shows(lambda text: text.startswith("The correction reduces the shading")))
@@ -76,7 +75,7 @@ def main():
             click(launcher.cell("KORDANE"))
             wait_for("Flat Field is enabled", lambda: "Flat Field" in launcher.enabled_tools())
             with start(launcher, "Flat Field", "FlatField") as tool:
-                xdotool("windowsize", "--sync", tool.window, 1270, 1000)
+                xdotool("windowsize", "--sync", tool.window, 1270, 1300)
                 measure(tool, folder)
         with open(f"{folder}/field.json", encoding="utf-8") as file:
             document = json.load(file)
