@@ -103,10 +103,10 @@ FocusPanel::FocusPanel(FocusSession &session, ToolSettings &settings, QWidget *p
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
     layout->addWidget(createHeading(tr("Sharpness")));
-    for (QWidget *const widget :
-        {static_cast<QWidget *>(m_share), static_cast<QWidget *>(m_advice), static_cast<QWidget *>(m_corners),
-            static_cast<QWidget *>(m_problem), static_cast<QWidget *>(m_plot), createControls(),
-            static_cast<QWidget *>(m_steps), static_cast<QWidget *>(m_save)})
+    for (QWidget *const widget : {static_cast<QWidget *>(m_share), static_cast<QWidget *>(m_advice),
+             static_cast<QWidget *>(m_corners), static_cast<QWidget *>(m_movement),
+             static_cast<QWidget *>(m_problem), static_cast<QWidget *>(m_plot), createControls(),
+             static_cast<QWidget *>(m_steps), static_cast<QWidget *>(m_save)})
         layout->addWidget(widget);
     m_session.setGridSize(m_grid->value());
     connect(&m_session, &FocusSession::changed, this, &FocusPanel::show);
