@@ -8,7 +8,6 @@
 #include "tools/kit/widgets/StepList.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
@@ -104,11 +103,7 @@ void TestFlatField::shadingIsMeasuredAndItsCorrectionSaved()
 
     const QTemporaryDir folder;
     tool.step(2)->button()->click();
-    auto *const dialog = tool.window().findChild<QFileDialog *>("resultFiles"_s);
-    QVERIFY(dialog);
-    dialog->setDirectory(folder.path());
-    dialog->selectFile(folder.filePath("field.tif"_s));
-    static_cast<QDialog *>(dialog)->accept();
+    chooseResultFile(tool.window(), folder.filePath("field.tif"_s));
     await([&] { return tool.find<StepList>()->current() == 3; });
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
         (QStringList{"field.html"_s, "field.json"_s, "field.tif"_s}));

@@ -6,6 +6,9 @@
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QProcess>
 #include <QSet>
 #include <QTimer>
@@ -75,6 +78,19 @@ QStringList unnamedControls(QMainWindow &window, int &count)
                 + control->toolTip());
     }
     return unnamed;
+}
+
+void chooseResultFile(QWidget &window, const QString &path)
+{
+    QFileDialog *dialog = nullptr;
+    await([&] {
+        dialog = window.findChild<QFileDialog *>(QStringLiteral("resultFiles"));
+        return dialog && dialog->isVisible();
+    });
+    dialog->setDirectory(QFileInfo(path).path());
+    // QFileDialog::selectFile() does not replace the name once its field has the focus.
+    dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(QFileInfo(path).fileName());
+    QMetaObject::invokeMethod(dialog, "accept");
 }
 
 QAction &actionOf(QWidget &window, const QString &text)

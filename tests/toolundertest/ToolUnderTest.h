@@ -25,6 +25,9 @@ void signalCameraHost(const QString &signal);
 /// name, as text. Shows one dock after the other; `count` is the number of all controls that were seen.
 QStringList unnamedControls(QMainWindow &window, int &count);
 
+/// Waits until the window asks for the name of a result, and enters this path.
+void chooseResultFile(QWidget &window, const QString &path);
+
 /// Returns the action of the window with this text, which contains no "&".
 QAction &actionOf(QWidget &window, const QString &text);
 
