@@ -4,18 +4,11 @@ restores it. Everything is done by mouse and keyboard, on the installed programs
 import re
 import sys
 
-from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from launcher import Launcher, keep_to_this_machine, wait_for
 from simulator import SimulatorConfiguration
-from tool import Tool
+from tool import start, start_for
 
 STAGE, PLUGINS = sys.argv[1:]
-
-
-def start(launcher, title, name):
-    """Starts a tool by its tile, for the selected camera."""
-    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
-    click(launcher.tiles()[title])
-    return Tool(launcher, name)
 
 
 def differences(text):
@@ -43,10 +36,7 @@ def main():
     keep_to_this_machine(STAGE)
     # One unit of the windows is one pixel of the screen.
     with SimulatorConfiguration(STAGE), Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-        wait_for("the cameras are listed", lambda: any(row[0] == "Orvelle" for row in launcher.rows()))
-        click(launcher.cell("Orvelle"))
-        wait_for("Camera Setup is enabled", lambda: "Camera Setup" in launcher.enabled_tools())
-        with start(launcher, "Camera Setup", "CameraSetup") as setup:
+        with start_for(launcher, "Orvelle", "Camera Setup", "CameraSetup") as setup:
             wait_for("the settings at opening are known", lambda: setup.shows(lambda text: "0 changed since opening" in text))
             setup.activate()
             setup.press("F5")  # The camera streams.

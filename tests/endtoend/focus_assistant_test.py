@@ -6,18 +6,11 @@ import os
 import sys
 import tempfile
 
-from launcher import BOUND, Launcher, click, keep_to_this_machine, wait_for, xdotool
+from launcher import BOUND, Launcher, keep_to_this_machine, wait_for
 from simulator import SimulatorConfiguration
-from tool import Tool
+from tool import start_for
 
 STAGE, PLUGINS = sys.argv[1:]
-
-
-def start(launcher, title, name):
-    """Starts a tool by its tile, for the selected camera."""
-    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
-    click(launcher.tiles()[title])
-    return Tool(launcher, name)
 
 
 def use_small_camera(configuration):
@@ -46,21 +39,13 @@ def main():
     with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
         use_small_camera(configuration)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-            wait_for("the camera is listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
-            click(launcher.cell("KORDANE"))
-            wait_for("the Focus Assistant is enabled", lambda: "Focus Assistant" in launcher.enabled_tools())
-            with start(launcher, "Focus Assistant", "FocusAssistant") as assistant:
+            with start_for(launcher, "KORDANE", "Focus Assistant", "FocusAssistant") as assistant:
                 wait_for("the sharpness is measured", lambda: assistant.shows(lambda text: text.startswith("of the peak.")))
                 assistant.activate()
                 assistant.click("Search automatically")
                 wait_for("the lens is at the best position",
                          lambda: assistant.shows(lambda text: "The lens is there." in text), 4 * BOUND)
-                assistant.press("ctrl+s")
-                wait_for("the file dialog is open", lambda: assistant.shows(lambda text: text.replace("&", "") == "Save"))
-                assistant.press("ctrl+a")
-                assistant.type(f"{folder}/result.json")
-                assistant.press("Return")
-                wait_for("the report is written", lambda: os.path.exists(f"{folder}/result.html"))
+                assistant.save_result(f"{folder}/result.json")
             check(f"{folder}/result.json")
             assert os.path.getsize(f"{folder}/result.csv") > 1000
 

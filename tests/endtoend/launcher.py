@@ -87,7 +87,8 @@ class Launcher:
         self.directory = tempfile.mkdtemp()
         self.socket = f"{self.directory}/reader"
         environment = {**os.environ, "LC_ALL": "C.UTF-8", "LANGUAGE": "", "QT_PLUGIN_PATH": self.plugins,
-                       "QT_QPA_GENERIC_PLUGINS": f"windowreader:{self.socket}", **self.environment}
+                       "QT_QPA_GENERIC_PLUGINS": f"windowreader:{self.socket}",
+                       "XDG_CONFIG_HOME": f"{self.directory}/config", **self.environment}
         environment.pop("GENICAM_GENTL64_PATH", None)
         self.started = time.monotonic()
         # Standard error is a file, because a started tool would keep a pipe open. The launcher starts in "/", because

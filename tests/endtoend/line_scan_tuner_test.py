@@ -6,9 +6,9 @@ import os
 import sys
 import tempfile
 
-from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from launcher import Launcher, keep_to_this_machine, wait_for
 from simulator import SimulatorConfiguration
-from tool import Tool
+from tool import start_for
 
 STAGE, PLUGINS = sys.argv[1:]
 VENDOR = "Lintaro"
@@ -21,13 +21,6 @@ def keep_line_scan_camera(configuration):
         interface["devices"] = [{**device, "sensorWidth": 640} for device in interface["devices"]
                                 if device["vendor"] == VENDOR]
     configuration.write(content)
-
-
-def start(launcher, title, name):
-    """Starts a tool by its tile, for the selected camera."""
-    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
-    click(launcher.tiles()[title])
-    return Tool(launcher, name)
 
 
 def enter(tuner, key, number):
@@ -55,10 +48,7 @@ def main():
     with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
         keep_line_scan_camera(configuration)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-            wait_for("the camera is listed", lambda: any(row[0] == VENDOR for row in launcher.rows()))
-            click(launcher.cell(VENDOR))
-            wait_for("the Line Scan Tuner is enabled", lambda: "Line Scan Tuner" in launcher.enabled_tools())
-            with start(launcher, "Line Scan Tuner", "LineScanTuner") as tuner:
+            with start_for(launcher, VENDOR, "Line Scan Tuner", "LineScanTuner") as tuner:
                 wait_for("a target is found in the live picture",
                          lambda: tuner.shows(lambda text: text == "The target in the live picture is round."))
                 tuner.activate()
@@ -74,12 +64,7 @@ def main():
                          lambda: tuner.shows(lambda text: "too tall: lower the line rate from 10.800 kHz" in text))
                 tuner.press("ctrl+Return")
                 wait_for("the circle is round", lambda: tuner.shows(lambda text: "The circle is round" in text))
-                tuner.press("ctrl+s")
-                wait_for("the file dialog is open", lambda: tuner.shows(lambda text: text.replace("&", "") == "Save"))
-                tuner.press("ctrl+a")
-                tuner.type(f"{folder}/result.json")
-                tuner.press("Return")
-                wait_for("the report is written", lambda: os.path.exists(f"{folder}/result.html"))
+                tuner.save_result(f"{folder}/result.json")
         check(f"{folder}/result.json")
         assert os.path.getsize(f"{folder}/result.csv") > 100
 

@@ -6,18 +6,11 @@ import os
 import sys
 import tempfile
 
-from launcher import Launcher, click, descendants, keep_to_this_machine, read_windows, wait_for, xdotool
+from launcher import Launcher, descendants, keep_to_this_machine, read_windows, wait_for, xdotool
 from simulator import SimulatorConfiguration
-from tool import Tool
+from tool import start_for
 
 STAGE, PLUGINS = sys.argv[1:]
-
-
-def start(launcher, title, name):
-    """Starts a tool by its tile, for the selected camera."""
-    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
-    click(launcher.tiles()[title])
-    return Tool(launcher, name)
 
 
 def use_camera_with_taps(configuration):
@@ -63,15 +56,6 @@ def show_surface(tool):
     tool.press("Return")
 
 
-def save(tool, path):
-    tool.press("ctrl+s")
-    wait_for("the file dialog is open", lambda: tool.shows(lambda text: text.replace("&", "") == "Save"))
-    tool.press("ctrl+a")
-    tool.type(path)
-    tool.press("Return")
-    wait_for("the report is written", lambda: os.path.exists(path.replace(".json", ".html")))
-
-
 def check(path):
     with open(path, encoding="utf-8") as file:
         document = json.load(file)
@@ -88,10 +72,7 @@ def main():
     with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
         use_camera_with_taps(configuration)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-            wait_for("the camera is listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
-            click(launcher.cell("KORDANE"))
-            wait_for("Tap Balance is enabled", lambda: "Tap Balance" in launcher.enabled_tools())
-            with start(launcher, "Tap Balance", "TapBalance") as taps:
+            with start_for(launcher, "KORDANE", "Tap Balance", "TapBalance") as taps:
                 taps.activate()
                 press_button(taps, "Measure the taps")
                 wait_for("the chart is refused", lambda: taps.shows(lambda text: "Show an even surface" in text))
@@ -101,7 +82,7 @@ def main():
                 press_button(taps, "Skip this step")
                 press_button(taps, "Balance the gains")
                 wait_for("the gains are balanced", lambda: taps.shows(lambda text: text.startswith("The mismatch fell from")))
-                save(taps, f"{folder}/result.json")
+                taps.save_result(f"{folder}/result.json")
             check(f"{folder}/result.json")
             assert os.path.getsize(f"{folder}/result.csv") > 100
 

@@ -6,18 +6,11 @@ import os
 import sys
 import tempfile
 
-from launcher import Launcher, click, keep_to_this_machine, wait_for, xdotool
+from launcher import Launcher, keep_to_this_machine, wait_for
 from simulator import SimulatorConfiguration
-from tool import Tool
+from tool import start_for
 
 STAGE, PLUGINS = sys.argv[1:]
-
-
-def start(launcher, title, name):
-    """Starts a tool by its tile, for the selected camera."""
-    xdotool("search", "--name", "^Corvix X - Application Launcher$", "windowactivate", "--sync")
-    click(launcher.tiles()[title])
-    return Tool(launcher, name)
 
 
 def check(path):
@@ -51,19 +44,11 @@ def main():
 
 def follow_temperatures(folder):
     with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
-        wait_for("the cameras are listed", lambda: any(row[0] == "KORDANE" for row in launcher.rows()))
-        click(launcher.cell("KORDANE"))
-        wait_for("the Thermal Monitor is enabled", lambda: "Thermal Monitor" in launcher.enabled_tools())
-        with start(launcher, "Thermal Monitor", "ThermalMonitor") as monitor:
+        with start_for(launcher, "KORDANE", "Thermal Monitor", "ThermalMonitor") as monitor:
             wait_for("the final value of the sensor is known",
                      lambda: monitor.shows(lambda text: text.startswith(("Expected final value: 51", "Expected final value: 50.9"))))
             monitor.activate()
-            monitor.press("ctrl+s")
-            wait_for("the file dialog is open", lambda: monitor.shows(lambda text: text.replace("&", "") == "Save"))
-            monitor.press("ctrl+a")
-            monitor.type(f"{folder}/result.json")
-            monitor.press("Return")
-            wait_for("the report is written", lambda: os.path.exists(f"{folder}/result.html"))
+            monitor.save_result(f"{folder}/result.json")
 
 
 main()

@@ -4,14 +4,29 @@ import os
 import signal
 import subprocess
 
-from launcher import descendants, output_of, read_windows, wait_for, xdotool
+from launcher import TITLE, click, descendants, output_of, read_windows, wait_for, xdotool
+
+
+def start(launcher, title, name):
+    """Starts a tool by its tile, for the selected camera. The name is that of the program, for example "ImageViewer"."""
+    xdotool("search", "--name", f"^{TITLE}$", "windowactivate", "--sync")
+    click(launcher.tiles()[title])
+    return Tool(launcher, name)
+
+
+def start_for(launcher, vendor, title, name):
+    """Starts a tool for the vendor's first camera."""
+    wait_for("the camera is listed", lambda: any(row[0] == vendor for row in launcher.rows()))
+    click(launcher.cell(vendor))
+    wait_for(f"{title} is enabled", lambda: title in launcher.enabled_tools())
+    return start(launcher, title, name)
 
 
 class Tool:
     """A tool within a with statement, which ends it."""
 
     def __init__(self, launcher, name):
-        """Waits until the tool shows its window. The name is that of the program, for example "ImageViewer"."""
+        """Waits until the tool shows its window."""
         directory = os.path.dirname(os.path.realpath(launcher.program))
         self.process = wait_for(f"{name} runs", lambda: output_of("pgrep", "-fx", f"{directory}/{name}").strip())
         self.reader = f"{launcher.socket}.{self.process}"
@@ -54,11 +69,43 @@ class Tool:
     def type(self, text):
         xdotool("type", "--delay", 50, text)
 
+    def choose_target(self, name):
+        """Chooses what the simulated camera looks at, in the camera settings of the panel, by the first letter."""
+        def box():
+            return next((widget for widget in self.widgets() if widget["class"] == "QComboBox"
+                         and widget["accessibleName"] == "SceneTarget" and widget["enabled"]), None)
+        x, y, width, height = wait_for("the target can be chosen", box)["box"]
+        xdotool("mousemove", "--window", self.window, x + width // 2, y + height // 2, "click", 1)
+        self.press(name[0], "Return")
+
+    def save_result(self, path):
+        """Saves the result of a measurement, and waits for the report, which is the last file."""
+        def is_open():
+            return self.shows(lambda text: text.replace("&", "") == "Save")
+        self.press("ctrl+s")
+        wait_for("the file dialog is open", is_open)
+        self.press("ctrl+a")
+        self.type(path)
+        self.press("Return")
+        wait_for("the report is written", lambda: os.path.exists(os.path.splitext(path)[0] + ".html"))
+        wait_for("the file dialog is closed", lambda: not is_open())
+
+    def screenshot(self):
+        """Returns the content of the window as PNG."""
+        return subprocess.run(["import", "-window", self.window, "png:-"], check=True, stdout=subprocess.PIPE).stdout
+
+    def shown_pixels(self, width, height):
+        """Returns the grey values of the middle of the shown picture, line by line."""
+        canvas = next(widget for widget in self.widgets() if widget["class"] == "ImageCanvas")
+        x, y, full_width, full_height = canvas["box"]
+        area = f"{width}x{height}+{x + (full_width - width) // 2}+{y + (full_height - height) // 2}"
+        return subprocess.run(["convert-im6.q16", "-", "-crop", area, "-depth", "8", "gray:-"], input=self.screenshot(),
+                              check=True, stdout=subprocess.PIPE).stdout
+
     def brightness(self):
         """Returns the mean of the middle of the window, 0 to 1, and the number of its colours."""
-        picture = subprocess.run(["import", "-window", self.window, "png:-"], check=True, stdout=subprocess.PIPE).stdout
         result = subprocess.run(["convert-im6.q16", "-", "-gravity", "Center", "-crop", "30%x30%+0+0", "+repage",
                                  "-format", "%k ", "-write", "info:", "-colorspace", "Gray", "-format", "%[fx:mean]", "info:"],
-                                input=picture, check=True, stdout=subprocess.PIPE).stdout
+                                input=self.screenshot(), check=True, stdout=subprocess.PIPE).stdout
         colours, mean = result.split()
         return float(mean), int(colours)
