@@ -18,6 +18,13 @@ if(CORVIX_SANITIZE)
     add_compile_options(-fsanitize=${CORVIX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${CORVIX_SANITIZE})
 endif()
+# corvix_optimize_for_sanitizers(): optimises the targets of this folder that are defined from here on, and those of the
+# folders that are added from here on. Code that computes every pixel would be too slow for tests with sanitizers.
+function(corvix_optimize_for_sanitizers)
+    if(CORVIX_SANITIZE)
+        add_compile_options(-O1)
+    endif()
+endfunction()
 if(CORVIX_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)

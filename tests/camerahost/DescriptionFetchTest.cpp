@@ -15,7 +15,7 @@ constexpr const char *xml
 struct FakeCamera
 {
     std::vector<std::string> urls; // An empty one cannot be read.
-    std::string urlList; // Of GCGetPortURL.
+    std::string urlList; // The answer of GCGetPortURL.
     std::string memory; // Starts at address 0x1000.
     std::size_t maxBlock = 1 << 20;
     std::size_t maxTransfer = 1 << 20; // Longer reads succeed with fewer bytes.

@@ -65,8 +65,8 @@ public:
     /// host does not end.
     std::optional<int> waitForEnd();
 
-    RequestFailedReply failure; ///< Of the last request; the text is empty if the request has succeeded.
-    std::vector<CvxCPP::NodeInfo> nodes; ///< Of the opened camera.
+    RequestFailedReply failure; ///< Failure of the last request; the text is empty if it has succeeded.
+    std::vector<CvxCPP::NodeInfo> nodes; ///< Nodes of the opened camera.
     StreamPreparedReply prepared;
     std::set<std::string> changedNodes; ///< Nodes that the host has reported as changed.
 

@@ -203,10 +203,11 @@ class ImagesTest(CvxctlCase):
         self.assertEqual(self.load("a.tif.json")["recording"]["images"], 20)
 
     def test_record_raw(self):
-        output = self.run_well("record", "1002", self.path("a.raw"), "--seconds", "1")
+        output = self.run_well("record", "1002", self.path("a.raw"), "--frames", "5")
         with open(self.path("a.raw.csv"), encoding="utf-8", newline="") as file:
             rows = list(csv.DictReader(file))
-        self.assertTrue(output.startswith(f"{len(rows)} images, "), output)
+        self.assertTrue(output.startswith("5 images, "), output)
+        self.assertEqual(len(rows), 5)
         size = WIDTH * HEIGHT
         self.assertEqual([(int(row["offset"]), int(row["size"]), row["isComplete"]) for row in rows],
                          [(index * size, size, "1") for index in range(len(rows))])

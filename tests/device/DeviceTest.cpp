@@ -53,7 +53,7 @@ DeviceTest::DeviceTest()
 
 std::size_t DeviceTest::threadsBefore()
 {
-    std::thread([] {}).join(); // With the first thread, ThreadSanitizer starts one of its own.
+    std::thread([] {}).join(); // When the first thread starts, ThreadSanitizer starts one of its own.
     return threadCount();
 }
 

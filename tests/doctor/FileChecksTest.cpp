@@ -207,7 +207,7 @@ TEST(UsbChecks, everyUsbCameraHasAFinding)
         std::filesystem::permissions(
             builder.pathOf("/dev/bus/usb/002/00" + std::string(node)), std::filesystem::perms(0666));
     std::filesystem::permissions(builder.pathOf("/dev/bus/usb/002/005"), std::filesystem::perms(0444));
-    // Of another group or, if this is not the administrator, without a permission of the owner.
+    // The file belongs to another group or, if this is not the administrator, its owner has no permission.
     const auto foreign = builder.pathOf("/dev/bus/usb/002/006");
     [[maybe_unused]] const int isChanged = chown(foreign.c_str(), static_cast<uid_t>(-1), 12345);
     std::filesystem::permissions(foreign, std::filesystem::perms(0060));

@@ -73,7 +73,7 @@ TEST(SearchSchedule, searchesOfConsumersDoNotDelayTheCountOfMissingAnswers)
     {
         std::vector<std::chrono::milliseconds> consumer; // Searches of a consumer.
         std::vector<std::chrono::milliseconds> counting; // The searches that count.
-        int searches; // In the first ten seconds.
+        int searches; // Number of searches in the first ten seconds.
     };
     std::vector<std::chrono::milliseconds> frequent;
     for (auto time = 300ms; time < 10s; time += 300ms)

@@ -351,5 +351,5 @@ TEST(CorrectionTest, pictureThatDoesNotFitIsConvertedWithoutCorrection)
     const RawImage picture{bytes.data(), bytes.size(), 3, 2, 0, mono8Code, false};
     EXPECT_EQ(wordsOf(converter, picture, {0, 0, 3, 2})[1], 200);
     converter.setCorrection({std::make_shared<Correction>(map, std::nullopt), 0, 0});
-    EXPECT_EQ(wordsOf(converter, picture, {0, 0, 3, 2})[1], 4); // Of 1, 3, 4, 5, 6.
+    EXPECT_EQ(wordsOf(converter, picture, {0, 0, 3, 2})[1], 4); // Median of 1, 3, 4, 5, 6.
 }

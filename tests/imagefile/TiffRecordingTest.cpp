@@ -169,5 +169,5 @@ TEST_F(RecordingFileTest, fullDiskKeepsWhatWasWritten)
     EXPECT_EQ(readImages(tiffFile), (std::vector<int>{1, 2}));
     EXPECT_EQ(complaints, 0U);
     EXPECT_EQ(contentOf(rawFile).size(), 3 * side * side);
-    EXPECT_EQ(outputOf("wc -l < " + rawFile + ".csv"), "4\n"); // With the header.
+    EXPECT_EQ(outputOf("wc -l < " + rawFile + ".csv"), "4\n"); // The header and three images.
 }

@@ -93,7 +93,7 @@ TEST_F(BufferPoolTest, flushMovesBuffersBetweenTheQueues)
     struct Row
     {
         ACQ_QUEUE_TYPE operation;
-        const char *states; // Of u, i, o, f.
+        const char *states; // States of the buffers u, i, o and f.
         const char
             *drained; // Input pool / output queue, after the buffer that is being filled was delivered.
     };

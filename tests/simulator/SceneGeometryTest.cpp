@@ -227,12 +227,12 @@ TEST(SceneColors, RgbIsInterpolatedFromTheMosaic)
     };
     for (int y = 2; y < 190; y += 2) {
         for (int x = 2; x < 254; x += 2) {
-            // Of the pixel with the red filter.
+            // Channels of the pixel with the red filter.
             EXPECT_EQ(channelAt(rgb, x, y, 0), mosaic.at(x, y));
             EXPECT_NEAR(channelAt(rgb, x, y, 1), meanOf({{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}}), 1);
             EXPECT_NEAR(channelAt(rgb, x, y, 2),
                 meanOf({{x - 1, y - 1}, {x + 1, y - 1}, {x - 1, y + 1}, {x + 1, y + 1}}), 1);
-            // Of the two pixels with a green filter.
+            // Channels of the two pixels with a green filter.
             EXPECT_NEAR(channelAt(rgb, x + 1, y, 0), meanOf({{x, y}, {x + 2, y}}), 1);
             EXPECT_NEAR(channelAt(rgb, x + 1, y, 2), meanOf({{x + 1, y - 1}, {x + 1, y + 1}}), 1);
             EXPECT_NEAR(channelAt(rgb, x, y + 1, 0), meanOf({{x, y}, {x, y + 2}}), 1);

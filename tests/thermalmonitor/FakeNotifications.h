@@ -21,7 +21,7 @@ public:
                 QStringLiteral("/org/freedesktop/Notifications"), this, QDBusConnection::ExportAllSlots);
     }
 
-    QStringList texts; ///< Of all notifications.
+    QStringList texts; ///< Texts of all notifications.
     QVector<uint> replaced; ///< The number of the notification that each one replaces.
     QVector<int> urgencies;
 

@@ -101,12 +101,12 @@ struct Camera
 
     std::uint64_t get(Register address) const;
     void set(Register address, std::uint64_t value);
-    Layout layout() const; // As the registers and the script demand.
+    Layout layout() const; // Returns the layout that the registers and the script demand.
 };
 
 extern std::mutex mutex; // Guards everything in this file.
 extern std::condition_variable changed; // Notified after every change.
-std::deque<Camera> &cameras(); ///< Those that were ever opened.
+std::deque<Camera> &cameras(); ///< The cameras that were ever opened.
 
 /// Returns the camera of a device's handle, or null if the handle is not valid.
 Camera *cameraOf(void *device);

@@ -249,7 +249,7 @@ void CanvasInputTest::doubleClickTogglesFitAndActualSize()
 
 void CanvasInputTest::pointerIsReported()
 {
-    LiveCanvas canvas({400, 400}, randomImage(100, 50)); // From y = 100 to 300, at scale 4.
+    LiveCanvas canvas({400, 400}, randomImage(100, 50)); // The picture covers y = 100 to 300, at scale 4.
     canvas.setTool(ImageCanvas::Tool::Pick);
     QSignalSpy moves(&canvas, &ImageCanvas::pointerMoved);
     QSignalSpy leaves(&canvas, &ImageCanvas::pointerLeft);

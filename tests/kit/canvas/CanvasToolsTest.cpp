@@ -66,7 +66,7 @@ void CanvasToolsTest::regionIsDrawnInEveryOrientation()
         drag(tool, view, {300.5, 180.5}, {349.5, 259.5});
         QCOMPARE(tool.region(), QRect(300, 180, 50, 80));
         tool.remove();
-        drag(tool, view, {349.5, 259.5}, {300.5, 180.5}); // From the other end.
+        drag(tool, view, {349.5, 259.5}, {300.5, 180.5}); // The region is drawn from the other end.
         QCOMPARE(tool.region(), QRect(300, 180, 50, 80));
     }
     RegionTool tool;
@@ -82,7 +82,7 @@ void CanvasToolsTest::regionIsChanged_data()
 {
     QTest::addColumn<QPointF>("from");
     QTest::addColumn<QPointF>("to");
-    QTest::addColumn<QRect>("region"); // From (300, 200), 100 x 60.
+    QTest::addColumn<QRect>("region"); // The region before the drag has 100 x 60 pixels at (300, 200).
     QTest::newRow("move") << QPointF(350, 230) << QPointF(340, 235) << QRect(290, 205, 100, 60);
     QTest::newRow("move beyond") << QPointF(350, 230) << QPointF(9000, -9000) << QRect(540, 0, 100, 60);
     QTest::newRow("left") << QPointF(300, 230) << QPointF(280, 300) << QRect(280, 200, 120, 60);

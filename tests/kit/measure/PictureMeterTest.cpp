@@ -211,7 +211,7 @@ TEST(PictureMeterTest, samplesLines)
     };
     const std::vector<Row> rows = {
         {{2, 1, 5, 1}, {12, 13, 14, 15}}, // Part of a row.
-        {{5, 1, 2, 1}, {15, 14, 13, 12}}, // In the other direction.
+        {{5, 1, 2, 1}, {15, 14, 13, 12}}, // The same line in the other direction.
         {{3, 0, 3, 7}, {3, 13, 23, 33, 43, 53, 63, 73}}, // A column.
         {{3, 4, 4000000000, 4}, {43, 44, 45, 46, 47, 48, 49}}, // Cut to the picture.
         {{0, 0, 3, 4}, {0, 11, 21, 22, 32, 43}}, // Length 5: (0.6, 0.8), (1.2, 1.6), (1.8, 2.4), (2.4, 3.2).

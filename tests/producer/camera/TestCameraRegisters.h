@@ -13,7 +13,7 @@ constexpr std::uint64_t memorySize = 0x100;
 constexpr std::uint64_t deliver = 0x1000; ///< Delivers this number of images.
 constexpr std::uint64_t take
     = 0x1008; ///< Takes a buffer and keeps it until the next write below, or the stop.
-constexpr std::uint64_t giveBack = 0x1010; ///< Gives the kept buffer back.
+constexpr std::uint64_t giveBack = 0x1010; ///< Returns the kept buffer to the queue.
 constexpr std::uint64_t lose = 0x1018; ///< Loses the camera.
 constexpr std::uint64_t fail = 0x1020; ///< Every later access to the memory fails with this code.
 
@@ -26,7 +26,7 @@ constexpr std::uint64_t startFailure = 0x2018; ///< Code with which the start fa
 // These registers set what is reported for the next images.
 constexpr std::uint64_t width = 0x2020; ///< 0 is no picture.
 constexpr std::uint64_t chunks = 0x2028; ///< Number of chunks, one after another.
-constexpr std::uint64_t chunkOffset = 0x2030; ///< Of the first chunk.
+constexpr std::uint64_t chunkOffset = 0x2030; ///< Offset of the first chunk.
 constexpr std::uint64_t chunkLength = 0x2048;
 constexpr std::uint64_t isIncomplete = 0x2038;
 constexpr std::uint64_t dataSize = 0x2040;

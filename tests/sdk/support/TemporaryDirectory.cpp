@@ -2,8 +2,7 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <ios>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
 
@@ -29,9 +28,9 @@ void writeFile(const std::filesystem::path &path, const std::string &content)
 }
 
 std::string readFile(const std::filesystem::path &path)
-try {
-    std::ifstream file(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
-} catch (const std::ios_base::failure &) {
-    return {}; // A process may end while its file in /proc is being read.
+{
+    std::ostringstream content;
+    // If a process ends while its file in /proc is being read, this sets only the state of the stream.
+    content << std::ifstream(path, std::ios::binary).rdbuf();
+    return content.str();
 }

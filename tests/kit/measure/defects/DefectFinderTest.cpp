@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int areaWidth = 512; // Of the area scan sensors.
+constexpr int areaWidth = 512; // Width of the area scan sensors.
 constexpr int areaHeight = 384;
 constexpr unsigned images = 16;
 constexpr double darkExposure = 200000;
@@ -286,7 +286,7 @@ TEST(DefectFinder, HigherThresholdsKeepTheClearerDefects)
     EXPECT_LT(previous.size(), findings.candidates.size());
     EXPECT_NEAR(findings.darkLevel, 64, 1);
     EXPECT_NEAR(findings.darkNoise, 5 * 0.4095, 0.1); // The read noise of 5 electrons.
-    EXPECT_NEAR(findings.darkSpread, 0.4095 * std::hypot(2, 5 / 4.0), 0.1); // With dark signal.
+    EXPECT_NEAR(findings.darkSpread, 0.4095 * std::hypot(2, 5 / 4.0), 0.1); // DSNU and noise of 16 images.
 }
 
 TEST(DefectFinder, RepairedPicturesDifferFromTrueOnesByTheNoise)

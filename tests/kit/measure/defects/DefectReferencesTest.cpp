@@ -65,7 +65,7 @@ TEST(DefectReferences, NamesWhatIsWrongWithBrightImages)
     {
         const char *name;
         SceneTarget target;
-        double firstExposure; // Of the first half of the images.
+        double firstExposure; // Exposure of the first half of the images.
         double secondExposure;
         bool isMoving;
         const char *expected;

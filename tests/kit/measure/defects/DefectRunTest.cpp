@@ -64,7 +64,7 @@ TEST(DefectRun, TakesFurtherImagesWhileImagesAreRepeated)
     {
         std::size_t different;
         std::size_t spacing;
-        std::size_t expectedImages; // In the statistics.
+        std::size_t expectedImages; // Number of images in the statistics.
         std::size_t leastTaken;
         bool isProblem;
     };

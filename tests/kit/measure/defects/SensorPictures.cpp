@@ -4,7 +4,7 @@
 #include "tests/kit/measure/defects/PictureAdder.h"
 
 namespace {
-constexpr int linesOfPicture = 64; // Of a line scan sensor.
+constexpr int linesOfPicture = 64; // Lines in a picture of a line scan sensor.
 }
 
 SensorPictures::SensorPictures(const SensorModel &model)

@@ -31,7 +31,7 @@ TEST(NoiseCurve, EdgesAndTheirBrightnessDoNotChangeTheCurve)
 {
     std::mt19937 random(3);
     std::vector<NoiseCurve::Block> blocks;
-    std::gamma_distribution<double> chiSquare(8, 1.0 / 8); // Of the mean of 16 squares.
+    std::gamma_distribution<double> chiSquare(8, 1.0 / 8); // Distribution of the mean of 16 squares.
     for (int i = 0; i < 6000; ++i) {
         const double mean = 10 + i % 90;
         const bool hasEdges = i % 3 == 0 || (mean > 40 && mean < 60); // One brightness occurs at edges only.

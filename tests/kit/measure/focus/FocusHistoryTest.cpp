@@ -17,8 +17,8 @@ public:
     FocusHistory history;
     double position = -40;
     double seconds = 0;
-    double leftBrightness = 0.4; // Of one region.
-    double brightness = 0.4; // Of the others.
+    double leftBrightness = 0.4; // Brightness of the upper left region.
+    double brightness = 0.4; // Brightness of the other regions.
 
     void to(double end, double speed = 20)
     {

@@ -113,7 +113,7 @@ TEST(FocusMeter, PicturesThatSayNothingAreRefused)
     EXPECT_EQ(pictures.problem().rfind("The picture has no edges.", 0), 0U);
     EXPECT_TRUE(hasState(pictures.measure(), RegionFocus::State::NoEdges));
     pictures.settings.gain = 4;
-    pictures.settings.exposureTime = 2000; // As bright, but with more noise.
+    pictures.settings.exposureTime = 2000; // The picture is as bright, but has more noise.
     EXPECT_TRUE(hasState(pictures.measure(), RegionFocus::State::NoEdges));
     pictures.settings.target = SceneTarget::Chart;
     pictures.settings.exposureTime = 40000;

@@ -69,7 +69,7 @@ public:
     }
 
     ScriptedDevice device;
-    std::vector<std::int64_t> positions; ///< To which the lens was moved.
+    std::vector<std::int64_t> positions; ///< Positions to which the lens was moved.
     SceneTarget target = SceneTarget::Chart;
     std::size_t cancelAt = 1000;
     std::size_t lastDone = 0;

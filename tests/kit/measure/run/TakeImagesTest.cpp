@@ -32,7 +32,7 @@ private:
 class ScriptedFrames : public FrameSource
 {
 public:
-    std::deque<bool> isComplete; // Of the images that are delivered; then there are none.
+    std::deque<bool> isComplete; // One entry for each image; after the last image, next() returns `end`.
     CvxResult end{CvxErrorTimeout, {}};
     int discardCount = 0;
 

@@ -33,7 +33,7 @@ protected:
 
 TEST_F(TapBalancing, mismatchOfSixPercentFallsBelowHalfAPercent)
 {
-    EXPECT_GT(taps.trueMismatch(), 0.03); // From the mean; the second tap has 6 % less than the first one.
+    EXPECT_GT(taps.trueMismatch(), 0.03); // Deviation from the mean; tap 2 has 6 % less than tap 1.
     EXPECT_GT(taps.trueBlackLevelRange(), 5);
     balanceBlackLevels();
     EXPECT_TRUE(result.isReached);

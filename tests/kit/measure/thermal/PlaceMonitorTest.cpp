@@ -14,7 +14,7 @@ TEST(PlaceMonitorTest, goesThroughTheStates)
     EXPECT_NEAR(monitor.report().secondsToState, 11, 1);
     warm.feed(monitor, 20, 120, 1);
     EXPECT_EQ(monitor.analyse().state, ThermalState::WarmingUp);
-    const double truth = 19 / 150.0 * std::exp(-90 / 150.0) * 60; // In the middle of the window.
+    const double truth = 19 / 150.0 * std::exp(-90 / 150.0) * 60; // Slope in the middle of the window.
     EXPECT_NEAR(monitor.report().slope->perMinute, truth, 0.05 * truth);
     ASSERT_TRUE(monitor.report().secondsToSteady);
     EXPECT_NEAR(*monitor.report().secondsToSteady, 150 * std::log(19 / 0.5) - 120, 20);

@@ -12,7 +12,7 @@ struct TemperatureModel
     double end = 51;
     double timeConstant = 150; ///< Seconds.
     double noise = 0; ///< Standard deviation in kelvin.
-    double step = 0; ///< To which readings are rounded; 0 for none.
+    double step = 0; ///< Step to which readings are rounded; 0 for no rounding.
     unsigned seed = 1;
 
     double truth(double seconds) const { return end + (start - end) * std::exp(-seconds / timeConstant); }
