@@ -45,7 +45,7 @@ struct Conversion
     std::uint32_t outputHeight = height;
     AVPixelFormat theirFormat = AV_PIX_FMT_NONE; ///< The format for libswscale, if it knows it.
     int theirFlags = SWS_FAST_BILINEAR;
-    bool isCorrected = false; ///< With a defect map and a flat field.
+    bool isCorrected = false; ///< The pictures are corrected with a defect map and a flat field.
 };
 
 const std::vector<Conversion> conversions = {

@@ -13,7 +13,7 @@ enum class AddressChoice : std::uint8_t
 {
     Temporary, ///< Until the camera is switched off.
     Lasting, ///< Also after the camera was switched off.
-    Automatic ///< From a DHCP server, or link-local.
+    Automatic ///< The address comes from a DHCP server, or is link-local.
 };
 
 /// A change that was checked but not made.

@@ -12,7 +12,7 @@ enum class AddressOrigin : std::uint8_t
 {
     Unknown, ///< The camera cannot be read, or does not report its methods.
     Persistent, ///< Stored in the camera.
-    Dhcp, ///< From a DHCP server, or temporary: a camera does not report the difference.
+    Dhcp, ///< Assigned by a DHCP server, or temporary: a camera does not report the difference.
     LinkLocal, ///< Chosen by the camera, because it got no other.
     Temporary ///< Until the camera is switched off.
 };

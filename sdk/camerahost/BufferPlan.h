@@ -19,7 +19,7 @@ struct BufferNeeds
 struct BufferPlan
 {
     std::uint32_t buffers = 0;
-    std::uint64_t size = 0; ///< Of one buffer.
+    std::uint64_t size = 0; ///< Size of one buffer.
     std::uint32_t alignment = 0;
 
     /// Returns the plan for a stream that should have `wanted` buffers, or nothing if the needs are unknown

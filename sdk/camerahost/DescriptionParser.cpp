@@ -93,7 +93,7 @@ private:
         LevelKind kind = LevelKind::Ignored;
         PropertyKind property{};
         std::string attribute;
-        std::string offsetNode; // Of a PIndex.
+        std::string offsetNode; // Node in the pOffset attribute of a pIndex element.
     };
 
     Level levelOf(const char *element, const char **attributes)
@@ -189,7 +189,7 @@ private:
     std::vector<Level> m_levels; // The open elements.
     std::vector<NodeDescription> m_open; // The nodes among them.
     PropertyList m_structure; // Properties of the open structure.
-    std::string m_text; // Of the open property.
+    std::string m_text; // Text of the open property.
     std::string m_problem;
     std::size_t m_elements = 0;
     bool m_hasRoot = false;

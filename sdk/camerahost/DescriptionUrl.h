@@ -19,8 +19,8 @@ struct DescriptionUrl
     };
 
     Scheme scheme = Scheme::Unknown;
-    std::string path; ///< Of a file, decoded. A path without a folder belongs to the folder of the producer.
-    std::uint64_t address = 0; ///< Of a description in the registers.
+    std::string path; ///< Decoded path of a file. Without a folder, it belongs to the folder of the producer.
+    std::uint64_t address = 0; ///< Address of a description in the registers.
     std::uint64_t length = 0; ///< In bytes.
 };
 

@@ -59,7 +59,7 @@ private:
     FrameGapCounter m_gaps;
     Clock::time_point m_receivedAt; // When EventGetData returned.
     std::optional<Clock::time_point> m_failingSince; // While the producer reports nothing but failures.
-    Clock::time_point m_nextUpdate; // Of the underruns.
+    Clock::time_point m_nextUpdate; // Time of the next update of the underruns.
     std::uint64_t m_underrunsBefore = 0; // The producer counts since the stream was opened.
     CallWatch m_calls;
     std::atomic<bool> m_isStopping{false};

@@ -43,7 +43,7 @@ private:
     const AnnouncedBuffers &m_buffers;
     const ImageSetup m_setup;
     PictureReader m_pictures;
-    PictureLayout m_layout; // Of the last complete image.
+    PictureLayout m_layout; // Layout of the last complete image.
     BufferInfo::Unsupported m_unsupported = 0;
-    std::uint64_t m_clockDifference = 0; // From our clock to the camera's, in nanoseconds.
+    std::uint64_t m_clockDifference = 0; // The camera's clock minus our clock, in nanoseconds.
 };

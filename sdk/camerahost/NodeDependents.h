@@ -23,5 +23,5 @@ private:
     const Description &m_description;
     const NodeReferences &m_references;
     const NodeList &m_list;
-    std::vector<std::vector<NodeIndex>> m_referrers; // Of each node; the nodes that evaluate it.
+    std::vector<std::vector<NodeIndex>> m_referrers; // For each node, the nodes that evaluate it.
 };

@@ -16,7 +16,7 @@ struct AccessProblem
 {
     std::string text;
 
-    std::string sentence() const; ///< With a capital letter and a full stop.
+    std::string sentence() const; ///< Returns the text with a capital letter and a full stop.
 };
 
 template <typename Value>
@@ -69,7 +69,7 @@ private:
 
     const Description &m_description;
     const NodeReferences &m_references;
-    std::optional<Problem> m_lastProblem; // Of the current call.
+    std::optional<Problem> m_lastProblem; // Problem that occurred during the current call.
     std::unique_ptr<ArvRegisterDevice, GObjectDeleter> m_device;
     EnginePointer m_engine; // Null until the first access, or if libaravis cannot parse the document.
     std::future<EnginePointer> m_parsedEngine; // Taken over by the first access.

@@ -33,7 +33,7 @@ private:
     std::vector<CvxCPP::NodeInfo> m_infos;
     std::vector<NodeIndex> m_indices;
     std::vector<bool> m_isListed;
-    std::vector<std::optional<NodeIndex>> m_features; // Of every node; see featureOf().
+    std::vector<std::optional<NodeIndex>> m_features; // The feature of every node; see featureOf().
 };
 
 /// Returns the type of the values of a node, or nothing for a port.

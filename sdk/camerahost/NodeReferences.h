@@ -42,14 +42,14 @@ public:
 private:
     struct Traits
     {
-        bool usesImage = false; // Or the data of an event.
+        bool usesImage = false; // The value depends on data of an image or of an event.
         bool hasVariableLength = false;
         bool canDivide = false;
     };
     struct Node
     {
         std::vector<Reference> references;
-        std::string problem; // Of this node itself.
+        std::string problem; // Problem of this node itself.
         Traits traits;
         std::uint32_t depth = 0; // Length of the longest chain of values that starts here.
         std::uint32_t accesses = 1; // That reading the value takes.

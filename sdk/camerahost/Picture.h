@@ -5,7 +5,7 @@
 /// The layout of a picture in a buffer.
 struct Picture
 {
-    static constexpr std::uint64_t maxLength = 1U << 24; ///< Of a width or a height that can be true.
+    static constexpr std::uint64_t maxLength = 1U << 24; ///< Largest width or height that can be true.
 
     std::uint32_t width = 0;
     std::uint32_t height = 0;

@@ -43,7 +43,7 @@ private:
     void readFormatDetails(const BufferInfo &info);
 
     const PictureLayout m_configured;
-    Format m_format; // Of the previous picture.
+    Format m_format; // Format of the previous picture.
     Picture m_details; // Its padding and its pixel format.
     bool m_isPfnc = true; // The codes of pixel formats are PFNC codes.
     bool m_isBigEndian = false;

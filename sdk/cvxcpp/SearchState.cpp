@@ -15,7 +15,7 @@ constexpr SteadyClock::duration maxPause = std::chrono::seconds(30);
 // A background search that is due may have to wait for the end of a short one.
 constexpr Milliseconds maxSearchDelay{500};
 
-constexpr Milliseconds minCollectionDistance{50}; // From the last list to the next collection.
+constexpr Milliseconds minCollectionDistance{50}; // Time from the last list to the next collection.
 
 bool isWithin(const std::optional<TimePoint> &time, SteadyClock::duration age, TimePoint now)
 {

@@ -126,7 +126,7 @@ HostChannel::Received HostChannel::check(const std::string &line)
     }
     if (auto lost = message->content<DeviceLostNotice>())
         return Breakdown{Breakdown::Kind::CameraLost, std::move(lost->reason)};
-    if (const auto failed = message->content<ProducerFailedReply>()) // From a thread of the producer.
+    if (const auto failed = message->content<ProducerFailedReply>()) // A thread of the producer has failed.
         return Breakdown{Breakdown::Kind::CameraLost,
             "The process of the camera ended: " + failed->problem.call + ' ' + failed->problem.text + '.'};
     return unreadable();

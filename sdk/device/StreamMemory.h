@@ -36,7 +36,7 @@ public:
     /// Marks a buffer from the queue as held by the program. Returns false if the host has damaged the queue:
     /// there is no such buffer, or the program holds it already.
     bool claim(std::uint32_t buffer);
-    /// Gives a claimed buffer back to the host. Any thread may call this function.
+    /// Returns a claimed buffer to the host. Any thread may call this function.
     void release(std::uint32_t buffer);
 
     /// Copies the record of a claimed buffer. Returns nothing if the record is damaged: the picture or a

@@ -12,7 +12,7 @@ struct ProducerReport
 {
     std::string path;
     std::optional<ProducerInfoReply> info;
-    std::vector<InterfaceRecord> interfaces; ///< With the cameras that the producer has found.
+    std::vector<InterfaceRecord> interfaces; ///< The interfaces with the cameras that the producer has found.
     std::vector<Problem> problems; ///< Calls that have failed during the search.
     std::string failure; ///< Why the producer cannot be used, as a part of a sentence; empty if it can.
 };

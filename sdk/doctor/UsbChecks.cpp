@@ -11,7 +11,7 @@ const std::string devicesDirectory = "/sys/bus/usb/devices/";
 /// A USB device with an interface of the class of USB3 Vision cameras.
 struct UsbCamera
 {
-    std::string directory; ///< In /sys.
+    std::string directory; ///< Directory of the device in /sys.
     std::string name; ///< For people.
     std::string node; ///< Path in /dev.
     bool isClaimed = false; ///< True if a program has opened an interface.

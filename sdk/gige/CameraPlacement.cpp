@@ -24,7 +24,7 @@ std::vector<InterfaceList> emptyLists(const std::vector<InterfaceAddress> &addre
 /// A GenTL interface that can list a camera.
 struct Candidate
 {
-    std::size_t position; // In the lists.
+    std::size_t position; // Index of the interface in the lists.
     ListedCamera camera;
 };
 

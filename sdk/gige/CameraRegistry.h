@@ -67,7 +67,7 @@ private:
         Camera camera;
         std::string identity; // The ID without an address.
         std::uint16_t requestId = 0; // The newest request that the camera has answered.
-        bool hasAnswered = true; // In the current search.
+        bool hasAnswered = true; // The camera has answered in the current search.
         bool hasMissedSearch = false; // Since its last answer.
         int requests = 0; // Requests to this camera in the current search.
         Time deadline

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int maxTimeouts = 2; // In a row; every command was sent several times by then.
+constexpr int maxTimeouts = 2; // Timeouts in a row; every command was sent several times by then.
 
 std::vector<std::string> urlsOf(GvcpReader &reader)
 {

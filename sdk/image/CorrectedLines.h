@@ -43,7 +43,7 @@ private:
     void planRepairs(const RawImage &picture, const PixelLayout &layout);
 
     PlacedCorrection m_correction;
-    unsigned m_depth = 8; ///< Of the picture.
+    unsigned m_depth = 8; ///< Depth of the picture in bits.
     Stage<std::uint8_t> m_bytes;
     Stage<std::uint16_t> m_words;
     std::vector<std::uint8_t> m_reduced;

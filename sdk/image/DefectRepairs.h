@@ -34,7 +34,7 @@ public:
 
     struct Repair
     {
-        std::uint32_t x; ///< In the picture.
+        std::uint32_t x; ///< Column in the picture.
         std::uint32_t y; ///< 0 for a line scan sensor, whose repairs apply to all lines.
         std::uint32_t firstNeighbour;
         std::uint32_t neighbourCount; ///< At least 1.

@@ -31,8 +31,8 @@ FieldNumbers fieldNumbers(const FlatField &field)
     return numbers;
 }
 
-/// Gives defect pixels the medians of their neighbours. Pixels at the distance of two have the same colour,
-/// whatever the pattern.
+/// Replaces the numbers of defect pixels with the medians of their neighbours. Pixels at the distance of two
+/// have the same colour, whatever the pattern.
 void replaceDefects(const FlatField &field, const DefectMap &defects, FieldNumbers &numbers)
 {
     constexpr int sameColor = 2;

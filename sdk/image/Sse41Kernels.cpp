@@ -144,7 +144,7 @@ CVX_SSE41 void unpackWordsSse(const WordStream &stream, std::size_t count, Sampl
 CVX_SSE41 void permuteSse(const std::uint8_t *input, const std::uint8_t *end, const BytePattern &pattern,
     std::uint8_t *output, std::size_t size)
 {
-    // As many groups at once as fit into 16 bytes of input and of output.
+    // Number of groups at once: as many as fit into 16 bytes of input and of output.
     const unsigned groups = std::min(16 / pattern.inputStep, 16 / pattern.outputStep);
     alignas(16) std::array<std::uint8_t, 16> bytes{};
     for (unsigned i = 0; i < groups * pattern.outputStep; ++i)

@@ -14,7 +14,7 @@
 struct CorrectionSource
 {
     std::shared_ptr<const Correction> correction; ///< Null: pictures are not corrected.
-    std::vector<MapOrigin> origins; ///< Of each file.
+    std::vector<MapOrigin> origins; ///< The origin of each file.
     /// For sidecars: a list with "file", "format", "created" and "camera" of each file.
     nlohmann::ordered_json files = nlohmann::ordered_json::array();
     std::string problem; ///< Why the files cannot be used, for people; empty if they can.

@@ -20,7 +20,7 @@ std::string writeFlatField(const std::string &path, const FlatField &field, cons
 /// A flat field that was read from a file.
 struct FlatFieldReading
 {
-    std::optional<FlatField> field; ///< With as many finite values as it has pixels.
+    std::optional<FlatField> field; ///< Contains as many finite values as it has pixels.
     MapOrigin origin;
     std::string problem; ///< Why there is no flat field, for people.
 };

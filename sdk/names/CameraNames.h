@@ -8,7 +8,7 @@
 struct CameraNames
 {
     std::string id; ///< Device ID of the producer.
-    std::string extendedId; ///< With producer and interface; unique.
+    std::string extendedId; ///< Device ID with producer and interface; unique.
     std::string model;
     std::string serial;
     std::string name; ///< Display name.

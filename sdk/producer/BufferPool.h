@@ -73,8 +73,8 @@ public:
     struct Counts
     {
         std::size_t announced;
-        std::size_t queued; ///< In the input pool or being filled.
-        std::size_t awaitingDelivery; ///< In the output queue.
+        std::size_t queued; ///< Buffers in the input pool or being filled.
+        std::size_t awaitingDelivery; ///< Buffers in the output queue.
         std::uint64_t fetched; ///< Since the last start.
         std::uint64_t underruns;
         bool isAcquiring; ///< Until the stop or the last image.

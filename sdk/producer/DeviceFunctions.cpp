@@ -10,7 +10,7 @@ using namespace GenTL;
 
 namespace {
 
-constexpr char remotePortName[] = "The port of the camera"; // In the table of handles.
+constexpr char remotePortName[] = "The port of the camera"; // Name of the port in the table of handles.
 
 bool isOffered(DEVICE_ACCESS_FLAGS access)
 {

@@ -14,7 +14,7 @@ std::size_t registerSize(const ModuleFeature &feature);
 struct RegisterPlace
 {
     std::size_t index; ///< Index of the feature.
-    std::uint64_t offset; ///< From the start of the register; may be past its end.
+    std::uint64_t offset; ///< Offset from the start of the register; may be past its end.
 };
 
 /// Returns the register at or before the address, or nothing if it does not belong to one of `count`

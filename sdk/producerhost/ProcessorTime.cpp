@@ -11,6 +11,6 @@ std::uint32_t ProcessorTime::milliseconds() const
 std::chrono::nanoseconds ProcessorTime::ofProcess()
 {
     timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time); // In user mode and in the kernel.
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time); // Time in user mode and in the kernel.
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }

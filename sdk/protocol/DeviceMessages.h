@@ -42,7 +42,7 @@ void from_json(const nlohmann::json &json, OpenDeviceRequest &value);
 struct DeviceOpenedReply
 {
     static constexpr const char *kind = "deviceOpened";
-    std::vector<CvxCPP::NodeInfo> nodes; ///< As Device::GetNodes() returns them.
+    std::vector<CvxCPP::NodeInfo> nodes; ///< The nodes that Device::GetNodes() returns.
 };
 void to_json(nlohmann::json &json, const DeviceOpenedReply &value);
 void from_json(const nlohmann::json &json, DeviceOpenedReply &value);

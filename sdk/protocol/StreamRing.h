@@ -11,7 +11,7 @@
 struct ChunkPosition
 {
     std::uint64_t id = 0;
-    std::uint64_t offset = 0; ///< From the start of the buffer, in bytes.
+    std::uint64_t offset = 0; ///< Offset from the start of the buffer, in bytes.
     std::uint64_t length = 0; ///< Bytes.
 };
 

@@ -50,10 +50,10 @@ private:
     std::int64_t m_starts = 0; // Number of acquisitions since power-on.
     std::uint64_t m_imageLimit = 0; // 0: no limit.
     std::uint32_t m_lines = 1; // Lines in an image.
-    std::int64_t m_imageTime = 0; // From the start of a triggered image to its end.
+    std::int64_t m_imageTime = 0; // Time from the start of a triggered image to its end.
 
     std::uint64_t m_images = 0;
-    std::int64_t m_readyTime = 0; // From when on triggers are accepted.
+    std::int64_t m_readyTime = 0; // Triggers are accepted from this time on.
     bool m_isStarted = false; // The acquisition has got its trigger.
     std::optional<std::int64_t> m_frameStart;
     std::optional<std::int64_t> m_imageEnd;

@@ -93,7 +93,7 @@ const LinkTraits &linkOf(const std::string &tlType)
     return found != std::end(links) ? *found : otherLink;
 }
 
-/// Gives every model flaws of its own; two cameras of a model have them at different places.
+/// Adds the flaws of the model; two cameras of a model have them at different places.
 void addFlaws(SensorModel &sensor, const DeviceRecord &record)
 {
     const std::uint64_t model = hashOf(record.vendor + '\n' + record.model);

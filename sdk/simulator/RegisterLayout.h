@@ -149,7 +149,7 @@ struct RegisterInfo
     std::string_view invalidator; ///< Name of a register; "*" if the camera changes the register.
     std::size_t offset = 0; ///< Offset of the first element, in bytes from the start of the registers.
 
-    std::size_t elementSize() const { return type == RegisterType::Text ? 64 : 8; } ///< With padding.
+    std::size_t elementSize() const { return type == RegisterType::Text ? 64 : 8; } ///< Includes padding.
     std::size_t valueSize() const { return type == RegisterType::Integer ? 4 : elementSize(); }
     std::size_t end() const { return offset + elements * elementSize(); }
     bool isIn(std::initializer_list<RegisterUse> uses) const

@@ -90,7 +90,7 @@ ExitStatus runFlatField(const FlatFieldCommandOptions &options)
     if (asks && isatty(STDIN_FILENO) == 0)
         return askPerson(coverRequest, settingOptions); // Reports that nobody can be asked.
     FlatFieldMeasurement measurement(options.field);
-    ExitStatus stepStatus = exitSuccess; // Of what is not a part of the measurement; it was reported.
+    ExitStatus stepStatus = exitSuccess; // Status of preparing the steps; a failure has been reported.
     CameraRecord record;
     const ExitStatus status
         = runMeasurement(options.measure, [&](const MeasureContext &context, const CameraRecord &camera) {

@@ -17,7 +17,7 @@ struct FocusCommandOptions
 {
     MeasureOptions measure;
     int grid = 5;
-    double seconds = 0; // Of a turn by hand; 0 measures one image.
+    double seconds = 0; // Duration of a turn by hand; 0 measures one image.
     unsigned settle = 100; // Milliseconds.
     double blackLevel = -1; // Percent; negative: as the camera says.
     std::string file;

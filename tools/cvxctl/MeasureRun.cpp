@@ -91,7 +91,7 @@ private:
     {
         std::string name;
         std::string before;
-        std::optional<std::string> written; // As the camera shows it.
+        std::optional<std::string> written; // The written value, as the camera shows it.
     };
     std::vector<Setting> m_settings; // In the order of the writes.
 };

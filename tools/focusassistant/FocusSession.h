@@ -75,6 +75,6 @@ private:
     FocusHistory m_history;
     std::optional<FocusMeasurement> m_measurement;
     Sentence m_problem;
-    std::uint64_t m_firstTime = 0; // Of the history; 0 if it is empty.
+    std::uint64_t m_firstTime = 0; // Time at which the history begins; 0 if it is empty.
     LiveAnalysis m_analysis; // The last member: its results use the others.
 };

@@ -19,7 +19,7 @@ public:
         KindColumn,
         XColumn,
         YColumn,
-        DeviationColumn, ///< Or the number of pixels of a group.
+        DeviationColumn, ///< Deviation of a pixel, or the number of pixels of a group.
         columnCountOfList
     };
 

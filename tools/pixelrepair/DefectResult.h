@@ -12,7 +12,7 @@ struct DefectResult
     std::shared_ptr<const DefectImages> dark;
     std::shared_ptr<const DefectImages> bright;
     DefectFindings findings;
-    CameraRecord camera; ///< As it was for the bright images.
+    CameraRecord camera; ///< The camera and its settings before the bright images.
 
     double threshold = usualThreshold;
     DefectMap map;

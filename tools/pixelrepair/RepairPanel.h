@@ -28,7 +28,7 @@ public:
     StepList &steps() { return *m_steps; }
     StepCard &step(Step step);
 
-    std::size_t images() const; ///< Of each set.
+    std::size_t images() const; ///< Returns the number of images of each set.
 
 signals:
     void darkRequested();

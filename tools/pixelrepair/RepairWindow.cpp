@@ -18,7 +18,7 @@
 #include <QMenu>
 
 namespace {
-constexpr double selectedScale = 8; // Of a pixel that was chosen in the list.
+constexpr double selectedScale = 8; // Scale at which a pixel that was chosen in the list is shown.
 }
 
 RepairWindow::RepairWindow(const QString &camera, ToolSettings &settings)

@@ -89,7 +89,7 @@ private:
     QElapsedTimer m_clock;
     QString m_cameraId;
     CvxCPP::CvxAccess m_access = CvxCPP::CvxAccessWatch;
-    std::optional<TemperatureSource> m_source; // Of the present camera.
+    std::optional<TemperatureSource> m_source; // Where the present camera reports its temperatures.
     std::unique_ptr<ThermalMonitor> m_monitor;
     Thresholds m_thresholds;
     bool m_isReading = false;
@@ -97,6 +97,6 @@ private:
     bool m_isMeasuringDark = false;
     QString m_darkMessage;
     std::optional<DarkLevel> m_darkLevel; // Measured since the last reading.
-    QHash<QString, CvxCPP::NodeValue> m_darkSettings; // With which the dark levels were measured.
+    QHash<QString, CvxCPP::NodeValue> m_darkSettings; // Settings with which the dark levels were measured.
     LiveAnalysis m_darkAnalysis; // Destroyed first.
 };

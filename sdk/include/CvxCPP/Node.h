@@ -107,7 +107,7 @@ struct NodeState
     LockReason lockReason = LockReason::None;
     std::string lockingNode; ///< Name of the node that is responsible; empty if unknown.
     NodeValue value;
-    NodeValue minimum; ///< Of the type of the value; no value if there is no limit.
+    NodeValue minimum; ///< Has the type of the value; no value if there is no limit.
     NodeValue maximum;
     NodeValue increment; ///< Difference between two neighbouring values; no value if every value is allowed.
     std::int64_t maxLength = 0; ///< Longest string in characters, or length of a register in bytes; else 0.

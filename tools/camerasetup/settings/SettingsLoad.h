@@ -78,7 +78,7 @@ private:
     ChangeHistory &m_history;
     State m_state = State::Planning;
     LoadReport m_report;
-    FeatureBackup m_backup; ///< From before the load.
+    FeatureBackup m_backup; ///< The settings as they were before the load.
     bool m_isWritten = false; ///< The load has written settings.
     QString m_error;
 };

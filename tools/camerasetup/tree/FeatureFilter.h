@@ -63,7 +63,7 @@ private:
     {
         None,
         Own,
-        Name ///< In the name of a category.
+        Name ///< The words are in the name of a category.
     };
 
     void noteFeatures();

@@ -11,7 +11,7 @@
 /// A change of one feature. Values are the texts of a settings file; see settingText().
 struct FeatureEdit
 {
-    std::vector<SelectorSetting> selectors; ///< With which the change was made, outer selectors first.
+    std::vector<SelectorSetting> selectors; ///< Selectors with which the change was made, outer ones first.
     std::string name;
     std::optional<std::string> before; ///< No value if it is unknown.
     std::string after; ///< Empty for a command.

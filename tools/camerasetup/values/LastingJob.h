@@ -25,7 +25,7 @@ public:
 
     void cancel(); ///< Lets the job stop soon; it still reports its result.
     void abandon(); ///< Also cancels, but the job reports nothing.
-    bool isRunning() const { return static_cast<bool>(m_done); } ///< Or waiting.
+    bool isRunning() const { return static_cast<bool>(m_done); } ///< True also while a job waits.
 
 private:
     void checkJobs();

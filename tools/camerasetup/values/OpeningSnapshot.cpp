@@ -10,7 +10,7 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr int maxFailures = 3; // In a row, of calls for a camera that is not lost.
+constexpr int maxFailures = 3; // Failed calls in a row, for a camera that is not lost.
 
 } // namespace
 

@@ -111,6 +111,6 @@ private:
     bool m_isReading = false;
     bool m_isOpen = false; // The features of the camera are known, and it is not lost.
     bool m_isUntouched = true; // Nothing was written since the camera was opened.
-    int m_failureCount = 0; // In a row.
+    int m_failureCount = 0; // Failed calls in a row.
     int m_openCount = 0; // Identifies the camera to which a result belongs.
 };

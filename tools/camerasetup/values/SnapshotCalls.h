@@ -12,7 +12,7 @@
 /// What one call has read of a part.
 struct SnapshotReading
 {
-    SnapshotPart part; ///< With the combinations that are finished now.
+    SnapshotPart part; ///< Includes the combinations that are finished now.
     std::vector<FeatureReading> readings;
     std::vector<FeatureNote> notes;
     bool isComplete = false; ///< All combinations were read.

@@ -56,7 +56,7 @@ private:
     void showFormat();
     void takeSaved(const QString &path);
     void takeFinished(const RecordingResult &result);
-    QVector<QPair<QString, LimitBox *>> limits() const; // With their names in the settings.
+    QVector<QPair<QString, LimitBox *>> limits() const; // Returns the limits and their names in the settings.
 
     SnapshotSaver &m_saver;
     RecordingControl &m_recording;

@@ -29,7 +29,7 @@ struct RecordingOptions
 /// How a recording goes on.
 struct RecordingProgress
 {
-    std::uint64_t images = 0; ///< In the file.
+    std::uint64_t images = 0; ///< Images in the file.
     double seconds = 0;
     std::uint64_t bytes = 0; ///< Bytes of these images as the camera has sent them.
     std::uint64_t fileBytes = 0; ///< Size of the file.

@@ -44,7 +44,7 @@ private:
     };
 
     Decision decide(const CvxCPP::ImageInfo &info);
-    bool isTimeOver() const; // With the mutex.
+    bool isTimeOver() const; // The caller holds the mutex.
 
     RecordingTarget &m_target;
     const std::uint64_t m_maxImages;

@@ -150,7 +150,7 @@ void VideoWriter::countWritten(const CvxCPP::Image &image)
 void VideoWriter::failWith(const QString &problem)
 {
     const std::lock_guard lock(m_mutex);
-    m_counters.unwritten += m_counters.waiting; // With the image that has failed.
+    m_counters.unwritten += m_counters.waiting; // `waiting` includes the image that has failed.
     m_counters.waiting = 0;
     m_images.clear();
     if (m_problem.isEmpty())

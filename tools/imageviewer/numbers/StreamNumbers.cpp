@@ -82,7 +82,7 @@ QString StreamNumbers::number(std::uint64_t value) const
 QString StreamNumbers::imageRate() const
 {
     const double rate = m_figures.totals.imagesPerSecond;
-    constexpr double fast = 100; // From here on, tenths of an image tell nothing.
+    constexpr double fast = 100; // At this rate or above, tenths of an image are meaningless.
     return tr("%1 images/s").arg(m_locale.toString(rate, 'f', rate < fast ? 1 : 0));
 }
 

@@ -18,7 +18,7 @@ public:
     {
         std::shared_ptr<CvxCPP::Camera> camera;
         std::shared_ptr<CvxCPP::Device> device; ///< Opened for control.
-        bool keepsChanges = false; ///< Of settings, if the work succeeds.
+        bool keepsChanges = false; ///< Keeps the changed settings if the work succeeds.
         std::function<Sentence(const MeasureContext &context, const CameraRecord &camera)> work;
         /// Called last, on the thread, with what the work has returned, and why settings were not put back.
         std::function<void(const Sentence &sentence, const std::string &notPutBack)> ended;

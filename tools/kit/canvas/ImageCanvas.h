@@ -189,7 +189,7 @@ private:
     double m_micrometresPerPixel = 0;
 
     Drag m_drag = Drag::None;
-    std::optional<QPointF> m_pointer; ///< In the view.
+    std::optional<QPointF> m_pointer; ///< Position of the pointer in the view.
     std::optional<QPoint> m_reportedPixel;
     bool m_isSpacePressed = false;
     int m_wheelAngle = 0; ///< What small movements of the wheel add up to.

@@ -36,6 +36,6 @@ private:
     QLine m_line;
     Action m_action = Action::Draw; ///< What press() found.
     QLine m_before; ///< The line at the time of press().
-    QPointF m_pressed; ///< In the view.
+    QPointF m_pressed; ///< The point of press() in the view.
     QPointF m_grabbed; ///< The same point in the picture.
 };

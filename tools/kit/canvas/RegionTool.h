@@ -41,6 +41,6 @@ private:
     QRect m_region;
     Hit m_hit; ///< What press() found.
     QRect m_before; ///< The region at the time of press().
-    QPointF m_pressed; ///< In the view.
+    QPointF m_pressed; ///< The point of press() in the view.
     QPointF m_grabbed; ///< The same point in the picture.
 };

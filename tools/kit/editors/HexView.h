@@ -33,7 +33,7 @@ public:
     QSize minimumSizeHint() const override;
 
 public slots:
-    void copy(); ///< Of the digits or of the characters, where the cursor is.
+    void copy(); ///< Copies the selection as digits or as characters, depending on where the cursor is.
     void paste(); ///< Types over the bytes from the cursor, or from the start of the selection, on.
     void selectAll();
 

@@ -12,7 +12,7 @@ using CvxCPP::NodeState;
 
 namespace {
 
-constexpr qint64 maxSize = 1 << 20; ///< Of a register that only says how long it is.
+constexpr qint64 maxSize = 1 << 20; ///< Maximum size of a register of which only the length is known.
 
 } // namespace
 

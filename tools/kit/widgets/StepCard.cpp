@@ -16,7 +16,7 @@ constexpr int markSize = 22;
 
 struct StateLook
 {
-    const char *severity; // Of the card; see tools.qss.
+    const char *severity; // The property "severity" of the card; see tools.qss.
     const char *markRole;
     const char *headingRole;
     const char *buttonRole;

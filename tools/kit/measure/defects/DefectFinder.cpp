@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr std::uint32_t partPixels = 64; // Of one colour, in both directions.
-constexpr std::uint32_t linePartPixels = 1024; // Of one colour, if the sensor has one line.
+constexpr std::uint32_t partPixels = 64; // Width and height in pixels of one colour.
+constexpr std::uint32_t linePartPixels = 1024; // Width in pixels of one colour if the sensor has one line.
 constexpr std::uint32_t linesPerQuestion = 8; // Whether the examination goes on.
 
 // Rounding to whole numbers has the variance 1/12. A value between two numbers alternates between them with
@@ -78,15 +78,15 @@ struct Set
 {
     const PixelStatistics &statistics;
     NeighbourMedian neighbours;
-    std::vector<float> differences; // From the neighbours, in the lines of the present band.
+    std::vector<float> differences; // Differences from the neighbours, in the lines of the present band.
 
-    // In the present part:
+    // Values of the present part:
     std::vector<float> numbers; // Working memory.
-    RobustSpread spread; // Of the differences.
+    RobustSpread spread; // Spread of the differences.
     double deviation = 1; // The unit of the result.
     double variance = 0; // Expected of a pixel that is as bright as its neighbours.
 
-    // Of all parts:
+    // Values of all parts:
     std::vector<float> levels;
     std::vector<float> deviations;
     std::vector<float> noises;

@@ -26,5 +26,5 @@
 std::optional<DefectFindings> findDefects(
     const PixelStatistics &dark, const PixelStatistics &bright, const MeasureProgress &progress);
 
-/// With less images, the variance of a single pixel says little.
+/// With fewer images, the variance of a single pixel says little.
 constexpr std::size_t minDefectImages = PixelStatistics::minNoiseSamples;

@@ -23,7 +23,7 @@ struct DefectCandidate
 /// What both sets of images say about the sensor. Levels and spreads in values of the pixel format.
 struct DefectFindings
 {
-    std::uint32_t width = 0; ///< Of the map: region and offset.
+    std::uint32_t width = 0; ///< Width of the map: region and offset.
     std::uint32_t height = 0;
     std::size_t examinedPixels = 0;
     double darkLevel = 0; ///< Median.

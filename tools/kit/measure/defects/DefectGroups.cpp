@@ -14,7 +14,7 @@ struct Place
 {
     std::uint32_t across; // Column of a pixel, while columns are searched.
     std::uint32_t along;
-    std::size_t index; // In the map.
+    std::size_t index; // Index of the pixel in the map.
 };
 
 void add(DefectGroup &group, const DefectPixelEntry &pixel)

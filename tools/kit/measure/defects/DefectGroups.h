@@ -17,7 +17,7 @@ struct DefectGroup
         Line
     };
     Shape shape = Shape::Cluster;
-    std::uint32_t firstX = 0; ///< Of the rectangle that contains the pixels.
+    std::uint32_t firstX = 0; ///< Left edge of the rectangle that contains the pixels.
     std::uint32_t firstY = 0;
     std::uint32_t lastX = 0;
     std::uint32_t lastY = 0;

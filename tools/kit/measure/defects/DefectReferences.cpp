@@ -8,15 +8,15 @@
 
 namespace {
 
-constexpr double maxDarkShare = 0.25; // Of the value range; black levels are far below this.
-constexpr double maxDarkDifference = 0.03; // Of the value range, between bright and dark blocks.
-constexpr double minSignalShare = 0.1; // Of the value range above the dark level.
-constexpr double clippedShare = 0.97; // Of the highest value; the noise makes the mean lower than that.
+constexpr double maxDarkShare = 0.25; // Share of the value range; black levels are far below this.
+constexpr double maxDarkDifference = 0.03; // Difference between blocks, as a share of the value range.
+constexpr double minSignalShare = 0.1; // Share of the value range above the dark level.
+constexpr double clippedShare = 0.97; // Share of the highest value; noise lowers the mean of a clipped pixel.
 constexpr double maxClippedPixels = 0.01;
-constexpr double maxDrift = 0.05; // Of all blocks together, between both halves of the images.
-constexpr double maxMovement = 0.02; // Of a block, in addition to the drift.
+constexpr double maxDrift = 0.05; // Change of all blocks together, between both halves of the images.
+constexpr double maxMovement = 0.02; // Change of a block, in addition to the drift.
 constexpr double maxStep = 0.15; // Between neighbouring blocks; a strong shading has 0.05.
-constexpr double maxDeviating = 0.02; // Of all pixels.
+constexpr double maxDeviating = 0.02; // Share of all pixels.
 
 double percent(double share)
 {

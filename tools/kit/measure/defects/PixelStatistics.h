@@ -70,7 +70,7 @@ private:
     std::vector<float> m_means;
     std::vector<float> m_squares;
     std::size_t m_samples = 0;
-    std::vector<std::size_t> m_hashes; // Of the pictures that were added.
+    std::vector<std::size_t> m_hashes; // Hashes of the pictures that were added.
     std::uint32_t m_blockColumns = 0;
     std::uint32_t m_blockRows = 0;
     std::vector<std::vector<float>> m_blockMeans;

@@ -28,8 +28,8 @@ struct FlatFieldResult
     double brightShare = 0; ///< Level of the brightest colour, as a share of the range.
     ReferenceSettings darkSettings;
     ReferenceSettings brightSettings;
-    Uniformity before; ///< Of the images that the correction was made of.
-    Uniformity after; ///< Of the other images, corrected.
+    Uniformity before; ///< Uniformity of the images that the correction was made of.
+    Uniformity after; ///< Uniformity of the other images, after the correction.
     std::vector<Sentence> warnings;
 };
 

@@ -66,7 +66,7 @@ private:
         double sum = 0;
         double squares = 0;
         double count = 0; ///< Values.
-        double imageSum = 0; ///< Of the present image.
+        double imageSum = 0; ///< Sum of the values of the present image.
         double squaredMeans = 0; ///< Sum of the squares of the images' means.
     };
 

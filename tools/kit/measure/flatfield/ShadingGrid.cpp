@@ -13,7 +13,7 @@ constexpr double outlierLimit = 4; // Standard deviations.
 struct GridPlace
 {
     std::size_t cell;
-    double share; ///< Of the next cell.
+    double share; ///< Weight of the next cell.
 };
 
 GridPlace gridPlace(double position, std::uint32_t size, std::uint32_t cells)

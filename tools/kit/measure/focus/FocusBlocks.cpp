@@ -9,7 +9,7 @@ constexpr std::size_t blockSize = FocusBlock::size;
 /// The values of one line of a block and of the neighbour on the right; the others are padding. All loops
 /// over a line have the same number of rounds, so that the compiler can compute several pixels at once.
 using Line = std::array<float, 2 * blockSize>;
-using Pixels = std::array<Line, blockSize + 1>; // With the line below.
+using Pixels = std::array<Line, blockSize + 1>; // The lines of a block and the line below.
 
 template <std::size_t pixelStep>
 void copyLine(const std::uint16_t *words, Line &line)

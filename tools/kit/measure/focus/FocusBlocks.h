@@ -10,7 +10,7 @@ struct FocusBlock
     static constexpr std::size_t size = 8;
     static constexpr std::uint32_t pixels = size * size;
 
-    float sum = 0; ///< Of the values of all pixels.
+    float sum = 0; ///< Sum of the values of all pixels.
     float across = 0; ///< Sum of the squared differences to the right neighbours.
     float down = 0; ///< Sum of the squared differences to the lower neighbours.
     float detail = 0; ///< Sum of the squared (a - b - c + d) of all disjoint squares of 2 x 2 pixels.

@@ -50,8 +50,8 @@ struct FocusMeasurement
     std::uint32_t width = 0; ///< Pixels.
     std::uint32_t height = 0;
     std::vector<RegionFocus> regions; ///< Line by line.
-    double sharpness = 0; ///< Of the whole picture; see FocusMeter.
-    double brightness = 0; ///< As in RegionFocus.
+    double sharpness = 0; ///< Sharpness of the whole picture; see FocusMeter.
+    double brightness = 0; ///< Brightness of the whole picture; see RegionFocus.
     double clippedShare = 0;
     double noise = 0; ///< Standard deviation of the pixels' noise, relative to the brightness.
     bool isExposed = false; ///< Neither too dark nor overexposed: the sharpness is right, even if it is low.

@@ -127,7 +127,7 @@ private:
 /// What turns sums of pixel values into the numbers of a measurement.
 struct Scale
 {
-    double blackLevel; // As a pixel value.
+    double blackLevel; // The black level as a pixel value.
     double range;
     bool isLineScan;
     double blockPixels; // Pixels of the picture per block in each direction.

@@ -19,7 +19,7 @@ struct FocusResult
     std::optional<FocusAxis> axis; ///< Nothing if the lens was turned by hand: positions are seconds then.
     std::optional<double> position; ///< Where the lens is, if it has a position.
     std::vector<FocusSample> samples; ///< In the order in which they were taken.
-    std::optional<FocusAnalysis> analysis; ///< Of the samples.
+    std::optional<FocusAnalysis> analysis; ///< The analysis of the samples.
 };
 
 /// Returns the result of a search with the camera's motor.

@@ -10,7 +10,7 @@
 /// A measurement and where the lens was.
 struct FocusSample
 {
-    double position = 0; ///< Of the lens; or the time in seconds, if the lens has no position.
+    double position = 0; ///< Position of the lens, or the time in seconds if the lens has no position.
     FocusMeasurement measurement;
 };
 
@@ -24,7 +24,7 @@ struct FocusAnalysis
         double shareAtBest = 0; ///< Share of its peak that the region has at the best position.
     };
 
-    std::optional<FocusPeak> total; ///< Of the whole picture; nothing if there is no peak.
+    std::optional<FocusPeak> total; ///< Peak of the whole picture; nothing if there is no peak.
     std::vector<RegionPeak> regions; ///< Line by line.
     std::optional<FocusSurface> surface; ///< Nothing if too few regions have a peak.
 

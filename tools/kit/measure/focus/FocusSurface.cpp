@@ -11,7 +11,7 @@ using Points = std::vector<SurfacePoint>;
 
 constexpr double significance = 3; // In standard errors.
 constexpr double outlierLimit = 4; // In usual deviations.
-constexpr double medianToDeviation = 1.4826; // Of a normal distribution.
+constexpr double medianToDeviation = 1.4826; // Ratio of standard to median deviation if normally distributed.
 
 /// Which terms of the surface are fitted.
 struct Terms

@@ -20,9 +20,9 @@ struct SurfacePoint
 struct FocusSurface
 {
     double center = 0; ///< Best position of the centre of the picture.
-    double right = 0; ///< From the left to the right edge.
-    double down = 0; ///< From the upper to the lower edge.
-    double curvature = 0; ///< From the centre to the corners.
+    double right = 0; ///< Change of the best position from the left to the right edge.
+    double down = 0; ///< Change of the best position from the upper to the lower edge.
+    double curvature = 0; ///< Change of the best position from the centre to the corners, without the tilt.
     double tiltDeviation = 0; ///< Standard error of right and down.
     double residual = 0; ///< Standard deviation of the regions from the surface.
 

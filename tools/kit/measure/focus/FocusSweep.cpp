@@ -7,7 +7,7 @@ using namespace CvxCPP;
 
 namespace {
 constexpr double fineMargin = 1.5; // Around the regions' coarse peaks, in coarse steps.
-constexpr double outerShare = 0.1; // Of the regions, whose coarse peaks do not widen the fine search.
+constexpr double outerShare = 0.1; // This share of the peaks at each end does not widen the fine search.
 constexpr double minContrast = 1.2; // Highest to lowest sharpness of a sweep that has a peak.
 
 struct Range

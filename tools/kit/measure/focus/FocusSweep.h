@@ -23,7 +23,7 @@ struct SweepResult
     double bestPosition = 0; ///< Where the lens is now.
     std::vector<FocusSample> coarse;
     std::vector<FocusSample> fine;
-    FocusAnalysis analysis; ///< Of the fine samples.
+    FocusAnalysis analysis; ///< The analysis of the fine samples.
     FocusMeasurement last; ///< At the best position.
 };
 

@@ -15,7 +15,7 @@ constexpr std::size_t minBlocksPerSample = 32;
 constexpr double clipLimit = 1.6; // 94 % of the blocks without edges remain.
 constexpr double keptMean = 0.948;
 constexpr double lowQuantile = 0.1;
-constexpr double lowQuantileValue = 0.582; // Of the distribution, relative to its mean.
+constexpr double lowQuantileValue = 0.582; // Low quantile of the distribution, relative to its mean.
 constexpr int clipRounds = 12;
 
 /// Returns the blocks, or a part of them that is spread evenly over the picture.

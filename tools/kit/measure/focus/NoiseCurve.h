@@ -19,7 +19,7 @@ public:
     /// A block of squares of 2 x 2 pixels, without clipped pixels.
     struct Block
     {
-        double mean = 0; ///< Of the pixel values.
+        double mean = 0; ///< Mean of the pixel values.
         double variance = 0; ///< Mean square of the diagonal detail.
     };
 

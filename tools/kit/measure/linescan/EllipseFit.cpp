@@ -118,7 +118,7 @@ std::vector<FitPoint> withoutOutliers(const std::vector<FitPoint> &points, const
     std::vector<double> distances;
     for (const FitPoint &point : points)
         distances.push_back(radialDistance(ellipse, point));
-    constexpr double robustFactor = 1.4826; // From the median of normal deviations to their standard one.
+    constexpr double robustFactor = 1.4826; // Ratio of standard to median deviation if normally distributed.
     const double limit = std::max(0.5, 3 * robustFactor * medianOf(distances));
     std::vector<FitPoint> kept;
     for (std::size_t i = 0; i < points.size(); ++i)

@@ -14,8 +14,8 @@ struct Ellipse
 {
     double centerX = 0;
     double centerY = 0;
-    double halfWidth = 0; ///< From the centre to the outermost point on the right.
-    double halfHeight = 0; ///< From the centre to the lowest point.
+    double halfWidth = 0; ///< Horizontal distance from the centre to the outermost point on the right.
+    double halfHeight = 0; ///< Vertical distance from the centre to the lowest point.
     /// The correlation of the coordinates: 0 if the axes are horizontal and vertical.
     double correlation = 0;
 
@@ -30,8 +30,8 @@ struct EllipseFit
 {
     Ellipse ellipse;
     double residual = 0; ///< Root mean square distance of the used points from the ellipse.
-    double usedShare = 0; ///< Of the points; the others are outliers.
-    double coveredShare = 0; ///< Of the directions from the centre in which there are used points.
+    double usedShare = 0; ///< Share of the points that are used; the others are outliers.
+    double coveredShare = 0; ///< Share of the directions from the centre in which there are used points.
 };
 
 /// Fits an ellipse to points of its border. The conic A x² + B xy + C y² + D x + E y = 1 in coordinates

@@ -36,7 +36,7 @@ struct LineRatePlan
     std::optional<EncoderRatio> ratio;
     double errorPercent = 0; ///< Positive: too many lines, so objects become too tall.
     RateLimit limit; ///< The lowest limit that is known, with the planned exposure.
-    std::optional<double> highestSpeed; ///< Of the object at this limit, in mm/s.
+    std::optional<double> highestSpeed; ///< Speed of the object at this limit, in mm/s.
 
     std::vector<PlannedSetting> settings; ///< In the order in which they are written.
 

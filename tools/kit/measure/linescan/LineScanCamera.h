@@ -50,7 +50,7 @@ struct LineScanCamera
     std::optional<double> sensorPixelSize; ///< Micrometres, if the camera says it.
     std::optional<double> linesPerPicture;
     RateFacts facts;
-    std::map<LineFeature, LineFeatureState> features; ///< Those that the camera has at present.
+    std::map<LineFeature, LineFeatureState> features; ///< The features that the camera has at present.
 
     /// Returns null if the camera does not have the feature.
     const LineFeatureState *find(LineFeature feature) const;

@@ -17,14 +17,14 @@ struct LineScanInputs
     };
     Trigger trigger = Trigger::LineRate;
 
-    double speed = 0; ///< Of the object, in mm/s; with an encoder, the highest one, which may be unknown.
+    double speed = 0; ///< Speed of the object, mm/s; with an encoder, the highest one, which may be unknown.
 
     double pixelSize = 0; ///< Width of a pixel of the sensor, in micrometres.
     double magnification = 0; ///< Size of the image on the sensor divided by the size of the object.
     double objectPixel = 0; ///< Micrometres of the object per pixel of the picture; replaces the two above.
 
     double encoderStep = 0; ///< Movement per pulse, that is per cycle of one signal of the encoder.
-    double pulsesPerRevolution = 0; ///< With the diameter, replaces the step.
+    double pulsesPerRevolution = 0; ///< Replaces the step, together with the diameter.
     double rollerDiameter = 0;
 
     bool usesLongestExposure = false; ///< Otherwise, the exposure is only shortened if it has to be.

@@ -17,7 +17,7 @@ struct PixelRun
 struct PicturePart
 {
     bool isBright = false;
-    std::vector<PixelRun> runs; ///< From the top to the bottom, then from left to right.
+    std::vector<PixelRun> runs; ///< Sorted from top to bottom, then from left to right.
     int left = std::numeric_limits<int>::max();
     int right = 0; ///< Inclusive.
     int top = std::numeric_limits<int>::max();

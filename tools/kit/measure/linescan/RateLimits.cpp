@@ -7,7 +7,7 @@ namespace {
 
 constexpr double microsecondsPerSecond = 1e6;
 constexpr double roundingShare = 1e-6; // A rate may exceed its limit by this because numbers are rounded.
-constexpr double protocolShare = 0.1; // Of a link, for headers.
+constexpr double protocolShare = 0.1; // Share of the bandwidth of a link that headers need, at most.
 
 } // namespace
 

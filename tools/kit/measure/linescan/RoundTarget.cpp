@@ -11,7 +11,7 @@ namespace {
 constexpr double degreesPerRadian = 180 / 3.14159265358979323846;
 constexpr float minContrast = 0.1F; // Difference of dark and bright, as a share of bright.
 constexpr float minRange = 0.03F; // The same as a share of the full scale; noise in the dark is smaller.
-constexpr std::size_t maxParts = 200; // Of a picture full of texture, only the largest parts are tried.
+constexpr std::size_t maxParts = 200; // Only the largest parts are tried if a picture is full of texture.
 
 // Where the picture is separated, from dark to bright: in the middle, and nearer to bright, because a thin
 // dark ring that is not sharp does not become quite dark.
@@ -20,7 +20,7 @@ constexpr float thresholdShares[] = {0.5F, 0.72F};
 // A part is round if its border follows the ellipse.
 constexpr double minUsedShare = 0.7;
 constexpr double minCoveredShare = 0.9;
-constexpr double maxResidualShare = 0.005; // Of the mean radius; a square has 0.08.
+constexpr double maxResidualShare = 0.005; // Share of the mean radius; a square has 0.08.
 constexpr double maxResidual = 0.5; // Pixels; a border is never more precise than the pixels allow.
 constexpr double unevenFactor = 6; // A border with a residual that is larger by less is uneven.
 

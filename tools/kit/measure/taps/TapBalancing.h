@@ -12,8 +12,8 @@ struct TapOptions
 {
     std::optional<TapLayout> layout; ///< Chosen by hand; by default that of DeviceTapGeometry.
     TapReference reference = TapReference::Mean;
-    std::size_t images = 8; ///< Of each measurement; at least 2.
-    double darkLevel = 0; ///< Of all taps, from a dark picture, in units of the pixel values; 0 if unknown.
+    std::size_t images = 8; ///< Images of each measurement; at least 2.
+    double darkLevel = 0; ///< Level of all taps in a dark picture, in units of pixel values; 0 if unknown.
 };
 
 /// Returns the layout that the options or the camera say, or a sentence that says what to choose.
@@ -33,7 +33,7 @@ Sentence measureTaps(const MeasureContext &context, const TapOptions &options, T
 struct TapBalance
 {
     TapControl control;
-    std::vector<double> valuesBefore; ///< Of the setting, one for each tap.
+    std::vector<double> valuesBefore; ///< Values of the setting, one for each tap.
     std::vector<double> valuesAfter;
     TapMeasurement before;
     TapMeasurement after;

@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t linesPerBlock = 8;
 constexpr std::size_t maxStrip = 32; // Pixels.
 constexpr std::size_t minPoints = 4; // For a straight line.
-constexpr std::size_t tileCycles = 16; // Of interleaved taps.
+constexpr std::size_t tileCycles = 16; // How often each of the interleaved taps occurs in a tile.
 
 /// The picture, or the picture turned so that borders between lines become borders between columns.
 class TurnedPicture

@@ -21,7 +21,7 @@ struct TapControl
     TapSetting setting = TapSetting::Gain;
     std::string selector; ///< For example "GainSelector".
     std::string feature; ///< For example "Gain".
-    std::vector<std::string> entries; ///< Of the selector; one for each tap.
+    std::vector<std::string> entries; ///< Entries of the selector, one for each tap.
     bool isInteger = false;
     bool isDecibel = false; ///< The unit of the feature.
 };

@@ -33,7 +33,7 @@ struct SensorPlace
 {
     std::uint32_t sensorWidth = 0; ///< Pixels of the whole sensor; 0 if the picture is all that is known.
     std::uint32_t sensorHeight = 0;
-    std::uint32_t offsetX = 0; ///< Of the picture, after binning and reversal.
+    std::uint32_t offsetX = 0; ///< Offset of the picture, after binning and reversal.
     std::uint32_t offsetY = 0;
     std::uint32_t binningX = 1; ///< Sensor columns per column of the picture, also by decimation.
     std::uint32_t binningY = 1;

@@ -19,8 +19,8 @@ struct TapMeasurement
     {
         double mean = 0; ///< See TapPicture::Tap.
         double noise = 0;
-        /// From the reference, by the steps at the borders: relative to the signal in a bright picture, in
-        /// units of the pixel values in a dark one.
+        /// Deviation from the reference, by the steps at the borders: relative to the signal in a bright
+        /// picture, in units of the pixel values in a dark one.
         double deviation = 0;
     };
 

@@ -147,7 +147,7 @@ double TapStack::movedShare() const
     if (differences.empty())
         return 0;
     const double median = medianOf(differences);
-    double variance = 1.0 / 12; // Of the rounding to whole pixel values, at least.
+    double variance = 1.0 / 12; // At least the variance of the rounding to whole pixel values.
     for (const Sums &sums : m_sums) {
         if (sums.pairs > 0)
             variance = std::max(variance, sums.variance / static_cast<double>(sums.pairs));

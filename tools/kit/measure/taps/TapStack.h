@@ -12,7 +12,7 @@ struct TapPicture
 {
     struct Tap
     {
-        double mean = 0; ///< Of all pixels and images, in units of the pixel values.
+        double mean = 0; ///< Mean of all pixels and images, in units of the pixel values.
         double noise = 0; ///< Temporal standard deviation of a pixel.
         double clipped = 0; ///< Share of the pixel values that are the largest one.
         double black = 0; ///< Share of the pixel values that are 0.
@@ -24,7 +24,7 @@ struct TapPicture
     double maxValue = 0; ///< Largest pixel value of the format.
     std::size_t imageCount = 0;
     TapMap map;
-    std::vector<float> mean; ///< Of each pixel, line by line.
+    std::vector<float> mean; ///< Mean of each pixel, line by line.
     std::vector<Tap> taps;
     double moved = 0; ///< Share of the picture that has changed by more than its noise.
 

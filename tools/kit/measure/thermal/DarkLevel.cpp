@@ -49,7 +49,7 @@ DarkMeter::Sums DarkMeter::addLines(
 
 Sentence DarkMeter::measure(const RawImage &picture, DarkLevel &level)
 {
-    constexpr double brightestMean = 0.25; // Of the range.
+    constexpr double brightestMean = 0.25; // Share of the range of the pixel values.
     constexpr double largestDifference = 0.05;
     constexpr double mostZeros = 0.1;
     const PixelFormat *const format = findPixelFormat(picture.pixelFormat);
@@ -91,7 +91,7 @@ Sentence DarkMeter::measure(const RawImage &picture, DarkLevel &level)
 Sentence DarkMeter::hint(const DarkLevel &level)
 {
     constexpr double enoughSpread
-        = 0.35; // From here on, rounding changes the mean by less than 3 % of a step.
+        = 0.35; // At this spread or above, rounding changes the mean by less than 3 % of a step.
     if (level.spread >= enoughSpread)
         return {};
     return Sentence{QT_TRANSLATE_NOOP("Sentence",

@@ -12,7 +12,7 @@ struct DarkLevel
 {
     double mean = 0; ///< Mean of all pixels: the estimate of mu.d in EMVA 1288 4.0, Linear, section 6.
     double spread = 0; ///< Standard deviation of the pixels.
-    double standardError = 0; ///< Of the mean, from the spread.
+    double standardError = 0; ///< Standard error of the mean, from the spread.
     double zeroShare = 0; ///< Share of the pixels that are 0.
 };
 

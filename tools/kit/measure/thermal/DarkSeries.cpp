@@ -28,7 +28,7 @@ void DarkSeries::learn(double celsius, const DarkLevel &level)
     m_firstCelsius += celsius / firstCount;
     if (m_firstLevels.size() < firstCount)
         return;
-    constexpr double squaresOfWeights = 6; // Of the second difference: 1, -2, 1.
+    constexpr double squaresOfWeights = 6; // Sum of the squared weights of the second difference: 1, -2, 1.
     double squares = 0;
     for (std::size_t index = 2; index < firstCount; ++index) {
         const double difference

@@ -181,7 +181,7 @@ std::optional<ExponentialFit> fitExponential(
     fit.amplitude = linear.amplitude;
     fit.scale = std::exp(logScale);
     fit.origin = data.origin;
-    constexpr double edge = 0.01; // Of the logarithm.
+    constexpr double edge = 0.01; // Smallest distance of the logarithm from its limits.
     fit.isScaleInside = logScale > minimum + edge && logScale < maximum - edge;
     addErrors(data.points, fit);
     return fit;

@@ -40,7 +40,7 @@ double noiseOf(const std::vector<HistoryPoint> &points, double step)
 double toleranceOf(const ExponentialFit &fit, const std::vector<HistoryPoint> &points)
 {
     constexpr double largest = 0.02;
-    constexpr double share = 0.0005; // Of the change, so a bend in a few early readings is not accepted.
+    constexpr double share = 0.0005; // Share of the change, so a bend in a few early readings is refused.
     return std::min(largest, share * std::abs(fit.at(points.back().last) - fit.at(points.front().first)));
 }
 
@@ -65,7 +65,7 @@ bool describesNewest(
 
 bool isDetermined(const ExponentialFit &fit, double span)
 {
-    constexpr double shortestSpan = 0.1; // Of the time constant.
+    constexpr double shortestSpan = 0.1; // Share of the time constant.
     constexpr double largestScaleError = 0.4;
     constexpr double largestEndError = 0.5;
     return fit.isScaleInside && fit.scaleError < largestScaleError && fit.offsetError < largestEndError

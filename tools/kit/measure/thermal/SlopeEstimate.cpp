@@ -45,7 +45,7 @@ double spread(const std::vector<HistoryPoint> &points, double slope)
 
 double roundingStep(const std::vector<HistoryPoint> &points)
 {
-    constexpr double tolerance = 0.002; // Of a step; 32-bit floating-point numbers are not exact.
+    constexpr double tolerance = 0.002; // Share of a step; 32-bit floating-point numbers are not exact.
     const auto isReading = [](const HistoryPoint &point) { return point.count == 1; };
     if (std::none_of(points.begin(), points.end(), isReading))
         return 0;
