@@ -6,7 +6,7 @@ import os
 import sys
 import tempfile
 
-from launcher import Launcher, keep_to_this_machine, wait_for
+from launcher import BOUND, Launcher, keep_to_this_machine, wait_for
 from simulator import SimulatorConfiguration
 from tool import start_for
 
@@ -46,7 +46,8 @@ def follow_temperatures(folder):
     with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
         with start_for(launcher, "KORDANE", "Thermal Monitor", "ThermalMonitor") as monitor:
             wait_for("the final value of the sensor is known",
-                     lambda: monitor.shows(lambda text: text.startswith(("Expected final value: 51", "Expected final value: 50.9"))))
+                     lambda: monitor.shows(lambda text: text.startswith(("Expected final value: 51", "Expected final value: 50.9"))),
+                     4 * BOUND)
             monitor.activate()
             monitor.save_result(f"{folder}/result.json")
 
