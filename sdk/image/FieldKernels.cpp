@@ -83,61 +83,95 @@ FieldLine rest(const FieldLine &field, std::size_t index)
     return result;
 }
 
+CVX_FIELD_SSE41 inline __m128i loadEight(const std::uint8_t *values)
+{
+    return _mm_cvtepu8_epi16(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(values)));
+}
+
+CVX_FIELD_SSE41 inline __m128i loadEight(const std::uint16_t *values)
+{
+    return _mm_loadu_si128(reinterpret_cast<const __m128i *>(values));
+}
+
+CVX_FIELD_SSE41 inline void storeEight(__m128i words, std::uint8_t *output)
+{
+    _mm_storel_epi64(reinterpret_cast<__m128i *>(output), _mm_packus_epi16(words, words));
+}
+
+CVX_FIELD_SSE41 inline void storeEight(__m128i words, std::uint16_t *output)
+{
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(output), words);
+}
+
+CVX_FIELD_AVX2 inline __m256i loadSixteen(const std::uint8_t *values)
+{
+    return _mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i *>(values)));
+}
+
+CVX_FIELD_AVX2 inline __m256i loadSixteen(const std::uint16_t *values)
+{
+    return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(values));
+}
+
+CVX_FIELD_AVX2 inline void storeSixteen(__m256i words, std::uint8_t *output)
+{
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(output),
+        _mm_packus_epi16(_mm256_castsi256_si128(words), _mm256_extracti128_si256(words, 1)));
+}
+
+CVX_FIELD_AVX2 inline void storeSixteen(__m256i words, std::uint16_t *output)
+{
+    _mm256_storeu_si256(reinterpret_cast<__m256i *>(output), words);
+}
+
+template <typename Value>
+CVX_FIELD_SSE41 void correctEights(
+    const Value *input, const FieldLine &field, std::size_t count, Value *output)
+{
+    const FieldConstants constants(field);
+    std::size_t i = 0;
+    for (; i + 8 <= count; i += 8)
+        storeEight(
+            fieldWords(loadEight(input + i), field.gains + i, field.offsets + i, constants), output + i);
+    pixelloops::correctField(input + i, rest(field, i), count - i, output + i);
+}
+
+template <typename Value>
+CVX_FIELD_AVX2 void correctSixteens(
+    const Value *input, const FieldLine &field, std::size_t count, Value *output)
+{
+    const FieldConstants constants(field);
+    std::size_t i = 0;
+    for (; i + 16 <= count; i += 16)
+        storeSixteen(
+            fieldWords(loadSixteen(input + i), field.gains + i, field.offsets + i, constants), output + i);
+    pixelloops::correctField(input + i, rest(field, i), count - i, output + i);
+}
+
 } // namespace
 
-CVX_FIELD_SSE41 void correctFieldSse41(
+void correctFieldSse41(
     const std::uint8_t *input, const FieldLine &field, std::size_t count, std::uint8_t *output)
 {
-    const FieldConstants constants(field);
-    std::size_t i = 0;
-    for (; i + 8 <= count; i += 8) {
-        const __m128i values
-            = _mm_cvtepu8_epi16(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(input + i)));
-        const __m128i words = fieldWords(values, field.gains + i, field.offsets + i, constants);
-        _mm_storel_epi64(reinterpret_cast<__m128i *>(output + i), _mm_packus_epi16(words, words));
-    }
-    pixelloops::correctField(input + i, rest(field, i), count - i, output + i);
+    correctEights(input, field, count, output);
 }
 
-CVX_FIELD_SSE41 void correctFieldSse41(
+void correctFieldSse41(
     const std::uint16_t *input, const FieldLine &field, std::size_t count, std::uint16_t *output)
 {
-    const FieldConstants constants(field);
-    std::size_t i = 0;
-    for (; i + 8 <= count; i += 8) {
-        const __m128i values = _mm_loadu_si128(reinterpret_cast<const __m128i *>(input + i));
-        _mm_storeu_si128(reinterpret_cast<__m128i *>(output + i),
-            fieldWords(values, field.gains + i, field.offsets + i, constants));
-    }
-    pixelloops::correctField(input + i, rest(field, i), count - i, output + i);
+    correctEights(input, field, count, output);
 }
 
-CVX_FIELD_AVX2 void correctFieldAvx2(
+void correctFieldAvx2(
     const std::uint8_t *input, const FieldLine &field, std::size_t count, std::uint8_t *output)
 {
-    const FieldConstants constants(field);
-    std::size_t i = 0;
-    for (; i + 16 <= count; i += 16) {
-        const __m256i values
-            = _mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i *>(input + i)));
-        const __m256i words = fieldWords(values, field.gains + i, field.offsets + i, constants);
-        _mm_storeu_si128(reinterpret_cast<__m128i *>(output + i),
-            _mm_packus_epi16(_mm256_castsi256_si128(words), _mm256_extracti128_si256(words, 1)));
-    }
-    pixelloops::correctField(input + i, rest(field, i), count - i, output + i);
+    correctSixteens(input, field, count, output);
 }
 
-CVX_FIELD_AVX2 void correctFieldAvx2(
+void correctFieldAvx2(
     const std::uint16_t *input, const FieldLine &field, std::size_t count, std::uint16_t *output)
 {
-    const FieldConstants constants(field);
-    std::size_t i = 0;
-    for (; i + 16 <= count; i += 16) {
-        const __m256i values = _mm256_loadu_si256(reinterpret_cast<const __m256i *>(input + i));
-        _mm256_storeu_si256(reinterpret_cast<__m256i *>(output + i),
-            fieldWords(values, field.gains + i, field.offsets + i, constants));
-    }
-    pixelloops::correctField(input + i, rest(field, i), count - i, output + i);
+    correctSixteens(input, field, count, output);
 }
 
 #endif
