@@ -3,7 +3,6 @@
 #include "tools/kit/widgets/ComboBox.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QFormLayout>
 #include <QSpinBox>
 #include <QStandardItemModel>
@@ -46,9 +45,6 @@ LayoutBox::LayoutBox(QWidget *parent)
 
     makeNarrow(m_source);
     makeNarrow(m_reference);
-    for (QWidget *const control : {static_cast<QWidget *>(m_source), static_cast<QWidget *>(m_reference),
-             static_cast<QWidget *>(m_images)})
-        ignoreWheel(control);
     connect(m_source, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LayoutBox::followSource);
     connect(m_reference, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LayoutBox::changed);
     connect(m_images, QOverload<int>::of(&QSpinBox::valueChanged), this, &LayoutBox::changed);
@@ -61,26 +57,9 @@ QSpinBox *LayoutBox::addNumber(const QString &label, const QString &toolTip, int
     box->setRange(1, maximum);
     box->setValue(value);
     box->setToolTip(toolTip);
-    ignoreWheel(box);
     static_cast<QFormLayout *>(m_byHand->layout())->addRow(label, box);
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &LayoutBox::changed);
     return box;
-}
-
-/// The wheel scrolls the panel; it must not change a value on its way.
-void LayoutBox::ignoreWheel(QWidget *control)
-{
-    control->setFocusPolicy(Qt::StrongFocus);
-    control->installEventFilter(this);
-}
-
-bool LayoutBox::eventFilter(QObject *object, QEvent *event)
-{
-    const auto *const control = qobject_cast<QWidget *>(object);
-    if (event->type() != QEvent::Wheel || control->hasFocus())
-        return QWidget::eventFilter(object, event);
-    event->ignore();
-    return true;
 }
 
 TapOptions LayoutBox::options() const

@@ -5,7 +5,6 @@
 #include <QWidget>
 
 class QComboBox;
-class QLabel;
 class QSpinBox;
 
 /// Chooses how the taps share the picture, and what they are compared with.
@@ -28,8 +27,6 @@ signals:
 
 private:
     QSpinBox *addNumber(const QString &label, const QString &toolTip, int value, int maximum);
-    void ignoreWheel(QWidget *control);
-    bool eventFilter(QObject *object, QEvent *event) override;
     void followSource();
 
     QComboBox *m_source;
