@@ -52,7 +52,7 @@ private:
         std::string problem; // Problem of this node itself.
         Traits traits;
         std::uint32_t depth = 0; // Length of the longest chain of values that starts here.
-        std::uint32_t accesses = 1; // That reading the value takes.
+        std::uint32_t accesses = 1; // Accesses that reading the value takes.
         bool isUsable = false;
     };
 

@@ -16,8 +16,8 @@ struct CameraPlace
 };
 
 /// Opens a camera. Throws GenTlError: GC_ERR_ACCESS_DENIED if another program controls the camera;
-/// the text then names the program's IP address if the camera tells it. Or GC_ERR_TIMEOUT if the camera does
-/// not answer, or GC_ERR_IO.
+/// the text then names the program's IP address if the camera reports it. Throws GC_ERR_TIMEOUT if the
+/// camera does not answer, and GC_ERR_IO.
 /// @param access DEVICE_ACCESS_READONLY, DEVICE_ACCESS_CONTROL or DEVICE_ACCESS_EXCLUSIVE.
 std::unique_ptr<OpenCamera> openGigECamera(const CameraPlace &place, GenTL::DEVICE_ACCESS_FLAGS access);
 

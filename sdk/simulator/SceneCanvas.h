@@ -60,7 +60,7 @@ private:
 
         SceneBlur blur;
         int left; ///< Where painted lines begin.
-        int nextLine; ///< That will be painted.
+        int nextLine; ///< The line that is painted next.
         std::vector<float> painted;
     };
     void paintUntil(Layer &layer, int lastLine, bool isTint);

@@ -196,8 +196,8 @@ struct ClosedModule
 {
     const char *name;
     std::function<GC_ERROR(const LoadedProducer &, DS_HANDLE, DEV_HANDLE, IF_HANDLE, TL_HANDLE)> close;
-    std::size_t
-        closedHandles; // Of: event of the stream, stream, event of the device, port, device, interface.
+    /// Closed handles of: event of the stream, stream, event of the device, port, device, interface.
+    std::size_t closedHandles;
 };
 
 void PrintTo(const ClosedModule &module, std::ostream *output)

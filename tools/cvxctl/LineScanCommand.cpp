@@ -14,7 +14,7 @@ using namespace CvxCPP;
 
 namespace {
 
-constexpr std::size_t imagesPerTarget = 3; // That are taken before the search for targets is given up.
+constexpr std::size_t imagesPerTarget = 3; // Images that are searched for a target, at most.
 
 struct LineScanOptions
 {

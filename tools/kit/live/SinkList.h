@@ -6,7 +6,7 @@
 #include <mutex>
 #include <vector>
 
-/// The sinks of a stream. Gives them images without holding a lock.
+/// The sinks of a stream. Passes images to them without holding a lock.
 class SinkList
 {
 public:

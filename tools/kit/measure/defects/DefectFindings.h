@@ -16,7 +16,7 @@ struct DefectCandidate
     float dark = 0; ///< Mean in the dark, compared with the neighbours.
     float bright = 0; ///< Mean in the light, compared with the neighbours.
     float blinking = 0; ///< Change from image to image, compared with the noise that is expected.
-    float reaction = 0; ///< To light, relative to that of the neighbours; about 1 if the pixel is good.
+    float reaction = 0; ///< Reaction to light, relative to the neighbours; about 1 if the pixel is good.
     bool isConstant = false; ///< The value was the same in all images of both sets.
 };
 

@@ -11,7 +11,7 @@
 /// The width to height of a round target in several pictures.
 struct Roundness
 {
-    std::size_t images = 0; ///< That were searched.
+    std::size_t images = 0; ///< Images that were searched.
     std::vector<RoundTarget> targets; ///< One of each picture that showed one; all of about the same width.
     double heightToWidth = 0; ///< The mean.
     double deviation = 0; ///< Standard deviation of single pictures.
