@@ -17,7 +17,10 @@ def watch(launcher):
 
 def correct_pictures(viewer, field, path):
     """Enters a file in the dialog for corrections. Alt and the letter `field` reach its field."""
-    viewer.press("alt+c", "c", f"alt+{field}")
+    viewer.press("alt+c", "c")
+    wait_for("the dialog is active", lambda: any(widget["active"] for widget in viewer.widgets()
+                                                 if widget["text"].replace("&", "") == "Correct the pictures"))
+    viewer.press(f"alt+{field}")
     viewer.type(path)
     viewer.press("Return")
     wait_for("the pictures are corrected", lambda: viewer.shows(lambda text: text == "The pictures are corrected."))
