@@ -39,7 +39,7 @@ def click_starts_the_tool_in_its_own_directory(launcher):
     """Returns the process ID of the tool. The caller has to end the tool."""
     click(launcher.tiles()["Image Viewer"])
     directory = os.path.realpath(f"{STAGE}/bin")
-    tool = wait_for("the tool runs", lambda: output_of("pgrep", "-fx", f"{directory}/ImageViewer").strip())
+    tool = wait_for("the tool runs", lambda: output_of("pgrep", "--oldest", "-fx", f"{directory}/ImageViewer").strip())
     assert os.readlink(f"/proc/{tool}/cwd") == directory
     inherited = connections_of(tool) & connections_of(launcher.process.pid)
     assert not inherited, f"the tool has inherited {inherited}"

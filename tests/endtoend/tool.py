@@ -28,7 +28,7 @@ class Tool:
     def __init__(self, launcher, name):
         """Waits until the tool shows its window."""
         directory = os.path.dirname(os.path.realpath(launcher.program))
-        self.process = wait_for(f"{name} runs", lambda: output_of("pgrep", "-fx", f"{directory}/{name}").strip())
+        self.process = wait_for(f"{name} runs", lambda: output_of("pgrep", "--oldest", "-fx", f"{directory}/{name}").strip())
         self.reader = f"{launcher.socket}.{self.process}"
         self.window = wait_for(f"{name} shows its window", lambda: output_of(
             "xdotool", "search", "--all", "--onlyvisible", "--pid", self.process, "--name", "–").split())[0]
