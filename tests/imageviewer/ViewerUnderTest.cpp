@@ -24,3 +24,14 @@ double ViewerUnderTest::meanOfNewPicture()
     request.wantsStatistics = true;
     return measure(rawImage(*canvas().picture().image), request).statistics.at(0).mean;
 }
+
+QString ViewerUnderTest::saveSnapshot()
+{
+    QString saved;
+    const auto connection = QObject::connect(
+        find<SnapshotSaver>(), &SnapshotSaver::saved, [&saved](const QString &path) { saved = path; });
+    action(QStringLiteral("Save snapshot")).trigger();
+    await([&saved] { return !saved.isEmpty(); });
+    QObject::disconnect(connection);
+    return saved;
+}

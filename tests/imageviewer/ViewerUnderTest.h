@@ -19,4 +19,7 @@ public:
 
     /// Returns the mean of all values of a picture that was exposed after this call.
     double meanOfNewPicture();
+
+    /// Saves a snapshot and waits until all its files are complete. Returns the path of the picture.
+    QString saveSnapshot();
 };
