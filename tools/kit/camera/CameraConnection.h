@@ -37,8 +37,8 @@ public:
 
     explicit CameraConnection(QObject *parent = nullptr);
 
-    /// Closes the camera. Blocks for at most 3 s, and until a running call has ended: a camera that is being
-    /// opened takes up to 20 s, unless the CameraFinder is destroyed first.
+    /// Closes the camera. Blocks for at most 3 s, or 6 s during a measurement, and until a running call has
+    /// ended: a camera that is being opened takes up to 20 s, unless the CameraFinder is destroyed first.
     ~CameraConnection() override;
 
     /// Closes the present camera and opens another one, without waiting for the present one. Opening a camera

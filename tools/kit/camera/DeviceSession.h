@@ -30,7 +30,8 @@ public:
     /// Begins to open the camera.
     DeviceSession(std::shared_ptr<CvxCPP::Camera> camera, CvxCPP::CvxAccess access, Events events);
 
-    /// Closes the camera. Blocks for at most 3 s, and until a running call has returned.
+    /// Closes the camera. Blocks for at most 3 s, or 6 s during a measurement, and until a running call has
+    /// returned.
     ~DeviceSession();
 
     /// Makes a call after the earlier ones; `done` is called on the session's thread. A call that has not
