@@ -21,7 +21,7 @@ class ThermalTest(CvxctlCase):
     def test_working_camera_approaches_its_final_value(self):
         output, log = self.path("result.json"), self.path("log.csv")
         self.path("result.csv")
-        document = self.run_json("thermal", "1003", "--stream", "--seconds", "15", "--interval", "0.2", "--output", output,
+        document = self.run_json("thermal", "1003", "--stream", "--seconds", "32", "--interval", "0.2", "--output", output,
                                  "--log", log)
         places = {place["place"]: place for place in document["result"]["places"]}
         self.assertEqual(sorted(places), ["Mainboard", "Sensor"])

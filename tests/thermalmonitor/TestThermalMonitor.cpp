@@ -104,12 +104,12 @@ void TestThermalMonitor::allTemperaturesAreFollowed()
     QCOMPARE(QString::fromStdString(places[0].place()), "Sensor"_s);
     QCOMPARE(QString::fromStdString(places[1].place()), "Mainboard"_s);
     QVERIFY(cards[0]->findChild<BigNumber *>()->text().contains("°C"_s));
-    // The camera works since its stream was started: the final value of its sensor is 51 °C.
-    await([&] { return places[0].report().forecast.has_value(); });
-    const Forecast found = *places[0].report().forecast;
-    const double distance = std::abs(found.end - 51);
-    QVERIFY2(distance < 3 * found.endError + 0.1,
-        qPrintable("%1 with an error of %2"_s.arg(found.end).arg(found.endError)));
+    // The camera works since its stream was started: the final value of its sensor is 51 °C. Readings from
+    // before and around the start may first lead to another value.
+    await([&] {
+        const std::optional<Forecast> found = places[0].report().forecast;
+        return found && std::abs(found->end - 51) < 3 * found->endError + 0.1;
+    });
     QVERIFY(control<QLabel>(thermal, "forecast"_s)->text().startsWith("Expected final value: "_s));
     std::string selected;
     thermal.call(
