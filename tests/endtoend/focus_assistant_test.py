@@ -6,7 +6,7 @@ import os
 import sys
 import tempfile
 
-from launcher import BOUND, Launcher, keep_to_this_machine, wait_for
+from launcher import BOUND, Launcher, keep_to_this_machine, soon, wait_for
 from simulator import SimulatorConfiguration
 from tool import start_for
 
@@ -21,6 +21,13 @@ def use_small_camera(configuration):
     content["interfaces"][0]["devices"] = [
         {"id": "SIM-1", "vendor": "KORDANE", "model": "HXT-15110M-CXP", "serial": "1", "sensorWidth": 480, "sensorHeight": 384}]
     configuration.write(content)
+
+
+def search(assistant):
+    """Clicks the button of the search. Returns whether the search has started: the live numbers may move the button away
+    from the pointer."""
+    assistant.click("Search automatically")
+    return soon(lambda: assistant.shows(lambda text: text == "Cancel"), 5)
 
 
 def check(path):
@@ -42,7 +49,7 @@ def main():
             with start_for(launcher, "KORDANE", "Focus Assistant", "FocusAssistant") as assistant:
                 wait_for("the sharpness is measured", lambda: assistant.shows(lambda text: text.startswith("of the peak.")))
                 assistant.activate()
-                assistant.click("Search automatically")
+                wait_for("the search runs", lambda: search(assistant))
                 wait_for("the lens is at the best position",
                          lambda: assistant.shows(lambda text: "The lens is there." in text), 4 * BOUND)
                 assistant.save_result(f"{folder}/result.json")

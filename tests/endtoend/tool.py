@@ -3,6 +3,7 @@
 import os
 import signal
 import subprocess
+import sys
 
 from launcher import TITLE, click, descendants, output_of, read_windows, wait_for, xdotool
 
@@ -36,7 +37,9 @@ class Tool:
     def __enter__(self):
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, failure, *_):
+        if failure:
+            print("The window shows:", self.shows(bool), file=sys.stderr)
         os.kill(int(self.process), signal.SIGTERM)
 
     def widgets(self):
@@ -80,15 +83,15 @@ class Tool:
 
     def save_result(self, path):
         """Saves the result of a measurement, and waits for the report, which is the last file."""
-        def is_open():
-            return self.shows(lambda text: text.replace("&", "") == "Save")
+        def is_active():
+            return any(widget["active"] for widget in self.widgets() if widget["text"].replace("&", "") == "Save")
         self.press("ctrl+s")
-        wait_for("the file dialog is open", is_open)
+        wait_for("the file dialog is active", is_active)
         self.press("ctrl+a")
         self.type(path)
         self.press("Return")
         wait_for("the report is written", lambda: os.path.exists(os.path.splitext(path)[0] + ".html"))
-        wait_for("the file dialog is closed", lambda: not is_open())
+        wait_for("the file dialog is closed", lambda: not is_active())
 
     def screenshot(self):
         """Returns the content of the window as PNG."""
