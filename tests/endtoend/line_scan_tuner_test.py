@@ -30,6 +30,13 @@ def enter(tuner, key, number):
     tuner.press("Tab")
 
 
+def perform(tuner, step):
+    """Performs the present step with the keyboard, as soon as its button can be used."""
+    wait_for(f'"{step}" can be used', lambda: any(widget["enabled"] for widget in tuner.widgets()
+                                                  if widget["text"].replace("&", "") == step))
+    tuner.press("ctrl+Return")
+
+
 def check(path):
     with open(path, encoding="utf-8") as file:
         document = json.load(file)
@@ -56,13 +63,13 @@ def main():
                 enter(tuner, "alt+x", "10")
                 enter(tuner, "alt+g", "1")
                 wait_for("the plan is shown", lambda: tuner.shows(lambda text: text == "10.800 kHz"))
-                tuner.press("ctrl+Return")
+                perform(tuner, "Write the settings")
                 wait_for("the settings are written",
                          lambda: tuner.shows(lambda text: text == "The camera has accepted the settings."))
-                tuner.press("ctrl+Return")
+                perform(tuner, "Measure")
                 wait_for("the circle is too tall",
                          lambda: tuner.shows(lambda text: "too tall: lower the line rate from 10.800 kHz" in text))
-                tuner.press("ctrl+Return")
+                perform(tuner, "Correct the rate")
                 wait_for("the circle is round", lambda: tuner.shows(lambda text: "The circle is round" in text))
                 tuner.save_result(f"{folder}/result.json")
         check(f"{folder}/result.json")
