@@ -45,11 +45,7 @@ def correct(viewer, path):
 def main():
     keep_to_this_machine(STAGE)
     with SimulatorConfiguration(STAGE) as simulator, tempfile.TemporaryDirectory() as folder:
-        content = simulator.read()
-        for interface in content["interfaces"]:
-            interface["devices"] = [{**device, "sensorWidth": WIDTH, "sensorHeight": HEIGHT}
-                                    for device in interface["devices"] if device["serial"] == CAMERA]
-        simulator.write(content)
+        simulator.keep(lambda device: device["serial"] == CAMERA, sensorWidth=WIDTH, sensorHeight=HEIGHT)
         # The panel is shown without scrolling.
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
             with start_for(launcher, "KORDANE", "Flat Field", "FlatField") as tool:

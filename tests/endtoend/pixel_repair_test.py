@@ -37,11 +37,7 @@ def repair(viewer, path):
 def main():
     keep_to_this_machine(STAGE)
     with SimulatorConfiguration(STAGE) as simulator, tempfile.TemporaryDirectory() as folder:
-        content = simulator.read()
-        for interface in content["interfaces"]:
-            interface["devices"] = [{**device, "sensorWidth": WIDTH, "sensorHeight": HEIGHT}
-                                    for device in interface["devices"] if device["serial"] == CAMERA]
-        simulator.write(content)
+        simulator.keep(lambda device: device["serial"] == CAMERA, sensorWidth=WIDTH, sensorHeight=HEIGHT)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
             with start_for(launcher, "KORDANE", "Pixel Repair", "PixelRepair") as tool:
                 # The whole panel is visible.

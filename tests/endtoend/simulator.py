@@ -29,6 +29,13 @@ class SimulatorConfiguration:
             json.dump(content, file)
         os.replace(self.file + ".new", self.file)
 
+    def keep(self, is_kept, **changes):
+        """Keeps the cameras for which is_kept(device) is true, and changes them: cameras with small sensors are quick."""
+        content = self.read()
+        for interface in content["interfaces"]:
+            interface["devices"] = [{**device, **changes} for device in interface["devices"] if is_kept(device)]
+        self.write(content)
+
 
 def rows_of(content):
     """Returns the rows that the table shows for a simulator configuration, in sorted order."""

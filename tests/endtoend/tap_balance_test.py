@@ -13,16 +13,6 @@ from tool import start_for
 STAGE, PLUGINS = sys.argv[1:]
 
 
-def use_camera_with_taps(configuration):
-    """Keeps the camera with four taps, with a small sensor, which is quick."""
-    content = configuration.read()
-    for interface in content["interfaces"]:
-        interface["devices"] = [
-            {**device, "model": "HX-2960M-4Tap", "sensorWidth": 640, "sensorHeight": 320}
-            for device in interface["devices"] if device.get("taps") == 4]
-    configuration.write(content)
-
-
 def place_of(tool, text):
     """Returns the X window and the box of the label or button with this text."""
     return next(((window["xWindow"], window["box"], widget["box"]) for window in read_windows(tool.reader)
@@ -70,7 +60,8 @@ def check(path):
 def main():
     keep_to_this_machine(STAGE)
     with SimulatorConfiguration(STAGE) as configuration, tempfile.TemporaryDirectory() as folder:
-        use_camera_with_taps(configuration)
+        # The camera with four taps is quick with a small sensor.
+        configuration.keep(lambda device: device.get("taps") == 4, model="HX-2960M-4Tap", sensorWidth=640, sensorHeight=320)
         with Launcher(STAGE, PLUGINS, {"QT_FONT_DPI": "96"}) as launcher:
             with start_for(launcher, "KORDANE", "Tap Balance", "TapBalance") as taps:
                 taps.activate()

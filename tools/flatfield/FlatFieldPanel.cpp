@@ -101,8 +101,7 @@ void FlatFieldPanel::createChoices()
     m_images->setAccessibleName(tr("Number of images"));
     m_images->setPrefix(tr("Images: "));
     m_images->setToolTip(tr("Number of dark images and of bright images. More images leave less noise in the "
-                            "correction. Half as many are "
-                            "taken in addition, to check the correction."));
+                            "correction. Half as many are taken in addition, to check the correction."));
     m_setsExposure->setChecked(true);
     m_setsExposure->setToolTip(
         tr("Sets the exposure time so that the bright images have about 70 % of the range, and puts it back "
